@@ -1,0 +1,24 @@
+# The options every target of ours is built with, as the interface target tarvik_options.
+add_library(tarvik_options INTERFACE)
+target_compile_features(tarvik_options INTERFACE cxx_std_20)
+target_include_directories(tarvik_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(tarvik_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
+  -Woverloaded-virtual -Wold-style-cast -Werror)
+
+if(WIN32)
+  # Windows 7 is the oldest system the program starts on. UNICODE settles the names without A or W.
+  target_compile_definitions(tarvik_options INTERFACE
+    UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700)
+  target_compile_options(tarvik_options INTERFACE -fstack-protector-strong)
+  # One file with no DLL beside it, at an address that changes with each start, data never run.
+  target_link_options(tarvik_options INTERFACE
+    -static -Wl,--dynamicbase -Wl,--nxcompat -Wl,--high-entropy-va -Wl,--no-insert-timestamp)
+  target_link_libraries(tarvik_options INTERFACE ssp)
+endif()
+
+if(TARVIK_SANITIZE)
+  target_compile_options(tarvik_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS)
+  target_link_options(tarvik_options INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace tarvik {
+
+// A place in the grid picture, in pixels from its top-left corner.
+struct Point {
+  int x = 0;
+  int y = 0;
+  friend bool operator==(const Point&, const Point&) = default;
+};
+
+// The grid of one icon size: all lengths in pixels.
+struct GridGeometry {
+  std::string_view Caption;  // the choice as the size list shows it
+  int IconSize = 0;          // side of a drawn icon
+  int CellPitch = 0;         // from one icon's corner to the next
+  int FrameExtent = 0;       // a selection frame's side, measured from corner to corner
+  int FirstFrameExtent = 0;  // the far corner of the frame drawn around the first icon right after a search
+  int Columns = 0;           // icons in a row
+  int HighestLimit = 0;      // the most icons a search may be allowed to list
+  int DefaultLimit = 0;      // how many it lists unless the user says otherwise
+};
+
+// The four sizes, in the order of the size list.
+inline constexpr std::array<GridGeometry, 4> gridGeometries{{
+    {"16 x 16", 16, 22, 20, 21, 31, 4000, 400},
+    {"32 x 32", 32, 38, 36, 37, 15, 2400, 300},
+    {"48 x 48", 48, 54, 52, 53, 10, 1800, 150},
+    {"64 x 64", 64, 70, 68, 69, 8, 1200, 100},
+}};
+
+inline constexpr int gridMargin = 3;            // from the picture's edge to the first icon
+inline constexpr int frameMargin = 1;           // from the picture's edge to the first icon's frame
+inline constexpr int viewportHeight = 190;      // inner height of the viewport
+inline constexpr int rowsWithoutScrolling = 5;  // this many rows or fewer do not scroll
+
+// The width that a grid of `geometry` fills, margin included.
+constexpr int GridWidth(const GridGeometry& geometry) {
+  return gridMargin + geometry.Columns * geometry.CellPitch;
+}
+
+// The width of the widest of the four grids.
+constexpr int WidestGrid() {
+  int widest = 0;
+  for (const GridGeometry& geometry : gridGeometries) {
+    if (GridWidth(geometry) > widest) widest = GridWidth(geometry);
+  }
+  return widest;
+}
+
+// How many rows `iconCount` icons take.
+constexpr int GridRows(const GridGeometry& geometry, int iconCount) {
+  return (iconCount + geometry.Columns - 1) / geometry.Columns;
+}
+
+// The picture that holds `iconCount` icons, and how far it scrolls in the viewport.
+struct GridExtent {
+  int height = viewportHeight;
+  bool scrolls = false;
+  int scrollMaximum = 0;
+  friend bool operator==(const GridExtent&, const GridExtent&) = default;
+};
+
+constexpr GridExtent ExtentOf(const GridGeometry& geometry, int iconCount) {
+  const int rows = GridRows(geometry, iconCount);
+  if (rows <= rowsWithoutScrolling) return {};
+  const int height = geometry.CellPitch * rows;
+  return {height, true, height - viewportHeight};
+}
+
+// Where the icon of the entry with the zero-based `index` is drawn.
+constexpr Point IconCorner(const GridGeometry& geometry, int index) {
+  return {gridMargin + index % geometry.Columns * geometry.CellPitch,
+          gridMargin + index / geometry.Columns * geometry.CellPitch};
+}
+
+// Where the frame of that entry has its top-left corner.
+constexpr Point FrameCorner(const GridGeometry& geometry, int index) {
+  return {frameMargin + index % geometry.Columns * geometry.CellPitch,
+          frameMargin + index / geometry.Columns * geometry.CellPitch};
+}
+
+}  // namespace tarvik

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+#include "numbers/Integer16.h"
+
+namespace tarvik {
+
+// The whole number nearest to `value`; a half goes to the even neighbour (2.5 gives 2, 3.5 gives 4).
+double RoundToEven(double value);
+
+// The number that a text stands for: blanks around it, a sign, digits with an optional decimal point, commas
+// between digits and an exponent are allowed, and "&H" starts a hexadecimal one. The decimal mark is a point
+// whatever the locale. Throws TypeMismatchError for any other text, the empty one included, and OverflowError
+// for a number too large for a double.
+double ToNumber(std::string_view text);
+
+// ToNumber, rounded by RoundToEven. Throws OverflowError outside -32768 to 32767.
+Integer16 ToInteger16(std::string_view text);
+
+}  // namespace tarvik

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <exception>
+
+namespace tarvik {
+
+// A run-time error: it stops the handler that it happens in. The handler's boundary shows it to the user
+// and leaves the window usable; nothing else catches it.
+class RuntimeError : public std::exception {};
+
+// A value does not fit the 16-bit number it belongs in.
+class OverflowError : public RuntimeError {
+ public:
+  const char* what() const noexcept override { return "Overflow"; }
+};
+
+// A text that should be a number is none.
+class TypeMismatchError : public RuntimeError {
+ public:
+  const char* what() const noexcept override { return "Type mismatch"; }
+};
+
+}  // namespace tarvik

@@ -1,0 +1,33 @@
+#include "search/IconList.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvik {
+namespace {
+
+char LowerAscii(char character) {
+  return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+}  // namespace
+
+bool IsAnimatedCursorName(std::string_view path) {
+  constexpr std::string_view ending = ".ani";
+  if (path.size() < ending.size()) return false;
+  return std::ranges::equal(path.substr(path.size() - ending.size()), ending, {}, LowerAscii);
+}
+
+void IconList::Clear() {
+  entries_.clear();
+}
+
+void IconList::Add(std::string path, Integer16 index) {
+  entries_.push_back({std::move(path), index, false});
+}
+
+bool IconList::AnySelected() const {
+  return std::ranges::any_of(entries_, &IconListEntry::selected);
+}
+
+}  // namespace tarvik

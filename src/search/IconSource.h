@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "grid/GridGeometry.h"
+
+namespace tarvik {
+
+// Something icons are drawn on: the grid picture, a capture surface, the main window. The platform knows how.
+class DrawSurface {
+ public:
+  virtual ~DrawSurface() = default;
+};
+
+// What of an icon is drawn.
+enum class DrawPart { Mask = 1, Image = 2, Normal = 3 };
+
+// One icon taken out of a file; released with this object.
+class ExtractedIcon {
+ public:
+  virtual ~ExtractedIcon() = default;
+
+  // Draws the icon scaled to `size` by `size` pixels with its corner at `corner`. `step` chooses the picture
+  // of an animated cursor, zero-based, and is 0 for any other icon. False when there is no such step.
+  virtual bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) = 0;
+
+  // The most steps the picture can have: 1 unless its file is an animation. The platform draws any step asked
+  // for of a still picture, so whoever counts steps by drawing them needs this bound.
+  virtual int StepBound() const = 0;
+};
+
+// Where icons come from: the files of the machine, through the shell. Paths are UTF-8.
+class IconSource {
+ public:
+  virtual ~IconSource() = default;
+
+  // How many icons the file holds; 0 for one that holds none or cannot be read.
+  virtual int CountIcons(const std::string& path) = 0;
+
+  // The large icon with that zero-based index, or null where the file yields none.
+  virtual std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) = 0;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarvik {
+
+// The codes of the three languages. Any other text is no language: it matches none of them, and windows then
+// keep their design texts.
+inline constexpr std::string_view english = "ENG";
+inline constexpr std::string_view simplifiedChinese = "CHS";
+inline constexpr std::string_view traditionalChinese = "CHT";
+
+// One text in the three languages, UTF-8. A row that lacks a language does not compile.
+struct Text {
+  std::string_view eng;
+  std::string_view chs;
+  std::string_view cht;
+
+  consteval Text(std::string_view englishText, std::string_view simplifiedText,
+                 std::string_view traditionalText)
+      : eng(englishText), chs(simplifiedText), cht(traditionalText) {}
+};
+
+// The text in the language of `code`, or nothing where the code is none of the three.
+std::optional<std::string_view> Pick(const Text& text, std::string_view code);
+
+// Where the interface language is kept.
+class LanguageStore {
+ public:
+  virtual ~LanguageStore() = default;
+
+  // What a buffer of 260 spaces holds after the value of that name was read into it, its terminating zero
+  // included: spaces alone where there is no such value, and an empty text where the store cannot be opened.
+  virtual std::string ReadBuffer(const std::string& name) = 0;
+};
+
+// The named value without the spaces at its two ends; empty where there is none. The terminating zero of a
+// value that exists is part of it, so a value that exists is never empty.
+std::string ReadLanguageValue(LanguageStore& store, const std::string& name);
+
+// The code that the stored value "Language" gives: "ENG" where there is none, else its first three characters
+// in upper case. Whether there is one is asked of the trimmed value, the characters are taken of the value as
+// it stands: a value with leading blanks matches no language, and that is meant.
+std::string ChooseLanguage(LanguageStore& store);
+
+}  // namespace tarvik
