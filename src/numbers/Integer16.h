@@ -28,8 +28,7 @@ class Integer16 {
 
  private:
   static constexpr std::int16_t Checked(std::int64_t value) {
-    if (value < std::numeric_limits<std::int16_t>::min() ||
-        value > std::numeric_limits<std::int16_t>::max()) {
+    if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max()) {
       throw OverflowError();
     }
     return static_cast<std::int16_t>(value);

@@ -10,8 +10,8 @@ namespace tarvik {
 
 // One found icon: where it lives, and whether the user selected it.
 struct IconListEntry {
-  std::string path;  // the source file, UTF-8
-  Integer16 index;   // zero-based index in that file; for an animated cursor, the zero-based animation step
+  std::string path;       // the source file, UTF-8
+  Integer16 index;        // zero-based index in that file; for an animated cursor, the zero-based animation step
   bool selected = false;  // a selected entry is marked: bold and red in the list, framed in the grid
 
   friend bool operator==(const IconListEntry&, const IconListEntry&) = default;
@@ -38,9 +38,7 @@ class IconList {
   bool AnySelected() const;
 
  private:
-  void SetSelected(int number, bool selected) {
-    entries_.at(static_cast<std::size_t>(number) - 1).selected = selected;
-  }
+  void SetSelected(int number, bool selected) { entries_.at(static_cast<std::size_t>(number) - 1).selected = selected; }
 
   std::vector<IconListEntry> entries_;
 };

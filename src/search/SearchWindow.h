@@ -54,10 +54,9 @@ class SearchWindow {
 
   // Texts. The window decides nothing about them.
   virtual void SetCaption(const std::string& text) = 0;
-  virtual void SetStatusText(const std::string& text) = 0;  // panel 1 of sbMain
-  virtual void SetInfoText(const std::string& text) = 0;    // lblInfo
-  virtual void ShowInformation(
-      const std::string& text) = 0;  // information box with OK, titled "Brindle Tarvik"
+  virtual void SetStatusText(const std::string& text) = 0;    // panel 1 of sbMain
+  virtual void SetInfoText(const std::string& text) = 0;      // lblInfo
+  virtual void ShowInformation(const std::string& text) = 0;  // information box with OK, titled "Brindle Tarvik"
 
   // The icon list's view: its rows changed.
   virtual void ClearListView() = 0;  // no rows, then the three columns anew
@@ -75,7 +74,7 @@ class SearchWindow {
 
   virtual void DoEvents() = 0;                        // serves the waiting messages once
   virtual std::shared_ptr<void> ShowHourglass() = 0;  // puts the former pointer back when released
-  virtual void UpdateSaveMenus() = 0;  // enables save and copy items while the list holds an entry
+  virtual void UpdateSaveMenus() = 0;                 // enables save and copy items while the list holds an entry
 };
 
 }  // namespace tarvik

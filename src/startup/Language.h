@@ -18,8 +18,7 @@ struct Text {
   std::string_view chs;
   std::string_view cht;
 
-  consteval Text(std::string_view englishText, std::string_view simplifiedText,
-                 std::string_view traditionalText)
+  consteval Text(std::string_view englishText, std::string_view simplifiedText, std::string_view traditionalText)
       : eng(englishText), chs(simplifiedText), cht(traditionalText) {}
 };
 

@@ -17,8 +17,7 @@ std::string SettingsPath(const std::string& programPath) {
   return (hasExtension ? programPath.substr(0, dot) : programPath) + ".dat";
 }
 
-Settings::Settings(IniStore& store, std::string programPath)
-    : store_(store), programPath_(std::move(programPath)) {}
+Settings::Settings(IniStore& store, std::string programPath) : store_(store), programPath_(std::move(programPath)) {}
 
 std::string Settings::ReadIniSetting(const std::string& section, const std::string& key,
                                      const std::string& defaultValue, const std::string& file) {

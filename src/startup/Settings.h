@@ -11,8 +11,8 @@ class IniStore {
 
   // The key's value as a buffer of `capacity` bytes takes it, terminating zero included; `defaultValue` where
   // the key is absent.
-  virtual std::string Read(const std::string& section, const std::string& key,
-                           const std::string& defaultValue, int capacity, const std::string& file) = 0;
+  virtual std::string Read(const std::string& section, const std::string& key, const std::string& defaultValue,
+                           int capacity, const std::string& file) = 0;
   // Each of these gives the platform's own result, non-zero on success.
   virtual int Write(const std::string& section, const std::string& key, const std::string& value,
                     const std::string& file) = 0;
@@ -32,8 +32,8 @@ class Settings {
   Settings(IniStore& store, std::string programPath);
 
   // One setting, or `defaultValue` where the key is absent. An empty file name means the program's own file.
-  std::string ReadIniSetting(const std::string& section, const std::string& key,
-                             const std::string& defaultValue, const std::string& file = {});
+  std::string ReadIniSetting(const std::string& section, const std::string& key, const std::string& defaultValue,
+                             const std::string& file = {});
 
   // Writes a setting; with an empty value deletes the key, with an empty key the whole section. An empty file
   // name means the program's own file. Non-zero on success.

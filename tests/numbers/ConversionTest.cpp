@@ -29,8 +29,7 @@ TEST(ToInteger16, ReadsWhatUsersWriteForANumber) {
 }
 
 TEST(ToInteger16, RefusesATextThatIsNoNumber) {
-  for (const std::string text :
-       {"", "  ", "abc", "12x", "--1", "+-1", "inf", "nan", "-", "&H", "1,,0", ",1", "1 2"}) {
+  for (const std::string text : {"", "  ", "abc", "12x", "--1", "+-1", "inf", "nan", "-", "&H", "1,,0", ",1", "1 2"}) {
     EXPECT_THROW(ToInteger16(text), TypeMismatchError) << '"' << text << '"';
   }
 }

@@ -1,0 +1,124 @@
+#pragma once
+
+#include <windows.h>
+
+#include <utility>
+
+namespace tarvik {
+
+// The one owner of a system handle: it alone closes the handle, when it ends or takes another. Move-only.
+// Policy names the handle's Type, the value that means none, and how it is closed.
+template <typename Policy>
+class Owner {
+ public:
+  using Type = typename Policy::Type;
+
+  Owner() = default;
+  explicit Owner(Type handle) : handle_(handle) {}
+  ~Owner() { reset(); }
+
+  Owner(Owner&& other) noexcept : handle_(other.release()) {}
+  Owner& operator=(Owner&& other) noexcept {
+    if (this != &other) reset(other.release());
+    return *this;
+  }
+  Owner(const Owner&) = delete;
+  Owner& operator=(const Owner&) = delete;
+
+  Type get() const { return handle_; }
+  explicit operator bool() const { return handle_ != Policy::None(); }
+
+  // Gives the handle up: the caller closes it.
+  Type release() { return std::exchange(handle_, Policy::None()); }
+  // Closes the handle and takes another, or none.
+  void reset(Type handle = Policy::None()) {
+    const Type former = std::exchange(handle_, handle);
+    if (former != Policy::None()) Policy::Close(former);
+  }
+
+ private:
+  Type handle_ = Policy::None();
+};
+
+template <typename Handle>
+struct GdiObjectPolicy {
+  using Type = Handle;
+  static Type None() { return nullptr; }
+  static void Close(Type handle) { DeleteObject(handle); }
+};
+using BitmapHandle = Owner<GdiObjectPolicy<HBITMAP>>;
+using BrushHandle = Owner<GdiObjectPolicy<HBRUSH>>;
+using FontHandle = Owner<GdiObjectPolicy<HFONT>>;
+using PenHandle = Owner<GdiObjectPolicy<HPEN>>;
+
+struct MemoryDcPolicy {
+  using Type = HDC;
+  static Type None() { return nullptr; }
+  static void Close(Type handle) { DeleteDC(handle); }
+};
+using MemoryDc = Owner<MemoryDcPolicy>;
+
+struct IconPolicy {
+  using Type = HICON;
+  static Type None() { return nullptr; }
+  static void Close(Type handle) { DestroyIcon(handle); }
+};
+using IconHandle = Owner<IconPolicy>;
+
+struct MenuPolicy {
+  using Type = HMENU;
+  static Type None() { return nullptr; }
+  static void Close(Type handle) { DestroyMenu(handle); }
+};
+using MenuHandle = Owner<MenuPolicy>;
+
+struct FilePolicy {
+  using Type = HANDLE;
+  static Type None() { return INVALID_HANDLE_VALUE; }
+  static void Close(Type handle) { CloseHandle(handle); }
+};
+using FileHandle = Owner<FilePolicy>;
+
+struct FindPolicy {
+  using Type = HANDLE;
+  static Type None() { return INVALID_HANDLE_VALUE; }
+  static void Close(Type handle) { FindClose(handle); }
+};
+using FindHandle = Owner<FindPolicy>;
+
+struct RegistryKeyPolicy {
+  using Type = HKEY;
+  static Type None() { return nullptr; }
+  static void Close(Type handle) { RegCloseKey(handle); }
+};
+using RegistryKey = Owner<RegistryKeyPolicy>;
+
+// A window's device context, given back to that window when it ends.
+class WindowDc {
+ public:
+  explicit WindowDc(HWND window) : window_(window), dc_(GetDC(window)) {}
+  ~WindowDc() { ReleaseDC(window_, dc_); }
+  WindowDc(const WindowDc&) = delete;
+  WindowDc& operator=(const WindowDc&) = delete;
+
+  HDC get() const { return dc_; }
+
+ private:
+  HWND window_;
+  HDC dc_;
+};
+
+// An object selected into a device context; the former one is put back when it ends.
+class Selected {
+ public:
+  Selected(HDC dc, HGDIOBJ object) : dc_(dc), former_(SelectObject(dc, object)) {}
+  ~Selected() { SelectObject(dc_, former_); }
+  Selected(const Selected&) = delete;
+  Selected& operator=(const Selected&) = delete;
+
+ private:
+  HDC dc_;
+  HGDIOBJ former_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,90 @@
+#include "platform/Surface.h"
+
+#include <algorithm>
+#include <new>
+#include <utility>
+
+#include "platform/Handles.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int bytesPerPixel = 3;
+
+// A row of a DIB is a whole number of 4-byte words.
+std::size_t RowBytes(int width) {
+  return (static_cast<std::size_t>(width) * bytesPerPixel + 3) / 4 * 4;
+}
+
+}  // namespace
+
+// The DIB section, selected into a device context of its own for as long as both live.
+struct Surface::Section {
+  Section(int width, int height) : dc(CreateCompatibleDC(nullptr)) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;  // top row first
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 24;
+    void* memory = nullptr;
+    bitmap.reset(CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &memory, nullptr, 0));
+    if (!dc || !bitmap) throw std::bad_alloc();
+    bits = static_cast<std::uint8_t*>(memory);
+    former = SelectObject(dc.get(), bitmap.get());
+  }
+  ~Section() { SelectObject(dc.get(), former); }
+  Section(const Section&) = delete;
+  Section& operator=(const Section&) = delete;
+
+  BitmapHandle bitmap;
+  MemoryDc dc;
+  std::uint8_t* bits = nullptr;  // owned by the bitmap
+  HGDIOBJ former = nullptr;
+};
+
+Surface::Surface(int width, int height, Color background)
+    : width_(width), height_(height), section_(std::make_unique<Section>(width, height)) {
+  Clear(background);
+}
+
+Surface::~Surface() = default;
+
+HDC Surface::Dc() const {
+  return section_->dc.get();
+}
+
+HBITMAP Surface::Bitmap() const {
+  return section_->bitmap.get();
+}
+
+Color Surface::Pixel(int x, int y) const {
+  GdiFlush();
+  const std::uint8_t* pixel =
+      section_->bits + RowBytes(width_) * static_cast<std::size_t>(y) + static_cast<std::size_t>(x) * bytesPerPixel;
+  return pixel[2] | Color{pixel[1]} << 8U | Color{pixel[0]} << 16U;
+}
+
+void Surface::Clear(Color color) {
+  GdiFlush();
+  const std::size_t rowBytes = RowBytes(width_);
+  std::uint8_t* const first = section_->bits;
+  for (int x = 0; x < width_; ++x) {
+    std::uint8_t* pixel = first + static_cast<std::size_t>(x) * bytesPerPixel;
+    pixel[0] = BlueOf(color);
+    pixel[1] = GreenOf(color);
+    pixel[2] = RedOf(color);
+  }
+  for (int y = 1; y < height_; ++y) std::copy_n(first, rowBytes, first + rowBytes * static_cast<std::size_t>(y));
+}
+
+void Surface::Resize(int width, int height, Color background) {
+  if (width == width_ && height == height_) return;
+  Surface resized(width, height, background);
+  BitBlt(resized.Dc(), 0, 0, std::min(width, width_), std::min(height, height_), Dc(), 0, 0, SRCCOPY);
+  std::swap(width_, resized.width_);
+  std::swap(height_, resized.height_);
+  std::swap(section_, resized.section_);
+}
+
+}  // namespace tarvik

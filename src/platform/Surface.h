@@ -1,0 +1,48 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstddef>
+#include <memory>
+
+#include "export/PixelView.h"
+#include "search/IconSource.h"
+
+namespace tarvik {
+
+// Anything with a device context that icons can be drawn on.
+class DcSurface : public DrawSurface {
+ public:
+  virtual HDC Dc() const = 0;
+};
+
+// A picture in memory that GDI draws into and the program reads: a 24-bit DIB section, top row first, with its device
+// context. Pixels are read as 0x00BBGGRR straight from memory.
+class Surface final : public DcSurface, public PixelView {
+ public:
+  // Both sides in pixels, 1 or more. Throws std::bad_alloc where the system has no memory for it.
+  Surface(int width, int height, Color background);
+  ~Surface() override;
+  Surface(const Surface&) = delete;
+  Surface& operator=(const Surface&) = delete;
+
+  HDC Dc() const override;
+  HBITMAP Bitmap() const;
+  int Width() const override { return width_; }
+  int Height() const override { return height_; }
+  Color Pixel(int x, int y) const override;
+
+  // Makes every pixel `color`.
+  void Clear(Color color);
+  // Changes the size. What was drawn stays where both sizes hold it; the rest becomes `background`.
+  void Resize(int width, int height, Color background);
+
+ private:
+  struct Section;
+
+  int width_ = 0;
+  int height_ = 0;
+  std::unique_ptr<Section> section_;
+};
+
+}  // namespace tarvik
