@@ -1,0 +1,59 @@
+#include "forms/Application.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "forms/Form.h"
+#include "forms/PictureBox.h"
+
+namespace tarvik {
+
+Application::Application(HINSTANCE instance) : instance_(instance) {
+  const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
+  InitCommonControlsEx(&classes);
+  PictureBox::Register(instance);
+}
+
+void Application::Run() {
+  RunWhile([this] { return !forms_.empty(); });
+}
+
+void Application::RunWhile(const std::function<bool()>& condition) {
+  MSG message;
+  while (condition()) {
+    // Below zero means an error, which only a wrong argument can cause; zero is the quit message.
+    if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    Serve(message);
+  }
+}
+
+void Application::DoEvents() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    Serve(message);
+  }
+}
+
+void Application::Serve(MSG& message) {
+  if (Form* form = FormOf(message.hwnd)) {
+    if (form->PreviewMessage(message) || IsDialogMessageW(form->Window(), &message)) return;
+  }
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+}
+
+Form* Application::FormOf(HWND window) const {
+  const HWND root = window != nullptr ? GetAncestor(window, GA_ROOT) : nullptr;
+  const auto found = std::ranges::find_if(forms_, [root](const Form* form) { return form->Window() == root; });
+  return root != nullptr && found != forms_.end() ? *found : nullptr;
+}
+
+}  // namespace tarvik

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <vector>
+
+#include "numbers/RuntimeError.h"
+
+namespace tarvik {
+
+class Form;
+
+// The program's message loop and the forms that are loaded. One per program, on the user-interface thread.
+class Application {
+ public:
+  explicit Application(HINSTANCE instance);
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
+
+  HINSTANCE Instance() const { return instance_; }
+
+  // Shows a run-time error that stopped a handler of `form`. Set once, before the first form loads.
+  std::function<void(Form& form, const RuntimeError& error)> OnRuntimeError;
+
+  // Serves messages until no form is loaded.
+  void Run();
+  // Serves messages while `condition` holds; waits for the next one.
+  void RunWhile(const std::function<bool()>& condition);
+  // Serves the messages that wait now and returns.
+  void DoEvents();
+
+ private:
+  friend class Form;
+  void Add(Form& form) { forms_.push_back(&form); }
+  void Remove(Form& form) { std::erase(forms_, &form); }
+  void Serve(MSG& message);
+  Form* FormOf(HWND window) const;
+
+  HINSTANCE instance_;
+  std::vector<Form*> forms_;
+};
+
+}  // namespace tarvik

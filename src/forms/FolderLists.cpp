@@ -1,0 +1,199 @@
+#include "forms/FolderLists.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "forms/FolderPath.h"
+#include "platform/Handles.h"
+#include "platform/Text.h"
+
+namespace tarvik {
+namespace {
+
+// Filling a long list without painting each row.
+class WithoutRedraw {
+ public:
+  explicit WithoutRedraw(HWND window) : window_(window) { SendMessageW(window_, WM_SETREDRAW, FALSE, 0); }
+  ~WithoutRedraw() {
+    SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(window_, nullptr, TRUE);
+  }
+  WithoutRedraw(const WithoutRedraw&) = delete;
+  WithoutRedraw& operator=(const WithoutRedraw&) = delete;
+
+ private:
+  HWND window_;
+};
+
+LRESULT Send(HWND window, UINT message, std::size_t wParam = 0, LPARAM lParam = 0) {
+  return SendMessageW(window, message, wParam, lParam);
+}
+
+void AddRow(HWND window, UINT message, const std::string& text) {
+  Send(window, message, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
+}
+
+// A folder's pictogram, drawn in the row's own height: the tab, the body, and for an open folder the raised flap.
+void DrawFolder(HDC dc, RECT place, bool open) {
+  const int unit = std::max(1L, (place.bottom - place.top) / 12);
+  const BrushHandle body(CreateSolidBrush(RGB(255, 214, 102)));
+  const BrushHandle flap(CreateSolidBrush(RGB(255, 238, 180)));
+  const PenHandle outline(CreatePen(PS_SOLID, 1, RGB(150, 110, 20)));
+  const Selected pen(dc, outline.get());
+  const Selected brush(dc, body.get());
+  const int left = place.left + unit;
+  const int right = place.left + 13 * unit;
+  const int top = place.top + 2 * unit;
+  const int bottom = place.bottom - 2 * unit;
+  const POINT outlinePoints[] = {{left, bottom},
+                                 {left, top},
+                                 {left + 4 * unit, top},
+                                 {left + 5 * unit, top + unit},
+                                 {right - 2 * unit, top + unit},
+                                 {right - 2 * unit, bottom}};
+  Polygon(dc, outlinePoints, static_cast<int>(std::size(outlinePoints)));
+  if (!open) return;
+  const Selected light(dc, flap.get());
+  const POINT flapPoints[] = {
+      {left, bottom}, {left + 3 * unit, top + 4 * unit}, {right, top + 4 * unit}, {right - 2 * unit, bottom}};
+  Polygon(dc, flapPoints, static_cast<int>(std::size(flapPoints)));
+}
+
+}  // namespace
+
+void DriveListBox::Attach(HWND comboBox, std::function<std::vector<Drive>()> list) {
+  window_ = comboBox;
+  list_ = std::move(list);
+  Refresh();
+}
+
+std::string DriveListBox::Root() const {
+  const LRESULT chosen = Send(window_, CB_GETCURSEL);
+  if (chosen == CB_ERR) return {};
+  return std::string(1, letters_[static_cast<std::size_t>(chosen)]) + ":\\";
+}
+
+void DriveListBox::ChooseDriveOf(const std::string& path) {
+  const auto letter = path.size() >= 2 && path[1] == ':' ? letters_.find(path[0]) : std::string::npos;
+  Send(window_, CB_SETCURSEL, letter);  // npos is -1, which means no choice
+}
+
+void DriveListBox::Refresh() {
+  const std::string chosen = Root();
+  Send(window_, CB_RESETCONTENT);
+  letters_.clear();
+  for (const Drive& drive : list_()) {
+    letters_ += drive.letter;
+    const auto lower = static_cast<char>(drive.letter - 'A' + 'a');
+    AddRow(window_, CB_ADDSTRING, std::string(1, lower) + ":" + (drive.label.empty() ? "" : " [" + drive.label + "]"));
+  }
+  ChooseDriveOf(chosen);
+}
+
+void DirListBox::Attach(HWND listBox, ListFolders list, std::function<void()> change) {
+  window_ = listBox;
+  list_ = std::move(list);
+  change_ = std::move(change);
+  SetWindowSubclass(window_, Procedure, 0, 0);
+}
+
+void DirListBox::SetPath(const std::string& folder) {
+  if (folder == path_) return;
+  path_ = folder;
+  if (!held_) Refresh();
+  change_();
+}
+
+void DirListBox::Refresh() {
+  shown_ = FolderChain(path_);
+  current_ = static_cast<int>(shown_.size()) - 1;
+  for (std::string& folder : list_(path_)) shown_.push_back(std::move(folder));
+  shownPath_ = path_;
+
+  const WithoutRedraw guard(window_);
+  Send(window_, LB_RESETCONTENT);
+  for (const std::string& folder : shown_) AddRow(window_, LB_ADDSTRING, FolderName(folder));
+  Send(window_, LB_SETCURSEL, static_cast<std::size_t>(current_));
+  // The ancestors above and as many sub-folders as fit below.
+  Send(window_, LB_SETTOPINDEX, static_cast<std::size_t>(std::max(0, current_ - 2)));
+}
+
+void DirListBox::Hold(bool held) {
+  held_ = held;
+  if (!held_ && shownPath_ != path_) Refresh();
+}
+
+void DirListBox::OpenChosen() {
+  const LRESULT chosen = Send(window_, LB_GETCURSEL);
+  if (chosen == LB_ERR || static_cast<std::size_t>(chosen) >= shown_.size()) return;
+  SetPath(std::string(shown_[static_cast<std::size_t>(chosen)]));
+}
+
+void DirListBox::Draw(const DRAWITEMSTRUCT& item) const {
+  const bool chosen = (item.itemState & ODS_SELECTED) != 0;
+  FillRect(item.hDC, &item.rcItem, GetSysColorBrush(chosen ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  const int row = static_cast<int>(item.itemID);
+  if (row >= 0 && static_cast<std::size_t>(row) < shown_.size()) {
+    const int height = item.rcItem.bottom - item.rcItem.top;
+    RECT place = item.rcItem;
+    place.left += std::min(row, current_ + 1) * height / 2;
+    DrawFolder(item.hDC, place, row <= current_);
+    place.left += height * 5 / 4;
+    SetBkMode(item.hDC, TRANSPARENT);
+    SetTextColor(item.hDC, GetSysColor(chosen ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    DrawTextW(item.hDC, ToWide(FolderName(shown_[static_cast<std::size_t>(row)])).c_str(), -1, &place,
+              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+  }
+  if ((item.itemState & ODS_FOCUS) != 0) DrawFocusRect(item.hDC, &item.rcItem);
+}
+
+LRESULT CALLBACK DirListBox::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                                       DWORD_PTR /*data*/) {
+  // Enter opens a folder; the window's default button must not take it.
+  const bool asksForEnter = message == WM_GETDLGCODE && lParam != 0 &&
+                            reinterpret_cast<const MSG*>(lParam)->message == WM_KEYDOWN && wParam == VK_RETURN;
+  if (asksForEnter) return DLGC_WANTMESSAGE;
+  if (message == WM_KEYDOWN && wParam == VK_RETURN) {
+    // As a double click, so that the form's handler boundary stands around it.
+    SendMessageW(GetParent(window), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(window), LBN_DBLCLK),
+                 reinterpret_cast<LPARAM>(window));
+    return 0;
+  }
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, Procedure, 0);
+  return DefSubclassProc(window, message, wParam, lParam);
+}
+
+void FileListBox::Attach(HWND listBox, ListFiles list) {
+  window_ = listBox;
+  list_ = std::move(list);
+}
+
+void FileListBox::SetPath(const std::string& folder) {
+  path_ = folder;
+  Update();
+}
+
+void FileListBox::SetPattern(const std::string& pattern) {
+  pattern_ = pattern;
+  Update();
+}
+
+void FileListBox::Hold(bool held) {
+  held_ = held;
+  Update();
+}
+
+void FileListBox::Update() {
+  if (!held_ && (shownPath_ != path_ || shownPattern_ != pattern_)) Refresh();
+}
+
+void FileListBox::Refresh() {
+  shownPath_ = path_;
+  shownPattern_ = pattern_;
+  const WithoutRedraw guard(window_);
+  Send(window_, LB_RESETCONTENT);
+  for (const std::string& name : Names()) AddRow(window_, LB_ADDSTRING, name);
+}
+
+}  // namespace tarvik

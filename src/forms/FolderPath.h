@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarvik {
+
+// Folder paths as folder lists show them: UTF-8, "\" between names, none at the end but a drive root's ("C:\").
+
+// The path in that form: drive letter in upper case, "/" turned into "\", a trailing "\" kept at a drive root alone.
+std::string TidyFolderPath(std::string_view path);
+
+// The folders from the root down to `path`, itself included: "C:\", "C:\a", "C:\a\b".
+std::vector<std::string> FolderChain(const std::string& path);
+
+// The last name of a path, or the path where it is a root.
+std::string FolderName(const std::string& path);
+
+// A folder's or file's path in `folder`: no second "\" behind a root.
+std::string JoinPath(std::string_view folder, std::string_view name);
+
+}  // namespace tarvik

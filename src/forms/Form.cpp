@@ -1,0 +1,204 @@
+#include "forms/Form.h"
+
+#include <utility>
+
+#include "forms/MousePointer.h"
+#include "platform/Text.h"
+#include "resource.h"
+
+namespace tarvik {
+
+Form::Form(Application& application, int dialogId, int menuId)
+    : application_(application), dialogId_(dialogId), menuId_(menuId) {}
+
+Form::~Form() {
+  // A form that ends while loaded does not run Form_Unload: its derived part is gone by now.
+  if (IsLoaded()) Close();
+}
+
+void Form::Load(HWND owner) {
+  if (IsLoaded()) return;
+  CreateDialogParamW(application_.Instance(), MAKEINTRESOURCEW(dialogId_), owner, DialogProcedure,
+                     reinterpret_cast<LPARAM>(this));
+}
+
+void Form::Show(HWND owner) {
+  Load(owner);
+  ShowWindow(window_, SW_SHOW);
+  SetForegroundWindow(window_);
+}
+
+void Form::ShowModal(HWND owner) {
+  Load(owner);
+  modalOwner_ = owner;
+  EnableWindow(owner, FALSE);
+  Show(owner);
+  application_.RunWhile([this] { return IsLoaded() && IsWindowVisible(window_); });
+  if (modalOwner_ != nullptr) Hide();
+}
+
+void Form::Hide() {
+  // The owner is enabled first; otherwise the system would activate another program's window.
+  if (modalOwner_ != nullptr) EnableWindow(std::exchange(modalOwner_, nullptr), TRUE);
+  ShowWindow(window_, SW_HIDE);
+}
+
+void Form::Unload() {
+  if (!IsLoaded()) return;
+  Form_Unload();
+  Close();
+}
+
+void Form::Close() {
+  Hide();
+  application_.Remove(*this);
+  const HWND window = std::exchange(window_, nullptr);
+  SetWindowLongPtrW(window, DWLP_USER, 0);
+  DestroyWindow(window);
+}
+
+HWND Form::Item(int id) const {
+  return GetDlgItem(window_, id);
+}
+
+void Form::SetCaption(std::string_view text) {
+  SetWindowTextW(window_, ToWide(text).c_str());
+}
+
+void Form::SetItemText(int id, std::string_view text) {
+  if (const HWND item = Item(id)) {
+    SetWindowTextW(item, ToWide(text).c_str());
+  } else {
+    menu_.SetText(id, text);
+  }
+}
+
+std::string Form::ItemText(int id) const {
+  const HWND item = Item(id);
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(item, text.data(), static_cast<int>(text.size()))));
+  return ToUtf8(text);
+}
+
+void Form::EnableItem(int id, bool enabled) {
+  if (const HWND item = Item(id)) {
+    // A disabled window that has the focus would swallow every key, access keys too.
+    if (!enabled && GetFocus() == item) SendMessageW(window_, WM_NEXTDLGCTL, 0, FALSE);
+    EnableWindow(item, enabled ? TRUE : FALSE);
+  } else {
+    menu_.Enable(id, enabled);
+  }
+}
+
+void Form::ShowItem(int id, bool shown) {
+  ShowWindow(Item(id), shown ? SW_SHOW : SW_HIDE);
+}
+
+bool Form::IsChecked(int id) const {
+  return IsDlgButtonChecked(window_, id) == BST_CHECKED;
+}
+
+void Form::SetChecked(int id, bool checked) {
+  if (Item(id) != nullptr) {
+    CheckDlgButton(window_, id, checked ? BST_CHECKED : BST_UNCHECKED);
+  } else {
+    menu_.SetChecked(id, checked);
+  }
+}
+
+bool Form::PreviewMessage(const MSG& /*message*/) {
+  return false;
+}
+bool Form::OnCommand(int /*id*/, int /*code*/) {
+  return false;
+}
+void Form::OnScroll(HWND /*scrollBar*/, int /*request*/) {}
+void Form::OnTimer(UINT_PTR /*id*/) {}
+LRESULT Form::OnNotify(NMHDR& /*header*/) {
+  return 0;
+}
+void Form::OnPicture(const PictureEvent& /*event*/) {}
+void Form::OnDrawItem(const DRAWITEMSTRUCT& /*item*/) {}
+
+INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) SetWindowLongPtrW(window, DWLP_USER, lParam);
+  auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, DWLP_USER));
+  if (form == nullptr) return FALSE;
+  try {
+    if (message == WM_INITDIALOG) {
+      form->Initialise(window);
+      return TRUE;
+    }
+    return form->Handle(message, wParam, lParam);
+  } catch (const RuntimeError& error) {
+    form->application_.OnRuntimeError(*form, error);
+    return TRUE;
+  }
+}
+
+void Form::Initialise(HWND window) {
+  window_ = window;
+  application_.Add(*this);
+  for (const int size : {ICON_BIG, ICON_SMALL}) {
+    const int side = GetSystemMetrics(size == ICON_BIG ? SM_CXICON : SM_CXSMICON);
+    const HANDLE icon =
+        LoadImageW(application_.Instance(), MAKEINTRESOURCEW(Icon_Program), IMAGE_ICON, side, side, LR_SHARED);
+    SendMessageW(window, WM_SETICON, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(icon));
+  }
+  if (menuId_ != 0) menu_.Attach(window, application_.Instance(), menuId_);
+  Form_Load();
+}
+
+INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      return OnCommand(LOWORD(wParam), HIWORD(wParam)) ? TRUE : FALSE;
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+      OnScroll(reinterpret_cast<HWND>(lParam), LOWORD(wParam));
+      return TRUE;
+    case WM_TIMER:
+      OnTimer(wParam);
+      return TRUE;
+    case WM_NOTIFY:
+      return Answer(OnNotify(*reinterpret_cast<NMHDR*>(lParam)));
+    case PictureBox::EventMessage:
+      OnPicture(*reinterpret_cast<const PictureEvent*>(lParam));
+      return TRUE;
+    case WM_DRAWITEM:
+      OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+      return TRUE;
+    case WM_SETCURSOR:
+      return Hourglass::Maintain() ? Answer(TRUE) : FALSE;
+    case WM_PAINT:
+      return Paint();
+    case WM_SIZE:
+      Form_Resize();
+      return FALSE;
+    case WM_CLOSE:
+      if (Form_QueryUnload()) Unload();
+      return TRUE;
+    case WM_QUERYENDSESSION:
+      return Answer(Form_QueryUnload() ? TRUE : FALSE);
+    case WM_ENDSESSION:
+      if (wParam != 0) Unload();
+      return TRUE;
+    default:
+      return FALSE;
+  }
+}
+
+INT_PTR Form::Answer(LRESULT result) {
+  if (IsLoaded()) SetWindowLongPtrW(window_, DWLP_MSGRESULT, result);
+  return TRUE;
+}
+
+INT_PTR Form::Paint() {
+  PAINTSTRUCT paint;
+  const HDC dc = BeginPaint(window_, &paint);
+  Form_Paint(dc);
+  EndPaint(window_, &paint);
+  return TRUE;
+}
+
+}  // namespace tarvik

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <windows.h>
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include "forms/Application.h"
+#include "forms/Menu.h"
+#include "forms/PictureBox.h"
+
+namespace tarvik {
+
+// One row of a window's wiring: which notification of which control, or of which run of controls with consecutive
+// ids, goes to which handler. A menu item's notification code is 0, as a button's click is.
+template <typename Window>
+struct Event {
+  int firstId;
+  int lastId;
+  int code;
+  void (*handler)(Window& window, int index);  // index counts from firstId
+};
+
+namespace detail {
+template <typename>
+struct OwnerOf;
+template <typename Window, typename Result, typename... Arguments>
+struct OwnerOf<Result (Window::*)(Arguments...)> {
+  using Type = Window;
+};
+}  // namespace detail
+
+// A member function as an event's handler; one that takes an int gets the index.
+template <auto Method>
+void Call(typename detail::OwnerOf<decltype(Method)>::Type& window, int index) {
+  if constexpr (std::is_invocable_v<decltype(Method), decltype(window), int>) {
+    (window.*Method)(index);
+  } else {
+    (window.*Method)();
+  }
+}
+
+// A window made from a dialog template. It is loaded (the window exists, hidden, and Form_Load has run), shown modeless
+// or modal, hidden, and unloaded. A run-time error thrown by a handler is shown by the application and leaves the
+// window as it is.
+class Form {
+ public:
+  Form(Application& application, int dialogId, int menuId = 0);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  // Makes the window, hidden, owned by `owner` or by none, and runs Form_Load. Does nothing where it is loaded.
+  void Load(HWND owner = nullptr);
+  // Loads the form where it is not loaded, and shows it.
+  void Show(HWND owner = nullptr);
+  // The same, and serves messages until the form is hidden or unloaded; the owner takes no input meanwhile.
+  void ShowModal(HWND owner);
+  void Hide();
+  // Runs Form_Unload and destroys the window. Does nothing where it is not loaded.
+  void Unload();
+
+  bool IsLoaded() const { return window_ != nullptr; }
+  HWND Window() const { return window_; }
+  HWND Item(int id) const;
+  Application& TheApplication() const { return application_; }
+
+  // The window's own caption, UTF-8.
+  void SetCaption(std::string_view text);
+  // The text of the control or menu item with that id, UTF-8.
+  void SetItemText(int id, std::string_view text);
+  std::string ItemText(int id) const;
+  void EnableItem(int id, bool enabled);
+  void ShowItem(int id, bool shown);
+  bool IsChecked(int id) const;
+  void SetChecked(int id, bool checked);
+  Menu& TheMenu() { return menu_; }
+
+  // Called before a message reaches its window; true swallows it.
+  virtual bool PreviewMessage(const MSG& message);
+
+ protected:
+  virtual void Form_Load() {}
+  // Asked before the window closes by its close box, by Alt+F4 or with the session; false refuses.
+  virtual bool Form_QueryUnload() { return true; }
+  virtual void Form_Unload() {}
+  virtual void Form_Resize() {}
+  virtual void Form_Paint(HDC) {}
+
+  // A command of a control or menu item; false where nobody handles it. Forms hand it to Dispatch with their table.
+  virtual bool OnCommand(int id, int code);
+  virtual void OnScroll(HWND scrollBar, int request);
+  virtual void OnTimer(UINT_PTR id);
+  virtual LRESULT OnNotify(NMHDR& header);
+  virtual void OnPicture(const PictureEvent& event);
+  virtual void OnDrawItem(const DRAWITEMSTRUCT& item);
+
+  template <typename Window>
+  static bool Dispatch(Window& window, std::span<const Event<Window>> events, int id, int code) {
+    for (const Event<Window>& event : events) {
+      if (id >= event.firstId && id <= event.lastId && code == event.code) {
+        event.handler(window, id - event.firstId);
+        return true;
+      }
+    }
+    return false;
+  }
+
+ private:
+  static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  INT_PTR Answer(LRESULT result);
+  void Initialise(HWND window);
+  INT_PTR Paint();
+  void Close();
+
+  Application& application_;
+  int dialogId_;
+  int menuId_;
+  HWND window_ = nullptr;
+  HWND modalOwner_ = nullptr;  // the window that takes no input while this one is shown modally
+  Menu menu_;
+};
+
+}  // namespace tarvik

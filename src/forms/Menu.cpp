@@ -1,0 +1,88 @@
+#include "forms/Menu.h"
+
+#include <optional>
+
+#include "platform/Text.h"
+
+namespace tarvik {
+namespace {
+
+// Where an item stands: the system's own look-up by id does not find sub-menus on every Windows.
+struct Place {
+  HMENU menu;
+  UINT position;
+};
+
+std::optional<Place> Find(HMENU menu, int id) {
+  const int count = GetMenuItemCount(menu);
+  for (int position = 0; position < count; ++position) {
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_ID | MIIM_SUBMENU;
+    GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &info);
+    if (static_cast<int>(info.wID) == id) return Place{menu, static_cast<UINT>(position)};
+    if (info.hSubMenu == nullptr) continue;
+    if (const auto found = Find(info.hSubMenu, id)) return found;
+  }
+  return std::nullopt;
+}
+
+MENUITEMINFOW ItemInfo(UINT mask) {
+  MENUITEMINFOW info{};
+  info.cbSize = sizeof info;
+  info.fMask = mask;
+  return info;
+}
+
+}  // namespace
+
+void Menu::Attach(HWND window, HINSTANCE instance, int menuId) {
+  window_ = window;
+  menu_ = LoadMenuW(instance, MAKEINTRESOURCEW(menuId));
+  SetMenu(window, menu_);
+}
+
+void Menu::SetText(int id, std::string_view text) {
+  std::wstring wide = ToWide(text);
+  MENUITEMINFOW info = ItemInfo(MIIM_STRING);
+  info.dwTypeData = wide.data();
+  Change(id, info);
+}
+
+void Menu::Enable(int id, bool enabled) {
+  if (IsEnabled(id) == enabled) return;
+  MENUITEMINFOW info = ItemInfo(MIIM_STATE);
+  info.fState = (State(id) & ~static_cast<UINT>(MFS_DISABLED)) | (enabled ? MFS_ENABLED : MFS_DISABLED);
+  Change(id, info);
+}
+
+bool Menu::IsEnabled(int id) const {
+  return (State(id) & MFS_DISABLED) == 0;
+}
+
+void Menu::SetChecked(int id, bool checked) {
+  MENUITEMINFOW info = ItemInfo(MIIM_STATE);
+  info.fState = (State(id) & ~static_cast<UINT>(MFS_CHECKED)) | (checked ? MFS_CHECKED : MFS_UNCHECKED);
+  Change(id, info);
+}
+
+bool Menu::IsChecked(int id) const {
+  return (State(id) & MFS_CHECKED) != 0;
+}
+
+void Menu::Change(int id, const MENUITEMINFOW& change) {
+  const auto place = Find(menu_, id);
+  if (!place) return;
+  SetMenuItemInfoW(place->menu, place->position, TRUE, &change);
+  if (place->menu == menu_) DrawMenuBar(window_);
+}
+
+UINT Menu::State(int id) const {
+  const auto place = Find(menu_, id);
+  if (!place) return MFS_DISABLED;
+  MENUITEMINFOW info = ItemInfo(MIIM_STATE);
+  GetMenuItemInfoW(place->menu, place->position, TRUE, &info);
+  return info.fState;
+}
+
+}  // namespace tarvik

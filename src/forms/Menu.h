@@ -1,0 +1,29 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string_view>
+
+namespace tarvik {
+
+// A window's menu bar, its items and sub-menus reached by id. The window destroys it.
+class Menu {
+ public:
+  // Loads the menu resource and gives it to the window.
+  void Attach(HWND window, HINSTANCE instance, int menuId);
+
+  void SetText(int id, std::string_view text);  // UTF-8
+  void Enable(int id, bool enabled);
+  bool IsEnabled(int id) const;
+  void SetChecked(int id, bool checked);
+  bool IsChecked(int id) const;
+
+ private:
+  void Change(int id, const MENUITEMINFOW& change);
+  UINT State(int id) const;
+
+  HWND window_ = nullptr;
+  HMENU menu_ = nullptr;
+};
+
+}  // namespace tarvik

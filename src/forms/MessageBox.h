@@ -1,0 +1,19 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string_view>
+
+namespace tarvik {
+
+// The sign a message box carries.
+enum class MessageSign : unsigned {
+  Information = MB_ICONINFORMATION,
+  Exclamation = MB_ICONEXCLAMATION,
+  Critical = MB_ICONHAND
+};
+
+// Shows a message with one OK button and waits for it. Texts are UTF-8; the owner, if any, takes no input meanwhile.
+void ShowMessage(HWND owner, std::string_view text, std::string_view title, MessageSign sign);
+
+}  // namespace tarvik

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <windows.h>
+
+#include "platform/Surface.h"
+
+namespace tarvik {
+
+// What the pointer did on a picture box. Places are in the picture's pixels.
+struct PictureEvent {
+  enum class Kind { MouseDown, MouseUp, MouseMove, DblClick };
+  Kind kind = Kind::MouseMove;
+  int id = 0;      // the picture box's control id
+  int button = 0;  // 1 left, 2 right, 4 middle; on a move, the sum of those held down
+  int shift = 0;   // keyboard-state mask: 1 Shift, 2 Ctrl, 4 Alt
+  int x = 0;
+  int y = 0;
+};
+
+// A child window that shows a picture kept in memory, or its background where it has none. In a dialog template its
+// class is "TarvikPicture". It sends EventMessage to its form, lParam pointing at a PictureEvent.
+class PictureBox {
+ public:
+  static constexpr UINT EventMessage = WM_APP + 1;
+  static constexpr const wchar_t* className = L"TarvikPicture";
+
+  static void Register(HINSTANCE instance);
+
+  PictureBox() = default;
+  explicit PictureBox(HWND window) : window_(window) {}
+
+  // A picture box inside another window, with its top-left corner at (0, 0).
+  static PictureBox Create(HWND parent, int id, int width, int height);
+
+  HWND Window() const { return window_; }
+  // Shows `picture` from now on, with its top-left corner in the window's; null for none. The picture belongs to the
+  // caller and must outlive the window or be replaced.
+  void Show(const Surface* picture);
+  // Repaints from the picture, now.
+  void Refresh();
+
+ private:
+  static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+  HWND window_ = nullptr;
+};
+
+}  // namespace tarvik

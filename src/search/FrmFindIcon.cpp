@@ -1,0 +1,167 @@
+#include "search/FrmFindIcon.h"
+
+#include <windowsx.h>
+
+#include <utility>
+
+#include "forms/FolderPath.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "search/FrmFindIconTexts.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int firstSize = 1;  // "32 x 32"
+constexpr const char* firstPattern = "*.ico";
+
+// The section and keys of the settings file.
+constexpr const char* settingsSection = "FindIcon";
+constexpr const char* folderKey = "Folder";
+constexpr const char* subDirKey = "Subdir";
+
+// A step of an animation is tried out at (50, 50) of the window's own surface, at the grid's icon size.
+constexpr int ownSurfaceSide = 50 + 64;
+
+std::string LowerAscii(std::string text) {
+  for (char& character : text) {
+    if (character >= 'A' && character <= 'Z') character = static_cast<char>(character - 'A' + 'a');
+  }
+  return text;
+}
+
+RECT PlaceOf(HWND form, HWND item) {
+  RECT place;
+  GetWindowRect(item, &place);
+  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+void Move(HWND item, int left, int top, int width, int height) {
+  SetWindowPos(item, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace
+
+FrmFindIcon::FrmFindIcon(Application& application, Services services)
+    : Form(application, Dialog_FrmFindIcon, Menu_FrmFindIcon),
+      services_(std::move(services)),
+      driver_(*this, services_.icons, list_, state_, services_.state.CurrentLanguage),
+      grid_(WidestGrid(), viewportHeight, white),
+      ownSurface_(ownSurfaceSide, ownSurfaceSide, white) {}
+
+void FrmFindIcon::Form_Load() {
+  SetTexts(*this, findIconTexts, services_.state.CurrentLanguage);
+  AttachControls();
+  PlaceGrid();
+
+  EnableItem(FrmFindIcon_CmdOk, false);
+  const HWND sizes = Item(FrmFindIcon_CboIconSize);
+  for (const GridGeometry& geometry : gridGeometries) ComboBox_AddString(sizes, ToWide(geometry.Caption).c_str());
+  ComboBox_SetCurSel(sizes, firstSize);
+  CboIconSize_Click();
+  SetChecked(FrmFindIcon_ChkFileType0, true);
+  file1_.SetPattern(firstPattern);
+  OptView_Click(0);
+  LoadSettings();
+  UpdateSaveMenus();
+}
+
+void FrmFindIcon::AttachControls() {
+  drive1_.Attach(Item(FrmFindIcon_Drive1), services_.drives);
+  dir1_.Attach(
+      Item(FrmFindIcon_Dir1), [this](const std::string& folder) { return services_.folders.SubFolders(folder); },
+      [this] { Dir1_Change(); });
+  file1_.Attach(Item(FrmFindIcon_File1), [this](const std::string& folder, const std::string& pattern) {
+    return services_.folders.Files(folder, pattern);
+  });
+  udMain_.Attach(Item(FrmFindIcon_udMain));
+  vsb_.Attach(Item(FrmFindIcon_Vsb));
+  lv_.Attach(Item(FrmFindIcon_Lv));
+  lv_.CellText = [this](int row, int column) { return CellText(row, column); };
+  lv_.IsMarked = [this](int row) { return list_.Has(row + 1) && list_.Item(row + 1).selected; };
+  picIcons_ = PictureBox::Create(Item(FrmFindIcon_PicFrame), FrmFindIcon_PicIcons, grid_.Width(), grid_.Height());
+  picIcons_.Show(&grid_);
+}
+
+// The viewport is as many pixels wide and high as the grid needs, whatever the size of the dialog's font.
+void FrmFindIcon::PlaceGrid() {
+  const HWND frame = Item(FrmFindIcon_PicFrame);
+  const RECT place = PlaceOf(Window(), frame);
+  const int border = 2 * GetSystemMetrics(SM_CXEDGE);
+  const int width = WidestGrid() + border;
+  const int height = viewportHeight + border;
+  const int barWidth = GetSystemMetrics(SM_CXVSCROLL);
+  Move(frame, place.left, place.top, width, height);
+  Move(vsb_.Window(), place.left + width, place.top, barWidth, height);
+  Move(lv_.Window(), place.left, place.top, width + barWidth, height);
+}
+
+bool FrmFindIcon::Form_QueryUnload() {
+  return !state_.IsSearching;
+}
+
+void FrmFindIcon::Form_Unload() {
+  CloseEnhancedView();
+  SaveSettings();
+}
+
+void FrmFindIcon::LoadSettings() {
+  Settings& settings = services_.settings;
+  std::string folder = TidyFolderPath(settings.ReadIniSetting(settingsSection, folderKey, services_.programFolder));
+  if (!services_.isReadableFolder(folder)) folder = TidyFolderPath(services_.programFolder);
+  dir1_.SetPath(folder);
+  drive1_.ChooseDriveOf(folder);
+  const std::string subDir = settings.ReadIniSetting(settingsSection, subDirKey, "False");
+  SetChecked(FrmFindIcon_chkSubDir, LowerAscii(subDir) == "true");
+}
+
+void FrmFindIcon::SaveSettings() {
+  services_.settings.WriteIniSetting(settingsSection, folderKey, dir1_.Path());
+  services_.settings.WriteIniSetting(settingsSection, subDirKey, chkSubDir() ? "True" : "False");
+}
+
+bool FrmFindIcon::OnCommand(int id, int code) {
+  static constexpr Event<FrmFindIcon> events[] = {
+      {FrmFindIcon_Drive1, FrmFindIcon_Drive1, CBN_SELCHANGE, Call<&FrmFindIcon::Drive1_Change>},
+      {FrmFindIcon_Drive1, FrmFindIcon_Drive1, CBN_DROPDOWN, Call<&FrmFindIcon::Drive1_DropDown>},
+      {FrmFindIcon_Dir1, FrmFindIcon_Dir1, LBN_DBLCLK, Call<&FrmFindIcon::Dir1_DblClick>},
+      {FrmFindIcon_ChkFileType0, FrmFindIcon_ChkFileType6, BN_CLICKED, Call<&FrmFindIcon::ChkFileType_Click>},
+      {FrmFindIcon_CboIconSize, FrmFindIcon_CboIconSize, CBN_SELCHANGE, Call<&FrmFindIcon::CboIconSize_Click>},
+      {FrmFindIcon_CmdFind, FrmFindIcon_CmdFind, BN_CLICKED, Call<&FrmFindIcon::CmdFind_Click>},
+      {FrmFindIcon_CmdOk, FrmFindIcon_CmdOk, BN_CLICKED, Call<&FrmFindIcon::CmdOk_Click>},
+      {FrmFindIcon_CmdClose, FrmFindIcon_CmdClose, BN_CLICKED, Call<&FrmFindIcon::CmdClose_Click>},
+      {FrmFindIcon_OptView0, FrmFindIcon_OptView1, BN_CLICKED, Call<&FrmFindIcon::OptView_Click>},
+      {FrmFindIcon_mnuStart, FrmFindIcon_mnuStart, 0, Call<&FrmFindIcon::mnuStart_Click>},
+      {FrmFindIcon_mnuExit, FrmFindIcon_mnuExit, 0, Call<&FrmFindIcon::mnuExit_Click>},
+      {FrmFindIcon_mnuViewopt0, FrmFindIcon_mnuViewopt1, 0, Call<&FrmFindIcon::mnuViewopt_Click>},
+  };
+  return Dispatch<FrmFindIcon>(*this, events, id, code);
+}
+
+void FrmFindIcon::OnScroll(HWND scrollBar, int request) {
+  if (scrollBar == udMain_.Window() && udMain_.Scroll(request)) udMain_Change();
+  if (scrollBar == vsb_.Window() && vsb_.Scroll(request)) Vsb_Change();
+}
+
+LRESULT FrmFindIcon::OnNotify(NMHDR& header) {
+  if (header.hwndFrom == lv_.Window()) return lv_.Notify(header);
+  return 0;
+}
+
+void FrmFindIcon::OnDrawItem(const DRAWITEMSTRUCT& item) {
+  if (item.CtlID == FrmFindIcon_Dir1) dir1_.Draw(item);
+}
+
+bool FrmFindIcon::PreviewMessage(const MSG& message) {
+  // The wheel turns what lies under the pointer, wherever the focus is.
+  if (message.message != WM_MOUSEWHEEL || IsWindowEnabled(vsb_.Window()) == FALSE) return false;
+  const POINT pointer{GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
+  RECT frame;
+  GetWindowRect(Item(FrmFindIcon_PicFrame), &frame);
+  if (IsWindowVisible(Item(FrmFindIcon_PicFrame)) == FALSE || PtInRect(&frame, pointer) == FALSE) return false;
+  if (vsb_.Step(-GET_WHEEL_DELTA_WPARAM(message.wParam) / WHEEL_DELTA)) Vsb_Change();
+  return true;
+}
+
+}  // namespace tarvik

@@ -1,0 +1,119 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/FolderLists.h"
+#include "forms/Form.h"
+#include "forms/PictureBox.h"
+#include "forms/ReportList.h"
+#include "forms/ScrollBar.h"
+#include "platform/Surface.h"
+#include "search/FolderReader.h"
+#include "search/IconList.h"
+#include "search/IconSource.h"
+#include "search/SearchDriver.h"
+#include "search/SearchWindow.h"
+#include "startup/ProgramState.h"
+#include "startup/Settings.h"
+
+namespace tarvik {
+
+// The main window: search options, the icon grid or the icon list, and the menus from which everything else is reached.
+class FrmFindIcon final : public Form, private SearchWindow {
+ public:
+  // What the window stands on. All of it outlives the window.
+  struct Services {
+    ProgramState& state;
+    Settings& settings;
+    IconSource& icons;
+    FolderReader& folders;
+    std::function<std::vector<DriveListBox::Drive>()> drives;
+    std::function<bool(const std::string& folder)> isReadableFolder;
+    std::string programFolder;
+  };
+
+  FrmFindIcon(Application& application, Services services);
+
+ private:
+  // Form
+  void Form_Load() override;
+  bool Form_QueryUnload() override;
+  void Form_Unload() override;
+  bool PreviewMessage(const MSG& message) override;
+  bool OnCommand(int id, int code) override;
+  void OnScroll(HWND scrollBar, int request) override;
+  LRESULT OnNotify(NMHDR& header) override;
+  void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+
+  // Handlers
+  void Drive1_Change();
+  void Drive1_DropDown();
+  void Dir1_Change();
+  void Dir1_DblClick();
+  void ChkFileType_Click();
+  void CboIconSize_Click();
+  void udMain_Change();
+  void CmdFind_Click();
+  void mnuStart_Click();
+  void CmdOk_Click();
+  void CmdClose_Click();
+  void mnuExit_Click();
+  void OptView_Click(int index);
+  void mnuViewopt_Click(int index);
+  void Vsb_Change();
+
+  // SearchWindow
+  void CloseEnhancedView() override;
+  void Enable(SearchControl control, bool enabled) override;
+  bool chkSubDir() const override;
+  std::string txtMax() const override;
+  int udMainUpperEnd() const override;
+  std::string Dir1Path() const override;
+  void SetDir1Path(const std::string& folder) override;
+  std::vector<std::string> Dir1SubFolders() override;
+  std::string File1Path() const override;
+  void SetFile1Path(const std::string& folder) override;
+  std::vector<std::string> File1Names() override;
+  void SetCaption(const std::string& text) override;
+  void SetStatusText(const std::string& text) override;
+  void SetInfoText(const std::string& text) override;
+  void ShowInformation(const std::string& text) override;
+  void ClearListView() override;
+  void ListChanged() override;
+  void ClearGrid() override;
+  void SizeGrid(const GridExtent& extent) override;
+  void ScrollGridToTop() override;
+  DrawSurface& Grid() override;
+  DrawSurface& OwnSurface() override;
+  void DrawFrame(Point corner, Point farCorner, bool shown) override;
+  void KeepGridPicture() override;
+  void DoEvents() override;
+  std::shared_ptr<void> ShowHourglass() override;
+  void UpdateSaveMenus() override;
+
+  void AttachControls();
+  void PlaceGrid();
+  void LoadSettings();
+  void SaveSettings();
+  std::string CellText(int row, int column) const;
+
+  Services services_;
+  SearchState state_;
+  IconList list_;
+  SearchDriver driver_;
+
+  DriveListBox drive1_;
+  DirListBox dir1_;
+  FileListBox file1_;
+  ScrollBar udMain_;
+  ScrollBar vsb_;
+  ReportList lv_;
+  PictureBox picIcons_;
+  Surface grid_;
+  Surface ownSurface_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,129 @@
+// The main window's search options and buttons.
+
+#include <windowsx.h>
+
+#include <array>
+#include <string>
+
+#include "forms/MessageBox.h"
+#include "forms/MousePointer.h"
+#include "numbers/Conversion.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "search/FilePattern.h"
+#include "search/FrmFindIcon.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int fileTypeCount = 7;
+constexpr int allFiles = 6;  // the check box that stands for every file type
+
+// The limit's spinner: from 1 up to the highest limit of the chosen size.
+constexpr int lowestLimit = 1;
+constexpr int limitStep = 10;
+constexpr int limitPage = 100;
+
+constexpr Text driveNotReady{"Driver Not Ready!", "路径无效!", "路徑無效!"};
+
+}  // namespace
+
+void FrmFindIcon::Drive1_DropDown() {
+  drive1_.Refresh();
+}
+
+void FrmFindIcon::Drive1_Change() {
+  if (state_.IsSearching) return drive1_.ChooseDriveOf(dir1_.Path());  // the walk owns the folder lists
+  ShowItem(FrmFindIcon_Dir1, true);
+  ShowItem(FrmFindIcon_File1, true);
+  const std::string root = drive1_.Root();
+  if (!services_.isReadableFolder(root)) {
+    const auto text = Pick(driveNotReady, services_.state.CurrentLanguage);
+    if (text) ShowMessage(Window(), *text, productTitle, MessageSign::Information);
+    return;
+  }
+  dir1_.SetPath(root);
+  file1_.SetPath(dir1_.Path());
+}
+
+void FrmFindIcon::Dir1_Change() {
+  file1_.SetPath(dir1_.Path());
+}
+
+void FrmFindIcon::Dir1_DblClick() {
+  if (!state_.IsSearching) dir1_.OpenChosen();
+}
+
+void FrmFindIcon::ChkFileType_Click() {
+  if (IsChecked(FrmFindIcon_ChkFileType0 + allFiles)) {
+    for (int index = 0; index < allFiles; ++index) SetChecked(FrmFindIcon_ChkFileType0 + index, true);
+  }
+  std::array<bool, fileTypeCount> checked{};
+  for (int index = 0; index < fileTypeCount; ++index) {
+    checked.at(static_cast<std::size_t>(index)) = IsChecked(FrmFindIcon_ChkFileType0 + index);
+  }
+  file1_.SetPattern(BuildPattern(checked));
+}
+
+void FrmFindIcon::CboIconSize_Click() {
+  const int chosen = ComboBox_GetCurSel(Item(FrmFindIcon_CboIconSize));
+  if (chosen < 0) return;
+  state_.Geometry = gridGeometries.at(static_cast<std::size_t>(chosen));
+  services_.state.Magnification = (services_.state.MagnifiedSide - 1) / state_.Geometry.IconSize;
+  udMain_.SetRange({0, state_.Geometry.HighestLimit - lowestLimit, limitStep, limitPage});
+  // The upper end is the bar's upper end, so that the up arrow raises the limit.
+  udMain_.SetValue(state_.Geometry.HighestLimit - state_.Geometry.DefaultLimit);
+  SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.DefaultLimit));
+}
+
+void FrmFindIcon::udMain_Change() {
+  SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.HighestLimit - udMain_.Value()));
+}
+
+void FrmFindIcon::CmdFind_Click() {
+  if (state_.IsSearching) return;
+  // The walk moves both lists through every folder; they show again where it ends.
+  const FolderListsHeld held(dir1_, file1_);
+  driver_.CmdFind_Click();
+}
+
+void FrmFindIcon::mnuStart_Click() {
+  CmdFind_Click();
+}
+
+void FrmFindIcon::CmdOk_Click() {
+  const IconListEntry& entry = list_.Item(state_.CurrentIndex + 1);
+  services_.state.ChosenIconPath = entry.path;
+  services_.state.ChosenIconIndex = entry.index;
+  services_.state.ChoiceCancelled = false;
+  Unload();
+}
+
+void FrmFindIcon::CmdClose_Click() {
+  if (Form_QueryUnload()) Unload();
+}
+
+void FrmFindIcon::mnuExit_Click() {
+  CmdClose_Click();
+}
+
+void FrmFindIcon::OptView_Click(int index) {
+  const bool list = index == 1;
+  SetChecked(FrmFindIcon_OptView0, !list);
+  SetChecked(FrmFindIcon_OptView1, list);
+  SetChecked(FrmFindIcon_mnuViewopt0, !list);
+  SetChecked(FrmFindIcon_mnuViewopt1, list);
+  ShowItem(FrmFindIcon_PicFrame, !list);
+  ShowItem(FrmFindIcon_Vsb, !list);
+  ShowItem(FrmFindIcon_Lv, list);
+}
+
+void FrmFindIcon::mnuViewopt_Click(int index) {
+  OptView_Click(index);
+}
+
+void FrmFindIcon::Vsb_Change() {
+  SetWindowPos(picIcons_.Window(), nullptr, 0, -vsb_.Value(), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,171 @@
+// The main window as a search sees it.
+
+#include <windowsx.h>
+
+#include <commctrl.h>
+
+#include <array>
+#include <string>
+
+#include "forms/MessageBox.h"
+#include "forms/MousePointer.h"
+#include "platform/Handles.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "search/FrmFindIcon.h"
+
+namespace tarvik {
+namespace {
+
+// The list's columns; their titles are the same in every language.
+constexpr ReportList::Column columns[] = {{"序号", 40}, {"文件路径", 460}, {"图标索引", 80}};
+
+// What needs an entry to act on.
+constexpr int entryItems[] = {FrmFindIcon_mnuSaveAs};
+
+int IdOf(SearchControl control) {
+  switch (control) {
+    case SearchControl::CmdFind:
+      return FrmFindIcon_CmdFind;
+    case SearchControl::CmdOk:
+      return FrmFindIcon_CmdOk;
+    case SearchControl::CmdClose:
+      return FrmFindIcon_CmdClose;
+    case SearchControl::mnuFile:
+      return FrmFindIcon_mnuFile;
+    case SearchControl::mnuEdit:
+      return FrmFindIcon_mnuEdit;
+  }
+  return 0;
+}
+
+}  // namespace
+
+void FrmFindIcon::CloseEnhancedView() {}
+
+void FrmFindIcon::Enable(SearchControl control, bool enabled) {
+  EnableItem(IdOf(control), enabled);
+}
+
+bool FrmFindIcon::chkSubDir() const {
+  return IsChecked(FrmFindIcon_chkSubDir);
+}
+
+std::string FrmFindIcon::txtMax() const {
+  return ItemText(FrmFindIcon_txtMax);
+}
+
+int FrmFindIcon::udMainUpperEnd() const {
+  return state_.Geometry.HighestLimit;
+}
+
+std::string FrmFindIcon::Dir1Path() const {
+  return dir1_.Path();
+}
+
+void FrmFindIcon::SetDir1Path(const std::string& folder) {
+  dir1_.SetPath(folder);
+}
+
+std::vector<std::string> FrmFindIcon::Dir1SubFolders() {
+  return dir1_.SubFolders();
+}
+
+std::string FrmFindIcon::File1Path() const {
+  return file1_.Path();
+}
+
+void FrmFindIcon::SetFile1Path(const std::string& folder) {
+  file1_.SetPath(folder);
+}
+
+std::vector<std::string> FrmFindIcon::File1Names() {
+  return file1_.Names();
+}
+
+void FrmFindIcon::SetCaption(const std::string& text) {
+  Form::SetCaption(text);
+}
+
+void FrmFindIcon::SetStatusText(const std::string& text) {
+  SendMessageW(Item(FrmFindIcon_sbMain), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
+}
+
+void FrmFindIcon::SetInfoText(const std::string& text) {
+  SetItemText(FrmFindIcon_lblInfo, text);
+}
+
+void FrmFindIcon::ShowInformation(const std::string& text) {
+  ShowMessage(Window(), text, productTitle, MessageSign::Information);
+}
+
+void FrmFindIcon::ClearListView() {
+  lv_.Clear(columns);
+}
+
+void FrmFindIcon::ListChanged() {
+  lv_.SetRowCount(list_.Count());
+  UpdateSaveMenus();
+}
+
+std::string FrmFindIcon::CellText(int row, int column) const {
+  const int number = row + 1;
+  if (!list_.Has(number)) return {};
+  const IconListEntry& entry = list_.Item(number);
+  const std::array<std::string, std::size(columns)> cells{std::to_string(number), entry.path,
+                                                          std::to_string(entry.index)};
+  return cells.at(static_cast<std::size_t>(column));
+}
+
+void FrmFindIcon::ClearGrid() {
+  grid_.Clear(white);
+  picIcons_.Refresh();
+}
+
+void FrmFindIcon::SizeGrid(const GridExtent& extent) {
+  grid_.Resize(grid_.Width(), extent.height, white);
+  SetWindowPos(picIcons_.Window(), nullptr, 0, 0, grid_.Width(), grid_.Height(),
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  vsb_.SetRange({0, extent.scrollMaximum, state_.Geometry.CellPitch, viewportHeight}, viewportHeight);
+  EnableItem(FrmFindIcon_Vsb, extent.scrolls);
+}
+
+void FrmFindIcon::ScrollGridToTop() {
+  vsb_.SetValue(0);
+  Vsb_Change();
+}
+
+DrawSurface& FrmFindIcon::Grid() {
+  return grid_;
+}
+
+DrawSurface& FrmFindIcon::OwnSurface() {
+  return ownSurface_;
+}
+
+void FrmFindIcon::DrawFrame(Point corner, Point farCorner, bool shown) {
+  const Selected pen(grid_.Dc(), GetStockObject(shown ? BLACK_PEN : WHITE_PEN));
+  const Selected brush(grid_.Dc(), GetStockObject(NULL_BRUSH));
+  // The far corner belongs to the frame; GDI leaves its own last row and column out.
+  Rectangle(grid_.Dc(), corner.x, corner.y, farCorner.x + 1, farCorner.y + 1);
+  const RECT place{corner.x, corner.y, farCorner.x + 1, farCorner.y + 1};
+  InvalidateRect(picIcons_.Window(), &place, FALSE);
+}
+
+void FrmFindIcon::KeepGridPicture() {
+  picIcons_.Refresh();
+}
+
+void FrmFindIcon::DoEvents() {
+  TheApplication().DoEvents();
+}
+
+std::shared_ptr<void> FrmFindIcon::ShowHourglass() {
+  return std::make_shared<Hourglass>();
+}
+
+void FrmFindIcon::UpdateSaveMenus() {
+  for (const int item : entryItems) EnableItem(item, list_.Count() > 0);
+}
+
+}  // namespace tarvik

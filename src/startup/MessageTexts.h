@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "startup/Language.h"
+#include "startup/ProgramState.h"
+
+namespace tarvik {
+
+// What follows the product's name in the title of every failure.
+inline constexpr Text failureSuffix{" - Error", " - 错误", " - 錯誤"};
+
+// Run-time errors.
+inline constexpr Text overflowText{"Overflow", "溢出", "溢位"};
+inline constexpr Text typeMismatchText{"Type mismatch", "类型不匹配", "型態不符合"};
+
+// The title of a failure's message box in the language of `code`; the product's name alone for any other code.
+inline std::string FailureTitle(std::string_view code) {
+  return std::string(productTitle).append(Pick(failureSuffix, code).value_or(""));
+}
+
+}  // namespace tarvik

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "numbers/Integer16.h"
+
+namespace tarvik {
+
+// The values that the whole program shares. Made at start-up, lives for the run, and is handed to every window.
+struct ProgramState {
+  std::string CurrentLanguage;   // "ENG", "CHS" or "CHT"; any other text matches no language
+  Integer16 ScreenBitsPerPixel;  // of the screen as first measured
+  std::string Shell32Path;       // the shell library in the system folder
+  std::string TempIconPath;      // a scratch icon file in the user's temporary folder
+  bool ShowAsAbout = false;      // the start-up window opens as an About box; never set back
+
+  // The entry that the main window's OK hands over.
+  std::string ChosenIconPath;
+  Integer16 ChosenIconIndex;
+  bool ChoiceCancelled = true;
+
+  // The magnified picture of the enhanced view and the hot-spot picker.
+  Integer16 MagnifiedSide = 385;  // pixels, one more than the largest icon times its magnification
+  Integer16 Magnification = 12;   // screen pixels an icon pixel
+};
+
+// The product's name: title of the plain message boxes, and the first word of every other title.
+inline constexpr const char* productTitle = "Brindle Tarvik";
+
+}  // namespace tarvik

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string_view>
+
+#include "numbers/RuntimeError.h"
+
+namespace tarvik {
+
+// Tells the user, in the language of `code`, which run-time error stopped a handler. Shows nothing where the code is
+// no language, as every message.
+void ShowRuntimeError(HWND owner, const RuntimeError& error, std::string_view code);
+
+}  // namespace tarvik
