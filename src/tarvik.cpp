@@ -16,6 +16,18 @@
 #include "startup/RunTimeErrorBox.h"
 #include "startup/Settings.h"
 
+namespace tarvik {
+namespace {
+
+std::vector<DriveListBox::Drive> DriveRows() {
+  std::vector<DriveListBox::Drive> rows;
+  for (const Drive& drive : Drives()) rows.push_back({drive.Root(), drive.Display()});
+  return rows;
+}
+
+}  // namespace
+}  // namespace tarvik
+
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*commandLine*/, int /*show*/) {
   using namespace tarvik;
   LoadLibrariesFromSystemFolderOnly();
@@ -33,7 +45,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
   application.OnRuntimeError = [&state](Form& form, const RuntimeError& error) {
     ShowRuntimeError(form.Window(), error, state.CurrentLanguage);
   };
-  FrmFindIcon findIcon(application, {state, settings, icons, folders, Drives, IsReadableFolder, ProgramFolder()});
+  FrmFindIcon findIcon(application, {state, settings, icons, folders, DriveRows, IsReadableFolder, ProgramFolder()});
   findIcon.Show();
   application.Run();
   return 0;

@@ -1,5 +1,7 @@
 #include "forms/Application.h"
 
+#include <windows.h>
+
 #include <commctrl.h>
 
 #include <algorithm>

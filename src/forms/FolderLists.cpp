@@ -1,5 +1,7 @@
 #include "forms/FolderLists.h"
 
+#include <windows.h>
+
 #include <commctrl.h>
 
 #include <algorithm>
@@ -70,25 +72,21 @@ void DriveListBox::Attach(HWND comboBox, std::function<std::vector<Drive>()> lis
 
 std::string DriveListBox::Root() const {
   const LRESULT chosen = Send(window_, CB_GETCURSEL);
-  if (chosen == CB_ERR) return {};
-  return std::string(1, letters_[static_cast<std::size_t>(chosen)]) + ":\\";
+  return chosen == CB_ERR ? std::string() : drives_[static_cast<std::size_t>(chosen)].root;
 }
 
 void DriveListBox::ChooseDriveOf(const std::string& path) {
-  const auto letter = path.size() >= 2 && path[1] == ':' ? letters_.find(path[0]) : std::string::npos;
-  Send(window_, CB_SETCURSEL, letter);  // npos is -1, which means no choice
+  const auto drive = std::ranges::find(drives_, FolderChain(path).front(), &Drive::root);
+  const auto row = drive == drives_.end() ? -1 : drive - drives_.begin();
+  Send(window_, CB_SETCURSEL, static_cast<std::size_t>(row));
 }
 
 void DriveListBox::Refresh() {
   const std::string chosen = Root();
+  drives_ = list_();
   Send(window_, CB_RESETCONTENT);
-  letters_.clear();
-  for (const Drive& drive : list_()) {
-    letters_ += drive.letter;
-    const auto lower = static_cast<char>(drive.letter - 'A' + 'a');
-    AddRow(window_, CB_ADDSTRING, std::string(1, lower) + ":" + (drive.label.empty() ? "" : " [" + drive.label + "]"));
-  }
-  ChooseDriveOf(chosen);
+  for (const Drive& drive : drives_) AddRow(window_, CB_ADDSTRING, drive.text);
+  if (!chosen.empty()) ChooseDriveOf(chosen);
 }
 
 void DirListBox::Attach(HWND listBox, ListFolders list, std::function<void()> change) {

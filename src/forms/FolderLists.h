@@ -15,8 +15,8 @@ namespace tarvik {
 class DriveListBox {
  public:
   struct Drive {
-    char letter;        // upper case
-    std::string label;  // the volume's name; may be empty
+    std::string root;  // "C:\\"
+    std::string text;  // as the list shows it
   };
 
   // `list` reads the drives each time the list opens, so that one that was plugged in is there.
@@ -32,7 +32,7 @@ class DriveListBox {
  private:
   HWND window_ = nullptr;
   std::function<std::vector<Drive>()> list_;
-  std::string letters_;
+  std::vector<Drive> drives_;
 };
 
 // A list of a folder's ancestors, itself and its sub-folders, indented. A double click or Enter opens the chosen one.

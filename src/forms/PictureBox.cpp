@@ -1,5 +1,7 @@
 #include "forms/PictureBox.h"
 
+#include <windows.h>
+
 #include <windowsx.h>
 
 #include <algorithm>

@@ -1,5 +1,7 @@
 #include "search/FrmFindIcon.h"
 
+#include <windows.h>
+
 #include <windowsx.h>
 
 #include <utility>
@@ -14,6 +16,7 @@ namespace {
 
 constexpr int firstSize = 1;  // "32 x 32"
 constexpr const char* firstPattern = "*.ico";
+constexpr const char* firstStatus = "Click the Start button to start search";
 
 // The section and keys of the settings file.
 constexpr const char* settingsSection = "FindIcon";
@@ -62,6 +65,7 @@ void FrmFindIcon::Form_Load() {
   CboIconSize_Click();
   SetChecked(FrmFindIcon_ChkFileType0, true);
   file1_.SetPattern(firstPattern);
+  SetStatusText(firstStatus);
   OptView_Click(0);
   LoadSettings();
   UpdateSaveMenus();

@@ -1,8 +1,9 @@
 // The main window's search options and buttons.
 
+#include <windows.h>
+
 #include <windowsx.h>
 
-#include <array>
 #include <string>
 
 #include "forms/MessageBox.h"
@@ -16,13 +17,12 @@
 namespace tarvik {
 namespace {
 
-constexpr int fileTypeCount = 7;
-constexpr int allFiles = 6;  // the check box that stands for every file type
-
 // The limit's spinner: from 1 up to the highest limit of the chosen size.
 constexpr int lowestLimit = 1;
 constexpr int limitStep = 10;
 constexpr int limitPage = 100;
+
+constexpr int FileTypeId(std::size_t box) { return FrmFindIcon_ChkFileType0 + static_cast<int>(box); }
 
 constexpr Text driveNotReady{"Driver Not Ready!", "路径无效!", "路徑無效!"};
 
@@ -55,14 +55,11 @@ void FrmFindIcon::Dir1_DblClick() {
 }
 
 void FrmFindIcon::ChkFileType_Click() {
-  if (IsChecked(FrmFindIcon_ChkFileType0 + allFiles)) {
-    for (int index = 0; index < allFiles; ++index) SetChecked(FrmFindIcon_ChkFileType0 + index, true);
-  }
-  std::array<bool, fileTypeCount> checked{};
-  for (int index = 0; index < fileTypeCount; ++index) {
-    checked.at(static_cast<std::size_t>(index)) = IsChecked(FrmFindIcon_ChkFileType0 + index);
-  }
-  file1_.SetPattern(BuildPattern(checked));
+  FileTypeChecks checks{};
+  for (std::size_t box = 0; box < checks.size(); ++box) checks.at(box) = IsChecked(FileTypeId(box));
+  checks = WithAllFilesRule(checks);
+  for (std::size_t box = 0; box < checks.size(); ++box) SetChecked(FileTypeId(box), checks.at(box));
+  file1_.SetPattern(BuildPattern(checks));
 }
 
 void FrmFindIcon::CboIconSize_Click() {

@@ -1,6 +1,6 @@
 // The main window as a search sees it.
 
-#include <windowsx.h>
+#include <windows.h>
 
 #include <commctrl.h>
 
