@@ -8,8 +8,7 @@
 
 namespace tarvik {
 
-Form::Form(Application& application, int dialogId, int menuId)
-    : application_(application), dialogId_(dialogId), menuId_(menuId) {}
+Form::Form(Application& application, int dialogId) : application_(application), dialogId_(dialogId) {}
 
 Form::~Form() {
   // A form that ends while loaded does not run Form_Unload: its derived part is gone by now.
@@ -145,7 +144,7 @@ void Form::Initialise(HWND window) {
         LoadImageW(application_.Instance(), MAKEINTRESOURCEW(Icon_Program), IMAGE_ICON, side, side, LR_SHARED);
     SendMessageW(window, WM_SETICON, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(icon));
   }
-  if (menuId_ != 0) menu_.Attach(window, application_.Instance(), menuId_);
+  menu_.Attach(window);
   Form_Load();
 }
 

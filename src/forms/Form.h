@@ -47,7 +47,7 @@ void Call(typename detail::OwnerOf<decltype(Method)>::Type& window, int index) {
 // window as it is.
 class Form {
  public:
-  Form(Application& application, int dialogId, int menuId = 0);
+  Form(Application& application, int dialogId);
   virtual ~Form();
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
@@ -118,7 +118,6 @@ class Form {
 
   Application& application_;
   int dialogId_;
-  int menuId_;
   HWND window_ = nullptr;
   HWND modalOwner_ = nullptr;  // the window that takes no input while this one is shown modally
   Menu menu_;

@@ -36,10 +36,9 @@ MENUITEMINFOW ItemInfo(UINT mask) {
 
 }  // namespace
 
-void Menu::Attach(HWND window, HINSTANCE instance, int menuId) {
+void Menu::Attach(HWND window) {
   window_ = window;
-  menu_ = LoadMenuW(instance, MAKEINTRESOURCEW(menuId));
-  SetMenu(window, menu_);
+  menu_ = GetMenu(window);
 }
 
 void Menu::SetText(int id, std::string_view text) {

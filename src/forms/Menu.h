@@ -9,8 +9,7 @@ namespace tarvik {
 // A window's menu bar, its items and sub-menus reached by id. The window destroys it.
 class Menu {
  public:
-  // Loads the menu resource and gives it to the window.
-  void Attach(HWND window, HINSTANCE instance, int menuId);
+  void Attach(HWND window);
 
   void SetText(int id, std::string_view text);  // UTF-8
   void Enable(int id, bool enabled);

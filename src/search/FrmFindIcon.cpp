@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "forms/FolderPath.h"
+#include "platform/Handles.h"
 #include "platform/Text.h"
 #include "resource.h"
 #include "search/FrmFindIconTexts.h"
@@ -44,10 +45,21 @@ void Move(HWND item, int left, int top, int width, int height) {
   SetWindowPos(item, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// The width of a control's text in its own font, in pixels.
+int TextWidth(HWND item) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(item, text.data(), static_cast<int>(text.size()))));
+  const WindowDc dc(item);
+  const Selected font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(item, WM_GETFONT, 0, 0)));
+  RECT place{};
+  DrawTextW(dc.get(), text.c_str(), -1, &place, DT_CALCRECT | DT_SINGLELINE);
+  return place.right;
+}
+
 }  // namespace
 
 FrmFindIcon::FrmFindIcon(Application& application, Services services)
-    : Form(application, Dialog_FrmFindIcon, Menu_FrmFindIcon),
+    : Form(application, Dialog_FrmFindIcon),
       services_(std::move(services)),
       driver_(*this, services_.icons, list_, state_, services_.state.CurrentLanguage),
       grid_(WidestGrid(), viewportHeight, white),
@@ -56,6 +68,7 @@ FrmFindIcon::FrmFindIcon(Application& application, Services services)
 void FrmFindIcon::Form_Load() {
   SetTexts(*this, findIconTexts, services_.state.CurrentLanguage);
   AttachControls();
+  PlaceLimit();
   PlaceGrid();
 
   EnableItem(FrmFindIcon_CmdOk, false);
@@ -86,6 +99,18 @@ void FrmFindIcon::AttachControls() {
   lv_.IsMarked = [this](int row) { return list_.Has(row + 1) && list_.Item(row + 1).selected; };
   picIcons_ = PictureBox::Create(Item(FrmFindIcon_PicFrame), FrmFindIcon_PicIcons, grid_.Width(), grid_.Height());
   picIcons_.Show(&grid_);
+}
+
+// The limit's box stands right behind its label, and the rest of the row behind the box, in every language.
+void FrmFindIcon::PlaceLimit() {
+  const HWND label = Item(FrmFindIcon_SkinLabel1);
+  const RECT place = PlaceOf(Window(), label);
+  const int space = place.bottom - place.top;
+  const int shift = place.left + TextWidth(label) + space / 2 - PlaceOf(Window(), Item(FrmFindIcon_txtMax)).left;
+  for (const int id : {FrmFindIcon_txtMax, FrmFindIcon_udMain, FrmFindIcon_SkinLabel2}) {
+    const RECT former = PlaceOf(Window(), Item(id));
+    Move(Item(id), former.left + shift, former.top, former.right - former.left, former.bottom - former.top);
+  }
 }
 
 // The viewport is as many pixels wide and high as the grid needs, whatever the size of the dialog's font.

@@ -95,6 +95,7 @@ class FrmFindIcon final : public Form, private SearchWindow {
   void UpdateSaveMenus() override;
 
   void AttachControls();
+  void PlaceLimit();
   void PlaceGrid();
   void LoadSettings();
   void SaveSettings();
