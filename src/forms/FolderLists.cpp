@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "forms/FolderPath.h"
+#include "platform/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 
@@ -76,7 +76,8 @@ std::string DriveListBox::Root() const {
 }
 
 void DriveListBox::ChooseDriveOf(const std::string& path) {
-  const auto drive = std::ranges::find(drives_, FolderChain(path).front(), &Drive::root);
+  const std::vector<std::string> chain = FolderChain(path);
+  const auto drive = std::ranges::find(drives_, chain.empty() ? std::string() : chain.front(), &Drive::root);
   const auto row = drive == drives_.end() ? -1 : drive - drives_.begin();
   Send(window_, CB_SETCURSEL, static_cast<std::size_t>(row));
 }

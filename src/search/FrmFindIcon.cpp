@@ -6,7 +6,7 @@
 
 #include <utility>
 
-#include "forms/FolderPath.h"
+#include "platform/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 #include "resource.h"

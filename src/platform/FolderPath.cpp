@@ -1,4 +1,4 @@
-#include "forms/FolderPath.h"
+#include "platform/FolderPath.h"
 
 #include <algorithm>
 
