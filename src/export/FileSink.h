@@ -6,7 +6,8 @@
 
 namespace tarvik {
 
-// A file being written. Each step says whether it worked; a writer stops at the first that did not.
+// A file being written. Each step says whether it worked; a writer stops at the first that did not, and the file is
+// then let go, as it stands, when the sink ends or opens another.
 class FileSink {
  public:
   virtual ~FileSink() = default;

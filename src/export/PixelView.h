@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace tarvik {
 
@@ -29,6 +31,11 @@ class PixelView {
   virtual int Height() const = 0;  // in pixels
   // The pixel at (x, y), 0 <= x < Width(), 0 <= y < Height().
   virtual Color Pixel(int x, int y) const = 0;
+  // Copies row y, left to right, into `row`, which holds Width() colours. Whoever reads a whole picture takes rows: a
+  // picture in memory hands them out far quicker than pixel by pixel.
+  virtual void ReadRow(int y, std::span<Color> row) const {
+    for (int x = 0; x < Width(); ++x) row[static_cast<std::size_t>(x)] = Pixel(x, y);
+  }
 };
 
 }  // namespace tarvik

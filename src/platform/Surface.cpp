@@ -16,6 +16,10 @@ std::size_t RowBytes(int width) {
   return (static_cast<std::size_t>(width) * bytesPerPixel + 3) / 4 * 4;
 }
 
+Color ColorAt(const std::uint8_t* pixel) {
+  return pixel[2] | Color{pixel[1]} << 8U | Color{pixel[0]} << 16U;
+}
+
 }  // namespace
 
 // The DIB section, selected into a device context of its own for as long as both live.
@@ -60,9 +64,17 @@ HBITMAP Surface::Bitmap() const {
 
 Color Surface::Pixel(int x, int y) const {
   GdiFlush();
-  const std::uint8_t* pixel =
-      section_->bits + RowBytes(width_) * static_cast<std::size_t>(y) + static_cast<std::size_t>(x) * bytesPerPixel;
-  return pixel[2] | Color{pixel[1]} << 8U | Color{pixel[0]} << 16U;
+  return ColorAt(section_->bits + RowBytes(width_) * static_cast<std::size_t>(y) +
+                 static_cast<std::size_t>(x) * bytesPerPixel);
+}
+
+void Surface::ReadRow(int y, std::span<Color> row) const {
+  GdiFlush();
+  const std::uint8_t* pixel = section_->bits + RowBytes(width_) * static_cast<std::size_t>(y);
+  for (Color& color : row) {
+    color = ColorAt(pixel);
+    pixel += bytesPerPixel;
+  }
 }
 
 void Surface::Clear(Color color) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 
 #include "export/PixelView.h"
 #include "search/IconSource.h"
@@ -31,6 +32,7 @@ class Surface final : public DcSurface, public PixelView {
   int Width() const override { return width_; }
   int Height() const override { return height_; }
   Color Pixel(int x, int y) const override;
+  void ReadRow(int y, std::span<Color> row) const override;
 
   // Makes every pixel `color`.
   void Clear(Color color);

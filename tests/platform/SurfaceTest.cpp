@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace tarvik {
 namespace {
 
@@ -10,6 +12,15 @@ TEST(Surface, ReadsBackWhatGdiDrewAsBlueGreenRed) {
   SetPixel(surface.Dc(), 4, 2, RGB(1, 2, 3));
   EXPECT_EQ(surface.Pixel(4, 2), 0x030201U);
   EXPECT_EQ(surface.Pixel(3, 2), white);
+}
+
+TEST(Surface, ReadsARowAsItsPixels) {
+  Surface surface(5, 3, white);
+  SetPixel(surface.Dc(), 0, 1, RGB(1, 2, 3));
+  SetPixel(surface.Dc(), 4, 1, RGB(4, 5, 6));
+  std::array<Color, 5> row{};
+  surface.ReadRow(1, row);
+  EXPECT_EQ(row, (std::array<Color, 5>{0x030201, white, white, white, 0x060504}));
 }
 
 TEST(Surface, KeepsThePictureWhenItsSizeChanges) {

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+
+#include "export/PixelView.h"
+#include "search/IconList.h"
+#include "search/IconSource.h"
+
+// Taking one icon as pixels, and the choice of how many colours its file has.
+namespace tarvik::ModMicroArt {
+
+// How many colours a picture is written with, as the number itself; -1 is true colour.
+enum class ColorClass : std::int16_t { Two = 2, Sixteen = 16, TwoHundredFiftySix = 256, TrueColor = -1 };
+
+// What becomes of black and white in a 256-colour picture: the icon palette keeps an entry for each whether they occur
+// or not, the bitmap palette gives them one like any other colour.
+enum class BlackAndWhite : bool { InOrder = false, InFixedSlots = true };
+
+// The fewest colours that hold the picture: black and white alone, the sixteen standard colours, 256 colours, or true
+// colour, tried in that order. With black and white in fixed slots 254 other colours fit into 256.
+ColorClass Classify(const PixelView& surface, BlackAndWhite blackAndWhite);
+
+// The three pictures that an icon is taken into, each of the size it is taken at. Their owner clears them; icons are
+// drawn on them.
+class CaptureSurfaces {
+ public:
+  virtual ~CaptureSurfaces() = default;
+
+  virtual void Clear() = 0;             // all three, to their background
+  virtual DrawSurface& Mask() = 0;      // white where the icon is transparent
+  virtual DrawSurface& Image() = 0;     // the colours alone
+  virtual DrawSurface& Composed() = 0;  // the icon as it looks over the background
+};
+
+// Takes the entry's icon out of its file again and draws its mask, its image and the composed icon, `size` pixels on a
+// side, at the top-left corner of the three cleared surfaces. An entry of an animated cursor is that step of the file's
+// first icon. False when the file yields no icon any more: the surfaces then stay cleared. A part that cannot be drawn
+// is left out, and the others are drawn all the same.
+bool CaptureEntry(IconSource& icons, const IconListEntry& entry, int size, CaptureSurfaces& surfaces);
+
+}  // namespace tarvik::ModMicroArt

@@ -1,0 +1,163 @@
+#include "export/ModMicroArtFileIO.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "export/ByteWriter.h"
+#include "export/FileFormats.h"
+#include "export/ModPalette.h"
+#include "export/PixelCopy.h"
+#include "export/PixelWriters.h"
+
+namespace tarvik::ModMicroArtFileIO {
+namespace {
+
+using FileFormats::Depth;
+using ModMicroArt::ColorClass;
+using ModPalette::Palette256;
+
+// The two fields of a directory entry whose meaning depends on the type of the file.
+struct DirectoryFields {
+  std::uint16_t type = 0;
+  std::uint16_t planesOrHotX = 0;
+  std::uint16_t bitsOrHotY = 0;
+};
+
+void WriteDirectory(const DirectoryFields& fields, const PixelCopy& image, const Depth& depth, ByteWriter& file) {
+  file.U16(0);  // reserved
+  file.U16(fields.type);
+  file.U16(FileFormats::imageCount);
+
+  file.U8(static_cast<std::uint8_t>(image.Width()));
+  file.U8(static_cast<std::uint8_t>(image.Height()));
+  file.U8(FileFormats::colorCount);
+  file.U8(0);  // reserved
+  file.U16(fields.planesOrHotX);
+  file.U16(fields.bitsOrHotY);
+  file.U32(FileFormats::infoHeaderBytes + FileFormats::PaletteBytes(depth) +
+           FileFormats::DeclaredImageBytes(depth, image.Width(), image.Height()) +
+           FileFormats::DeclaredMaskBytes(image.Width()));
+  file.U32(FileFormats::directoryHeaderBytes + FileFormats::directoryEntryBytes);  // where the image starts
+}
+
+void WriteBitmapFileHeader(std::uint32_t fileSize, const Depth& depth, ByteWriter& file) {
+  file.U16(FileFormats::bitmapType);
+  file.U32(fileSize);
+  file.U16(0);  // reserved
+  file.U16(0);  // reserved
+  file.U32(FileFormats::bitmapFileHeaderBytes + FileFormats::infoHeaderBytes +
+           FileFormats::PaletteBytes(depth));  // where the pixels start
+}
+
+void WriteInfoHeader(int width, int height, const Depth& depth, std::uint32_t imageBytes, ByteWriter& file) {
+  file.U32(FileFormats::infoHeaderBytes);
+  file.I32(width);
+  file.I32(height);
+  file.U16(FileFormats::planes);
+  file.U16(depth.bitsPerPixel);
+  file.U32(FileFormats::noCompression);
+  file.U32(imageBytes);
+  file.I32(FileFormats::resolutionNotGiven);  // across
+  file.I32(FileFormats::resolutionNotGiven);  // down
+  file.U32(FileFormats::allColors);           // used
+  file.U32(FileFormats::allColors);           // important
+}
+
+void WritePalette(std::span<const Color> palette, ByteWriter& file) {
+  for (const Color color : palette) {
+    file.U8(BlueOf(color));
+    file.U8(GreenOf(color));
+    file.U8(RedOf(color));
+    file.U8(0);  // reserved
+  }
+}
+
+// The palette of the class, then the pixels. `buildPalette` makes the palette of a 256-colour picture.
+void WritePaletteAndPixels(const PixelCopy& pixels, ColorClass colors, Palette256 (*buildPalette)(const PixelCopy&),
+                           ByteWriter& file) {
+  switch (colors) {
+    case ColorClass::Two:
+      WritePalette(ModPalette::twoColors, file);
+      Write1Bit(pixels, file);
+      break;
+    case ColorClass::Sixteen:
+      WritePalette(ModPalette::sixteenColors, file);
+      Write4Bit(pixels, file);
+      break;
+    case ColorClass::TwoHundredFiftySix: {
+      const Palette256 palette = buildPalette(pixels);
+      WritePalette(palette, file);
+      Write8Bit(pixels, palette, file);
+      break;
+    }
+    case ColorClass::TrueColor:
+      Write24Bit(pixels, file);
+      break;
+  }
+}
+
+// Enough for the whole file at once: headers, the largest palette, true-colour pixels and a mask.
+std::size_t SizeBound(const PixelCopy& pixels) {
+  constexpr std::size_t headersAndPalette = 2048;
+  return headersAndPalette + pixels.Pixels().size() * 4;
+}
+
+bool Save(const ByteWriter& file, const std::string& path, FileSink& sink) {
+  return sink.Open(path) && sink.Write(file.Bytes()) && sink.Close();
+}
+
+bool WriteIconOrCursor(const PixelView& mask, const PixelView& image, ColorClass colors, const DirectoryFields& fields,
+                       const std::string& path, FileSink& sink) {
+  const PixelCopy imagePixels(image);
+  const PixelCopy maskPixels(mask);
+  const Depth& depth = FileFormats::DepthOf(colors);
+  constexpr int imageAndMask = 2;
+  constexpr std::uint32_t imageBytesNotGiven = 0;
+
+  ByteWriter file(SizeBound(imagePixels));
+  WriteDirectory(fields, imagePixels, depth, file);
+  WriteInfoHeader(imagePixels.Width(), imagePixels.Height() * imageAndMask, depth, imageBytesNotGiven, file);
+  WritePaletteAndPixels(imagePixels, colors, ModPalette::BuildIconPalette, file);
+  Write1Bit(maskPixels, file);
+  return Save(file, path, sink);
+}
+
+}  // namespace
+
+bool WriteIcon(const PixelView& mask, const PixelView& image, ColorClass colors, const std::string& path,
+               FileSink& sink) {
+  const DirectoryFields fields{FileFormats::iconType, FileFormats::planes, FileFormats::DepthOf(colors).bitsPerPixel};
+  return WriteIconOrCursor(mask, image, colors, fields, path, sink);
+}
+
+bool WriteCursor(const PixelView& mask, const PixelView& image, ColorClass colors, HotSpot hotSpot,
+                 const std::string& path, FileSink& sink) {
+  const DirectoryFields fields{FileFormats::cursorType, static_cast<std::uint16_t>(hotSpot.x),
+                               static_cast<std::uint16_t>(hotSpot.y)};
+  return WriteIconOrCursor(mask, image, colors, fields, path, sink);
+}
+
+bool WriteBitmap(const PixelView& composed, ColorClass colors, const std::string& path, FileSink& sink) {
+  const PixelCopy pixels(composed);
+  const Depth& depth = FileFormats::DepthOf(colors);
+  ByteWriter file(SizeBound(pixels));
+  WriteBitmapFileHeader(FileFormats::BitmapFileSize(depth, pixels.Width()), depth, file);
+  WriteInfoHeader(pixels.Width(), pixels.Height(), depth,
+                  FileFormats::DeclaredImageBytes(depth, pixels.Width(), pixels.Height()), file);
+  WritePaletteAndPixels(pixels, colors, ModPalette::BuildBitmapPalette, file);
+  return Save(file, path, sink);
+}
+
+bool WriteTrueColorBitmap(const PixelView& composed, const std::string& path, FileSink& sink) {
+  const PixelCopy pixels(composed);
+  const Depth& depth = FileFormats::DepthOf(ColorClass::TrueColor);
+  const std::uint32_t imageBytes = FileFormats::DeclaredImageBytes(depth, pixels.Width(), pixels.Height());
+  ByteWriter file(SizeBound(pixels));
+  WriteBitmapFileHeader(FileFormats::bitmapFileHeaderBytes + FileFormats::infoHeaderBytes + imageBytes, depth, file);
+  WriteInfoHeader(pixels.Width(), pixels.Height(), depth, imageBytes, file);
+  WritePadded24Bit(pixels, file);
+  return Save(file, path, sink);
+}
+
+}  // namespace tarvik::ModMicroArtFileIO

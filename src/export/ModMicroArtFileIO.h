@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+#include "export/FileSink.h"
+#include "export/ModMicroArt.h"
+#include "export/PixelView.h"
+#include "numbers/Integer16.h"
+
+// Writes one captured icon as a file: icon, cursor or Windows bitmap, at the size of its surfaces and the depth of its
+// colour class. The layouts are those of Windows icon resources and device-independent bitmaps, with a few fixed
+// oddities that are kept where they stand. Each writer returns false at the first step of the sink that fails; the
+// file may then be there in part. None shows a message.
+namespace tarvik::ModMicroArtFileIO {
+
+// The pixel of a cursor that points, from the top-left corner of the icon.
+struct HotSpot {
+  Integer16 x;
+  Integer16 y;
+  friend bool operator==(const HotSpot&, const HotSpot&) = default;
+};
+
+// Writes an icon file (.ico) of the image and the mask: pixels that are white in the mask are transparent. `colors`
+// is the image's class with black and white in fixed slots.
+bool WriteIcon(const PixelView& mask, const PixelView& image, ModMicroArt::ColorClass colors, const std::string& path,
+               FileSink& sink);
+
+// Writes a cursor file (.cur): the same with the hot spot.
+bool WriteCursor(const PixelView& mask, const PixelView& image, ModMicroArt::ColorClass colors, HotSpot hotSpot,
+                 const std::string& path, FileSink& sink);
+
+// Writes a bitmap file (.bmp) of the composed icon. `colors` is its class with black and white in order. The file is
+// not always what readers expect, and that is meant: at 64 pixels its size field is that of 48 pixels and its 1-bit
+// rows are two bytes longer than they should be, and in 256 colours black and white are written as the values 0 and
+// 255 wherever the palette has them.
+bool WriteBitmap(const PixelView& composed, ModMicroArt::ColorClass colors, const std::string& path, FileSink& sink);
+
+// Writes a true-colour bitmap (.bmp) that reads back as exactly the same pixels, whatever the size: what is handed to
+// an encoder.
+bool WriteTrueColorBitmap(const PixelView& composed, const std::string& path, FileSink& sink);
+
+}  // namespace tarvik::ModMicroArtFileIO

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "export/FileSink.h"
+
+namespace tarvik {
+
+// A file in memory. Fails at the step with the number `failingStep`, counted from 0, if there is one; `steps` lists
+// what was asked of it.
+class MemorySink final : public FileSink {
+ public:
+  static constexpr int noFailure = -1;
+
+  explicit MemorySink(int failingStep = noFailure) : failingStep_(failingStep) {}
+
+  bool Open(const std::string& path) override {
+    openedPath = path;
+    bytes.clear();
+    return Step("Open");
+  }
+  bool Write(std::span<const std::byte> added) override {
+    if (!Step("Write")) return false;
+    for (const std::byte value : added) bytes.push_back(std::to_integer<std::uint8_t>(value));
+    return true;
+  }
+  bool Close() override { return Step("Close"); }
+
+  std::vector<std::uint8_t> bytes;
+  std::vector<std::string> steps;
+  std::string openedPath;
+
+ private:
+  bool Step(const std::string& name) {
+    steps.push_back(name);
+    return static_cast<int>(steps.size()) - 1 != failingStep_;
+  }
+
+  int failingStep_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,353 @@
+// Random pictures, always the same ones, written and read back by a general reader. Where a file is what readers expect
+// the picture comes back; where it is meant not to be, what comes back is worked out here.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "export/ImageFileReader.h"
+#include "export/MemorySink.h"
+#include "export/ModMicroArtFileIO.h"
+#include "export/TestRaster.h"
+
+namespace tarvik::ModMicroArtFileIO {
+namespace {
+
+using ModMicroArt::BlackAndWhite;
+using ModMicroArt::Classify;
+using ModMicroArt::ColorClass;
+
+constexpr int picturesOfAKind = 25;
+constexpr std::array<ColorClass, 4> everyClass{ColorClass::Two, ColorClass::Sixteen, ColorClass::TwoHundredFiftySix,
+                                               ColorClass::TrueColor};
+constexpr std::array<Color, 16> standardColors{0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x800080,
+                                               0x808000, 0xC0C0C0, 0x808080, 0x0000FF, 0x00FF00, 0x00FFFF,
+                                               0xFF0000, 0xFF00FF, 0xFFFF00, 0xFFFFFF};
+
+int BitsOf(ColorClass colors) {
+  switch (colors) {
+    case ColorClass::Two:
+      return 1;
+    case ColorClass::Sixteen:
+      return 4;
+    case ColorClass::TwoHundredFiftySix:
+      return 8;
+    default:
+      return 24;
+  }
+}
+
+// Pictures from a fixed seed.
+class RandomPictures {
+ public:
+  explicit RandomPictures(std::uint32_t seed) : random_(seed) {}
+
+  int Number(int least, int most) { return std::uniform_int_distribution<int>(least, most)(random_); }
+  Color AnyColor() { return static_cast<Color>(Number(0, 0xFFFFFF)); }
+
+  // A picture of that class, as icons and bitmaps count alike. True colour needs 32 pixels or more.
+  TestRaster OfClass(int size, ColorClass colors) {
+    std::vector<Color> choice{black, white};
+    if (colors == ColorClass::Sixteen) choice.assign(standardColors.begin(), standardColors.end());
+    if (colors == ColorClass::TwoHundredFiftySix) {
+      const int others = Number(1, 254);
+      while (static_cast<int>(choice.size()) < others + 2) choice.push_back(AnyColor());
+    }
+    TestRaster raster(size, [&](int, int) {
+      if (colors == ColorClass::TrueColor) return AnyColor();
+      return choice[static_cast<std::size_t>(Number(0, static_cast<int>(choice.size()) - 1))];
+    });
+    if (colors == ColorClass::Sixteen) raster.Set(Number(0, size - 1), Number(0, size - 1), 0x808000);
+    if (colors == ColorClass::TwoHundredFiftySix) raster.Set(Number(0, size - 1), Number(0, size - 1), choice.back());
+    return raster;
+  }
+
+  // White where transparent; black and other colours where not.
+  TestRaster Mask(int size) {
+    constexpr std::array<Color, 4> choice{white, white, black, 0xFEFFFF};
+    return TestRaster(size, [&](int, int) { return choice[static_cast<std::size_t>(Number(0, 3))]; });
+  }
+
+ private:
+  std::mt19937 random_;
+};
+
+std::vector<bool> WhitePixels(const TestRaster& raster) {
+  std::vector<bool> isWhite;
+  for (const Color color : raster.Pixels()) isWhite.push_back(color == white);
+  return isWhite;
+}
+
+// Bits of 64-pixel rows of ten bytes, bottom row first, as the writers store them one picture after another.
+std::vector<bool> TenByteRows(const std::vector<const TestRaster*>& pictures) {
+  std::vector<bool> bits;
+  for (const TestRaster* picture : pictures) {
+    for (int y = 63; y >= 0; --y) {
+      for (int x = 0; x < 80; ++x) bits.push_back(x < 64 && picture->Pixel(x, y) == white);
+    }
+  }
+  return bits;
+}
+
+// What a reader of eight-byte rows sees in them from that byte on: 64 rows of 64 pixels, from the top.
+std::vector<bool> SeenInEightByteRows(const std::vector<bool>& bits, std::size_t firstByte) {
+  std::vector<bool> seen;
+  for (std::size_t y = 0; y < 64; ++y) {
+    for (std::size_t x = 0; x < 64; ++x) seen.push_back(bits[firstByte * 8 + (63 - y) * 64 + x]);
+  }
+  return seen;
+}
+
+std::vector<Color> BlackAndWhitePixels(const std::vector<bool>& isWhite) {
+  std::vector<Color> colors;
+  for (const bool pixel : isWhite) colors.push_back(pixel ? white : black);
+  return colors;
+}
+
+ReadImage WrittenIcon(const TestRaster& mask, const TestRaster& image, ColorClass colors) {
+  MemorySink sink;
+  EXPECT_TRUE(WriteIcon(mask, image, colors, "a.ico", sink));
+  return ReadIconOrCursor(sink.bytes);
+}
+
+ReadImage WrittenBitmap(const TestRaster& composed, ColorClass colors, std::size_t* length = nullptr) {
+  MemorySink sink;
+  EXPECT_TRUE(WriteBitmap(composed, colors, "a.bmp", sink));
+  if (length != nullptr) *length = sink.bytes.size();
+  return ReadBitmap(sink.bytes);
+}
+
+TEST(RoundTrip, IconsAndCursorsUpTo48PixelsComeBackWithImageMaskAndHotSpot) {
+  RandomPictures pictures(1);
+  for (const int size : {16, 32, 48}) {
+    for (const ColorClass colors : everyClass) {
+      for (int count = 0; count < picturesOfAKind; ++count) {
+        const TestRaster image = pictures.OfClass(size, colors);
+        const TestRaster mask = pictures.Mask(size);
+        // In 256 pixels there are not always more than 254 other colours: at 16 pixels the class is what it is.
+        const ColorClass found = Classify(image, BlackAndWhite::InFixedSlots);
+        ASSERT_TRUE(found == colors || size == 16);
+
+        const ReadImage icon = WrittenIcon(mask, image, found);
+        EXPECT_EQ(icon.fileType, 1);
+        EXPECT_EQ(icon.width, size);
+        EXPECT_EQ(icon.height, size);
+        EXPECT_EQ(icon.bitsPerPixel, BitsOf(found));
+        EXPECT_EQ(icon.word12, BitsOf(found));
+        EXPECT_EQ(icon.colors, image.Pixels());
+        EXPECT_EQ(icon.transparent, WhitePixels(mask));
+
+        MemorySink sink;
+        const HotSpot hotSpot{pictures.Number(0, size - 1), pictures.Number(0, size - 1)};
+        ASSERT_TRUE(WriteCursor(mask, image, found, hotSpot, "a.cur", sink));
+        const ReadImage cursor = ReadIconOrCursor(sink.bytes);
+        EXPECT_EQ(cursor.fileType, 2);
+        EXPECT_EQ(cursor.word10, hotSpot.x);
+        EXPECT_EQ(cursor.word12, hotSpot.y);
+        EXPECT_EQ(cursor.colors, image.Pixels());
+        EXPECT_EQ(cursor.transparent, WhitePixels(mask));
+        EXPECT_EQ(cursor.sizeField, sink.bytes.size() - 22);
+      }
+    }
+  }
+}
+
+TEST(RoundTrip, IconsOf64PixelsComeBackWithTheirImageAndWithAMaskReadFromTenByteRows) {
+  RandomPictures pictures(2);
+  for (const ColorClass colors : {ColorClass::Sixteen, ColorClass::TwoHundredFiftySix, ColorClass::TrueColor}) {
+    for (int count = 0; count < picturesOfAKind; ++count) {
+      const TestRaster image = pictures.OfClass(64, colors);
+      const TestRaster mask = pictures.Mask(64);
+      ASSERT_EQ(Classify(image, BlackAndWhite::InFixedSlots), colors);
+      const ReadImage icon = WrittenIcon(mask, image, colors);
+      EXPECT_EQ(icon.colors, image.Pixels());
+      EXPECT_EQ(icon.transparent, SeenInEightByteRows(TenByteRows({&mask}), 0));
+    }
+  }
+}
+
+TEST(RoundTrip, BlackAndWhiteIconsOf64PixelsAreReadFromTenByteRowsOfImageThenMask) {
+  RandomPictures pictures(3);
+  for (int count = 0; count < picturesOfAKind; ++count) {
+    const TestRaster image = pictures.OfClass(64, ColorClass::Two);
+    const TestRaster mask = pictures.Mask(64);
+    const ReadImage icon = WrittenIcon(mask, image, ColorClass::Two);
+    const std::vector<bool> stored = TenByteRows({&image, &mask});
+    EXPECT_EQ(icon.colors, BlackAndWhitePixels(SeenInEightByteRows(stored, 0)));
+    EXPECT_EQ(icon.transparent, SeenInEightByteRows(stored, 512));
+  }
+}
+
+TEST(RoundTrip, BitmapsWithoutABuiltPaletteComeBackUpTo48Pixels) {
+  RandomPictures pictures(4);
+  for (const int size : {16, 32, 48}) {
+    for (const ColorClass colors : {ColorClass::Two, ColorClass::Sixteen, ColorClass::TrueColor}) {
+      for (int count = 0; count < picturesOfAKind; ++count) {
+        const TestRaster composed = pictures.OfClass(size, colors);
+        std::size_t length = 0;
+        const ReadImage bitmap = WrittenBitmap(composed, colors, &length);
+        EXPECT_EQ(bitmap.width, size);
+        EXPECT_EQ(bitmap.height, size);
+        EXPECT_EQ(bitmap.bitsPerPixel, BitsOf(colors));
+        EXPECT_EQ(bitmap.colors, composed.Pixels());
+        EXPECT_EQ(bitmap.sizeField, length);
+      }
+    }
+  }
+}
+
+TEST(RoundTrip, BitmapsOf64PixelsSayTheSizeOf48) {
+  RandomPictures pictures(5);
+  constexpr std::array<std::uint32_t, 4> sizes{446, 1270, 3382, 6966};
+  for (std::size_t i = 0; i < everyClass.size(); ++i) {
+    EXPECT_EQ(WrittenBitmap(pictures.OfClass(64, everyClass[i]), everyClass[i]).sizeField, sizes[i]);
+  }
+}
+
+TEST(RoundTrip, BitmapsOf64PixelsInSixteenColoursAndTrueColourComeBack) {
+  RandomPictures pictures(6);
+  for (const ColorClass colors : {ColorClass::Sixteen, ColorClass::TrueColor}) {
+    for (int count = 0; count < picturesOfAKind; ++count) {
+      const TestRaster composed = pictures.OfClass(64, colors);
+      EXPECT_EQ(WrittenBitmap(composed, colors).colors, composed.Pixels());
+    }
+  }
+}
+
+TEST(RoundTrip, BlackAndWhiteBitmapsOf64PixelsAreReadFromTenByteRows) {
+  RandomPictures pictures(7);
+  for (int count = 0; count < picturesOfAKind; ++count) {
+    const TestRaster composed = pictures.OfClass(64, ColorClass::Two);
+    EXPECT_EQ(WrittenBitmap(composed, ColorClass::Two).colors,
+              BlackAndWhitePixels(SeenInEightByteRows(TenByteRows({&composed}), 0)));
+  }
+}
+
+// The pixels of a 256-colour bitmap as they are meant to show: its colours in the order met fill the palette, black
+// shows as entry 0, white as entry 255, and a colour that is not among the entries 1 to 254 as the pixel before it in
+// the file.
+std::vector<Color> ShownBy256ColorBitmap(const TestRaster& composed) {
+  std::vector<Color> entries;
+  for (const Color color : composed.Pixels()) {
+    if (entries.size() < 256 && std::find(entries.begin(), entries.end(), color) == entries.end()) {
+      entries.push_back(color);
+    }
+  }
+  entries.resize(256, 0);
+
+  const int size = composed.Width();
+  std::vector<Color> shown(composed.Pixels().size());
+  Color previous = entries[0];
+  for (int y = size - 1; y >= 0; --y) {
+    for (int x = 0; x < size; ++x) {
+      const Color color = composed.Pixel(x, y);
+      if (color == black) {
+        previous = entries[0];
+      } else if (color == white) {
+        previous = entries[255];
+      } else if (std::find(entries.begin() + 1, entries.begin() + 255, color) != entries.begin() + 255) {
+        previous = color;
+      }
+      shown[static_cast<std::size_t>(y * size + x)] = previous;
+    }
+  }
+  return shown;
+}
+
+TEST(RoundTrip, BitmapsOf256ColoursShowBlackWhiteAndTheFirstColourAsMeant) {
+  RandomPictures pictures(8);
+  int different = 0;
+  for (const int size : {16, 32, 48, 64}) {
+    for (int count = 0; count < picturesOfAKind; ++count) {
+      const TestRaster composed = pictures.OfClass(size, ColorClass::TwoHundredFiftySix);
+      ASSERT_EQ(Classify(composed, BlackAndWhite::InOrder), ColorClass::TwoHundredFiftySix);
+      const ReadImage bitmap = WrittenBitmap(composed, ColorClass::TwoHundredFiftySix);
+      EXPECT_EQ(bitmap.colors, ShownBy256ColorBitmap(composed));
+      if (bitmap.colors != composed.Pixels()) ++different;
+    }
+  }
+  EXPECT_GT(different, 0) << "these pictures never show the difference";
+}
+
+TEST(RoundTrip, BitmapsOf256ColoursComeBackWhereBlackIsFirstAndWhiteDoesNotOccur) {
+  RandomPictures pictures(9);
+  for (int count = 0; count < picturesOfAKind; ++count) {
+    TestRaster composed = pictures.OfClass(32, ColorClass::TwoHundredFiftySix);
+    for (int number = 0; number < 32 * 32; ++number) {
+      if (number == 0 || composed.Pixels()[static_cast<std::size_t>(number)] == white)
+        composed.SetNumber(number, black);
+    }
+    EXPECT_EQ(WrittenBitmap(composed, ColorClass::TwoHundredFiftySix).colors, composed.Pixels());
+  }
+}
+
+TEST(RoundTrip, ColoursWithoutEntryInSixteenShowAsTheLastFoundForTheirHalf) {
+  RandomPictures pictures(10);
+  for (const int size : {16, 32, 48, 64}) {
+    for (int count = 0; count < picturesOfAKind; ++count) {
+      const TestRaster image(size, [&](int, int) {
+        return pictures.Number(0, 2) == 0 ? standardColors[static_cast<std::size_t>(pictures.Number(0, 15))]
+                                          : pictures.AnyColor();
+      });
+      std::vector<Color> shown(image.Pixels().size());
+      Color lastOfHalf[2] = {black, black};
+      for (int y = size - 1; y >= 0; --y) {
+        for (int x = 0; x < size; ++x) {
+          const Color color = image.Pixel(x, y);
+          if (std::find(standardColors.begin(), standardColors.end(), color) != standardColors.end()) {
+            lastOfHalf[x % 2] = color;
+          }
+          shown[static_cast<std::size_t>(y * size + x)] = lastOfHalf[x % 2];
+        }
+      }
+      EXPECT_EQ(WrittenIcon(pictures.Mask(size), image, ColorClass::Sixteen).colors, shown);
+      EXPECT_EQ(WrittenBitmap(image, ColorClass::Sixteen).colors, shown);
+    }
+  }
+}
+
+TEST(RoundTrip, ColoursWithoutEntryIn256ShowAsThePixelBefore) {
+  RandomPictures pictures(11);
+  for (const int size : {32, 48, 64}) {
+    const TestRaster image = pictures.OfClass(size, ColorClass::TrueColor);
+    std::vector<Color> entries;
+    for (const Color color : image.Pixels()) {
+      const bool seen = std::find(entries.begin(), entries.end(), color) != entries.end();
+      if (!seen && color != black && color != white && entries.size() < 254) entries.push_back(color);
+    }
+    std::vector<Color> shown(image.Pixels().size());
+    Color previous = black;
+    for (int y = size - 1; y >= 0; --y) {
+      for (int x = 0; x < size; ++x) {
+        const Color color = image.Pixel(x, y);
+        const bool has = std::find(entries.begin(), entries.end(), color) != entries.end();
+        if (has || color == black || color == white) previous = color;
+        shown[static_cast<std::size_t>(y * size + x)] = previous;
+      }
+    }
+    EXPECT_EQ(WrittenIcon(pictures.Mask(size), image, ColorClass::TwoHundredFiftySix).colors, shown);
+    EXPECT_EQ(WrittenBitmap(image, ColorClass::TwoHundredFiftySix).colors, ShownBy256ColorBitmap(image));
+  }
+}
+
+TEST(RoundTrip, TrueColourBitmapsForEncodersComeBackAtEverySize) {
+  RandomPictures pictures(12);
+  for (int size = 1; size <= 70; ++size) {
+    const TestRaster composed = pictures.OfClass(size, ColorClass::TrueColor);
+    MemorySink sink;
+    ASSERT_TRUE(WriteTrueColorBitmap(composed, "tmp.bmp", sink));
+    const ReadImage bitmap = ReadBitmap(sink.bytes);
+    EXPECT_EQ(bitmap.width, size);
+    EXPECT_EQ(bitmap.bitsPerPixel, 24);
+    EXPECT_EQ(bitmap.colors, composed.Pixels());
+    EXPECT_EQ(bitmap.sizeField, sink.bytes.size());
+  }
+}
+
+}  // namespace
+}  // namespace tarvik::ModMicroArtFileIO
