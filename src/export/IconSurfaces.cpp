@@ -1,0 +1,19 @@
+#include "export/IconSurfaces.h"
+
+namespace tarvik {
+
+IconSurfaces::IconSurfaces(int size)
+    : composed_(size, size, surfaceBackground),
+      mask_(size, size, surfaceBackground),
+      image_(size, size, surfaceBackground) {}
+
+void IconSurfaces::Resize(int size) {
+  for (Surface* surface : {&composed_, &mask_, &image_}) surface->Resize(size, size, surfaceBackground);
+  Clear();
+}
+
+void IconSurfaces::Clear() {
+  for (Surface* surface : {&composed_, &mask_, &image_}) surface->Clear(surfaceBackground);
+}
+
+}  // namespace tarvik
