@@ -12,7 +12,7 @@ double RoundToEven(double value);
 // The number that a text stands for: blanks around it, a sign, digits with an optional decimal point, commas
 // between digits and an exponent are allowed, and "&H" starts a hexadecimal one. The decimal mark is a point
 // whatever the locale. Throws TypeMismatchError for any other text, the empty one included, and OverflowError
-// for a number too large for a double.
+// for a number beyond a double's range.
 double ToNumber(std::string_view text);
 
 // ToNumber, rounded by RoundToEven. Throws OverflowError outside -32768 to 32767.

@@ -2,17 +2,15 @@
 
 #include <algorithm>
 
+#include "startup/AsciiCase.h"
+
 namespace tarvik {
 namespace {
 
 constexpr std::size_t codeLength = 3;
 
-char UpperAscii(char character) {
-  return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
-}
-
-std::string UpperAscii(std::string text) {
-  std::ranges::transform(text, text.begin(), [](char character) { return UpperAscii(character); });
+std::string UpperCase(std::string text) {
+  std::ranges::transform(text, text.begin(), UpperAscii);
   return text;
 }
 
@@ -31,6 +29,24 @@ std::optional<std::string_view> Pick(const Text& text, std::string_view code) {
   return std::nullopt;
 }
 
+std::optional<std::string> Compose(const Text& text, std::string_view code,
+                                   std::initializer_list<std::string_view> values) {
+  const auto pattern = Pick(text, code);
+  if (!pattern) return std::nullopt;
+  std::string composed;
+  for (std::size_t i = 0; i < pattern->size(); ++i) {
+    const bool marks = (*pattern)[i] == '%' && i + 1 < pattern->size();
+    const int place = marks ? (*pattern)[i + 1] - '1' : -1;
+    if (place < 0 || static_cast<std::size_t>(place) >= values.size()) {
+      composed += (*pattern)[i];
+      continue;
+    }
+    composed += *(values.begin() + place);
+    ++i;
+  }
+  return composed;
+}
+
 std::string ReadLanguageValue(LanguageStore& store, const std::string& name) {
   return Trimmed(store.ReadBuffer(name));
 }
@@ -38,7 +54,7 @@ std::string ReadLanguageValue(LanguageStore& store, const std::string& name) {
 std::string ChooseLanguage(LanguageStore& store) {
   const std::string name = "Language";
   if (ReadLanguageValue(store, name).empty()) return std::string(english);
-  return UpperAscii(store.ReadBuffer(name)).substr(0, codeLength);
+  return UpperCase(store.ReadBuffer(name)).substr(0, codeLength);
 }
 
 }  // namespace tarvik

@@ -1,6 +1,9 @@
 #include "startup/Settings.h"
 
+#include <algorithm>
 #include <utility>
+
+#include "startup/AsciiCase.h"
 
 namespace tarvik {
 namespace {
@@ -15,6 +18,14 @@ std::string SettingsPath(const std::string& programPath) {
   const auto dot = programPath.find_last_of('.');
   const bool hasExtension = dot != std::string::npos && dot >= nameStart;
   return (hasExtension ? programPath.substr(0, dot) : programPath) + ".dat";
+}
+
+std::string TruthText(bool truth) {
+  return truth ? "True" : "False";
+}
+
+bool IsTruth(std::string_view text) {
+  return std::ranges::equal(text, std::string_view("true"), {}, LowerAscii);
 }
 
 Settings::Settings(IniStore& store, std::string programPath) : store_(store), programPath_(std::move(programPath)) {}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace tarvik {
 
@@ -23,6 +24,10 @@ class IniStore {
 // The settings file beside a program: its path with the extension ".dat" in place of its own.
 // ("C:\Tools\tarvik.exe" gives "C:\Tools\tarvik.dat").
 std::string SettingsPath(const std::string& programPath);
+
+// How a yes or no stands in a settings file: "True" or "False". Read, only "true" is a yes, in any case.
+std::string TruthText(bool truth);
+bool IsTruth(std::string_view text);
 
 // The program's settings. The path of its own file is settled when the first setting is read or written and
 // kept.

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace tarvik {
+
+// The letters A to Z in the other case; any other byte, one of a longer UTF-8 character included, as it is.
+constexpr char LowerAscii(char character) {
+  return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+constexpr char UpperAscii(char character) {
+  return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
+}
+
+}  // namespace tarvik
