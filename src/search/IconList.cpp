@@ -3,14 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "startup/AsciiCase.h"
+
 namespace tarvik {
-namespace {
-
-char LowerAscii(char character) {
-  return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-}
-
-}  // namespace
 
 bool IsAnimatedCursorName(std::string_view path) {
   constexpr std::string_view ending = ".ani";

@@ -1,10 +1,16 @@
 #pragma once
 
+#include <functional>
+#include <initializer_list>
+#include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "search/IconList.h"
 #include "search/IconSource.h"
 #include "search/SearchWindow.h"
+#include "startup/Language.h"
 
 namespace tarvik {
 
@@ -12,12 +18,12 @@ namespace tarvik {
 // search over the limit is refused before an icon is drawn; the second lists and draws.
 class SearchDriver {
  public:
-  // All four outlive the driver. `language` is read when a text is chosen.
+  // All five outlive the driver. `language` is read when a text is chosen.
   SearchDriver(SearchWindow& window, IconSource& icons, IconList& list, SearchState& state,
                const std::string& language);
 
-  // Runs one search to its end. A run-time error takes the failure exit, so that the window stays usable, and
-  // is thrown on for the handler's boundary to show.
+  // Runs one search to its end; does nothing while one runs. A run-time error leaves the list empty and takes
+  // the failure exit, so that the window stays usable, and is thrown on for the handler's boundary to show.
   void CmdFind_Click();
 
   // How many steps an animated cursor has: found by drawing them until one fails. 0 where there is no
@@ -25,16 +31,37 @@ class SearchDriver {
   int CountAnimationFrames(const std::string& path);
 
  private:
+  using Pass = void (SearchDriver::*)(const std::string& folder);
+  using Leave = std::function<void()>;
+  // What a folder's visit holds until the folder is left.
+  using Held = std::shared_ptr<void>;
+  using Enter = std::function<Held(const std::string& folder)>;
+  struct OpenFolder;
+  class OpenFolders;
+
   void Search();
-  bool CountIconsInFolder(const std::string& folder);
-  void CountIconsOfFile(const std::string& path);
+  bool IsRefused();
   void ListIcons();
-  void ListIconsInFolder(const std::string& folder);
+  void FailureExit();
+
+  void RunOverScope(Pass pass);
+  void Walk(const std::string& root, const Enter& enter, const Leave& leave);
+  OpenFolder Opened(std::string path, const Enter& enter);
+
+  void CountIconsInFolder(const std::string& root);
+  void CountFilesOf(const std::string& folder);
+  void CountIconsOfFile(const std::string& path);
+
+  void ListIconsInFolder(const std::string& root);
+  Held ListFilesOf(const std::string& folder);
   void ListIconsOfFile(const std::string& path);
   void ListAnimation(const std::string& path);
-  void AdvanceCell();
+  void DrawInNextCell(ExtractedIcon* icon, int step);
+
+  std::string PathOf(const std::string& name) const;
   void UpdateTitle();
-  void FailureExit();
+  void SetStatus(const Text& text, std::initializer_list<std::string_view> values);
+  void ShowBox(const Text& text, std::initializer_list<std::string_view> values);
 
   SearchWindow& window_;
   IconSource& icons_;

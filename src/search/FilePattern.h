@@ -1,0 +1,33 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace tarvik {
+
+// The file types that can be ticked, each with the part that it adds to the pattern, in the order of their
+// boxes. The last box stands for all files.
+inline constexpr std::array<std::string_view, 6> fileTypeParts{"*.ico;", "*.ani;", "*.icl;",
+                                                               "*.ocx;", "*.dll;", "*.exe;"};
+inline constexpr std::size_t allFilesBox = fileTypeParts.size();
+inline constexpr std::string_view allFilesPattern = "*.*";
+inline constexpr std::string_view noFilesPattern = "aaa.aaa";  // matches no usual file
+
+// Which boxes are ticked, in their order.
+using FileTypeChecks = std::array<bool, fileTypeParts.size() + 1>;
+
+// The boxes as they stand after one of them was clicked: "all files" ticks the others too.
+FileTypeChecks WithAllFilesRule(FileTypeChecks checked);
+
+// The pattern of the ticked boxes: "*.*" with "all files", the parts one after the other otherwise
+// ("*.dll;*.exe;"), and "aaa.aaa" where none is ticked.
+std::string BuildPattern(const FileTypeChecks& checked);
+
+// True when the file name matches any part of the pattern. Parts are split at ";" and empty ones match
+// nothing; "*" stands for any run of characters and "?" for exactly one; "*.*" matches every name, one
+// without a dot included. Both texts are UTF-8. The case of the letters A to Z is ignored, which is all that
+// the built patterns hold; other characters match only themselves. Takes at most name times pattern steps.
+bool MatchesPattern(std::string_view name, std::string_view pattern);
+
+}  // namespace tarvik

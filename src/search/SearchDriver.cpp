@@ -1,0 +1,292 @@
+#include "search/SearchDriver.h"
+
+#include <array>
+#include <utility>
+
+#include "numbers/Conversion.h"
+#include "search/Characters.h"
+#include "search/SearchTexts.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int pathCharactersInBox = 20;
+constexpr int firstCell = 3;
+constexpr int firstFrame = 1;
+constexpr Point trialCorner{50, 50};  // where animation steps are tried out
+
+constexpr std::array<SearchControl, 5> searchControls{SearchControl::CmdFind, SearchControl::CmdOk,
+                                                      SearchControl::CmdClose, SearchControl::mnuFile,
+                                                      SearchControl::mnuEdit};
+
+}  // namespace
+
+// A folder that a walk has entered and not yet left.
+struct SearchDriver::OpenFolder {
+  std::string path;
+  std::vector<std::string> subFolders;
+  std::size_t next = 0;  // the sub-folder to visit next
+  Held held;
+};
+
+// The folders that a walk stands in, outermost first. A list and not the call stack, because folders can lie
+// in one another deeper than a stack reaches. They are left innermost first, also when an error ends the
+// walk: each puts back the pointer that it found.
+class SearchDriver::OpenFolders {
+ public:
+  OpenFolders() = default;
+  OpenFolders(const OpenFolders&) = delete;
+  OpenFolders& operator=(const OpenFolders&) = delete;
+  ~OpenFolders() {
+    while (!IsEmpty()) Leave();
+  }
+
+  bool IsEmpty() const { return folders_.empty(); }
+  void Enter(OpenFolder folder) { folders_.push_back(std::move(folder)); }
+  OpenFolder& Innermost() { return folders_.back(); }
+  void Leave() { folders_.pop_back(); }
+
+ private:
+  std::vector<OpenFolder> folders_;
+};
+
+SearchDriver::SearchDriver(SearchWindow& window, IconSource& icons, IconList& list, SearchState& state,
+                           const std::string& language)
+    : window_(window), icons_(icons), list_(list), state_(state), language_(language) {}
+
+void SearchDriver::CmdFind_Click() {
+  if (state_.IsSearching) return;
+  window_.CloseEnhancedView();
+  state_.IsSearching = true;
+  for (const SearchControl control : searchControls) window_.Enable(control, false);
+  try {
+    Search();
+  } catch (const RuntimeError&) {
+    list_.Clear();
+    window_.ClearListView();
+    FailureExit();
+    throw;
+  }
+}
+
+void SearchDriver::Search() {
+  state_.IconCount = 0;
+  RunOverScope(&SearchDriver::CountIconsInFolder);
+  list_.Clear();
+  window_.ClearListView();
+  if (IsRefused()) {
+    FailureExit();
+  } else {
+    ListIcons();
+  }
+}
+
+// Says in a box why there is nothing to list.
+bool SearchDriver::IsRefused() {
+  const int count = state_.IconCount;
+  if (count == 0) {
+    ShowBox(searchTexts::noIcons, {FirstCharacters(window_.File1Path(), pathCharactersInBox)});
+    return true;
+  }
+  const int limit = ToInteger16(window_.txtMax());
+  if (count <= limit) return false;
+  const int highestLimit = window_.udMainUpperEnd();
+  if (count < highestLimit) {
+    ShowBox(searchTexts::raiseLimit, {std::to_string(count), std::to_string(limit)});
+  } else {
+    ShowBox(searchTexts::narrowFolders, {std::to_string(count), std::to_string(highestLimit)});
+  }
+  return true;
+}
+
+void SearchDriver::ListIcons() {
+  state_.NextIconNumber = 1;
+  state_.CellY = firstCell;
+  state_.CellX = firstCell;
+  window_.ClearGrid();
+  RunOverScope(&SearchDriver::ListIconsInFolder);
+  UpdateTitle();
+  if (const auto text = Pick(searchTexts::firstSelected, language_)) window_.SetInfoText(std::string(*text));
+  window_.KeepGridPicture();
+  state_.FrameX = firstFrame;
+  state_.FrameY = firstFrame;
+  const int farCorner = state_.Geometry.FirstFrameExtent;
+  window_.DrawFrame({firstFrame, firstFrame}, {farCorner, farCorner}, true);
+  state_.CurrentIndex = 0;
+  for (const SearchControl control : searchControls) window_.Enable(control, true);
+  state_.IsSearching = false;
+  window_.UpdateSaveMenus();
+  // The files that were counted can be gone by the time they are listed.
+  if (list_.Has(1)) list_.Select(1);
+  window_.ListChanged();
+}
+
+void SearchDriver::FailureExit() {
+  window_.Enable(SearchControl::CmdFind, true);
+  window_.Enable(SearchControl::CmdClose, true);
+  window_.Enable(SearchControl::CmdOk, false);
+  window_.Enable(SearchControl::mnuFile, false);
+  window_.Enable(SearchControl::mnuEdit, false);
+  state_.IsSearching = false;
+  window_.ClearGrid();
+}
+
+// With sub-folders a pass starts at Dir1's folder and moves Dir1, which is put back after it.
+void SearchDriver::RunOverScope(Pass pass) {
+  if (!window_.chkSubDir()) {
+    (this->*pass)(window_.File1Path());
+    return;
+  }
+  const std::string savedDirPath = window_.Dir1Path();
+  try {
+    (this->*pass)(savedDirPath);
+  } catch (const RuntimeError&) {
+    window_.SetDir1Path(savedDirPath);
+    throw;
+  }
+  window_.SetDir1Path(savedDirPath);
+}
+
+// Visits a folder, then each of its sub-folders in the same way, then leaves it. A folder's sub-folders are
+// read once; for each of them Dir1 is only pointed at their folder again, because the visit of the last one
+// moved it.
+void SearchDriver::Walk(const std::string& root, const Enter& enter, const Leave& leave) {
+  OpenFolders open;
+  open.Enter(Opened(root, enter));
+  while (!open.IsEmpty()) {
+    OpenFolder& folder = open.Innermost();
+    if (folder.next == folder.subFolders.size()) {
+      leave();
+      open.Leave();
+      continue;
+    }
+    window_.SetDir1Path(folder.path);
+    std::string subFolder = std::move(folder.subFolders[folder.next++]);
+    open.Enter(Opened(std::move(subFolder), enter));
+  }
+}
+
+SearchDriver::OpenFolder SearchDriver::Opened(std::string path, const Enter& enter) {
+  OpenFolder folder{std::move(path), {}, 0, {}};
+  folder.held = enter(folder.path);
+  if (!window_.chkSubDir()) return folder;
+  window_.SetDir1Path(folder.path);
+  folder.subFolders = window_.Dir1SubFolders();
+  return folder;
+}
+
+void SearchDriver::CountIconsInFolder(const std::string& root) {
+  const Enter enter = [this](const std::string& folder) {
+    CountFilesOf(folder);
+    return Held();
+  };
+  Walk(root, enter, [] {});
+}
+
+void SearchDriver::CountFilesOf(const std::string& folder) {
+  if (window_.chkSubDir()) window_.SetFile1Path(folder);
+  for (const std::string& name : window_.File1Names()) {
+    CountIconsOfFile(PathOf(name));
+    UpdateTitle();
+  }
+}
+
+void SearchDriver::CountIconsOfFile(const std::string& path) {
+  state_.IsAnimatedFile = IsAnimatedCursorName(path);
+  state_.IconCount += state_.IsAnimatedFile ? CountAnimationFrames(path) : icons_.CountIcons(path);
+}
+
+int SearchDriver::CountAnimationFrames(const std::string& path) {
+  const auto icon = icons_.Extract(path, 0);
+  if (!icon) return 0;
+  const int bound = icon->StepBound();
+  int step = 0;
+  while (step < bound &&
+         icon->Draw(window_.OwnSurface(), trialCorner, state_.Geometry.IconSize, step, DrawPart::Normal)) {
+    ++step;
+  }
+  return step;
+}
+
+void SearchDriver::ListIconsInFolder(const std::string& root) {
+  const Enter enter = [this](const std::string& folder) { return ListFilesOf(folder); };
+  const Leave leave = [this] { SetStatus(searchTexts::added, {std::to_string(list_.Count())}); };
+  Walk(root, enter, leave);
+}
+
+// What it returns holds the hourglass up.
+SearchDriver::Held SearchDriver::ListFilesOf(const std::string& folder) {
+  if (window_.chkSubDir()) window_.SetFile1Path(folder);
+  window_.SizeGrid(ExtentOf(state_.Geometry, state_.IconCount));
+  window_.ScrollGridToTop();
+  window_.DoEvents();
+  const int limit = ToInteger16(window_.txtMax());
+  Held hourglass = window_.ShowHourglass();
+  SetStatus(searchTexts::searching, {window_.Dir1Path()});
+  const int countBefore = list_.Count();
+  for (const std::string& name : window_.File1Names()) {
+    // Asked before each file and never inside one: a file's icons are listed all together.
+    if (state_.NextIconNumber > limit) break;
+    SetStatus(searchTexts::adding, {std::to_string(state_.NextIconNumber)});
+    ListIconsOfFile(PathOf(name));
+  }
+  if (list_.Count() != countBefore) window_.ListChanged();
+  return hourglass;
+}
+
+void SearchDriver::ListIconsOfFile(const std::string& path) {
+  state_.IsAnimatedFile = IsAnimatedCursorName(path);
+  if (state_.IsAnimatedFile) {
+    ListAnimation(path);
+    return;
+  }
+  const int count = icons_.CountIcons(path);
+  for (int index = 0; index < count; ++index) {
+    list_.Add(path, index);
+    DrawInNextCell(icons_.Extract(path, index).get(), 0);
+  }
+}
+
+void SearchDriver::ListAnimation(const std::string& path) {
+  const int count = CountAnimationFrames(path);
+  if (count < 1) return;
+  const auto icon = icons_.Extract(path, 0);
+  for (int step = 0; step < count; ++step) {
+    list_.Add(path, step);
+    DrawInNextCell(icon.get(), step);
+  }
+}
+
+// An icon that its file does not yield leaves its cell empty; its entry stands all the same.
+void SearchDriver::DrawInNextCell(ExtractedIcon* icon, int step) {
+  const GridGeometry& geometry = state_.Geometry;
+  if (icon != nullptr) {
+    icon->Draw(window_.Grid(), {state_.CellX, state_.CellY}, geometry.IconSize, step, DrawPart::Normal);
+  }
+  state_.CellX += geometry.CellPitch;
+  if (state_.NextIconNumber % geometry.Columns == 0) {
+    state_.CellX = firstCell;
+    state_.CellY += geometry.CellPitch;
+  }
+  state_.NextIconNumber += 1;
+}
+
+// The root of a drive keeps the backslash that it ends in and gets another one.
+std::string SearchDriver::PathOf(const std::string& name) const {
+  return window_.File1Path() + "\\" + name;
+}
+
+void SearchDriver::UpdateTitle() {
+  const auto text = Compose(searchTexts::title, language_, {window_.Dir1Path(), std::to_string(state_.IconCount)});
+  if (text) window_.SetCaption(*text);
+}
+
+void SearchDriver::SetStatus(const Text& text, std::initializer_list<std::string_view> values) {
+  if (const auto composed = Compose(text, language_, values)) window_.SetStatusText(*composed);
+}
+
+void SearchDriver::ShowBox(const Text& text, std::initializer_list<std::string_view> values) {
+  if (const auto composed = Compose(text, language_, values)) window_.ShowInformation(*composed);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,193 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "search/IconSource.h"
+#include "search/SearchWindow.h"
+
+namespace tarvik {
+
+// What a search did, a line each, in order.
+class Script {
+ public:
+  void Add(std::string line) { lines_.push_back(std::move(line)); }
+  const std::vector<std::string>& Lines() const { return lines_; }
+  // The lines that start with `start`.
+  std::vector<std::string> Lines(std::string_view start) const {
+    std::vector<std::string> found;
+    for (const std::string& line : lines_) {
+      if (line.starts_with(start)) found.push_back(line);
+    }
+    return found;
+  }
+  void Clear() { lines_.clear(); }
+
+ private:
+  std::vector<std::string> lines_;
+};
+
+inline std::string ToText(Point point) {
+  return "(" + std::to_string(point.x) + "," + std::to_string(point.y) + ")";
+}
+
+struct FakeSurface : DrawSurface {
+  explicit FakeSurface(std::string surfaceName) : name(std::move(surfaceName)) {}
+  std::string name;
+};
+
+// What a file of the fake machine yields.
+struct FakeFile {
+  int icons = 0;       // as counted
+  int steps = 1;       // that can be drawn
+  int stepBound = 1;   // that its header allows
+  bool yields = true;  // whether an icon comes out
+};
+
+class FakeIcon : public ExtractedIcon {
+ public:
+  FakeIcon(Script& script, std::string name, FakeFile file) : script_(script), name_(std::move(name)), file_(file) {}
+  FakeIcon(const FakeIcon&) = delete;
+  FakeIcon& operator=(const FakeIcon&) = delete;
+  ~FakeIcon() override { script_.Add("release " + name_); }
+
+  bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
+    script_.Add("draw " + name_ + " on " + static_cast<FakeSurface&>(surface).name + " at " + ToText(corner) +
+                " size " + std::to_string(size) + " step " + std::to_string(step) +
+                (part == DrawPart::Normal ? "" : " in part"));
+    return step < file_.steps;
+  }
+  int StepBound() const override { return file_.stepBound; }
+
+ private:
+  Script& script_;
+  std::string name_;
+  FakeFile file_;
+};
+
+class FakeIcons : public IconSource {
+ public:
+  explicit FakeIcons(Script& script) : script_(script) {}
+
+  int CountIcons(const std::string& path) override {
+    script_.Add("count " + path);
+    return files[path].icons;
+  }
+  std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override {
+    const std::string name = path + "#" + std::to_string(index);
+    script_.Add("extract " + name);
+    const FakeFile& file = files[path];
+    if (!file.yields) return nullptr;
+    return std::make_unique<FakeIcon>(script_, name, file);
+  }
+
+  std::map<std::string, FakeFile> files;
+
+ private:
+  Script& script_;
+};
+
+struct FakeFolder {
+  std::vector<std::string> files;
+  std::vector<std::string> subFolders;  // full paths
+};
+
+class FakeSearchWindow : public SearchWindow {
+ public:
+  explicit FakeSearchWindow(Script& script) : script_(script) {}
+
+  void CloseEnhancedView() override { script_.Add("close enhanced view"); }
+  void Enable(SearchControl control, bool enabled) override {
+    static const std::map<SearchControl, std::string> names{{SearchControl::CmdFind, "CmdFind"},
+                                                            {SearchControl::CmdOk, "CmdOk"},
+                                                            {SearchControl::CmdClose, "CmdClose"},
+                                                            {SearchControl::mnuFile, "mnuFile"},
+                                                            {SearchControl::mnuEdit, "mnuEdit"}};
+    script_.Add((enabled ? "enable " : "disable ") + names.at(control));
+  }
+
+  bool chkSubDir() const override { return subDir; }
+  std::string txtMax() const override { return max; }
+  int udMainUpperEnd() const override { return upperEnd; }
+
+  std::string Dir1Path() const override { return dir1; }
+  void SetDir1Path(const std::string& folder) override {
+    script_.Add("Dir1 " + folder);
+    dir1 = folder;
+    file1 = folder;
+  }
+  std::vector<std::string> Dir1SubFolders() override {
+    script_.Add("sub-folders of " + dir1);
+    return folders[dir1].subFolders;
+  }
+  std::string File1Path() const override { return file1; }
+  void SetFile1Path(const std::string& folder) override {
+    script_.Add("File1 " + folder);
+    file1 = folder;
+  }
+  std::vector<std::string> File1Names() override {
+    script_.Add("files of " + file1);
+    return folders[file1].files;
+  }
+
+  void SetCaption(const std::string& text) override { script_.Add("caption " + text); }
+  void SetStatusText(const std::string& text) override { script_.Add("status " + text); }
+  void SetInfoText(const std::string& text) override { script_.Add("label " + text); }
+  void ShowInformation(const std::string& text) override { script_.Add("box " + text); }
+
+  void ClearListView() override { script_.Add("clear list view"); }
+  void ListChanged() override { script_.Add("list changed"); }
+
+  void ClearGrid() override { script_.Add("clear grid"); }
+  void SizeGrid(const GridExtent& extent) override {
+    script_.Add("size grid " + std::to_string(extent.height) +
+                (extent.scrolls ? " scrolls " + std::to_string(extent.scrollMaximum) : " still"));
+  }
+  void ScrollGridToTop() override { script_.Add("scroll to top"); }
+  DrawSurface& Grid() override { return grid_; }
+  DrawSurface& OwnSurface() override { return own_; }
+  void DrawFrame(Point corner, Point farCorner, bool shown) override {
+    script_.Add((shown ? "show frame " : "erase frame ") + ToText(corner) + ToText(farCorner));
+  }
+  void KeepGridPicture() override { script_.Add("keep picture"); }
+
+  void DoEvents() override {
+    script_.Add("events");
+    if (onEvents) onEvents();
+  }
+  std::shared_ptr<void> ShowHourglass() override {
+    const int depth = ++hourglasses_;
+    script_.Add("hourglass " + std::to_string(depth));
+    return {static_cast<void*>(this), [this, depth](void*) {
+              script_.Add("pointer back " + std::to_string(depth));
+              --hourglasses_;
+            }};
+  }
+  void UpdateSaveMenus() override {
+    script_.Add("save menus");
+    if (onSaveMenus) onSaveMenus();
+  }
+
+  std::map<std::string, FakeFolder> folders;
+  std::string dir1;
+  std::string file1;
+  bool subDir = false;
+  std::string max = "300";
+  int upperEnd = 2400;
+  std::function<void()> onEvents;
+  std::function<void()> onSaveMenus;
+
+ private:
+  Script& script_;
+  FakeSurface grid_{"grid"};
+  FakeSurface own_{"window"};
+  int hourglasses_ = 0;
+};
+
+}  // namespace tarvik
