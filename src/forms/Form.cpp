@@ -116,6 +116,7 @@ void Form::OnTimer(UINT_PTR /*id*/) {}
 LRESULT Form::OnNotify(NMHDR& /*header*/) {
   return 0;
 }
+void Form::OnMessage(UINT /*message*/) {}
 void Form::OnPicture(const PictureEvent& /*event*/) {}
 void Form::OnDrawItem(const DRAWITEMSTRUCT& /*item*/) {}
 
@@ -183,6 +184,7 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       if (wParam != 0) Unload();
       return TRUE;
     default:
+      if (message >= WM_APP && message < 0xC000) OnMessage(message);
       return FALSE;
   }
 }

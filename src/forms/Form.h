@@ -76,7 +76,7 @@ class Form {
   void ShowItem(int id, bool shown);
   bool IsChecked(int id) const;
   void SetChecked(int id, bool checked);
-  Menu& TheMenu() { return menu_; }
+  const Menu& TheMenu() const { return menu_; }
 
   // Called before a message reaches its window; true swallows it.
   virtual bool PreviewMessage(const MSG& message);
@@ -94,6 +94,8 @@ class Form {
   virtual void OnScroll(HWND scrollBar, int request);
   virtual void OnTimer(UINT_PTR id);
   virtual LRESULT OnNotify(NMHDR& header);
+  // A message that a part of the program posted to itself, WM_APP and above.
+  virtual void OnMessage(UINT message);
   virtual void OnPicture(const PictureEvent& event);
   virtual void OnDrawItem(const DRAWITEMSTRUCT& item);
 

@@ -5,8 +5,6 @@
 namespace tarvik {
 namespace {
 
-constexpr COLORREF red = RGB(255, 0, 0);
-
 FontHandle BoldFontOf(HWND window) {
   LOGFONTW font{};
   GetObjectW(reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof font, &font);
@@ -44,27 +42,66 @@ void ReportList::Refresh() {
   InvalidateRect(window_, nullptr, FALSE);
 }
 
-void ReportList::SetSelected(int row, bool selected) {
-  ListView_SetItemState(window_, row, selected ? static_cast<UINT>(LVIS_SELECTED) : 0U, LVIS_SELECTED);
-}
-
-bool ReportList::IsSelected(int row) const {
-  return ListView_GetItemState(window_, row, LVIS_SELECTED) != 0;
-}
-
-void ReportList::SetFocused(int row) {
-  ListView_SetItemState(window_, row, row < 0 ? 0U : static_cast<UINT>(LVIS_FOCUSED), LVIS_FOCUSED);
-  if (row >= 0) ListView_EnsureVisible(window_, row, FALSE);
-}
-
-int ReportList::Focused() const {
-  return ListView_GetNextItem(window_, -1, LVNI_FOCUSED);
+void ReportList::SetSelection(const std::function<bool(int row)>& isSelected) {
+  settingSelection_ = true;
+  const int rows = ListView_GetItemCount(window_);
+  for (int row = 0; row < rows; ++row) {
+    const bool selected = isSelected(row);
+    if (selected == (ListView_GetItemState(window_, row, LVIS_SELECTED) != 0)) continue;
+    ListView_SetItemState(window_, row, selected ? static_cast<UINT>(LVIS_SELECTED) : 0U, LVIS_SELECTED);
+  }
+  settingSelection_ = false;
+  Refresh();
 }
 
 LRESULT ReportList::Notify(NMHDR& header) {
   if (header.code == LVN_GETDISPINFOW) FillCell(reinterpret_cast<NMLVDISPINFOW&>(header));
   if (header.code == NM_CUSTOMDRAW) return Draw(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
+  if (!settingSelection_) Watch(header);
   return 0;
+}
+
+void ReportList::Watch(const NMHDR& header) {
+  switch (header.code) {
+    case LVN_ITEMCHANGED: {
+      const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
+      if (((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0) Note(false);
+      break;
+    }
+    case LVN_ODSTATECHANGED:
+      Note(false);
+      break;
+    case NM_CLICK:
+    case NM_RCLICK:
+      // A plain click on the one selected row changes nothing that the control would tell. With a key held it does,
+      // and must not count twice.
+      if (GetKeyState(VK_CONTROL) >= 0 && GetKeyState(VK_SHIFT) >= 0) Note(false);
+      break;
+    case LVN_KEYDOWN:
+      if (reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey == 'A' && GetKeyState(VK_CONTROL) < 0) Note(true);
+      break;
+    default:
+      break;
+  }
+}
+
+// One choice can bring many notifications; it is told once, with the keys of the first.
+void ReportList::Note(bool all) {
+  if (choicePending_) return;
+  choicePending_ = true;
+  choice_.shift = GetKeyState(VK_SHIFT) < 0;
+  choice_.ctrl = GetKeyState(VK_CONTROL) < 0;
+  choice_.all = all;
+  PostMessageW(GetParent(window_), ChoiceMessage, 0, 0);
+}
+
+void ReportList::TellChoice() {
+  if (!choicePending_) return;
+  choicePending_ = false;
+  const bool nothingSelected = ListView_GetSelectedCount(window_) == 0;
+  choice_.row = nothingSelected && !choice_.ctrl ? -1 : ListView_GetNextItem(window_, -1, LVNI_FOCUSED);
+  choice_.anchor = ListView_GetSelectionMark(window_);
+  Choose(choice_);
 }
 
 void ReportList::FillCell(NMLVDISPINFOW& info) {
@@ -76,10 +113,11 @@ void ReportList::FillCell(NMLVDISPINFOW& info) {
 LRESULT ReportList::Draw(NMLVCUSTOMDRAW& draw) {
   if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
   if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
-  if (!IsMarked(static_cast<int>(draw.nmcd.dwItemSpec))) return CDRF_DODEFAULT;
-  // Bold red is the visible selection; the control's own highlight would hide the colour.
+  const Look look = LookOf(static_cast<int>(draw.nmcd.dwItemSpec));
+  if (!look.bold) return CDRF_DODEFAULT;
+  // A bold row is the visible selection; the control's own highlight would hide its colour.
   draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
-  draw.clrText = red;
+  draw.clrText = look.color;
   SelectObject(draw.nmcd.hdc, bold_.get());
   return CDRF_NEWFONT;
 }

@@ -21,9 +21,26 @@ class ReportList {
     int width;               // pixels
   };
 
-  // What a row shows, UTF-8, and whether it is marked: bold and red.
+  // How a row is written.
+  struct Look {
+    bool bold = false;
+    COLORREF color = 0;
+  };
+
+  // What a row shows, UTF-8, and how it is written.
   std::function<std::string(int row, int column)> CellText;
-  std::function<bool(int row)> IsMarked;
+  std::function<Look(int row)> LookOf;
+
+  // What the user chose: a row with its keys, or all rows.
+  struct Choice {
+    int row = -1;     // -1 for a place below the last row
+    int anchor = -1;  // where a range with Shift began
+    bool shift = false;
+    bool ctrl = false;
+    bool all = false;  // Ctrl+A
+  };
+  // Runs after the user chose; it decides what is selected and sets it by SetSelection.
+  std::function<void(const Choice& choice)> Choose;
 
   void Attach(HWND listView);
   HWND Window() const { return window_; }
@@ -35,23 +52,28 @@ class ReportList {
   // Draws what is visible anew.
   void Refresh();
 
-  // The control's own selection, which follows the list's.
-  void SetSelected(int row, bool selected);
-  bool IsSelected(int row) const;
-  // Gives a row the focus and scrolls it into sight; no row for -1.
-  void SetFocused(int row);
-  int Focused() const;
+  // Selects the rows that `isSelected` names, and no other.
+  void SetSelection(const std::function<bool(int row)>& isSelected);
 
-  // Answers the control's questions for texts and looks; the notification's result.
+  // Answers the control's questions for texts and looks, and watches for choices; the notification's result.
   LRESULT Notify(NMHDR& header);
+  // Runs Choose for a choice that Notify saw. The form calls it on ChoiceMessage, which the control's notifications
+  // lead to once for each choice, after the control is done with it.
+  static constexpr UINT ChoiceMessage = WM_APP + 2;
+  void TellChoice();
 
  private:
   LRESULT Draw(NMLVCUSTOMDRAW& draw);
+  void Watch(const NMHDR& header);
+  void Note(bool all);
   void FillCell(NMLVDISPINFOW& info);
 
   HWND window_ = nullptr;
   int columns_ = 0;
   FontHandle bold_;
+  bool settingSelection_ = false;
+  bool choicePending_ = false;
+  Choice choice_;
   std::wstring cell_;  // the text last asked for; the control reads it after Notify returns
 };
 

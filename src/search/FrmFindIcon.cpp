@@ -11,6 +11,7 @@
 #include "platform/Text.h"
 #include "resource.h"
 #include "search/FrmFindIconTexts.h"
+#include "search/IconListRows.h"
 
 namespace tarvik {
 namespace {
@@ -26,13 +27,6 @@ constexpr const char* subDirKey = "Subdir";
 
 // A step of an animation is tried out at (50, 50) of the window's own surface, at the grid's icon size.
 constexpr int ownSurfaceSide = 50 + 64;
-
-std::string LowerAscii(std::string text) {
-  for (char& character : text) {
-    if (character >= 'A' && character <= 'Z') character = static_cast<char>(character - 'A' + 'a');
-  }
-  return text;
-}
 
 RECT PlaceOf(HWND form, HWND item) {
   RECT place;
@@ -62,6 +56,8 @@ FrmFindIcon::FrmFindIcon(Application& application, Services services)
     : Form(application, Dialog_FrmFindIcon),
       services_(std::move(services)),
       driver_(*this, services_.icons, list_, state_, services_.state.CurrentLanguage),
+      selection_(*this, list_, state_, services_.state.CurrentLanguage),
+      surfaces_(state_.Geometry.IconSize),
       grid_(WidestGrid(), viewportHeight, white),
       ownSurface_(ownSurfaceSide, ownSurfaceSide, white) {}
 
@@ -95,8 +91,14 @@ void FrmFindIcon::AttachControls() {
   udMain_.Attach(Item(FrmFindIcon_udMain));
   vsb_.Attach(Item(FrmFindIcon_Vsb));
   lv_.Attach(Item(FrmFindIcon_Lv));
-  lv_.CellText = [this](int row, int column) { return CellText(row, column); };
-  lv_.IsMarked = [this](int row) { return list_.Has(row + 1) && list_.Item(row + 1).selected; };
+  lv_.CellText = [this](int row, int column) {
+    return list_.Has(row + 1) ? IconListCell(list_, row + 1, static_cast<std::size_t>(column)) : std::string();
+  };
+  lv_.LookOf = [this](int row) {
+    const RowMarking marking = list_.Has(row + 1) ? MarkingOf(list_.Item(row + 1)) : RowMarking();
+    return ReportList::Look{marking.bold, marking.color};
+  };
+  lv_.Choose = [this](const ReportList::Choice& choice) { Lv_Choose(choice); };
   picIcons_ = PictureBox::Create(Item(FrmFindIcon_PicFrame), FrmFindIcon_PicIcons, grid_.Width(), grid_.Height());
   picIcons_.Show(&grid_);
 }
@@ -141,13 +143,13 @@ void FrmFindIcon::LoadSettings() {
   if (!services_.isReadableFolder(folder)) folder = TidyFolderPath(services_.programFolder);
   dir1_.SetPath(folder);
   drive1_.ChooseDriveOf(folder);
-  const std::string subDir = settings.ReadIniSetting(settingsSection, subDirKey, "False");
-  SetChecked(FrmFindIcon_chkSubDir, LowerAscii(subDir) == "true");
+  const std::string subDir = settings.ReadIniSetting(settingsSection, subDirKey, TruthText(false));
+  SetChecked(FrmFindIcon_chkSubDir, IsTruth(subDir));
 }
 
 void FrmFindIcon::SaveSettings() {
   services_.settings.WriteIniSetting(settingsSection, folderKey, dir1_.Path());
-  services_.settings.WriteIniSetting(settingsSection, subDirKey, chkSubDir() ? "True" : "False");
+  services_.settings.WriteIniSetting(settingsSection, subDirKey, TruthText(chkSubDir()));
 }
 
 bool FrmFindIcon::OnCommand(int id, int code) {
@@ -163,6 +165,9 @@ bool FrmFindIcon::OnCommand(int id, int code) {
       {FrmFindIcon_OptView0, FrmFindIcon_OptView1, BN_CLICKED, Call<&FrmFindIcon::OptView_Click>},
       {FrmFindIcon_mnuStart, FrmFindIcon_mnuStart, 0, Call<&FrmFindIcon::mnuStart_Click>},
       {FrmFindIcon_mnuExit, FrmFindIcon_mnuExit, 0, Call<&FrmFindIcon::mnuExit_Click>},
+      {FrmFindIcon_mnuRem, FrmFindIcon_mnuRem, 0, Call<&FrmFindIcon::mnuRem_Click>},
+      {FrmFindIcon_mnuShowLabel, FrmFindIcon_mnuShowLabel, 0, Call<&FrmFindIcon::mnuShowLabel_Click>},
+      {FrmFindIcon_mnuIL1, FrmFindIcon_mnuIL2, 0, Call<&FrmFindIcon::mnuIL_Click>},
       {FrmFindIcon_mnuViewopt0, FrmFindIcon_mnuViewopt1, 0, Call<&FrmFindIcon::mnuViewopt_Click>},
   };
   return Dispatch<FrmFindIcon>(*this, events, id, code);
@@ -176,6 +181,10 @@ void FrmFindIcon::OnScroll(HWND scrollBar, int request) {
 LRESULT FrmFindIcon::OnNotify(NMHDR& header) {
   if (header.hwndFrom == lv_.Window()) return lv_.Notify(header);
   return 0;
+}
+
+void FrmFindIcon::OnMessage(UINT message) {
+  if (message == ReportList::ChoiceMessage) lv_.TellChoice();
 }
 
 void FrmFindIcon::OnDrawItem(const DRAWITEMSTRUCT& item) {

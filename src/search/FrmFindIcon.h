@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "export/IconSurfaces.h"
 #include "forms/FolderLists.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"
@@ -16,13 +17,14 @@
 #include "search/IconSource.h"
 #include "search/SearchDriver.h"
 #include "search/SearchWindow.h"
+#include "search/Selection.h"
 #include "startup/ProgramState.h"
 #include "startup/Settings.h"
 
 namespace tarvik {
 
 // The main window: search options, the icon grid or the icon list, and the menus from which everything else is reached.
-class FrmFindIcon final : public Form, private SearchWindow {
+class FrmFindIcon final : public Form, private SearchWindow, private SelectionView {
  public:
   // What the window stands on. All of it outlives the window.
   struct Services {
@@ -37,6 +39,12 @@ class FrmFindIcon final : public Form, private SearchWindow {
 
   FrmFindIcon(Application& application, Services services);
 
+  // Takes the icon of entry `number`, counted from 1, into the three surfaces, at the grid's icon size. False for a
+  // number outside the list, which leaves the surfaces alone, and for a file that yields no icon any more, which leaves
+  // them cleared.
+  bool RenderEntry(int number);
+  const IconSurfaces& Surfaces() const { return surfaces_; }
+
  private:
   // Form
   void Form_Load() override;
@@ -46,6 +54,8 @@ class FrmFindIcon final : public Form, private SearchWindow {
   bool OnCommand(int id, int code) override;
   void OnScroll(HWND scrollBar, int request) override;
   LRESULT OnNotify(NMHDR& header) override;
+  void OnMessage(UINT message) override;
+  void OnPicture(const PictureEvent& event) override;
   void OnDrawItem(const DRAWITEMSTRUCT& item) override;
 
   // Handlers
@@ -64,6 +74,10 @@ class FrmFindIcon final : public Form, private SearchWindow {
   void OptView_Click(int index);
   void mnuViewopt_Click(int index);
   void Vsb_Change();
+  void Lv_Choose(const ReportList::Choice& choice);
+  void mnuRem_Click();
+  void mnuShowLabel_Click();
+  void mnuIL_Click(int index);
 
   // SearchWindow
   void CloseEnhancedView() override;
@@ -94,17 +108,23 @@ class FrmFindIcon final : public Form, private SearchWindow {
   std::shared_ptr<void> ShowHourglass() override;
   void UpdateSaveMenus() override;
 
+  // SelectionView, where it asks for more than a search does
+  int GridInnerHeight() const override;
+  bool NumbersByFile() const override;
+
   void AttachControls();
   void PlaceLimit();
   void PlaceGrid();
   void LoadSettings();
   void SaveSettings();
-  std::string CellText(int row, int column) const;
+  void ShowSelectionInList();
 
   Services services_;
   SearchState state_;
   IconList list_;
   SearchDriver driver_;
+  Selection selection_;
+  IconSurfaces surfaces_;  // PicIcon, PicMask and PicImage
 
   DriveListBox drive1_;
   DirListBox dir1_;

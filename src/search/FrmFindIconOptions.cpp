@@ -22,7 +22,9 @@ constexpr int lowestLimit = 1;
 constexpr int limitStep = 10;
 constexpr int limitPage = 100;
 
-constexpr int FileTypeId(std::size_t box) { return FrmFindIcon_ChkFileType0 + static_cast<int>(box); }
+constexpr int FileTypeId(std::size_t box) {
+  return FrmFindIcon_ChkFileType0 + static_cast<int>(box);
+}
 
 constexpr Text driveNotReady{"Driver Not Ready!", "路径无效!", "路徑無效!"};
 
@@ -67,6 +69,7 @@ void FrmFindIcon::CboIconSize_Click() {
   if (chosen < 0) return;
   state_.Geometry = gridGeometries.at(static_cast<std::size_t>(chosen));
   services_.state.Magnification = (services_.state.MagnifiedSide - 1) / state_.Geometry.IconSize;
+  surfaces_.Resize(state_.Geometry.IconSize);
   udMain_.SetRange({0, state_.Geometry.HighestLimit - lowestLimit, limitStep, limitPage});
   // The upper end is the bar's upper end, so that the up arrow raises the limit.
   udMain_.SetValue(state_.Geometry.HighestLimit - state_.Geometry.DefaultLimit);

@@ -4,7 +4,6 @@
 
 #include <commctrl.h>
 
-#include <array>
 #include <string>
 
 #include "forms/MessageBox.h"
@@ -13,15 +12,13 @@
 #include "platform/Text.h"
 #include "resource.h"
 #include "search/FrmFindIcon.h"
+#include "search/IconListRows.h"
 
 namespace tarvik {
 namespace {
 
-// The list's columns; their titles are the same in every language.
-constexpr ReportList::Column columns[] = {{"序号", 40}, {"文件路径", 460}, {"图标索引", 80}};
-
 // What needs an entry to act on.
-constexpr int entryItems[] = {FrmFindIcon_mnuSaveAs};
+constexpr int entryItems[] = {FrmFindIcon_mnuRem};
 
 int IdOf(SearchControl control) {
   switch (control) {
@@ -100,21 +97,16 @@ void FrmFindIcon::ShowInformation(const std::string& text) {
 }
 
 void FrmFindIcon::ClearListView() {
+  std::vector<ReportList::Column> columns;
+  for (const IconListColumn& column : iconListColumns) columns.push_back({column.Header, column.Width});
   lv_.Clear(columns);
+  UpdateSaveMenus();
 }
 
 void FrmFindIcon::ListChanged() {
   lv_.SetRowCount(list_.Count());
+  ShowSelectionInList();
   UpdateSaveMenus();
-}
-
-std::string FrmFindIcon::CellText(int row, int column) const {
-  const int number = row + 1;
-  if (!list_.Has(number)) return {};
-  const IconListEntry& entry = list_.Item(number);
-  const std::array<std::string, std::size(columns)> cells{std::to_string(number), entry.path,
-                                                          std::to_string(entry.index)};
-  return cells.at(static_cast<std::size_t>(column));
 }
 
 void FrmFindIcon::ClearGrid() {

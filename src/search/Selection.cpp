@@ -68,7 +68,12 @@ void Selection::Choose(const HitCell& cell, bool ctrl) {
 
 void Selection::MakeCurrent(int index) {
   state_.CurrentIndex = index;
-  const int number = index + 1;
+  ShowCurrentLabel();
+}
+
+void Selection::ShowCurrentLabel() {
+  const int number = state_.CurrentIndex + 1;
+  if (!list_.Has(number)) return;
   const int label = LabelNumber(list_.Item(number), number, view_.NumbersByFile());
   const auto text = Compose(searchTexts::entrySelected, language_, {std::to_string(label)});
   if (text) view_.SetInfoText(*text);

@@ -54,6 +54,9 @@ class Selection {
   // Selects every entry. The current entry and the texts stay.
   void ChooseAll();
 
+  // Shows the current entry's label anew, as after the choice of its numbering changed.
+  void ShowCurrentLabel();
+
   // Selects what is not selected and the reverse. The current entry and the texts stay.
   void mnuRem_Click();
 
