@@ -81,8 +81,6 @@ std::string Form::ItemText(int id) const {
 
 void Form::EnableItem(int id, bool enabled) {
   if (const HWND item = Item(id)) {
-    // A disabled window that has the focus would swallow every key, access keys too.
-    if (!enabled && GetFocus() == item) SendMessageW(window_, WM_NEXTDLGCTL, 0, FALSE);
     EnableWindow(item, enabled ? TRUE : FALSE);
   } else {
     menu_.Enable(id, enabled);

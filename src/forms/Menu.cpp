@@ -48,6 +48,16 @@ void Menu::SetText(int id, std::string_view text) {
   Change(id, info);
 }
 
+std::string Menu::Text(int id) const {
+  const auto place = Find(menu_, id);
+  if (!place) return {};
+  std::wstring text(
+      static_cast<std::size_t>(GetMenuStringW(place->menu, place->position, nullptr, 0, MF_BYPOSITION)) + 1, L'\0');
+  const int length =
+      GetMenuStringW(place->menu, place->position, text.data(), static_cast<int>(text.size()), MF_BYPOSITION);
+  return ToUtf8({text.data(), static_cast<std::size_t>(length)});
+}
+
 void Menu::Enable(int id, bool enabled) {
   if (IsEnabled(id) == enabled) return;
   MENUITEMINFOW info = ItemInfo(MIIM_STATE);

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <string>
 #include <string_view>
 
 namespace tarvik {
@@ -12,6 +13,7 @@ class Menu {
   void Attach(HWND window);
 
   void SetText(int id, std::string_view text);  // UTF-8
+  std::string Text(int id) const;
   void Enable(int id, bool enabled);
   bool IsEnabled(int id) const;
   void SetChecked(int id, bool checked);

@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "forms/FocusKept.h"
 #include "forms/MessageBox.h"
 #include "forms/MousePointer.h"
 #include "numbers/Conversion.h"
@@ -84,6 +85,8 @@ void FrmFindIcon::CmdFind_Click() {
   if (state_.IsSearching) return;
   // The walk moves both lists through every folder; they show again where it ends.
   const FolderListsHeld held(dir1_, file1_);
+  // The button is disabled meanwhile, and a disabled control that has the focus would swallow every key.
+  const FocusKept focus(Window());
   driver_.CmdFind_Click();
 }
 

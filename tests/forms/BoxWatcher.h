@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tarvik::testing {
+
+// A message box that a test met: its texts, UTF-8.
+struct SeenBox {
+  std::string title;
+  std::string text;
+};
+
+// Closes every message box that this thread shows while it lives, by OK, and remembers what stood in it.
+class BoxWatcher {
+ public:
+  BoxWatcher();
+  ~BoxWatcher();
+  BoxWatcher(const BoxWatcher&) = delete;
+  BoxWatcher& operator=(const BoxWatcher&) = delete;
+
+  const std::vector<SeenBox>& Boxes() const { return boxes_; }
+
+ private:
+  friend struct BoxWatcherTimer;
+  unsigned long long timer_;
+  std::vector<SeenBox> boxes_;
+};
+
+}  // namespace tarvik::testing

@@ -1,0 +1,147 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "search/FindIconFixture.h"
+
+namespace tarvik {
+namespace {
+
+class FrmFindIconSelectionTest : public testing::FindIconFixture {
+ protected:
+  void Open20() {
+    Open();
+    Find(20);
+  }
+  std::vector<int> SelectedRows() const {
+    std::vector<int> rows;
+    for (int number = 1; number <= ListView_GetItemCount(Item(FrmFindIcon_Lv)); ++number) {
+      if (IsRowSelected(number)) rows.push_back(number);
+    }
+    return rows;
+  }
+  bool IsFramed(int number) const { return GridPixel(1 + (number - 1) % 15 * 38, 1 + (number - 1) / 15 * 38) == black; }
+  // As a user does with the control: its own state changes, and it tells.
+  void ChooseInList(int row) {
+    ListView_SetItemState(Item(FrmFindIcon_Lv), -1, 0, LVIS_SELECTED);
+    ListView_SetItemState(Item(FrmFindIcon_Lv), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    application.DoEvents();
+  }
+};
+
+using Rows = std::vector<int>;
+
+TEST_F(FrmFindIconSelectionTest, SelectsTheClickedIconAlone) {
+  Open20();
+  ReleaseOnGrid(3 + 38, 10);
+  EXPECT_EQ(SelectedRows(), Rows{2});
+  EXPECT_TRUE(IsFramed(2));
+  EXPECT_FALSE(IsFramed(1));
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 2 Selected.");
+  EXPECT_EQ(Status(), "C:\\icons\\some.dll");
+}
+
+TEST_F(FrmFindIconSelectionTest, AddsAndRemovesWithCtrl) {
+  Open20();
+  ReleaseOnGrid(3 + 38, 10, MK_CONTROL);
+  EXPECT_EQ(SelectedRows(), (Rows{1, 2}));
+  ReleaseOnGrid(10, 10, MK_CONTROL);
+  EXPECT_EQ(SelectedRows(), Rows{2});
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.") << "the current entry moves to a deselected one too";
+}
+
+TEST_F(FrmFindIconSelectionTest, TakesCtrlWithShiftForAPlainClick) {
+  Open20();
+  ReleaseOnGrid(3 + 38, 10, MK_CONTROL | MK_SHIFT);
+  EXPECT_EQ(SelectedRows(), Rows{2});
+}
+
+TEST_F(FrmFindIconSelectionTest, TreatsEveryButtonAlike) {
+  Open20();
+  ReleaseOnGrid(3 + 38, 10, 0, WM_RBUTTONUP);
+  EXPECT_EQ(SelectedRows(), Rows{2});
+  ReleaseOnGrid(3 + 76, 10, 0, WM_MBUTTONUP);
+  EXPECT_EQ(SelectedRows(), Rows{3});
+}
+
+TEST_F(FrmFindIconSelectionTest, IgnoresClicksBesideTheIcons) {
+  Open20();
+  ReleaseOnGrid(581, 10);
+  ReleaseOnGrid(3 + 5 * 38, 3 + 38);
+  EXPECT_EQ(SelectedRows(), Rows{1});
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
+}
+
+TEST_F(FrmFindIconSelectionTest, LeavesTheFirstFrameAfterAnotherWasCurrent) {
+  Open20();
+  ReleaseOnGrid(3 + 38, 10, MK_CONTROL);
+  ReleaseOnGrid(3 + 76, 10);
+  EXPECT_EQ(SelectedRows(), Rows{3});
+  EXPECT_TRUE(IsFramed(1));
+  EXPECT_FALSE(IsFramed(2));
+}
+
+TEST_F(FrmFindIconSelectionTest, InvertsRowsAndFramesTogether) {
+  Open20();
+  Click(FrmFindIcon_mnuRem);
+  EXPECT_EQ(SelectedRows().size(), 19U);
+  EXPECT_FALSE(IsFramed(1));
+  EXPECT_TRUE(IsFramed(20));
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
+}
+
+TEST_F(FrmFindIconSelectionTest, FollowsAChoiceInTheList) {
+  Open20();
+  Click(FrmFindIcon_OptView1);
+  ChooseInList(16);
+  EXPECT_EQ(SelectedRows(), Rows{17});
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 17 Selected.");
+  Click(FrmFindIcon_OptView0);
+  EXPECT_TRUE(IsFramed(17));
+}
+
+TEST_F(FrmFindIconSelectionTest, NumbersTheLabelByTheFileOnDemand) {
+  machine.files["C:\\icons"] = {"a.dll", "some.dll"};
+  machine.icons["C:\\icons\\a.dll"] = 4;
+  Open20();
+  ReleaseOnGrid(3 + 4 * 38, 10);
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 5 Selected.");
+  Click(FrmFindIcon_mnuIL2);
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
+  EXPECT_TRUE(window->TheMenu().IsChecked(FrmFindIcon_mnuIL2));
+  EXPECT_FALSE(window->TheMenu().IsChecked(FrmFindIcon_mnuIL1));
+  Click(FrmFindIcon_mnuIL1);
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 5 Selected.");
+}
+
+TEST_F(FrmFindIconSelectionTest, HidesAndShowsTheLabel) {
+  Open20();
+  Click(FrmFindIcon_mnuShowLabel);
+  EXPECT_FALSE(IsWindowVisible(Item(FrmFindIcon_lblInfo)));
+  EXPECT_FALSE(window->TheMenu().IsChecked(FrmFindIcon_mnuShowLabel));
+  Click(FrmFindIcon_mnuShowLabel);
+  EXPECT_TRUE(IsWindowVisible(Item(FrmFindIcon_lblInfo)));
+}
+
+TEST_F(FrmFindIconSelectionTest, RendersAnEntryIntoTheSurfaces) {
+  Open20();
+  EXPECT_TRUE(window->RenderEntry(4));
+  EXPECT_EQ(window->Surfaces().Composed().Pixel(31, 31), testing::SmallMachine::ColorOf(3));
+  EXPECT_EQ(window->Surfaces().Mask().Pixel(0, 0), black);
+  EXPECT_FALSE(window->RenderEntry(0));
+  EXPECT_FALSE(window->RenderEntry(21));
+  EXPECT_EQ(window->Surfaces().Composed().Pixel(31, 31), testing::SmallMachine::ColorOf(3));
+}
+
+TEST_F(FrmFindIconSelectionTest, LeavesTheSurfacesClearedForAFileThatIsGone) {
+  Open20();
+  EXPECT_TRUE(window->RenderEntry(4));
+  machine.icons.clear();
+  EXPECT_FALSE(window->RenderEntry(4));
+  EXPECT_EQ(window->Surfaces().Composed().Pixel(0, 0), surfaceBackground);
+  EXPECT_EQ(window->Surfaces().Mask().Pixel(0, 0), surfaceBackground);
+}
+
+}  // namespace
+}  // namespace tarvik
