@@ -112,13 +112,13 @@ void Note(BlockReader& file, const Chunk& chunk, Findings& findings) {
 
 }  // namespace
 
-int MostAnimationSteps(ByteSource& source) {
-  BlockReader file(source);
-  if (file.Number(0) != riffType || file.Number(chunkHeaderSize) != animationType) return 0;
+int MostAnimationSteps(ByteSource& file) {
+  BlockReader reader(file);
+  if (reader.Number(0) != riffType || reader.Number(chunkHeaderSize) != animationType) return 0;
   Findings findings;
   // The size that the file states for itself is often wrong and never needed.
-  ForEachChunk(file, chunkHeaderSize + listTypeSize, file.Size(),
-               [&](const Chunk& chunk) { Note(file, chunk, findings); });
+  ForEachChunk(reader, chunkHeaderSize + listTypeSize, reader.Size(),
+               [&](const Chunk& chunk) { Note(reader, chunk, findings); });
   return static_cast<int>(std::min<std::uint64_t>(findings.Steps(), std::numeric_limits<int>::max()));
 }
 

@@ -36,7 +36,9 @@ class SearchDriver::OpenFolders {
  public:
   OpenFolders() = default;
   OpenFolders(const OpenFolders&) = delete;
+  OpenFolders(OpenFolders&&) = delete;
   OpenFolders& operator=(const OpenFolders&) = delete;
+  OpenFolders& operator=(OpenFolders&&) = delete;
   ~OpenFolders() {
     while (!IsEmpty()) Leave();
   }

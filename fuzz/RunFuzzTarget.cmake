@@ -1,0 +1,11 @@
+# Runs one fuzz target over its corpus, the same way each time. What it finds goes to an empty folder of the build, so
+# that the corpus stays as it is and no run depends on the one before; an input that fails is left there as well.
+file(REMOVE_RECURSE ${finds})
+file(MAKE_DIRECTORY ${finds})
+execute_process(
+  COMMAND ${program} -runs=20000 -seed=1 -max_len=4096 -timeout=60 -print_final_stats=0 -verbosity=0
+          -artifact_prefix=${finds}/failed- ${finds} ${corpus}
+  RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "${program} failed; the input is in ${finds}")
+endif()
