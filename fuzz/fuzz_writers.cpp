@@ -102,7 +102,7 @@ void RequireWritten(bool written, const CountingSink& sink, int failingStep, std
 }
 
 void WriteAll(Input& input) {
-  constexpr std::array<int, 8> sizes{16, 32, 48, 64, 1, 7, 33, 256};
+  constexpr std::array<int, 8> sizes{16, 32, 48, 64, 1, 7, 33, 72};
   constexpr std::array<ColorClass, 4> classes{ColorClass::Two, ColorClass::Sixteen, ColorClass::TwoHundredFiftySix,
                                               ColorClass::TrueColor};
   const int size = sizes[input.Byte() % sizes.size()];

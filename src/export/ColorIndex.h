@@ -45,7 +45,7 @@ class ColorIndex {
   // At least half of the slots stay free, so that a search always ends, and soon.
   static constexpr unsigned slotBits = 10;
   static constexpr std::size_t slotCount = std::size_t{1} << slotBits;
-  static_assert(slotCount >= 2 * capacity);
+  static_assert(slotCount / 2 >= capacity);
 
   // The slot that holds `color`, or the free one where it belongs.
   std::size_t SlotOf(Color color) const {

@@ -9,6 +9,7 @@ namespace tarvik {
 void ExpectedFile::Number(const std::string& name, std::size_t offset, int width, std::uint32_t value) {
   EXPECT_EQ(offset, length_) << "the description of " << name << " leaves a gap";
   std::vector<std::uint8_t> bytes;
+  bytes.reserve(static_cast<std::size_t>(width));
   for (int place = 0; place < width; ++place) bytes.push_back(static_cast<std::uint8_t>(value >> (8 * place) & 0xFFU));
   Bytes(name, bytes);
 }

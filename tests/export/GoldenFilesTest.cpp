@@ -37,7 +37,7 @@ struct Row {
   std::size_t bitmapLength;
 };
 
-constexpr Row rows[] = {
+constexpr std::array<Row, 16> rows{{
     {16, ColorClass::Two, 1, 176, 198, 126, 64, 62, 126},
     {16, ColorClass::Sixteen, 4, 296, 318, 246, 128, 118, 246},
     {16, ColorClass::TwoHundredFiftySix, 8, 1384, 1406, 1334, 256, 1078, 1334},
@@ -54,7 +54,7 @@ constexpr Row rows[] = {
     {64, ColorClass::Sixteen, 4, 2664, 2814, 1270, 2048, 118, 2166},
     {64, ColorClass::TwoHundredFiftySix, 8, 5672, 5822, 3382, 4096, 1078, 5174},
     {64, ColorClass::TrueColor, 24, 12840, 12990, 6966, 12288, 54, 12342},
-};
+}};
 
 // Eight pixels of a black-and-white picture, the leftmost in the high bit: another pattern for each group and row.
 constexpr std::array<std::uint8_t, 7> imagePatterns{0x80, 0x0F, 0xA5, 0x01, 0x36, 0xFF, 0x00};
@@ -85,10 +85,10 @@ Bytes PatternBytes(const std::array<std::uint8_t, count>& patterns, int size) {
 
 // 4 bits: the left pixel of pair k in row y is the colour (k + y) mod 16, the right one (3k + 5 + 7y) mod 16.
 TestRaster SixteenRaster(int size) {
-  return TestRaster(size, [](int x, int y) {
-    const int k = x / 2;
-    return standardColors[static_cast<std::size_t>(x % 2 == 0 ? k + y : 3 * k + 5 + 7 * y) % 16];
-  });
+  return {size, [](int x, int y) {
+            const int k = x / 2;
+            return standardColors[static_cast<std::size_t>(x % 2 == 0 ? k + y : 3 * k + 5 + 7 * y) % 16];
+          }};
 }
 
 Bytes SixteenBytes(int size) {
@@ -116,10 +116,10 @@ TestRaster PaletteRaster(int size) {
   });
 }
 
-Bytes PaletteBytesOf(int firstColorEntry) {
+Bytes PaletteBytesOf(std::size_t firstColorEntry) {
   Bytes bytes(1024, 0);
-  for (int n = 0; n < 200; ++n) {
-    const auto place = static_cast<std::size_t>((firstColorEntry + n) * 4);
+  for (std::size_t n = 0; n < 200; ++n) {
+    const std::size_t place = (firstColorEntry + n) * 4;
     bytes[place] = static_cast<std::uint8_t>(n + 1);
     bytes[place + 1] = static_cast<std::uint8_t>(255 - n);
     bytes[place + 2] = static_cast<std::uint8_t>(7 * n % 256);
@@ -154,9 +154,9 @@ Bytes PalettePixelBytes(int size, int firstColorEntry) {
 
 // 24 bits: blue 4x + y, green 3y, red 5x + 2y, each mod 256.
 TestRaster TrueColorRaster(int size) {
-  return TestRaster(size, [](int x, int y) {
-    return static_cast<Color>((4 * x + y) % 256 * 0x10000 + 3 * y % 256 * 0x100 + (5 * x + 2 * y) % 256);
-  });
+  return {size, [](int x, int y) {
+            return static_cast<Color>((4 * x + y) % 256 * 0x10000 + 3 * y % 256 * 0x100 + (5 * x + 2 * y) % 256);
+          }};
 }
 
 Bytes TrueColorBytes(int size) {

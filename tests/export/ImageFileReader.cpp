@@ -58,7 +58,7 @@ std::vector<Color> ReadColors(const Reader& reader, const Header& header, std::s
     const std::size_t row = start + (height - 1 - y) * Stride(header.width, header.bits);
     for (std::size_t x = 0; x < header.width; ++x) {
       const std::size_t place =
-          header.bits == 24 ? row + 3 * x : header.paletteStart + 4 * reader.Bits(row, x, header.bits);
+          header.bits == 24 ? row + 3 * x : header.paletteStart + std::size_t{4} * reader.Bits(row, x, header.bits);
       colors.push_back(reader.BlueGreenRed(place));
     }
   }

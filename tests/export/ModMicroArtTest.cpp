@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
+#include <array>
 #include <memory>
 #include <string>
 #include <utility>
@@ -13,11 +13,12 @@
 namespace tarvik::ModMicroArt {
 namespace {
 
-constexpr BlackAndWhite eitherWay[] = {BlackAndWhite::InOrder, BlackAndWhite::InFixedSlots};
+constexpr std::array<BlackAndWhite, 2> eitherWay{BlackAndWhite::InOrder, BlackAndWhite::InFixedSlots};
 
-// `count` colours that are neither black nor white nor standard, and as many that share most of their bits.
+// `count` colours that are neither black nor white nor standard.
 std::vector<Color> OtherColors(int count) {
   std::vector<Color> colors;
+  colors.reserve(static_cast<std::size_t>(count));
   for (int number = 0; number < count; ++number) colors.push_back(0x010101U + static_cast<Color>(number) * 0x000100U);
   return colors;
 }
@@ -122,6 +123,8 @@ class LoggedIcon final : public ExtractedIcon {
   ~LoggedIcon() override { log_.push_back("release"); }
   LoggedIcon(const LoggedIcon&) = delete;
   LoggedIcon& operator=(const LoggedIcon&) = delete;
+  LoggedIcon(LoggedIcon&&) = delete;
+  LoggedIcon& operator=(LoggedIcon&&) = delete;
 
   bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
     log_.push_back("draw part " + std::to_string(static_cast<int>(part)) + " into " +

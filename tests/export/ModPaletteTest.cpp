@@ -18,6 +18,7 @@ Color NumberedColor(int number) {
 // A raster of `count` numbered colours in order, the last filling the rest.
 TestRaster NumberedRaster(int size, int count) {
   std::vector<Color> colors;
+  colors.reserve(static_cast<std::size_t>(count));
   for (int number = 0; number < count; ++number) colors.push_back(NumberedColor(number));
   return RasterOf(size, colors, NumberedColor(count - 1));
 }

@@ -70,7 +70,7 @@ class RandomPictures {
   // White where transparent; black and other colours where not.
   TestRaster Mask(int size) {
     constexpr std::array<Color, 4> choice{white, white, black, 0xFEFFFF};
-    return TestRaster(size, [&](int, int) { return choice[static_cast<std::size_t>(Number(0, 3))]; });
+    return {size, [&](int, int) { return choice[static_cast<std::size_t>(Number(0, 3))]; }};
   }
 
  private:
@@ -105,6 +105,7 @@ std::vector<bool> SeenInEightByteRows(const std::vector<bool>& bits, std::size_t
 
 std::vector<Color> BlackAndWhitePixels(const std::vector<bool>& isWhite) {
   std::vector<Color> colors;
+  colors.reserve(isWhite.size());
   for (const bool pixel : isWhite) colors.push_back(pixel ? white : black);
   return colors;
 }
@@ -241,7 +242,7 @@ std::vector<Color> ShownBy256ColorBitmap(const TestRaster& composed) {
   entries.resize(256, 0);
 
   const int size = composed.Width();
-  std::vector<Color> shown(composed.Pixels().size());
+  TestRaster shown(size, size);
   Color previous = entries[0];
   for (int y = size - 1; y >= 0; --y) {
     for (int x = 0; x < size; ++x) {
@@ -253,10 +254,10 @@ std::vector<Color> ShownBy256ColorBitmap(const TestRaster& composed) {
       } else if (std::find(entries.begin() + 1, entries.begin() + 255, color) != entries.begin() + 255) {
         previous = color;
       }
-      shown[static_cast<std::size_t>(y * size + x)] = previous;
+      shown.Set(x, y, previous);
     }
   }
-  return shown;
+  return shown.Pixels();
 }
 
 TEST(RoundTrip, BitmapsOf256ColoursShowBlackWhiteAndTheFirstColourAsMeant) {
@@ -294,19 +295,20 @@ TEST(RoundTrip, ColoursWithoutEntryInSixteenShowAsTheLastFoundForTheirHalf) {
         return pictures.Number(0, 2) == 0 ? standardColors[static_cast<std::size_t>(pictures.Number(0, 15))]
                                           : pictures.AnyColor();
       });
-      std::vector<Color> shown(image.Pixels().size());
-      Color lastOfHalf[2] = {black, black};
+      TestRaster shown(size, size);
+      std::array<Color, 2> lastOfHalf{black, black};
       for (int y = size - 1; y >= 0; --y) {
         for (int x = 0; x < size; ++x) {
+          const auto half = static_cast<std::size_t>(x % 2);
           const Color color = image.Pixel(x, y);
           if (std::find(standardColors.begin(), standardColors.end(), color) != standardColors.end()) {
-            lastOfHalf[x % 2] = color;
+            lastOfHalf.at(half) = color;
           }
-          shown[static_cast<std::size_t>(y * size + x)] = lastOfHalf[x % 2];
+          shown.Set(x, y, lastOfHalf.at(half));
         }
       }
-      EXPECT_EQ(WrittenIcon(pictures.Mask(size), image, ColorClass::Sixteen).colors, shown);
-      EXPECT_EQ(WrittenBitmap(image, ColorClass::Sixteen).colors, shown);
+      EXPECT_EQ(WrittenIcon(pictures.Mask(size), image, ColorClass::Sixteen).colors, shown.Pixels());
+      EXPECT_EQ(WrittenBitmap(image, ColorClass::Sixteen).colors, shown.Pixels());
     }
   }
 }
@@ -320,17 +322,17 @@ TEST(RoundTrip, ColoursWithoutEntryIn256ShowAsThePixelBefore) {
       const bool seen = std::find(entries.begin(), entries.end(), color) != entries.end();
       if (!seen && color != black && color != white && entries.size() < 254) entries.push_back(color);
     }
-    std::vector<Color> shown(image.Pixels().size());
+    TestRaster shown(size, size);
     Color previous = black;
     for (int y = size - 1; y >= 0; --y) {
       for (int x = 0; x < size; ++x) {
         const Color color = image.Pixel(x, y);
         const bool has = std::find(entries.begin(), entries.end(), color) != entries.end();
         if (has || color == black || color == white) previous = color;
-        shown[static_cast<std::size_t>(y * size + x)] = previous;
+        shown.Set(x, y, previous);
       }
     }
-    EXPECT_EQ(WrittenIcon(pictures.Mask(size), image, ColorClass::TwoHundredFiftySix).colors, shown);
+    EXPECT_EQ(WrittenIcon(pictures.Mask(size), image, ColorClass::TwoHundredFiftySix).colors, shown.Pixels());
     EXPECT_EQ(WrittenBitmap(image, ColorClass::TwoHundredFiftySix).colors, ShownBy256ColorBitmap(image));
   }
 }

@@ -65,8 +65,7 @@ Color ColorAt(ColorClass colors, int x, int y) {
 
 // Transparent corners, lopsided on purpose.
 TestRaster MaskOf(int size) {
-  return TestRaster(size,
-                    [size](int x, int y) { return x + 2 * y < size || 3 * x + y > 7 * size / 2 ? white : black; });
+  return {size, [size](int x, int y) { return x + 2 * y < size || 3 * x + y > 7 * size / 2 ? white : black; }};
 }
 
 bool WritePnm(const std::string& path, const TestRaster& raster, bool grey) {
@@ -98,10 +97,10 @@ int Run(const std::string& folder) {
     const char* name;
     ColorClass colors;
   };
-  constexpr NamedClass classes[] = {{"2", ColorClass::Two},
-                                    {"16", ColorClass::Sixteen},
-                                    {"256", ColorClass::TwoHundredFiftySix},
-                                    {"true", ColorClass::TrueColor}};
+  constexpr std::array<NamedClass, 4> classes{{{"2", ColorClass::Two},
+                                               {"16", ColorClass::Sixteen},
+                                               {"256", ColorClass::TwoHundredFiftySix},
+                                               {"true", ColorClass::TrueColor}}};
   for (const int size : {16, 32, 48, 64}) {
     for (const NamedClass& named : classes) {
       const std::string stem = folder + "/" + std::to_string(size) + "-" + named.name;
