@@ -29,3 +29,51 @@ need_packages() {
   as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null ||
     fail "apt-get could not install: ${missing[*]}"
 }
+
+# watch_processes: from here on every process that this script starts carries a mark in its environment, and none
+# outlives the script, however it ends: by itself, by an error, by Ctrl-C or by being asked to.
+watch_processes() {
+  export TARVIK_SCRIPT="$$-$(date +%s%N)"
+  trap end_processes EXIT
+  trap 'exit 130' INT
+  trap 'exit 143' TERM HUP
+}
+
+# marked_processes: the ids of those processes that still run.
+marked_processes() {
+  grep -lszxF "TARVIK_SCRIPT=$TARVIK_SCRIPT" /proc/[0-9]*/environ | cut -d / -f 3 || true
+}
+
+end_processes() {
+  local status=$? process round
+  trap - EXIT
+  trap '' INT TERM HUP
+  # What is started from here on is not looked for.
+  export -n TARVIK_SCRIPT
+  if [ "$(type -t end_wine)" = function ]; then end_wine; fi
+  for round in $(seq 100); do
+    [ -n "$(marked_processes)" ] || exit "$status"
+    for process in $(marked_processes); do
+      if [ "$round" -lt 50 ]; then kill "$process" 2>/dev/null || true; else kill -KILL "$process" 2>/dev/null || true; fi
+    done
+    sleep 0.1
+  done
+  fail "these processes do not end: $(marked_processes | paste -sd ' ')"
+}
+
+# watched COMMAND...: runs it so that a signal to the script is obeyed at once, not when the command is done.
+watched() {
+  "$@" &
+  wait $!
+}
+
+# quietly NAME COMMAND...: runs it with its output in build/logs/NAME.log; shows the end of that where it fails.
+quietly() {
+  local log="$root/build/logs/$1.log"
+  mkdir -p "$root/build/logs"
+  shift
+  watched "$@" >"$log" 2>&1 </dev/null && return 0
+  tail -n 80 "$log" >&2
+  printf 'error: %s failed; all of its output is in %s\n' "$1" "${log#"$root"/}" >&2
+  return 1
+}

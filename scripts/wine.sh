@@ -28,9 +28,6 @@ REGEDIT4
 [HKEY_CURRENT_USER\Software\Wine\WineDbg]
 "ShowCrashDialog"=dword:00000000
 
-[HKEY_CURRENT_USER\Software\Wine\Explorer]
-"Desktop"="Default"
-
 [HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]
 "Default"="1280x960"
 REG
@@ -39,13 +36,20 @@ REG
   touch "$WINEPREFIX/.ready"
 }
 
-# start_display: a virtual screen of our own; sets DISPLAY and display_pid.
+# lock_wine: one script at a time uses the prefix. What a killed one left running in it ends first.
+lock_wine() {
+  mkdir -p "$(dirname "$WINEPREFIX")"
+  exec 9>"$WINEPREFIX.lock"
+  flock -n 9 || fail "this project's Wine is in use by another script (./run, ./test or scripts/session); end that first"
+  wineserver -k >/dev/null 2>&1 9>&- || true
+}
+
+# start_display: a virtual screen of our own; sets DISPLAY.
 start_display() {
   local number_file
   number_file=$(mktemp)
-  Xvfb -displayfd 3 -screen 0 "${1:-1280x960x24}" -nolisten tcp 3>"$number_file" >/dev/null 2>&1 </dev/null &
-  display_pid=$!
-  for _ in $(seq 100); do
+  Xvfb -displayfd 3 -screen 0 "${1:-1280x960x24}" -nolisten tcp 3>"$number_file" >/dev/null 2>&1 </dev/null 9>&- &
+  for _ in $(seq 300); do
     [ ! -s "$number_file" ] || break
     sleep 0.1
   done
@@ -55,20 +59,24 @@ start_display() {
   rm -f "$number_file"
 }
 
-# start_wine: keeps one Wine server up, so that each program starts in milliseconds.
+# start_wine DESKTOP: keeps one Wine server up, so that each program starts in milliseconds. DESKTOP is "virtual" where
+# there is no window manager (Wine then draws a desktop and the title bars itself) and "own" where there is one.
 start_wine() {
+  lock_wine
   make_prefix
+  wine_is_up=1
   # Its services would hold this script's output open, so they get none of it.
-  wineserver -p >/dev/null 2>&1 </dev/null || true
-  wine wineboot >/dev/null 2>&1 </dev/null || fail "Wine does not start"
+  wineserver -p >/dev/null 2>&1 </dev/null 9>&- || true
+  local desktop=(delete 'HKCU\Software\Wine\Explorer' /v Desktop /f)
+  [ "$1" = own ] || desktop=(add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f)
+  # There is nothing to delete where a desktop of its own was never asked for.
+  wine reg "${desktop[@]}" >/dev/null 2>&1 </dev/null 9>&- || [ "$1" = own ] || fail "Wine refused its desktop setting"
+  wine wineboot >/dev/null 2>&1 </dev/null 9>&- || fail "Wine does not start"
 }
 
-# stop_all: ends Wine and the display that this script started.
-stop_all() {
+# end_wine: called when the script ends, however it ends.
+end_wine() {
+  [ -n "${wine_is_up:-}" ] || return 0
   wineserver -k >/dev/null 2>&1 || true
   wineserver -w >/dev/null 2>&1 || true
-  if [ -n "${display_pid:-}" ]; then
-    kill "$display_pid" 2>/dev/null || true
-    wait "$display_pid" 2>/dev/null || true
-  fi
 }
