@@ -1,0 +1,159 @@
+#include "encoders/IndexedPicture.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <span>
+
+#include "encoders/ColorReduction.h"
+
+namespace tarvik {
+namespace {
+
+constexpr std::size_t mostColors = 256;
+
+constexpr Color ColorOf(int red, int green, int blue) {
+  return static_cast<Color>(red + 256 * green + 65536 * blue);
+}
+
+// The different colours of a picture, numbered in the order they first appear.
+class ColorNumbers {
+ public:
+  // The number of the colour; a new colour gets the next one. Each call counts as one pixel.
+  std::uint32_t NumberOf(Color color) {
+    if (2 * (colors_.size() + 1) > slots_.size()) Grow();
+    std::uint32_t& slot = slots_[SlotOf(color)];
+    if (slot == empty) {
+      slot = static_cast<std::uint32_t>(colors_.size());
+      colors_.push_back({color, 0});
+    }
+    ++colors_[slot].count;
+    return slot;
+  }
+
+  const std::vector<CountedColor>& Colors() const { return colors_; }
+
+ private:
+  static constexpr std::uint32_t empty = 0xFFFFFFFF;
+
+  // The slot that holds the colour's number, or the free one where it belongs.
+  std::size_t SlotOf(Color color) const {
+    constexpr std::uint32_t goldenRatio = 0x9E3779B9;  // 2^32 divided by it: spreads near colours over all slots
+    std::size_t at = (color * goldenRatio) >> (32 - std::countr_zero(slots_.size()));
+    while (slots_[at] != empty && colors_[slots_[at]].color != color) at = (at + 1) % slots_.size();
+    return at;
+  }
+
+  void Grow() {
+    slots_.assign(slots_.size() * 2, empty);
+    for (std::uint32_t i = 0; i < colors_.size(); ++i) slots_[SlotOf(colors_[i].color)] = i;
+  }
+
+  std::vector<CountedColor> colors_;
+  std::vector<std::uint32_t> slots_ = std::vector<std::uint32_t>(1024, empty);  // a power of two
+};
+
+// The number of each pixel's colour, row by row. A run of one colour asks for its number once a pixel all the same:
+// the count is needed.
+std::vector<std::uint32_t> NumberPixels(const PixelView& picture, ColorNumbers& numbers) {
+  std::vector<std::uint32_t> pixels;
+  pixels.reserve(static_cast<std::size_t>(picture.Width()) * static_cast<std::size_t>(picture.Height()));
+  for (int y = 0; y < picture.Height(); ++y)
+    for (int x = 0; x < picture.Width(); ++x) pixels.push_back(numbers.NumberOf(picture.Pixel(x, y)));
+  return pixels;
+}
+
+// A palette of at most 256 colours, and for each colour of the picture its place in it.
+struct Mapping {
+  std::vector<Color> palette;
+  std::vector<std::uint8_t> places;
+};
+
+Mapping KeepColors(std::span<const CountedColor> colors) {
+  Mapping mapping;
+  for (const CountedColor& counted : colors) {
+    mapping.places.push_back(static_cast<std::uint8_t>(mapping.palette.size()));
+    mapping.palette.push_back(counted.color);
+  }
+  return mapping;
+}
+
+// Reduces the colours, but leaves the one numbered `kept` out of it and gives it the palette's last place.
+Mapping ReduceColors(std::vector<CountedColor> colors, std::optional<std::size_t> kept) {
+  Mapping mapping;
+  if (!kept) {
+    mapping.palette = ReduceToPalette(colors, mostColors);
+    mapping.places = NearestPlaces(colors, mapping.palette);
+    return mapping;
+  }
+  const auto at = colors.begin() + static_cast<std::ptrdiff_t>(*kept);
+  const Color keptColor = at->color;
+  colors.erase(at);
+  mapping.palette = ReduceToPalette(colors, mostColors - 1);
+  mapping.places = NearestPlaces(colors, mapping.palette);
+  mapping.places.insert(mapping.places.begin() + static_cast<std::ptrdiff_t>(*kept),
+                        static_cast<std::uint8_t>(mapping.palette.size()));
+  mapping.palette.push_back(keptColor);
+  return mapping;
+}
+
+// The step of the web palette's six levels, and how many there are of them.
+constexpr int webStep = 51;
+constexpr int webLevels = 6;
+
+constexpr int WebLevel(int channel) {
+  return (channel + webStep / 2) / webStep;
+}
+
+constexpr int WebPlace(Color color) {
+  return (WebLevel(RedOf(color)) * webLevels + WebLevel(GreenOf(color))) * webLevels + WebLevel(BlueOf(color));
+}
+
+std::vector<Color> WebPalette() {
+  std::vector<Color> palette;
+  for (int red = 0; red < webLevels; ++red)
+    for (int green = 0; green < webLevels; ++green)
+      for (int blue = 0; blue < webLevels; ++blue)
+        palette.push_back(ColorOf(red * webStep, green * webStep, blue * webStep));
+  return palette;
+}
+
+}  // namespace
+
+IndexedPicture IndexByBestPalette(const PixelView& picture, std::optional<Color> transparent) {
+  ColorNumbers numbers;
+  const std::vector<std::uint32_t> pixels = NumberPixels(picture, numbers);
+  const std::vector<CountedColor>& colors = numbers.Colors();
+
+  std::optional<std::size_t> kept;
+  if (transparent) {
+    const auto found = std::ranges::find(colors, *transparent, &CountedColor::color);
+    if (found != colors.end()) kept = static_cast<std::size_t>(found - colors.begin());
+  }
+
+  Mapping mapping = colors.size() <= mostColors ? KeepColors(colors) : ReduceColors(colors, kept);
+  IndexedPicture result{picture.Width(), picture.Height(), std::move(mapping.palette), {}, std::nullopt};
+  result.pixels.reserve(pixels.size());
+  for (const std::uint32_t number : pixels) result.pixels.push_back(mapping.places[number]);
+  if (kept) result.transparentIndex = mapping.places[*kept];
+  return result;
+}
+
+IndexedPicture IndexByWebPalette(const PixelView& picture, std::optional<Color> transparent) {
+  IndexedPicture result{picture.Width(), picture.Height(), WebPalette(), {}, std::nullopt};
+  const auto extra = static_cast<std::uint8_t>(result.palette.size());
+  result.pixels.reserve(static_cast<std::size_t>(result.width) * static_cast<std::size_t>(result.height));
+  for (int y = 0; y < result.height; ++y) {
+    for (int x = 0; x < result.width; ++x) {
+      const Color color = picture.Pixel(x, y);
+      const bool seeThrough = color == transparent;
+      if (seeThrough) result.transparentIndex = extra;
+      result.pixels.push_back(seeThrough ? extra : static_cast<std::uint8_t>(WebPlace(color)));
+    }
+  }
+  if (result.transparentIndex)
+    result.palette.push_back(result.palette[static_cast<std::size_t>(WebPlace(*transparent))]);
+  return result;
+}
+
+}  // namespace tarvik

@@ -1,0 +1,217 @@
+#include "encoders/JpegEncoder.h"
+
+#include <algorithm>
+#include <csetjmp>
+#include <cstddef>
+#include <cstdio>
+#include <exception>
+#include <span>
+#include <string_view>
+#include <utility>
+
+#include <jpeglib.h>
+
+#include "encoders/WholeFile.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int bytesOfPixel = 3;
+// A segment's length is 16 bits wide and counts its own two bytes.
+constexpr std::size_t longestComment = 65533;
+// An interleaved scan holds at most this many blocks in each of its units (ITU-T T.81, B.2.3).
+constexpr int mostBlocksInterleaved = 10;
+constexpr int lastCoefficient = 63;
+
+bool IsPresent(const SamplingFactors& factors) {
+  return factors != SamplingFactors{};
+}
+
+bool IsGreyscale(const JpegSampling& sampling) {
+  return !IsPresent(sampling[1]) && !IsPresent(sampling[2]);
+}
+
+// One component, or three: what the file header and the colour spaces know.
+bool IsWritable(const JpegSampling& sampling) {
+  const auto fits = [](const SamplingFactors& factors) {
+    return factors.horizontal >= 1 && factors.horizontal <= MAX_SAMP_FACTOR && factors.vertical >= 1 &&
+           factors.vertical <= MAX_SAMP_FACTOR;
+  };
+  return fits(sampling[0]) && (IsGreyscale(sampling) || (fits(sampling[1]) && fits(sampling[2])));
+}
+
+int BlocksInterleaved(const JpegSampling& sampling) {
+  int blocks = 0;
+  for (const SamplingFactors& factors : sampling) blocks += factors.horizontal * factors.vertical;
+  return blocks;
+}
+
+// The length of the next piece of a comment: as much as one segment holds, without cutting a character of UTF-8.
+std::size_t CommentPiece(std::string_view rest) {
+  if (rest.size() <= longestComment) return rest.size();
+  const auto continues = [&](std::size_t at) { return (static_cast<unsigned char>(rest[at]) & 0xC0U) == 0x80U; };
+  constexpr std::size_t longestCharacter = 4;
+  std::size_t length = longestComment;
+  while (length > longestComment - longestCharacter && continues(length)) --length;
+  // Bytes that are no UTF-8 have no boundary to respect.
+  return continues(length) ? longestComment : length;
+}
+
+struct Picture {
+  int width;
+  int height;
+  std::span<std::uint8_t> rgb;
+};
+
+// One run of the library, from the picture to the bytes of the file. The library reports an error through a call
+// that must not return: it jumps back to Run. So nothing between the two may hold anything with a destructor.
+class Compression {
+ public:
+  Compression(const Picture& picture, int quality, const JpegSampling& sampling, std::string_view comment)
+      : picture_(picture), quality_(quality), sampling_(sampling), comment_(comment) {
+    info_.err = jpeg_std_error(&errors_);
+    errors_.error_exit = [](j_common_ptr info) { std::longjmp(Of(info).back_, 1); };
+    errors_.output_message = [](j_common_ptr) {};
+    info_.client_data = this;
+    destination_.init_destination = [](j_compress_ptr info) { Of(info).UseWholeChunk(); };
+    destination_.empty_output_buffer = [](j_compress_ptr info) -> boolean {
+      Of(info).Keep(chunkSize);
+      Of(info).UseWholeChunk();
+      return TRUE;
+    };
+    destination_.term_destination = [](j_compress_ptr info) {
+      Of(info).Keep(chunkSize - Of(info).destination_.free_in_buffer);
+    };
+  }
+  ~Compression() { jpeg_destroy_compress(&info_); }
+  Compression(const Compression&) = delete;
+  Compression& operator=(const Compression&) = delete;
+  Compression(Compression&&) = delete;
+  Compression& operator=(Compression&&) = delete;
+
+  // True when the file is whole. Called once.
+  bool Run() {
+    if (setjmp(back_) != 0) return false;
+    jpeg_CreateCompress(&info_, JPEG_LIB_VERSION, sizeof info_);
+    info_.dest = &destination_;
+    SetParameters();
+    jpeg_start_compress(&info_, TRUE);
+    WriteComment();
+    for (int y = 0; y < picture_.height; ++y) {
+      JSAMPROW row =
+          &picture_.rgb[static_cast<std::size_t>(y) * static_cast<std::size_t>(picture_.width) * bytesOfPixel];
+      jpeg_write_scanlines(&info_, &row, 1);
+    }
+    jpeg_finish_compress(&info_);
+    return true;
+  }
+
+  std::span<const std::byte> File() const { return file_; }
+
+ private:
+  static constexpr std::size_t chunkSize = 4096;
+
+  template <typename Info>
+  static Compression& Of(Info info) {
+    return *static_cast<Compression*>(info->client_data);
+  }
+
+  void UseWholeChunk() {
+    destination_.next_output_byte = chunk_.data();
+    destination_.free_in_buffer = chunk_.size();
+  }
+
+  // Appends the first bytes of the chunk to the file. No exception may pass through the library, which is C.
+  void Keep(std::size_t length) {
+    if (!Append(length)) std::longjmp(back_, 1);
+  }
+  bool Append(std::size_t length) noexcept {
+    try {
+      const auto bytes = std::as_bytes(std::span(chunk_).first(length));
+      file_.insert(file_.end(), bytes.begin(), bytes.end());
+      return true;
+    } catch (const std::exception&) {
+      return false;
+    }
+  }
+
+  void SetParameters() {
+    info_.image_width = static_cast<JDIMENSION>(picture_.width);
+    info_.image_height = static_cast<JDIMENSION>(picture_.height);
+    info_.input_components = bytesOfPixel;
+    info_.in_color_space = JCS_RGB;
+    jpeg_set_defaults(&info_);
+    // The tables made for the picture itself save about a quarter of a small file.
+    info_.optimize_coding = TRUE;
+    if (IsGreyscale(sampling_)) jpeg_set_colorspace(&info_, JCS_GRAYSCALE);
+    jpeg_set_quality(&info_, quality_, TRUE);
+    for (int i = 0; i < info_.num_components; ++i) {
+      info_.comp_info[i].h_samp_factor = sampling_[static_cast<std::size_t>(i)].horizontal;
+      info_.comp_info[i].v_samp_factor = sampling_[static_cast<std::size_t>(i)].vertical;
+    }
+    if (!IsGreyscale(sampling_) && BlocksInterleaved(sampling_) > mostBlocksInterleaved) WriteScansApart();
+  }
+
+  // Each component in a scan of its own, which holds one block at a time whatever the factors are.
+  void WriteScansApart() {
+    for (int i = 0; i < info_.num_components; ++i) {
+      jpeg_scan_info& scan = scans_[static_cast<std::size_t>(i)];
+      scan.comps_in_scan = 1;
+      scan.component_index[0] = i;
+      scan.Se = lastCoefficient;
+    }
+    info_.scan_info = scans_.data();
+    info_.num_scans = info_.num_components;
+  }
+
+  void WriteComment() {
+    std::string_view rest = comment_;
+    while (!rest.empty()) {
+      const std::span<const std::byte> piece = std::as_bytes(std::span(rest.substr(0, CommentPiece(rest))));
+      jpeg_write_m_header(&info_, JPEG_COM, static_cast<unsigned>(piece.size()));
+      for (const std::byte byte : piece) jpeg_write_m_byte(&info_, std::to_integer<int>(byte));
+      rest.remove_prefix(piece.size());
+    }
+  }
+
+  Picture picture_;
+  int quality_;
+  JpegSampling sampling_;
+  std::string_view comment_;
+  jpeg_compress_struct info_{};
+  jpeg_error_mgr errors_{};
+  jpeg_destination_mgr destination_{};
+  std::array<jpeg_scan_info, 3> scans_{};
+  std::array<JOCTET, chunkSize> chunk_{};
+  std::vector<std::byte> file_;
+  std::jmp_buf back_{};
+};
+
+}  // namespace
+
+void JpegEncoder::SetQuality(int quality) {
+  quality_ = std::clamp(quality, 1, 100);
+}
+
+void JpegEncoder::TakePicture(const PixelView& picture) {
+  width_ = std::max(picture.Width(), 0);
+  height_ = std::max(picture.Height(), 0);
+  rgb_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_) * bytesOfPixel);
+  auto sample = rgb_.begin();
+  for (int y = 0; y < height_; ++y) {
+    for (int x = 0; x < width_; ++x) {
+      const Color color = picture.Pixel(x, y);
+      *sample++ = RedOf(color);
+      *sample++ = GreenOf(color);
+      *sample++ = BlueOf(color);
+    }
+  }
+}
+
+bool JpegEncoder::WriteFile(const std::string& path) {
+  if (rgb_.empty() || !IsWritable(sampling_)) return false;
+  Compression compression({width_, height_, rgb_}, quality_, sampling_, comment_);
+  return compression.Run() && WriteWholeFile(sink_, path, compression.File());
+}
+
+}  // namespace tarvik

@@ -1,0 +1,130 @@
+// Writes samples of what the two encoders write, and the pictures they were given, for programs nobody here wrote to
+// read back:  write_samples FOLDER
+// Each sample NAME.jpg or NAME.gif belongs to the picture PICTURE.ppm that its name starts with, up to the first ",".
+#include <cstdio>
+#include <exception>
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "TestPictures.h"
+#include "encoders/GifEncoder.h"
+#include "encoders/JpegEncoder.h"
+#include "encoders/JpegOptions.h"
+
+namespace tarvik {
+namespace {
+
+class DiskSink : public FileSink {
+ public:
+  bool Open(const std::string& path) override {
+    file_.open(path, std::ios::binary | std::ios::trunc);
+    return file_.is_open();
+  }
+  bool Write(std::span<const std::byte> bytes) override {
+    for (const std::byte byte : bytes) file_.put(static_cast<char>(byte));
+    return file_.good();
+  }
+  bool Close() override {
+    file_.close();
+    return !file_.fail();
+  }
+
+ private:
+  std::ofstream file_;
+};
+
+bool written = true;
+
+void Expect(bool status, const std::string& path) {
+  if (status) return;
+  std::cerr << "not written: " << path << '\n';
+  written = false;
+}
+
+void WritePpm(const std::string& path, const PixelView& picture) {
+  std::ofstream file(path, std::ios::binary);
+  file << "P6\n" << picture.Width() << ' ' << picture.Height() << "\n255\n";
+  for (int y = 0; y < picture.Height(); ++y)
+    for (int x = 0; x < picture.Width(); ++x)
+      for (Color rest = picture.Pixel(x, y), channel = 0; channel < 3; ++channel, rest /= 256)
+        file.put(static_cast<char>(rest % 256));
+  Expect(file.good(), path);
+}
+
+// Every sampling at quality 100, greys, and the presets; one sample with a comment.
+void WriteJpegs(const std::string& start, const PixelView& picture) {
+  DiskSink sink;
+  JpegEncoder encoder(sink);
+  encoder.TakePicture(picture);
+  const auto write = [&](const std::string& name) {
+    const std::string path = start + "," + name + ".jpg";
+    Expect(encoder.WriteFile(path), path);
+  };
+  encoder.SetQuality(highestQuality);
+  for (const std::string_view item : subSamplings) {
+    encoder.SetSampling(SamplingOf(item, false));
+    write("sampling," + std::string(item.substr(0, 1)) + "," + std::string(item.substr(2, 1)));
+  }
+  encoder.SetSampling(SamplingOf(subSamplings.front(), true));
+  write("grey");
+  encoder.SetSampling(SamplingOf(subSamplings[firstSubSampling], false));
+  encoder.SetComment("Brindle 图标 圖示");
+  for (const int quality : {1, 20, 40, 60, 80, 100}) {
+    encoder.SetQuality(quality);
+    write("quality," + std::to_string(quality));
+  }
+}
+
+void WriteGifs(const std::string& start, const PixelView& picture) {
+  DiskSink sink;
+  GifEncoder encoder(sink);
+  for (const bool transparent : {false, true}) {
+    for (const GifPalette palette : {GifPalette::BestQuality, GifPalette::Web}) {
+      const std::string path =
+          start + "," + (palette == GifPalette::Web ? "web" : "best") + (transparent ? ",transparent" : "") + ".gif";
+      Expect(encoder.WriteFile(picture, path, {transparent, picture.Pixel(0, 0), palette}), path);
+    }
+  }
+}
+
+void WriteSamples(const std::string& folder) {
+  for (const int size : {16, 32, 48, 64}) {
+    const std::string number = std::to_string(size);
+    const std::vector<std::pair<std::string, TestPicture>> pictures{
+        {"gradient" + number, Gradient(size)},
+        {"noise" + number, Noise(size, 7)},
+        {"photo" + number, Photo(size, 11)},
+    };
+    for (const auto& [name, picture] : pictures) {
+      const std::string start = folder + "/" + name;
+      WritePpm(start + ".ppm", picture);
+      WriteJpegs(start, picture);
+      WriteGifs(start, picture);
+    }
+  }
+  for (const int colors : {1, 2, 255, 256, 257, 4096}) {
+    const std::string start = folder + "/colors" + std::to_string(colors);
+    const TestPicture picture = ManyColors(64, colors);
+    WritePpm(start + ".ppm", picture);
+    WriteGifs(start, picture);
+  }
+}
+
+}  // namespace
+}  // namespace tarvik
+
+int main(int count, char** arguments) {
+  if (count != 2) {
+    std::cerr << "usage: write_samples FOLDER\n";
+    return 2;
+  }
+  try {
+    tarvik::WriteSamples(arguments[1]);
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << '\n';
+    return 1;
+  }
+  return tarvik::written ? 0 : 1;
+}
