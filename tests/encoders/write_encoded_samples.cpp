@@ -1,5 +1,5 @@
 // Writes samples of what the two encoders write, and the pictures they were given, for programs nobody here wrote to
-// read back:  write_samples FOLDER
+// read back:  write_encoded_samples FOLDER
 // Each sample NAME.jpg or NAME.gif belongs to the picture PICTURE.ppm that its name starts with, up to the first ",".
 #include <cstdio>
 #include <exception>
@@ -117,7 +117,7 @@ void WriteSamples(const std::string& folder) {
 
 int main(int count, char** arguments) {
   if (count != 2) {
-    std::cerr << "usage: write_samples FOLDER\n";
+    std::cerr << "usage: write_encoded_samples FOLDER\n";
     return 2;
   }
   try {
