@@ -8,9 +8,10 @@
 namespace tarvik {
 namespace {
 
-constexpr std::uint64_t chunkHeaderSize = 8;  // a type of four characters and the size of the data
-constexpr std::uint64_t listTypeSize = 4;     // a list's data starts with the list's own type
-constexpr std::uint64_t stepCountOffset = 8;  // in the data of "anih", after its own size and the picture count
+constexpr std::uint64_t chunkHeaderSize = 8;     // a type of four characters and the size of the data
+constexpr std::uint64_t listTypeSize = 4;        // a list's data starts with the list's own type
+constexpr std::uint64_t pictureCountOffset = 4;  // in the data of "anih", after its own size
+constexpr std::uint64_t stepCountOffset = 8;     // after the picture count
 constexpr std::uint64_t sequenceEntrySize = 4;
 
 // A type of four characters as the number that stands for it in a file.
@@ -84,12 +85,13 @@ void ForEachChunk(BlockReader& file, std::uint64_t from, std::uint64_t end, cons
 // What a file says of its steps. Where a chunk stands more than once, the largest counts: whichever of them
 // the platform takes, it draws no more steps.
 struct Findings {
+  std::uint64_t headerPictures = 0;
   std::uint64_t headerSteps = 0;
   std::uint64_t sequenceEntries = 0;
   std::uint64_t pictures = 0;
   bool hasSequence = false;
 
-  std::uint64_t Steps() const { return std::min(headerSteps, hasSequence ? sequenceEntries : pictures); }
+  std::uint64_t HeldSteps() const { return hasSequence ? sequenceEntries : pictures; }
 };
 
 void CountPictures(BlockReader& file, const Chunk& list, Findings& findings) {
@@ -101,6 +103,8 @@ void CountPictures(BlockReader& file, const Chunk& list, Findings& findings) {
 
 void Note(BlockReader& file, const Chunk& chunk, Findings& findings) {
   if (chunk.type == headerType && chunk.size >= stepCountOffset + 4) {
+    findings.headerPictures =
+        std::max<std::uint64_t>(findings.headerPictures, file.Number(chunk.data + pictureCountOffset));
     findings.headerSteps = std::max<std::uint64_t>(findings.headerSteps, file.Number(chunk.data + stepCountOffset));
   } else if (chunk.type == sequenceType) {
     findings.hasSequence = true;
@@ -110,16 +114,29 @@ void Note(BlockReader& file, const Chunk& chunk, Findings& findings) {
   }
 }
 
+// What the file says and holds; nothing where it is no animation.
+Findings Inspect(ByteSource& source) {
+  Findings findings;
+  BlockReader file(source);
+  if (file.Number(0) != riffType || file.Number(chunkHeaderSize) != animationType) return findings;
+  // The size that the file states for itself is often wrong and never needed.
+  ForEachChunk(file, chunkHeaderSize + listTypeSize, file.Size(),
+               [&](const Chunk& chunk) { Note(file, chunk, findings); });
+  return findings;
+}
+
 }  // namespace
 
 int MostAnimationSteps(ByteSource& file) {
-  BlockReader reader(file);
-  if (reader.Number(0) != riffType || reader.Number(chunkHeaderSize) != animationType) return 0;
-  Findings findings;
-  // The size that the file states for itself is often wrong and never needed.
-  ForEachChunk(reader, chunkHeaderSize + listTypeSize, reader.Size(),
-               [&](const Chunk& chunk) { Note(reader, chunk, findings); });
-  return static_cast<int>(std::min<std::uint64_t>(findings.Steps(), std::numeric_limits<int>::max()));
+  const Findings findings = Inspect(file);
+  const std::uint64_t steps = std::min(findings.headerSteps, findings.HeldSteps());
+  return static_cast<int>(std::min<std::uint64_t>(steps, std::numeric_limits<int>::max()));
+}
+
+bool HoldsWhatItSays(ByteSource& file) {
+  const Findings findings = Inspect(file);
+  return findings.pictures > 0 && findings.headerPictures <= findings.pictures &&
+         findings.headerSteps <= findings.HeldSteps();
 }
 
 }  // namespace tarvik

@@ -149,5 +149,31 @@ TEST(MostAnimationSteps, FindsNothingInAFileThatCannotBeRead) {
   EXPECT_EQ(MostAnimationSteps(file), 0);
 }
 
+bool IsWhole(const std::string& bytes) {
+  BytesInMemory file(bytes);
+  return HoldsWhatItSays(file);
+}
+
+TEST(HoldsWhatItSays, IsTrueOfAWholeAnimation) {
+  EXPECT_TRUE(IsWhole(Animation(Header(8, 8) + Pictures(8))));
+  EXPECT_TRUE(IsWhole(Animation(Header(2, 5) + Sequence(5) + Pictures(2))));
+  EXPECT_TRUE(IsWhole(Animation(Header(2, 2) + Pictures(3))));
+}
+
+TEST(HoldsWhatItSays, IsFalseWhereTheHeaderSaysMoreThanThereIs) {
+  EXPECT_FALSE(IsWhole(Animation(Header(3, 2) + Pictures(2)))) << "pictures";
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 3) + Pictures(2)))) << "steps";
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 6) + Sequence(5) + Pictures(2)))) << "steps in an order";
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 0x40000001) + Sequence(5) + Pictures(2))));
+  EXPECT_FALSE(IsWhole(Animation(Header(0xFFFFFFFF, 2) + Pictures(2))));
+}
+
+TEST(HoldsWhatItSays, IsFalseOfWhatIsNoAnimation) {
+  EXPECT_FALSE(IsWhole(""));
+  EXPECT_FALSE(IsWhole(Animation("")));
+  EXPECT_FALSE(IsWhole(Animation(Header(0, 0))));
+  EXPECT_FALSE(IsWhole(Chunk("RIFF", "WAVE" + Header(2, 2) + Pictures(2))));
+}
+
 }  // namespace
 }  // namespace tarvik
