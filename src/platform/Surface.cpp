@@ -90,10 +90,14 @@ void Surface::Clear(Color color) {
   for (int y = 1; y < height_; ++y) std::copy_n(first, rowBytes, first + rowBytes * static_cast<std::size_t>(y));
 }
 
+void Surface::Combine(const Surface& source, DWORD operation) {
+  BitBlt(Dc(), 0, 0, std::min(width_, source.width_), std::min(height_, source.height_), source.Dc(), 0, 0, operation);
+}
+
 void Surface::Resize(int width, int height, Color background) {
   if (width == width_ && height == height_) return;
   Surface resized(width, height, background);
-  BitBlt(resized.Dc(), 0, 0, std::min(width, width_), std::min(height, height_), Dc(), 0, 0, SRCCOPY);
+  resized.Combine(*this, SRCCOPY);
   std::swap(width_, resized.width_);
   std::swap(height_, resized.height_);
   std::swap(section_, resized.section_);

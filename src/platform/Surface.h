@@ -36,6 +36,9 @@ class Surface final : public DcSurface, public PixelView {
 
   // Makes every pixel `color`.
   void Clear(Color color);
+  // Draws `source` over it, corner on corner, as far as both go; `operation` is one of GDI's ternary raster operations
+  // (SRCCOPY, SRCAND, SRCINVERT ...).
+  void Combine(const Surface& source, DWORD operation);
   // Changes the size. What was drawn stays where both sizes hold it; the rest becomes `background`.
   void Resize(int width, int height, Color background);
 

@@ -32,5 +32,14 @@ TEST(Surface, KeepsThePictureWhenItsSizeChanges) {
   EXPECT_EQ(surface.Pixel(0, 3), black);
 }
 
+TEST(Surface, CombinesWithAnotherByARasterOperation) {
+  Surface surface(3, 2, 0x0F0F0F);
+  surface.Combine(Surface(2, 5, 0x333333), SRCAND);
+  EXPECT_EQ(surface.Pixel(1, 1), 0x030303U);
+  EXPECT_EQ(surface.Pixel(2, 1), 0x0F0F0FU);
+  surface.Combine(Surface(3, 2, 0xFF0000), SRCINVERT);
+  EXPECT_EQ(surface.Pixel(0, 0), 0xFC0303U);
+}
+
 }  // namespace
 }  // namespace tarvik

@@ -1,0 +1,53 @@
+#include "platform/Clipboard.h"
+
+#include "platform/Handles.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int attempts = 10;
+constexpr DWORD pauseMilliseconds = 10;
+
+// The clipboard, open for this program while it lives, where that could be had.
+class OpenedClipboard {
+ public:
+  explicit OpenedClipboard(HWND owner) {
+    for (int attempt = 1; !(opened_ = OpenClipboard(owner) != 0) && attempt < attempts; ++attempt)
+      Sleep(pauseMilliseconds);
+  }
+  ~OpenedClipboard() {
+    if (opened_) CloseClipboard();
+  }
+  OpenedClipboard(const OpenedClipboard&) = delete;
+  OpenedClipboard& operator=(const OpenedClipboard&) = delete;
+
+  explicit operator bool() const { return opened_; }
+
+ private:
+  bool opened_ = false;
+};
+
+// A bitmap as the screen has them: the memory of a DIB section belongs to this process, so others cannot read one.
+BitmapHandle ScreenBitmap(const Surface& picture) {
+  const WindowDc screen(nullptr);
+  BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), picture.Width(), picture.Height()));
+  const MemoryDc dc(CreateCompatibleDC(screen.get()));
+  if (!bitmap || !dc) return {};
+  const Selected selected(dc.get(), bitmap.get());
+  BitBlt(dc.get(), 0, 0, picture.Width(), picture.Height(), picture.Dc(), 0, 0, SRCCOPY);
+  return bitmap;
+}
+
+}  // namespace
+
+bool CopyToClipboard(const Surface& picture, HWND owner) {
+  BitmapHandle bitmap = ScreenBitmap(picture);
+  if (!bitmap) return false;
+  const OpenedClipboard clipboard(owner);
+  if (!clipboard || EmptyClipboard() == 0) return false;
+  if (SetClipboardData(CF_BITMAP, bitmap.get()) == nullptr) return false;
+  bitmap.release();  // the clipboard owns it now
+  return true;
+}
+
+}  // namespace tarvik

@@ -1,0 +1,106 @@
+#include "platform/DiskFile.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <span>
+
+#include "platform/Paths.h"
+#include "platform/Text.h"
+
+namespace tarvik {
+namespace {
+
+constexpr std::size_t blockSize = std::size_t{64} * 1024;
+
+// A path of common length goes as it is, so that names of devices are known for what they are.
+std::wstring SystemPath(const std::string& path) {
+  return path.size() < MAX_PATH ? ToWide(path) : LiteralPath(path);
+}
+
+FileHandle OpenForWriting(const std::wstring& path, DWORD disposition) {
+  return FileHandle(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+bool IsDiskFile(const FileHandle& file) {
+  return file && GetFileType(file.get()) == FILE_TYPE_DISK;
+}
+
+// True for what may be replaced: a file that is not read-only, and a link that leads nowhere.
+bool IsReplaceable(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return true;
+  if ((attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) return false;
+  constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  return IsDiskFile(
+      FileHandle(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, shareAll, nullptr, OPEN_EXISTING, 0, nullptr)));
+}
+
+// A new, empty file in the same folder; empty where there can be none.
+std::wstring MakeSibling(const std::wstring& path) {
+  constexpr int attempts = 100;
+  const std::wstring stem = path.substr(0, path.rfind(L'\\') + 1) + L"tarvik" + std::to_wstring(GetCurrentProcessId());
+  for (int attempt = 0; attempt < attempts; ++attempt) {
+    std::wstring sibling = stem + L'-' + std::to_wstring(attempt) + L".tmp";
+    if (OpenForWriting(sibling, CREATE_NEW)) return sibling;
+    if (GetLastError() != ERROR_FILE_EXISTS) break;
+  }
+  return {};
+}
+
+// Puts an empty file in the place of the one at the path. It is moved there and the former one not deleted, because a
+// move never follows a link.
+bool Replace(const std::wstring& path) {
+  if (!IsReplaceable(path)) return false;
+  const std::wstring sibling = MakeSibling(path);
+  if (sibling.empty()) return false;
+  if (MoveFileExW(sibling.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING) != 0) return true;
+  DeleteFileW(sibling.c_str());
+  return false;
+}
+
+}  // namespace
+
+bool DiskFile::Open(const std::string& path) {
+  const std::wstring systemPath = SystemPath(path);
+  gathered_.clear();
+  file_ = OpenForWriting(systemPath, CREATE_NEW);
+  if (!file_ && GetLastError() == ERROR_FILE_EXISTS && Replace(systemPath))
+    file_ = OpenForWriting(systemPath, TRUNCATE_EXISTING);
+  if (!IsDiskFile(file_)) file_.reset();
+  return static_cast<bool>(file_);
+}
+
+bool DiskFile::Write(std::span<const std::byte> bytes) {
+  if (!file_) return false;
+  if (gathered_.size() + bytes.size() > blockSize && !Flush()) return false;
+  if (bytes.size() >= blockSize) return WriteThrough(bytes);
+  gathered_.insert(gathered_.end(), bytes.begin(), bytes.end());
+  return true;
+}
+
+bool DiskFile::Close() {
+  const bool complete = file_ && Flush();
+  file_.reset();
+  return complete;
+}
+
+bool DiskFile::WriteThrough(std::span<const std::byte> bytes) {
+  constexpr std::size_t mostAtOnce = std::size_t{1} << 30U;  // the call counts in 32 bits
+  while (!bytes.empty()) {
+    const auto part = bytes.first(std::min(bytes.size(), mostAtOnce));
+    DWORD written = 0;
+    if (WriteFile(file_.get(), part.data(), static_cast<DWORD>(part.size()), &written, nullptr) == 0 || written == 0)
+      return false;
+    bytes = bytes.subspan(written);
+  }
+  return true;
+}
+
+bool DiskFile::Flush() {
+  const bool written = WriteThrough(gathered_);
+  gathered_.clear();
+  return written;
+}
+
+}  // namespace tarvik

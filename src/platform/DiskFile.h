@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "export/FileSink.h"
+#include "platform/Handles.h"
+
+namespace tarvik {
+
+// A file on disk being written. A file that stands at its path is replaced as a whole: nothing of it remains, and of a
+// link the link itself is replaced, not what it stands for. A folder, a read-only file and a device are refused. Bytes
+// are gathered and written in large blocks, so a full disk may show only when the file is closed.
+class DiskFile final : public FileSink {
+ public:
+  bool Open(const std::string& path) override;
+  bool Write(std::span<const std::byte> bytes) override;
+  bool Close() override;
+
+ private:
+  bool WriteThrough(std::span<const std::byte> bytes);
+  bool Flush();
+
+  FileHandle file_;
+  std::vector<std::byte> gathered_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,97 @@
+#include "platform/ShellIcons.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <utility>
+
+#include "platform/FaultGuard.h"
+#include "platform/FileBytes.h"
+#include "platform/Handles.h"
+#include "platform/Surface.h"
+#include "search/AnimationHeader.h"
+#include "search/IconList.h"
+
+namespace tarvik {
+namespace {
+
+constexpr UINT countIndex = UINT_MAX;  // -1: how many icons there are
+constexpr UINT noFile = UINT_MAX;      // what the shell answers for a file it cannot read
+
+class PlatformIcon final : public ExtractedIcon {
+ public:
+  PlatformIcon(IconHandle icon, int stepBound) : icon_(std::move(icon)), stepBound_(stepBound) {}
+
+  bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
+    if (step < 0 || step >= stepBound_) return false;
+    // Every surface icons are drawn on has a device context.
+    const HDC dc = static_cast<DcSurface&>(surface).Dc();
+    return DrawIconEx(dc, corner.x, corner.y, icon_.get(), size, size, static_cast<UINT>(step), nullptr,
+                      static_cast<UINT>(part)) != 0;
+  }
+
+  int StepBound() const override { return stepBound_; }
+
+ private:
+  IconHandle icon_;
+  int stepBound_;
+};
+
+IconHandle ExtractLarge(const std::string& path, int index) {
+  HICON large = nullptr;
+  UINT extracted = 0;
+  // The small icon is not asked for: nobody draws it, and its handle would have to be destroyed too.
+  const bool finished = SurvivesFault([&] { extracted = ExtractIconExA(path.c_str(), index, &large, nullptr, 1); });
+  // Only a success says that the handle means something: Wine leaves other values in it than it found.
+  return finished && extracted != 0 && extracted != noFile ? IconHandle(large) : IconHandle();
+}
+
+IconHandle LoadCursorFile(const std::string& path) {
+  HANDLE cursor = nullptr;
+  const bool finished = SurvivesFault([&] {
+    cursor = LoadImageA(nullptr, path.c_str(), IMAGE_CURSOR, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON),
+                        LR_LOADFROMFILE);
+  });
+  return finished ? IconHandle(static_cast<HICON>(cursor)) : IconHandle();
+}
+
+std::unique_ptr<ExtractedIcon> Drawable(IconHandle icon, int stepBound) {
+  if (!icon) return nullptr;
+  return std::make_unique<PlatformIcon>(std::move(icon), stepBound);
+}
+
+// A cursor file starts with a zero and this number, an icon file with a zero and 1; both of 16 bits.
+bool IsStillCursor(ByteSource& file) {
+  std::array<std::byte, 4> start{};
+  constexpr std::array cursorStart{std::byte{0}, std::byte{0}, std::byte{2}, std::byte{0}};
+  return file.Read(0, start) && start == cursorStart;
+}
+
+// A picture of a file named ".ani": an animated cursor or, misnamed, a still picture.
+std::unique_ptr<ExtractedIcon> ExtractSteps(const std::string& path, int index) {
+  FileBytes file(path);
+  const int steps = MostAnimationSteps(file);
+  IconHandle icon = ExtractLarge(path, index);
+  if (!icon && (HoldsWhatItSays(file) || IsStillCursor(file))) icon = LoadCursorFile(path);
+  return Drawable(std::move(icon), std::max(steps, 1));
+}
+
+}  // namespace
+
+int ShellIcons::CountIcons(const std::string& path) {
+  UINT count = 0;
+  const bool finished =
+      SurvivesFault([&] { count = ExtractIconExA(path.c_str(), static_cast<int>(countIndex), nullptr, nullptr, 0); });
+  return finished && count <= INT_MAX ? static_cast<int>(count) : 0;
+}
+
+std::unique_ptr<ExtractedIcon> ShellIcons::Extract(const std::string& path, int index) {
+  if (IsAnimatedCursorName(path)) return ExtractSteps(path, index);
+  return Drawable(ExtractLarge(path, index), 1);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "export/PixelView.h"
+
+namespace tarvik::testing {
+
+using Bytes = std::vector<std::byte>;
+
+// One picture of an icon file: the left half of its upper half in one colour, the right half in another, its lower
+// half transparent.
+struct IconPicture {
+  int size = 32;  // both sides, even
+  int bits = 24;  // a pixel: 1, 4, 8, 24 or 32
+  Bytes data;     // as it stands in the file
+};
+
+// A picture as a device-independent bitmap with its mask.
+IconPicture BitmapPicture(int size, int bits, Color left, Color right);
+// A picture as PNG.
+IconPicture PngPicture(int size, Color left, Color right);
+
+enum class IconFileKind : std::uint16_t { Icon = 1, Cursor = 2 };
+
+// A file of one or more pictures.
+Bytes IconFile(std::span<const IconPicture> pictures, IconFileKind kind = IconFileKind::Icon);
+// A file of one picture of 32 pixels in one colour.
+Bytes IconFileOf(Color color, IconFileKind kind = IconFileKind::Icon);
+
+// What an animation says of itself, where it differs from what it has.
+struct AnimationClaims {
+  std::vector<std::uint32_t> sequence = {};  // the picture of each step; empty: as they stand in the file
+  std::optional<std::uint32_t> frames = {};
+  std::optional<std::uint32_t> steps = {};
+  std::optional<std::uint32_t> listSize = {};  // of the chunk that holds the pictures
+};
+
+// An animated cursor with a picture in each of the colours.
+Bytes AnimationFile(std::span<const Color> colors, const AnimationClaims& claims = {});
+
+// Gives a program or library file an icon for each of the pictures.
+void AddIcons(const std::string& path, std::span<const IconPicture> pictures);
+
+}  // namespace tarvik::testing

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarvik::testing {
+
+// A folder of this test's own, gone with all that is in it when the test ends. Paths are UTF-8 and may be of any
+// length; a failure to make something fails the test.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  ~TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+  const std::string& Path() const { return path_; }
+  // The path of something in it, whether or not it exists.
+  std::string In(std::string_view name) const;
+
+  // Each makes something in it and gives its path. Names may have parts ("a\b"); folders on the way must exist.
+  std::string MakeFolder(std::string_view name) const;
+  std::string MakeFile(std::string_view name, std::span<const std::byte> bytes) const;
+  std::string MakeFile(std::string_view name, std::string_view text = "x") const;
+  // A symbolic link to a folder or to a file.
+  std::string MakeLink(std::string_view name, const std::string& target);
+
+ private:
+  std::string path_;
+  std::vector<std::wstring> links_;
+};
+
+// Adds attributes (FILE_ATTRIBUTE_...) to a file or folder.
+void AddAttributes(const std::string& path, unsigned long attributes);
+
+// All bytes of a file; empty where it cannot be read.
+std::string ReadAll(const std::string& path);
+
+}  // namespace tarvik::testing
