@@ -53,6 +53,11 @@ std::vector<std::string> FolderChain(const std::string& path) {
   return chain;
 }
 
+std::string ParentFolder(const std::string& path) {
+  const std::vector<std::string> chain = FolderChain(path);
+  return chain.size() < 2 ? path : chain[chain.size() - 2];
+}
+
 std::string FolderName(const std::string& path) {
   if (path.size() <= RootLength(path)) return path;
   return path.substr(path.find_last_of(separator) + 1);
@@ -60,7 +65,7 @@ std::string FolderName(const std::string& path) {
 
 std::string JoinPath(std::string_view folder, std::string_view name) {
   std::string path(folder);
-  if (!path.ends_with(separator)) path += separator;
+  if (!path.empty() && !path.ends_with(separator)) path += separator;
   return path.append(name);
 }
 

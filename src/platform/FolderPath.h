@@ -14,6 +14,9 @@ std::string TidyFolderPath(std::string_view path);
 // The folders from the root down to `path`, itself included: "C:\", "C:\a", "C:\a\b".
 std::vector<std::string> FolderChain(const std::string& path);
 
+// The folder that holds `path`; the path itself where it is a root.
+std::string ParentFolder(const std::string& path);
+
 // The last name of a path, or the path where it is a root.
 std::string FolderName(const std::string& path);
 

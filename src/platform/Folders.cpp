@@ -7,6 +7,7 @@
 #include <array>
 #include <utility>
 
+#include "platform/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"

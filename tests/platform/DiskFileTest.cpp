@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/FolderPath.h"
 #include "platform/Folders.h"
 #include "platform/Paths.h"
 #include "platform/TemporaryFolder.h"

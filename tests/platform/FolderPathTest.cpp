@@ -26,6 +26,13 @@ TEST(FolderChain, GoesFromTheRootDownToTheFolderItself) {
   EXPECT_EQ(FolderChain(""), Chain{});
 }
 
+TEST(ParentFolder, IsOneUpAndStopsAtTheRoot) {
+  EXPECT_EQ(ParentFolder("C:\\a\\b"), "C:\\a");
+  EXPECT_EQ(ParentFolder("C:\\a"), "C:\\");
+  EXPECT_EQ(ParentFolder("C:\\"), "C:\\");
+  EXPECT_EQ(ParentFolder("\\\\server\\share"), "\\\\server\\share");
+}
+
 TEST(FolderName, IsTheLastNameOrTheRoot) {
   EXPECT_EQ(FolderName("C:\\Windows\\图标"), "图标");
   EXPECT_EQ(FolderName("C:\\"), "C:\\");

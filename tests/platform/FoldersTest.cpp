@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "platform/FolderPath.h"
 #include "platform/Paths.h"
 #include "platform/TemporaryFolder.h"
 
@@ -26,8 +27,8 @@ Names Files(const std::string& folder, const std::string& pattern = allFiles) {
 Names SubFolderNames(const std::string& folder) {
   Names names;
   for (const std::string& path : Folders().SubFolders(folder)) {
-    EXPECT_EQ(JoinPath(folder, LastName(path)), path);
-    names.emplace_back(LastName(path));
+    EXPECT_EQ(JoinPath(folder, FolderName(path)), path);
+    names.emplace_back(FolderName(path));
   }
   return names;
 }
@@ -92,7 +93,7 @@ TEST(Folders, ReadsPathsOfAnyLength) {
     EXPECT_TRUE(IsReadableFolder(path)) << path.size();
   }
   EXPECT_EQ(SubFolderNames(folder.Path()), Names{part});
-  const std::string deepest = ParentFolders(folder.In(name)).back();
+  const std::string deepest = ParentFolder(folder.In(name));
   EXPECT_EQ(SubFolderNames(deepest), Names{part});
 }
 

@@ -3,39 +3,11 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include "platform/FolderPath.h"
 #include "platform/Text.h"
 
 namespace tarvik {
 namespace {
-
-using Folders = std::vector<std::string>;
-
-TEST(Paths, JoinsWithOneBackslash) {
-  EXPECT_EQ(JoinPath(R"(C:\Windows)", "Fonts"), R"(C:\Windows\Fonts)");
-  EXPECT_EQ(JoinPath(R"(C:\)", "Windows"), R"(C:\Windows)");
-  EXPECT_EQ(JoinPath(R"(\\server\share)", "a"), R"(\\server\share\a)");
-}
-
-TEST(Paths, GivesTheParentsOutermostFirst) {
-  EXPECT_EQ(ParentFolders(R"(C:\Windows\Fonts\a)"), (Folders{R"(C:\)", R"(C:\Windows)", R"(C:\Windows\Fonts)"}));
-  EXPECT_EQ(ParentFolders(R"(C:\Windows)"), (Folders{R"(C:\)"}));
-  EXPECT_EQ(ParentFolders(R"(C:\Windows\)"), (Folders{R"(C:\)"}));
-  EXPECT_EQ(ParentFolders(R"(\\server\share\a\b)"), (Folders{R"(\\server\share)", R"(\\server\share\a)"}));
-}
-
-TEST(Paths, GivesNoParentsOfARoot) {
-  for (const char* root : {R"(C:\)", R"(\\server\share)", R"(\\server)", "C:", "a", ""}) {
-    EXPECT_EQ(ParentFolders(root), Folders{}) << root;
-  }
-}
-
-TEST(Paths, NamesTheLastPart) {
-  EXPECT_EQ(LastName(R"(C:\Windows\Fonts)"), "Fonts");
-  EXPECT_EQ(LastName(R"(C:\Windows\)"), "Windows");
-  EXPECT_EQ(LastName(R"(C:\)"), R"(C:\)");
-  EXPECT_EQ(LastName(R"(\\server\share)"), R"(\\server\share)");
-  EXPECT_EQ(LastName(R"(\\server\share\图标)"), "图标");
-}
 
 TEST(Paths, MakesLiteralPathsOfDrivesAndShares) {
   EXPECT_EQ(LiteralPath(R"(C:\a)"), LR"(\\?\C:\a)");
@@ -46,8 +18,8 @@ TEST(Paths, MakesLiteralPathsOfDrivesAndShares) {
 }
 
 TEST(Paths, FindsTheProgramAndItsFolder) {
-  EXPECT_EQ(LastName(ProgramPath()), "window_tests.exe");
-  EXPECT_EQ(JoinPath(ProgramFolder(), LastName(ProgramPath())), ProgramPath());
+  EXPECT_EQ(FolderName(ProgramPath()), "window_tests.exe");
+  EXPECT_EQ(JoinPath(ProgramFolder(), FolderName(ProgramPath())), ProgramPath());
 }
 
 TEST(Paths, FindsTheFoldersOfTheSystem) {

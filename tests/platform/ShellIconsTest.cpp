@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/FolderPath.h"
 #include "platform/GdiObjects.h"
 #include "platform/IconFiles.h"
 #include "platform/Paths.h"
