@@ -43,7 +43,8 @@ class BytePicture final : public PixelView {
   int Height() const override { return size_; }
   Color Pixel(int x, int y) const override {
     if (bytes_.empty()) return black;
-    const auto number = static_cast<std::size_t>(y * size_ + x);
+    const std::size_t number =
+        static_cast<std::size_t>(y) * static_cast<std::size_t>(size_) + static_cast<std::size_t>(x);
     const auto at = [&](std::size_t part) { return Color{bytes_[(start_ + number * 3 + part) % bytes_.size()]}; };
     return at(0) << 16U | at(1) << 8U | at(2);
   }
@@ -108,7 +109,7 @@ void WriteAll(Input& input) {
   const int size = sizes[input.Byte() % sizes.size()];
   const std::uint8_t choice = input.Byte();
   const int failingStep = input.Byte() - 128;  // mostly none
-  const ModMicroArtFileIO::HotSpot hotSpot{input.Byte() - 128, input.Byte() * 128};
+  const ModMicroArtFileIO::HotSpot hotSpot{input.Byte() - 128, std::int64_t{input.Byte()} * 128};
   const BytePicture image(size, input.Rest(), 0);
   const BytePicture mask(size, input.Rest(), 1);
 

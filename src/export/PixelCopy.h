@@ -12,10 +12,8 @@ namespace tarvik {
 class PixelCopy {
  public:
   explicit PixelCopy(const PixelView& view) : width_(view.Width()), height_(view.Height()) {
-    const auto rowLength = static_cast<std::size_t>(width_);
-    pixels_.resize(rowLength * static_cast<std::size_t>(height_));
-    const std::span<Color> all(pixels_);
-    for (int y = 0; y < height_; ++y) view.ReadRow(y, all.subspan(rowLength * static_cast<std::size_t>(y), rowLength));
+    pixels_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
+    view.CopyPixels(pixels_);
   }
 
   int Width() const { return width_; }    // in pixels

@@ -31,10 +31,13 @@ class PixelView {
   virtual int Height() const = 0;  // in pixels
   // The pixel at (x, y), 0 <= x < Width(), 0 <= y < Height().
   virtual Color Pixel(int x, int y) const = 0;
-  // Copies row y, left to right, into `row`, which holds Width() colours. Whoever reads a whole picture takes rows: a
-  // picture in memory hands them out far quicker than pixel by pixel.
-  virtual void ReadRow(int y, std::span<Color> row) const {
-    for (int x = 0; x < Width(); ++x) row[static_cast<std::size_t>(x)] = Pixel(x, y);
+  // Copies all pixels, row by row from the top, into `pixels`, which holds Width() times Height() colours. A picture in
+  // memory hands them out far quicker than pixel by pixel.
+  virtual void CopyPixels(std::span<Color> pixels) const {
+    std::size_t place = 0;
+    for (int y = 0; y < Height(); ++y) {
+      for (int x = 0; x < Width(); ++x) pixels[place++] = Pixel(x, y);
+    }
   }
 };
 

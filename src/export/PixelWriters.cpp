@@ -1,5 +1,6 @@
 #include "export/PixelWriters.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -51,9 +52,11 @@ void Write1Bit(const PixelCopy& pixels, ByteWriter& file) {
   for (int y = pixels.Height() - 1; y >= 0; --y) {
     const std::span<const Color> row = pixels.Row(y);
     const std::span<std::byte> bytes = file.Zeros(RowBytes1Bit(pixels.Width()));
-    for (std::size_t x = 0; x < row.size(); ++x) {
-      const auto bit = static_cast<std::uint8_t>(row[x] == white);
-      bytes[x / pixelsPerByte1Bit] |= std::byte{bit} << (pixelsPerByte1Bit - 1 - x % pixelsPerByte1Bit);
+    for (std::size_t x = 0; x < row.size(); x += pixelsPerByte1Bit) {
+      const std::span<const Color> group = row.subspan(x, std::min(pixelsPerByte1Bit, row.size() - x));
+      unsigned bits = 0;
+      for (const Color color : group) bits = bits * 2 + (color == white ? 1U : 0U);
+      bytes[x / pixelsPerByte1Bit] = static_cast<std::byte>(bits << (pixelsPerByte1Bit - group.size()));
     }
   }
 }
@@ -62,11 +65,12 @@ void Write4Bit(const PixelCopy& pixels, ByteWriter& file) {
   std::array<int, pixelsPerByte4Bit> lastFound{};
   for (int y = pixels.Height() - 1; y >= 0; --y) {
     const std::span<const Color> row = pixels.Row(y);
+    const std::span<std::byte> bytes = file.Zeros((row.size() + pixelsPerByte4Bit - 1) / pixelsPerByte4Bit);
     for (std::size_t x = 0; x < row.size(); x += pixelsPerByte4Bit) {
       for (std::size_t half = 0; half < pixelsPerByte4Bit && x + half < row.size(); ++half) {
         lastFound[half] = ModPalette::SixteenColorIndex(row[x + half]).value_or(lastFound[half]);
       }
-      file.U8(static_cast<std::uint8_t>(lastFound[0] * 16 + lastFound[1]));
+      bytes[x / pixelsPerByte4Bit] = static_cast<std::byte>(lastFound[0] * 16 + lastFound[1]);
     }
   }
 }
@@ -75,9 +79,11 @@ void Write8Bit(const PixelCopy& pixels, const ModPalette::Palette256& palette, B
   const ColorIndex entries = EntriesOf(palette);
   int previous = 0;
   for (int y = pixels.Height() - 1; y >= 0; --y) {
-    for (const Color color : pixels.Row(y)) {
-      previous = entries.Find(color).value_or(previous);
-      file.U8(static_cast<std::uint8_t>(previous));
+    const std::span<const Color> row = pixels.Row(y);
+    const std::span<std::byte> bytes = file.Zeros(row.size());
+    for (std::size_t x = 0; x < row.size(); ++x) {
+      previous = entries.Find(row[x]).value_or(previous);
+      bytes[x] = static_cast<std::byte>(previous);
     }
   }
 }

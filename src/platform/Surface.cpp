@@ -68,12 +68,13 @@ Color Surface::Pixel(int x, int y) const {
                  static_cast<std::size_t>(x) * bytesPerPixel);
 }
 
-void Surface::ReadRow(int y, std::span<Color> row) const {
+void Surface::CopyPixels(std::span<Color> pixels) const {
   GdiFlush();
-  const std::uint8_t* pixel = section_->bits + RowBytes(width_) * static_cast<std::size_t>(y);
-  for (Color& color : row) {
-    color = ColorAt(pixel);
-    pixel += bytesPerPixel;
+  const std::uint8_t* row = section_->bits;
+  auto place = pixels.begin();
+  for (int y = 0; y < height_; ++y, row += RowBytes(width_)) {
+    const std::uint8_t* pixel = row;
+    for (int x = 0; x < width_; ++x, pixel += bytesPerPixel) *place++ = ColorAt(pixel);
   }
 }
 

@@ -32,7 +32,7 @@ class Surface final : public DcSurface, public PixelView {
   int Width() const override { return width_; }
   int Height() const override { return height_; }
   Color Pixel(int x, int y) const override;
-  void ReadRow(int y, std::span<Color> row) const override;
+  void CopyPixels(std::span<Color> pixels) const override;
 
   // Makes every pixel `color`.
   void Clear(Color color);

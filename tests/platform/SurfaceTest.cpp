@@ -14,13 +14,13 @@ TEST(Surface, ReadsBackWhatGdiDrewAsBlueGreenRed) {
   EXPECT_EQ(surface.Pixel(3, 2), white);
 }
 
-TEST(Surface, ReadsARowAsItsPixels) {
-  Surface surface(5, 3, white);
+TEST(Surface, CopiesItsPixelsRowByRowFromTheTop) {
+  Surface surface(3, 2, white);
   SetPixel(surface.Dc(), 0, 1, RGB(1, 2, 3));
-  SetPixel(surface.Dc(), 4, 1, RGB(4, 5, 6));
-  std::array<Color, 5> row{};
-  surface.ReadRow(1, row);
-  EXPECT_EQ(row, (std::array<Color, 5>{0x030201, white, white, white, 0x060504}));
+  SetPixel(surface.Dc(), 2, 0, RGB(4, 5, 6));
+  std::array<Color, 6> pixels{};
+  surface.CopyPixels(pixels);
+  EXPECT_EQ(pixels, (std::array<Color, 6>{white, white, 0x060504, 0x030201, white, white}));
 }
 
 TEST(Surface, KeepsThePictureWhenItsSizeChanges) {
