@@ -28,19 +28,16 @@ double SquareDistance(const Point& a, const Point& b) {
   return red * red + green * green + blue * blue;
 }
 
-struct WeightedPoint {
-  Point point{};
-  double weight = 0;
-};
-
 // How many pixels, and the sums of their channels.
 struct Sums {
   double weight = 0;
   Point sum{};
 
-  void Add(const WeightedPoint& p) {
-    weight += p.weight;
-    for (std::size_t c = 0; c < channels; ++c) sum[c] += p.weight * p.point[c];
+  void Add(const CountedColor& counted) {
+    const auto count = static_cast<double>(counted.count);
+    const Point point = PointOf(counted.color);
+    weight += count;
+    for (std::size_t c = 0; c < channels; ++c) sum[c] += count * point[c];
   }
   void Add(const Sums& other) {
     weight += other.weight;
@@ -57,38 +54,49 @@ struct Sums {
 // Where to cut a box in two: colours whose channel is at most `last` go to the first part.
 struct Cut {
   std::size_t channel = 0;
-  double last = 0;
+  std::size_t last = 0;
   double gain = 0;  // by how much the squared error falls
 };
 
-// The colours of one future palette entry.
+// The colours of one future entry of the palette.
 struct Box {
-  std::span<WeightedPoint> points;
+  std::span<CountedColor> colors;
   Sums sums;
   Cut cut;
 };
 
-// The best cut across one channel, or one without gain where all points have the same value there.
+std::size_t ChannelOf(Color color, std::size_t channel) {
+  return color >> (8 * channel) & 0xFFU;
+}
+
+// The best cut across one channel, or one without gain where all colours have the same value there.
 Cut BestCutAcross(const Box& box, std::size_t channel) {
-  std::array<Sums, 256> levels{};
-  for (const WeightedPoint& p : box.points) levels[static_cast<std::size_t>(p.point[channel])].Add(p);
+  std::size_t lowest = 255;
+  std::size_t highest = 0;
+  for (const CountedColor& counted : box.colors) {
+    const std::size_t value = ChannelOf(counted.color, channel);
+    lowest = std::min(lowest, value);
+    highest = std::max(highest, value);
+  }
+  // Most boxes are small: what lies outside their range is neither cleared nor looked at.
+  std::array<Sums, 256> levels;  // NOLINT(cppcoreguidelines-pro-type-member-init)
+  std::fill(&levels[lowest], &levels[highest] + 1, Sums{});
+  for (const CountedColor& counted : box.colors) levels[ChannelOf(counted.color, channel)].Add(counted);
   Cut best{.channel = channel};
   Sums first;
   const double whole = box.sums.Saved();
-  for (std::size_t level = 0; level < levels.size(); ++level) {
+  for (std::size_t level = lowest; level < highest; ++level) {
     if (levels[level].weight == 0) continue;
     first.Add(levels[level]);
-    const Sums second = box.sums.Without(first);
-    if (second.weight == 0) break;
-    const double gain = first.Saved() + second.Saved() - whole;
-    if (gain > best.gain) best = {channel, static_cast<double>(level), gain};
+    const double gain = first.Saved() + box.sums.Without(first).Saved() - whole;
+    if (gain > best.gain) best = {channel, level, gain};
   }
   return best;
 }
 
-Box MakeBox(std::span<WeightedPoint> points) {
-  Box box{.points = points, .sums = {}, .cut = {}};
-  for (const WeightedPoint& p : points) box.sums.Add(p);
+Box MakeBox(std::span<CountedColor> colors) {
+  Box box{.colors = colors, .sums = {}, .cut = {}};
+  for (const CountedColor& counted : colors) box.sums.Add(counted);
   for (std::size_t channel = 0; channel < channels; ++channel) {
     const Cut cut = BestCutAcross(box, channel);
     if (cut.gain > box.cut.gain) box.cut = cut;
@@ -96,18 +104,22 @@ Box MakeBox(std::span<WeightedPoint> points) {
   return box;
 }
 
-// Cuts the points into at most `most` boxes and gives their means. The points change their order.
-std::vector<Point> CutIntoBoxes(std::span<WeightedPoint> points, std::size_t most) {
-  std::vector<Box> boxes{MakeBox(points)};
-  while (boxes.size() < most) {
-    const auto chosen = std::ranges::max_element(boxes, {}, [](const Box& box) { return box.cut.gain; });
-    const Cut cut = chosen->cut;
-    if (cut.gain <= 0) break;
-    const auto second = std::partition(chosen->points.begin(), chosen->points.end(),
-                                       [&](const WeightedPoint& p) { return p.point[cut.channel] <= cut.last; });
-    const std::span<WeightedPoint> rest(second, chosen->points.end());
-    *chosen = MakeBox(chosen->points.first(chosen->points.size() - rest.size()));
-    boxes.push_back(MakeBox(rest));
+// Cuts the colours into at most `most` boxes and gives their means. The colours change their order.
+std::vector<Point> CutIntoBoxes(std::span<CountedColor> colors, std::size_t most) {
+  const auto gainsLess = [](const Box& a, const Box& b) { return a.cut.gain < b.cut.gain; };
+  // A heap: the box whose cut gains most stands first.
+  std::vector<Box> boxes{MakeBox(colors)};
+  while (boxes.size() < most && boxes.front().cut.gain > 0) {
+    std::pop_heap(boxes.begin(), boxes.end(), gainsLess);
+    const std::span<CountedColor> whole = boxes.back().colors;
+    const Cut cut = boxes.back().cut;
+    const auto second = std::partition(whole.begin(), whole.end(), [&](const CountedColor& counted) {
+      return ChannelOf(counted.color, cut.channel) <= cut.last;
+    });
+    boxes.back() = MakeBox({whole.begin(), second});
+    std::push_heap(boxes.begin(), boxes.end(), gainsLess);
+    boxes.push_back(MakeBox({second, whole.end()}));
+    std::push_heap(boxes.begin(), boxes.end(), gainsLess);
   }
   std::vector<Point> means;
   means.reserve(boxes.size());
@@ -116,10 +128,11 @@ std::vector<Point> CutIntoBoxes(std::span<WeightedPoint> points, std::size_t mos
 }
 
 // Finds the nearest of some points. They are sorted by the sum of their channels: a point whose sum is d away is at
-// least d / sqrt(3) away, so a search outward from the own sum ends early.
+// least d / sqrt(3) away, so a search outward from the own sum ends early, the earlier the nearer its first guess is.
 class NearestSearch {
  public:
-  explicit NearestSearch(std::span<const Point> points) {
+  explicit NearestSearch(std::span<const Point> points) : points_(points) {
+    entries_.reserve(points.size());
     for (std::size_t i = 0; i < points.size(); ++i) entries_.push_back({SumOf(points[i]), points[i], i});
     std::ranges::sort(entries_, {}, &Entry::sum);
   }
@@ -129,27 +142,22 @@ class NearestSearch {
     double squareDistance = 0;
   };
 
-  Found Find(const Point& point) const {
+  // `guess` is the place of any of the points.
+  Found Find(const Point& point, std::size_t guess) const {
     const double sum = SumOf(point);
-    const auto start = std::ranges::lower_bound(entries_, sum, {}, &Entry::sum);
-    std::optional<Found> best;
-    // True while a point of that sum could still be nearer.
+    Found best{guess, SquareDistance(points_[guess], point)};
+    // False once no point further that way can be nearer.
     const auto look = [&](const Entry& entry) {
       const double apart = entry.sum - sum;
-      if (best && apart * apart >= static_cast<double>(channels) * best->squareDistance) return false;
+      if (apart * apart >= static_cast<double>(channels) * best.squareDistance) return false;
       const double distance = SquareDistance(entry.point, point);
-      if (!best || distance < best->squareDistance) best = {entry.place, distance};
+      if (distance < best.squareDistance) best = {entry.place, distance};
       return true;
     };
-    auto above = start;
-    auto below = start;
-    bool goAbove = above != entries_.end();
-    bool goBelow = below != entries_.begin();
-    while (goAbove || goBelow) {
-      if (goAbove) goAbove = look(*above) && ++above != entries_.end();
-      if (goBelow) goBelow = look(*--below) && below != entries_.begin();
-    }
-    return *best;
+    const auto start = std::ranges::lower_bound(entries_, sum, {}, &Entry::sum);
+    for (auto above = start; above != entries_.end() && look(*above);) ++above;
+    for (auto below = start; below != entries_.begin() && look(*--below);) continue;
+    return best;
   }
 
  private:
@@ -160,22 +168,25 @@ class NearestSearch {
   };
   static double SumOf(const Point& point) { return point[0] + point[1] + point[2]; }
 
+  std::span<const Point> points_;
   std::vector<Entry> entries_;
 };
 
-// Moves each centre to the mean of the points nearest to it, until the error falls no further to speak of.
-void MoveToMeans(std::span<const WeightedPoint> points, std::vector<Point>& centres) {
-  constexpr int mostRounds = 12;
-  constexpr double worthwhile = 0.995;
+// Moves each centre to the mean of the colours nearest to it, until the error falls no further to speak of. Sets
+// places to the centre each colour was nearest to last.
+void MoveToMeans(std::span<const CountedColor> colors, std::vector<Point>& centres, std::vector<std::size_t>& places) {
+  constexpr int mostRounds = 4;
+  constexpr double worthwhile = 0.98;
   double error = std::numeric_limits<double>::max();
   for (int round = 0; round < mostRounds; ++round) {
     const NearestSearch search(centres);
     std::vector<Sums> sums(centres.size());
     double newError = 0;
-    for (const WeightedPoint& p : points) {
-      const NearestSearch::Found found = search.Find(p.point);
-      sums[found.place].Add(p);
-      newError += p.weight * found.squareDistance;
+    for (std::size_t i = 0; i < colors.size(); ++i) {
+      const NearestSearch::Found found = search.Find(PointOf(colors[i].color), places[i]);
+      places[i] = found.place;
+      sums[found.place].Add(colors[i]);
+      newError += static_cast<double>(colors[i].count) * found.squareDistance;
     }
     for (std::size_t i = 0; i < centres.size(); ++i)
       if (sums[i].weight > 0) centres[i] = sums[i].Mean();
@@ -186,29 +197,25 @@ void MoveToMeans(std::span<const WeightedPoint> points, std::vector<Point>& cent
 
 }  // namespace
 
-std::vector<Color> ReduceToPalette(std::span<const CountedColor> colors, std::size_t most) {
-  std::vector<WeightedPoint> points;
-  points.reserve(colors.size());
-  for (const CountedColor& counted : colors)
-    points.push_back({PointOf(counted.color), static_cast<double>(counted.count)});
-  std::vector<Point> centres = CutIntoBoxes(points, most);
-  MoveToMeans(points, centres);
-  std::vector<Color> palette;
-  palette.reserve(centres.size());
-  for (const Point& centre : centres) palette.push_back(RoundToColor(centre));
-  return palette;
-}
+Reduction ReduceColors(std::span<const CountedColor> colors, std::size_t most) {
+  std::vector<CountedColor> sorted(colors.begin(), colors.end());
+  std::vector<Point> centres = CutIntoBoxes(sorted, most);
+  std::vector<std::size_t> places(colors.size(), 0);
+  MoveToMeans(colors, centres, places);
 
-std::vector<std::uint8_t> NearestPlaces(std::span<const CountedColor> colors, std::span<const Color> palette) {
-  std::vector<Point> points;
-  points.reserve(palette.size());
-  for (const Color color : palette) points.push_back(PointOf(color));
-  const NearestSearch search(points);
-  std::vector<std::uint8_t> places;
-  places.reserve(colors.size());
-  for (const CountedColor& counted : colors)
-    places.push_back(static_cast<std::uint8_t>(search.Find(PointOf(counted.color)).place));
-  return places;
+  Reduction reduction;
+  reduction.palette.reserve(centres.size());
+  for (Point& centre : centres) {
+    reduction.palette.push_back(RoundToColor(centre));
+    centre = PointOf(reduction.palette.back());
+  }
+  const NearestSearch search(centres);
+  reduction.places.reserve(colors.size());
+  for (std::size_t i = 0; i < colors.size(); ++i) {
+    const std::size_t place = search.Find(PointOf(colors[i].color), places[i]).place;
+    reduction.places.push_back(static_cast<std::uint8_t>(place));
+  }
+  return reduction;
 }
 
 }  // namespace tarvik

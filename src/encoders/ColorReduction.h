@@ -15,14 +15,19 @@ struct CountedColor {
   std::uint32_t count = 0;
 };
 
-// A palette of at most `most` colours (1 to 256) that keeps the squared error small, summed over the three channels
-// of all pixels, when each pixel takes the nearest. The box of colour space whose cut saves most error is cut, again
-// and again, where it saves most (after Wu, "Efficient statistical computations for optimal color quantization",
-// 1991); then the colours are moved to the means of what falls on them (Lloyd's method) while that still helps.
-// The same colours in the same order give the same palette everywhere. There must be one colour at least.
-std::vector<Color> ReduceToPalette(std::span<const CountedColor> colors, std::size_t most);
+// A palette, and for each of the colours it was made for its place in it.
+struct Reduction {
+  std::vector<Color> palette;
+  std::vector<std::uint8_t> places;
+};
 
-// For each colour the place of the nearest in a palette of 1 to 256; of several equally near, one of them.
-std::vector<std::uint8_t> NearestPlaces(std::span<const CountedColor> colors, std::span<const Color> palette);
+// Reduces the colours to a palette of at most `most` (1 to 256) that keeps the squared error small, summed over the
+// three channels of all pixels. Each colour gets the nearest of the palette; of several equally near, one of them.
+// The box of colour space whose cut saves most error is cut, again and again, where it saves most (after Wu,
+// "Efficient statistical computations for optimal color quantization", 1991); then the palette's colours are moved
+// to the means of what falls on them (Lloyd's method) while that still helps.
+// The same colours in the same order give the same result everywhere. There must be one colour at least, and none
+// of them twice.
+Reduction ReduceColors(std::span<const CountedColor> colors, std::size_t most);
 
 }  // namespace tarvik

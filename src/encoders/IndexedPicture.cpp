@@ -63,38 +63,30 @@ std::vector<std::uint32_t> NumberPixels(const PixelView& picture, ColorNumbers& 
   return pixels;
 }
 
-// A palette of at most 256 colours, and for each colour of the picture its place in it.
-struct Mapping {
-  std::vector<Color> palette;
-  std::vector<std::uint8_t> places;
-};
-
-Mapping KeepColors(std::span<const CountedColor> colors) {
-  Mapping mapping;
+Reduction KeepColors(std::span<const CountedColor> colors) {
+  Reduction kept;
   for (const CountedColor& counted : colors) {
-    mapping.places.push_back(static_cast<std::uint8_t>(mapping.palette.size()));
-    mapping.palette.push_back(counted.color);
+    kept.places.push_back(static_cast<std::uint8_t>(kept.palette.size()));
+    kept.palette.push_back(counted.color);
   }
-  return mapping;
+  return kept;
 }
 
-// Reduces the colours, but leaves the one numbered `kept` out of it and gives it the palette's last place.
-Mapping ReduceColors(std::vector<CountedColor> colors, std::optional<std::size_t> kept) {
-  Mapping mapping;
-  if (!kept) {
-    mapping.palette = ReduceToPalette(colors, mostColors);
-    mapping.places = NearestPlaces(colors, mapping.palette);
-    return mapping;
-  }
-  const auto at = colors.begin() + static_cast<std::ptrdiff_t>(*kept);
+// Reduces the colours but for one, which keeps its colour and takes the palette's last place.
+Reduction ReduceOtherColors(std::vector<CountedColor> colors, std::size_t kept) {
+  const auto at = colors.begin() + static_cast<std::ptrdiff_t>(kept);
   const Color keptColor = at->color;
   colors.erase(at);
-  mapping.palette = ReduceToPalette(colors, mostColors - 1);
-  mapping.places = NearestPlaces(colors, mapping.palette);
-  mapping.places.insert(mapping.places.begin() + static_cast<std::ptrdiff_t>(*kept),
-                        static_cast<std::uint8_t>(mapping.palette.size()));
-  mapping.palette.push_back(keptColor);
-  return mapping;
+  Reduction reduction = ReduceColors(colors, mostColors - 1);
+  reduction.places.insert(reduction.places.begin() + static_cast<std::ptrdiff_t>(kept),
+                          static_cast<std::uint8_t>(reduction.palette.size()));
+  reduction.palette.push_back(keptColor);
+  return reduction;
+}
+
+Reduction BestPalette(const std::vector<CountedColor>& colors, std::optional<std::size_t> kept) {
+  if (colors.size() <= mostColors) return KeepColors(colors);
+  return kept ? ReduceOtherColors(colors, *kept) : ReduceColors(colors, mostColors);
 }
 
 // The step of the web palette's six levels, and how many there are of them.
@@ -131,11 +123,11 @@ IndexedPicture IndexByBestPalette(const PixelView& picture, std::optional<Color>
     if (found != colors.end()) kept = static_cast<std::size_t>(found - colors.begin());
   }
 
-  Mapping mapping = colors.size() <= mostColors ? KeepColors(colors) : ReduceColors(colors, kept);
-  IndexedPicture result{picture.Width(), picture.Height(), std::move(mapping.palette), {}, std::nullopt};
+  Reduction reduction = BestPalette(colors, kept);
+  IndexedPicture result{picture.Width(), picture.Height(), std::move(reduction.palette), {}, std::nullopt};
   result.pixels.reserve(pixels.size());
-  for (const std::uint32_t number : pixels) result.pixels.push_back(mapping.places[number]);
-  if (kept) result.transparentIndex = mapping.places[*kept];
+  for (const std::uint32_t number : pixels) result.pixels.push_back(reduction.places[number]);
+  if (kept) result.transparentIndex = reduction.places[*kept];
   return result;
 }
 

@@ -1,7 +1,7 @@
-#include "encoders/ColorReduction.h"
-
 #include <limits>
 #include <random>
+#include <vector>
+#include "encoders/ColorReduction.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,46 +14,46 @@ using testing::UnorderedElementsAre;
 
 TEST(ColorReduction, GivesTheColoursThemselvesWhereTheyAreFewEnough) {
   const std::vector<CountedColor> colors{{0x000000, 5}, {0x0000FF, 1}, {0x00FF00, 9}, {0x010000, 2}};
-  EXPECT_THAT(ReduceToPalette(colors, 4), UnorderedElementsAre(0x000000, 0x0000FF, 0x00FF00, 0x010000));
-  EXPECT_THAT(ReduceToPalette(colors, 256), UnorderedElementsAre(0x000000, 0x0000FF, 0x00FF00, 0x010000));
+  EXPECT_THAT(ReduceColors(colors, 4).palette, UnorderedElementsAre(0x000000, 0x0000FF, 0x00FF00, 0x010000));
+  EXPECT_THAT(ReduceColors(colors, 256).palette, UnorderedElementsAre(0x000000, 0x0000FF, 0x00FF00, 0x010000));
 }
 
 TEST(ColorReduction, GivesTheMeanOfAllPixelsWhereOneColourIsLeft) {
   // Red: (3 * 10 + 1 * 50) / 4 = 20; green: 4 / 4 = 1; blue: (3 * 200 + 1 * 100) / 4 = 175.
   const std::vector<CountedColor> colors{{0xC8000A, 3}, {0x640432, 1}};
-  EXPECT_THAT(ReduceToPalette(colors, 1), ElementsAre(0xAF0114));
+  EXPECT_THAT(ReduceColors(colors, 1).palette, ElementsAre(0xAF0114));
 }
 
 TEST(ColorReduction, CutsBetweenTwoGroupsOfColours) {
   const std::vector<CountedColor> colors{{0x000010, 1}, {0x0000F0, 1}, {0x000012, 1}, {0x0000F2, 1}, {0x0000F4, 1}};
-  EXPECT_THAT(ReduceToPalette(colors, 2), UnorderedElementsAre(0x000011, 0x0000F2));
+  EXPECT_THAT(ReduceColors(colors, 2).palette, UnorderedElementsAre(0x000011, 0x0000F2));
 }
 
 TEST(ColorReduction, MovesColoursToWhereTheyFitBestAfterTheCuts) {
   // The first cut saves most between 11 and 15, the second between 15 and 28, and so 11 stays with 0 and 2 (mean 4).
   // It is nearer to 15 than to that mean: the two pairs and the single one are what fits.
   const std::vector<CountedColor> colors{{0, 1}, {2, 1}, {11, 1}, {15, 1}, {28, 1}};
-  EXPECT_THAT(ReduceToPalette(colors, 3), UnorderedElementsAre(1, 13, 28));
+  EXPECT_THAT(ReduceColors(colors, 3).palette, UnorderedElementsAre(1, 13, 28));
 }
 
-TEST(ColorReduction, FindsTheNearestColourAsALookAtEveryOneDoes) {
+TEST(ColorReduction, GivesEachColourThePlaceOfTheNearest) {
   std::mt19937 random(2);
-  for (const std::size_t size : {1U, 2U, 3U, 17U, 256U}) {
-    std::vector<Color> palette;
-    for (std::size_t i = 0; i < size; ++i) palette.push_back(static_cast<Color>(random() % 0x1000000));
-    std::vector<CountedColor> colors{{black, 1}, {white, 1}, {palette.front(), 1}};
-    for (int i = 0; i < 500; ++i) colors.push_back({static_cast<Color>(random() % 0x1000000), 1});
-    const auto distance = [](Color a, Color b) {
-      const int red = RedOf(a) - RedOf(b);
-      const int green = GreenOf(a) - GreenOf(b);
-      const int blue = BlueOf(a) - BlueOf(b);
-      return red * red + green * green + blue * blue;
-    };
-    const std::vector<std::uint8_t> places = NearestPlaces(colors, palette);
+  std::vector<CountedColor> colors;
+  for (Color i = 0; i < 1000; ++i) colors.push_back({static_cast<Color>(random() % 0x1000000), 1 + i % 7});
+  const auto distance = [](Color a, Color b) {
+    const int red = RedOf(a) - RedOf(b);
+    const int green = GreenOf(a) - GreenOf(b);
+    const int blue = BlueOf(a) - BlueOf(b);
+    return red * red + green * green + blue * blue;
+  };
+  for (const std::size_t most : {1U, 2U, 3U, 17U, 255U, 256U}) {
+    const Reduction reduction = ReduceColors(colors, most);
+    ASSERT_EQ(reduction.palette.size(), most);
+    ASSERT_EQ(reduction.places.size(), colors.size());
     for (std::size_t i = 0; i < colors.size(); ++i) {
       int nearest = std::numeric_limits<int>::max();
-      for (const Color color : palette) nearest = std::min(nearest, distance(color, colors[i].color));
-      ASSERT_EQ(distance(palette.at(places[i]), colors[i].color), nearest) << size << ", " << i;
+      for (const Color color : reduction.palette) nearest = std::min(nearest, distance(color, colors[i].color));
+      ASSERT_EQ(distance(reduction.palette.at(reduction.places[i]), colors[i].color), nearest) << most << ", " << i;
     }
   }
 }

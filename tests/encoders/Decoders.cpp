@@ -81,8 +81,8 @@ void StopDecoding(j_common_ptr info) {
   std::longjmp(static_cast<DecodeErrors*>(info->client_data)->back, 1);
 }
 
-bool DecodeInto(jpeg_decompress_struct& info, std::span<const std::byte> file, std::vector<JSAMPLE>& samples) {
-  DecodeErrors errors;
+bool DecodeInto(jpeg_decompress_struct& info, DecodeErrors& errors, std::span<const std::byte> file,
+                std::vector<JSAMPLE>& samples) {
   info.err = jpeg_std_error(&errors.manager);
   errors.manager.error_exit = StopDecoding;
   errors.manager.emit_message = [](j_common_ptr common, int level) {
@@ -149,9 +149,10 @@ std::optional<JpegMarkers> ReadJpegMarkers(std::span<const std::byte> file) {
 
 std::optional<TestPicture> DecodeJpeg(std::span<const std::byte> file) {
   jpeg_decompress_struct info{};
+  DecodeErrors errors;
   std::vector<JSAMPLE> samples;
   std::optional<TestPicture> picture;
-  if (DecodeInto(info, file, samples)) {
+  if (DecodeInto(info, errors, file, samples)) {
     picture.emplace(static_cast<int>(info.output_width), static_cast<int>(info.output_height));
     std::size_t at = 0;
     for (int y = 0; y < picture->Height(); ++y)

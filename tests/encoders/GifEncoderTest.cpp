@@ -1,8 +1,9 @@
-#include "encoders/GifEncoder.h"
-
 #include <algorithm>
 #include <limits>
 #include <set>
+#include <utility>
+#include <vector>
+#include "encoders/GifEncoder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,7 +14,6 @@
 namespace tarvik {
 namespace {
 
-using testing::Eq;
 using testing::Optional;
 
 const std::string path = "C:\\图标\\Images 1.gif";
@@ -62,7 +62,8 @@ TEST(GifEncoder, WritesTheFileOnceToThePathGiven) {
 }
 
 TEST(GifEncoder, WritesOneImageOfThePicturesSize) {
-  const int sizes[][2] = {{1, 1}, {16, 16}, {32, 32}, {48, 48}, {64, 64}, {17, 5}, {300, 2}, {65535, 1}, {1, 65535}};
+  const std::vector<std::pair<int, int>> sizes = {{1, 1},  {16, 16}, {32, 32},   {48, 48},  {64, 64},
+                                                  {17, 5}, {300, 2}, {65535, 1}, {1, 65535}};
   for (const auto& [width, height] : sizes) {
     const TestPicture picture(width, height, 0x123456);
     const GifContent content = Written(picture, best);
@@ -90,7 +91,8 @@ TEST(GifEncoder, KeepsColoursThatDifferByOneStepExactly) {
 }
 
 TEST(GifEncoder, MakesTheColourMapNoLargerThanThePaletteNeeds) {
-  const std::pair<int, std::size_t> rows[] = {{1, 2}, {2, 2}, {3, 4}, {16, 16}, {17, 32}, {129, 256}, {256, 256}};
+  const std::vector<std::pair<int, std::size_t>> rows = {{1, 2},   {2, 2},     {3, 4},    {16, 16},
+                                                         {17, 32}, {129, 256}, {256, 256}};
   for (const auto& [colors, entries] : rows)
     EXPECT_EQ(Written(ManyColors(64, colors), best).palette.size(), entries) << colors;
 }
@@ -219,7 +221,7 @@ TEST(GifEncoder, AddsTheTransparentColourToTheWebPalette) {
 }
 
 TEST(GifEncoder, TouchesNoFileWhereThePictureDoesNotFitTheFormat) {
-  const int sizes[][2] = {{0, 16}, {16, 0}, {65536, 1}, {1, 65536}};
+  const std::vector<std::pair<int, int>> sizes = {{0, 16}, {16, 0}, {65536, 1}, {1, 65536}};
   for (const auto& [width, height] : sizes) {
     TestSink sink;
     EXPECT_FALSE(GifEncoder(sink).WriteFile(TestPicture(width, height), path, best));
@@ -228,9 +230,9 @@ TEST(GifEncoder, TouchesNoFileWhereThePictureDoesNotFitTheFormat) {
 }
 
 TEST(GifEncoder, SaysNoWhereTheFileCannotBeWritten) {
-  const std::pair<TestSink::Step, std::string> rows[] = {{TestSink::Step::Open, "open "},
-                                                         {TestSink::Step::Write, "open write close "},
-                                                         {TestSink::Step::Close, "open write close "}};
+  const std::vector<std::pair<TestSink::Step, std::string>> rows = {{TestSink::Step::Open, "open "},
+                                                                    {TestSink::Step::Write, "open write close "},
+                                                                    {TestSink::Step::Close, "open write close "}};
   for (const auto& [failing, steps] : rows) {
     TestSink sink(failing);
     EXPECT_FALSE(GifEncoder(sink).WriteFile(Gradient(16), path, best));

@@ -1,6 +1,7 @@
-#include "encoders/GifOptions.h"
-
 #include <algorithm>
+#include <utility>
+#include <vector>
+#include "encoders/GifOptions.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +9,7 @@ namespace tarvik {
 namespace {
 
 TEST(GifOptions, ShowsTheSizeInThousandsOfBytesWithTheDecimalsItHas) {
-  const std::pair<std::uint64_t, std::string> rows[] = {
+  const std::vector<std::pair<std::uint64_t, std::string>> rows = {
       {0, "0"},
       {1, "0.001"},
       {10, "0.01"},

@@ -1,7 +1,8 @@
-#include "encoders/JpegEncoder.h"
-
 #include <algorithm>
 #include <numeric>
+#include <utility>
+#include <vector>
+#include "encoders/JpegEncoder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,7 +16,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Optional;
 using Component = JpegMarkers::Component;
 
 constexpr JpegSampling oneToOne{{{1, 1}, {1, 1}, {1, 1}}};
@@ -49,7 +49,8 @@ TEST(JpegEncoder, WritesTheFileOnceToThePathGiven) {
 }
 
 TEST(JpegEncoder, WritesABaselineFileOfThePicturesSize) {
-  const int sizes[][2] = {{1, 1}, {16, 16}, {32, 32}, {48, 48}, {64, 64}, {17, 5}, {5, 17}, {256, 256}, {1000, 1}};
+  const std::vector<std::pair<int, int>> sizes = {{1, 1},  {16, 16}, {32, 32},   {48, 48}, {64, 64},
+                                                  {17, 5}, {5, 17},  {256, 256}, {1000, 1}};
   for (const auto& [width, height] : sizes) {
     SCOPED_TRACE(std::to_string(width) + " x " + std::to_string(height));
     TestSink sink;
@@ -79,11 +80,12 @@ TEST(JpegEncoder, WritesEachSamplingWithItsFactorsForLuminanceAndOneForChroma) {
 }
 
 TEST(JpegEncoder, InterleavesTheComponentsWhereTheirBlocksFitOneUnitOfTenBlocks) {
-  const struct {
+  struct Row {
     SamplingFactors luminance;
     bool interleaved;
-  } rows[] = {{{1, 1}, true},  {{2, 2}, true},  {{2, 4}, true},  {{4, 2}, true},
-              {{3, 3}, false}, {{3, 4}, false}, {{4, 3}, false}, {{4, 4}, false}};
+  };
+  const std::vector<Row> rows = {{{1, 1}, true},  {{2, 2}, true},  {{2, 4}, true},  {{4, 2}, true},
+                                 {{3, 3}, false}, {{3, 4}, false}, {{4, 3}, false}, {{4, 4}, false}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.luminance.horizontal * 10 + row.luminance.vertical);
     const JpegMarkers markers = MarkersAfter([&](JpegEncoder& encoder) {
@@ -244,7 +246,7 @@ TEST(JpegEncoder, SplitsACommentThatOneSegmentCannotHold) {
 }
 
 TEST(JpegEncoder, SplitsACommentBetweenCharacters) {
-  const std::string characters[] = {"é", "图", "\U0001F426"};
+  const std::vector<std::string> characters = {"é", "图", "\U0001F426"};
   for (const std::string& character : characters) {
     for (std::size_t before = 0; before < character.size(); ++before) {
       SCOPED_TRACE(character + " after " + std::to_string(before) + " bytes that fit");
@@ -313,7 +315,7 @@ TEST(JpegEncoder, TouchesNoFileWhereThePictureIsLargerThanAFileCanHold) {
 }
 
 TEST(JpegEncoder, TouchesNoFileWhereTheSamplingIsNone) {
-  const JpegSampling rows[] = {
+  const std::vector<JpegSampling> rows = {
       {{{0, 0}, {1, 1}, {1, 1}}},                               // no luminance
       {{{0, 0}, {0, 0}, {0, 0}}},                               // nothing at all
       {{{1, 1}, {1, 1}, {0, 0}}},                               // one chroma component alone
@@ -335,9 +337,9 @@ TEST(JpegEncoder, TouchesNoFileWhereTheSamplingIsNone) {
 }
 
 TEST(JpegEncoder, SaysNoWhereTheFileCannotBeWritten) {
-  const std::pair<TestSink::Step, std::string> rows[] = {{TestSink::Step::Open, "open "},
-                                                         {TestSink::Step::Write, "open write close "},
-                                                         {TestSink::Step::Close, "open write close "}};
+  const std::vector<std::pair<TestSink::Step, std::string>> rows = {{TestSink::Step::Open, "open "},
+                                                                    {TestSink::Step::Write, "open write close "},
+                                                                    {TestSink::Step::Close, "open write close "}};
   for (const auto& [failing, steps] : rows) {
     TestSink sink(failing);
     JpegEncoder encoder(sink);

@@ -1,7 +1,8 @@
-#include "encoders/JpegOptions.h"
-
 #include <algorithm>
 #include <set>
+#include <utility>
+#include <vector>
+#include "encoders/JpegOptions.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,8 +14,9 @@ using testing::ElementsAre;
 using testing::Optional;
 
 TEST(JpegOptions, GivesEachPresetItsQuality) {
-  const int qualities[] = {20, 40, 60, 80, 100};
-  for (int preset = 0; preset < 5; ++preset) EXPECT_EQ(QualityOfPreset(preset), qualities[preset]);
+  const std::vector<int> qualities = {20, 40, 60, 80, 100};
+  for (int preset = 0; preset < 5; ++preset)
+    EXPECT_EQ(QualityOfPreset(preset), qualities.at(static_cast<std::size_t>(preset)));
 }
 
 TEST(JpegOptions, OpensWithMediumQualityAndTheDefaultSubSampling) {
@@ -28,7 +30,8 @@ TEST(JpegOptions, ShowsTheLowestPresetForEveryQualityUpTo20) {
 }
 
 TEST(JpegOptions, ShowsTheOtherPresetsForTheTwoEndsOfTheirSteps) {
-  const std::pair<int, int> rows[] = {{21, 1}, {40, 1}, {41, 2}, {60, 2}, {61, 3}, {80, 3}, {81, 4}, {100, 4}};
+  const std::vector<std::pair<int, int>> rows = {{21, 1}, {40, 1}, {41, 2}, {60, 2},
+                                                 {61, 3}, {80, 3}, {81, 4}, {100, 4}};
   for (const auto& [quality, preset] : rows) EXPECT_THAT(PresetOfQuality(quality), Optional(preset)) << quality;
 }
 
@@ -48,8 +51,8 @@ TEST(JpegOptions, OffersThe16SubSamplingsInTheirOrder) {
 }
 
 TEST(JpegOptions, ReadsTheFactorsFromTheFirstAndThirdCharacters) {
-  const SamplingFactors factors[] = {{1, 1}, {1, 2}, {2, 1}, {2, 2}, {1, 3}, {3, 1}, {2, 3}, {3, 2},
-                                     {3, 3}, {1, 4}, {4, 1}, {2, 4}, {4, 2}, {3, 4}, {4, 3}, {4, 4}};
+  const std::vector<SamplingFactors> factors = {{1, 1}, {1, 2}, {2, 1}, {2, 2}, {1, 3}, {3, 1}, {2, 3}, {3, 2},
+                                                {3, 3}, {1, 4}, {4, 1}, {2, 4}, {4, 2}, {3, 4}, {4, 3}, {4, 4}};
   for (std::size_t i = 0; i < subSamplings.size(); ++i) EXPECT_EQ(LuminanceOf(subSamplings[i]), factors[i]) << i;
 }
 

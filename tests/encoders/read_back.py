@@ -76,24 +76,22 @@ def pixels(samples):
 class JpegFiles(unittest.TestCase):
     """What other programs say about the JPEG files."""
 
-    def identify(self, name, what):
-        return output_of("identify", "-format", what, sample(name)).decode()
+    def identify(self, names, what):
+        return output_of("identify", "-format", what + "\n", *map(sample, names)).decode().splitlines()
 
     def test_identify_finds_size_factors_and_components(self):
+        what = "%m %w %h %[jpeg:sampling-factor] %[colorspace]"
         for name in PICTURES:
-            size = re.sub(r"\D", "", name)
-            for factors in SUB_SAMPLINGS:
-                with self.subTest(name=name, factors=factors):
-                    found = self.identify(f"{name},sampling,{factors}.jpg",
-                                          "%m %w %h %[jpeg:sampling-factor] %[colorspace]")
-                    self.assertEqual(found, f"JPEG {size} {size} {factors.replace(',', 'x')},1x1,1x1 sRGB")
-            self.assertEqual(self.identify(f"{name},grey.jpg", "%m %w %h %[jpeg:sampling-factor] %[colorspace]"),
-                             f"JPEG {size} {size} 1x1 Gray")
+            with self.subTest(name=name):
+                size = re.sub(r"\D", "", name)
+                found = self.identify([f"{name},sampling,{factors}.jpg" for factors in SUB_SAMPLINGS], what)
+                self.assertEqual(found, [f"JPEG {size} {size} {factors.replace(',', 'x')},1x1,1x1 sRGB"
+                                         for factors in SUB_SAMPLINGS])
+                self.assertEqual(self.identify([f"{name},grey.jpg"], what), [f"JPEG {size} {size} 1x1 Gray"])
 
     def test_identify_finds_the_quality_and_the_comment(self):
-        for quality in QUALITIES:
-            with self.subTest(quality=quality):
-                self.assertEqual(self.identify(f"photo32,quality,{quality}.jpg", "%Q %c"), f"{quality} {COMMENT}")
+        found = self.identify([f"photo32,quality,{quality}.jpg" for quality in QUALITIES], "%Q %c")
+        self.assertEqual(found, [f"{quality} {COMMENT}" for quality in QUALITIES])
 
     def test_rdjpgcom_finds_the_comment(self):
         found = output_of("rdjpgcom", "-raw", sample("photo48,quality,60.jpg")).decode()
@@ -143,73 +141,84 @@ class JpegFiles(unittest.TestCase):
 class GifFiles(unittest.TestCase):
     """What other programs say about the GIF files."""
 
-    def each(self):
+    def check_each(self, check):
+        """Runs check(path, start, name) for each sample; start is the name of its picture."""
         for path in sorted(glob.glob(os.path.join(glob.escape(FOLDER), "*.gif"))):
             name = os.path.basename(path)
             with self.subTest(name=name):
-                yield path, name.split(",")[0], name
+                check(path, name.split(",")[0], name)
 
     def test_there_is_a_sample_of_each_picture_and_each_choice(self):
-        self.assertEqual(sum(1 for _ in self.each()), 4 * (len(PICTURES) + len(COLOR_COUNTS)))
+        found = glob.glob(os.path.join(glob.escape(FOLDER), "*.gif"))
+        self.assertEqual(len(found), 4 * (len(PICTURES) + len(COLOR_COUNTS)))
 
     def test_identify_finds_one_image_of_the_size(self):
-        for path, start, _ in self.each():
+        def check(path, start, _):
             width, height, _ = picture(start)
             self.assertEqual(output_of("identify", "-format", "%m %w %h;", path).decode(), f"GIF {width} {height};")
+        self.check_each(check)
 
     def test_giftext_finds_a_whole_file_and_its_transparency(self):
-        for path, _, name in self.each():
+        def check(path, _, name):
             found = output_of("giftext", path).decode(errors="replace")
             self.assertIn("GIF file terminated normally.", found)
             self.assertEqual("Transparency on: yes" in found, "transparent" in name)
+        self.check_each(check)
 
     def test_the_transparent_pixels_are_those_of_the_corners_colour(self):
-        for path, start, name in self.each():
+        def check(path, start, name):
             original = pixels(picture(start)[2])
             opacity = pixels(samples_of_ppm(output_of("convert", path, "-alpha", "extract", "-depth", "8", "ppm:-"))[2])
             for color, opaque in zip(original, opacity, strict=True):
                 see_through = "transparent" in name and color == original[0]
                 self.assertEqual(opaque[0], 0 if see_through else 255)
+        self.check_each(check)
 
     def test_up_to_256_colours_come_back_exactly(self):
-        exact = 0
-        for path, start, name in self.each():
+        exact = []
+
+        def check(path, start, name):
             original = picture(start)
             if "best" in name and len(set(pixels(original[2]))) <= 256:
                 self.assertEqual(by_imagemagick(path), original)
-                exact += 1
-        # The pictures at 16 pixels have no more than 256 pixels.
-        self.assertEqual(exact, 2 * (3 + 4))
+                exact.append(name)
+        self.check_each(check)
+        # Pictures at 16 pixels have no more than 256 of them; and those of 1, 2, 255 and 256 colours.
+        self.assertEqual(len(exact), 2 * (3 + 4))
 
     def test_the_web_palette_is_in_the_file(self):
         levels = range(0, 256, 51)
         expected = [(r, g, b) for r in levels for g in levels for b in levels]
-        for path, _, name in self.each():
+
+        def check(path, _, name):
             if "web" not in name:
-                continue
+                return
             found = output_of("gifbuild", "-d", path).decode(errors="replace")
-            colors = [tuple(int(part) for part in row) for row in re.findall(r"rgb (\d+) (\d+) (\d+) is", found)]
+            colors = [tuple(int(part) for part in row) for row in re.findall(r"rgb (\d+) (\d+) (\d+)", found)]
             self.assertEqual(colors[:216], expected)
             self.assertEqual(re.findall(r"transparent index (\d+)", found), ["216"] if "transparent" in name else [])
+        self.check_each(check)
 
     def test_web_files_hold_the_nearest_web_colours(self):
-        for path, start, name in self.each():
+        def check(path, start, name):
             if "web" in name:
                 nearest = bytes((sample + 25) // 51 * 51 for sample in picture(start)[2])
                 self.assertEqual(by_imagemagick(path)[2], nearest)
+        self.check_each(check)
 
     def test_the_error_is_no_larger_than_imagemagicks(self):
-        for path, start, name in self.each():
-            if "best" not in name or "transparent" in name:
-                continue
+        def check(path, start, name):
+            if "best" not in name:
+                return
             original = picture(start)[2]
             theirs = path + ".imagemagick.gif"
             output_of("convert", sample(start + ".ppm"), "+dither", theirs)
             our_error = mean_squared_error(original, by_imagemagick(path)[2])
             their_error = mean_squared_error(original, by_imagemagick(theirs)[2])
             os.remove(theirs)
-            print(f"{start}: squared error {our_error:.3f}, of ImageMagick {their_error:.3f}")
+            print(f"{name}: squared error {our_error:.3f}, of ImageMagick {their_error:.3f}")
             self.assertLessEqual(our_error, their_error)
+        self.check_each(check)
 
 
 if __name__ == "__main__":

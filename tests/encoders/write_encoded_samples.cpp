@@ -59,13 +59,13 @@ void WriteJpegs(const std::string& start, const PixelView& picture) {
   JpegEncoder encoder(sink);
   encoder.TakePicture(picture);
   const auto write = [&](const std::string& name) {
-    const std::string path = start + "," + name + ".jpg";
+    const std::string path = start + ',' + name + ".jpg";
     Expect(encoder.WriteFile(path), path);
   };
   encoder.SetQuality(highestQuality);
   for (const std::string_view item : subSamplings) {
     encoder.SetSampling(SamplingOf(item, false));
-    write("sampling," + std::string(item.substr(0, 1)) + "," + std::string(item.substr(2, 1)));
+    write(std::string("sampling,") + item[0] + ',' + item[2]);
   }
   encoder.SetSampling(SamplingOf(subSamplings.front(), true));
   write("grey");
