@@ -54,6 +54,7 @@ void Form::Close() {
   const HWND window = std::exchange(window_, nullptr);
   SetWindowLongPtrW(window, DWLP_USER, 0);
   DestroyWindow(window);
+  Skn.reset();
 }
 
 HWND Form::Item(int id) const {

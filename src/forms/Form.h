@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -77,6 +78,9 @@ class Form {
   bool IsChecked(int id) const;
   void SetChecked(int id, bool checked);
   const Menu& TheMenu() const { return menu_; }
+
+  // What paints the window in a skin, if anything does; held until the window is gone.
+  std::shared_ptr<void> Skn;
 
   // Called before a message reaches its window; true swallows it.
   virtual bool PreviewMessage(const MSG& message);

@@ -1,0 +1,108 @@
+#include "startup/FrmSpash.h"
+
+#include <windows.h>
+
+#include <utility>
+
+#include "platform/Handles.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "startup/FormPlacement.h"
+#include "startup/FrmSpashTexts.h"
+#include "version.h"
+
+namespace tarvik {
+namespace {
+
+constexpr UINT startUpTime = 3000;  // milliseconds
+
+// Where the version stands in the picture, below the product's name; in parts of a thousand of its sides.
+constexpr int versionLeft = 53;
+constexpr int versionTop = 720;
+constexpr COLORREF versionColor = RGB(0xC9, 0xD6, 0xEE);
+
+int Thousandths(int side, int part) {
+  return MulDiv(side, part, 1000);
+}
+
+void DrawVersion(const Surface& surface, HFONT font) {
+  const Selected selected(surface.Dc(), font);
+  SetBkMode(surface.Dc(), TRANSPARENT);
+  SetTextColor(surface.Dc(), versionColor);
+  const std::wstring text = ToWide(TARVIK_VERSION_TEXT);
+  TextOutW(surface.Dc(), Thousandths(surface.Width(), versionLeft), Thousandths(surface.Height(), versionTop),
+           text.data(), static_cast<int>(text.size()));
+}
+
+}  // namespace
+
+FrmSpash::FrmSpash(Application& application, const ProgramState& state, std::function<void()> showMainWindow)
+    : Form(application, Dialog_FrmSpash), state_(state), showMainWindow_(std::move(showMainWindow)) {}
+
+void FrmSpash::Form_Load() {
+  if (!state_.ShowAsAbout) RemoveCaption();
+  DrawPicture();
+  basInitEntry::CenterForm(*this);
+  SetTexts(*this, spashTexts, state_.CurrentLanguage);
+  basInitEntry::CenterForm(*this);
+  ShowItem(FrmSpash_CmdOk, state_.ShowAsAbout);
+  if (!state_.ShowAsAbout) SetTimer(Window(), FrmSpash_Timer1, startUpTime, nullptr);
+}
+
+bool FrmSpash::OnCommand(int id, int code) {
+  static constexpr Event<FrmSpash> events[] = {
+      {FrmSpash_CmdOk, FrmSpash_CmdOk, BN_CLICKED, Call<&FrmSpash::CmdOk_Click>},
+      {IDCANCEL, IDCANCEL, BN_CLICKED, Call<&FrmSpash::CmdOk_Click>},  // Esc
+  };
+  return Dispatch<FrmSpash>(*this, events, id, code);
+}
+
+void FrmSpash::OnTimer(UINT_PTR id) {
+  if (id == FrmSpash_Timer1) Timer1_Timer();
+}
+
+void FrmSpash::Timer1_Timer() {
+  Unload();
+  showMainWindow_();
+}
+
+void FrmSpash::CmdOk_Click() {
+  // Enter and Esc come here too, and the button is hidden while the program starts.
+  if (state_.ShowAsAbout) Unload();
+}
+
+void FrmSpash::RemoveCaption() {
+  RECT place;
+  GetClientRect(Window(), &place);
+  const auto style = static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_STYLE)) & ~(WS_CAPTION | WS_SYSMENU);
+  const auto extended = static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_EXSTYLE)) & ~WS_EX_DLGMODALFRAME;
+  SetWindowLongPtrW(Window(), GWL_STYLE, static_cast<LONG_PTR>(style | WS_BORDER));
+  SetWindowLongPtrW(Window(), GWL_EXSTYLE, static_cast<LONG_PTR>(extended));
+  AdjustWindowRectEx(&place, style | WS_BORDER, FALSE, extended);
+  SetWindowPos(Window(), nullptr, 0, 0, place.right - place.left, place.bottom - place.top,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+// The picture in the size that its control has at this screen's resolution.
+void FrmSpash::DrawPicture() {
+  const HWND item = Item(FrmSpash_Picture);
+  RECT place;
+  GetClientRect(item, &place);
+  picture_.emplace(place.right, place.bottom, black);
+
+  const BitmapHandle bitmap(static_cast<HBITMAP>(LoadImageW(
+      TheApplication().Instance(), MAKEINTRESOURCEW(Bitmap_FrmSpash), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+  BITMAP size{};
+  GetObjectW(bitmap.get(), sizeof size, &size);
+  const MemoryDc source(CreateCompatibleDC(picture_->Dc()));
+  const Selected selected(source.get(), bitmap.get());
+  SetStretchBltMode(picture_->Dc(), HALFTONE);
+  SetBrushOrgEx(picture_->Dc(), 0, 0, nullptr);
+  StretchBlt(picture_->Dc(), 0, 0, picture_->Width(), picture_->Height(), source.get(), 0, 0, size.bmWidth,
+             size.bmHeight, SRCCOPY);
+
+  DrawVersion(*picture_, reinterpret_cast<HFONT>(SendMessageW(Window(), WM_GETFONT, 0, 0)));
+  PictureBox(item).Show(&*picture_);
+}
+
+}  // namespace tarvik

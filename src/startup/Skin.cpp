@@ -1,0 +1,103 @@
+#include "startup/Skin.h"
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+#include <memory>
+#include <utility>
+
+#include "platform/ComUse.h"
+#include "platform/Text.h"
+
+namespace tarvik {
+namespace {
+
+constexpr const char* skinFile = "\\Skins\\Galaxy.skn";
+
+// The one argument of a call.
+class Argument {
+ public:
+  explicit Argument(const std::wstring& text) {
+    value_.vt = VT_BSTR;
+    value_.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+  }
+  // A window's handle goes as a 32-bit number: no handle has more bits than that.
+  explicit Argument(HWND window) {
+    value_.vt = VT_I4;
+    value_.lVal = static_cast<LONG>(reinterpret_cast<LONG_PTR>(window));
+  }
+  ~Argument() { VariantClear(&value_); }
+  Argument(const Argument&) = delete;
+  Argument& operator=(const Argument&) = delete;
+
+  VARIANT* Value() { return &value_; }
+
+ private:
+  VARIANT value_{};
+};
+
+// One object of the component.
+class Component {
+ public:
+  explicit Component(const CLSID& classId) {
+    void* object = nullptr;
+    const DWORD context = CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER;
+    if (SUCCEEDED(CoCreateInstance(classId, nullptr, context, IID_IDispatch, &object))) {
+      object_ = static_cast<IDispatch*>(object);
+    }
+  }
+  ~Component() {
+    if (object_ != nullptr) object_->Release();
+  }
+  Component(const Component&) = delete;
+  Component& operator=(const Component&) = delete;
+
+  // Calls the method with one argument; whether it is there and succeeds.
+  bool Call(const wchar_t* method, Argument argument) {
+    if (object_ == nullptr) return false;
+    std::wstring name(method);
+    LPOLESTR names = name.data();
+    DISPID id = 0;
+    if (FAILED(object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id))) return false;
+    DISPPARAMS parameters{argument.Value(), nullptr, 1, 0};
+    return SUCCEEDED(object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr,
+                                     nullptr));
+  }
+
+ private:
+  ComUse use_;  // ends after the object's release
+  IDispatch* object_ = nullptr;
+};
+
+bool IsFile(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+}  // namespace
+
+Skin::Skin(const std::string& folder) : path_(ToWide(folder + skinFile)) {}
+
+const std::optional<CLSID>& Skin::Class() {
+  if (!asked_) {
+    CLSID found;
+    if (SUCCEEDED(CLSIDFromProgID(className, &found))) class_ = found;
+    asked_ = true;
+  }
+  return class_;
+}
+
+bool Skin::Apply(Form& form) {
+  if (!IsFile(path_)) return false;
+  const ComUse use;
+  if (!Class()) return false;
+  auto component = std::make_shared<Component>(*Class());
+  if (!component->Call(L"LoadSkin", Argument(path_)) || !component->Call(L"ApplySkin", Argument(form.Window()))) {
+    return false;
+  }
+  form.Skn = std::move(component);
+  return true;
+}
+
+}  // namespace tarvik
