@@ -2,8 +2,16 @@
 
 #include <windows.h>
 
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "forms/Application.h"
 #include "forms/Form.h"
+#include "forms/MessageBox.h"
+#include "platform/DesktopScreen.h"
 #include "platform/Folders.h"
 #include "platform/IniFile.h"
 #include "platform/Paths.h"
@@ -11,10 +19,12 @@
 #include "platform/SafeLoading.h"
 #include "platform/ShellIcons.h"
 #include "search/FrmFindIcon.h"
-#include "startup/Language.h"
+#include "startup/FrmSpash.h"
+#include "startup/OpenGuide.h"
 #include "startup/ProgramState.h"
 #include "startup/RunTimeErrorBox.h"
 #include "startup/Settings.h"
+#include "startup/basInitEntry.h"
 
 namespace tarvik {
 namespace {
@@ -25,6 +35,21 @@ std::vector<DriveListBox::Drive> DriveRows() {
   return rows;
 }
 
+class StartUp final : public basInitEntry::StartUpSystem {
+ public:
+  explicit StartUp(std::function<void()> showFrmSpash) : showFrmSpash_(std::move(showFrmSpash)) {}
+
+  void ShowCriticalMessage(const std::string& text, const std::string& title) override {
+    ShowMessage(nullptr, text, title, MessageSign::Critical);
+  }
+  std::string SystemFolder() override { return tarvik::SystemFolder(); }
+  std::string TempFolder() override { return tarvik::TempFolder(); }
+  void ShowFrmSpash() override { showFrmSpash_(); }
+
+ private:
+  std::function<void()> showFrmSpash_;
+};
+
 }  // namespace
 }  // namespace tarvik
 
@@ -33,9 +58,6 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
   LoadLibrariesFromSystemFolderOnly();
 
   ProgramState state;
-  RegistryLanguageStore languageStore;
-  state.CurrentLanguage = ChooseLanguage(languageStore);
-
   IniFile iniFile;
   Settings settings(iniFile, ProgramPath());
   ShellIcons icons;
@@ -45,8 +67,27 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
   application.OnRuntimeError = [&state](Form& form, const RuntimeError& error) {
     ShowRuntimeError(form.Window(), error, state.CurrentLanguage);
   };
-  FrmFindIcon findIcon(application, {state, settings, icons, folders, DriveRows, IsReadableFolder, ProgramFolder()});
-  findIcon.Show();
+
+  // The start-up window opens the main one, and that one opens it again as About box. Each is made when first shown.
+  std::optional<FrmSpash> spash;
+  std::optional<FrmFindIcon> findIcon;
+  const auto showAbout = [&] { spash->ShowModal(findIcon->Window()); };
+  const auto openGuide = [&] { OpenGuide(findIcon->Window(), ProgramFolder(), state.CurrentLanguage); };
+  const auto showMainWindow = [&] {
+    if (!findIcon) {
+      findIcon.emplace(application, FrmFindIcon::Services{state, settings, icons, folders, DriveRows, IsReadableFolder,
+                                                          ProgramFolder(), showAbout, openGuide});
+    }
+    findIcon->Show();
+  };
+  StartUp startUp([&] {
+    if (!spash) spash.emplace(application, state, showMainWindow);
+    spash->Show();
+  });
+
+  RegistryLanguageStore language;
+  DesktopScreen screen;
+  basInitEntry::Main(state, language, screen, startUp);
   application.Run();
   return 0;
 }

@@ -11,6 +11,7 @@
 #include "platform/Text.h"
 #include "resource.h"
 #include "search/FrmFindIconTexts.h"
+#include "startup/FormPlacement.h"
 #include "search/IconListRows.h"
 
 namespace tarvik {
@@ -66,6 +67,8 @@ void FrmFindIcon::Form_Load() {
   AttachControls();
   PlaceLimit();
   PlaceGrid();
+  basInitEntry::ApplySkinToForm(*this);
+  basInitEntry::CenterForm(*this);
 
   EnableItem(FrmFindIcon_CmdOk, false);
   const HWND sizes = Item(FrmFindIcon_CboIconSize);
@@ -169,6 +172,8 @@ bool FrmFindIcon::OnCommand(int id, int code) {
       {FrmFindIcon_mnuShowLabel, FrmFindIcon_mnuShowLabel, 0, Call<&FrmFindIcon::mnuShowLabel_Click>},
       {FrmFindIcon_mnuIL1, FrmFindIcon_mnuIL2, 0, Call<&FrmFindIcon::mnuIL_Click>},
       {FrmFindIcon_mnuViewopt0, FrmFindIcon_mnuViewopt1, 0, Call<&FrmFindIcon::mnuViewopt_Click>},
+      {FrmFindIcon_MnuContent, FrmFindIcon_MnuContent, 0, Call<&FrmFindIcon::MnuContent_Click>},
+      {FrmFindIcon_MnuAbout, FrmFindIcon_MnuAbout, 0, Call<&FrmFindIcon::MnuAbout_Click>},
   };
   return Dispatch<FrmFindIcon>(*this, events, id, code);
 }

@@ -35,6 +35,8 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
     std::function<std::vector<DriveListBox::Drive>()> drives;
     std::function<bool(const std::string& folder)> isReadableFolder;
     std::string programFolder;
+    std::function<void()> showAbout;  // returns when the About box is closed
+    std::function<void()> openGuide;
   };
 
   FrmFindIcon(Application& application, Services services);
@@ -73,6 +75,8 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void mnuExit_Click();
   void OptView_Click(int index);
   void mnuViewopt_Click(int index);
+  void MnuContent_Click();
+  void MnuAbout_Click();
   void Vsb_Change();
   void Lv_Choose(const ReportList::Choice& choice);
   void mnuRem_Click();

@@ -129,4 +129,13 @@ void FrmFindIcon::Vsb_Change() {
   SetWindowPos(picIcons_.Window(), nullptr, 0, -vsb_.Value(), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void FrmFindIcon::MnuContent_Click() {
+  services_.openGuide();
+}
+
+void FrmFindIcon::MnuAbout_Click() {
+  services_.state.ShowAsAbout = true;
+  services_.showAbout();
+}
+
 }  // namespace tarvik
