@@ -11,8 +11,8 @@
 #include "platform/Text.h"
 #include "resource.h"
 #include "search/FrmFindIconTexts.h"
-#include "startup/FormPlacement.h"
 #include "search/IconListRows.h"
+#include "startup/FormPlacement.h"
 
 namespace tarvik {
 namespace {

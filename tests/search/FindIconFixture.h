@@ -101,7 +101,8 @@ class FindIconFixture : public ::testing::Test {
                               [] {
                                 return std::vector<DriveListBox::Drive>{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
                               },
-                              [](const std::string& folder) { return !folder.starts_with("D:"); }, "C:\\program"});
+                              [](const std::string& folder) { return !folder.starts_with("D:"); }, "C:\\program",
+                              [this] { ++aboutShown; }, [this] { ++guideShown; }});
     window->Show();
     application.DoEvents();
   }
@@ -149,6 +150,8 @@ class FindIconFixture : public ::testing::Test {
   SmallMachine machine;
   Application application{GetModuleHandleW(nullptr)};
   Application& application_ = application;
+  int aboutShown = 0;
+  int guideShown = 0;
   BoxWatcher boxes;
   std::unique_ptr<FrmFindIcon> window;
 };
