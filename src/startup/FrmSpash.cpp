@@ -25,6 +25,13 @@ int Thousandths(int side, int part) {
   return MulDiv(side, part, 1000);
 }
 
+// Takes bits from a window's style and adds others; the style that it has then.
+DWORD ChangeStyle(HWND window, int which, LONG_PTR taken, LONG_PTR added) {
+  const LONG_PTR style = (GetWindowLongPtrW(window, which) & ~taken) | added;
+  SetWindowLongPtrW(window, which, style);
+  return static_cast<DWORD>(style);
+}
+
 void DrawVersion(const Surface& surface, HFONT font) {
   const Selected selected(surface.Dc(), font);
   SetBkMode(surface.Dc(), TRANSPARENT);
@@ -74,11 +81,9 @@ void FrmSpash::CmdOk_Click() {
 void FrmSpash::RemoveCaption() {
   RECT place;
   GetClientRect(Window(), &place);
-  const auto style = static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_STYLE)) & ~(WS_CAPTION | WS_SYSMENU);
-  const auto extended = static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_EXSTYLE)) & ~WS_EX_DLGMODALFRAME;
-  SetWindowLongPtrW(Window(), GWL_STYLE, static_cast<LONG_PTR>(style | WS_BORDER));
-  SetWindowLongPtrW(Window(), GWL_EXSTYLE, static_cast<LONG_PTR>(extended));
-  AdjustWindowRectEx(&place, style | WS_BORDER, FALSE, extended);
+  const DWORD style = ChangeStyle(Window(), GWL_STYLE, WS_CAPTION | WS_SYSMENU, WS_BORDER);
+  const DWORD extended = ChangeStyle(Window(), GWL_EXSTYLE, WS_EX_DLGMODALFRAME, 0);
+  AdjustWindowRectEx(&place, style, FALSE, extended);
   SetWindowPos(Window(), nullptr, 0, 0, place.right - place.left, place.bottom - place.top,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
