@@ -11,7 +11,7 @@ HCURSOR WaitPointer() {
 
 }  // namespace
 
-Hourglass::Hourglass() : former_(SetCursor(WaitPointer())) {
+Hourglass::Hourglass() : former_(hourglasses == 0 ? SetCursor(WaitPointer()) : nullptr) {
   ++hourglasses;
 }
 

@@ -20,7 +20,7 @@ class ScrollBar {
   // Sets the range; the value is drawn into it. `page` is the part of the picture in sight, in the units of the value;
   // it sizes the thumb.
   void SetRange(const Range& range, int page = 1);
-  int Maximum() const { return range_.maximum; }
+  int SmallStep() const { return range_.smallStep; }
   int Value() const { return value_; }
   void SetValue(int value);
 

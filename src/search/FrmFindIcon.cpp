@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
 #include <windowsx.h>
 
 #include <utility>
@@ -59,6 +60,10 @@ FrmFindIcon::FrmFindIcon(Application& application, Services services)
       driver_(*this, services_.icons, list_, state_, services_.state.CurrentLanguage),
       selection_(*this, list_, state_, services_.state.CurrentLanguage),
       surfaces_(state_.Geometry.IconSize),
+      caption_([this](const std::string& text) { Form::SetCaption(text); }),
+      status_([this](const std::string& text) {
+        SendMessageW(Item(FrmFindIcon_sbMain), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
+      }),
       grid_(WidestGrid(), viewportHeight, white),
       ownSurface_(ownSurfaceSide, ownSurfaceSide, white) {}
 

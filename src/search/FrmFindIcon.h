@@ -8,6 +8,7 @@
 #include "export/IconSurfaces.h"
 #include "forms/FolderLists.h"
 #include "forms/Form.h"
+#include "forms/LiveText.h"
 #include "forms/PictureBox.h"
 #include "forms/ReportList.h"
 #include "forms/ScrollBar.h"
@@ -122,6 +123,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void LoadSettings();
   void SaveSettings();
   void ShowSelectionInList();
+  void ShowProgress();
 
   Services services_;
   SearchState state_;
@@ -129,6 +131,10 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   SearchDriver driver_;
   Selection selection_;
   IconSurfaces surfaces_;  // PicIcon, PicMask and PicImage
+
+  LiveText caption_;
+  LiveText status_;  // panel 1 of sbMain
+  GridExtent shownExtent_;
 
   DriveListBox drive1_;
   DirListBox dir1_;

@@ -87,6 +87,8 @@ void FrmFindIcon::CmdFind_Click() {
   const FolderListsHeld held(dir1_, file1_);
   // The button is disabled meanwhile, and a disabled control that has the focus would swallow every key.
   const FocusKept focus(Window());
+  // The last texts show at the end, also where an error ends the search.
+  const std::shared_ptr<void> progress(nullptr, [this](void*) { ShowProgress(); });
   driver_.CmdFind_Click();
 }
 

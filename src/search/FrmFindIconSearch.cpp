@@ -81,11 +81,18 @@ std::vector<std::string> FrmFindIcon::File1Names() {
 }
 
 void FrmFindIcon::SetCaption(const std::string& text) {
-  Form::SetCaption(text);
+  caption_.Set(text);
+  if (!state_.IsSearching) caption_.Flush();
 }
 
 void FrmFindIcon::SetStatusText(const std::string& text) {
-  SendMessageW(Item(FrmFindIcon_sbMain), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
+  status_.Set(text);
+  if (!state_.IsSearching) status_.Flush();
+}
+
+void FrmFindIcon::ShowProgress() {
+  caption_.Flush();
+  status_.Flush();
 }
 
 void FrmFindIcon::SetInfoText(const std::string& text) {
@@ -93,6 +100,7 @@ void FrmFindIcon::SetInfoText(const std::string& text) {
 }
 
 void FrmFindIcon::ShowInformation(const std::string& text) {
+  ShowProgress();
   ShowMessage(Window(), text, productTitle, MessageSign::Information);
 }
 
@@ -104,6 +112,8 @@ void FrmFindIcon::ClearListView() {
 }
 
 void FrmFindIcon::ListChanged() {
+  // The rows of a search show together when it ends.
+  if (state_.IsSearching) return;
   lv_.SetRowCount(list_.Count());
   ShowSelectionInList();
   UpdateSaveMenus();
@@ -115,6 +125,9 @@ void FrmFindIcon::ClearGrid() {
 }
 
 void FrmFindIcon::SizeGrid(const GridExtent& extent) {
+  // Asked once for each folder of a search, and nearly always for the same.
+  if (shownExtent_ == extent && vsb_.SmallStep() == state_.Geometry.CellPitch) return;
+  shownExtent_ = extent;
   grid_.Resize(grid_.Width(), extent.height, white);
   SetWindowPos(picIcons_.Window(), nullptr, 0, 0, grid_.Width(), grid_.Height(),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -123,6 +136,7 @@ void FrmFindIcon::SizeGrid(const GridExtent& extent) {
 }
 
 void FrmFindIcon::ScrollGridToTop() {
+  if (vsb_.Value() == 0) return;
   vsb_.SetValue(0);
   Vsb_Change();
 }
@@ -149,6 +163,8 @@ void FrmFindIcon::KeepGridPicture() {
 }
 
 void FrmFindIcon::DoEvents() {
+  caption_.ShowIfDue();
+  status_.ShowIfDue();
   TheApplication().DoEvents();
 }
 

@@ -1,0 +1,265 @@
+// What a whole search costs, held against the bare platform calls on the same files, and how that grows.
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "BenchData.h"
+#include "Measure.h"
+#include "forms/Application.h"
+#include "platform/Folders.h"
+#include "platform/GdiObjects.h"
+#include "platform/Handles.h"
+#include "platform/Paths.h"
+#include "platform/ShellIcons.h"
+#include "platform/Surface.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "search/FrmFindIcon.h"
+#include "search/SearchDriver.h"
+
+namespace tarvik::bench {
+namespace {
+
+constexpr int rounds = 5;
+
+// The files of a search.
+struct Scope {
+  std::string folder;
+  std::string pattern;  // one part, as the system's own listing takes it
+  bool subFolders = false;
+};
+
+// What a program would do that only wants the icons drawn: list folders, count, take, draw and release each icon.
+class BareCalls {
+ public:
+  explicit BareCalls(const Scope& scope) : scope_(scope), grid_(WidestGrid(), 12000, white) {}
+
+  void Run() {
+    drawing_ = false;
+    Visit(ToWide(scope_.folder));
+    drawing_ = true;
+    number_ = 0;
+    Visit(ToWide(scope_.folder));
+  }
+
+ private:
+  using Entries = std::vector<std::wstring>;
+
+  static Entries List(const std::wstring& pattern, bool folders) {
+    Entries names;
+    WIN32_FIND_DATAW data;
+    const FindHandle find(FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &data, FindExSearchNameMatch, nullptr,
+                                           FIND_FIRST_EX_LARGE_FETCH));
+    if (!find) return names;
+    do {
+      const bool isFolder = (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+      if (isFolder == folders && data.cFileName[0] != L'.') names.emplace_back(data.cFileName);
+    } while (FindNextFileW(find.get(), &data) != FALSE);
+    return names;
+  }
+
+  void Visit(const std::wstring& folder) {
+    for (const std::wstring& name : List(folder + L"\\" + ToWide(scope_.pattern), false)) {
+      TakeFile(ToUtf8(folder + L"\\" + name));
+    }
+    if (!scope_.subFolders) return;
+    for (const std::wstring& name : List(folder + L"\\*", true)) Visit(folder + L"\\" + name);
+  }
+
+  void TakeFile(const std::string& path) {
+    const UINT count = ExtractIconExA(path.c_str(), -1, nullptr, nullptr, 0);
+    if (!drawing_ || count > 100000) return;
+    const GridGeometry& geometry = gridGeometries[1];
+    for (UINT index = 0; index < count; ++index, ++number_) {
+      HICON large = nullptr;
+      ExtractIconExA(path.c_str(), static_cast<int>(index), &large, nullptr, 1);
+      const IconHandle icon(large);
+      const Point corner = IconCorner(geometry, number_);
+      DrawIconEx(grid_.Dc(), corner.x, corner.y, icon.get(), geometry.IconSize, geometry.IconSize, 0, nullptr,
+                 DI_NORMAL);
+    }
+  }
+
+  Scope scope_;
+  Surface grid_;
+  bool drawing_ = false;
+  int number_ = 0;
+};
+
+// A window that swallows texts: what is left is the search itself.
+class SilentWindow final : public SearchWindow {
+ public:
+  SilentWindow(const Scope& scope, FolderReader& folders)
+      : scope_(scope),
+        folders_(folders),
+        folder_(scope.folder),
+        grid_(WidestGrid(), 12000, white),
+        own_(114, 114, white) {}
+
+  void CloseEnhancedView() override {}
+  void Enable(SearchControl, bool) override {}
+  bool chkSubDir() const override { return scope_.subFolders; }
+  std::string txtMax() const override { return "4000"; }
+  int udMainUpperEnd() const override { return 4000; }
+  std::string Dir1Path() const override { return folder_; }
+  void SetDir1Path(const std::string& folder) override { folder_ = folder; }
+  std::vector<std::string> Dir1SubFolders() override { return folders_.SubFolders(folder_); }
+  std::string File1Path() const override { return folder_; }
+  void SetFile1Path(const std::string& folder) override { folder_ = folder; }
+  std::vector<std::string> File1Names() override { return folders_.Files(folder_, scope_.pattern); }
+  void SetCaption(const std::string&) override {}
+  void SetStatusText(const std::string&) override {}
+  void SetInfoText(const std::string&) override {}
+  void ShowInformation(const std::string& text) override { std::printf("refused: %s\n", text.c_str()); }
+  void ClearListView() override {}
+  void ListChanged() override {}
+  void ClearGrid() override {}
+  void SizeGrid(const GridExtent&) override {}
+  void ScrollGridToTop() override {}
+  DrawSurface& Grid() override { return grid_; }
+  DrawSurface& OwnSurface() override { return own_; }
+  void DrawFrame(Point, Point, bool) override {}
+  void KeepGridPicture() override {}
+  void DoEvents() override {}
+  std::shared_ptr<void> ShowHourglass() override { return nullptr; }
+  void UpdateSaveMenus() override {}
+
+ private:
+  Scope scope_;
+  FolderReader& folders_;
+  std::string folder_;
+  Surface grid_;
+  Surface own_;
+};
+
+// The search behind a window that shows nothing.
+class SilentSearch {
+ public:
+  explicit SilentSearch(const Scope& scope)
+      : window_(scope, folders_), driver_(window_, icons_, list_, state_, language_) {}
+  void Run() { driver_.CmdFind_Click(); }
+
+ private:
+  Folders folders_;
+  ShellIcons icons_;
+  IconList list_;
+  SearchState state_;
+  std::string language_ = "ENG";
+  SilentWindow window_;
+  SearchDriver driver_;
+};
+
+// Settings that give the scope's folder and forget what is written.
+class FixedIni final : public IniStore {
+ public:
+  explicit FixedIni(const Scope& scope) : scope_(scope) {}
+  std::string Read(const std::string&, const std::string& key, const std::string& defaultValue, int,
+                   const std::string&) override {
+    if (key == "Folder") return scope_.folder;
+    if (key == "Subdir") return scope_.subFolders ? "True" : "False";
+    return defaultValue;
+  }
+  int Write(const std::string&, const std::string&, const std::string&, const std::string&) override { return 1; }
+  int DeleteKey(const std::string&, const std::string&, const std::string&) override { return 1; }
+  int DeleteSection(const std::string&, const std::string&) override { return 1; }
+
+ private:
+  Scope scope_;
+};
+
+// The real main window on the screen.
+class WindowSearch {
+ public:
+  WindowSearch(Application& application, const Scope& scope)
+      : application_(application),
+        ini_(scope),
+        settings_(ini_, "C:\\tarvik.exe"),
+        window_(application, FrmFindIcon::Services{state_, settings_, icons_, folders_,
+                                                   [] { return std::vector<DriveListBox::Drive>{}; }, IsReadableFolder,
+                                                   scope.folder, [] {}, [] {}}) {
+    state_.CurrentLanguage = "ENG";
+    window_.Show();
+    window_.SetItemText(FrmFindIcon_txtMax, "4000");
+    const int type = scope.pattern == "*.dll" ? 4 : 0;
+    for (int box = 0; box < 7; ++box) {
+      CheckDlgButton(window_.Window(), FrmFindIcon_ChkFileType0 + box, box == type ? BST_CHECKED : BST_UNCHECKED);
+    }
+    Click(FrmFindIcon_ChkFileType0 + type);
+    application.DoEvents();
+  }
+  WindowSearch(const WindowSearch&) = delete;
+  WindowSearch& operator=(const WindowSearch&) = delete;
+  ~WindowSearch() { window_.Unload(); }
+
+  void Run() {
+    Click(FrmFindIcon_CmdFind);
+    application_.DoEvents();
+  }
+
+ private:
+  void Click(int id) { SendMessageW(window_.Window(), WM_COMMAND, static_cast<WPARAM>(id), 0); }
+
+  Application& application_;
+  ProgramState state_;
+  FixedIni ini_;
+  Settings settings_;
+  ShellIcons icons_;
+  Folders folders_;
+  FrmFindIcon window_;
+};
+
+void CompareSearches(Application& application, const std::string& title, const Scope& scope) {
+  BareCalls bare(scope);
+  SilentSearch silent(scope);
+  WindowSearch window(application, scope);
+  Compare(title,
+          {{"bare calls", [&] { bare.Run(); }},
+           {"search, silent window", [&] { silent.Run(); }},
+           {"search, real window", [&] { window.Run(); }}},
+          rounds);
+}
+
+// One icon, and more and more empty folders beside it: the cost of a folder must not grow with their number, beyond
+// what the file system itself makes of it.
+void CompareFolderCounts(const std::string& root) {
+  for (const int count : {100, 1000, 10000}) {
+    const Scope scope{MakeEmptyFolders(root, count), "*.ico", true};
+    BareCalls bare(scope);
+    SilentSearch silent(scope);
+    Compare(std::to_string(count) + " folders side by side",
+            {{"bare calls", [&] { bare.Run(); }}, {"search, silent window", [&] { silent.Run(); }}}, 3);
+  }
+}
+
+void SearchManyTimes(Application& application, const Scope& scope) {
+  constexpr int searches = 100;
+  WindowSearch window(application, scope);
+  for (int i = 0; i < 5; ++i) window.Run();
+  const int before = testing::CountGdiObjects();
+  for (int i = 0; i < searches; ++i) window.Run();
+  std::printf("%-44s %-24d %9d GDI objects more\n", "after so many searches", searches,
+              testing::CountGdiObjects() - before);
+}
+
+}  // namespace
+}  // namespace tarvik::bench
+
+int main() {
+  using namespace tarvik;
+  using namespace tarvik::bench;
+  Application application(GetModuleHandleW(nullptr));
+  const testing::TemporaryFolder folder;
+  CompareSearches(application, "the DLLs of the system folder", {SystemFolder(), "*.dll", false});
+  CompareSearches(application, "2,000 icon files in 500 folders", {MakeIconFiles(folder, 500, 4), "*.ico", true});
+  CompareSearches(application, "one DLL of 2,000 icons", {MakeIconLibrary(folder, 2000), "*.dll", false});
+  CompareFolderCounts(folder.MakeFolder("walk"));
+  SearchManyTimes(application, {MakeIconFiles(folder, 10, 4), "*.ico", true});
+  return 0;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace tarvik {
+
+// A text on the screen that changes faster than anyone reads. Showing a text costs more than most of the work it tells
+// of, so it is shown a few dozen times a second at most; the last one is never lost.
+class LiveText {
+ public:
+  // `show` puts the text on the screen.
+  explicit LiveText(std::function<void(const std::string& text)> show) : show_(std::move(show)) {}
+
+  // Shows the text, now or when it is due.
+  void Set(const std::string& text) {
+    waiting_ = text;
+    ShowIfDue();
+  }
+  // Shows a text that waits, if its time has come.
+  void ShowIfDue() {
+    if (GetTickCount64() - shownAt_ >= period) Flush();
+  }
+  // Shows a text that waits, now.
+  void Flush() {
+    if (!waiting_) return;
+    const std::string text = *std::exchange(waiting_, std::nullopt);
+    shownAt_ = GetTickCount64();
+    show_(text);
+  }
+
+ private:
+  static constexpr ULONGLONG period = 40;  // milliseconds
+
+  std::function<void(const std::string& text)> show_;
+  std::optional<std::string> waiting_;
+  ULONGLONG shownAt_ = 0;
+};
+
+}  // namespace tarvik
