@@ -74,6 +74,6 @@ quietly() {
   shift
   watched "$@" >"$log" 2>&1 </dev/null && return 0
   tail -n 80 "$log" >&2
-  printf 'error: %s failed; all of its output is in %s\n' "$1" "${log#"$root"/}" >&2
+  printf 'error: this failed; all of its output is in %s\n' "${log#"$root"/}" >&2
   return 1
 }
