@@ -1,0 +1,131 @@
+// While a search runs.
+
+#include <gmock/gmock.h>
+
+#include "end_to_end/EndToEndTest.h"
+#include "end_to_end/Input.h"
+#include "platform/IconFiles.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+using testing::IconFileOf;
+
+class Busy : public EndToEnd {
+ protected:
+  static constexpr int folders = 60;
+
+  // A tree that makes a search serve the waiting messages many times.
+  void StartOnManyFolders() {
+    for (int i = 0; i < folders; ++i) {
+      const std::string folder = "folder" + std::to_string(100 + i);
+      tree_.MakeFolder(folder);
+      tree_.MakeFile(folder + "\\a.ico", IconFileOf(0xFF));
+    }
+    Start({}, true);
+  }
+
+  // Presses Find, does something while the search stands still in its middle, and lets it end.
+  void During(const std::function<void()>& something) {
+    const Control find = program_.Item(FrmFindIcon_CmdFind);
+    find.Press();
+    ASSERT_TRUE(Eventually([&] { return !find.IsEnabled(); }));
+    program_.Suspend();
+    const bool running = !find.IsEnabled();
+    something();
+    program_.Resume();
+    ASSERT_TRUE(running) << "the search was over before it could be stopped";
+    ASSERT_TRUE(Eventually([&] { return find.IsEnabled() || !program_.IsRunning(); }));
+  }
+
+  void ExpectTheSearchWentOn() {
+    // A close that was only put off would come before this answer.
+    ASSERT_TRUE(program_.IsRunning());
+    EXPECT_EQ(List().RowCount(), folders);
+    EXPECT_EQ(Status(), std::to_string(folders) + " Icons Added. Double click an icon for enhanced view.");
+  }
+};
+
+TEST_F(Busy, TheWindowDoesNotCloseWhenAskedTo) {
+  StartOnManyFolders();
+  During([&] { program_.Window().Post(WM_CLOSE); });
+  ExpectTheSearchWentOn();
+}
+
+TEST_F(Busy, TheWindowDoesNotCloseByItsSystemMenu) {
+  StartOnManyFolders();
+  During([&] { program_.Window().Post(WM_SYSCOMMAND, SC_CLOSE); });
+  ExpectTheSearchWentOn();
+}
+
+TEST_F(Busy, TheWindowDoesNotCloseByAltF4) {
+  StartOnManyFolders();
+  During([&] { PressKey(VK_F4, {VK_MENU}); });
+  ExpectTheSearchWentOn();
+}
+
+TEST_F(Busy, TheWindowDoesNotCloseByItsCloseBox) {
+  StartOnManyFolders();
+  const RECT window = program_.Window().Place();
+  const POINT closeBox{window.right - GetSystemMetrics(SM_CXSIZE) / 2 - GetSystemMetrics(SM_CXFRAME),
+                       window.top + GetSystemMetrics(SM_CYFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2};
+  During([&] { Click(closeBox); });
+  ExpectTheSearchWentOn();
+  // The same place closes the window once the search is over, so that was the box.
+  Click(closeBox);
+  EXPECT_EQ(program_.WaitForEnd(), 0U);
+}
+
+TEST_F(Busy, TheWindowDoesNotCloseByItsCommands) {
+  StartOnManyFolders();
+  During([&] {
+    program_.Command(FrmFindIcon_mnuExit);
+    program_.Command(FrmFindIcon_CmdClose);
+    program_.Command(FrmFindIcon_CmdOk);
+    program_.Command(IDCANCEL);
+  });
+  ExpectTheSearchWentOn();
+}
+
+TEST_F(Busy, TheButtonsThatCouldDisturbAreDisabled) {
+  StartOnManyFolders();
+  During([&] {
+    EXPECT_FALSE(IsEnabled(FrmFindIcon_CmdFind));
+    EXPECT_FALSE(IsEnabled(FrmFindIcon_CmdOk));
+    EXPECT_FALSE(IsEnabled(FrmFindIcon_CmdClose));
+    EXPECT_TRUE(IsEnabled(FrmFindIcon_chkSubDir));
+    EXPECT_TRUE(IsEnabled(FrmFindIcon_CboIconSize));
+  });
+  ExpectTheSearchWentOn();
+}
+
+TEST_F(Busy, ASecondSearchDoesNotStartInsideTheFirst) {
+  StartOnManyFolders();
+  During([&] {
+    program_.Command(FrmFindIcon_CmdFind);
+    program_.Command(FrmFindIcon_mnuStart);
+    PressKey(VK_RETURN);
+  });
+  ExpectTheSearchWentOn();
+}
+
+TEST_F(Busy, OpeningAFolderDoesNotLeadTheSearchAstray) {
+  StartOnManyFolders();
+  const POINT row = program_.Item(FrmFindIcon_Dir1).ListRowMiddle(0);
+  During([&] { DoubleClick(row); });
+  ExpectTheSearchWentOn();
+}
+
+TEST_F(Busy, ChoosingADriveDoesNotLeadTheSearchAstray) {
+  StartOnManyFolders();
+  const Control drives = program_.Item(FrmFindIcon_Drive1);
+  const auto id = static_cast<WORD>(FrmFindIcon_Drive1);
+  During([&] {
+    drives.Post(CB_SETCURSEL, 1);
+    program_.Window().Post(WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(drives.Window()));
+  });
+  ExpectTheSearchWentOn();
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end

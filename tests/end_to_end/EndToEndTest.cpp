@@ -1,0 +1,106 @@
+#include "end_to_end/EndToEndTest.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+#include "end_to_end/Screen.h"
+#include "platform/Surface.h"
+#include "platform/Text.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+constexpr const char* section = "FindIcon";
+
+void CopyBuilt(const char* file, const std::string& target) {
+  const std::filesystem::path source = BuiltFile(file);
+  ASSERT_NE(CopyFileW(source.c_str(), ToWide(target).c_str(), TRUE), 0) << source << " to " << target;
+}
+
+}  // namespace
+
+void EndToEnd::TearDown() {
+  if (!program_.IsRunning()) return;
+  const auto box = program_.FindBox();
+  ASSERT_FALSE(box) << "left open: " << box->Text();
+  EXPECT_EQ(program_.Close(), 0U);
+}
+
+void EndToEnd::Start(const std::string& folder, bool subFolders) {
+  WriteSetting("Folder", folder.empty() ? tree_.Path() : folder);
+  WriteSetting("Subdir", subFolders ? "True" : "False");
+  program_.Start();
+}
+
+void EndToEnd::WriteSetting(const std::string& key, const std::string& value) const {
+  const std::string file = ToUtf8(program_.SettingsFile().wstring());
+  ASSERT_NE(WritePrivateProfileStringA(section, key.c_str(), value.c_str(), file.c_str()), 0);
+}
+
+std::string EndToEnd::ReadSetting(const std::string& key) const {
+  const std::string file = ToUtf8(program_.SettingsFile().wstring());
+  std::string value(2048, '\0');
+  value.resize(GetPrivateProfileStringA(section, key.c_str(), "", value.data(), static_cast<DWORD>(value.size()),
+                                        file.c_str()));
+  return value;
+}
+
+void EndToEnd::Tick(std::initializer_list<FileType> types) const {
+  const auto set = [this](int type, bool ticked) {
+    const Control box = program_.Item(FrmFindIcon_ChkFileType0 + type);
+    if (box.IsChecked() != ticked) box.Send(BM_CLICK);
+  };
+  const auto wanted = [types](int type) { return std::ranges::find(types, type) != types.end(); };
+  // The box for all files first: while it is ticked it ticks the others.
+  for (int type = fileTypeCount - 1; type >= 0; --type) set(type, wanted(type));
+}
+
+void EndToEnd::ChooseSize(IconSizeChoice size) const {
+  const Control list = program_.Item(FrmFindIcon_CboIconSize);
+  list.ChooseComboItem(size);
+  // The choice is posted; the next question is answered after it.
+  ASSERT_TRUE(Eventually([&] { return list.ComboChoice() == size; }));
+}
+
+Box EndToEnd::FindAndWaitForBox() const {
+  program_.Item(FrmFindIcon_CmdFind).Press();
+  return program_.WaitForBox();
+}
+
+std::string EndToEnd::FindAndReadMessage() const {
+  const Box box = FindAndWaitForBox();
+  std::string text = box.Text();
+  box.Press(IDOK);
+  EXPECT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind); }));
+  return text;
+}
+
+std::vector<Entry> EndToEnd::Entries() const {
+  std::vector<Entry> entries;
+  const ReportView list = List();
+  const int rows = list.RowCount();
+  for (int row = 0; row < rows; ++row) {
+    EXPECT_EQ(list.Cell(row, 0), std::to_string(row + 1));
+    entries.push_back({.path = list.Cell(row, 1), .index = std::stoi(list.Cell(row, 2))});
+  }
+  return entries;
+}
+
+bool ShowsSign(const Box& box, const wchar_t* sign) {
+  const Control control = box.Sign();
+  if (!control) return false;
+  const RECT place = control.Inside();
+  Surface expected(place.right - place.left, place.bottom - place.top, GetSysColor(COLOR_3DFACE));
+  DrawIconEx(expected.Dc(), 0, 0, LoadIconW(nullptr, sign), 0, 0, 0, nullptr, DI_NORMAL);
+  GdiFlush();
+  return Eventually([&] { return CountDifferences(Screenshot(place), expected) == 0; });
+}
+
+void CopyThreeIcons(const std::string& target) { CopyBuilt(TARVIK_ICONS_3, target); }
+
+void CopyHundredIcons(const std::string& target) { CopyBuilt(TARVIK_ICONS_100, target); }
+
+void CopyTwoThousandIcons(const std::string& target) { CopyBuilt(TARVIK_ICONS_2000, target); }
+
+}  // namespace tarvik::end_to_end

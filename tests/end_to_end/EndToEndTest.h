@@ -1,0 +1,83 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "end_to_end/Machine.h"
+#include "end_to_end/Program.h"
+#include "end_to_end/Waiting.h"
+#include "platform/TemporaryFolder.h"
+#include "resource.h"
+
+namespace tarvik::end_to_end {
+
+// The seven file types, by their check boxes' places.
+enum FileType { Ico, Ani, Icl, Ocx, Dll, Exe, AllFiles };
+inline constexpr int fileTypeCount = 7;
+
+// The icon sizes, by their places in the list of sizes.
+enum IconSizeChoice { Size16, Size32, Size48, Size64 };
+
+// One entry of the icon list.
+struct Entry {
+  std::string path;
+  int index;
+  friend bool operator==(const Entry&, const Entry&) = default;
+  friend void PrintTo(const Entry& entry, std::ostream* out) { *out << entry.path << " : " << entry.index; }
+};
+
+// A test that runs the program in a folder of its own, on a machine without a chosen language, and searches a folder of
+// its own. At its end the program must close when asked, with exit code 0.
+class EndToEnd : public ::testing::Test {
+ protected:
+  void TearDown() override;
+
+  // A path in the searched folder, and files and folders made there.
+  std::string In(std::string_view name) const { return tree_.In(name); }
+
+  // Starts the program with `folder` (the searched folder where empty) as the saved one.
+  void Start(const std::string& folder = {}, bool subFolders = false);
+  // Writes one of the program's settings, which it reads when it starts; and reads one as it stands in the file.
+  void WriteSetting(const std::string& key, const std::string& value) const;
+  std::string ReadSetting(const std::string& key) const;
+
+  // Ticks these boxes and no others.
+  void Tick(std::initializer_list<FileType> types) const;
+  void ChooseSize(IconSizeChoice size) const;
+  void SetLimit(const std::string& limit) const { program_.Item(FrmFindIcon_txtMax).SetText(limit); }
+  // Presses Find and waits until a search that shows no message is over.
+  void Find() const { program_.Item(FrmFindIcon_CmdFind).Send(BM_CLICK); }
+  // Presses Find and waits for the message that ends the search.
+  Box FindAndWaitForBox() const;
+  // Does all that for a search that is refused or stopped: the message's text; the box is closed and the search over.
+  std::string FindAndReadMessage() const;
+
+  std::string Caption() const { return program_.Window().Text(); }
+  std::string Status() const { return StatusText(program_.Item(FrmFindIcon_sbMain), 0); }
+  std::string TextOf(int id) const { return program_.Item(id).Text(); }
+  bool IsEnabled(int id) const { return program_.Item(id).IsEnabled(); }
+  ReportView List() const { return ReportView(program_.Item(FrmFindIcon_Lv)); }
+  // All entries of the icon list; fails the test where one is not numbered in order.
+  std::vector<Entry> Entries() const;
+  std::vector<std::string> FileNames() const { return program_.Item(FrmFindIcon_File1).ListItems(); }
+  std::vector<std::string> FolderNames() const { return program_.Item(FrmFindIcon_Dir1).ListItems(); }
+
+  testing::TemporaryFolder home_;  // where the program lies
+  testing::TemporaryFolder tree_;  // what is searched
+  LanguageValue noLanguage_{std::nullopt};
+  Program program_{home_.Path()};
+};
+
+// Whether the box shows that sign of the system (IDI_INFORMATION ...), compared pixel by pixel.
+bool ShowsSign(const Box& box, const wchar_t* sign);
+
+// Copies of the libraries that the build made, of 3, 100 and 2,000 icons.
+void CopyThreeIcons(const std::string& target);
+void CopyHundredIcons(const std::string& target);
+void CopyTwoThousandIcons(const std::string& target);
+
+}  // namespace tarvik::end_to_end

@@ -1,0 +1,173 @@
+// The lists of drives, folders and files.
+
+#include <gmock/gmock.h>
+#include <windows.h>
+
+#include "end_to_end/EndToEndTest.h"
+#include "end_to_end/Input.h"
+#include "platform/IconFiles.h"
+#include "platform/Paths.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+class Folders : public EndToEnd {
+ protected:
+  int RowOf(const std::string& name) const {
+    const auto names = FolderNames();
+    const auto found = std::ranges::find(names, name);
+    EXPECT_NE(found, names.end()) << name;
+    return static_cast<int>(found - names.begin());
+  }
+  bool ListsFile(const std::string& name) const {
+    const auto names = FileNames();
+    return std::ranges::find(names, name) != names.end();
+  }
+  void ChooseDrive(char letter) const {
+    const Control drives = program_.Item(FrmFindIcon_Drive1);
+    const auto items = drives.ComboItems();
+    for (std::size_t i = 0; i < items.size(); ++i) {
+      if (items[i].starts_with(letter)) return drives.ChooseComboItem(static_cast<int>(i));
+    }
+    ADD_FAILURE() << "no drive " << letter;
+  }
+};
+
+TEST_F(Folders, TheDriveShowsItsLetterAndItsName) {
+  const VolumeLabel label("机器");
+  Start();
+  const Control drives = program_.Item(FrmFindIcon_Drive1);
+  EXPECT_THAT(drives.ComboItems(), Contains("c: [机器]"));
+  EXPECT_EQ(drives.ComboItems().at(static_cast<std::size_t>(drives.ComboChoice())), "c: [机器]");
+}
+
+TEST_F(Folders, ADriveWithoutANameShowsItsLetterAlone) {
+  Start();
+  EXPECT_THAT(program_.Item(FrmFindIcon_Drive1).ComboItems(), Contains("c:"));
+}
+
+TEST_F(Folders, TheFolderListShowsTheAncestorsTheFolderAndItsSubFolders) {
+  tree_.MakeFolder("beta");
+  tree_.MakeFolder("Alpha");
+  Start();
+  std::vector<std::string> expected;
+  for (const std::string& parent : ParentFolders(tree_.Path())) expected.emplace_back(LastName(parent));
+  expected.emplace_back(LastName(tree_.Path()));
+  expected.insert(expected.end(), {"Alpha", "beta"});
+  EXPECT_EQ(FolderNames(), expected);
+}
+
+TEST_F(Folders, ADoubleClickOpensAFolder) {
+  tree_.MakeFolder("inner");
+  tree_.MakeFile("inner\\in.ico");
+  Start();
+  DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf("inner")));
+  EXPECT_TRUE(Eventually([&] { return ListsFile("in.ico"); }));
+}
+
+TEST_F(Folders, EnterOpensAFolder) {
+  tree_.MakeFolder("inner");
+  tree_.MakeFile("inner\\in.ico");
+  Start();
+  Click(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf("inner")));
+  PressKey(VK_RETURN);
+  EXPECT_TRUE(Eventually([&] { return ListsFile("in.ico"); }));
+  EXPECT_FALSE(program_.FindBox()) << "Enter pressed Find, too";
+}
+
+TEST_F(Folders, AClickOnlyChoosesAFolder) {
+  tree_.MakeFolder("inner");
+  tree_.MakeFile("out.ico");
+  Start();
+  const int row = RowOf("inner");
+  Click(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(row));
+  EXPECT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Dir1).ListChoice() == row; }));
+  EXPECT_THAT(FileNames(), ElementsAre("out.ico"));
+}
+
+TEST_F(Folders, ADoubleClickOnAnAncestorGoesBackUp) {
+  tree_.MakeFolder("inner");
+  tree_.MakeFile("out.ico");
+  Start(In("inner"));
+  DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf(std::string(LastName(tree_.Path())))));
+  EXPECT_TRUE(Eventually([&] { return ListsFile("out.ico"); }));
+}
+
+TEST_F(Folders, HiddenFilesAreNotListedButHiddenFoldersAre) {
+  AddAttributes(tree_.MakeFile("hidden.ico"), FILE_ATTRIBUTE_HIDDEN);
+  AddAttributes(tree_.MakeFile("system.ico"), FILE_ATTRIBUTE_SYSTEM);
+  tree_.MakeFile("shown.ico");
+  AddAttributes(tree_.MakeFolder("hidden"), FILE_ATTRIBUTE_HIDDEN);
+  Start();
+  EXPECT_THAT(FileNames(), ElementsAre("shown.ico"));
+  EXPECT_THAT(FolderNames(), Contains("hidden"));
+}
+
+TEST_F(Folders, LinksToFoldersAreNotListed) {
+  tree_.MakeFolder("real");
+  tree_.MakeLink("link", tree_.Path());
+  Start();
+  EXPECT_THAT(FolderNames(), Contains("real"));
+  EXPECT_THAT(FolderNames(), Not(Contains("link")));
+}
+
+TEST_F(Folders, ThePatternMatchesLongNamesOnlyAndWithoutRegardToCase) {
+  for (const char* name : {"a.ico", "B.ICO", "c.icon", "d.ico~"}) tree_.MakeFile(name);
+  Start();
+  EXPECT_THAT(FileNames(), ElementsAre("a.ico", "B.ICO"));
+}
+
+TEST_F(Folders, ChoosingADriveGoesToItsRoot) {
+  Start();
+  ChooseDrive('c');
+  EXPECT_TRUE(Eventually([&] { return FolderNames().front() == "C:\\" && RowOf("windows") == 1; }))
+      << ::testing::PrintToString(FolderNames());
+}
+
+struct NotReadyRow {
+  std::optional<std::string> language;
+  const char* text;
+};
+
+class EmptyDriveMessage : public Folders, public ::testing::WithParamInterface<NotReadyRow> {};
+
+TEST_P(EmptyDriveMessage, SaysThatTheDriveIsNotReady) {
+  const LanguageValue language(GetParam().language);
+  const EmptyDrive drive;
+  tree_.MakeFile("here.ico");
+  Start();
+  ChooseDrive('q');
+  const Box box = program_.WaitForBox();
+  EXPECT_EQ(box.Text(), GetParam().text);
+  EXPECT_TRUE(ShowsSign(box, IDI_INFORMATION));
+  EXPECT_THAT(box.Buttons(), ElementsAre(IDOK));
+  box.Press(IDOK);
+  EXPECT_THAT(FileNames(), ElementsAre("here.ico"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, EmptyDriveMessage,
+                         ::testing::Values(NotReadyRow{std::nullopt, "Driver Not Ready!"},
+                                           NotReadyRow{"CHS", "路径无效!"}, NotReadyRow{"CHT", "路徑無效!"}));
+
+TEST_F(Folders, AnUnknownLanguageShowsNoMessageForAnEmptyDrive) {
+  const LanguageValue language("Chinese");
+  const EmptyDrive drive;
+  tree_.MakeFile("here.ico");
+  Start();
+  ChooseDrive('q');
+  const Control drives = program_.Item(FrmFindIcon_Drive1);
+  // Sent after the posted choice, so it is answered after its handler, or by the message box's loop.
+  EXPECT_TRUE(Eventually([&] { return drives.ComboItems().at(static_cast<std::size_t>(drives.ComboChoice())) == "q:"; }));
+  ChooseDrive('c');
+  EXPECT_TRUE(Eventually([&] { return FolderNames().front() == "C:\\"; }));
+  EXPECT_FALSE(program_.FindBox());
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end

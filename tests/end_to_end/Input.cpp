@@ -1,0 +1,106 @@
+#include "end_to_end/Input.h"
+
+#include <stdexcept>
+#include <vector>
+
+#include "platform/Text.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+void Send(INPUT input) {
+  if (SendInput(1, &input, sizeof input) != 1) throw std::runtime_error("input is not taken");
+}
+
+INPUT KeyInput(WORD key, WORD character, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = character;
+  input.ki.dwFlags = flags;
+  return input;
+}
+
+void SendMouse(DWORD flags, int wheel = 0) {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = flags;
+  input.mi.mouseData = static_cast<DWORD>(wheel);
+  Send(input);
+}
+
+void SendKey(WORD key, WORD character, DWORD flags) { Send(KeyInput(key, character, flags)); }
+
+// Holds keys down for as long as it lives.
+class Holding {
+ public:
+  explicit Holding(HeldKeys keys) : keys_(keys) {
+    for (const WORD key : keys_) SendKey(key, 0, 0);
+  }
+  ~Holding() {
+    for (auto key = keys_.rbegin(); key != keys_.rend(); ++key) {
+      INPUT input = KeyInput(*key, 0, KEYEVENTF_KEYUP);
+      SendInput(1, &input, sizeof input);
+    }
+  }
+  Holding(const Holding&) = delete;
+  Holding& operator=(const Holding&) = delete;
+
+ private:
+  std::vector<WORD> keys_;
+};
+
+void PressLeft() {
+  SendMouse(MOUSEEVENTF_LEFTDOWN);
+  SendMouse(MOUSEEVENTF_LEFTUP);
+}
+
+}  // namespace
+
+void MovePointer(POINT place) {
+  SetCursorPos(place.x, place.y);
+  SendMouse(MOUSEEVENTF_MOVE);
+}
+
+void Click(POINT place, HeldKeys held) {
+  const Holding holding(held);
+  MovePointer(place);
+  PressLeft();
+}
+
+void DoubleClick(POINT place, HeldKeys held) {
+  const Holding holding(held);
+  MovePointer(place);
+  PressLeft();
+  PressLeft();
+}
+
+void RightClick(POINT place) {
+  MovePointer(place);
+  SendMouse(MOUSEEVENTF_RIGHTDOWN);
+  SendMouse(MOUSEEVENTF_RIGHTUP);
+}
+
+void TurnWheel(POINT place, int notches) {
+  MovePointer(place);
+  SendMouse(MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA);
+}
+
+POINT MiddleOf(const RECT& place) { return {(place.left + place.right) / 2, (place.top + place.bottom) / 2}; }
+
+void PressKey(WORD key, HeldKeys held, int times) {
+  const Holding holding(held);
+  for (int i = 0; i < times; ++i) {
+    SendKey(key, 0, 0);
+    SendKey(key, 0, KEYEVENTF_KEYUP);
+  }
+}
+
+void TypeText(const std::string& text) {
+  for (const wchar_t unit : ToWide(text)) {
+    SendKey(0, unit, KEYEVENTF_UNICODE);
+    SendKey(0, unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
+  }
+}
+
+}  // namespace tarvik::end_to_end

@@ -1,0 +1,192 @@
+#include "end_to_end/Program.h"
+
+#include <stdexcept>
+
+#include "end_to_end/Waiting.h"
+#include "platform/Text.h"
+#include "resource.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int boxTextId = 0xFFFF;
+constexpr int boxSignId = 20;
+
+std::vector<Control> ChildrenOf(HWND window) {
+  std::vector<Control> children;
+  EnumChildWindows(
+      window,
+      [](HWND child, LPARAM list) {
+        reinterpret_cast<std::vector<Control>*>(list)->emplace_back(child);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&children));
+  return children;
+}
+
+std::optional<Control> ChildWithId(HWND window, int id) {
+  for (const Control child : ChildrenOf(window)) {
+    if (GetDlgCtrlID(child.Window()) == id) return child;
+  }
+  return std::nullopt;
+}
+
+std::wstring ClassOf(HWND window) {
+  wchar_t name[64] = {};
+  GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  return name;
+}
+
+// What every message box of the system has: its class, and its text under an id of its own.
+bool IsBox(Control window) { return ClassOf(window.Window()) == L"#32770" && ChildWithId(window.Window(), boxTextId); }
+
+}  // namespace
+
+std::filesystem::path BuiltFile(const char* relativePath) {
+  std::wstring path(32768, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+  return (fs::path(path).parent_path() / ToWide(relativePath)).lexically_normal();
+}
+
+std::string Box::Text() const { return ChildWithId(window_.Window(), boxTextId).value().Text(); }
+
+std::vector<int> Box::Buttons() const {
+  std::vector<int> ids;
+  for (const Control child : ChildrenOf(window_.Window())) {
+    if (ClassOf(child.Window()) == L"Button") ids.push_back(GetDlgCtrlID(child.Window()));
+  }
+  return ids;
+}
+
+Control Box::Sign() const { return ChildWithId(window_.Window(), boxSignId).value_or(Control()); }
+
+void Box::Press(int button) const {
+  window_.Post(WM_COMMAND, static_cast<WPARAM>(button));
+  if (!Eventually([&] { return IsWindow(window_.Window()) == 0; })) throw std::runtime_error("the box stays");
+}
+
+Program::Program(const std::string& folder, const std::string& name)
+    : path_(fs::path(ToWide(folder)) / ToWide(name)), job_(CreateJobObjectW(nullptr, nullptr)) {
+  fs::copy_file(BuiltFile(TARVIK_PROGRAM), path_);
+  JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
+  limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+  SetInformationJobObject(job_.get(), JobObjectExtendedLimitInformation, &limits, sizeof limits);
+}
+
+Program::~Program() {
+  if (!IsRunning()) return;
+  TerminateProcess(process_.get(), 1);
+  WaitForSingleObject(process_.get(), INFINITE);
+}
+
+fs::path Program::SettingsFile() const { return fs::path(path_).replace_extension(L".dat"); }
+
+void Program::Start() {
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process{};
+  if (CreateProcessW(path_.c_str(), nullptr, nullptr, nullptr, FALSE, CREATE_SUSPENDED, nullptr,
+                     path_.parent_path().c_str(), &startup, &process) == 0) {
+    throw std::runtime_error("the program cannot be started");
+  }
+  process_.reset(process.hProcess);
+  const FileHandle thread(process.hThread);
+  processId_ = process.dwProcessId;
+  threadId_ = process.dwThreadId;
+  AssignProcessToJobObject(job_.get(), process_.get());
+  ResumeThread(thread.get());
+  window_ = Control();
+  const bool shown = Eventually([&] {
+    if (!IsRunning()) throw std::runtime_error("the program ended before its main window came up");
+    for (const Control window : TopWindows()) {
+      if (ChildWithId(window.Window(), FrmFindIcon_CmdFind)) window_ = window;
+    }
+    return static_cast<bool>(window_);
+  });
+  if (!shown) throw std::runtime_error("the main window does not come up");
+  BringToFront();
+}
+
+bool Program::IsRunning() const { return process_ && WaitForSingleObject(process_.get(), 0) == WAIT_TIMEOUT; }
+
+DWORD Program::WaitForEnd() {
+  const auto wait = static_cast<DWORD>(std::chrono::milliseconds(patience).count());
+  if (WaitForSingleObject(process_.get(), wait) != WAIT_OBJECT_0) throw std::runtime_error("the program does not end");
+  DWORD code = 0;
+  GetExitCodeProcess(process_.get(), &code);
+  return code;
+}
+
+DWORD Program::Close() {
+  window_.Post(WM_CLOSE);
+  return WaitForEnd();
+}
+
+void Program::Suspend() {
+  const FileHandle thread(OpenThread(THREAD_SUSPEND_RESUME, FALSE, threadId_));
+  if (SuspendThread(thread.get()) == static_cast<DWORD>(-1)) throw std::runtime_error("the program cannot be stopped");
+}
+
+void Program::Resume() {
+  const FileHandle thread(OpenThread(THREAD_SUSPEND_RESUME, FALSE, threadId_));
+  ResumeThread(thread.get());
+}
+
+Control Program::Item(int id) const {
+  if (const auto item = ChildWithId(window_.Window(), id)) return *item;
+  throw std::runtime_error("the main window has no control " + std::to_string(id));
+}
+
+void Program::BringToFront() const {
+  SetForegroundWindow(window_.Window());
+  if (!Eventually([&] { return GetForegroundWindow() == window_.Window(); }))
+    throw std::runtime_error("the main window does not come to the front");
+}
+
+Control Program::Focus() const {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  GetGUIThreadInfo(threadId_, &info);
+  return Control(info.hwndFocus);
+}
+
+std::optional<Control> Program::OpenMenu() const {
+  for (const Control window : TopWindows()) {
+    if (ClassOf(window.Window()) == L"#32768") return window;
+  }
+  return std::nullopt;
+}
+
+std::optional<Box> Program::FindBox() const {
+  for (const Control window : TopWindows()) {
+    if (IsBox(window)) return Box(window);
+  }
+  return std::nullopt;
+}
+
+Box Program::WaitForBox() const {
+  std::optional<Box> box;
+  if (!Eventually([&] { return (box = FindBox()).has_value(); })) throw std::runtime_error("no message box comes up");
+  return *box;
+}
+
+std::vector<Control> Program::TopWindows() const {
+  struct Search {
+    DWORD process;
+    std::vector<Control> found;
+  } search{.process = processId_, .found = {}};
+  EnumWindows(
+      [](HWND window, LPARAM data) {
+        auto& all = *reinterpret_cast<Search*>(data);
+        DWORD process = 0;
+        GetWindowThreadProcessId(window, &process);
+        if (process == all.process && IsWindowVisible(window) != 0) all.found.emplace_back(window);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+}  // namespace tarvik::end_to_end

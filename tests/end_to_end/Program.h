@@ -1,0 +1,89 @@
+#pragma once
+
+#include <windows.h>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "end_to_end/Controls.h"
+#include "platform/Handles.h"
+
+namespace tarvik::end_to_end {
+
+// A message box as the user sees it.
+class Box {
+ public:
+  explicit Box(Control window) : window_(window) {}
+
+  std::string Title() const { return window_.Text(); }
+  std::string Text() const;
+  // Ids of its buttons: IDOK, IDYES ...
+  std::vector<int> Buttons() const;
+  // The picture left of its text.
+  Control Sign() const;
+  // Presses a button and waits until the box is gone.
+  void Press(int button) const;
+
+ private:
+  Control window_;
+};
+
+// A file of this build, by its path relative to the test program's own folder.
+std::filesystem::path BuiltFile(const char* relativePath);
+
+// A copy of tarvik.exe that a test runs from a folder of its own, where its settings file is the test's too.
+class Program {
+ public:
+  // `folder` is where the copy lies, and must be there; `name` is the copy's file name. Both are UTF-8.
+  explicit Program(const std::string& folder, const std::string& name = "tarvik.exe");
+  // Ends a program that still runs, by force.
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  const std::filesystem::path& Path() const { return path_; }
+  std::filesystem::path SettingsFile() const;
+
+  // Starts the program and waits until its main window is up, past the start-up window, and in front.
+  void Start();
+  bool IsRunning() const;
+  // Waits until the process has ended; its exit code.
+  DWORD WaitForEnd();
+  // Asks the main window to close and waits for the end; the exit code.
+  DWORD Close();
+  // Stops the process where it is, and lets it go on: what is sent meanwhile has surely come during what it does now.
+  void Suspend();
+  void Resume();
+
+  // The main window; none before Start.
+  Control Window() const { return window_; }
+  // The control of the main window with that id. Throws std::runtime_error where there is none.
+  Control Item(int id) const;
+  // Gives a menu item's or button's command to the main window.
+  void Command(int id) const { window_.Post(WM_COMMAND, static_cast<WPARAM>(id)); }
+  // Makes the main window the one that the keyboard goes to.
+  void BringToFront() const;
+  // The control that has the keyboard.
+  Control Focus() const;
+  // The menu that is dropped down, if any.
+  std::optional<Control> OpenMenu() const;
+
+  // The message box that the program shows now, if any; or waits for one.
+  std::optional<Box> FindBox() const;
+  Box WaitForBox() const;
+
+ private:
+  // The visible top-level windows of the process.
+  std::vector<Control> TopWindows() const;
+
+  std::filesystem::path path_;
+  FileHandle process_;
+  FileHandle job_;  // takes the process down with the test, however that ends
+  DWORD processId_ = 0;
+  DWORD threadId_ = 0;
+  Control window_;
+};
+
+}  // namespace tarvik::end_to_end

@@ -1,0 +1,50 @@
+#include "end_to_end/Screen.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <stdexcept>
+
+#include "end_to_end/UnixProgram.h"
+
+namespace tarvik::end_to_end {
+
+Screenshot::Screenshot(const RECT& place) {
+  const auto file = std::filesystem::temp_directory_path() /
+                    (L"tarvik-screen-" + std::to_wstring(GetCurrentProcessId()) + L".ppm");
+  std::ostringstream command;
+  command << "import -silent -window root -crop " << place.right - place.left << 'x' << place.bottom - place.top << '+'
+          << place.left << '+' << place.top << " +repage -depth 8 ppm:" << UnixQuoted(file);
+  const UnixAnswer answer = RunUnix(command.str());
+  if (answer.exitCode != 0) throw std::runtime_error("no screenshot: " + answer.output);
+
+  // The format: "P6", width, height, the highest value, one blank, then red, green and blue of each pixel.
+  std::ifstream in(file, std::ios::binary);
+  std::string kind;
+  int highest = 0;
+  in >> kind >> width_ >> height_ >> highest;
+  in.get();
+  if (kind != "P6" || highest != 255) throw std::runtime_error("a screenshot of an unknown kind");
+  const std::string bytes{std::istreambuf_iterator<char>(in), {}};
+  const auto channel = [&](std::size_t at) { return static_cast<Color>(static_cast<unsigned char>(bytes.at(at))); };
+  const std::size_t count = static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_);
+  pixels_.reserve(count);
+  for (std::size_t i = 0; i < 3 * count; i += 3)
+    pixels_.push_back(channel(i) | channel(i + 1) << 8 | channel(i + 2) << 16);
+  in.close();
+  std::filesystem::remove(file);
+}
+
+int CountDifferences(const PixelView& one, const PixelView& other) {
+  int differences = 0;
+  for (int y = 0; y < std::min(one.Height(), other.Height()); ++y) {
+    for (int x = 0; x < std::min(one.Width(), other.Width()); ++x) {
+      if (one.Pixel(x, y) != other.Pixel(x, y)) ++differences;
+    }
+  }
+  return differences;
+}
+
+}  // namespace tarvik::end_to_end

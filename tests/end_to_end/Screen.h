@@ -1,0 +1,31 @@
+#pragma once
+
+#include <windows.h>
+
+#include <vector>
+
+#include "export/PixelView.h"
+
+namespace tarvik::end_to_end {
+
+// What a part of the screen shows, as pixels.
+class Screenshot : public PixelView {
+ public:
+  // Takes the picture of `place`, in screen pixels, which must lie on the screen. It is taken by a program of its own,
+  // because no process may read another one's pixels here.
+  explicit Screenshot(const RECT& place);
+
+  int Width() const override { return width_; }
+  int Height() const override { return height_; }
+  Color Pixel(int x, int y) const override { return pixels_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)]; }
+
+ private:
+  int width_ = 0;
+  int height_ = 0;
+  std::vector<Color> pixels_;
+};
+
+// How many pixels of the two differ, where both have them.
+int CountDifferences(const PixelView& one, const PixelView& other);
+
+}  // namespace tarvik::end_to_end
