@@ -14,6 +14,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::Field;
+using testing::AddAttributes;
 using testing::AnimationFile;
 using testing::BitmapPicture;
 using testing::Bytes;

@@ -5,17 +5,15 @@
 
 #include "end_to_end/EndToEndTest.h"
 #include "end_to_end/Input.h"
-#include "platform/IconFiles.h"
-#include "platform/Paths.h"
+#include "platform/FolderPath.h"
 
 namespace tarvik::end_to_end {
 namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::Not;
-using ::testing::StartsWith;
+using testing::AddAttributes;
 
 class Folders : public EndToEnd {
  protected:
@@ -57,8 +55,7 @@ TEST_F(Folders, TheFolderListShowsTheAncestorsTheFolderAndItsSubFolders) {
   tree_.MakeFolder("Alpha");
   Start();
   std::vector<std::string> expected;
-  for (const std::string& parent : ParentFolders(tree_.Path())) expected.emplace_back(LastName(parent));
-  expected.emplace_back(LastName(tree_.Path()));
+  for (const std::string& folder : FolderChain(tree_.Path())) expected.push_back(FolderName(folder));
   expected.insert(expected.end(), {"Alpha", "beta"});
   EXPECT_EQ(FolderNames(), expected);
 }
@@ -95,7 +92,7 @@ TEST_F(Folders, ADoubleClickOnAnAncestorGoesBackUp) {
   tree_.MakeFolder("inner");
   tree_.MakeFile("out.ico");
   Start(In("inner"));
-  DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf(std::string(LastName(tree_.Path())))));
+  DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf(FolderName(tree_.Path()))));
   EXPECT_TRUE(Eventually([&] { return ListsFile("out.ico"); }));
 }
 

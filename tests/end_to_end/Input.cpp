@@ -21,10 +21,16 @@ INPUT KeyInput(WORD key, WORD character, DWORD flags) {
   return input;
 }
 
-void SendMouse(DWORD flags, int wheel = 0) {
+// The coordinate that the system scales back to that pixel: it counts 65,536 steps over the whole screen.
+LONG Scaled(LONG pixel, int screenSize) { return (pixel * 65536 + screenSize - 1) / screenSize; }
+
+// Every mouse event says where it happens. What the real pointer's own late reports say in between does not count then.
+void SendMouse(POINT place, DWORD flags, int wheel = 0) {
   INPUT input{};
   input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
+  input.mi.dx = Scaled(place.x, GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = Scaled(place.y, GetSystemMetrics(SM_CYSCREEN));
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
   input.mi.mouseData = static_cast<DWORD>(wheel);
   Send(input);
 }
@@ -50,41 +56,32 @@ class Holding {
   std::vector<WORD> keys_;
 };
 
-void PressLeft() {
-  SendMouse(MOUSEEVENTF_LEFTDOWN);
-  SendMouse(MOUSEEVENTF_LEFTUP);
+void PressLeft(POINT place) {
+  SendMouse(place, MOUSEEVENTF_LEFTDOWN);
+  SendMouse(place, MOUSEEVENTF_LEFTUP);
 }
 
 }  // namespace
 
-void MovePointer(POINT place) {
-  SetCursorPos(place.x, place.y);
-  SendMouse(MOUSEEVENTF_MOVE);
-}
+void MovePointer(POINT place) { SendMouse(place, 0); }
 
 void Click(POINT place, HeldKeys held) {
   const Holding holding(held);
-  MovePointer(place);
-  PressLeft();
+  PressLeft(place);
 }
 
 void DoubleClick(POINT place, HeldKeys held) {
   const Holding holding(held);
-  MovePointer(place);
-  PressLeft();
-  PressLeft();
+  PressLeft(place);
+  PressLeft(place);
 }
 
 void RightClick(POINT place) {
-  MovePointer(place);
-  SendMouse(MOUSEEVENTF_RIGHTDOWN);
-  SendMouse(MOUSEEVENTF_RIGHTUP);
+  SendMouse(place, MOUSEEVENTF_RIGHTDOWN);
+  SendMouse(place, MOUSEEVENTF_RIGHTUP);
 }
 
-void TurnWheel(POINT place, int notches) {
-  MovePointer(place);
-  SendMouse(MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA);
-}
+void TurnWheel(POINT place, int notches) { SendMouse(place, MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA); }
 
 POINT MiddleOf(const RECT& place) { return {(place.left + place.right) / 2, (place.top + place.bottom) / 2}; }
 

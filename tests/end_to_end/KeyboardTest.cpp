@@ -107,7 +107,7 @@ TEST_F(Keyboard, ATypedLimitCounts) {
 
 TEST_F(Keyboard, MenusOpenByTheirLetters) {
   Start();
-  for (const WORD letter : {'E', 'V', 'H'}) {
+  for (const WORD letter : {WORD{'E'}, WORD{'V'}, WORD{'H'}}) {
     PressKey(letter, {VK_MENU});
     EXPECT_TRUE(Eventually([&] { return program_.OpenMenu().has_value(); })) << letter;
     PressKey(VK_ESCAPE, {}, 2);

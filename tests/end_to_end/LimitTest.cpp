@@ -2,8 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 #include "end_to_end/EndToEndTest.h"
 #include "platform/IconFiles.h"
+#include "platform/Text.h"
 
 namespace tarvik::end_to_end {
 namespace {

@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 
 #include "end_to_end/EndToEndTest.h"
+#include "platform/FolderPath.h"
 #include "platform/IconFiles.h"
-#include "platform/Paths.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
@@ -25,7 +25,7 @@ class Settings : public EndToEnd {
 TEST_F(Settings, WithoutAFileTheProgramsOwnFolderIsShownWithoutSubFolders) {
   ASSERT_FALSE(std::filesystem::exists(program_.SettingsFile()));
   program_.Start();
-  EXPECT_EQ(ChosenFolder(), LastName(home_.Path()));
+  EXPECT_EQ(ChosenFolder(), FolderName(home_.Path()));
   EXPECT_FALSE(SubDirTicked());
 }
 
@@ -70,13 +70,13 @@ TEST_F(Settings, SubFoldersAreTickedByTrueInAnyCaseAndByNothingElse) {
 
 TEST_F(Settings, AFolderThatIsGoneFallsBackToTheProgramsOwn) {
   Start(In("gone"));
-  EXPECT_EQ(ChosenFolder(), LastName(home_.Path()));
+  EXPECT_EQ(ChosenFolder(), FolderName(home_.Path()));
 }
 
 TEST_F(Settings, AnEmptyFolderFallsBackToTheProgramsOwn) {
   WriteSetting("Folder", "");
   program_.Start();
-  EXPECT_EQ(ChosenFolder(), LastName(home_.Path()));
+  EXPECT_EQ(ChosenFolder(), FolderName(home_.Path()));
 }
 
 TEST_F(Settings, ASavedFolderInAnyCaseChoosesItsDrive) {

@@ -8,6 +8,7 @@
 
 #include "end_to_end/EndToEndTest.h"
 #include "end_to_end/UnixProgram.h"
+#include "platform/FolderPath.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
 
@@ -44,7 +45,7 @@ TEST_F(SystemFolderSearch, FindsInEachLibraryAsManyIconsAsAnotherProgram) {
   Find();
   Counts found;
   for (const Entry& entry : Entries()) {
-    int& count = found[std::string(LastName(entry.path))];
+    int& count = found[FolderName(entry.path)];
     EXPECT_EQ(entry.index, count) << entry.path;
     ++count;
   }
