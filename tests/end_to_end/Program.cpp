@@ -1,5 +1,6 @@
 #include "end_to_end/Program.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "end_to_end/Waiting.h"
@@ -83,7 +84,7 @@ Program::~Program() {
 
 fs::path Program::SettingsFile() const { return fs::path(path_).replace_extension(L".dat"); }
 
-void Program::Start() {
+void Program::Launch() {
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION process{};
@@ -98,15 +99,19 @@ void Program::Start() {
   AssignProcessToJobObject(job_.get(), process_.get());
   ResumeThread(thread.get());
   window_ = Control();
-  const bool shown = Eventually([&] {
-    if (!IsRunning()) throw std::runtime_error("the program ended before its main window came up");
-    for (const Control window : TopWindows()) {
-      if (ChildWithId(window.Window(), FrmFindIcon_CmdFind)) window_ = window;
-    }
-    return static_cast<bool>(window_);
-  });
-  if (!shown) throw std::runtime_error("the main window does not come up");
+}
+
+Control Program::WaitForStartUpWindow() const { return WaitForWindowWith(FrmSpash_lblDescription); }
+
+void Program::WaitForMainWindow() {
+  window_ = WaitForWindowWith(FrmFindIcon_CmdFind);
   BringToFront();
+}
+
+void Program::Start() {
+  Launch();
+  WaitForStartUpWindow().Post(WM_TIMER, FrmSpash_Timer1);
+  WaitForMainWindow();
 }
 
 bool Program::IsRunning() const { return process_ && WaitForSingleObject(process_.get(), 0) == WAIT_TIMEOUT; }
@@ -170,6 +175,24 @@ Box Program::WaitForBox() const {
   std::optional<Box> box;
   if (!Eventually([&] { return (box = FindBox()).has_value(); })) throw std::runtime_error("no message box comes up");
   return *box;
+}
+
+int Program::CountWindowsWith(int id) const {
+  return static_cast<int>(std::ranges::count_if(
+      TopWindows(), [id](Control window) { return ChildWithId(window.Window(), id).has_value(); }));
+}
+
+Control Program::WaitForWindowWith(int id) const {
+  Control found;
+  const bool shown = Eventually([&] {
+    if (!IsRunning()) throw std::runtime_error("the program ended before its window came up");
+    for (const Control window : TopWindows()) {
+      if (ChildWithId(window.Window(), id)) found = window;
+    }
+    return static_cast<bool>(found);
+  });
+  if (!shown) throw std::runtime_error("no window with control " + std::to_string(id) + " comes up");
+  return found;
 }
 
 std::vector<Control> Program::TopWindows() const {

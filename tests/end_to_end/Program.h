@@ -46,7 +46,16 @@ class Program {
   const std::filesystem::path& Path() const { return path_; }
   std::filesystem::path SettingsFile() const;
 
-  // Starts the program and waits until its main window is up, past the start-up window, and in front.
+  // Starts the process alone. Its first window is the start-up window.
+  void Launch();
+  // The start-up window, or the same window as About box, once it is there.
+  Control WaitForStartUpWindow() const;
+  // Waits until the main window is up and brings it to the front.
+  void WaitForMainWindow();
+  // How many visible top-level windows of the process have a control with that id.
+  int CountWindowsWith(int id) const;
+  // Starts the program, has the start-up window go at once as it does by itself after some seconds, and waits for the
+  // main window.
   void Start();
   bool IsRunning() const;
   // Waits until the process has ended; its exit code.
@@ -77,6 +86,8 @@ class Program {
  private:
   // The visible top-level windows of the process.
   std::vector<Control> TopWindows() const;
+  // The visible top-level window that has a control with that id, once there is one.
+  Control WaitForWindowWith(int id) const;
 
   std::filesystem::path path_;
   FileHandle process_;

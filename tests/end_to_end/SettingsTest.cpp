@@ -103,13 +103,5 @@ TEST_F(Settings, ACommandThatClosesTheProgramSavesThemToo) {
   }
 }
 
-TEST_F(Settings, ASecondCopyStartsLikeTheFirst) {
-  Program second(home_.Path(), "second.exe");
-  program_.Start();
-  second.Start();
-  EXPECT_EQ(second.Close(), 0U);
-  EXPECT_TRUE(program_.IsRunning());
-}
-
 }  // namespace
 }  // namespace tarvik::end_to_end
