@@ -20,8 +20,7 @@ constexpr std::intptr_t lastShellError = 32;
 
 bool Open(HWND owner, const std::string& path) {
   const ComUse use;  // what opens the page may be a COM object
-  const HINSTANCE result =
-      ShellExecuteW(owner, L"open", ToWide(path).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  const HINSTANCE result = ShellExecuteW(owner, L"open", ToWide(path).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
   return reinterpret_cast<std::intptr_t>(result) > lastShellError;
 }
 

@@ -61,8 +61,8 @@ class Component {
     DISPID id = 0;
     if (FAILED(object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id))) return false;
     DISPPARAMS parameters{argument.Value(), nullptr, 1, 0};
-    return SUCCEEDED(object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr,
-                                     nullptr));
+    return SUCCEEDED(
+        object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr));
   }
 
  private:

@@ -19,9 +19,9 @@ class Skin {
   // `folder` holds the folder "Skins" with the skin file; UTF-8.
   explicit Skin(const std::string& folder);
 
-  // Gives the form a component of its own and paints the form with it: LoadSkin with the file's path, ApplySkin with the
-  // window's handle. False where anything of that fails; the form then has no component. Costs next to nothing where
-  // there is no skin file, or where the class was missing once.
+  // Gives the form a component of its own and paints the form with it: LoadSkin with the file's path, ApplySkin with
+  // the window's handle. False where anything of that fails; the form then has no component. Costs next to nothing
+  // where there is no skin file, or where the class was missing once.
   bool Apply(Form& form);
 
  private:

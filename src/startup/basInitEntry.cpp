@@ -24,11 +24,10 @@ constexpr Refusal tooFewColors{
     {"Please adjust your color mode and try again.", "请在调整颜色模式后重新运行程序.",
      "請在調整顏色模式後重新運行程式."}};
 
-constexpr Refusal tooSmall{
-    {" requires a screen resolution of at least 800 x 600 pixels.", " 显示屏分辨率需设置为800×600以上.",
-     " 顯示幕解析度需設置為800×600以上."},
-    {"Please adjust your screen resolution and try again.", "请在调整分辨率后重新运行程序.",
-     "請在調整解析度後重新運行程式."}};
+constexpr Refusal tooSmall{{" requires a screen resolution of at least 800 x 600 pixels.",
+                            " 显示屏分辨率需设置为800×600以上.", " 顯示幕解析度需設置為800×600以上."},
+                           {"Please adjust your screen resolution and try again.", "请在调整分辨率后重新运行程序.",
+                            "請在調整解析度後重新運行程式."}};
 
 void Refuse(const Refusal& refusal, const std::string& code, StartUpSystem& system) {
   const auto first = Pick(refusal.first, code);

@@ -52,7 +52,9 @@ class RemoteMemory {
   void* address_ = nullptr;
 };
 
-LPARAM Pointer(const void* address) { return reinterpret_cast<LPARAM>(address); }
+LPARAM Pointer(const void* address) {
+  return reinterpret_cast<LPARAM>(address);
+}
 
 }  // namespace
 
@@ -74,7 +76,9 @@ std::string Control::Text() const {
   return ToUtf8(std::wstring_view(text).substr(0, static_cast<std::size_t>(length)));
 }
 
-void Control::SetText(const std::string& text) const { Send(WM_SETTEXT, 0, Pointer(ToWide(text).c_str())); }
+void Control::SetText(const std::string& text) const {
+  Send(WM_SETTEXT, 0, Pointer(ToWide(text).c_str()));
+}
 
 RECT Control::Place() const {
   RECT place{};
@@ -124,7 +128,9 @@ std::vector<std::string> Control::Items(UINT count, UINT length, UINT text) cons
   return items;
 }
 
-int ReportView::RowCount() const { return static_cast<int>(control_.Send(LVM_GETITEMCOUNT)); }
+int ReportView::RowCount() const {
+  return static_cast<int>(control_.Send(LVM_GETITEMCOUNT));
+}
 
 std::string ReportView::Cell(int row, int column) const {
   const RemoteMemory memory(control_.Window(), sizeof(LVITEMW) + textCapacity * sizeof(wchar_t));

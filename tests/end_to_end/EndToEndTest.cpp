@@ -41,8 +41,8 @@ void EndToEnd::WriteSetting(const std::string& key, const std::string& value) co
 std::string EndToEnd::ReadSetting(const std::string& key) const {
   const std::string file = ToUtf8(program_.SettingsFile().wstring());
   std::string value(2048, '\0');
-  value.resize(GetPrivateProfileStringA(section, key.c_str(), "", value.data(), static_cast<DWORD>(value.size()),
-                                        file.c_str()));
+  value.resize(
+      GetPrivateProfileStringA(section, key.c_str(), "", value.data(), static_cast<DWORD>(value.size()), file.c_str()));
   return value;
 }
 
@@ -97,10 +97,16 @@ bool ShowsSign(const Box& box, const wchar_t* sign) {
   return Eventually([&] { return CountDifferences(Screenshot(place), expected) == 0; });
 }
 
-void CopyThreeIcons(const std::string& target) { CopyBuilt(TARVIK_ICONS_3, target); }
+void CopyThreeIcons(const std::string& target) {
+  CopyBuilt(TARVIK_ICONS_3, target);
+}
 
-void CopyHundredIcons(const std::string& target) { CopyBuilt(TARVIK_ICONS_100, target); }
+void CopyHundredIcons(const std::string& target) {
+  CopyBuilt(TARVIK_ICONS_100, target);
+}
 
-void CopyTwoThousandIcons(const std::string& target) { CopyBuilt(TARVIK_ICONS_2000, target); }
+void CopyTwoThousandIcons(const std::string& target) {
+  CopyBuilt(TARVIK_ICONS_2000, target);
+}
 
 }  // namespace tarvik::end_to_end

@@ -12,12 +12,12 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::Field;
 using testing::AddAttributes;
 using testing::AnimationFile;
 using testing::BitmapPicture;
 using testing::Bytes;
+using ::testing::ElementsAre;
+using ::testing::Field;
 using testing::IconFile;
 using testing::IconFileOf;
 using testing::PngPicture;
@@ -36,9 +36,9 @@ class Files : public EndToEnd {
 constexpr const char* extensions[] = {".ico", ".ani", ".icl", ".ocx", ".dll", ".exe"};
 
 TEST_F(Files, AnIconFileIsOneIconHoweverManyPicturesItHolds) {
-  const testing::IconPicture pictures[] = {BitmapPicture(16, 1, black, white),     BitmapPicture(16, 4, 0xFF, 0xFF00),
-                                           BitmapPicture(32, 8, 0xFF, 0xFF00),     BitmapPicture(32, 24, 0xFF, 0xFF00),
-                                           BitmapPicture(48, 32, 0xFF, 0xFF00),    PngPicture(64, 0xFF, 0xFF00)};
+  const testing::IconPicture pictures[] = {BitmapPicture(16, 1, black, white),  BitmapPicture(16, 4, 0xFF, 0xFF00),
+                                           BitmapPicture(32, 8, 0xFF, 0xFF00),  BitmapPicture(32, 24, 0xFF, 0xFF00),
+                                           BitmapPicture(48, 32, 0xFF, 0xFF00), PngPicture(64, 0xFF, 0xFF00)};
   const std::string path = tree_.MakeFile("many.ico", IconFile(pictures));
   EXPECT_THAT(FindAll(), ElementsAre(Entry{path, 0}));
 }

@@ -10,10 +10,10 @@
 namespace tarvik::end_to_end {
 namespace {
 
+using testing::AddAttributes;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::Not;
-using testing::AddAttributes;
 
 class Folders : public EndToEnd {
  protected:
@@ -160,7 +160,8 @@ TEST_F(Folders, AnUnknownLanguageShowsNoMessageForAnEmptyDrive) {
   ChooseDrive('q');
   const Control drives = program_.Item(FrmFindIcon_Drive1);
   // Sent after the posted choice, so it is answered after its handler, or by the message box's loop.
-  EXPECT_TRUE(Eventually([&] { return drives.ComboItems().at(static_cast<std::size_t>(drives.ComboChoice())) == "q:"; }));
+  EXPECT_TRUE(
+      Eventually([&] { return drives.ComboItems().at(static_cast<std::size_t>(drives.ComboChoice())) == "q:"; }));
   ChooseDrive('c');
   EXPECT_TRUE(Eventually([&] { return FolderNames().front() == "C:\\"; }));
   EXPECT_FALSE(program_.FindBox());

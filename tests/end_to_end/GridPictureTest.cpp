@@ -58,7 +58,8 @@ class GridPicture : public EndToEnd {
       DrawEntry(*picture, entry, geometry, i++);
     }
     for (int at = 1; at <= geometry.firstFrame; ++at) {
-      for (const POINT pixel : {POINT{at, 1}, POINT{at, geometry.firstFrame}, POINT{1, at}, POINT{geometry.firstFrame, at}})
+      for (const POINT pixel :
+           {POINT{at, 1}, POINT{at, geometry.firstFrame}, POINT{1, at}, POINT{geometry.firstFrame, at}})
         SetPixel(picture->Dc(), pixel.x, pixel.y, black);
     }
     GdiFlush();
@@ -84,7 +85,8 @@ class GridPicture : public EndToEnd {
   }
 
   int ScrolledPixels() const {
-    return static_cast<int>(program_.Item(FrmFindIcon_PicFrame).Inside().top - program_.Item(FrmFindIcon_PicIcons).Place().top);
+    return static_cast<int>(program_.Item(FrmFindIcon_PicFrame).Inside().top -
+                            program_.Item(FrmFindIcon_PicIcons).Place().top);
   }
   int GridHeight() const {
     const RECT place = program_.Item(FrmFindIcon_PicIcons).Place();
@@ -99,11 +101,13 @@ class GridPicture : public EndToEnd {
     const RECT inside = program_.Item(FrmFindIcon_PicFrame).Inside();
     MovePointer({0, 0});
     int differences = 0;
-    const bool same = Eventually([&] {
-      const Screenshot shown(inside);
-      differences = CountDifferences(shown, visible);
-      return shown.Width() == viewportWidth && shown.Height() == viewportHeight && differences == 0;
-    }, std::chrono::seconds(10));
+    const bool same = Eventually(
+        [&] {
+          const Screenshot shown(inside);
+          differences = CountDifferences(shown, visible);
+          return shown.Width() == viewportWidth && shown.Height() == viewportHeight && differences == 0;
+        },
+        std::chrono::seconds(10));
     EXPECT_TRUE(same) << differences << " pixels differ";
     return same;
   }

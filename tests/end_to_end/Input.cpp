@@ -22,7 +22,9 @@ INPUT KeyInput(WORD key, WORD character, DWORD flags) {
 }
 
 // The coordinate that the system scales back to that pixel: it counts 65,536 steps over the whole screen.
-LONG Scaled(LONG pixel, int screenSize) { return (pixel * 65536 + screenSize - 1) / screenSize; }
+LONG Scaled(LONG pixel, int screenSize) {
+  return (pixel * 65536 + screenSize - 1) / screenSize;
+}
 
 // Every mouse event says where it happens. What the real pointer's own late reports say in between does not count then.
 void SendMouse(POINT place, DWORD flags, int wheel = 0) {
@@ -35,7 +37,9 @@ void SendMouse(POINT place, DWORD flags, int wheel = 0) {
   Send(input);
 }
 
-void SendKey(WORD key, WORD character, DWORD flags) { Send(KeyInput(key, character, flags)); }
+void SendKey(WORD key, WORD character, DWORD flags) {
+  Send(KeyInput(key, character, flags));
+}
 
 // Holds keys down for as long as it lives.
 class Holding {
@@ -63,7 +67,9 @@ void PressLeft(POINT place) {
 
 }  // namespace
 
-void MovePointer(POINT place) { SendMouse(place, 0); }
+void MovePointer(POINT place) {
+  SendMouse(place, 0);
+}
 
 void Click(POINT place, HeldKeys held) {
   const Holding holding(held);
@@ -81,9 +87,13 @@ void RightClick(POINT place) {
   SendMouse(place, MOUSEEVENTF_RIGHTUP);
 }
 
-void TurnWheel(POINT place, int notches) { SendMouse(place, MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA); }
+void TurnWheel(POINT place, int notches) {
+  SendMouse(place, MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA);
+}
 
-POINT MiddleOf(const RECT& place) { return {(place.left + place.right) / 2, (place.top + place.bottom) / 2}; }
+POINT MiddleOf(const RECT& place) {
+  return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+}
 
 void PressKey(WORD key, HeldKeys held, int times) {
   const Holding holding(held);

@@ -37,12 +37,12 @@ TEST_F(Keyboard, TabReachesEveryControlThatCanBeUsedFromTopToBottom) {
   ASSERT_TRUE(Eventually([&] { return program_.Focus().Window() != nullptr; }));
   Click(MiddleOf(program_.Item(FrmFindIcon_Dir1).Place()));
   ASSERT_TRUE(Focuses(FrmFindIcon_Dir1));
-  const std::vector<int> expected{
-      FrmFindIcon_Dir1,         FrmFindIcon_File1,        FrmFindIcon_ChkFileType0, FrmFindIcon_ChkFileType1,
-      FrmFindIcon_ChkFileType2, FrmFindIcon_ChkFileType3, FrmFindIcon_ChkFileType4, FrmFindIcon_ChkFileType5,
-      FrmFindIcon_ChkFileType6, FrmFindIcon_chkSubDir,    FrmFindIcon_CboIconSize,  FrmFindIcon_txtMax,
-      FrmFindIcon_udMain,       FrmFindIcon_CmdFind,      FrmFindIcon_CmdClose,     FrmFindIcon_OptView0,
-      FrmFindIcon_Drive1};
+  const std::vector<int> expected{FrmFindIcon_Dir1,         FrmFindIcon_File1,        FrmFindIcon_ChkFileType0,
+                                  FrmFindIcon_ChkFileType1, FrmFindIcon_ChkFileType2, FrmFindIcon_ChkFileType3,
+                                  FrmFindIcon_ChkFileType4, FrmFindIcon_ChkFileType5, FrmFindIcon_ChkFileType6,
+                                  FrmFindIcon_chkSubDir,    FrmFindIcon_CboIconSize,  FrmFindIcon_txtMax,
+                                  FrmFindIcon_udMain,       FrmFindIcon_CmdFind,      FrmFindIcon_CmdClose,
+                                  FrmFindIcon_OptView0,     FrmFindIcon_Drive1};
   EXPECT_EQ(TabRound(), expected);
 }
 

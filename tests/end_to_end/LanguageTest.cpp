@@ -24,15 +24,35 @@ struct Texts {
   const char* OptView1;
 };
 
-constexpr Texts english{"Brindle Tarvik",      "Include SubDir", "&Find", "&Close", "&OK", "File Type:",
-                        "Icon No 1 Selected.", "&Automatically stop after listing", "icons to save memory", "Icon",
+constexpr Texts english{"Brindle Tarvik",
+                        "Include SubDir",
+                        "&Find",
+                        "&Close",
+                        "&OK",
+                        "File Type:",
+                        "Icon No 1 Selected.",
+                        "&Automatically stop after listing",
+                        "icons to save memory",
+                        "Icon",
                         "List"};
-constexpr Texts simplified{"布林德图标搜索", "包含子目录",   "查找(&F)", "关闭(&C)", "确定(&O)", "文件类型:",
-                           "选中NO.1 图标.", "每次允许最大", "个图标出现在结果列表中", "图标", "列表"};
-constexpr Texts traditional{"布林德圖示搜尋", "包含子目錄",   "查找(&F)", "關閉(&C)", "確定(&O)", "文件類型:",
-                            "選中NO.1 圖示.", "每次允許最大", "個圖示出現在結果列表中", "圖示", "列表"};
-constexpr Texts design{"Find Icons",          "Include SubDir", "&Find", "&Close", "&OK", "File Type:",
-                       "Icon No 1 Selected.", "&Automatically stop after listing", "icons to save memory", "Show Icon",
+constexpr Texts simplified{"布林德图标搜索", "包含子目录",   "查找(&F)",
+                           "关闭(&C)",       "确定(&O)",     "文件类型:",
+                           "选中NO.1 图标.", "每次允许最大", "个图标出现在结果列表中",
+                           "图标",           "列表"};
+constexpr Texts traditional{"布林德圖示搜尋", "包含子目錄",   "查找(&F)",
+                            "關閉(&C)",       "確定(&O)",     "文件類型:",
+                            "選中NO.1 圖示.", "每次允許最大", "個圖示出現在結果列表中",
+                            "圖示",           "列表"};
+constexpr Texts design{"Find Icons",
+                       "Include SubDir",
+                       "&Find",
+                       "&Close",
+                       "&OK",
+                       "File Type:",
+                       "Icon No 1 Selected.",
+                       "&Automatically stop after listing",
+                       "icons to save memory",
+                       "Show Icon",
                        "Show List"};
 
 struct LanguageRow {
@@ -117,11 +137,12 @@ TEST_P(RefusedTexts, SayWhyASearchListsNothing) {
 
 INSTANTIATE_TEST_SUITE_P(
     Languages, RefusedTexts,
-    ::testing::Values(
-        RefusedRow{"CHS", "中没有图标.", "共搜索到3个图标.\r\n每次搜索只支持最大2个图标,请增大每次搜索图标数再重试!",
-                   "共搜索到4000个图标.\r\n每次搜索只支持最大2400个图标,请缩小目录层次后再重试!"},
-        RefusedRow{"CHT", "中沒有圖示.", "共搜索到3個圖示.\r\n每次搜索只支援最大2個圖示,請增大每次搜索圖示數再重試!",
-                   "共搜索到4000個圖示.\r\n每次搜索只支援最大2400個圖示,請縮小目錄層次後再重試!"}));
+    ::testing::Values(RefusedRow{"CHS", "中没有图标.",
+                                 "共搜索到3个图标.\r\n每次搜索只支持最大2个图标,请增大每次搜索图标数再重试!",
+                                 "共搜索到4000个图标.\r\n每次搜索只支持最大2400个图标,请缩小目录层次后再重试!"},
+                      RefusedRow{"CHT", "中沒有圖示.",
+                                 "共搜索到3個圖示.\r\n每次搜索只支援最大2個圖示,請增大每次搜索圖示數再重試!",
+                                 "共搜索到4000個圖示.\r\n每次搜索只支援最大2400個圖示,請縮小目錄層次後再重試!"}));
 
 TEST_F(SearchTexts, AnUnknownLanguageLeavesEveryTextButTheListsAlone) {
   const LanguageValue language("Chinese");

@@ -12,8 +12,8 @@ namespace tarvik::end_to_end {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using testing::IconFileOf;
+using ::testing::IsEmpty;
 
 class Limit : public EndToEnd {
  protected:
@@ -167,15 +167,14 @@ TEST_P(BadLimit, ShowsTheErrorAndLeavesTheWindowUsable) {
   EXPECT_EQ(List().RowCount(), 3);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Texts, BadLimit,
-    ::testing::Values(BadLimitRow{"abc", std::nullopt, "Type mismatch", "Brindle Tarvik - Error"},
-                      BadLimitRow{"", std::nullopt, "Type mismatch", "Brindle Tarvik - Error"},
-                      BadLimitRow{"99999", std::nullopt, "Overflow", "Brindle Tarvik - Error"},
-                      BadLimitRow{"abc", "CHS", "类型不匹配", "Brindle Tarvik - 错误"},
-                      BadLimitRow{"99999", "CHS", "溢出", "Brindle Tarvik - 错误"},
-                      BadLimitRow{"abc", "CHT", "型態不符合", "Brindle Tarvik - 錯誤"},
-                      BadLimitRow{"99999", "CHT", "溢位", "Brindle Tarvik - 錯誤"}));
+INSTANTIATE_TEST_SUITE_P(Texts, BadLimit,
+                         ::testing::Values(BadLimitRow{"abc", std::nullopt, "Type mismatch", "Brindle Tarvik - Error"},
+                                           BadLimitRow{"", std::nullopt, "Type mismatch", "Brindle Tarvik - Error"},
+                                           BadLimitRow{"99999", std::nullopt, "Overflow", "Brindle Tarvik - Error"},
+                                           BadLimitRow{"abc", "CHS", "类型不匹配", "Brindle Tarvik - 错误"},
+                                           BadLimitRow{"99999", "CHS", "溢出", "Brindle Tarvik - 错误"},
+                                           BadLimitRow{"abc", "CHT", "型態不符合", "Brindle Tarvik - 錯誤"},
+                                           BadLimitRow{"99999", "CHT", "溢位", "Brindle Tarvik - 錯誤"}));
 
 TEST_F(Limit, MoreIconsThanSixteenBitsHoldAreAnOverflow) {
   StartWithIcons(34000, Size16);

@@ -40,19 +40,25 @@ LanguageValue::LanguageValue(const std::optional<std::string>& value) : former_(
   if (!WriteLanguage(value)) throw std::runtime_error("the language cannot be set");
 }
 
-LanguageValue::~LanguageValue() { WriteLanguage(former_); }
+LanguageValue::~LanguageValue() {
+  WriteLanguage(former_);
+}
 
 EmptyDrive::EmptyDrive() {
   if (DefineDosDeviceW(DDD_RAW_TARGET_PATH, emptyDrive, L"\\??\\C:\\no such folder") == 0)
     throw std::runtime_error("the drive cannot be made");
 }
 
-EmptyDrive::~EmptyDrive() { DefineDosDeviceW(DDD_REMOVE_DEFINITION, emptyDrive, nullptr); }
+EmptyDrive::~EmptyDrive() {
+  DefineDosDeviceW(DDD_REMOVE_DEFINITION, emptyDrive, nullptr);
+}
 
 VolumeLabel::VolumeLabel(const std::string& label) {
   if (SetVolumeLabelW(L"C:\\", ToWide(label).c_str()) == 0) throw std::runtime_error("the volume cannot be named");
 }
 
-VolumeLabel::~VolumeLabel() { DeleteFileW(labelFile); }
+VolumeLabel::~VolumeLabel() {
+  DeleteFileW(labelFile);
+}
 
 }  // namespace tarvik::end_to_end

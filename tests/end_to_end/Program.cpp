@@ -41,7 +41,9 @@ std::wstring ClassOf(HWND window) {
 }
 
 // What every message box of the system has: its class, and its text under an id of its own.
-bool IsBox(Control window) { return ClassOf(window.Window()) == L"#32770" && ChildWithId(window.Window(), boxTextId); }
+bool IsBox(Control window) {
+  return ClassOf(window.Window()) == L"#32770" && ChildWithId(window.Window(), boxTextId);
+}
 
 }  // namespace
 
@@ -51,7 +53,9 @@ std::filesystem::path BuiltFile(const char* relativePath) {
   return (fs::path(path).parent_path() / ToWide(relativePath)).lexically_normal();
 }
 
-std::string Box::Text() const { return ChildWithId(window_.Window(), boxTextId).value().Text(); }
+std::string Box::Text() const {
+  return ChildWithId(window_.Window(), boxTextId).value().Text();
+}
 
 std::vector<int> Box::Buttons() const {
   std::vector<int> ids;
@@ -61,7 +65,9 @@ std::vector<int> Box::Buttons() const {
   return ids;
 }
 
-Control Box::Sign() const { return ChildWithId(window_.Window(), boxSignId).value_or(Control()); }
+Control Box::Sign() const {
+  return ChildWithId(window_.Window(), boxSignId).value_or(Control());
+}
 
 void Box::Press(int button) const {
   window_.Post(WM_COMMAND, static_cast<WPARAM>(button));
@@ -82,7 +88,9 @@ Program::~Program() {
   WaitForSingleObject(process_.get(), INFINITE);
 }
 
-fs::path Program::SettingsFile() const { return fs::path(path_).replace_extension(L".dat"); }
+fs::path Program::SettingsFile() const {
+  return fs::path(path_).replace_extension(L".dat");
+}
 
 void Program::Launch() {
   STARTUPINFOW startup{};
@@ -101,7 +109,9 @@ void Program::Launch() {
   window_ = Control();
 }
 
-Control Program::WaitForStartUpWindow() const { return WaitForWindowWith(FrmSpash_lblDescription); }
+Control Program::WaitForStartUpWindow() const {
+  return WaitForWindowWith(FrmSpash_lblDescription);
+}
 
 void Program::WaitForMainWindow() {
   window_ = WaitForWindowWith(FrmFindIcon_CmdFind);
@@ -114,7 +124,9 @@ void Program::Start() {
   WaitForMainWindow();
 }
 
-bool Program::IsRunning() const { return process_ && WaitForSingleObject(process_.get(), 0) == WAIT_TIMEOUT; }
+bool Program::IsRunning() const {
+  return process_ && WaitForSingleObject(process_.get(), 0) == WAIT_TIMEOUT;
+}
 
 DWORD Program::WaitForEnd() {
   const auto wait = static_cast<DWORD>(std::chrono::milliseconds(patience).count());

@@ -12,8 +12,8 @@
 namespace tarvik::end_to_end {
 
 Screenshot::Screenshot(const RECT& place) {
-  const auto file = std::filesystem::temp_directory_path() /
-                    (L"tarvik-screen-" + std::to_wstring(GetCurrentProcessId()) + L".ppm");
+  const auto file =
+      std::filesystem::temp_directory_path() / (L"tarvik-screen-" + std::to_wstring(GetCurrentProcessId()) + L".ppm");
   std::ostringstream command;
   command << "import -silent -window root -crop " << place.right - place.left << 'x' << place.bottom - place.top << '+'
           << place.left << '+' << place.top << " +repage -depth 8 ppm:" << UnixQuoted(file);

@@ -17,7 +17,9 @@ class Screenshot : public PixelView {
 
   int Width() const override { return width_; }
   int Height() const override { return height_; }
-  Color Pixel(int x, int y) const override { return pixels_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)]; }
+  Color Pixel(int x, int y) const override {
+    return pixels_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)];
+  }
 
  private:
   int width_ = 0;

@@ -12,10 +12,10 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using testing::AnimationFile;
+using ::testing::ElementsAre;
 using testing::IconFileOf;
+using ::testing::IsEmpty;
 
 class Search : public EndToEnd {
  protected:
@@ -61,9 +61,8 @@ TEST_F(Search, NamesTheColumnsInChineseWhateverTheLanguage) {
   MakeIcon("a.ico");
   Start();
   Find();
-  EXPECT_THAT(List().Columns(),
-              ElementsAre(ReportView::Column{"序号", 40}, ReportView::Column{"文件路径", 460},
-                          ReportView::Column{"图标索引", 80}));
+  EXPECT_THAT(List().Columns(), ElementsAre(ReportView::Column{"序号", 40}, ReportView::Column{"文件路径", 460},
+                                            ReportView::Column{"图标索引", 80}));
 }
 
 TEST_F(Search, TellsWhatItFound) {

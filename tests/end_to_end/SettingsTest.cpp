@@ -59,7 +59,8 @@ TEST_F(Settings, TheFolderOfASearchIsKeptNotTheLastOneWalked) {
 }
 
 TEST_F(Settings, SubFoldersAreTickedByTrueInAnyCaseAndByNothingElse) {
-  const std::pair<const char*, bool> rows[] = {{"TRUE", true}, {"true", true}, {"yes", false}, {"1", false}, {"False", false}};
+  const std::pair<const char*, bool> rows[] = {
+      {"TRUE", true}, {"true", true}, {"yes", false}, {"1", false}, {"False", false}};
   for (const auto& [value, ticked] : rows) {
     WriteSetting("Subdir", value);
     program_.Start();

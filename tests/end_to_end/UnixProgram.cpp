@@ -54,16 +54,16 @@ void Start(std::wstring commandLine) {
 
 UnixAnswer RunUnix(const std::string& command) {
   static std::atomic<int> runs = 0;
-  const std::wstring base = fs::temp_directory_path() / (L"tarvik-unix-" + std::to_wstring(GetCurrentProcessId()) +
-                                                         L"-" + std::to_wstring(++runs));
+  const std::wstring base = fs::temp_directory_path() /
+                            (L"tarvik-unix-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++runs));
   const fs::path script = base + L".sh";
   const fs::path output = base + L".out";
   const fs::path answer = base + L".end";
   const std::string unixAnswer = Quoted(UnixPath(answer));
   // Wine gives no handle to wait for such a program, so the end is told by a file, which appears whole.
-  std::ofstream(script, std::ios::binary) << "exec >" << Quoted(UnixPath(output)) << " 2>&1 </dev/null\n(\n"
-                                          << command << "\n)\necho $? >" << unixAnswer << ".part\nmv " << unixAnswer
-                                          << ".part " << unixAnswer << "\n";
+  std::ofstream(script, std::ios::binary)
+      << "exec >" << Quoted(UnixPath(output)) << " 2>&1 </dev/null\n(\n"
+      << command << "\n)\necho $? >" << unixAnswer << ".part\nmv " << unixAnswer << ".part " << unixAnswer << "\n";
   Start(L"\"Z:\\bin\\sh\" \"" + ToWide(UnixPath(script)) + L"\"");
   if (!Eventually([&] { return fs::exists(answer); })) throw std::runtime_error("does not end: " + command);
   const UnixAnswer result{.exitCode = std::stoi(ReadAll(answer)), .output = ReadAll(output)};
@@ -71,6 +71,8 @@ UnixAnswer RunUnix(const std::string& command) {
   return result;
 }
 
-std::string UnixQuoted(const fs::path& path) { return Quoted(UnixPath(path)); }
+std::string UnixQuoted(const fs::path& path) {
+  return Quoted(UnixPath(path));
+}
 
 }  // namespace tarvik::end_to_end

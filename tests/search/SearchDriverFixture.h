@@ -1,0 +1,58 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "search/FakeSearch.h"
+#include "search/SearchDriver.h"
+
+namespace tarvik {
+
+using Lines = std::vector<std::string>;
+
+// The steps that every search starts with, and those of its failure exit.
+inline Lines Starting() {
+  return {"close enhanced view", "disable CmdFind", "disable CmdOk",
+          "disable CmdClose",    "disable mnuFile", "disable mnuEdit"};
+}
+
+inline Lines Refusing() {
+  return {"enable CmdFind", "enable CmdClose", "disable CmdOk", "disable mnuFile", "disable mnuEdit", "clear grid"};
+}
+
+inline Lines Joined(std::initializer_list<Lines> pieces) {
+  Lines all;
+  for (const Lines& piece : pieces) all.insert(all.end(), piece.begin(), piece.end());
+  return all;
+}
+
+// The driver over a fake window and a fake machine, standing at "C:\a".
+class SearchDriverTest : public ::testing::Test {
+ protected:
+  SearchDriverTest() { PointAt("C:\\a"); }
+
+  void PointAt(const std::string& folder) {
+    window.dir1 = folder;
+    window.file1 = folder;
+  }
+  void AddFile(const std::string& folder, const std::string& name, FakeFile file) {
+    window.folders[folder].files.push_back(name);
+    icons.files[folder + "\\" + name] = file;
+  }
+  void AddSubFolder(const std::string& folder, const std::string& subFolder) {
+    window.folders[folder].subFolders.push_back(subFolder);
+  }
+  void Find() { driver.CmdFind_Click(); }
+
+  Script script;
+  FakeSearchWindow window{script};
+  FakeIcons icons{script};
+  IconList list;
+  SearchState state;
+  std::string language{english};
+  SearchDriver driver{window, icons, list, state, language};
+};
+
+}  // namespace tarvik
