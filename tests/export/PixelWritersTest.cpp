@@ -52,6 +52,10 @@ TEST(Write1Bit, AddsTwoZeroBytesToEachRowUnlessItIs32PixelsWide) {
   EXPECT_EQ(Written(Write1Bit, TestRaster(64, 1, white)), (Bytes{255, 255, 255, 255, 255, 255, 255, 255, 0, 0}));
 }
 
+TEST(Write1Bit, FillsTheLastByteOfAWidthThatIsNoMultipleOfEightWithZeroBits) {
+  EXPECT_EQ(Written(Write1Bit, TestRaster(11, 1, white)), (Bytes{0xFF, 0xE0, 0, 0}));
+}
+
 TEST(Write4Bit, PutsTheFirstOfTwoPixelsInTheHighHalfAndTheBottomRowFirst) {
   TestRaster raster(4, 2);
   raster.Set(0, 1, 0x0000FF);  // 9
@@ -66,6 +70,12 @@ TEST(Write4Bit, KeepsTheIndexLastFoundForThatHalfAcrossRows) {
   raster.Set(2, 1, 0x0000FF);         // 9, a left half in the bottom row
   raster.Set(1, 0, 0xFFFFFF);         // 15, a right half in the top row
   EXPECT_EQ(Written(Write4Bit, raster), (Bytes{0x00, 0x90, 0x9F, 0x9F}));
+}
+
+TEST(Write4Bit, RepeatsTheRightHalfLastFoundAfterTheLastPixelOfAnOddRow) {
+  TestRaster raster(3, 1, 0x0000FF);  // 9
+  raster.Set(1, 0, 0xC0C0C0);         // 7
+  EXPECT_EQ(Written(Write4Bit, raster), (Bytes{0x97, 0x97}));
 }
 
 TEST(Write4Bit, ComparesOnlyBlueGreenAndRed) {
