@@ -4,17 +4,21 @@ target_compile_features(tarvik_options INTERFACE cxx_std_20)
 target_include_directories(tarvik_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(tarvik_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
-  -Woverloaded-virtual -Wold-style-cast -Werror)
+  -Woverloaded-virtual -Wold-style-cast)
+if(TARVIK_WARNINGS_ARE_ERRORS)
+  target_compile_options(tarvik_options INTERFACE -Werror)
+endif()
 
 if(WIN32)
   # Windows 7 is the oldest system the program starts on. UNICODE settles the names without A or W.
   target_compile_definitions(tarvik_options INTERFACE
     UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700)
   target_compile_options(tarvik_options INTERFACE -fstack-protector-strong)
+  # Given to the linker too: the compiler knows which library its own checks need, if any.
+  target_link_options(tarvik_options INTERFACE -fstack-protector-strong)
   # One file with no DLL beside it, at an address that changes with each start, data never run.
   target_link_options(tarvik_options INTERFACE
     -static -Wl,--dynamicbase -Wl,--nxcompat -Wl,--high-entropy-va -Wl,--no-insert-timestamp)
-  target_link_libraries(tarvik_options INTERFACE ssp)
 endif()
 
 if(TARVIK_SANITIZE)
