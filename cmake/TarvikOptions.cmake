@@ -9,6 +9,11 @@ if(TARVIK_WARNINGS_ARE_ERRORS)
   target_compile_options(tarvik_options INTERFACE -Werror)
 endif()
 
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # GCC 12 takes "text" + string for overlapping memory at -O3 (its bug 105651).
+  target_compile_options(tarvik_options INTERFACE -Wno-restrict)
+endif()
+
 if(WIN32)
   # Windows 7 is the oldest system the program starts on. UNICODE settles the names without A or W.
   target_compile_definitions(tarvik_options INTERFACE
