@@ -11,7 +11,7 @@ make_prefix() {
   say "Making a Wine prefix in ${WINEPREFIX#"$root"/}"
   rm -rf "$WINEPREFIX"
   mkdir -p "$WINEPREFIX"
-  wineboot -i >/dev/null 2>&1 </dev/null || fail "Wine could not make its prefix in $WINEPREFIX"
+  wineboot -i >/dev/null 2>&1 </dev/null 9>&- || fail "Wine could not make its prefix in $WINEPREFIX"
   # Debian's Wine does not find its own fonts; without them dialogs come out wider than on Windows.
   ln -sf /usr/share/wine/fonts/*.ttf /usr/share/wine/fonts/*.fon "$WINEPREFIX/drive_c/windows/Fonts/"
   cat > "$WINEPREFIX/settings.reg" <<'REG'
@@ -31,7 +31,7 @@ REGEDIT4
 [HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]
 "Default"="1280x960"
 REG
-  wine regedit /S "$(winepath -w "$WINEPREFIX/settings.reg")" >/dev/null 2>&1 </dev/null || fail "Wine refused the settings"
+  wine regedit /S "$(winepath -w "$WINEPREFIX/settings.reg")" >/dev/null 2>&1 </dev/null 9>&- || fail "Wine refused the settings"
   wineserver -w
   touch "$WINEPREFIX/.ready"
 }
@@ -65,13 +65,21 @@ start_wine() {
   lock_wine
   make_prefix
   wine_is_up=1
+  choose_desktop "$1"
   # Its services would hold this script's output open, so they get none of it.
   wineserver -p >/dev/null 2>&1 </dev/null 9>&- || true
-  local desktop=(delete 'HKCU\Software\Wine\Explorer' /v Desktop /f)
-  [ "$1" = own ] || desktop=(add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f)
-  # There is nothing to delete where a desktop of its own was never asked for.
-  wine reg "${desktop[@]}" >/dev/null 2>&1 </dev/null 9>&- || [ "$1" = own ] || fail "Wine refused its desktop setting"
   wine wineboot >/dev/null 2>&1 </dev/null 9>&- || fail "Wine does not start"
+}
+
+# choose_desktop DESKTOP: Wine reads the choice only when it starts, so it is made before, and rarely.
+choose_desktop() {
+  local chosen=own key='HKCU\Software\Wine\Explorer' change
+  if grep -q '^"Desktop"="Default"' "$WINEPREFIX/user.reg"; then chosen=virtual; fi
+  [ "$chosen" != "$1" ] || return 0
+  if [ "$1" = virtual ]; then change=(add "$key" /v Desktop /d Default /f); else change=(delete "$key" /v Desktop /f); fi
+  wine reg "${change[@]}" >/dev/null 2>&1 </dev/null 9>&- || fail "Wine refused its desktop setting"
+  wineserver -k >/dev/null 2>&1 || true
+  wineserver -w
 }
 
 # end_wine: called when the script ends, however it ends.
