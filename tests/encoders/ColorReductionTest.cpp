@@ -1,7 +1,8 @@
+#include "encoders/ColorReduction.h"
+
 #include <limits>
 #include <random>
 #include <vector>
-#include "encoders/ColorReduction.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

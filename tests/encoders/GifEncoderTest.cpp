@@ -1,9 +1,10 @@
+#include "encoders/GifEncoder.h"
+
 #include <algorithm>
 #include <limits>
 #include <set>
 #include <utility>
 #include <vector>
-#include "encoders/GifEncoder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,8 @@
+#include "encoders/GifOptions.h"
+
 #include <algorithm>
 #include <utility>
 #include <vector>
-#include "encoders/GifOptions.h"
 
 #include <gtest/gtest.h>
 

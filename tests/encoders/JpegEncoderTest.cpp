@@ -1,8 +1,9 @@
+#include "encoders/JpegEncoder.h"
+
 #include <algorithm>
 #include <numeric>
 #include <utility>
 #include <vector>
-#include "encoders/JpegEncoder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

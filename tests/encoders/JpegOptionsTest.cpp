@@ -1,8 +1,9 @@
+#include "encoders/JpegOptions.h"
+
 #include <algorithm>
 #include <set>
 #include <utility>
 #include <vector>
-#include "encoders/JpegOptions.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -82,8 +82,10 @@ void WriteGifs(const std::string& start, const PixelView& picture) {
   GifEncoder encoder(sink);
   for (const bool transparent : {false, true}) {
     for (const GifPalette palette : {GifPalette::BestQuality, GifPalette::Web}) {
-      const std::string path =
-          start + "," + (palette == GifPalette::Web ? "web" : "best") + (transparent ? ",transparent" : "") + ".gif";
+      std::string path = start;
+      path += palette == GifPalette::Web ? ",web" : ",best";
+      if (transparent) path += ",transparent";
+      path += ".gif";
       Expect(encoder.WriteFile(picture, path, {transparent, picture.Pixel(0, 0), palette}), path);
     }
   }
@@ -98,7 +100,9 @@ void WriteSamples(const std::string& folder) {
         {"photo" + number, Photo(size, 11)},
     };
     for (const auto& [name, picture] : pictures) {
-      const std::string start = folder + "/" + name;
+      std::string start = folder;
+      start += '/';
+      start += name;
       WritePpm(start + ".ppm", picture);
       WriteJpegs(start, picture);
       WriteGifs(start, picture);
