@@ -34,6 +34,9 @@ set(library_flags "-w")
 if(TARVIK_SANITIZE)
   string(APPEND library_flags " -fsanitize=address -fno-omit-frame-pointer")
 endif()
+if(TARVIK_FUZZ)
+  string(APPEND library_flags " -fsanitize=fuzzer-no-link")
+endif()
 
 # libjpeg-turbo must be configured by itself. It needs no assembler this way: with and without it the files come out
 # the same, and the pictures here are small.

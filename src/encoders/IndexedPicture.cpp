@@ -53,13 +53,9 @@ class ColorNumbers {
   std::vector<std::uint32_t> slots_ = std::vector<std::uint32_t>(1024, empty);  // a power of two
 };
 
-// The number of each pixel's colour, row by row. A run of one colour asks for its number once a pixel all the same:
-// the count is needed.
-std::vector<std::uint32_t> NumberPixels(const PixelView& picture, ColorNumbers& numbers) {
-  std::vector<std::uint32_t> pixels;
-  pixels.reserve(static_cast<std::size_t>(picture.Width()) * static_cast<std::size_t>(picture.Height()));
-  for (int y = 0; y < picture.Height(); ++y)
-    for (int x = 0; x < picture.Width(); ++x) pixels.push_back(numbers.NumberOf(picture.Pixel(x, y)));
+std::vector<Color> PixelsOf(const PixelView& picture) {
+  std::vector<Color> pixels(static_cast<std::size_t>(picture.Width()) * static_cast<std::size_t>(picture.Height()));
+  picture.CopyPixels(pixels);
   return pixels;
 }
 
@@ -113,8 +109,10 @@ std::vector<Color> WebPalette() {
 }  // namespace
 
 IndexedPicture IndexByBestPalette(const PixelView& picture, std::optional<Color> transparent) {
+  // Each pixel's colour gives way to its number.
+  std::vector<std::uint32_t> pixels = PixelsOf(picture);
   ColorNumbers numbers;
-  const std::vector<std::uint32_t> pixels = NumberPixels(picture, numbers);
+  for (std::uint32_t& pixel : pixels) pixel = numbers.NumberOf(pixel);
   const std::vector<CountedColor>& colors = numbers.Colors();
 
   std::optional<std::size_t> kept;
@@ -134,14 +132,12 @@ IndexedPicture IndexByBestPalette(const PixelView& picture, std::optional<Color>
 IndexedPicture IndexByWebPalette(const PixelView& picture, std::optional<Color> transparent) {
   IndexedPicture result{picture.Width(), picture.Height(), WebPalette(), {}, std::nullopt};
   const auto extra = static_cast<std::uint8_t>(result.palette.size());
-  result.pixels.reserve(static_cast<std::size_t>(result.width) * static_cast<std::size_t>(result.height));
-  for (int y = 0; y < result.height; ++y) {
-    for (int x = 0; x < result.width; ++x) {
-      const Color color = picture.Pixel(x, y);
-      const bool seeThrough = color == transparent;
-      if (seeThrough) result.transparentIndex = extra;
-      result.pixels.push_back(seeThrough ? extra : static_cast<std::uint8_t>(WebPlace(color)));
-    }
+  const std::vector<Color> pixels = PixelsOf(picture);
+  result.pixels.reserve(pixels.size());
+  for (const Color color : pixels) {
+    const bool seeThrough = color == transparent;
+    if (seeThrough) result.transparentIndex = extra;
+    result.pixels.push_back(seeThrough ? extra : static_cast<std::uint8_t>(WebPlace(color)));
   }
   if (result.transparentIndex)
     result.palette.push_back(result.palette[static_cast<std::size_t>(WebPlace(*transparent))]);

@@ -196,15 +196,14 @@ void JpegEncoder::SetQuality(int quality) {
 void JpegEncoder::TakePicture(const PixelView& picture) {
   width_ = std::max(picture.Width(), 0);
   height_ = std::max(picture.Height(), 0);
-  rgb_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_) * bytesOfPixel);
+  std::vector<Color> pixels(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
+  if (!pixels.empty()) picture.CopyPixels(pixels);
+  rgb_.resize(pixels.size() * bytesOfPixel);
   auto sample = rgb_.begin();
-  for (int y = 0; y < height_; ++y) {
-    for (int x = 0; x < width_; ++x) {
-      const Color color = picture.Pixel(x, y);
-      *sample++ = RedOf(color);
-      *sample++ = GreenOf(color);
-      *sample++ = BlueOf(color);
-    }
+  for (const Color color : pixels) {
+    *sample++ = RedOf(color);
+    *sample++ = GreenOf(color);
+    *sample++ = BlueOf(color);
   }
 }
 
