@@ -3,11 +3,10 @@
 // the same size. What they refuse, they must not have touched.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <iostream>
 #include <set>
 #include <string>
 
+#include "FuzzInput.h"
 #include "encoders/Decoders.h"
 #include "encoders/GifEncoder.h"
 #include "encoders/JpegEncoder.h"
@@ -36,16 +35,10 @@ class Input {
   std::size_t at_ = 0;
 };
 
-void Require(bool condition, const char* what) {
-  if (condition) return;
-  std::cerr << what << '\n';
-  std::abort();
-}
-
-// A picture of up to 64 x 64 pixels. Past the input's end its colours repeat with a drift, so that short inputs make
-// pictures of many colours too.
+// A picture of up to 24 x 24 pixels, enough for more colours than a palette holds. Past the input's end its colours
+// repeat with a drift, so that short inputs make pictures of many colours too.
 TestPicture MakePicture(Input& input) {
-  TestPicture picture(input.Byte() % 65, input.Byte() % 65);
+  TestPicture picture(input.Byte() % 25, input.Byte() % 25);
   const Color drift = input.AnyColor();
   Color color = 0;
   for (int y = 0; y < picture.Height(); ++y) {
@@ -60,13 +53,14 @@ TestPicture MakePicture(Input& input) {
 void FuzzGif(const TestPicture& picture, const GifSettings& settings) {
   TestSink sink;
   if (!GifEncoder(sink).WriteFile(picture, "fuzz.gif", settings)) {
-    Require(picture.Width() == 0 || picture.Height() == 0, "a picture was refused");
-    Require(sink.Steps().empty(), "a refused picture touched the file");
+    Require(picture.Width() == 0 || picture.Height() == 0, "every picture with pixels is written");
+    Require(sink.Steps().empty(), "a refused picture leaves the file alone");
     return;
   }
   const auto content = DecodeGif(sink.Bytes());
-  Require(content.has_value(), "the GIF file does not decode");
-  Require(content->width == picture.Width() && content->height == picture.Height(), "the GIF file has another size");
+  Require(content.has_value(), "the GIF file decodes");
+  Require(content->width == picture.Width() && content->height == picture.Height(),
+          "the GIF file has the picture's size");
   std::set<Color> colors;
   bool same = true;
   for (int y = 0; y < picture.Height(); ++y) {
@@ -75,10 +69,11 @@ void FuzzGif(const TestPicture& picture, const GifSettings& settings) {
       colors.insert(color);
       same = same && content->Pixel(x, y) == color;
       const bool seeThrough = settings.transparent && color == settings.transparentColor;
-      Require((content->Index(x, y) == content->transparentIndex) == seeThrough, "a pixel is wrongly see-through");
+      Require((content->Index(x, y) == content->transparentIndex) == seeThrough,
+              "the pixels of the transparent colour, and no others, are see-through");
     }
   }
-  Require(same || colors.size() > 256 || settings.palette == GifPalette::Web, "few colours were not kept exactly");
+  Require(same || colors.size() > 256 || settings.palette == GifPalette::Web, "at most 256 colours are kept exactly");
 }
 
 void FuzzJpeg(const TestPicture& picture, Input& input) {
@@ -99,19 +94,19 @@ void FuzzJpeg(const TestPicture& picture, Input& input) {
   encoder.SetComment(comment);
   encoder.TakePicture(picture);
   if (!encoder.WriteFile("fuzz.jpg")) {
-    Require(!offered || picture.Width() == 0 || picture.Height() == 0, "a picture was refused");
-    Require(sink.Steps().empty(), "a refused picture touched the file");
+    Require(!offered || picture.Width() == 0 || picture.Height() == 0, "every picture with pixels is written");
+    Require(sink.Steps().empty(), "a refused picture leaves the file alone");
     return;
   }
   const auto markers = ReadJpegMarkers(sink.Bytes());
-  Require(markers.has_value(), "the JPEG file is not whole");
+  Require(markers.has_value(), "the JPEG file is whole");
   std::string found;
   for (const std::string& piece : markers->comments) found += piece;
-  Require(found == comment, "the comment is another");
+  Require(found == comment, "the comment is the one given");
   const auto decoded = DecodeJpeg(sink.Bytes());
-  Require(decoded.has_value(), "the JPEG file does not decode");
+  Require(decoded.has_value(), "the JPEG file decodes");
   Require(decoded->Width() == picture.Width() && decoded->Height() == picture.Height(),
-          "the JPEG file has another size");
+          "the JPEG file has the picture's size");
 }
 
 }  // namespace
