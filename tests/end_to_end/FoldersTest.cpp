@@ -37,12 +37,22 @@ class Folders : public EndToEnd {
   }
 };
 
-TEST_F(Folders, TheDriveShowsItsLetterAndItsName) {
-  const VolumeLabel label("机器");
+TEST_F(Folders, ADriveShowsItsLetterAndItsName) {
+  const ExtraDrive drive(tree_.Path(), "机器");
+  Start("R:\\");
+  const Control drives = program_.Item(FrmFindIcon_Drive1);
+  EXPECT_THAT(drives.ComboItems(), Contains("r: [机器]"));
+  EXPECT_EQ(drives.ComboItems().at(static_cast<std::size_t>(drives.ComboChoice())), "r: [机器]");
+}
+
+TEST_F(Folders, ADriveThatIsPluggedInShowsWhenTheListOpens) {
   Start();
   const Control drives = program_.Item(FrmFindIcon_Drive1);
-  EXPECT_THAT(drives.ComboItems(), Contains("c: [机器]"));
-  EXPECT_EQ(drives.ComboItems().at(static_cast<std::size_t>(drives.ComboChoice())), "c: [机器]");
+  EXPECT_THAT(drives.ComboItems(), Not(Contains("r: [stick]")));
+  const ExtraDrive drive(tree_.Path(), "stick");
+  Click(MiddleOf(drives.Place()));
+  EXPECT_TRUE(Eventually([&] { return std::ranges::count(drives.ComboItems(), "r: [stick]") == 1; }));
+  PressKey(VK_ESCAPE);
 }
 
 TEST_F(Folders, ADriveWithoutANameShowsItsLetterAlone) {
@@ -121,15 +131,21 @@ TEST_F(Folders, ThePatternMatchesLongNamesOnlyAndWithoutRegardToCase) {
 }
 
 TEST_F(Folders, ChoosingADriveGoesToItsRoot) {
-  Start();
-  ChooseDrive('c');
-  EXPECT_TRUE(Eventually([&] { return FolderNames().front() == "C:\\" && RowOf("windows") == 1; }))
-      << ::testing::PrintToString(FolderNames());
+  const ExtraDrive drive(tree_.Path(), "extra");
+  tree_.MakeFile("root.ico");
+  tree_.MakeFolder("inner");
+  Start("C:\\windows");
+  ChooseDrive('r');
+  EXPECT_TRUE(Eventually([&] {
+    return FolderNames() == std::vector<std::string>{"R:\\", "inner"};
+  })) << ::testing::PrintToString(FolderNames());
+  EXPECT_THAT(FileNames(), ElementsAre("root.ico"));
 }
 
 struct NotReadyRow {
   std::optional<std::string> language;
   const char* text;
+  friend void PrintTo(const NotReadyRow& row, std::ostream* out) { *out << row.language.value_or("no language"); }
 };
 
 class EmptyDriveMessage : public Folders, public ::testing::WithParamInterface<NotReadyRow> {};

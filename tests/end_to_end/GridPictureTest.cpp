@@ -30,6 +30,7 @@ struct Geometry {
   int pitch;
   int firstFrame;  // the far corner of the frame around the first icon
   int columns;
+  friend void PrintTo(const Geometry& geometry, std::ostream* out) { *out << geometry.size << " pixels"; }
 };
 constexpr Geometry geometries[] = {
     {Size16, 16, 22, 21, 31}, {Size32, 32, 38, 37, 15}, {Size48, 48, 54, 53, 10}, {Size64, 64, 70, 69, 8}};
@@ -180,6 +181,9 @@ struct HeightRow {
   IconSizeChoice size;
   int height;
   bool scrolls;
+  friend void PrintTo(const HeightRow& row, std::ostream* out) {
+    *out << row.icons << " icons, size " << geometries[row.size].size;
+  }
 };
 
 class GridHeight : public GridPicture, public ::testing::WithParamInterface<HeightRow> {};

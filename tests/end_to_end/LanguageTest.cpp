@@ -58,6 +58,9 @@ constexpr Texts design{"Find Icons",
 struct LanguageRow {
   std::optional<std::string> value;  // as it stands in the registry
   const Texts* texts;
+  friend void PrintTo(const LanguageRow& row, std::ostream* out) {
+    *out << (row.value ? '"' + *row.value + '"' : "no value");
+  }
 };
 
 class Language : public EndToEnd, public ::testing::WithParamInterface<LanguageRow> {};
@@ -77,11 +80,12 @@ TEST_P(Language, SetsTheTextsOfTheMainWindow) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, Language,
-                         ::testing::Values(LanguageRow{std::nullopt, &english}, LanguageRow{"", &english},
-                                           LanguageRow{"English", &english}, LanguageRow{"chs", &simplified},
-                                           LanguageRow{"CHT-TW", &traditional}, LanguageRow{"  CHT  ", &design},
-                                           LanguageRow{" chs", &design}, LanguageRow{"Chinese", &design},
-                                           LanguageRow{"中文", &design}));
+                         ::testing::Values(LanguageRow{std::nullopt, &english}, LanguageRow{"English", &english},
+                                           LanguageRow{"chs", &simplified}, LanguageRow{"CHT-TW", &traditional},
+                                           LanguageRow{"  CHT  ", &design}, LanguageRow{" chs", &design},
+                                           LanguageRow{"Chinese", &design}, LanguageRow{"中文", &design},
+                                           // The value is there, and so is the zero that ends it.
+                                           LanguageRow{"", &design}));
 
 class SearchTexts : public EndToEnd {
  protected:
@@ -95,6 +99,7 @@ struct FoundRow {
   const char* count;
   const char* status;
   const char* info;
+  friend void PrintTo(const FoundRow& row, std::ostream* out) { *out << row.language; }
 };
 
 class FoundTexts : public SearchTexts, public ::testing::WithParamInterface<FoundRow> {};
@@ -119,6 +124,7 @@ struct RefusedRow {
   const char* noIcons;  // after the folder
   const char* raise;
   const char* narrow;
+  friend void PrintTo(const RefusedRow& row, std::ostream* out) { *out << row.language; }
 };
 
 class RefusedTexts : public SearchTexts, public ::testing::WithParamInterface<RefusedRow> {};

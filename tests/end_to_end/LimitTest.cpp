@@ -146,6 +146,9 @@ struct BadLimitRow {
   std::optional<std::string> language;
   const char* text;
   const char* title;
+  friend void PrintTo(const BadLimitRow& row, std::ostream* out) {
+    *out << '"' << row.limit << "\" " << row.language.value_or("no language");
+  }
 };
 
 class BadLimit : public Limit, public ::testing::WithParamInterface<BadLimitRow> {};

@@ -1,9 +1,17 @@
 #include "end_to_end/Machine.h"
 
+#include <gtest/gtest.h>
 #include <windows.h>
 
-#include <stdexcept>
+#include <winioctl.h>
 
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <vector>
+
+#include "end_to_end/UnixProgram.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 
@@ -14,7 +22,6 @@ constexpr wchar_t makerKey[] = L"Software\\Vornhold";
 constexpr wchar_t languageKey[] = L"Software\\Vornhold\\Brindle Tarvik\\RegInfo";
 constexpr wchar_t languageName[] = L"Language";
 constexpr wchar_t emptyDrive[] = L"Q:";
-constexpr wchar_t labelFile[] = L"C:\\.windows-label";  // where Wine keeps the name of a volume without a device
 
 std::optional<std::string> ReadLanguage() {
   wchar_t text[256] = {};
@@ -32,6 +39,38 @@ bool WriteLanguage(const std::optional<std::string>& value) {
   const std::wstring text = ToWide(*value);
   const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
   return RegSetKeyValueW(HKEY_LOCAL_MACHINE, languageKey, languageName, REG_SZ, text.c_str(), size) == ERROR_SUCCESS;
+}
+
+// What Wine's mount manager is told of a drive; the text follows, found by its offset from the start.
+struct UnixDrive {
+  ULONG size;  // of all of it, text included
+  ULONG type;
+  ULONG fileSystemType;
+  DWORD serial;
+  ULONGLONG device;
+  WCHAR letter;
+  USHORT mountPointOffset;  // a path of the system below Wine; 0 for none
+  USHORT deviceOffset;
+  USHORT labelOffset;
+};
+
+// Makes drive R: of that type and path, or removes it where the path is empty.
+void DefineUnixDrive(ULONG type, const std::string& path) {
+  constexpr DWORD defineUnixDrive = CTL_CODE('m', 32, METHOD_BUFFERED, FILE_READ_ACCESS | FILE_WRITE_ACCESS);
+  UnixDrive drive{};
+  drive.size = static_cast<ULONG>(sizeof drive + path.size() + 1);
+  drive.type = type;
+  drive.letter = L'r';
+  drive.mountPointOffset = path.empty() ? 0 : sizeof drive;
+  std::vector<std::byte> bytes(drive.size);
+  std::memcpy(bytes.data(), &drive, sizeof drive);
+  std::memcpy(bytes.data() + sizeof drive, path.c_str(), path.size() + 1);
+
+  const FileHandle manager(CreateFileW(L"\\\\.\\MountPointManager", GENERIC_READ | GENERIC_WRITE,
+                                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr));
+  DWORD returned = 0;
+  if (DeviceIoControl(manager.get(), defineUnixDrive, bytes.data(), drive.size, nullptr, 0, &returned, nullptr) == 0)
+    throw std::runtime_error("drive R: cannot be changed");
 }
 
 }  // namespace
@@ -53,12 +92,17 @@ EmptyDrive::~EmptyDrive() {
   DefineDosDeviceW(DDD_REMOVE_DEFINITION, emptyDrive, nullptr);
 }
 
-VolumeLabel::VolumeLabel(const std::string& label) {
-  if (SetVolumeLabelW(L"C:\\", ToWide(label).c_str()) == 0) throw std::runtime_error("the volume cannot be named");
+ExtraDrive::ExtraDrive(const std::string& folder, const std::string& label) {
+  std::ofstream(std::filesystem::path(ToWide(folder)) / L".windows-label", std::ios::binary) << label << '\n';
+  DefineUnixDrive(DRIVE_FIXED, UnixPath(ToWide(folder)));
 }
 
-VolumeLabel::~VolumeLabel() {
-  DeleteFileW(labelFile);
+ExtraDrive::~ExtraDrive() {
+  try {
+    DefineUnixDrive(DRIVE_NO_ROOT_DIR, {});
+  } catch (const std::runtime_error& error) {
+    ADD_FAILURE() << error.what();
+  }
 }
 
 }  // namespace tarvik::end_to_end

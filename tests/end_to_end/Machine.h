@@ -19,24 +19,22 @@ class LanguageValue {
   std::optional<std::string> former_;
 };
 
-// A drive letter that stands in the list of drives while nothing can be read from it, as an empty card reader does.
+// Drive Q:, which stands in the list of drives while nothing can be read from it, as an empty card reader does.
 class EmptyDrive {
  public:
   EmptyDrive();
   ~EmptyDrive();
   EmptyDrive(const EmptyDrive&) = delete;
   EmptyDrive& operator=(const EmptyDrive&) = delete;
-
-  char Letter() const { return 'Q'; }
 };
 
-// The name of volume C:.
-class VolumeLabel {
+// Drive R:, which shows a folder as its root and has a name. The name is kept in a hidden file in that folder.
+class ExtraDrive {
  public:
-  explicit VolumeLabel(const std::string& label);
-  ~VolumeLabel();
-  VolumeLabel(const VolumeLabel&) = delete;
-  VolumeLabel& operator=(const VolumeLabel&) = delete;
+  ExtraDrive(const std::string& folder, const std::string& label);
+  ~ExtraDrive();
+  ExtraDrive(const ExtraDrive&) = delete;
+  ExtraDrive& operator=(const ExtraDrive&) = delete;
 };
 
 }  // namespace tarvik::end_to_end

@@ -13,7 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int boxTextId = 0xFFFF;
-constexpr int boxSignId = 20;
 
 std::vector<Control> ChildrenOf(HWND window) {
   std::vector<Control> children;
@@ -66,7 +65,11 @@ std::vector<int> Box::Buttons() const {
 }
 
 Control Box::Sign() const {
-  return ChildWithId(window_.Window(), boxSignId).value_or(Control());
+  for (const Control child : ChildrenOf(window_.Window())) {
+    const LONG_PTR style = GetWindowLongPtrW(child.Window(), GWL_STYLE);
+    if (ClassOf(child.Window()) == L"Static" && (style & SS_TYPEMASK) == SS_ICON) return child;
+  }
+  return {};
 }
 
 void Box::Press(int button) const {

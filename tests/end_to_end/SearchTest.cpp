@@ -2,9 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <filesystem>
-#include <fstream>
-
 #include "end_to_end/EndToEndTest.h"
 #include "end_to_end/Input.h"
 #include "platform/IconFiles.h"
@@ -20,21 +17,6 @@ using ::testing::IsEmpty;
 class Search : public EndToEnd {
  protected:
   void MakeIcon(std::string_view name) const { tree_.MakeFile(name, IconFileOf(0x0000FF)); }
-};
-
-// A file in the root of drive C:, gone when the test ends.
-class RootFile {
- public:
-  RootFile(const std::string& name, const testing::Bytes& bytes) : path_("C:\\" + name) {
-    std::ofstream(path_, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-  }
-  ~RootFile() { std::filesystem::remove(path_); }
-  RootFile(const RootFile&) = delete;
-  RootFile& operator=(const RootFile&) = delete;
-
- private:
-  std::filesystem::path path_;
 };
 
 TEST_F(Search, ListsTheIconsOfALibraryUnderItsPath) {
@@ -149,10 +131,11 @@ TEST_F(Search, ARefusedSearchAfterAFilledOneLeavesTheListEmpty) {
 }
 
 TEST_F(Search, JoinsTheRootOfADriveAndANameWithABackslash) {
-  const RootFile icon("tarvik-root-test.ico", IconFileOf(0x00FF00));
-  Start("C:\\");
+  const ExtraDrive drive(tree_.Path(), "extra");
+  MakeIcon("a.ico");
+  Start("R:\\");
   Find();
-  EXPECT_THAT(Entries(), ElementsAre(Entry{"C:\\\\tarvik-root-test.ico", 0}));
+  EXPECT_THAT(Entries(), ElementsAre(Entry{"R:\\\\a.ico", 0}));
 }
 
 TEST_F(Search, StartsFromTheFileMenu) {

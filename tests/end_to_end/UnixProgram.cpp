@@ -21,17 +21,6 @@ std::string ReadAll(const fs::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string UnixPath(const fs::path& path) {
-  using NameGetter = char*(CDECL*)(const wchar_t*);
-  const auto getName = reinterpret_cast<NameGetter>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
-  char* const name = getName != nullptr ? getName(path.c_str()) : nullptr;
-  if (name == nullptr) throw std::runtime_error("no unix name for " + ToUtf8(path.wstring()));
-  std::string result = name;
-  HeapFree(GetProcessHeap(), 0, name);
-  return result;
-}
-
 std::string Quoted(const std::string& text) {
   std::string quoted = "'";
   for (const char character : text) quoted += character == '\'' ? std::string("'\\''") : std::string(1, character);
@@ -51,6 +40,17 @@ void Start(std::wstring commandLine) {
 }
 
 }  // namespace
+
+std::string UnixPath(const fs::path& path) {
+  using NameGetter = char*(CDECL*)(const wchar_t*);
+  const auto getName = reinterpret_cast<NameGetter>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
+  char* const name = getName != nullptr ? getName(path.c_str()) : nullptr;
+  if (name == nullptr) throw std::runtime_error("no unix name for " + ToUtf8(path.wstring()));
+  std::string result = name;
+  HeapFree(GetProcessHeap(), 0, name);
+  return result;
+}
 
 UnixAnswer RunUnix(const std::string& command) {
   static std::atomic<int> runs = 0;

@@ -16,7 +16,8 @@ struct UnixAnswer {
 // started or does not end.
 UnixAnswer RunUnix(const std::string& command);
 
-// The path as that system names it, quoted for its shell.
+// The path as that system names it; and quoted for its shell.
+std::string UnixPath(const std::filesystem::path& path);
 std::string UnixQuoted(const std::filesystem::path& path);
 
 }  // namespace tarvik::end_to_end
