@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <psapi.h>
 #include <shellapi.h>
 
 #include <cstdio>
@@ -238,14 +239,37 @@ void CompareFolderCounts(const std::string& root) {
   }
 }
 
+// What this process holds of the system.
+struct Holdings {
+  int gdiObjects = 0;
+  int windows = 0;
+  double megabytes = 0;  // of private memory
+};
+
+BOOL CALLBACK CountWindow(HWND /*window*/, LPARAM count) {
+  ++*reinterpret_cast<int*>(count);
+  return TRUE;
+}
+
+Holdings Hold() {
+  Holdings held{testing::CountGdiObjects(), 0, 0};
+  EnumThreadWindows(GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&held.windows));
+  PROCESS_MEMORY_COUNTERS_EX memory{};
+  GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory), sizeof memory);
+  held.megabytes = static_cast<double>(memory.PrivateUsage) / (1024.0 * 1024.0);
+  return held;
+}
+
 void SearchManyTimes(Application& application, const Scope& scope) {
   constexpr int searches = 100;
   WindowSearch window(application, scope);
   for (int i = 0; i < 5; ++i) window.Run();
-  const int before = testing::CountGdiObjects();
+  const Holdings before = Hold();
   for (int i = 0; i < searches; ++i) window.Run();
-  std::printf("%-44s %-24d %9d GDI objects more\n", "after so many searches", searches,
-              testing::CountGdiObjects() - before);
+  const Holdings after = Hold();
+  std::printf("after %d searches: %+d GDI objects, %+d windows, %+.2f MB of %.1f MB\n", searches,
+              after.gdiObjects - before.gdiObjects, after.windows - before.windows, after.megabytes - before.megabytes,
+              before.megabytes);
 }
 
 }  // namespace
