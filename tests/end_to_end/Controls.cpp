@@ -56,6 +56,11 @@ LPARAM Pointer(const void* address) {
   return reinterpret_cast<LPARAM>(address);
 }
 
+// How a drop-down list tells its parent of a choice.
+WPARAM ChoiceOf(HWND comboBox) {
+  return MAKEWPARAM(static_cast<WORD>(GetDlgCtrlID(comboBox)), CBN_SELCHANGE);
+}
+
 }  // namespace
 
 LRESULT Control::Send(UINT message, WPARAM wParam, LPARAM lParam) const {
@@ -95,8 +100,12 @@ RECT Control::Inside() const {
 
 void Control::ChooseComboItem(int index) const {
   Send(CB_SETCURSEL, static_cast<WPARAM>(index));
-  const auto id = static_cast<WORD>(GetDlgCtrlID(window_));
-  Control(GetParent(window_)).Post(WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), Pointer(window_));
+  Control(GetParent(window_)).Send(WM_COMMAND, ChoiceOf(window_), Pointer(window_));
+}
+
+void Control::PostComboChoice(int index) const {
+  Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+  Control(GetParent(window_)).Post(WM_COMMAND, ChoiceOf(window_), Pointer(window_));
 }
 
 POINT Control::ListRowMiddle(int index) const {
@@ -151,6 +160,17 @@ std::vector<std::string> ReportView::Row(int row) const {
 
 bool ReportView::IsSelected(int row) const {
   return control_.Send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) == LVIS_SELECTED;
+}
+
+RECT ReportView::RowPlace(int row) const {
+  RECT place{};
+  place.left = LVIR_BOUNDS;
+  const RemoteMemory memory(control_.Window(), sizeof place);
+  memory.Write(0, place);
+  control_.Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), Pointer(memory.At(0)));
+  memory.Read(0, place);
+  MapWindowPoints(control_.Window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
+  return place;
 }
 
 std::vector<ReportView::Column> ReportView::Columns() const {

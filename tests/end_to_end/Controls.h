@@ -37,6 +37,8 @@ class Control {
   std::vector<std::string> ComboItems() const { return Items(CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT); }
   int ComboChoice() const { return static_cast<int>(Send(CB_GETCURSEL)); }
   void ChooseComboItem(int index) const;
+  // The same, without waiting for what the parent does then: it may open a window.
+  void PostComboChoice(int index) const;
 
   // List boxes.
   std::vector<std::string> ListItems() const { return Items(LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT); }
@@ -63,6 +65,8 @@ class ReportView {
   // All cells of a row.
   std::vector<std::string> Row(int row) const;
   bool IsSelected(int row) const;
+  // The row's place on the screen.
+  RECT RowPlace(int row) const;
 
   struct Column {
     std::string title;

@@ -56,13 +56,6 @@ void EndToEnd::Tick(std::initializer_list<FileType> types) const {
   for (int type = fileTypeCount - 1; type >= 0; --type) set(type, wanted(type));
 }
 
-void EndToEnd::ChooseSize(IconSizeChoice size) const {
-  const Control list = program_.Item(FrmFindIcon_CboIconSize);
-  list.ChooseComboItem(size);
-  // The choice is posted; the next question is answered after it.
-  ASSERT_TRUE(Eventually([&] { return list.ComboChoice() == size; }));
-}
-
 Box EndToEnd::FindAndWaitForBox() const {
   program_.Item(FrmFindIcon_CmdFind).Press();
   return program_.WaitForBox();

@@ -47,7 +47,7 @@ class EndToEnd : public ::testing::Test {
 
   // Ticks these boxes and no others.
   void Tick(std::initializer_list<FileType> types) const;
-  void ChooseSize(IconSizeChoice size) const;
+  void ChooseSize(IconSizeChoice size) const { program_.Item(FrmFindIcon_CboIconSize).ChooseComboItem(size); }
   void SetLimit(const std::string& limit) const { program_.Item(FrmFindIcon_txtMax).SetText(limit); }
   // Presses Find and waits until a search that shows no message is over.
   void Find() const { program_.Item(FrmFindIcon_CmdFind).Send(BM_CLICK); }

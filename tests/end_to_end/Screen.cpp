@@ -37,6 +37,16 @@ Screenshot::Screenshot(const RECT& place) {
   std::filesystem::remove(file);
 }
 
+int CountPixels(const PixelView& picture, Color color) {
+  int count = 0;
+  for (int y = 0; y < picture.Height(); ++y) {
+    for (int x = 0; x < picture.Width(); ++x) {
+      if (picture.Pixel(x, y) == color) ++count;
+    }
+  }
+  return count;
+}
+
 int CountDifferences(const PixelView& one, const PixelView& other) {
   int differences = 0;
   for (int y = 0; y < std::min(one.Height(), other.Height()); ++y) {

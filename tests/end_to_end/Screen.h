@@ -27,6 +27,9 @@ class Screenshot : public PixelView {
   std::vector<Color> pixels_;
 };
 
+// How many pixels have that colour.
+int CountPixels(const PixelView& picture, Color color);
+
 // How many pixels of the two differ, where both have them.
 int CountDifferences(const PixelView& one, const PixelView& other);
 

@@ -4,6 +4,7 @@
 
 #include "end_to_end/EndToEndTest.h"
 #include "end_to_end/Input.h"
+#include "end_to_end/Screen.h"
 #include "platform/IconFiles.h"
 
 namespace tarvik::end_to_end {
@@ -71,6 +72,41 @@ TEST_F(Search, SelectsTheFirstEntryAndNoOther) {
   Find();
   EXPECT_TRUE(List().IsSelected(0));
   EXPECT_FALSE(List().IsSelected(1));
+}
+
+TEST_F(Search, MarksTheFirstRowOfTheListInRed) {
+  constexpr Color red = 0x0000FF;
+  MakeIcon("a.ico");
+  MakeIcon("b.ico");
+  Start();
+  Find();
+  program_.Item(FrmFindIcon_OptView1).Send(BM_CLICK);
+  MovePointer({0, 0});
+  EXPECT_TRUE(Eventually([&] { return CountPixels(Screenshot(List().RowPlace(0)), red) > 0; }));
+  EXPECT_EQ(CountPixels(Screenshot(List().RowPlace(1)), red), 0);
+}
+
+TEST_F(Search, GreysFileAndEditInTheMenuBarFromARefusalToTheNextSuccess) {
+  MakeIcon("a.ico");
+  Start();
+  RECT bar = program_.Window().Inside();
+  bar.bottom = bar.top;
+  bar.top -= GetSystemMetrics(SM_CYMENU);
+  MovePointer({0, 0});
+  const Screenshot enabled(bar);
+  Tick({Exe});
+  FindAndReadMessage();
+  EXPECT_TRUE(Eventually([&] { return CountDifferences(Screenshot(bar), enabled) > 0; }));
+  Tick({Ico});
+  Find();
+  EXPECT_TRUE(Eventually([&] { return CountDifferences(Screenshot(bar), enabled) == 0; }));
+}
+
+TEST_F(Search, OkWithoutAnEntryDoesNothing) {
+  Start();
+  program_.Command(FrmFindIcon_CmdOk);
+  program_.Command(FrmFindIcon_mnuViewopt1);  // served after it
+  EXPECT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Lv).IsVisible(); }));
 }
 
 TEST_F(Search, VisitsFilesByNameThenSubFoldersByName) {
