@@ -111,7 +111,8 @@ void FrmFindIcon::AttachControls() {
   picIcons_.Show(&grid_);
 }
 
-// The limit's box stands right behind its label, and the rest of the row behind the box, in every language.
+// The limit's box stands right behind its label, and the rest of the row behind the box, in every language; the label
+// that ends the row is as wide as its text.
 void FrmFindIcon::PlaceLimit() {
   const HWND label = Item(FrmFindIcon_SkinLabel1);
   const RECT place = PlaceOf(Window(), label);
@@ -119,7 +120,8 @@ void FrmFindIcon::PlaceLimit() {
   const int shift = place.left + TextWidth(label) + space / 2 - PlaceOf(Window(), Item(FrmFindIcon_txtMax)).left;
   for (const int id : {FrmFindIcon_txtMax, FrmFindIcon_udMain, FrmFindIcon_SkinLabel2}) {
     const RECT former = PlaceOf(Window(), Item(id));
-    Move(Item(id), former.left + shift, former.top, former.right - former.left, former.bottom - former.top);
+    const int width = id == FrmFindIcon_SkinLabel2 ? TextWidth(Item(id)) : former.right - former.left;
+    Move(Item(id), former.left + shift, former.top, width, former.bottom - former.top);
   }
 }
 

@@ -106,7 +106,7 @@ void FrmSpash::DrawPicture() {
   StretchBlt(picture_->Dc(), 0, 0, picture_->Width(), picture_->Height(), source.get(), 0, 0, size.bmWidth,
              size.bmHeight, SRCCOPY);
 
-  DrawVersion(*picture_, reinterpret_cast<HFONT>(SendMessageW(Window(), WM_GETFONT, 0, 0)));
+  DrawVersion(*picture_, reinterpret_cast<HFONT>(SendMessageW(Item(FrmSpash_lblDescription), WM_GETFONT, 0, 0)));
   PictureBox(item).Show(&*picture_);
 }
 

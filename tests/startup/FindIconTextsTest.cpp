@@ -1,0 +1,51 @@
+// The main window's texts, seen as a user sees them.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "search/FindIconFixture.h"
+#include "startup/TextChecks.h"
+
+namespace tarvik {
+namespace {
+
+using testing::FindIconFixture;
+using Texts = std::vector<std::string>;
+
+TEST_F(FindIconFixture, HasAnAccessKeyOnceInEachWindowAndMenu) {
+  for (const std::string language : {"ENG", "CHS", "CHT"}) {
+    Open(language);
+    EXPECT_EQ(testing::TextsWithTakenKeys(window->Window()), Texts{}) << language;
+    EXPECT_EQ(testing::MenuTextsWithTakenKeys(window->Window()), Texts{}) << language;
+  }
+}
+
+TEST_F(FindIconFixture, HasRoomForItsTextsInEveryLanguage) {
+  for (const std::string language : {"ENG", "CHS", "CHT", "CHI"}) {
+    Open(language);
+    EXPECT_EQ(testing::CutOffTexts(window->Window()), Texts{}) << language;
+  }
+}
+
+TEST_F(FindIconFixture, StandsInTheMiddleAThirdOfTheSpareHeightDown) {
+  Open();
+  RECT place;
+  GetWindowRect(window->Window(), &place);
+  EXPECT_NEAR(place.left * 2, GetSystemMetrics(SM_CXSCREEN) - (place.right - place.left), 1);
+  EXPECT_NEAR(place.top * 3, GetSystemMetrics(SM_CYSCREEN) - (place.bottom - place.top), 1);
+}
+
+TEST_F(FindIconFixture, OpensTheAboutBoxAndTheGuideFromItsHelpMenu) {
+  Open();
+  Click(FrmFindIcon_MnuContent);
+  EXPECT_EQ(guideShown, 1);
+  EXPECT_FALSE(state.ShowAsAbout);
+  Click(FrmFindIcon_MnuAbout);
+  EXPECT_EQ(aboutShown, 1);
+  EXPECT_TRUE(state.ShowAsAbout);
+}
+
+}  // namespace
+}  // namespace tarvik

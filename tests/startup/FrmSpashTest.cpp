@@ -1,0 +1,232 @@
+#include "startup/FrmSpash.h"
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/Application.h"
+#include "platform/Handles.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "startup/FrmSpashTexts.h"
+#include "startup/TextChecks.h"
+
+namespace tarvik {
+namespace {
+
+constexpr const char* languages[] = {"ENG", "CHS", "CHT", "CHI"};
+
+// Runs an action from within the message loop, once.
+void Later(std::function<void()> action) {
+  static std::function<void()> waiting;
+  waiting = std::move(action);
+  SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR id, DWORD) {
+    KillTimer(nullptr, id);
+    std::exchange(waiting, nullptr)();
+  });
+}
+
+class FrmSpashTest : public ::testing::Test {
+ protected:
+  void Open(const std::string& language = "ENG") {
+    state.CurrentLanguage = language;
+    spash.emplace(application, state, [this] {
+      ++mainWindowShown;
+      loadedThen = spash->IsLoaded();
+    });
+    spash->Show();
+    application.DoEvents();
+  }
+  // Opens the window as the main window's About command does, runs the action once it is up, and returns when it is
+  // closed.
+  void OpenAbout(const std::function<void()>& action, const std::string& language = "ENG") {
+    owner.Show();
+    state.ShowAsAbout = true;
+    state.CurrentLanguage = language;
+    spash.emplace(application, state, [this] { ++mainWindowShown; });
+    Later(action);
+    spash->ShowModal(owner.Window());
+  }
+  void Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    SendMessageW(spash->Window(), message, wParam, lParam);
+  }
+  void PressKey(WPARAM key) {
+    const HWND focus = GetFocus() != nullptr ? GetFocus() : spash->Window();
+    PostMessageW(focus, WM_KEYDOWN, key, 0);
+    application.DoEvents();
+  }
+  std::string Caption() const {
+    std::wstring text(256, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(spash->Window(), text.data(), 256)));
+    return ToUtf8(text);
+  }
+  bool IsShown(int id) const { return (GetWindowLongW(spash->Item(id), GWL_STYLE) & WS_VISIBLE) != 0; }
+  bool HasCaption() const { return (GetWindowLongW(spash->Window(), GWL_STYLE) & WS_CAPTION) == WS_CAPTION; }
+
+  ProgramState state;
+  Application application{GetModuleHandleW(nullptr)};
+  Form owner{application, Dialog_FrmSpash};  // stands for the main window
+  std::optional<FrmSpash> spash;
+  int mainWindowShown = 0;
+  bool loadedThen = true;
+};
+
+TEST_F(FrmSpashTest, ShowsTheNoticeInEachLanguage) {
+  const std::pair<const char*, const char*> rows[] = {{"ENG", "Finds the icons stored in your files and saves them."},
+                                                      {"CHS", "查找并保存文件中的图标。"},
+                                                      {"CHT", "尋找並儲存檔案中的圖示。"}};
+  for (const auto& [language, notice] : rows) {
+    Open(language);
+    EXPECT_EQ(spash->ItemText(FrmSpash_lblDescription), notice);
+  }
+}
+
+TEST_F(FrmSpashTest, ShowsEveryTextOfItsTable) {
+  for (const std::string language : {"ENG", "CHS", "CHT"}) {
+    Open(language);
+    for (const FormText& row : spashTexts) {
+      EXPECT_EQ(row.id == formCaption ? Caption() : spash->ItemText(row.id), *Pick(row.text, language))
+          << language << ' ' << row.id;
+    }
+  }
+}
+
+TEST_F(FrmSpashTest, KeepsItsDesignTextsForAnUnknownCode) {
+  Open("CHI");
+  EXPECT_EQ(Caption(), "Brindle Tarvik");
+  EXPECT_EQ(spash->ItemText(FrmSpash_lblDescription), "Finds icons and saves them.");
+}
+
+TEST_F(FrmSpashTest, ShowsTheContactAddressInEveryLanguage) {
+  for (const char* language : languages) {
+    Open(language);
+    EXPECT_EQ(spash->ItemText(FrmSpash_LblEmail), "support@brindle-tarvik.example");
+  }
+}
+
+TEST_F(FrmSpashTest, HasRoomForItsTextsInEveryLanguage) {
+  for (const char* language : languages) {
+    Open(language);
+    EXPECT_EQ(testing::CutOffTexts(spash->Window()), std::vector<std::string>{}) << language;
+    EXPECT_EQ(testing::TextsWithTakenKeys(spash->Window()), std::vector<std::string>{}) << language;
+  }
+}
+
+TEST_F(FrmSpashTest, StandsInTheMiddleAThirdOfTheSpareHeightDown) {
+  const auto check = [this] {
+    RECT place;
+    GetWindowRect(spash->Window(), &place);
+    const int spareWidth = GetSystemMetrics(SM_CXSCREEN) - (place.right - place.left);
+    const int spareHeight = GetSystemMetrics(SM_CYSCREEN) - (place.bottom - place.top);
+    EXPECT_NEAR(place.left * 2, spareWidth, 1);
+    EXPECT_NEAR(place.top * 3, spareHeight, 1);
+  };
+  Open();
+  check();
+  OpenAbout([&] {
+    check();
+    spash->Unload();
+  });
+}
+
+TEST_F(FrmSpashTest, HidesItsButtonAndCaptionAtStartUp) {
+  Open();
+  EXPECT_FALSE(IsShown(FrmSpash_CmdOk));
+  EXPECT_FALSE(HasCaption());
+}
+
+TEST_F(FrmSpashTest, FillsItsPicture) {
+  Open();
+  RECT place;
+  GetClientRect(spash->Item(FrmSpash_Picture), &place);
+  const WindowDc dc(spash->Item(FrmSpash_Picture));
+  EXPECT_EQ(GetPixel(dc.get(), 0, 0), RGB(0x1D, 0x2D, 0x52));
+  const COLORREF corner = GetPixel(dc.get(), place.right - 1, place.bottom - 1);
+  EXPECT_NEAR(GetBValue(corner), 0x86, 2);
+}
+
+TEST_F(FrmSpashTest, GivesWayToTheMainWindowAfterThreeSeconds) {
+  const ULONGLONG start = GetTickCount64();
+  Open();
+  application.RunWhile([this] { return mainWindowShown == 0; });
+  EXPECT_GE(GetTickCount64() - start, 2900U);
+  EXPECT_FALSE(loadedThen);
+  EXPECT_EQ(mainWindowShown, 1);
+}
+
+TEST_F(FrmSpashTest, AnswersItsTimerOnce) {
+  Open();
+  Send(WM_TIMER, FrmSpash_Timer1);
+  application.DoEvents();
+  EXPECT_FALSE(spash->IsLoaded());
+  EXPECT_EQ(mainWindowShown, 1);
+}
+
+TEST_F(FrmSpashTest, IgnoresEnterAndEscAtStartUp) {
+  Open();
+  PressKey(VK_RETURN);
+  PressKey(VK_ESCAPE);
+  Send(WM_COMMAND, FrmSpash_CmdOk);
+  EXPECT_TRUE(spash->IsLoaded());
+  EXPECT_EQ(mainWindowShown, 0);
+}
+
+TEST_F(FrmSpashTest, EndsTheProgramWithoutAMainWindowWhereItIsClosed) {
+  Open();
+  Send(WM_CLOSE);
+  application.Run();
+  EXPECT_FALSE(spash->IsLoaded());
+  EXPECT_EQ(mainWindowShown, 0);
+}
+
+TEST_F(FrmSpashTest, HasNoTimerAsAboutBox) {
+  OpenAbout([&] {
+    EXPECT_EQ(KillTimer(spash->Window(), FrmSpash_Timer1), FALSE);
+    spash->Unload();
+  });
+  EXPECT_EQ(mainWindowShown, 0);
+}
+
+TEST_F(FrmSpashTest, IsModalAsAboutBoxAndClosedByItsButton) {
+  OpenAbout([&] {
+    EXPECT_TRUE(IsShown(FrmSpash_CmdOk));
+    EXPECT_TRUE(HasCaption());
+    EXPECT_FALSE(IsWindowEnabled(owner.Window()));
+    EXPECT_EQ(GetWindow(spash->Window(), GW_OWNER), owner.Window());
+    PostMessageW(spash->Item(FrmSpash_CmdOk), BM_CLICK, 0, 0);
+  });
+  EXPECT_FALSE(spash->IsLoaded());
+  EXPECT_TRUE(IsWindowEnabled(owner.Window()));
+  EXPECT_EQ(mainWindowShown, 0);
+}
+
+TEST_F(FrmSpashTest, IsClosedByEnterEscAndItsCloseBoxAsAboutBox) {
+  const std::function<void()> ways[] = {[&] { PressKey(VK_RETURN); }, [&] { PressKey(VK_ESCAPE); },
+                                        [&] { PostMessageW(spash->Window(), WM_CLOSE, 0, 0); }};
+  for (const auto& way : ways) {
+    OpenAbout(way);
+    EXPECT_FALSE(spash->IsLoaded());
+    EXPECT_TRUE(IsWindowEnabled(owner.Window()));
+  }
+}
+
+TEST_F(FrmSpashTest, OpensAgainAsAboutBoxAfterTheStart) {
+  Open();
+  Send(WM_TIMER, FrmSpash_Timer1);
+  for (int time = 0; time < 2; ++time) {
+    OpenAbout([&] {
+      EXPECT_TRUE(IsShown(FrmSpash_CmdOk));
+      PressKey(VK_ESCAPE);
+    });
+  }
+  EXPECT_EQ(mainWindowShown, 1);
+}
+
+}  // namespace
+}  // namespace tarvik

@@ -1,0 +1,122 @@
+// A skin component of the tests' own, as the system finds one by its class: it paints nothing, writes down what it is
+// asked for, and fails where it is told to.
+
+#include "startup/SkinComponent.h"
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+#include <array>
+#include <cwchar>
+#include <string>
+
+namespace tarvik::testing {
+namespace {
+
+constexpr DISPID loadSkin = 11;
+constexpr DISPID applySkin = 12;
+
+std::wstring Variable(const wchar_t* name) {
+  std::array<wchar_t, 4096> text{};
+  const DWORD length = GetEnvironmentVariableW(name, text.data(), static_cast<DWORD>(text.size()));
+  return {text.data(), length};
+}
+
+void Note(const std::wstring& entry) {
+  SetEnvironmentVariableW(skinDiary, (Variable(skinDiary) + entry + L'|').c_str());
+}
+
+bool IsTo(const wchar_t* behaviour) {
+  return Variable(skinBehaviour) == behaviour;
+}
+
+class SkinControl final : public IDispatch {
+ public:
+  SkinControl() { Note(L"made"); }
+  virtual ~SkinControl() { Note(L"gone"); }
+  SkinControl(const SkinControl&) = delete;
+  SkinControl& operator=(const SkinControl&) = delete;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+    const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch);
+    *object = known ? this : nullptr;
+    if (!known) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() override {
+    const ULONG left = --references_;
+    if (left == 0) delete this;
+    return left;
+  }
+
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
+    *count = 0;
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+    if (count != 1) return E_INVALIDARG;
+    const std::wstring name = names[0];
+    ids[0] = name == L"LoadSkin"                             ? loadSkin
+             : name == L"ApplySkin" && !IsTo(lacksApplySkin) ? applySkin
+                                                             : DISPID_UNKNOWN;
+    return ids[0] == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
+                                   UINT*) override {
+    if ((flags & DISPATCH_METHOD) == 0 || parameters->cArgs != 1) return DISP_E_BADPARAMCOUNT;
+    const VARIANT& argument = parameters->rgvarg[0];
+    if (id == loadSkin && argument.vt == VT_BSTR) {
+      Note(L"LoadSkin " + std::wstring(argument.bstrVal, SysStringLen(argument.bstrVal)));
+      return IsTo(failsInLoadSkin) ? DISP_E_EXCEPTION : S_OK;
+    }
+    if (id == applySkin && argument.vt == VT_I4) {
+      Note(L"ApplySkin " + std::to_wstring(argument.lVal));
+      return IsTo(failsInApplySkin) ? DISP_E_EXCEPTION : S_OK;
+    }
+    return DISP_E_TYPEMISMATCH;
+  }
+
+ private:
+  ULONG references_ = 1;
+};
+
+class Factory final : public IClassFactory {
+ public:
+  virtual ~Factory() = default;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+    const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IClassFactory);
+    *object = known ? this : nullptr;
+    return known ? S_OK : E_NOINTERFACE;
+  }
+  // The one factory lives as long as the DLL.
+  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
+  ULONG STDMETHODCALLTYPE Release() override { return 1; }
+  HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID id, void** object) override {
+    if (outer != nullptr) return CLASS_E_NOAGGREGATION;
+    auto* control = new SkinControl;
+    const HRESULT result = control->QueryInterface(id, object);
+    control->Release();
+    return result;
+  }
+  HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
+};
+
+}  // namespace
+}  // namespace tarvik::testing
+
+extern "C" __declspec(dllexport) HRESULT STDMETHODCALLTYPE
+    DllGetClassObject(REFCLSID classId, REFIID id, void** object) {
+  static tarvik::testing::Factory factory;
+  CLSID own;
+  CLSIDFromString(tarvik::testing::skinClassId, &own);
+  return IsEqualCLSID(classId, own) ? factory.QueryInterface(id, object) : CLASS_E_CLASSNOTAVAILABLE;
+}
+
+extern "C" __declspec(dllexport) HRESULT STDMETHODCALLTYPE DllCanUnloadNow() {
+  return S_FALSE;
+}
