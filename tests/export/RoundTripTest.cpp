@@ -13,6 +13,7 @@
 #include "export/ImageFileReader.h"
 #include "export/MemorySink.h"
 #include "export/ModMicroArtFileIO.h"
+#include "export/SeenPixels.h"
 #include "export/TestRaster.h"
 
 namespace tarvik::ModMicroArtFileIO {
@@ -76,39 +77,6 @@ class RandomPictures {
  private:
   std::mt19937 random_;
 };
-
-std::vector<bool> WhitePixels(const TestRaster& raster) {
-  std::vector<bool> isWhite;
-  for (const Color color : raster.Pixels()) isWhite.push_back(color == white);
-  return isWhite;
-}
-
-// Bits of 64-pixel rows of ten bytes, bottom row first, as the writers store them one picture after another.
-std::vector<bool> TenByteRows(const std::vector<const TestRaster*>& pictures) {
-  std::vector<bool> bits;
-  for (const TestRaster* picture : pictures) {
-    for (int y = 63; y >= 0; --y) {
-      for (int x = 0; x < 80; ++x) bits.push_back(x < 64 && picture->Pixel(x, y) == white);
-    }
-  }
-  return bits;
-}
-
-// What a reader of eight-byte rows sees in them from that byte on: 64 rows of 64 pixels, from the top.
-std::vector<bool> SeenInEightByteRows(const std::vector<bool>& bits, std::size_t firstByte) {
-  std::vector<bool> seen;
-  for (std::size_t y = 0; y < 64; ++y) {
-    for (std::size_t x = 0; x < 64; ++x) seen.push_back(bits[firstByte * 8 + (63 - y) * 64 + x]);
-  }
-  return seen;
-}
-
-std::vector<Color> BlackAndWhitePixels(const std::vector<bool>& isWhite) {
-  std::vector<Color> colors;
-  colors.reserve(isWhite.size());
-  for (const bool pixel : isWhite) colors.push_back(pixel ? white : black);
-  return colors;
-}
 
 ReadImage WrittenIcon(const TestRaster& mask, const TestRaster& image, ColorClass colors) {
   MemorySink sink;
@@ -227,37 +195,6 @@ TEST(RoundTrip, BlackAndWhiteBitmapsOf64PixelsAreReadFromTenByteRows) {
     EXPECT_EQ(WrittenBitmap(composed, ColorClass::Two).colors,
               BlackAndWhitePixels(SeenInEightByteRows(TenByteRows({&composed}), 0)));
   }
-}
-
-// The pixels of a 256-colour bitmap as they are meant to show: its colours in the order met fill the palette, black
-// shows as entry 0, white as entry 255, and a colour that is not among the entries 1 to 254 as the pixel before it in
-// the file.
-std::vector<Color> ShownBy256ColorBitmap(const TestRaster& composed) {
-  std::vector<Color> entries;
-  for (const Color color : composed.Pixels()) {
-    if (entries.size() < 256 && std::find(entries.begin(), entries.end(), color) == entries.end()) {
-      entries.push_back(color);
-    }
-  }
-  entries.resize(256, 0);
-
-  const int size = composed.Width();
-  TestRaster shown(size, size);
-  Color previous = entries[0];
-  for (int y = size - 1; y >= 0; --y) {
-    for (int x = 0; x < size; ++x) {
-      const Color color = composed.Pixel(x, y);
-      if (color == black) {
-        previous = entries[0];
-      } else if (color == white) {
-        previous = entries[255];
-      } else if (std::find(entries.begin() + 1, entries.begin() + 255, color) != entries.begin() + 255) {
-        previous = color;
-      }
-      shown.Set(x, y, previous);
-    }
-  }
-  return shown.Pixels();
 }
 
 TEST(RoundTrip, BitmapsOf256ColoursShowBlackWhiteAndTheFirstColourAsMeant) {

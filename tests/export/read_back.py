@@ -12,7 +12,8 @@ import sys
 
 SIZES = (16, 32, 48, 64)
 BITS = {"2": 1, "16": 4, "256": 8, "true": 24}  # by the name of the colour class
-PALETTE_ENTRIES = {"2": 2, "16": 16, "256": 256, "true": 0}
+PALETTE_ENTRIES = {1: 2, 4: 16, 8: 256, 24: 0}
+BLACK, WHITE = (0, 0, 0), (255, 255, 255)
 LONG_ROW_SIZE = 64  # the size whose 1-bit rows are too long
 SIZE_REMARK = "length and filesize do not match"  # ImageMagick on a bitmap whose size field is wrong
 
@@ -56,31 +57,58 @@ def seen_in_rows_of_eight(bits, first_byte):
 
 
 def as_colors(flags):
-    return [(255, 255, 255) if flag else (0, 0, 0) for flag in flags]
+    return [WHITE if flag else BLACK for flag in flags]
+
+
+def shown_by_palette(colors, size):
+    """What an 8-bit bitmap shows: black as its first entry, white as its last, the rest where entries 1 to 254 have it.
+
+    The entries are the colours in the order met; one that is not among those 254 shows as the pixel before it in the
+    file, which starts at the bottom.
+    """
+    entries = list(dict.fromkeys(colors))[:256]
+    entries += [BLACK] * (256 - len(entries))
+    usable = set(entries[1:255])
+    shown = [BLACK] * len(colors)
+    previous = entries[0]
+    for y in reversed(range(size)):
+        for place in range(y * size, (y + 1) * size):
+            if colors[place] == BLACK:
+                previous = entries[0]
+            elif colors[place] == WHITE:
+                previous = entries[255]
+            elif colors[place] in usable:
+                previous = colors[place]
+            shown[place] = previous
+    return shown
 
 
 class Sample:
-    """One size and colour class: its files, and what a reader should see in them."""
+    """One icon at one size: its files, and what a reader should see in them."""
 
-    def __init__(self, folder, size, name):
-        self.size = size
-        self.name = name
-        self.stem = folder / f"{size}-{name}"
-        self.image = read_pnm(self.stem.with_suffix(".ppm"), 3)
-        self.transparent = [value == 255 for (value,) in read_pnm(self.stem.with_suffix(".pgm"), 1)]
-        self.seen_image, self.seen_bitmap, self.seen_transparent = self.image, self.image, self.transparent
+    def __init__(self, stem, size, bits, bitmap_bits, hot_spot):
+        """`stem` is the path of its files without an ending; the depths are those of icon and bitmap."""
+        self.stem, self.size, self.bits, self.bitmap_bits, self.hot_spot = stem, size, bits, bitmap_bits, hot_spot
+        self.image = read_pnm(self.path(".ppm"), 3)
+        self.transparent = [value == 255 for (value,) in read_pnm(self.path(".pgm"), 1)]
+        composed = self.path("-composed.ppm")
+        self.composed = read_pnm(composed, 3) if composed.exists() else self.image
+        self.seen_image, self.seen_transparent = self.image, self.transparent
+        self.seen_bitmap = shown_by_palette(self.composed, size) if bitmap_bits == 8 else self.composed
         if size == LONG_ROW_SIZE:
             self.see_long_rows()
 
     def see_long_rows(self):
         mask = rows_of_ten_bytes(self.transparent)
         self.seen_transparent = seen_in_rows_of_eight(mask, 0)
-        if self.name != "2":
-            return
-        image = rows_of_ten_bytes([color == (255, 255, 255) for color in self.image])
-        self.seen_image = as_colors(seen_in_rows_of_eight(image + mask, 0))
-        self.seen_bitmap = self.seen_image
-        self.seen_transparent = seen_in_rows_of_eight(image + mask, self.size * 8)  # the mask follows 512 bytes of image
+        if self.bits == 1:
+            image = rows_of_ten_bytes([color == WHITE for color in self.image])
+            self.seen_image = as_colors(seen_in_rows_of_eight(image + mask, 0))
+            # The mask is looked for after 512 bytes of image.
+            self.seen_transparent = seen_in_rows_of_eight(image + mask, self.size * 8)
+        if self.bitmap_bits == 1:
+            rows = rows_of_ten_bytes([color == WHITE for color in self.composed])
+            self.seen_bitmap = as_colors(seen_in_rows_of_eight(rows, 0))
 
     def path(self, extension):
         return self.stem.with_name(self.stem.name + extension)
@@ -103,10 +131,10 @@ def check_icon_or_cursor(sample, extension, tools):
     listed, remark = run(tools.icotool, "-l", path)
     line = (
         f"--{'icon' if extension == '.ico' else 'cursor'} --index=1 --width={sample.size} --height={sample.size} "
-        f"--bit-depth={BITS[sample.name]} --palette-size={PALETTE_ENTRIES[sample.name]}"
+        f"--bit-depth={sample.bits} --palette-size={PALETTE_ENTRIES[sample.bits]}"
     )
     if extension == ".cur":
-        line += f" --hotspot-x={sample.size // 2 - 1} --hotspot-y={sample.size // 4}"
+        line += f" --hotspot-x={sample.hot_spot[0]} --hotspot-y={sample.hot_spot[1]}"
     check(f"icotool -l {path.name}", (line, ""), (listed.decode().strip(), remark))
 
     taken_out = path.with_name(path.name + ".png")
@@ -115,16 +143,25 @@ def check_icon_or_cursor(sample, extension, tools):
     rgba, _ = run(tools.convert, taken_out, "-depth", "8", "rgba:-")
     check_pixels(f"icotool -x {path.name}", rgba, sample)
 
-    check_identified(path, extension[1:].upper(), sample, tools)
+    check_identified(path, extension[1:].upper(), sample.size, sample.bits, tools)
     rgba, remark = run(tools.convert, path, "-depth", "8", "rgba:-")
     check(f"convert {path.name}: remark", "", remark)
     check_pixels(f"convert {path.name}", rgba, sample)
 
 
-def check_identified(path, kind, sample, tools):
+def check_identified(path, kind, size, bits, tools):
     described, _ = run(tools.identify, "-format", "%m %w %h %z", path)
-    depth = min(BITS[sample.name], 8)  # of one channel
-    check(f"identify {path.name}", f"{kind} {sample.size} {sample.size} {depth}", described.decode())
+    depth = min(bits, 8)  # of one channel
+    check(f"identify {path.name}", f"{kind} {size} {size} {depth}", described.decode())
+
+
+def check_sample(sample, tools):
+    """All three files of an icon; how many they are."""
+    for extension in (".ico", ".cur"):
+        check_icon_or_cursor(sample, extension, tools)
+    check_identified(sample.path(".bmp"), "BMP3", sample.size, sample.bitmap_bits, tools)
+    check_bitmap(sample.path(".bmp"), sample.seen_bitmap, sample.size != LONG_ROW_SIZE, tools)
+    return 3
 
 
 def check_bitmap(path, expected, size_field_right, tools):
@@ -140,34 +177,37 @@ def check_bitmap(path, expected, size_field_right, tools):
             return
 
 
-def parse_arguments():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--write-samples", required=True, help="the program that writes the samples")
-    parser.add_argument("--folder", required=True, type=pathlib.Path, help="where they go; emptied first")
+def argument_parser(description, folder_help):
+    parser = argparse.ArgumentParser(description=description)
+    parser.add_argument("--folder", required=True, type=pathlib.Path, help=folder_help)
     for tool in ("icotool", "convert", "identify"):
         parser.add_argument(f"--{tool}", default=tool)
-    return parser.parse_args()
+    return parser
+
+
+def report(files):
+    """Prints what was found; the exit code."""
+    for problem in problems:
+        print(problem)
+    print(f"{files} files read back, {len(problems)} problems")
+    return 1 if problems else 0
 
 
 def main():
-    tools = parse_arguments()
+    parser = argument_parser(__doc__, "where the samples go; emptied first")
+    parser.add_argument("--write-samples", required=True, help="the program that writes the samples")
+    tools = parser.parse_args()
     shutil.rmtree(tools.folder, ignore_errors=True)
     tools.folder.mkdir(parents=True)
     subprocess.run([tools.write_samples, tools.folder], check=True)
     files = 0
     for size in SIZES:
-        for name in BITS:
-            sample = Sample(tools.folder, size, name)
-            for extension in (".ico", ".cur"):
-                check_icon_or_cursor(sample, extension, tools)
-            check_identified(sample.path(".bmp"), "BMP3", sample, tools)
-            check_bitmap(sample.path(".bmp"), sample.seen_bitmap, size != LONG_ROW_SIZE, tools)
+        for name, bits in BITS.items():
+            sample = Sample(tools.folder / f"{size}-{name}", size, bits, bits, (size // 2 - 1, size // 4))
+            files += check_sample(sample, tools)
             check_bitmap(sample.path("-encoder.bmp"), sample.image, True, tools)
-            files += 4
-    for problem in problems:
-        print(problem)
-    print(f"{files} files read back, {len(problems)} problems")
-    return 1 if problems else 0
+            files += 1
+    return report(files)
 
 
 if __name__ == "__main__":

@@ -1,0 +1,111 @@
+#include "export/CapturedFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "export/SeenPixels.h"
+#include "platform/DiskFile.h"
+#include "platform/FolderPath.h"
+#include "platform/IconFiles.h"
+#include "platform/Paths.h"
+#include "platform/ShellIcons.h"
+
+namespace tarvik::testing {
+namespace {
+
+using ModMicroArt::BlackAndWhite;
+using ModMicroArt::ColorClass;
+
+constexpr int longRowSize = 64;             // the size whose 1-bit rows are two bytes too long
+constexpr std::size_t declaredPlane = 512;  // the bytes that readers take for one 1-bit picture of that size
+
+Bytes OneIcon(const IconPicture& picture) {
+  return IconFile({&picture, 1});
+}
+
+// A 24-bit picture with a colour of its own for each of the 512 pixels that are not transparent.
+IconPicture ManyColors() {
+  constexpr std::size_t headerBytes = 40;
+  constexpr std::size_t rowBytes = 96;
+  IconPicture picture = BitmapPicture(32, 24, black, black);
+  for (std::size_t row = 16; row < 32; ++row) {  // rows go upwards: these are the upper half
+    for (std::size_t x = 0; x < 32; ++x) {
+      const std::size_t place = headerBytes + row * rowBytes + x * 3;
+      picture.data[place] = static_cast<std::byte>(x * 8);
+      picture.data[place + 1] = static_cast<std::byte>(row * 7);
+      picture.data[place + 2] = static_cast<std::byte>((x + row) * 3);
+    }
+  }
+  return picture;
+}
+
+TestRaster CopyOf(const PixelView& view) {
+  return {view.Width(), [&](int x, int y) { return Color{view.Pixel(x, y)}; }};
+}
+
+}  // namespace
+
+std::vector<CapturedSource> MakeSources(const TemporaryFolder& folder) {
+  std::vector<CapturedSource> sources;
+  const auto add = [&](const std::string& name, const Bytes& file) {
+    sources.push_back({.name = name, .entry = {.path = folder.MakeFile(name + ".ico", file), .index = 0}});
+  };
+  add("1-bit", OneIcon(BitmapPicture(32, 1, black, white)));
+  add("4-bit", OneIcon(BitmapPicture(32, 4, 0x0000FF, 0xC0C0C0)));
+  add("8-bit", OneIcon(BitmapPicture(32, 8, 0x2040C0, 0x30B010)));
+  add("24-bit", OneIcon(ManyColors()));
+  add("32-bit", OneIcon(BitmapPicture(32, 32, 0x4020C0, 0x10B030)));
+  add("png", OneIcon(PngPicture(32, 0x8000FF, 0xFF8000)));
+  constexpr std::array<Color, 6> steps{0x0000FF, 0x00FF00, 0xFF0000, 0x123456, 0xFF00FF, 0xFFFF00};
+  const std::string animation = folder.MakeFile("steps.ani", AnimationFile(steps));
+  sources.push_back({.name = "step-3", .entry = {.path = animation, .index = 3}});
+  const std::string system = JoinPath(SystemFolder(), "shell32.dll");
+  for (const int index : {0, 3, 12})
+    sources.push_back({.name = "system-" + std::to_string(index), .entry = {.path = system, .index = index}});
+  return sources;
+}
+
+Capture::Capture(const CapturedSource& source, int size) : surfaces_(size) {
+  ShellIcons icons;
+  EXPECT_TRUE(ModMicroArt::CaptureEntry(icons, source.entry, size, surfaces_)) << source.name;
+  mask_ = CopyOf(surfaces_.Mask());
+  image_ = CopyOf(surfaces_.Image());
+  composed_ = CopyOf(surfaces_.Composed());
+  iconClass_ = ModMicroArt::Classify(surfaces_.Image(), BlackAndWhite::InFixedSlots);
+  bitmapClass_ = ModMicroArt::Classify(surfaces_.Composed(), BlackAndWhite::InOrder);
+}
+
+bool Capture::WriteIcon(const std::string& path) const {
+  DiskFile file;
+  return ModMicroArtFileIO::WriteIcon(surfaces_.Mask(), surfaces_.Image(), iconClass_, path, file);
+}
+
+bool Capture::WriteCursor(const std::string& path) const {
+  DiskFile file;
+  return ModMicroArtFileIO::WriteCursor(surfaces_.Mask(), surfaces_.Image(), iconClass_, HotSpot(), path, file);
+}
+
+bool Capture::WriteBitmap(const std::string& path) const {
+  DiskFile file;
+  return ModMicroArtFileIO::WriteBitmap(surfaces_.Composed(), bitmapClass_, path, file);
+}
+
+std::vector<Color> Capture::SeenImage() const {
+  if (Size() != longRowSize || iconClass_ != ColorClass::Two) return image_.Pixels();
+  return BlackAndWhitePixels(SeenInEightByteRows(TenByteRows({&image_, &mask_}), 0));
+}
+
+std::vector<bool> Capture::SeenTransparent() const {
+  if (Size() != longRowSize) return WhitePixels(mask_);
+  if (iconClass_ != ColorClass::Two) return SeenInEightByteRows(TenByteRows({&mask_}), 0);
+  return SeenInEightByteRows(TenByteRows({&image_, &mask_}), declaredPlane);
+}
+
+std::vector<Color> Capture::SeenBitmap() const {
+  if (bitmapClass_ == ColorClass::TwoHundredFiftySix) return ShownBy256ColorBitmap(composed_);
+  if (Size() != longRowSize || bitmapClass_ != ColorClass::Two) return composed_.Pixels();
+  return BlackAndWhitePixels(SeenInEightByteRows(TenByteRows({&composed_}), 0));
+}
+
+}  // namespace tarvik::testing

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "export/IconSurfaces.h"
+#include "export/ModMicroArtFileIO.h"
+#include "export/TestRaster.h"
+#include "platform/TemporaryFolder.h"
+#include "search/IconList.h"
+
+namespace tarvik::testing {
+
+// An icon to capture, and a name for the files made of it.
+struct CapturedSource {
+  std::string name;
+  IconListEntry entry;
+};
+
+// Icons of every kind, made in the folder: of each depth, as PNG, a step of an animation, of so many colours that only
+// true colour holds them, and some of the system's own.
+std::vector<CapturedSource> MakeSources(const TemporaryFolder& folder);
+
+// One icon as the program captures, classifies and writes it.
+class Capture {
+ public:
+  // `size` in pixels. Fails the test where the icon cannot be captured.
+  Capture(const CapturedSource& source, int size);
+
+  int Size() const { return image_.Width(); }
+  const TestRaster& Mask() const { return mask_; }
+  const TestRaster& Image() const { return image_; }
+  const TestRaster& Composed() const { return composed_; }
+  ModMicroArt::ColorClass IconClass() const { return iconClass_; }
+  ModMicroArt::ColorClass BitmapClass() const { return bitmapClass_; }
+  // Another one for each size, not in the middle.
+  ModMicroArtFileIO::HotSpot HotSpot() const { return {Size() / 2 - 1, Size() / 4}; }
+
+  // Each writes a file on disk and tells what the writer told.
+  bool WriteIcon(const std::string& path) const;
+  bool WriteCursor(const std::string& path) const;
+  bool WriteBitmap(const std::string& path) const;
+
+  // What a reader sees in them: the very surfaces, but for the files that are meant to be read otherwise.
+  std::vector<Color> SeenImage() const;
+  std::vector<bool> SeenTransparent() const;
+  std::vector<Color> SeenBitmap() const;
+
+ private:
+  IconSurfaces surfaces_;
+  TestRaster mask_{1, 1};
+  TestRaster image_{1, 1};
+  TestRaster composed_{1, 1};
+  ModMicroArt::ColorClass iconClass_{};
+  ModMicroArt::ColorClass bitmapClass_{};
+};
+
+}  // namespace tarvik::testing
