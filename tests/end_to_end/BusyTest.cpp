@@ -29,7 +29,8 @@ class Busy : public EndToEnd {
   void During(const std::function<void()>& something) {
     const Control find = program_.Item(FrmFindIcon_CmdFind);
     find.Press();
-    ASSERT_TRUE(Eventually([&] { return !find.IsEnabled(); }));
+    // The last button that a search disables.
+    ASSERT_TRUE(Eventually([&] { return !IsEnabled(FrmFindIcon_CmdClose); }));
     program_.Suspend();
     const bool running = !find.IsEnabled();
     something();

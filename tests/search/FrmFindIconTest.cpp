@@ -246,6 +246,14 @@ TEST_F(FrmFindIconTest, ReadsTheSubFolderChoiceInAnyCaseButOnlyTrue) {
   }
 }
 
+// It ended the program.
+TEST_F(FrmFindIconTest, HandsNothingOverWithoutAnEntry) {
+  Open();
+  Click(FrmFindIcon_CmdOk);
+  EXPECT_TRUE(window->IsLoaded());
+  EXPECT_TRUE(state.ChoiceCancelled);
+}
+
 TEST_F(FrmFindIconTest, HandsTheCurrentEntryOver) {
   Open();
   Find(5);
