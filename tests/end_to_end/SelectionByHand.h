@@ -1,0 +1,125 @@
+#pragma once
+
+#include <windows.h>
+
+#include <set>
+#include <string>
+
+#include "end_to_end/EndToEndTest.h"
+#include "end_to_end/Input.h"
+#include "end_to_end/Screen.h"
+#include "grid/GridGeometry.h"
+#include "platform/IconFiles.h"
+
+namespace tarvik::end_to_end {
+
+using Places = std::set<int>;  // of entries, counted from 0
+
+// Icons found and chosen by hand, and what the program then shows of the choice.
+class SelectionByHand : public EndToEnd {
+ protected:
+  static constexpr int fewIcons = 20;  // a row and a third of 32-pixel icons
+
+  // Icon files, each found as one entry, in the order of their numbers.
+  void FindIconFiles(int count) {
+    for (int i = 0; i < count; ++i) tree_.MakeFile(std::to_string(100 + i) + ".ico", testing::IconFileOf(0x20C040));
+    Start();
+    Find();
+    ASSERT_EQ(List().RowCount(), count);
+    BringPointerIn();
+  }
+  void FindHundred(IconSizeChoice size) {
+    CopyHundredIcons(In("hundred.dll"));
+    Start();
+    Tick({Dll});
+    ChooseSize(size);
+    geometry_ = &gridGeometries[static_cast<std::size_t>(size)];
+    Find();
+    ASSERT_EQ(List().RowCount(), 100);
+    BringPointerIn();
+  }
+
+  // Has the pointer enter the window, where it then stays. As it enters, the window takes over what the screen's own
+  // keyboard says, where no key is down, and so would let go of one that is held by then.
+  void BringPointerIn() const {
+    for (int i = 0; i < 2; ++i) WaitForAllInput();  // the second puts the box back
+  }
+
+  // A place on the screen by its place in the grid's picture, or by the entry whose cell's middle it is.
+  POINT GridPlace(int x, int y) const {
+    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
+    return {grid.left + x, grid.top + y};
+  }
+  POINT CellMiddle(int entry) const {
+    const Point corner = IconCorner(*geometry_, entry);
+    return GridPlace(corner.x + geometry_->IconSize / 2, corner.y + geometry_->IconSize / 2);
+  }
+  void ClickCell(int entry, HeldKeys held = {}) const { Click(CellMiddle(entry), held); }
+
+  // Waits until the program has seen all input so far: a click on a box comes after it, and shows.
+  void WaitForAllInput() const {
+    const Control box = program_.Item(FrmFindIcon_chkSubDir);
+    const bool ticked = box.IsChecked();
+    Click(MiddleOf(box.Place()));
+    ASSERT_TRUE(Eventually([&] { return box.IsChecked() != ticked; }));
+  }
+
+  Places SelectedRows() const {
+    Places rows;
+    const ReportView list = List();
+    for (int row = 0; row < list.RowCount(); ++row) {
+      if (list.IsSelected(row)) rows.insert(row);
+    }
+    return rows;
+  }
+
+  // The entries in sight with a whole black frame. One that is neither black nor white stands as -1.
+  Places Frames() const {
+    const Screenshot shown(program_.Item(FrmFindIcon_PicFrame).Inside());
+    const int scrolled = static_cast<int>(program_.Item(FrmFindIcon_PicFrame).Inside().top -
+                                          program_.Item(FrmFindIcon_PicIcons).Place().top);
+    Places frames;
+    for (int entry = 0; entry < List().RowCount(); ++entry) {
+      const Point corner = FrameCorner(*geometry_, entry);
+      const int top = corner.y - scrolled;
+      if (top < 0 || top + geometry_->FrameExtent >= shown.Height()) continue;
+      if (corner.x + geometry_->FrameExtent >= shown.Width()) continue;
+      const int blackPixels = CountBlackInFrame(shown, {corner.x, top});
+      if (blackPixels != 0) frames.insert(blackPixels == 4 * geometry_->FrameExtent ? entry : -1);
+    }
+    return frames;
+  }
+
+  // The current entry, counted from 0, as label and status bar tell it.
+  void ExpectCurrent(int entry) const {
+    const std::string label = "Icon No " + std::to_string(entry + 1) + " Selected.";
+    EXPECT_TRUE(Eventually([&] { return TextOf(FrmFindIcon_lblInfo) == label; })) << TextOf(FrmFindIcon_lblInfo);
+    const std::string path = List().Cell(entry, 1);
+    EXPECT_TRUE(Eventually([&] { return Status() == path; })) << Status();
+  }
+  void ExpectRows(const Places& expected) const {
+    EXPECT_TRUE(Eventually([&] { return SelectedRows() == expected; }, shortly))
+        << ::testing::PrintToString(SelectedRows());
+  }
+  void ExpectFrames(const Places& expected) const {
+    EXPECT_TRUE(Eventually([&] { return Frames() == expected; }, shortly)) << ::testing::PrintToString(Frames());
+  }
+
+  // How long a wrong picture may still become the right one.
+  static constexpr std::chrono::seconds shortly{10};
+
+  const GridGeometry* geometry_ = &gridGeometries[Size32];
+
+ private:
+  int CountBlackInFrame(const Screenshot& shown, Point corner) const {
+    int count = 0;
+    const int extent = geometry_->FrameExtent;
+    for (int at = 0; at < extent; ++at) {
+      for (const Point pixel : {Point{at, 0}, Point{extent, at}, Point{extent - at, extent}, Point{0, extent - at}})
+        count += shown.Pixel(corner.x + pixel.x, corner.y + pixel.y) == black ? 1 : 0;
+    }
+    return count;
+  }
+};
+
+}  // namespace tarvik::end_to_end
