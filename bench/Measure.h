@@ -13,11 +13,13 @@ namespace tarvik::bench {
 struct Way {
   std::string name;
   std::function<void()> run;
+  std::function<void()> prepare = {};  // before each run, and not counted
 };
 
-inline double Milliseconds(const std::function<void()>& run) {
+inline double Milliseconds(const Way& way) {
+  if (way.prepare) way.prepare();
   const auto start = std::chrono::steady_clock::now();
-  run();
+  way.run();
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
@@ -31,10 +33,10 @@ inline double Median(std::vector<double> values) {
 inline void Compare(const std::string& title, const std::vector<Way>& ways, int rounds) {
   std::vector<std::vector<double>> times(ways.size());
   std::vector<std::vector<double>> ratios(ways.size());
-  for (const Way& way : ways) way.run();  // a warm-up that is not counted
+  for (const Way& way : ways) Milliseconds(way);  // a warm-up that is not counted
   for (int round = 0; round < rounds; ++round) {
     for (std::size_t i = 0; i < ways.size(); ++i) {
-      times[i].push_back(Milliseconds(ways[i].run));
+      times[i].push_back(Milliseconds(ways[i]));
       ratios[i].push_back(times[i].back() / times[0].back());
     }
   }

@@ -4,11 +4,11 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "FuzzInput.h"
 #include "export/FileSink.h"
 #include "export/ModMicroArt.h"
 #include "export/ModMicroArtFileIO.h"
@@ -74,10 +74,6 @@ class CountingSink final : public FileSink {
   int failingStep_;
 };
 
-void Require(bool condition) {
-  if (!condition) std::abort();
-}
-
 std::size_t Rows1Bit(std::size_t size) {
   return ((size + 7) / 8 + (size == 32 ? 0U : 2U)) * size;
 }
@@ -98,8 +94,8 @@ std::size_t PaletteAndPixels(ColorClass colors, std::size_t size) {
 // A writer said yes exactly where no step failed, and then wrote that many bytes.
 void RequireWritten(bool written, const CountingSink& sink, int failingStep, std::size_t length) {
   const bool failed = failingStep >= 0 && failingStep < sink.steps;
-  Require(written != failed);
-  if (written) Require(sink.length == length);
+  Require(written != failed, "a writer says no where a step failed, and nowhere else");
+  if (written) Require(sink.length == length, "a file has the length of its format");
 }
 
 void WriteAll(Input& input) {
@@ -137,7 +133,6 @@ void WriteAll(Input& input) {
 }  // namespace
 }  // namespace tarvik
 
-// The entry point has the name and the shape that libFuzzer looks for.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   tarvik::Input input(std::span(data, size));
   tarvik::WriteAll(input);

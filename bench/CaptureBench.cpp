@@ -1,0 +1,177 @@
+// What it costs to save many icons, held against the bare platform calls that cannot be spared: taking each icon out of
+// its file, drawing its three pictures, and writing as many bytes to as many files.
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <array>
+#include <cstdio>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "BenchData.h"
+#include "Measure.h"
+#include "export/IconSurfaces.h"
+#include "export/ModMicroArt.h"
+#include "export/ModMicroArtFileIO.h"
+#include "platform/DiskFile.h"
+#include "platform/FolderPath.h"
+#include "platform/Handles.h"
+#include "platform/ShellIcons.h"
+#include "platform/Text.h"
+
+namespace tarvik::bench {
+namespace {
+
+using ModMicroArt::BlackAndWhite;
+using ModMicroArt::Classify;
+
+constexpr int icons = 4000;
+constexpr int libraryIcons = 500;  // taken over and over: in a larger library the platform takes longer to find one
+constexpr int iconSize = 32;
+constexpr int rounds = 7;
+
+// One of the three formats: classifies the surfaces and writes them.
+using WriteFunction = bool (*)(const IconSurfaces& surfaces, const std::string& path, FileSink& file);
+
+bool WriteIcon(const IconSurfaces& surfaces, const std::string& path, FileSink& file) {
+  const auto colors = Classify(surfaces.Image(), BlackAndWhite::InFixedSlots);
+  return ModMicroArtFileIO::WriteIcon(surfaces.Mask(), surfaces.Image(), colors, path, file);
+}
+
+bool WriteCursor(const IconSurfaces& surfaces, const std::string& path, FileSink& file) {
+  const auto colors = Classify(surfaces.Image(), BlackAndWhite::InFixedSlots);
+  return ModMicroArtFileIO::WriteCursor(surfaces.Mask(), surfaces.Image(), colors, {3, 5}, path, file);
+}
+
+bool WriteBitmap(const IconSurfaces& surfaces, const std::string& path, FileSink& file) {
+  const auto colors = Classify(surfaces.Composed(), BlackAndWhite::InOrder);
+  return ModMicroArtFileIO::WriteBitmap(surfaces.Composed(), colors, path, file);
+}
+
+// Counts the bytes and keeps none.
+class LengthSink final : public FileSink {
+ public:
+  bool Open(const std::string&) override { return true; }
+  bool Write(std::span<const std::byte> bytes) override {
+    length += bytes.size();
+    return true;
+  }
+  bool Close() override { return true; }
+
+  std::size_t length = 0;
+};
+
+// The files of one run, emptied before it.
+class Output {
+ public:
+  explicit Output(const testing::TemporaryFolder& folder, const std::string& name) : path_(folder.MakeFolder(name)) {}
+
+  std::string File(int number) const { return JoinPath(path_, std::to_string(number)); }
+  void Empty() const {
+    for (int number = 0; number < icons; ++number) DeleteFileW(ToWide(File(number)).c_str());
+  }
+
+ private:
+  std::string path_;
+};
+
+class Saving {
+ public:
+  Saving(std::string library, WriteFunction write) : library_(std::move(library)), write_(write) {}
+
+  void Run(const Output& output) {
+    for (int number = 0; number < icons; ++number) {
+      DiskFile file;
+      if (!Save(number, output.File(number), file)) std::printf("icon %d is not saved\n", number);
+    }
+  }
+
+  // The length of each file.
+  std::vector<std::size_t> Lengths() {
+    std::vector<std::size_t> lengths;
+    for (int number = 0; number < icons; ++number) {
+      LengthSink sink;
+      Save(number, {}, sink);
+      lengths.push_back(sink.length);
+    }
+    return lengths;
+  }
+
+ private:
+  bool Save(int number, const std::string& path, FileSink& file) {
+    return ModMicroArt::CaptureEntry(source_, {.path = library_, .index = number % libraryIcons}, iconSize,
+                                     surfaces_) &&
+           write_(surfaces_, path, file);
+  }
+
+  std::string library_;
+  WriteFunction write_;
+  ShellIcons source_;
+  IconSurfaces surfaces_{iconSize};
+};
+
+class BareCalls {
+ public:
+  BareCalls(std::string library, std::vector<std::size_t> lengths)
+      : library_(std::move(library)), lengths_(std::move(lengths)), bytes_(65536) {}
+
+  void Run(const Output& output) {
+    for (int number = 0; number < icons; ++number) {
+      Draw(number);
+      const FileHandle file(CreateFileW(ToWide(output.File(number)).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr));
+      DWORD written = 0;
+      WriteFile(file.get(), bytes_.data(), static_cast<DWORD>(lengths_[static_cast<std::size_t>(number)]), &written,
+                nullptr);
+    }
+  }
+
+ private:
+  void Draw(int number) {
+    HICON large = nullptr;
+    ExtractIconExA(library_.c_str(), number % libraryIcons, &large, nullptr, 1);
+    const IconHandle icon(large);
+    const auto draw = [&](const Surface& surface, UINT part) {
+      DrawIconEx(surface.Dc(), 0, 0, icon.get(), iconSize, iconSize, 0, nullptr, part);
+    };
+    draw(surfaces_.Mask(), DI_MASK);
+    draw(surfaces_.Image(), DI_IMAGE);
+    draw(surfaces_.Composed(), DI_NORMAL);
+    GdiFlush();
+  }
+
+  std::string library_;
+  std::vector<std::size_t> lengths_;
+  std::vector<std::byte> bytes_;
+  IconSurfaces surfaces_{iconSize};
+};
+
+void CompareFormat(const testing::TemporaryFolder& folder, const std::string& library, const std::string& format,
+                   WriteFunction write) {
+  Saving saving(library, write);
+  BareCalls bare(library, saving.Lengths());
+  const Output bareOutput(folder, "bare " + format);
+  const Output output(folder, "saved " + format);
+  Compare(
+      "4,000 icons saved as " + format,
+      {{.name = "bare calls", .run = [&] { bare.Run(bareOutput); }, .prepare = [&] { bareOutput.Empty(); }},
+       {.name = "capture, classify, write", .run = [&] { saving.Run(output); }, .prepare = [&] { output.Empty(); }}},
+      rounds);
+}
+
+}  // namespace
+}  // namespace tarvik::bench
+
+int main() {
+  using namespace tarvik;
+  using namespace tarvik::bench;
+  const testing::TemporaryFolder folder;
+  const std::string library = JoinPath(MakeIconLibrary(folder, libraryIcons), "icons.dll");
+  CompareFormat(folder, library, "icon", WriteIcon);
+  CompareFormat(folder, library, "cursor", WriteCursor);
+  CompareFormat(folder, library, "bitmap", WriteBitmap);
+  return 0;
+}
