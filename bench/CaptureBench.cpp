@@ -121,7 +121,7 @@ class BareCalls {
   void Run(const Output& output) {
     for (int number = 0; number < icons; ++number) {
       Draw(number);
-      const FileHandle file(CreateFileW(ToWide(output.File(number)).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+      const FileHandle file(CreateFileW(ToWide(output.File(number)).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                         FILE_ATTRIBUTE_NORMAL, nullptr));
       DWORD written = 0;
       WriteFile(file.get(), bytes_.data(), static_cast<DWORD>(lengths_[static_cast<std::size_t>(number)]), &written,
