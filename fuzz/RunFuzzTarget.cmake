@@ -3,7 +3,7 @@
 file(REMOVE_RECURSE ${finds})
 file(MAKE_DIRECTORY ${finds})
 execute_process(
-  COMMAND ${program} -runs=20000 -seed=1 -max_len=4096 -timeout=60 -print_final_stats=0 -verbosity=0
+  COMMAND ${program} -runs=${runs} -seed=1 -max_len=4096 -timeout=60 -print_final_stats=0 -verbosity=0
           -artifact_prefix=${finds}/failed- ${finds} ${corpus}
   RESULT_VARIABLE result)
 if(NOT result EQUAL 0)

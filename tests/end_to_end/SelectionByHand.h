@@ -56,12 +56,16 @@ class SelectionByHand : public EndToEnd {
   }
   void ClickCell(int entry, HeldKeys held = {}) const { Click(CellMiddle(entry), held); }
 
-  // Waits until the program has seen all input so far: a click on a box comes after it, and shows.
+  // Waits until the program has seen all input so far: a click on a box comes after it, and shows. A late report of the
+  // pointer's own can spoil a box's click, which is then made again.
   void WaitForAllInput() const {
     const Control box = program_.Item(FrmFindIcon_chkSubDir);
     const bool ticked = box.IsChecked();
-    Click(MiddleOf(box.Place()));
-    ASSERT_TRUE(Eventually([&] { return box.IsChecked() != ticked; }));
+    const auto hasChanged = [&] { return box.IsChecked() != ticked; };
+    ASSERT_TRUE(Eventually([&] {
+      Click(MiddleOf(box.Place()));
+      return Eventually(hasChanged, std::chrono::seconds(5));
+    }));
   }
 
   Places SelectedRows() const {
