@@ -91,6 +91,7 @@ void Surface::Clear(Color color) {
   for (int y = 1; y < height_; ++y) std::copy_n(first, rowBytes, first + rowBytes * static_cast<std::size_t>(y));
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the picture
 void Surface::Combine(const Surface& source, DWORD operation) {
   BitBlt(Dc(), 0, 0, std::min(width_, source.width_), std::min(height_, source.height_), source.Dc(), 0, 0, operation);
 }

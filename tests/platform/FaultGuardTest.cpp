@@ -9,16 +9,15 @@ namespace {
 // A page that nobody may read.
 class ForbiddenPage {
  public:
-  ForbiddenPage()
-      : page_(static_cast<const char*>(VirtualAlloc(nullptr, 4096, MEM_RESERVE | MEM_COMMIT, PAGE_NOACCESS))) {}
-  ~ForbiddenPage() { VirtualFree(const_cast<char*>(page_), 0, MEM_RELEASE); }
+  ForbiddenPage() : page_(VirtualAlloc(nullptr, 4096, MEM_RESERVE | MEM_COMMIT, PAGE_NOACCESS)) {}
+  ~ForbiddenPage() { VirtualFree(page_, 0, MEM_RELEASE); }
   ForbiddenPage(const ForbiddenPage&) = delete;
   ForbiddenPage& operator=(const ForbiddenPage&) = delete;
 
-  char Read() const { return *static_cast<const volatile char*>(page_); }
+  char Read() const { return *static_cast<volatile char*>(page_); }
 
  private:
-  const char* page_;
+  void* page_;
 };
 
 TEST(FaultGuard, LetsACallThatFaultsNotBeTheEnd) {

@@ -120,11 +120,11 @@ Bytes Stored(const Bytes& content) {
   return stream;
 }
 
-void AppendChunk(Bytes& bytes, std::string_view type, const Bytes& content, std::optional<std::uint32_t> size = {}) {
-  Append(bytes, type);
-  Append32(bytes, size.value_or(static_cast<std::uint32_t>(content.size())));
-  Append(bytes, content);
-  if (content.size() % 2 != 0) bytes.push_back(std::byte{0});
+void AppendChunk(Bytes& file, std::string_view type, const Bytes& data, std::optional<std::uint32_t> size = {}) {
+  Append(file, type);
+  Append32(file, size.value_or(static_cast<std::uint32_t>(data.size())));
+  Append(file, data);
+  if (data.size() % 2 != 0) file.push_back(std::byte{0});
 }
 
 // The directory entry of a picture as a resource has it: with the number of the picture in place of its offset.

@@ -203,7 +203,7 @@ TEST(ShellIcons, YieldsNothingForAnAniThatIsNoPicture) {
   ShellIcons icons;
   for (const std::string& path :
        {folder.MakeFile("empty.ani", ""), folder.MakeFile("text.ani", "no picture"),
-        folder.MakeFile("nonsense.ani", Nonsense()), folder.MakeFile("wave.ani", "RIFF\x24WAVEfmt "),
+        folder.MakeFile("nonsense.ani", Nonsense()), folder.MakeFile("wave.ani", "RIFF$...WAVEfmt "),
         folder.MakeFile("pictureless.ani", AnimationFile({})),
         folder.MakeFile("cut.ani", Truncated(AnimationFile(eightColors), 30)), folder.In("none.ani")}) {
     EXPECT_EQ(icons.Extract(path, 0), nullptr) << path;
