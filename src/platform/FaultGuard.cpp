@@ -16,12 +16,17 @@ thread_local jmp_buf* returnPlace = nullptr;
   std::longjmp(*place, 1);
 }
 
+// What a damaged file can lead to: an offset or a count beyond it, the file gone from under its mapping, a size of 0
+// that something is divided by.
+bool IsFault(DWORD code) {
+  return code == EXCEPTION_ACCESS_VIOLATION || code == EXCEPTION_IN_PAGE_ERROR ||
+         code == EXCEPTION_INT_DIVIDE_BY_ZERO || code == EXCEPTION_INT_OVERFLOW;
+}
+
 // Lets the thread go on in LeaveCall instead of where it faulted. It leaves from there and not from here, so that
 // the system ends its own work on the exception first.
 LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
-  const DWORD code = exception->ExceptionRecord->ExceptionCode;
-  if (returnPlace == nullptr || (code != EXCEPTION_ACCESS_VIOLATION && code != EXCEPTION_IN_PAGE_ERROR))
-    return EXCEPTION_CONTINUE_SEARCH;
+  if (returnPlace == nullptr || !IsFault(exception->ExceptionRecord->ExceptionCode)) return EXCEPTION_CONTINUE_SEARCH;
 
   // A function is entered with its stack 8 bytes off a multiple of 16, above the caller's room for four arguments.
   constexpr DWORD64 argumentRoom = 32;

@@ -88,10 +88,12 @@ struct Findings {
   std::uint64_t headerPictures = 0;
   std::uint64_t headerSteps = 0;
   std::uint64_t sequenceEntries = 0;
+  std::uint64_t highestEntry = 0;  // of the order: the number of a picture, from 0
   std::uint64_t pictures = 0;
-  bool hasSequence = false;
+  int headers = 0;
+  int sequences = 0;
 
-  std::uint64_t HeldSteps() const { return hasSequence ? sequenceEntries : pictures; }
+  std::uint64_t HeldSteps() const { return sequences > 0 ? sequenceEntries : pictures; }
 };
 
 void CountPictures(BlockReader& file, const Chunk& list, Findings& findings) {
@@ -101,14 +103,24 @@ void CountPictures(BlockReader& file, const Chunk& list, Findings& findings) {
   });
 }
 
+void NoteSequence(BlockReader& file, const Chunk& chunk, Findings& findings) {
+  ++findings.sequences;
+  const std::uint64_t entries = chunk.size / sequenceEntrySize;
+  findings.sequenceEntries = std::max(findings.sequenceEntries, entries);
+  for (std::uint64_t entry = 0; entry < entries; ++entry) {
+    const std::uint64_t picture = file.Number(chunk.data + entry * sequenceEntrySize);
+    findings.highestEntry = std::max(findings.highestEntry, picture);
+  }
+}
+
 void Note(BlockReader& file, const Chunk& chunk, Findings& findings) {
   if (chunk.type == headerType && chunk.size >= stepCountOffset + 4) {
+    ++findings.headers;
     findings.headerPictures =
         std::max<std::uint64_t>(findings.headerPictures, file.Number(chunk.data + pictureCountOffset));
     findings.headerSteps = std::max<std::uint64_t>(findings.headerSteps, file.Number(chunk.data + stepCountOffset));
   } else if (chunk.type == sequenceType) {
-    findings.hasSequence = true;
-    findings.sequenceEntries = std::max(findings.sequenceEntries, chunk.size / sequenceEntrySize);
+    NoteSequence(file, chunk, findings);
   } else if (chunk.type == listType) {
     CountPictures(file, chunk, findings);
   }
@@ -135,8 +147,11 @@ int MostAnimationSteps(ByteSource& file) {
 
 bool HoldsWhatItSays(ByteSource& file) {
   const Findings findings = Inspect(file);
-  return findings.pictures > 0 && findings.headerPictures <= findings.pictures &&
-         findings.headerSteps <= findings.HeldSteps();
+  // Of two headers or orders, nobody knows which the platform takes.
+  const bool plain = findings.headers == 1 && findings.sequences <= 1;
+  return plain && findings.headerPictures > 0 && findings.headerPictures <= findings.pictures &&
+         findings.headerSteps > 0 && findings.headerSteps <= findings.HeldSteps() &&
+         findings.highestEntry < findings.headerPictures;
 }
 
 }  // namespace tarvik

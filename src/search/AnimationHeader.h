@@ -23,9 +23,9 @@ class ByteSource {
 // trusted, and the work is bounded by the size of the file.
 int MostAnimationSteps(ByteSource& file);
 
-// True for an animation with at least as many pictures and steps as its header says. The platform takes memory by
-// those counts before it looks at the pictures, and one that is far too high has it write where it must not: a file
-// that holds less than it says is damaged and must not be handed to it.
+// True for an animation with one header and at least as many pictures and steps as that says, whose order names no
+// picture beyond them. The platform takes memory by those counts before it looks at the pictures, and wrong ones have
+// it write where it must not: a file that holds less than it says is damaged and must not be handed to it.
 bool HoldsWhatItSays(ByteSource& file);
 
 }  // namespace tarvik

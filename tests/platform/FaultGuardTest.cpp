@@ -47,6 +47,12 @@ TEST(FaultGuard, CatchesAnErrorOnReadingAMappedFile) {
   EXPECT_FALSE(SurvivesFault([] { RaiseException(EXCEPTION_IN_PAGE_ERROR, 0, 0, nullptr); }));
 }
 
+TEST(FaultGuard, CatchesADivisionByZero) {
+  volatile int size = 0;
+  volatile int result = 0;
+  EXPECT_FALSE(SurvivesFault([&] { result = 100 / size; }));
+}
+
 // Counts exceptions that the guard passed on, and lets the thread go on after each.
 int passedOn = 0;
 LONG CALLBACK CountAndGoOn(EXCEPTION_POINTERS*) {

@@ -168,6 +168,25 @@ TEST(HoldsWhatItSays, IsFalseWhereTheHeaderSaysMoreThanThereIs) {
   EXPECT_FALSE(IsWhole(Animation(Header(0xFFFFFFFF, 2) + Pictures(2))));
 }
 
+TEST(HoldsWhatItSays, IsFalseWhereTheHeaderSaysThereIsNothing) {
+  EXPECT_FALSE(IsWhole(Animation(Header(0, 5) + Sequence(5) + Pictures(2)))) << "no pictures";
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 0) + Pictures(2)))) << "no steps";
+}
+
+TEST(HoldsWhatItSays, IsFalseWhereTheOrderNamesAPictureThatIsNotThere) {
+  const auto ordered = [](std::uint32_t picture) {
+    return Animation(Header(2, 2) + Chunk("seq ", Number(0) + Number(picture)) + Pictures(2));
+  };
+  EXPECT_TRUE(IsWhole(ordered(1)));
+  EXPECT_FALSE(IsWhole(ordered(2)));
+  EXPECT_FALSE(IsWhole(ordered(0xFFFFFFFF)));
+}
+
+TEST(HoldsWhatItSays, IsFalseOfTwoHeadersOrOrders) {
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 2) + Header(2, 2) + Pictures(2))));
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 2) + Sequence(2) + Sequence(2) + Pictures(2))));
+}
+
 TEST(HoldsWhatItSays, IsFalseOfWhatIsNoAnimation) {
   EXPECT_FALSE(IsWhole(""));
   EXPECT_FALSE(IsWhole(Animation("")));
