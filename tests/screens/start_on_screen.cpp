@@ -1,0 +1,94 @@
+// Starts the real program on the screen that there is, in each language, and sees whether it refuses. The screen and the
+// expected answer come in the environment: the one who made the screen knows them.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "end_to_end/Machine.h"
+#include "end_to_end/Program.h"
+#include "end_to_end/Waiting.h"
+#include "platform/Handles.h"
+#include "platform/TemporaryFolder.h"
+#include "resource.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+struct Refusal {
+  const char* answer;
+  const char* code;
+  const char* text;
+  const char* title;
+};
+
+constexpr Refusal refusals[] = {
+    {"colors", "ENG",
+     "Brindle Tarvik requires at least high color mode.\r\n\r\nPlease adjust your color mode and try again.",
+     "Brindle Tarvik - Error"},
+    {"colors", "CHS", "Brindle Tarvik 颜色模式需设置为真彩色.\r\n\r\n请在调整颜色模式后重新运行程序.",
+     "Brindle Tarvik - 错误"},
+    {"colors", "CHT", "Brindle Tarvik 顏色模式需設置為真彩色.\r\n\r\n請在調整顏色模式後重新運行程式.",
+     "Brindle Tarvik - 錯誤"},
+    {"small", "ENG",
+     "Brindle Tarvik requires a screen resolution of at least 800 x 600 pixels.\r\n\r\n"
+     "Please adjust your screen resolution and try again.",
+     "Brindle Tarvik - Error"},
+    {"small", "CHS", "Brindle Tarvik 显示屏分辨率需设置为800×600以上.\r\n\r\n请在调整分辨率后重新运行程序.",
+     "Brindle Tarvik - 错误"},
+    {"small", "CHT", "Brindle Tarvik 顯示幕解析度需設置為800×600以上.\r\n\r\n請在調整解析度後重新運行程式.",
+     "Brindle Tarvik - 錯誤"},
+};
+
+std::string Variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? std::string() : value;
+}
+
+// "WIDTHxHEIGHTxDEPTH", where 24 bits are told from 32 by the X server alone.
+std::string ScreenAsSeen() {
+  const WindowDc dc(nullptr);
+  const int depth = GetDeviceCaps(dc.get(), BITSPIXEL);
+  return std::to_string(GetSystemMetrics(SM_CXSCREEN)) + "x" + std::to_string(GetSystemMetrics(SM_CYSCREEN)) + "x" +
+         std::to_string(depth == 32 ? 24 : depth);
+}
+
+class StartOnScreen : public ::testing::TestWithParam<const char*> {
+ protected:
+  const std::string screen_ = Variable("TARVIK_TEST_SCREEN");
+  const std::string answer_ = Variable("TARVIK_TEST_ANSWER");
+  const testing::TemporaryFolder folder_;
+  const LanguageValue language_{GetParam()};
+  Program program_{folder_.Path()};
+};
+
+TEST_P(StartOnScreen, StartsOrRefusesInTheLanguage) {
+  ASSERT_EQ(ScreenAsSeen(), screen_) << "this is not the screen that was asked for";
+  program_.Launch();
+  if (answer_ == "passes") {
+    EXPECT_NE(program_.WaitForStartUpWindow().Window(), nullptr);
+    return;
+  }
+  for (const Refusal& refusal : refusals) {
+    if (answer_ != refusal.answer || std::string(GetParam()) != refusal.code) continue;
+    const Box box = program_.WaitForBox();
+    EXPECT_EQ(box.Text(), refusal.text);
+    EXPECT_EQ(box.Title(), refusal.title);
+    EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+    EXPECT_EQ(program_.CountWindowsWith(FrmSpash_lblDescription), 0);
+    box.Press(IDOK);
+  }
+  // In an unknown language it ends by itself, without a message that would hold it up.
+  EXPECT_EQ(program_.WaitForEnd(), 0U);
+  EXPECT_FALSE(std::filesystem::exists(program_.SettingsFile()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, StartOnScreen, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
+                         [](const auto& row) { return std::string(row.param); });
+
+}  // namespace
+}  // namespace tarvik::end_to_end
