@@ -1,0 +1,211 @@
+; The installer. scripts/package compiles it:
+;   makensis -DVERSION=1.0.0 -DFILES=FOLDER -DOUTPUT=FILE packaging/tarvik.nsi
+; FILES holds tarvik.exe, LICENSE.txt, third-party-notices.txt and guide\.
+;
+; It asks for the language, which is the installer's own and the program's. Without questions: /S, with the language in
+; /LANGUAGE=ENG, CHS or CHT (English where it is left out), and the folder in /D=FOLDER, last.
+; Exit codes: 0 done, 1 cancelled, 2 no such language or not done.
+
+Target amd64-unicode
+SetCompressor /SOLID lzma
+SetDateSave off
+RequestExecutionLevel admin
+ManifestDPIAware true
+
+!include MUI2.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+
+!define PRODUCT "Brindle Tarvik"
+!define LANGUAGE_KEY "Software\Vornhold\Brindle Tarvik\RegInfo"
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Brindle Tarvik"
+!define SHORTCUT "$SMPROGRAMS\Brindle Tarvik.lnk"
+
+; The kinds of object whose access rights are set, as the system numbers them.
+!define FILE_OBJECT 1
+!define REGISTRY_KEY 4
+; The list of rights is set, and what the folder or key above hands down stays.
+!define CHANGE_RIGHTS 0x20000004
+; What "users" get: on the key, the rights that the program opens it with; on the file, to read and to write it.
+!define KEY_RIGHTS "D:(A;;0x2003F;;;BU)"
+!define FILE_RIGHTS "D:(A;;FRFW;;;BU)"
+
+Name "${PRODUCT}"
+OutFile "${OUTPUT}"
+InstallDir "$PROGRAMFILES64\Brindle Tarvik"
+BrandingText "${PRODUCT} ${VERSION}"
+VIProductVersion "${VERSION}.0"
+VIAddVersionKey /LANG=1033 ProductName "${PRODUCT}"
+VIAddVersionKey /LANG=1033 ProductVersion "${VERSION}"
+VIAddVersionKey /LANG=1033 FileVersion "${VERSION}"
+VIAddVersionKey /LANG=1033 FileDescription "Installs ${PRODUCT}"
+VIAddVersionKey /LANG=1033 CompanyName "The Brindle Tarvik developers"
+VIAddVersionKey /LANG=1033 LegalCopyright "Copyright 2026 The Brindle Tarvik developers"
+
+!define MUI_ICON "../src/tarvik.ico"
+!define MUI_UNICON "../src/tarvik.ico"
+!define MUI_ABORTWARNING
+!define MUI_FINISHPAGE_RUN "$INSTDIR\tarvik.exe"
+!define MUI_LANGDLL_ALLLANGUAGES
+!define MUI_LANGDLL_WINDOWTITLE "${PRODUCT}"
+!define MUI_LANGDLL_INFO "Language / 语言 / 語言"
+
+!insertmacro MUI_PAGE_WELCOME
+!insertmacro MUI_PAGE_LICENSE "${FILES}/LICENSE.txt"
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+
+!insertmacro MUI_LANGUAGE English
+!insertmacro MUI_LANGUAGE SimpChinese
+!insertmacro MUI_LANGUAGE TradChinese
+
+LangString RightsFailed ${LANG_ENGLISH} "Users could not be given the right to keep their settings. The program still runs."
+LangString RightsFailed ${LANG_SIMPCHINESE} "无法授予用户保存设置的权限。程序仍可运行。"
+LangString RightsFailed ${LANG_TRADCHINESE} "無法授予使用者儲存設定的權限。程式仍可執行。"
+LangString CopyFailed ${LANG_ENGLISH} "The files could not be written. Close ${PRODUCT} and try again."
+LangString CopyFailed ${LANG_SIMPCHINESE} "无法写入文件。请关闭本程序后重试。"
+LangString CopyFailed ${LANG_TRADCHINESE} "無法寫入檔案。請關閉本程式後重試。"
+
+; Gives ordinary users rights on one object, beside those that it has from above, and on nothing below it.
+!macro GrantUsers NAME KIND RIGHTS
+  StrCpy $0 1
+  System::Call 'advapi32::ConvertStringSecurityDescriptorToSecurityDescriptorW(w "${RIGHTS}", i 1, *p 0 r1, p 0) i .r2'
+  ${If} $2 <> 0
+    System::Call 'advapi32::GetSecurityDescriptorDacl(p r1, *i .r2, *p 0 r3, *i .r4) i .r5'
+    ${If} $5 <> 0
+    ${AndIf} $2 <> 0
+      System::Call 'advapi32::SetNamedSecurityInfoW(w "${NAME}", i ${KIND}, i ${CHANGE_RIGHTS}, p 0, p 0, p r3, p 0) i .r0'
+    ${EndIf}
+    System::Call 'kernel32::LocalFree(p r1)'
+  ${EndIf}
+  ${If} $0 <> 0
+    DetailPrint "$(RightsFailed)"
+    MessageBox MB_OK|MB_ICONEXCLAMATION "$(RightsFailed)" /SD IDOK
+  ${EndIf}
+!macroend
+
+; Takes the language from the command line into $LANGUAGE; false (the error flag) where it is none of the three.
+Function LanguageFromArgument
+  ClearErrors
+  ${If} $R1 == "ENG"
+    StrCpy $LANGUAGE ${LANG_ENGLISH}
+  ${ElseIf} $R1 == "CHS"
+    StrCpy $LANGUAGE ${LANG_SIMPCHINESE}
+  ${ElseIf} $R1 == "CHT"
+    StrCpy $LANGUAGE ${LANG_TRADCHINESE}
+  ${Else}
+    SetErrors
+  ${EndIf}
+FunctionEnd
+
+Function .onInit
+  SetRegView 64
+  SetShellVarContext all
+  ${GetParameters} $R0
+  ClearErrors
+  ${GetOptions} $R0 "/LANGUAGE=" $R1
+  ${If} ${Errors}
+    ${If} ${Silent}
+      StrCpy $LANGUAGE ${LANG_ENGLISH}
+    ${Else}
+      !insertmacro MUI_LANGDLL_DISPLAY
+    ${EndIf}
+  ${Else}
+    Call LanguageFromArgument
+    ${If} ${Errors}
+      MessageBox MB_OK|MB_ICONSTOP "/LANGUAGE=ENG, CHS, CHT" /SD IDOK
+      SetErrorLevel 2
+      Quit
+    ${EndIf}
+  ${EndIf}
+FunctionEnd
+
+Section
+  SetOutPath "$INSTDIR"
+  SetOverwrite try
+  ClearErrors
+  File "${FILES}/tarvik.exe"
+  File "${FILES}/LICENSE.txt"
+  File "${FILES}/third-party-notices.txt"
+  SetOutPath "$INSTDIR\guide"
+  File "${FILES}/guide/*.*"
+  SetOutPath "$INSTDIR\guide\images"
+  File "${FILES}/guide/images/*.*"
+  SetOutPath "$INSTDIR"
+  ${If} ${Errors}
+    MessageBox MB_OK|MB_ICONSTOP "$(CopyFailed)" /SD IDOK
+    SetErrorLevel 2
+    Abort
+  ${EndIf}
+
+  ; The settings of an earlier installation are kept.
+  ${IfNot} ${FileExists} "$INSTDIR\tarvik.dat"
+    FileOpen $R2 "$INSTDIR\tarvik.dat" w
+    FileClose $R2
+  ${EndIf}
+  !insertmacro GrantUsers "$INSTDIR\tarvik.dat" ${FILE_OBJECT} "${FILE_RIGHTS}"
+
+  StrCpy $R3 ENG
+  ${If} $LANGUAGE = ${LANG_SIMPCHINESE}
+    StrCpy $R3 CHS
+  ${ElseIf} $LANGUAGE = ${LANG_TRADCHINESE}
+    StrCpy $R3 CHT
+  ${EndIf}
+  WriteRegStr HKLM "${LANGUAGE_KEY}" Language $R3
+  !insertmacro GrantUsers "MACHINE\${LANGUAGE_KEY}" ${REGISTRY_KEY} "${KEY_RIGHTS}"
+
+  CreateShortCut "${SHORTCUT}" "$INSTDIR\tarvik.exe"
+
+  WriteUninstaller "$INSTDIR\uninstall.exe"
+  WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayName "${PRODUCT}"
+  WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
+  WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayIcon "$INSTDIR\tarvik.exe"
+  WriteRegStr HKLM "${UNINSTALL_KEY}" Publisher "The Brindle Tarvik developers"
+  WriteRegStr HKLM "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
+  WriteRegStr HKLM "${UNINSTALL_KEY}" InstallerLanguage $LANGUAGE
+  WriteRegStr HKLM "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\uninstall.exe"'
+  WriteRegStr HKLM "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\uninstall.exe" /S'
+  WriteRegDWORD HKLM "${UNINSTALL_KEY}" NoModify 1
+  WriteRegDWORD HKLM "${UNINSTALL_KEY}" NoRepair 1
+  ${GetSize} "$INSTDIR" "/S=0K" $R4 $R5 $R6
+  WriteRegDWORD HKLM "${UNINSTALL_KEY}" EstimatedSize $R4
+SectionEnd
+
+Function un.onInit
+  SetRegView 64
+  SetShellVarContext all
+  ReadRegStr $R0 HKLM "${UNINSTALL_KEY}" InstallerLanguage
+  ${If} $R0 != ""
+    StrCpy $LANGUAGE $R0
+  ${EndIf}
+FunctionEnd
+
+; Takes away what the installer and the program made, name by name: a folder that holds anything else stays, with it.
+Section Uninstall
+  Delete "$INSTDIR\tarvik.exe"
+  ${If} ${FileExists} "$INSTDIR\tarvik.exe"
+    MessageBox MB_OK|MB_ICONSTOP "$(CopyFailed)" /SD IDOK
+    SetErrorLevel 2
+    Abort
+  ${EndIf}
+  Delete "$INSTDIR\tarvik.dat"
+  Delete "$INSTDIR\LICENSE.txt"
+  Delete "$INSTDIR\third-party-notices.txt"
+  Delete "$INSTDIR\guide\guide-*.html"
+  Delete "$INSTDIR\guide\guide.css"
+  Delete "$INSTDIR\guide\images\*.png"
+  RMDir "$INSTDIR\guide\images"
+  RMDir "$INSTDIR\guide"
+  Delete "$INSTDIR\uninstall.exe"
+  RMDir "$INSTDIR"
+  Delete "${SHORTCUT}"
+
+  DeleteRegValue HKLM "${LANGUAGE_KEY}" Language
+  DeleteRegKey /ifempty HKLM "${LANGUAGE_KEY}"
+  DeleteRegKey /ifempty HKLM "Software\Vornhold\Brindle Tarvik"
+  DeleteRegKey /ifempty HKLM "Software\Vornhold"
+  DeleteRegKey HKLM "${UNINSTALL_KEY}"
+SectionEnd
