@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 #include "end_to_end/EndToEndTest.h"
 #include "end_to_end/Input.h"
 #include "end_to_end/Screen.h"
@@ -93,7 +95,12 @@ TEST_F(Search, GreysFileAndEditInTheMenuBarFromARefusalToTheNextSuccess) {
   bar.bottom = bar.top;
   bar.top -= GetSystemMetrics(SM_CYMENU);
   MovePointer({0, 0});
-  const Screenshot enabled(bar);
+  // The window may not be painted yet: the picture counts once it shows text and stays the same.
+  Screenshot enabled(bar);
+  ASSERT_TRUE(Eventually([&] {
+    const Screenshot before = std::exchange(enabled, Screenshot(bar));
+    return CountPixels(enabled, black) > 0 && CountDifferences(enabled, before) == 0;
+  }));
   Tick({Exe});
   FindAndReadMessage();
   EXPECT_TRUE(Eventually([&] { return CountDifferences(Screenshot(bar), enabled) > 0; }));
