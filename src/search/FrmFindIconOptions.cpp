@@ -97,7 +97,7 @@ void FrmFindIcon::mnuStart_Click() {
 }
 
 void FrmFindIcon::CmdOk_Click() {
-  // A list can come out empty: the files that were counted can be gone by the time they are listed.
+  // A disabled button sends nothing, but its command can come from elsewhere.
   if (state_.IsSearching || !list_.Has(state_.CurrentIndex + 1)) return;
   const IconListEntry& entry = list_.Item(state_.CurrentIndex + 1);
   services_.state.ChosenIconPath = entry.path;
