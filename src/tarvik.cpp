@@ -8,10 +8,15 @@
 #include <utility>
 #include <vector>
 
+#include "dialogs/CreateFolder.h"
+#include "export/ExportDialogs.h"
+#include "export/TemporaryBitmap.h"
 #include "forms/Application.h"
 #include "forms/Form.h"
 #include "forms/MessageBox.h"
 #include "platform/DesktopScreen.h"
+#include "platform/DiskFile.h"
+#include "platform/DiskTarget.h"
 #include "platform/Folders.h"
 #include "platform/IniFile.h"
 #include "platform/Paths.h"
@@ -73,10 +78,29 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
   std::optional<FrmFindIcon> findIcon;
   const auto showAbout = [&] { spash->ShowModal(findIcon->Window()); };
   const auto openGuide = [&] { OpenGuide(findIcon->Window(), ProgramFolder(), state.CurrentLanguage); };
+  DiskFile files;
+  DiskTarget targets;
+  TemporaryBitmap temporaryBitmap(TemporaryBitmapPlaces());
+  ExportDialogs exportDialogs(
+      application, state,
+      {[&] { return findIcon->Window(); }, [&]() -> const Surface& { return findIcon->Surfaces().Composed(); },
+       [&]() -> const Surface& { return findIcon->PicMain(); }},
+      {DriveRows, [&](const std::string& folder) { return folders.SubFolders(folder); }, CreateFolder,
+       [&] { return findIcon->Dir1Path(); }},
+      files, targets);
+
   const auto showMainWindow = [&] {
     if (!findIcon) {
-      findIcon.emplace(application, FrmFindIcon::Services{state, settings, icons, folders, DriveRows, IsReadableFolder,
-                                                          ProgramFolder(), showAbout, openGuide});
+      findIcon.emplace(application, FrmFindIcon::Services{state,
+                                                          settings,
+                                                          icons,
+                                                          folders,
+                                                          DriveRows,
+                                                          IsReadableFolder,
+                                                          ProgramFolder(),
+                                                          showAbout,
+                                                          openGuide,
+                                                          {exportDialogs, files, temporaryBitmap}});
     }
     findIcon->Show();
   };

@@ -60,6 +60,7 @@ FrmFindIcon::FrmFindIcon(Application& application, Services services)
       driver_(*this, services_.icons, list_, state_, services_.state.CurrentLanguage),
       selection_(*this, list_, state_, services_.state.CurrentLanguage),
       surfaces_(state_.Geometry.IconSize),
+      commands_(*this, services_.saving, list_, state_, services_.state),
       caption_([this](const std::string& text) { Form::SetCaption(text); }),
       status_([this](const std::string& text) {
         SendMessageW(Item(FrmFindIcon_sbMain), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
@@ -139,12 +140,13 @@ void FrmFindIcon::PlaceGrid() {
 }
 
 bool FrmFindIcon::Form_QueryUnload() {
-  return !state_.IsSearching;
+  return !state_.IsSearching && !isSaving_;
 }
 
 void FrmFindIcon::Form_Unload() {
   CloseEnhancedView();
   SaveSettings();
+  commands_.CleanUp();
 }
 
 void FrmFindIcon::LoadSettings() {
@@ -175,6 +177,16 @@ bool FrmFindIcon::OnCommand(int id, int code) {
       {FrmFindIcon_OptView0, FrmFindIcon_OptView1, BN_CLICKED, Call<&FrmFindIcon::OptView_Click>},
       {FrmFindIcon_mnuStart, FrmFindIcon_mnuStart, 0, Call<&FrmFindIcon::mnuStart_Click>},
       {FrmFindIcon_mnuExit, FrmFindIcon_mnuExit, 0, Call<&FrmFindIcon::mnuExit_Click>},
+      {FrmFindIcon_mnuSaveAs, FrmFindIcon_mnuSaveAs, 0, Call<&FrmFindIcon::mnuSaveAs_Click>},
+      {FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsBitmap, 0, Call<&FrmFindIcon::MnuSaveAsBitmap_Click>},
+      {FrmFindIcon_MnuSaveAsCursor, FrmFindIcon_MnuSaveAsCursor, 0, Call<&FrmFindIcon::MnuSaveAsCursor_Click>},
+      {FrmFindIcon_mnuSaveSel, FrmFindIcon_mnuSaveSel, 0, Call<&FrmFindIcon::mnuSaveSel_Click>},
+      {FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveAll, 0, Call<&FrmFindIcon::mnuSaveAll_Click>},
+      {FrmFindIcon_mnuSaveSel2, FrmFindIcon_mnuSaveSel2, 0, Call<&FrmFindIcon::mnuSaveSel2_Click>},
+      {FrmFindIcon_mnuSaveAll2, FrmFindIcon_mnuSaveAll2, 0, Call<&FrmFindIcon::mnuSaveAll2_Click>},
+      {FrmFindIcon_mnuSaveSel3, FrmFindIcon_mnuSaveSel3, 0, Call<&FrmFindIcon::mnuSaveSel3_Click>},
+      {FrmFindIcon_mnuSaveAll3, FrmFindIcon_mnuSaveAll3, 0, Call<&FrmFindIcon::mnuSaveAll3_Click>},
+      {FrmFindIcon_mnuCopy, FrmFindIcon_mnuCopy, 0, Call<&FrmFindIcon::mnuCopy_Click>},
       {FrmFindIcon_mnuRem, FrmFindIcon_mnuRem, 0, Call<&FrmFindIcon::mnuRem_Click>},
       {FrmFindIcon_mnuShowLabel, FrmFindIcon_mnuShowLabel, 0, Call<&FrmFindIcon::mnuShowLabel_Click>},
       {FrmFindIcon_mnuIL1, FrmFindIcon_mnuIL2, 0, Call<&FrmFindIcon::mnuIL_Click>},
@@ -182,7 +194,7 @@ bool FrmFindIcon::OnCommand(int id, int code) {
       {FrmFindIcon_MnuContent, FrmFindIcon_MnuContent, 0, Call<&FrmFindIcon::MnuContent_Click>},
       {FrmFindIcon_MnuAbout, FrmFindIcon_MnuAbout, 0, Call<&FrmFindIcon::MnuAbout_Click>},
   };
-  return Dispatch<FrmFindIcon>(*this, events, id, code);
+  return !isSaving_ && Dispatch<FrmFindIcon>(*this, events, id, code);
 }
 
 void FrmFindIcon::OnScroll(HWND scrollBar, int request) {
@@ -204,6 +216,7 @@ void FrmFindIcon::OnDrawItem(const DRAWITEMSTRUCT& item) {
 }
 
 bool FrmFindIcon::PreviewMessage(const MSG& message) {
+  if (isSaving_ && IsInput(message.message)) return true;
   // The wheel turns what lies under the pointer, wherever the focus is.
   if (message.message != WM_MOUSEWHEEL || IsWindowEnabled(vsb_.Window()) == FALSE) return false;
   const POINT pointer{GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};

@@ -2,10 +2,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "export/IconSurfaces.h"
+#include "export/SaveCommands.h"
 #include "forms/FolderLists.h"
 #include "forms/Form.h"
 #include "forms/LiveText.h"
@@ -25,7 +27,7 @@
 namespace tarvik {
 
 // The main window: search options, the icon grid or the icon list, and the menus from which everything else is reached.
-class FrmFindIcon final : public Form, private SearchWindow, private SelectionView {
+class FrmFindIcon final : public Form, private SearchWindow, private SelectionView, private SaveWindow {
  public:
   // What the window stands on. All of it outlives the window.
   struct Services {
@@ -38,6 +40,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
     std::string programFolder;
     std::function<void()> showAbout;  // returns when the About box is closed
     std::function<void()> openGuide;
+    SaveCommands::Tools saving;
   };
 
   FrmFindIcon(Application& application, Services services);
@@ -45,8 +48,12 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   // Takes the icon of entry `number`, counted from 1, into the three surfaces, at the grid's icon size. False for a
   // number outside the list, which leaves the surfaces alone, and for a file that yields no icon any more, which leaves
   // them cleared.
-  bool RenderEntry(int number);
+  bool RenderEntry(int number) override;
   const IconSurfaces& Surfaces() const { return surfaces_; }
+  // The icon in PicIcon magnified by the program's Magnification, at the top-left corner of a square of MagnifiedSide.
+  const Surface& PicMain();
+  // The folder shown in Dir1.
+  std::string Dir1Path() const override;
 
  private:
   // Form
@@ -83,6 +90,16 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void mnuRem_Click();
   void mnuShowLabel_Click();
   void mnuIL_Click(int index);
+  void mnuSaveAs_Click();
+  void MnuSaveAsBitmap_Click();
+  void MnuSaveAsCursor_Click();
+  void mnuSaveSel_Click();
+  void mnuSaveAll_Click();
+  void mnuSaveSel2_Click();
+  void mnuSaveAll2_Click();
+  void mnuSaveSel3_Click();
+  void mnuSaveAll3_Click();
+  void mnuCopy_Click();
 
   // SearchWindow
   void CloseEnhancedView() override;
@@ -90,7 +107,6 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   bool chkSubDir() const override;
   std::string txtMax() const override;
   int udMainUpperEnd() const override;
-  std::string Dir1Path() const override;
   void SetDir1Path(const std::string& folder) override;
   std::vector<std::string> Dir1SubFolders() override;
   std::string File1Path() const override;
@@ -117,6 +133,18 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   int GridInnerHeight() const override;
   bool NumbersByFile() const override;
 
+  // SaveWindow, where it asks for more than a search does
+  const PixelView& PicMask() const override { return surfaces_.Mask(); }
+  const PixelView& PicImage() const override { return surfaces_.Image(); }
+  const PixelView& PicIcon() const override { return surfaces_.Composed(); }
+  std::string StatusText() const override;
+  void ShowMessage(const std::string& text, MessageKind kind) override;
+  std::shared_ptr<void> HoldCommands() override;
+  void ServePainting() override;
+  bool CopyPicClip() override;
+
+  static bool IsInput(UINT message);
+
   void AttachControls();
   void PlaceLimit();
   void PlaceGrid();
@@ -131,6 +159,10 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   SearchDriver driver_;
   Selection selection_;
   IconSurfaces surfaces_;  // PicIcon, PicMask and PicImage
+  SaveCommands commands_;
+  bool isSaving_ = false;   // a save or copy command runs, and the window takes no other
+  ULONGLONG servedAt_ = 0;  // when such a command last served messages
+  std::optional<Surface> picMain_;
 
   LiveText caption_;
   LiveText status_;  // panel 1 of sbMain

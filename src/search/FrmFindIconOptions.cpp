@@ -42,7 +42,7 @@ void FrmFindIcon::Drive1_Change() {
   const std::string root = drive1_.Root();
   if (!services_.isReadableFolder(root)) {
     const auto text = Pick(driveNotReady, services_.state.CurrentLanguage);
-    if (text) ShowMessage(Window(), *text, productTitle, MessageSign::Information);
+    if (text) tarvik::ShowMessage(Window(), *text, productTitle, MessageSign::Information);
     return;
   }
   dir1_.SetPath(root);

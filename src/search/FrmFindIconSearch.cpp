@@ -18,7 +18,11 @@ namespace tarvik {
 namespace {
 
 // What needs an entry to act on.
-constexpr int entryItems[] = {FrmFindIcon_mnuRem};
+constexpr int entryItems[] = {
+    FrmFindIcon_mnuSaveAs,   FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsCursor, FrmFindIcon_mnuSaveSel,
+    FrmFindIcon_mnuSaveAll,  FrmFindIcon_mnuSaveSel2,     FrmFindIcon_mnuSaveAll2,     FrmFindIcon_mnuSaveSel3,
+    FrmFindIcon_mnuSaveAll3, FrmFindIcon_mnuCopy,         FrmFindIcon_mnuRem,
+};
 
 int IdOf(SearchControl control) {
   switch (control) {
@@ -101,7 +105,7 @@ void FrmFindIcon::SetInfoText(const std::string& text) {
 
 void FrmFindIcon::ShowInformation(const std::string& text) {
   ShowProgress();
-  ShowMessage(Window(), text, productTitle, MessageSign::Information);
+  tarvik::ShowMessage(Window(), text, productTitle, MessageSign::Information);
 }
 
 void FrmFindIcon::ClearListView() {

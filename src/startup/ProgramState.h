@@ -22,6 +22,15 @@ struct ProgramState {
   // The magnified picture of the enhanced view and the hot-spot picker.
   Integer16 MagnifiedSide = 385;  // pixels, one more than the largest icon times its magnification
   Integer16 Magnification = 12;   // screen pixels an icon pixel
+
+  // The pixel of a cursor that points, as the hot-spot picker last set it.
+  Integer16 HotSpotX;
+  Integer16 HotSpotY;
+  bool HotSpotCancelled = true;  // whether the picker was left without OK
+  Integer16 HotSpotBound;        // no coordinate passes it; nothing ever raises it from 0, and that is meant
+
+  // The extension of the files that a batch save is about to write: ".ICO", ".CUR" or that of an image type.
+  std::string SaveExtension;
 };
 
 // The product's name: title of the plain message boxes, and the first word of every other title.

@@ -9,8 +9,11 @@
 #include <string>
 #include <vector>
 
+#include "export/AnsweredDialogs.h"
+#include "export/TemporaryBitmap.h"
 #include "forms/Application.h"
 #include "forms/BoxWatcher.h"
+#include "platform/DiskFile.h"
 #include "platform/Handles.h"
 #include "platform/Surface.h"
 #include "platform/Text.h"
@@ -97,12 +100,18 @@ class FindIconFixture : public ::testing::Test {
     state.CurrentLanguage = language;
     window = std::make_unique<FrmFindIcon>(
         application,
-        FrmFindIcon::Services{state, settings, machine, machine,
+        FrmFindIcon::Services{state,
+                              settings,
+                              machine,
+                              machine,
                               [] {
                                 return std::vector<DriveListBox::Drive>{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
                               },
-                              [](const std::string& folder) { return !folder.starts_with("D:"); }, "C:\\program",
-                              [this] { ++aboutShown; }, [this] { ++guideShown; }});
+                              [](const std::string& folder) { return !folder.starts_with("D:"); },
+                              "C:\\program",
+                              [this] { ++aboutShown; },
+                              [this] { ++guideShown; },
+                              {dialogs, files, temporaryBitmap}});
     window->Show();
     application.DoEvents();
   }
@@ -150,6 +159,13 @@ class FindIconFixture : public ::testing::Test {
   SmallMachine machine;
   Application application{GetModuleHandleW(nullptr)};
   Application& application_ = application;
+  DiskFile files;
+  TemporaryBitmap temporaryBitmap{TemporaryBitmapPlaces()};
+  AnsweredDialogs dialogs{
+      application,
+      state,
+      {[this] { return window->Window(); }, [this]() -> const Surface& { return window->Surfaces().Composed(); },
+       [this]() -> const Surface& { return window->PicMain(); }}};
   int aboutShown = 0;
   int guideShown = 0;
   BoxWatcher boxes;

@@ -1,0 +1,114 @@
+#include "dialogs/frmDir.h"
+
+#include <windows.h>
+
+#include <windowsx.h>
+
+#include <utility>
+
+#include "dialogs/FolderDialogTexts.h"
+#include "dialogs/SaveFolder.h"
+#include "export/ImageTypes.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "startup/FormPlacement.h"
+
+namespace tarvik {
+
+frmDir::frmDir(Application& application, ProgramState& state, Disk disk)
+    : Form(application, Dialog_frmDir),
+      state_(state),
+      disk_(std::move(disk)),
+      create_(application, state, disk_.makeFolder, [this](const std::string& folder) { dirMain_.SetPath(folder); }) {}
+
+std::string frmDir::ShowDir(HWND owner) {
+  ShowModal(owner);
+  return selectedDir_;
+}
+
+void frmDir::Form_Load() {
+  basInitEntry::ApplySkinToForm(*this);
+  basInitEntry::CenterForm(*this);
+  const bool images = OffersImageTypes(state_.SaveExtension);
+  if (images) FillFileTypes();
+  ShowItem(frmDir_CboFileType, images);
+
+  drvMain_.Attach(Item(frmDir_drvMain), disk_.drives);
+  dirMain_ = DirListBox();  // of this window's own folder, whatever was chosen the last time
+  dirMain_.Attach(Item(frmDir_dirMain), disk_.subFolders, [this] { dirMain_Change(); });
+  const std::string folder = disk_.firstFolder();
+  dirMain_.SetPath(folder);
+  drvMain_.ChooseDriveOf(folder);
+  SetTexts(*this, frmDirTexts, state_.CurrentLanguage);
+}
+
+void frmDir::FillFileTypes() {
+  ComboBox_ResetContent(Item(frmDir_CboFileType));
+  AddFileTypes();
+  ComboBox_SetCurSel(Item(frmDir_CboFileType), 0);
+  CboFileType_Click();
+}
+
+void frmDir::AddFileTypes() {
+  for (const FileType& type : imageTypes)
+    ComboBox_AddString(Item(frmDir_CboFileType), ToWide(type.description).c_str());
+}
+
+bool frmDir::OnCommand(int id, int code) {
+  static constexpr Event<frmDir> events[] = {
+      {frmDir_CboFileType, frmDir_CboFileType, CBN_SELCHANGE, Call<&frmDir::CboFileType_Click>},
+      {frmDir_drvMain, frmDir_drvMain, CBN_DROPDOWN, Call<&frmDir::drvMain_DropDown>},
+      {frmDir_drvMain, frmDir_drvMain, CBN_SELCHANGE, Call<&frmDir::drvMain_Change>},
+      {frmDir_dirMain, frmDir_dirMain, LBN_DBLCLK, Call<&frmDir::dirMain_DblClick>},
+      {frmDir_CmdOk, frmDir_CmdOk, BN_CLICKED, Call<&frmDir::CmdOk_Click>},
+      {frmDir_CmdCancel, frmDir_CmdCancel, BN_CLICKED, Call<&frmDir::CmdCancel_Click>},
+      {frmDir_cmdCreate, frmDir_cmdCreate, BN_CLICKED, Call<&frmDir::cmdCreate_Click>},
+      {IDCANCEL, IDCANCEL, BN_CLICKED, Call<&frmDir::CmdCancel_Click>},  // Esc
+  };
+  return Dispatch<frmDir>(*this, events, id, code);
+}
+
+void frmDir::OnDrawItem(const DRAWITEMSTRUCT& item) {
+  if (item.CtlID == frmDir_dirMain) dirMain_.Draw(item);
+}
+
+// Each choice adds all types to the list once more, and that is meant. Only the first of each names an extension.
+void frmDir::CboFileType_Click() {
+  AddFileTypes();
+  if (const auto extension = ImageExtension(ComboBox_GetCurSel(Item(frmDir_CboFileType))))
+    state_.SaveExtension = *extension;
+}
+
+void frmDir::drvMain_DropDown() {
+  drvMain_.Refresh();
+}
+
+void frmDir::drvMain_Change() {
+  dirMain_.SetPath(drvMain_.Root());
+}
+
+void frmDir::dirMain_Change() {
+  selectedDir_ = dirMain_.Path();
+  SetItemText(frmDir_lblDir, selectedDir_);
+}
+
+void frmDir::dirMain_DblClick() {
+  dirMain_.OpenChosen();
+}
+
+void frmDir::CmdOk_Click() {
+  selectedDir_ = dirMain_.Path();
+  Unload();
+}
+
+void frmDir::CmdCancel_Click() {
+  selectedDir_.clear();
+  Unload();
+}
+
+void frmDir::cmdCreate_Click() {
+  create_.CreateDir(Window(), dirMain_.Path());
+  dirMain_.Refresh();
+}
+
+}  // namespace tarvik

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "dialogs/frmDirCreate.h"
+#include "forms/FolderLists.h"
+#include "forms/Form.h"
+#include "startup/ProgramState.h"
+
+namespace tarvik {
+
+// The folder chooser of the batch saves. Where images are about to be saved, by the state's SaveExtension, it also
+// offers their types and puts the chosen one's extension there.
+class frmDir final : public Form {
+ public:
+  // How the dialog reads the disk, and where it starts.
+  struct Disk {
+    std::function<std::vector<DriveListBox::Drive>()> drives;
+    DirListBox::ListFolders subFolders;
+    frmDirCreate::MakeFolder makeFolder;
+    std::function<std::string()> firstFolder;  // the main window's
+  };
+
+  // `state` outlives the form.
+  frmDir(Application& application, ProgramState& state, Disk disk);
+
+  // Shows the dialog modally over `owner`. The chosen folder; empty where the user cancelled. The close box is no
+  // cancel: it gives the folder last shown.
+  std::string ShowDir(HWND owner);
+
+ private:
+  void Form_Load() override;
+  bool OnCommand(int id, int code) override;
+  void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+
+  void CboFileType_Click();
+  void drvMain_DropDown();
+  void drvMain_Change();
+  void dirMain_Change();
+  void dirMain_DblClick();
+  void CmdOk_Click();
+  void CmdCancel_Click();
+  void cmdCreate_Click();
+
+  void FillFileTypes();
+  void AddFileTypes();
+
+  ProgramState& state_;
+  Disk disk_;
+  std::string selectedDir_;
+  DriveListBox drvMain_;
+  DirListBox dirMain_;
+  frmDirCreate create_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "encoders/ExistingTarget.h"
+#include "encoders/GifEncoder.h"
+#include "encoders/ImageDialogs.h"
+#include "export/FileSink.h"
+#include "forms/Form.h"
+#include "platform/Surface.h"
+#include "startup/ProgramState.h"
+
+namespace tarvik {
+
+// The GIF options dialog. In mode Single its OK writes the file, in mode NoSingle it only hides and keeps the options
+// for SaveToGIFNoSingle.
+class FrmConvertGIF final : public Form, public GifDialog {
+ public:
+  struct Parts {
+    std::function<const Surface&()> picIcon;  // the main window's
+    FileSink& sink;
+    ExistingTarget& targets;
+    std::function<std::uint64_t(const std::string& path)> fileLength;  // in bytes
+  };
+
+  // Shown over `owner`. Everything outlives the form.
+  FrmConvertGIF(Application& application, const ProgramState& state, HWND owner, Parts parts);
+
+  DialogAnswer ShowFor(DialogMode mode, const std::string& target) override;
+  bool SaveToGIFNoSingle(const std::string& target) override;
+  void FreeGifObj() override;
+
+ private:
+  void Form_Load() override;
+  bool OnCommand(int id, int code) override;
+  void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+
+  void CmdOk_Click();
+  void CmdCancel_Click();
+
+  bool Convert(const std::string& target);
+  void ConvertSingle();
+
+  const ProgramState& state_;
+  HWND owner_;
+  Parts parts_;
+  std::optional<GifEncoder> encoder_;
+  std::optional<Surface> picture_;  // the dialog's own copy of the icon
+  DialogMode mode_ = DialogMode::Single;
+  std::string target_;
+  DialogAnswer answer_ = DialogAnswer::Cancelled;
+  bool converting_ = false;
+};
+
+}  // namespace tarvik

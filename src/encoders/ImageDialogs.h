@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+
+#include "export/PixelView.h"
+
+namespace tarvik {
+
+// What a dialog of image options is shown for: one file, which OK writes, or a batch, for which OK keeps the options.
+enum class DialogMode { Single, NoSingle };
+
+// How such a dialog ended.
+enum class DialogAnswer {
+  Cancelled,
+  Ok,
+  Failed,  // OK was chosen, and the file could not be written; nothing of it is left
+};
+
+// The JPEG options dialog as the save commands see it.
+class JpegDialog {
+ public:
+  virtual ~JpegDialog() = default;
+
+  // Sets what the next call writes. The picture outlives that call.
+  virtual void InitJpegExport(const PixelView& picture, const std::string& target, DialogMode mode) = 0;
+  // Shows the dialog modally. In mode NoSingle it may be shown before any InitJpegExport.
+  virtual DialogAnswer ShowFor(DialogMode mode) = 0;
+  // Writes the picture with the chosen options and shows nothing. False where it could not be written.
+  virtual bool SaveToJPGForNoSingle(const std::string& target) = 0;
+  // Lets the encoder go, and the dialog with it.
+  virtual void FreeObj() = 0;
+};
+
+// The GIF options dialog as the save commands see it. It takes the picture from the main window's PicIcon.
+class GifDialog {
+ public:
+  virtual ~GifDialog() = default;
+
+  // Shows the dialog modally; `target` is the file that OK writes in mode Single.
+  virtual DialogAnswer ShowFor(DialogMode mode, const std::string& target) = 0;
+  // Writes the icon with the chosen options and shows nothing. False where it could not be written.
+  virtual bool SaveToGIFNoSingle(const std::string& target) = 0;
+  // Lets the encoder go.
+  virtual void FreeGifObj() = 0;
+};
+
+}  // namespace tarvik

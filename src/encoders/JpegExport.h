@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "encoders/ExistingTarget.h"
+#include "encoders/ImageDialogs.h"
+#include "encoders/JpegEncoder.h"
+#include "export/FileSink.h"
+#include "export/PixelView.h"
+
+namespace tarvik {
+
+// What the JPEG options dialog holds and does, without its window: the picture to write, where to, and the encoder
+// with the options.
+class JpegExport {
+ public:
+  // Both outlive the export.
+  JpegExport(FileSink& sink, ExistingTarget& targets) : sink_(sink), targets_(targets) {}
+
+  void InitJpegExport(const PixelView& picture, const std::string& target, DialogMode mode);
+  void SetMode(DialogMode mode) { mode_ = mode; }
+  DialogMode Mode() const { return mode_; }
+
+  // The encoder, made on first use. It keeps its options for every file until FreeObj.
+  JpegEncoder& Encoder();
+  // Writes the picture to the path, replacing what stands there. False where there is no picture or it cannot be
+  // written; nothing of the file is left then.
+  bool Save(const std::string& path);
+  // The same, to the target.
+  bool Save() { return Save(target_); }
+  // Lets the encoder and the picture go.
+  void FreeObj();
+
+ private:
+  FileSink& sink_;
+  ExistingTarget& targets_;
+  std::optional<JpegEncoder> encoder_;
+  const PixelView* picture_ = nullptr;
+  std::string target_;
+  DialogMode mode_ = DialogMode::Single;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,71 @@
+#include "export/FileDialog.h"
+
+#include <windows.h>
+
+#include <commdlg.h>
+
+#include <array>
+#include <cstddef>
+
+namespace tarvik {
+namespace {
+
+constexpr std::size_t fileBufferSize = 260;
+constexpr std::size_t titleBufferSize = 256;
+constexpr DWORD saveFlags = OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
+constexpr DWORD openFlags = OFN_HIDEREADONLY | OFN_FILEMUSTEXIST;
+static_assert(saveFlags == 2054 && openFlags == 4100);
+
+// The record as it was before fields were added to it, which every version of the dialogs takes.
+constexpr DWORD recordSize = offsetof(OPENFILENAMEA, lpTemplateName) + sizeof(OPENFILENAMEA::lpTemplateName);
+static_assert(sizeof(void*) != 4 || recordSize == 76);
+
+// The dialogs move the program to the folder that was chosen; this moves it back.
+class CurrentFolderKept {
+ public:
+  CurrentFolderKept() : folder_(GetCurrentDirectoryW(0, nullptr), L'\0') {
+    folder_.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder_.size()), folder_.data()));
+  }
+  ~CurrentFolderKept() { SetCurrentDirectoryW(folder_.c_str()); }
+  CurrentFolderKept(const CurrentFolderKept&) = delete;
+  CurrentFolderKept& operator=(const CurrentFolderKept&) = delete;
+
+ private:
+  std::wstring folder_;
+};
+
+std::string Ask(BOOL(WINAPI* show)(OPENFILENAMEA*), DWORD flags, HWND owner, const FileDialogMode& mode,
+                std::string_view code) {
+  const std::string title = FileDialogTitle(mode, code);
+  const std::string filters = FilterList(mode.filters);
+  // The dialog puts the dot before an extension itself.
+  const std::string extension(mode.defaultExtension.substr(1));
+  std::array<char, fileBufferSize> file{};
+  std::array<char, titleBufferSize> fileTitle{};
+  OPENFILENAMEA record{};
+  record.lStructSize = recordSize;
+  record.hwndOwner = owner;
+  record.lpstrFilter = filters.c_str();
+  record.nFilterIndex = 1;
+  record.lpstrFile = file.data();
+  record.nMaxFile = static_cast<DWORD>(file.size());
+  record.lpstrFileTitle = fileTitle.data();
+  record.nMaxFileTitle = static_cast<DWORD>(fileTitle.size());
+  record.lpstrTitle = title.c_str();
+  record.Flags = flags;
+  record.lpstrDefExt = extension.c_str();
+  const CurrentFolderKept folder;
+  return show(&record) != 0 ? std::string(file.data()) : std::string();
+}
+
+}  // namespace
+
+std::string AskForFileToSave(HWND owner, const FileDialogMode& mode, std::string_view code) {
+  return Ask(GetSaveFileNameA, saveFlags, owner, mode, code);
+}
+
+std::string AskForFileToOpen(HWND owner, const FileDialogMode& mode, std::string_view code) {
+  return Ask(GetOpenFileNameA, openFlags, owner, mode, code);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "export/ImageTypes.h"
+#include "startup/Language.h"
+
+namespace tarvik {
+
+// What one use of the common file dialog looks like.
+struct FileDialogMode {
+  Text titleSuffix;                   // behind the product's name
+  std::string_view defaultExtension;  // with its dot
+  std::span<const FileType> filters;
+};
+
+inline constexpr FileType iconFilters[] = {{"Windows Icon (*.ico)", "*.ico"}};
+inline constexpr FileType cursorFilters[] = {{"Windows Cursor (*.cur)", "*.cur"}};
+
+inline constexpr FileDialogMode saveAsMode{{" - Save As", " - 另存为", " - 另存為"}, ".ico", iconFilters};
+inline constexpr FileDialogMode saveAsImageMode{
+    {" - Save As Image", " - 另存为图像", " - 另存為圖像"}, ".bmp", imageTypes};
+inline constexpr FileDialogMode saveAsCursorMode{
+    {" - Save As Cursor", " - 另存为图标", " - 另存為圖示"}, ".cur", cursorFilters};
+
+// The dialog's title in the language of `code`: the product's name and the mode's suffix, or the name alone.
+std::string FileDialogTitle(const FileDialogMode& mode, std::string_view code);
+
+// The filters as the platform takes them: description and pattern in turn, each ended by a NUL, and one more NUL.
+std::string FilterList(std::span<const FileType> filters);
+
+}  // namespace tarvik

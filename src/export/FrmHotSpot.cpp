@@ -1,0 +1,110 @@
+#include "export/FrmHotSpot.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "export/FrmHotSpotTexts.h"
+#include "export/HotSpotPick.h"
+#include "export/IconSurfaces.h"
+#include "resource.h"
+#include "startup/FormPlacement.h"
+#include "startup/FormSize.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int formWidth = 7510;  // twips
+constexpr int formHeight = 6295;
+constexpr int edge = 2;  // pixels that a sunken edge takes on each side
+constexpr int leftButton = 1;
+
+// A sunken edge on the form, close around a control.
+void DrawEdgeAround(HDC dc, HWND form, HWND control) {
+  RECT place;
+  GetWindowRect(control, &place);
+  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&place), 2);
+  RECT frame;
+  SetRect(&frame, place.left - edge, place.top - edge, place.right + edge, place.bottom + edge);
+  DrawEdge(dc, &frame, BDR_SUNKENOUTER, BF_RECT);
+}
+
+}  // namespace
+
+FrmHotSpot::FrmHotSpot(Application& application, ProgramState& state, std::function<const Surface&()> picMain)
+    : Form(application, Dialog_FrmHotSpot), state_(state), picMain_(std::move(picMain)) {}
+
+void FrmHotSpot::Form_Load() {
+  SizeInTwips(*this, formWidth, formHeight);
+  PlacePicture();
+  picCursor_.emplace(state_.MagnifiedSide, state_.MagnifiedSide, surfaceBackground);
+  picCursor_->Combine(picMain_(), SRCCOPY);
+  PictureBox(Item(FrmHotSpot_PicCursor)).Show(&*picCursor_);
+  hotX_ = 0;
+  hotY_ = 0;
+  state_.HotSpotCancelled = true;
+  SetTexts(*this, hotSpotTexts, state_.CurrentLanguage);
+  basInitEntry::ApplySkinToForm(*this);
+  basInitEntry::CenterForm(*this);
+}
+
+// The picture is counted in pixels, whatever the size of the dialog's font; it stands as far from the left as from the
+// top and the bottom.
+void FrmHotSpot::PlacePicture() {
+  RECT client;
+  GetClientRect(Window(), &client);
+  const int side = state_.MagnifiedSide;
+  const int corner = std::max<int>(edge, (client.bottom - side) / 2);
+  SetWindowPos(Item(FrmHotSpot_PicCursor), nullptr, corner, corner, side, side, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FrmHotSpot::Form_Paint(HDC dc) {
+  DrawEdgeAround(dc, Window(), Item(FrmHotSpot_PicCursor));
+  DrawEdgeAround(dc, Window(), Item(FrmHotSpot_ImgXY));
+}
+
+bool FrmHotSpot::OnCommand(int id, int code) {
+  static constexpr Event<FrmHotSpot> events[] = {
+      {FrmHotSpot_CmdOk, FrmHotSpot_CmdOk, BN_CLICKED, Call<&FrmHotSpot::CmdOk_Click>},
+      {FrmHotSpot_CmdCancel, FrmHotSpot_CmdCancel, BN_CLICKED, Call<&FrmHotSpot::CmdCancel_Click>},
+      {IDCANCEL, IDCANCEL, BN_CLICKED, Call<&FrmHotSpot::CmdCancel_Click>},  // Esc
+  };
+  return Dispatch<FrmHotSpot>(*this, events, id, code);
+}
+
+void FrmHotSpot::OnPicture(const PictureEvent& event) {
+  if (event.kind == PictureEvent::Kind::MouseMove) return PicCursor_MouseMove(event);
+  // The second press of a double click is a press.
+  if (event.kind == PictureEvent::Kind::MouseDown || event.kind == PictureEvent::Kind::DblClick)
+    PicCursor_MouseDown(event);
+}
+
+void FrmHotSpot::PicCursor_MouseDown(const PictureEvent& event) {
+  if (event.button != leftButton) return;
+  const int scale = HotSpotScale(state_.MagnifiedSide);
+  hotX_ = PickedCoordinate(event.x, scale, state_.HotSpotBound);
+  hotY_ = PickedCoordinate(event.y, scale, state_.HotSpotBound);
+  SetItemText(FrmHotSpot_LblHotX, TwoDigits(hotX_));
+  SetItemText(FrmHotSpot_LblHotY, TwoDigits(hotY_));
+}
+
+void FrmHotSpot::PicCursor_MouseMove(const PictureEvent& event) {
+  const int scale = HotSpotScale(state_.MagnifiedSide);
+  SetItemText(FrmHotSpot_lblxy, TwoDigits(PointedCoordinate(event.x, scale, state_.HotSpotBound)) + ", " +
+                                    TwoDigits(PointedCoordinate(event.y, scale, state_.HotSpotBound)));
+}
+
+void FrmHotSpot::CmdOk_Click() {
+  state_.HotSpotX = hotX_;
+  state_.HotSpotY = hotY_;
+  state_.HotSpotCancelled = false;
+  Unload();
+}
+
+void FrmHotSpot::CmdCancel_Click() {
+  Unload();
+}
+
+}  // namespace tarvik

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+
+#include "forms/Form.h"
+#include "platform/Surface.h"
+#include "startup/ProgramState.h"
+
+namespace tarvik {
+
+// The hot-spot picker: shows the current icon magnified, and OK makes the pixel that was clicked the hot spot of the
+// program's state. Opening it sets the state's cancel flag; only OK clears it.
+class FrmHotSpot final : public Form {
+ public:
+  // `picMain` is the icon magnified, top-left aligned in a square of the state's MagnifiedSide. `state` outlives the
+  // form.
+  FrmHotSpot(Application& application, ProgramState& state, std::function<const Surface&()> picMain);
+
+ private:
+  void Form_Load() override;
+  void Form_Paint(HDC dc) override;
+  bool OnCommand(int id, int code) override;
+  void OnPicture(const PictureEvent& event) override;
+
+  void PicCursor_MouseDown(const PictureEvent& event);
+  void PicCursor_MouseMove(const PictureEvent& event);
+  void CmdOk_Click();
+  void CmdCancel_Click();
+
+  void PlacePicture();
+
+  ProgramState& state_;
+  std::function<const Surface&()> picMain_;
+  std::optional<Surface> picCursor_;
+  Integer16 hotX_;
+  Integer16 hotY_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,273 @@
+#include "export/SaveCommands.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "export/ModMicroArt.h"
+#include "export/ModMicroArtFileIO.h"
+#include "export/SaveTexts.h"
+#include "startup/AsciiCase.h"
+
+namespace tarvik {
+namespace {
+
+using ModMicroArt::BlackAndWhite;
+using ModMicroArt::Classify;
+
+// The three prefixes of batch names. The last is spelled that way on purpose.
+constexpr std::string_view iconPrefix = "Icon ";
+constexpr std::string_view imagePrefix = "Images ";
+constexpr std::string_view cursorPrefix = "Curor ";
+
+// What the folder chooser is told is about to be saved.
+constexpr std::string_view iconSaveExtension = ".ICO";
+constexpr std::string_view cursorSaveExtension = ".CUR";
+
+// What stands behind the last dot of the path's last name, in upper case; empty where that name has no dot.
+std::string UpperExtension(std::string_view path) {
+  const std::string_view name = path.substr(path.find_last_of("\\/:") + 1);
+  const std::size_t dot = name.rfind('.');
+  if (dot == std::string_view::npos) return {};
+  std::string extension(name.substr(dot + 1));
+  std::ranges::transform(extension, extension.begin(), UpperAscii);
+  return extension;
+}
+
+// Deletes the temporary bitmap when it ends, however that comes about.
+class TemporaryPictureUse {
+ public:
+  explicit TemporaryPictureUse(TemporaryPicture& picture) : picture_(picture) {}
+  ~TemporaryPictureUse() { picture_.Delete(); }
+  TemporaryPictureUse(const TemporaryPictureUse&) = delete;
+  TemporaryPictureUse& operator=(const TemporaryPictureUse&) = delete;
+
+  const PixelView* PassThrough(const PixelView& picture) { return picture_.PassThrough(picture); }
+
+ private:
+  TemporaryPicture& picture_;
+};
+
+}  // namespace
+
+// The hourglass and the progress text for as long as it lives; then the status text that was there before.
+class SaveCommands::Saving {
+ public:
+  explicit Saving(SaveCommands& commands)
+      : window_(commands.window_), hourglass_(window_.ShowHourglass()), formerStatus_(window_.StatusText()) {
+    if (const auto text = Pick(saveTexts::progress, commands.state_.CurrentLanguage))
+      window_.SetStatusText(std::string(*text));
+  }
+  ~Saving() { window_.SetStatusText(formerStatus_); }
+  Saving(const Saving&) = delete;
+  Saving& operator=(const Saving&) = delete;
+
+ private:
+  SaveWindow& window_;
+  std::shared_ptr<void> hourglass_;
+  std::string formerStatus_;
+};
+
+bool SaveCommands::RenderCurrent() {
+  const int current = search_.CurrentIndex + 1;
+  if (!list_.Has(current)) return false;
+  window_.RenderEntry(current);
+  return true;
+}
+
+bool SaveCommands::WriteIcon(const std::string& path) {
+  const auto colors = Classify(window_.PicImage(), BlackAndWhite::InFixedSlots);
+  return ModMicroArtFileIO::WriteIcon(window_.PicMask(), window_.PicImage(), colors, path, tools_.files);
+}
+
+bool SaveCommands::WriteCursor(const std::string& path) {
+  const auto colors = Classify(window_.PicImage(), BlackAndWhite::InFixedSlots);
+  const ModMicroArtFileIO::HotSpot hotSpot{state_.HotSpotX, state_.HotSpotY};
+  return ModMicroArtFileIO::WriteCursor(window_.PicMask(), window_.PicImage(), colors, hotSpot, path, tools_.files);
+}
+
+bool SaveCommands::WriteBitmap(const std::string& path) {
+  const auto colors = Classify(window_.PicIcon(), BlackAndWhite::InOrder);
+  return ModMicroArtFileIO::WriteBitmap(window_.PicIcon(), colors, path, tools_.files);
+}
+
+void SaveCommands::mnuSaveAs_Click() {
+  const auto held = window_.HoldCommands();
+  if (!RenderCurrent()) return;
+  std::string path;
+  bool written = false;
+  {
+    const Saving saving(*this);
+    path = tools_.dialogs.AskForPath(saveAsMode);
+    if (path.empty()) return;
+    written = WriteIcon(path);
+  }
+  if (!written) Tell(saveTexts::iconFailed, MessageKind::Failure, path);
+}
+
+void SaveCommands::MnuSaveAsBitmap_Click() {
+  const auto held = window_.HoldCommands();
+  if (!RenderCurrent()) return;
+  const std::string path = tools_.dialogs.AskForPath(saveAsImageMode);
+  if (path.empty()) return;
+  const std::string extension = UpperExtension(path);
+  if (extension == "JPG") return SaveBMPToJPG(path);
+  if (extension == "GIF") return SaveBMPToGIF(path);
+  SaveBitmapNamed(path);
+}
+
+void SaveCommands::SaveBitmapNamed(const std::string& path) {
+  bool written = false;
+  {
+    const Saving saving(*this);
+    written = WriteBitmap(path);
+  }
+  if (!written) Tell(saveTexts::imageFailed, MessageKind::Failure);
+}
+
+void SaveCommands::SaveBMPToJPG(const std::string& path) {
+  DialogAnswer answer = DialogAnswer::Failed;
+  {
+    TemporaryPictureUse temporary(tools_.temporaryPicture);
+    // A picture that could not be had is not offered to the dialog.
+    if (const PixelView* picture = temporary.PassThrough(window_.PicIcon())) {
+      JpegDialog& dialog = tools_.dialogs.NewSaveJPG();
+      dialog.InitJpegExport(*picture, path, DialogMode::Single);
+      answer = dialog.ShowFor(DialogMode::Single);
+    }
+  }
+  if (answer == DialogAnswer::Failed) Tell(saveTexts::imageFailed, MessageKind::Failure);
+}
+
+void SaveCommands::SaveBMPToGIF(const std::string& path) {
+  const DialogAnswer answer = tools_.dialogs.NewConvertGIF().ShowFor(DialogMode::Single, path);
+  if (answer == DialogAnswer::Failed) Tell(saveTexts::imageFailed, MessageKind::Failure);
+}
+
+void SaveCommands::MnuSaveAsCursor_Click() {
+  const auto held = window_.HoldCommands();
+  if (!RenderCurrent()) return;
+  tools_.dialogs.ShowFrmHotSpot();
+  if (state_.HotSpotCancelled) return;
+  const std::string path = tools_.dialogs.AskForPath(saveAsCursorMode);
+  if (path.empty()) return;
+  bool written = false;
+  {
+    const Saving saving(*this);
+    written = WriteCursor(path);
+  }
+  if (!written) Tell(saveTexts::cursorFailed, MessageKind::Failure);
+}
+
+void SaveCommands::mnuSaveAll_Click() {
+  SaveIcons(Scope::All);
+}
+
+void SaveCommands::mnuSaveAll2_Click() {
+  SaveImages(Scope::All);
+}
+
+void SaveCommands::mnuSaveAll3_Click() {
+  SaveCursors(Scope::All);
+}
+
+void SaveCommands::mnuSaveSel_Click() {
+  if (IsAnySelected()) SaveIcons(Scope::Selected);
+}
+
+void SaveCommands::mnuSaveSel2_Click() {
+  if (IsAnySelected()) SaveImages(Scope::Selected);
+}
+
+void SaveCommands::mnuSaveSel3_Click() {
+  if (IsAnySelected()) SaveCursors(Scope::Selected);
+}
+
+bool SaveCommands::IsAnySelected() {
+  if (list_.AnySelected()) return true;
+  Tell(saveTexts::noneSelected, MessageKind::Hint);
+  return false;
+}
+
+std::string SaveCommands::AskForFolder(std::string_view saveExtension) {
+  state_.SaveExtension = saveExtension;
+  std::string folder = tools_.dialogs.ShowDir();
+  if (!folder.empty() && !folder.ends_with('\\')) folder += '\\';
+  return folder;
+}
+
+void SaveCommands::SaveIcons(Scope scope) {
+  const auto held = window_.HoldCommands();
+  const std::string folder = AskForFolder(iconSaveExtension);
+  if (folder.empty()) return;
+  SaveBatch(scope, folder, {iconPrefix, ".ico", saveTexts::iconFailed},
+            [this](const std::string& path) { return WriteIcon(path); });
+}
+
+void SaveCommands::SaveCursors(Scope scope) {
+  const auto held = window_.HoldCommands();
+  const std::string folder = AskForFolder(cursorSaveExtension);
+  if (folder.empty()) return;
+  SaveBatch(scope, folder, {cursorPrefix, ".cur", saveTexts::cursorFailed},
+            [this](const std::string& path) { return WriteCursor(path); });
+}
+
+void SaveCommands::SaveImages(Scope scope) {
+  const auto held = window_.HoldCommands();
+  const std::string folder = AskForFolder(*ImageExtension(0));
+  if (folder.empty()) return;
+  const BatchKind kind{imagePrefix, state_.SaveExtension, saveTexts::imageFailed};
+  const std::string extension = UpperExtension(kind.extension);
+  if (extension == "JPG") return SaveBMPToJPGForNoSingle(scope, folder, kind);
+  if (extension == "GIF") return SaveBMPToGIFForNoSingle(scope, folder, kind);
+  SaveBatch(scope, folder, kind, [this](const std::string& path) { return WriteBitmap(path); });
+}
+
+void SaveCommands::SaveBMPToJPGForNoSingle(Scope scope, const std::string& folder, const BatchKind& kind) {
+  JpegDialog& dialog = tools_.dialogs.NewSaveJPG();
+  const std::shared_ptr<void> freed(nullptr, [&dialog](void*) { dialog.FreeObj(); });
+  if (dialog.ShowFor(DialogMode::NoSingle) != DialogAnswer::Ok) return;
+  TemporaryPictureUse temporary(tools_.temporaryPicture);
+  SaveBatch(scope, folder, kind, [&](const std::string& path) {
+    const PixelView* picture = temporary.PassThrough(window_.PicIcon());
+    if (picture == nullptr) return false;
+    dialog.InitJpegExport(*picture, path, DialogMode::NoSingle);
+    return dialog.SaveToJPGForNoSingle(path);
+  });
+}
+
+void SaveCommands::SaveBMPToGIFForNoSingle(Scope scope, const std::string& folder, const BatchKind& kind) {
+  GifDialog& dialog = tools_.dialogs.NewConvertGIF();
+  const std::shared_ptr<void> freed(nullptr, [&dialog](void*) { dialog.FreeGifObj(); });
+  if (dialog.ShowFor(DialogMode::NoSingle, {}) != DialogAnswer::Ok) return;
+  SaveBatch(scope, folder, kind, [&](const std::string& path) { return dialog.SaveToGIFNoSingle(path); });
+}
+
+void SaveCommands::SaveBatch(Scope scope, const std::string& folder, const BatchKind& kind, const Write& write) {
+  const Saving saving(*this);
+  int saved = 0;
+  for (int number = 1; number <= list_.Count(); ++number) {
+    if (scope == Scope::Selected && !list_.Item(number).selected) continue;
+    ++saved;
+    window_.RenderEntry(number);
+    const std::string path = folder + std::string(kind.prefix) + std::to_string(saved) + std::string(kind.extension);
+    if (!write(path)) Tell(kind.failed, MessageKind::Failure, path);
+    window_.ServePainting();
+  }
+}
+
+void SaveCommands::mnuCopy_Click() {
+  const auto held = window_.HoldCommands();
+  if (RenderCurrent() && !window_.CopyPicClip()) Tell(saveTexts::clipboardHeld, MessageKind::Failure);
+}
+
+void SaveCommands::CleanUp() {
+  tools_.temporaryPicture.Delete();
+  tools_.dialogs.FreeEncoders();
+}
+
+void SaveCommands::Tell(const Text& text, MessageKind kind, const std::string& path) {
+  if (const auto message = Compose(text, state_.CurrentLanguage, {path})) window_.ShowMessage(*message, kind);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,108 @@
+#include "export/TemporaryBitmap.h"
+
+#include <windows.h>
+
+#include <cstddef>
+#include <cstdlib>
+#include <cstring>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "export/FileFormats.h"
+#include "export/IconSurfaces.h"
+#include "export/ModMicroArtFileIO.h"
+#include "platform/Paths.h"
+#include "platform/Text.h"
+
+namespace tarvik {
+namespace {
+
+constexpr const char* firstPath = "C:\\tmp.bmp";
+
+// Writes into an open file, from its start. The path was settled when the file was made.
+class OpenFileSink final : public FileSink {
+ public:
+  explicit OpenFileSink(HANDLE file) : file_(file) {}
+
+  bool Open(const std::string& /*path*/) override {
+    return SetFilePointer(file_, 0, nullptr, FILE_BEGIN) == 0 && SetEndOfFile(file_) != 0;
+  }
+  bool Write(std::span<const std::byte> bytes) override {
+    DWORD written = 0;
+    return WriteFile(file_, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != 0 &&
+           written == bytes.size();
+  }
+  bool Close() override { return true; }
+
+ private:
+  HANDLE file_;
+};
+
+// All bytes of an open file; none where they cannot be read.
+std::vector<std::byte> ReadFromStart(HANDLE file) {
+  std::vector<std::byte> bytes(GetFileSize(file, nullptr));
+  DWORD read = 0;
+  if (SetFilePointer(file, 0, nullptr, FILE_BEGIN) != 0 ||
+      ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr) == 0 || read != bytes.size())
+    return {};
+  return bytes;
+}
+
+}  // namespace
+
+TemporaryBitmap::TemporaryBitmap(Places places) : places_(std::move(places)) {}
+
+const PixelView* TemporaryBitmap::PassThrough(const PixelView& picture) {
+  if (!file_ && !Make()) return nullptr;
+  return Write(picture) && ReadBack() ? &*picture_ : nullptr;
+}
+
+void TemporaryBitmap::Delete() {
+  file_.reset();
+  path_.clear();
+  picture_.reset();
+}
+
+bool TemporaryBitmap::Make() {
+  if (MakeNew(places_.path)) return true;
+  constexpr int attempts = 100;
+  const std::string stem = places_.folder + "tarvik" + std::to_string(GetCurrentProcessId()) + "-";
+  for (int attempt = 0; attempt < attempts; ++attempt)
+    if (MakeNew(stem + std::to_string(attempt) + ".bmp")) return true;
+  return false;
+}
+
+bool TemporaryBitmap::MakeNew(const std::string& path) {
+  file_.reset(CreateFileW(ToWide(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE,
+                          FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, CREATE_NEW,
+                          FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+  if (file_) path_ = path;
+  return static_cast<bool>(file_);
+}
+
+bool TemporaryBitmap::Write(const PixelView& picture) {
+  OpenFileSink sink(file_.get());
+  return ModMicroArtFileIO::WriteTrueColorBitmap(picture, path_, sink);
+}
+
+bool TemporaryBitmap::ReadBack() {
+  constexpr std::size_t infoPlace = FileFormats::bitmapFileHeaderBytes;
+  constexpr std::size_t pixelPlace = infoPlace + FileFormats::infoHeaderBytes;
+  const std::vector<std::byte> bytes = ReadFromStart(file_.get());
+  if (bytes.size() <= pixelPlace) return false;
+  BITMAPINFO info{};
+  std::memcpy(&info.bmiHeader, &bytes[infoPlace], sizeof info.bmiHeader);
+  const int width = info.bmiHeader.biWidth;
+  const int height = info.bmiHeader.biHeight;
+  if (!picture_) picture_.emplace(width, height, surfaceBackground);
+  picture_->Resize(width, height, surfaceBackground);
+  return SetDIBitsToDevice(picture_->Dc(), 0, 0, static_cast<DWORD>(width), static_cast<DWORD>(height), 0, 0, 0,
+                           static_cast<UINT>(height), &bytes[pixelPlace], &info, DIB_RGB_COLORS) == height;
+}
+
+TemporaryBitmap::Places TemporaryBitmapPlaces() {
+  return {firstPath, TempFolder()};
+}
+
+}  // namespace tarvik

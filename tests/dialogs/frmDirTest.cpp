@@ -1,0 +1,263 @@
+#include "dialogs/frmDir.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "dialogs/FolderDialogTexts.h"
+#include "forms/BoxWatcher.h"
+#include "forms/Controls.h"
+#include "forms/ModalDriver.h"
+#include "platform/FolderPath.h"
+#include "resource.h"
+
+namespace tarvik {
+namespace {
+
+using testing::Command;
+using testing::TextOf;
+
+class frmDirTest : public ::testing::Test {
+ protected:
+  frmDirTest() {
+    state.CurrentLanguage = "ENG";
+    state.SaveExtension = ".ICO";
+    application.OnRuntimeError = [](Form& /*form*/, const RuntimeError& /*error*/) { ADD_FAILURE(); };
+    owner = CreateWindowW(L"Static", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr,
+                          nullptr);
+    subFolders["C:\\work"] = {"C:\\work\\a", "C:\\work\\b"};
+  }
+  ~frmDirTest() override { DestroyWindow(owner); }
+
+  // Shows the dialog; the steps given before work it. What it returned.
+  std::string Show() {
+    const std::string answer = form.ShowDir(owner);
+    EXPECT_TRUE(driver.IsDone());
+    EXPECT_TRUE(IsWindowEnabled(owner));
+    return answer;
+  }
+  void OnDir(testing::ModalDriver::Step step) { driver.On(frmDir_dirMain, std::move(step)); }
+  void OnCreate(testing::ModalDriver::Step step) { driver.On(frmDirCreate_txt, std::move(step)); }
+  static testing::ModalDriver::Step Press(int id) {
+    return [id](HWND window) { Command(window, id); };
+  }
+
+  Application application{GetModuleHandleW(nullptr)};
+  ProgramState state;
+  HWND owner = nullptr;
+  std::string firstFolder = "C:\\work";
+  std::map<std::string, std::vector<std::string>> subFolders;
+  std::vector<std::string> made;  // what the new-folder dialog asked for
+  bool canMake = true;
+  testing::ModalDriver driver;
+  testing::BoxWatcher boxes;
+  frmDir form{application,
+              state,
+              {[] {
+                 return std::vector<DriveListBox::Drive>{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
+               },
+               [this](const std::string& folder) { return subFolders[folder]; },
+               [this](const std::string& path) -> std::optional<std::string> {
+                 made.push_back(path);
+                 if (!canMake) return std::nullopt;
+                 subFolders[ParentFolder(path)].push_back(path);
+                 return path;
+               },
+               [this] { return firstFolder; }}};
+};
+
+TEST_F(frmDirTest, OpensAtTheMainWindowsFolder) {
+  OnDir([this](HWND window) {
+    EXPECT_EQ(TextOf(window, frmDir_lblDir), "C:\\work");
+    EXPECT_EQ(TextOf(window, frmDir_drvMain), "c: [SYSTEM]");
+    EXPECT_FALSE(IsWindowEnabled(owner));
+    Command(window, frmDir_CmdOk);
+  });
+  EXPECT_EQ(Show(), "C:\\work");
+}
+
+TEST_F(frmDirTest, ShowsItsTextsInEachLanguage) {
+  for (const std::string language : {"ENG", "CHS", "CHT"}) {
+    state.CurrentLanguage = language;
+    OnDir([&](HWND window) {
+      for (const FormText& row : frmDirTexts)
+        EXPECT_EQ(row.id == formCaption ? TextOf(window) : TextOf(window, row.id), *Pick(row.text, language));
+      Command(window, frmDir_CmdCancel);
+    });
+    Show();
+  }
+}
+
+TEST_F(frmDirTest, HidesTheTypesForIconsAndCursors) {
+  for (const std::string extension : {".ICO", ".CUR", ".cur"}) {
+    state.SaveExtension = extension;
+    OnDir([](HWND window) {
+      EXPECT_FALSE(IsWindowVisible(GetDlgItem(window, frmDir_CboFileType)));
+      Command(window, frmDir_CmdOk);
+    });
+    Show();
+    EXPECT_EQ(state.SaveExtension, extension);
+  }
+}
+
+TEST_F(frmDirTest, HoldsTheTypesTwiceAfterLoadingAndOnceMoreAfterEachChoice) {
+  state.SaveExtension = ".bmp";
+  OnDir([this](HWND window) {
+    EXPECT_TRUE(IsWindowVisible(GetDlgItem(window, frmDir_CboFileType)));
+    EXPECT_EQ(testing::RowCount(window, frmDir_CboFileType), 18);
+    EXPECT_EQ(testing::ChosenRow(window, frmDir_CboFileType), 0);
+    EXPECT_EQ(testing::RowText(window, frmDir_CboFileType, 2), "JPG Files (*.jpg)");
+    EXPECT_EQ(testing::RowText(window, frmDir_CboFileType, 9 + 8), "EMF Files (*.emf)");
+    testing::ChooseRow(window, frmDir_CboFileType, 2);
+    EXPECT_EQ(state.SaveExtension, ".jpg");
+    EXPECT_EQ(testing::RowCount(window, frmDir_CboFileType), 27);
+    testing::ChooseRow(window, frmDir_CboFileType, 8);
+    EXPECT_EQ(state.SaveExtension, ".emf");
+    testing::ChooseRow(window, frmDir_CboFileType, 9);
+    EXPECT_EQ(state.SaveExtension, ".emf") << "only the first nine name an extension";
+    EXPECT_EQ(testing::RowCount(window, frmDir_CboFileType), 45);
+    Command(window, frmDir_CmdOk);
+  });
+  Show();
+  EXPECT_EQ(state.SaveExtension, ".emf");
+}
+
+TEST_F(frmDirTest, StartsWithBitmapsWhateverWasChosenLast) {
+  state.SaveExtension = ".jpg";
+  OnDir(Press(frmDir_CmdOk));
+  Show();
+  EXPECT_EQ(state.SaveExtension, ".bmp");
+}
+
+TEST_F(frmDirTest, FollowsTheFolderThatIsOpened) {
+  OnDir([](HWND window) {
+    testing::OpenRow(window, frmDir_dirMain, 3);  // C:\, work, a, b
+    EXPECT_EQ(TextOf(window, frmDir_lblDir), "C:\\work\\b");
+    SendMessageW(GetDlgItem(window, frmDir_dirMain), LB_SETCURSEL, 0, 0);
+    SendMessageW(GetDlgItem(window, frmDir_dirMain), WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_EQ(TextOf(window, frmDir_lblDir), "C:\\");
+    Command(window, frmDir_CmdOk);
+  });
+  EXPECT_EQ(Show(), "C:\\");
+}
+
+TEST_F(frmDirTest, MovesToTheChosenDrive) {
+  OnDir([](HWND window) {
+    testing::ChooseRow(window, frmDir_drvMain, 1);
+    EXPECT_EQ(TextOf(window, frmDir_lblDir), "D:\\");
+    Command(window, frmDir_CmdOk);
+  });
+  EXPECT_EQ(Show(), "D:\\");
+}
+
+TEST_F(frmDirTest, ReturnsNothingWhereItIsCancelled) {
+  for (const int id : {frmDir_CmdCancel, IDCANCEL}) {
+    OnDir(Press(id));
+    EXPECT_EQ(Show(), "");
+  }
+}
+
+TEST_F(frmDirTest, ReturnsTheFolderLastShownWhereItIsClosed) {
+  OnDir([](HWND window) { PostMessageW(window, WM_CLOSE, 0, 0); });
+  EXPECT_EQ(Show(), "C:\\work");
+  OnDir([](HWND window) {
+    testing::OpenRow(window, frmDir_dirMain, 2);
+    PostMessageW(window, WM_CLOSE, 0, 0);
+  });
+  EXPECT_EQ(Show(), "C:\\work\\a");
+}
+
+TEST_F(frmDirTest, ChoosesTheFolderThatIsCreated) {
+  OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
+  OnCreate([](HWND window) {
+    EXPECT_EQ(TextOf(window), "Create In C:\\work");
+    EXPECT_EQ(TextOf(window, frmDirCreate_txt), "New Folder");
+    testing::SetText(window, frmDirCreate_txt, "新");
+    Command(window, frmDirCreate_CmdOk);
+  });
+  OnDir([](HWND window) {
+    EXPECT_EQ(TextOf(window, frmDir_lblDir), "C:\\work\\新");
+    Command(window, frmDir_CmdOk);
+  });
+  EXPECT_EQ(Show(), "C:\\work\\新");
+  EXPECT_EQ(made, std::vector<std::string>{"C:\\work\\新"});
+}
+
+TEST_F(frmDirTest, DoublesNoBackslashBehindADriveRoot) {
+  firstFolder = "C:\\";
+  OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
+  OnCreate(Press(frmDirCreate_CmdOk));
+  OnDir(Press(frmDir_CmdOk));
+  EXPECT_EQ(Show(), "C:\\New Folder");
+}
+
+TEST_F(frmDirTest, CreatesNothingWhereThatIsCancelled) {
+  OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
+  OnCreate(Press(frmDirCreate_CmdCancel));
+  OnDir(Press(frmDir_CmdOk));
+  EXPECT_EQ(Show(), "C:\\work");
+  EXPECT_TRUE(made.empty());
+}
+
+TEST_F(frmDirTest, NamesTheNewFolderInEachLanguage) {
+  struct Row {
+    const char* language;
+    const char* caption;
+    const char* name;
+    const char* label;
+  };
+  for (const Row& row : {Row{"CHS", "在C:\\work中创建子文件夹", "新建文件夹", "文件夹:"},
+                         {"CHT", "在C:\\work中創建子文件夾", "新建文件夾", "文件夾:"},
+                         {"ENG", "Create In C:\\work", "New Folder", "Folder:"}}) {
+    state.CurrentLanguage = row.language;
+    OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
+    OnCreate([&row](HWND window) {
+      EXPECT_EQ(TextOf(window), row.caption);
+      EXPECT_EQ(TextOf(window, frmDirCreate_txt), row.name);
+      EXPECT_EQ(TextOf(window, frmDirCreate_lblCaption), row.label);
+      DWORD start = 99;
+      DWORD end = 0;
+      SendMessageW(GetDlgItem(window, frmDirCreate_txt), EM_GETSEL, reinterpret_cast<WPARAM>(&start),
+                   reinterpret_cast<LPARAM>(&end));
+      EXPECT_EQ(start, 0U);
+      EXPECT_EQ(end, ToWide(row.name).size()) << "the name stands selected";
+      Command(window, frmDirCreate_CmdCancel);
+    });
+    OnDir(Press(frmDir_CmdCancel));
+    Show();
+  }
+}
+
+TEST_F(frmDirTest, StaysOpenWithTheTypedNameWhereAFolderCannotBeCreated) {
+  struct Row {
+    const char* language;
+    const char* title;
+    const char* text;
+  };
+  canMake = false;
+  for (const Row& row :
+       {Row{"ENG", "Cannot Create",
+            "Unable to create folder. Please check that whether the name you entered is valid and contains no invalid "
+            "characters"},
+        {"CHS", "创建失败", "无法创建文件夹. 文件夹名称不能包括以下字符:\r\n\\/:*?\"<>|"},
+        {"CHT", "創建失敗", "無法創建文件夾. 檔夾名稱不能包括以下字元:\r\n\\/:*?\"<>|"}}) {
+    state.CurrentLanguage = row.language;
+    OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
+    OnCreate([](HWND window) {
+      testing::SetText(window, frmDirCreate_txt, "a:b");
+      PostMessageW(window, WM_COMMAND, frmDirCreate_CmdOk, 0);
+    });
+    OnCreate([&](HWND window) {
+      EXPECT_EQ(boxes.Boxes().back().title, row.title);
+      EXPECT_EQ(boxes.Boxes().back().text, row.text);
+      EXPECT_EQ(TextOf(window, frmDirCreate_txt), "a:b");
+      Command(window, frmDirCreate_CmdCancel);
+    });
+    OnDir(Press(frmDir_CmdOk));
+    EXPECT_EQ(Show(), "C:\\work");
+    EXPECT_EQ(made.back(), "C:\\work\\a:b");
+  }
+}
+
+}  // namespace
+}  // namespace tarvik

@@ -1,0 +1,225 @@
+#include "encoders/fSaveJPG.h"
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "encoders/EncodedImages.h"
+#include "encoders/JpegOptions.h"
+#include "export/TestRaster.h"
+#include "forms/Controls.h"
+#include "forms/ModalDriver.h"
+#include "platform/DiskFile.h"
+#include "platform/DiskTarget.h"
+#include "platform/TemporaryFolder.h"
+#include "resource.h"
+
+namespace tarvik {
+namespace {
+
+using testing::ChooseRow;
+using testing::ChosenRow;
+using testing::Command;
+using testing::ReadAll;
+using testing::TextOf;
+
+class fSaveJPGTest : public ::testing::Test {
+ protected:
+  fSaveJPGTest() {
+    state.CurrentLanguage = "ENG";
+    application.OnRuntimeError = [](Form& /*form*/, const RuntimeError& /*error*/) { ADD_FAILURE(); };
+  }
+
+  // Shows the dialog for one file; `work` works it.
+  DialogAnswer ShowSingle(testing::ModalDriver::Step work) {
+    form.InitJpegExport(picture, path, DialogMode::Single);
+    driver.On(fSaveJPG_CboSize, std::move(work));
+    return form.ShowFor(DialogMode::Single);
+  }
+  void MoveTo(int quality) {
+    // As far up as it goes, then step by step.
+    Scroll(SB_TOP);
+    for (int step = 1; step < quality; ++step) Scroll(SB_LINEDOWN);
+  }
+  void Scroll(int request) {
+    SendMessageW(form.Window(), WM_HSCROLL, static_cast<WPARAM>(request),
+                 reinterpret_cast<LPARAM>(form.Item(fSaveJPG_hscQuality)));
+  }
+
+  Application application{GetModuleHandleW(nullptr)};
+  ProgramState state;
+  testing::TemporaryFolder folder;
+  std::string path = folder.In("图.jpg");
+  TestRaster picture{32, [](int x, int y) { return static_cast<Color>(x * 8 + y * 8 * 256); }};
+  DiskFile files;
+  DiskTarget targets;
+  testing::ModalDriver driver;
+  fSaveJPG form{application, state, nullptr, files, targets};
+};
+
+TEST_F(fSaveJPGTest, OpensWithMediumQualityAndTheDefaultSampling) {
+  form.Show();
+  EXPECT_EQ(form.ItemText(fSaveJPG_txtQual), "60");
+  EXPECT_EQ(form.ItemText(fSaveJPG_CboSize), "Medium");
+  EXPECT_EQ(form.ItemText(fSaveJPG_cboSubSample), "2:2  [Default]");
+  EXPECT_EQ(testing::RowCount(form.Window(), fSaveJPG_CboSize), 5);
+  EXPECT_EQ(testing::RowCount(form.Window(), fSaveJPG_cboSubSample), 16);
+}
+
+TEST_F(fSaveJPGTest, ShowsItsTextsInEachLanguage) {
+  for (const std::string language : {"ENG", "CHS", "CHT"}) {
+    state.CurrentLanguage = language;
+    form.Load();
+    EXPECT_EQ(TextOf(form.Window()), *Pick(fSaveJPG_Caption, language));
+    for (const DialogText& row : fSaveJPG_Texts) EXPECT_EQ(form.ItemText(row.control), *Pick(row.text, language));
+    for (int preset = 0; preset < 5; ++preset)
+      EXPECT_EQ(testing::RowText(form.Window(), fSaveJPG_CboSize, preset),
+                *Pick(qualityPresets.at(static_cast<std::size_t>(preset)), language));
+    form.Unload();
+  }
+}
+
+TEST_F(fSaveJPGTest, SetsTheQualityByThePreset) {
+  form.Load();
+  for (const auto& [preset, quality] : {std::pair{4, "100"}, {0, "20"}, {1, "40"}, {3, "80"}, {2, "60"}}) {
+    ChooseRow(form.Window(), fSaveJPG_CboSize, preset);
+    EXPECT_EQ(form.ItemText(fSaveJPG_txtQual), quality);
+  }
+}
+
+TEST_F(fSaveJPGTest, MovesThePresetAtTheEndsOfItsStepsOnly) {
+  form.Load();
+  MoveTo(35);
+  EXPECT_EQ(form.ItemText(fSaveJPG_txtQual), "35");
+  EXPECT_EQ(form.ItemText(fSaveJPG_CboSize), "Low") << "as it was on the way, at 21";
+  ChooseRow(form.Window(), fSaveJPG_CboSize, 4);
+  for (int step = 100; step > 85; --step) Scroll(SB_LINEUP);
+  EXPECT_EQ(form.ItemText(fSaveJPG_txtQual), "85");
+  EXPECT_EQ(form.ItemText(fSaveJPG_CboSize), "Highest");
+  for (int step = 85; step > 80; --step) Scroll(SB_LINEUP);
+  EXPECT_EQ(form.ItemText(fSaveJPG_CboSize), "High");
+  MoveTo(40);
+  EXPECT_EQ(form.ItemText(fSaveJPG_CboSize), "Low");
+  MoveTo(7);
+  EXPECT_EQ(form.ItemText(fSaveJPG_CboSize), "Lowest");
+  EXPECT_EQ(form.ItemText(fSaveJPG_txtQual), "7");
+}
+
+TEST_F(fSaveJPGTest, WritesTheFileWithTheChosenOptions) {
+  EXPECT_EQ(ShowSingle([](HWND window) {
+              ChooseRow(window, fSaveJPG_CboSize, 4);
+              ChooseRow(window, fSaveJPG_cboSubSample, 10);
+              Command(window, fSaveJPG_cmdFinish1);
+            }),
+            DialogAnswer::Ok);
+  const std::string jpeg = ReadAll(path);
+  EXPECT_EQ(testing::ComponentsOf(jpeg), 3);
+  EXPECT_EQ(testing::LuminanceFactorsOf(jpeg), 0x41);
+  EXPECT_EQ(testing::FirstQuantiser(jpeg), 1) << "quality 100";
+  EXPECT_FALSE(form.IsLoaded());
+}
+
+TEST_F(fSaveJPGTest, DisablesTheSamplingForGreyscaleAndTakesItUpAgain) {
+  ShowSingle([](HWND window) {
+    ChooseRow(window, fSaveJPG_cboSubSample, 2);
+    CheckDlgButton(window, fSaveJPG_chkGreyscale, BST_CHECKED);
+    Command(window, fSaveJPG_chkGreyscale);
+    EXPECT_FALSE(IsWindowEnabled(GetDlgItem(window, fSaveJPG_cboSubSample)));
+    Command(window, fSaveJPG_cmdFinish1);
+  });
+  EXPECT_EQ(testing::ComponentsOf(ReadAll(path)), 1);
+  ShowSingle([](HWND window) {
+    ChooseRow(window, fSaveJPG_cboSubSample, 2);
+    for (const UINT check : {UINT{BST_CHECKED}, UINT{BST_UNCHECKED}}) {
+      CheckDlgButton(window, fSaveJPG_chkGreyscale, check);
+      Command(window, fSaveJPG_chkGreyscale);
+    }
+    EXPECT_TRUE(IsWindowEnabled(GetDlgItem(window, fSaveJPG_cboSubSample)));
+    Command(window, fSaveJPG_cmdFinish1);
+  });
+  EXPECT_EQ(testing::ComponentsOf(ReadAll(path)), 3);
+  EXPECT_EQ(testing::LuminanceFactorsOf(ReadAll(path)), 0x21);
+}
+
+TEST_F(fSaveJPGTest, WritesNothingWhereItIsCancelledOrClosed) {
+  for (const auto& leave :
+       {std::pair<UINT, WPARAM>{WM_COMMAND, fSaveJPG_cmdFinish0}, {WM_COMMAND, IDCANCEL}, {WM_CLOSE, 0}}) {
+    EXPECT_EQ(ShowSingle([&](HWND window) { PostMessageW(window, leave.first, leave.second, 0); }),
+              DialogAnswer::Cancelled);
+    EXPECT_EQ(ReadAll(path), "");
+    EXPECT_FALSE(form.IsLoaded());
+  }
+}
+
+TEST_F(fSaveJPGTest, ReplacesAReadOnlyFile) {
+  folder.MakeFile("图.jpg", "former");
+  testing::AddAttributes(path, FILE_ATTRIBUTE_READONLY);
+  EXPECT_EQ(ShowSingle([](HWND window) { Command(window, fSaveJPG_cmdFinish1); }), DialogAnswer::Ok);
+  EXPECT_EQ(testing::ByteAt(ReadAll(path), 1), 0xD8);
+}
+
+TEST_F(fSaveJPGTest, TellsAFileThatCannotBeWritten) {
+  path = folder.MakeFolder("a.jpg");
+  EXPECT_EQ(ShowSingle([](HWND window) { Command(window, fSaveJPG_cmdFinish1); }), DialogAnswer::Failed);
+  path = folder.In("missing\\a.jpg");
+  EXPECT_EQ(ShowSingle([](HWND window) { Command(window, fSaveJPG_cmdFinish1); }), DialogAnswer::Failed);
+}
+
+TEST_F(fSaveJPGTest, KeepsTheOptionsForABatchAndWritesNothingItself) {
+  driver.On(fSaveJPG_CboSize, [](HWND window) {
+    ChooseRow(window, fSaveJPG_CboSize, 0);
+    CheckDlgButton(window, fSaveJPG_chkGreyscale, BST_CHECKED);
+    Command(window, fSaveJPG_chkGreyscale);
+    Command(window, fSaveJPG_cmdFinish1);
+  });
+  EXPECT_EQ(form.ShowFor(DialogMode::NoSingle), DialogAnswer::Ok);
+  EXPECT_TRUE(form.IsLoaded());
+  EXPECT_FALSE(IsWindowVisible(form.Window()));
+  for (const char* name : {"1.jpg", "2.jpg"}) {
+    form.InitJpegExport(picture, folder.In(name), DialogMode::NoSingle);
+    EXPECT_TRUE(form.SaveToJPGForNoSingle(folder.In(name)));
+    EXPECT_EQ(testing::ComponentsOf(ReadAll(folder.In(name))), 1);
+    EXPECT_GT(testing::FirstQuantiser(ReadAll(folder.In(name))), 16) << "quality 20";
+  }
+  form.FreeObj();
+  EXPECT_FALSE(form.IsLoaded());
+}
+
+TEST_F(fSaveJPGTest, WritesTheCommentThatWasTyped) {
+  for (const std::string comment : {"eins\r\n二", ""}) {
+    form.InitJpegExport(picture, path, DialogMode::Single);
+    driver.On(fSaveJPG_CboSize, [](HWND window) { PostMessageW(window, WM_COMMAND, fSaveJPG_cmdComment, 0); });
+    driver.On(fComment_txtComment, [&](HWND window) {
+      EXPECT_EQ(TextOf(window), "Comment");
+      testing::SetText(window, fComment_txtComment, comment);
+      Command(window, fComment_cmdFinish);
+    });
+    driver.On(fSaveJPG_CboSize, [](HWND window) { PostMessageW(window, WM_COMMAND, fSaveJPG_cmdComment, 0); });
+    driver.On(fComment_txtComment, [&](HWND window) {
+      EXPECT_EQ(TextOf(window, fComment_txtComment), comment) << "the text that the encoder holds";
+      testing::SetText(window, fComment_txtComment, "left by Esc");
+      Command(window, IDCANCEL);
+    });
+    driver.On(fSaveJPG_CboSize, [](HWND window) { Command(window, fSaveJPG_cmdFinish1); });
+    EXPECT_EQ(form.ShowFor(DialogMode::Single), DialogAnswer::Ok);
+    EXPECT_EQ(testing::CommentOf(ReadAll(path)), comment);
+  }
+}
+
+TEST(fComment, HasTheSizeOf4800By3460Twips) {
+  Application application{GetModuleHandleW(nullptr)};
+  ProgramState state;
+  state.CurrentLanguage = "CHT";
+  fComment form(application, state);
+  form.Load();
+  RECT place;
+  GetWindowRect(form.Window(), &place);
+  const int dots = 96;
+  EXPECT_NEAR(place.right - place.left, 4800 * dots / 1440.0, 0.5);
+  EXPECT_NEAR(place.bottom - place.top, 3460 * dots / 1440.0, 0.7);
+  EXPECT_EQ(TextOf(form.Window()), "內容");
+  EXPECT_EQ(form.ItemText(fComment_cmdFinish), "確定(&O)");
+}
+
+}  // namespace
+}  // namespace tarvik

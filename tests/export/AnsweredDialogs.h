@@ -1,0 +1,46 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "export/ExportDialogs.h"
+#include "platform/DiskFile.h"
+#include "platform/DiskTarget.h"
+
+namespace tarvik::testing {
+
+// The real dialogs of the save commands, but for the two that ask for a place on the disk: those are answered by the
+// test at once.
+class AnsweredDialogs final : public SaveDialogs {
+ public:
+  AnsweredDialogs(Application& application, ProgramState& state, ExportDialogs::MainWindow mainWindow)
+      : state_(state), real_(application, state, std::move(mainWindow), {}, files_, targets_) {}
+
+  std::string AskForPath(const FileDialogMode& mode) override {
+    asked.emplace_back(mode.titleSuffix.eng);
+    return path;
+  }
+  std::string ShowDir() override {
+    asked.push_back(state_.SaveExtension);
+    if (!extension.empty()) state_.SaveExtension = extension;
+    return folder;
+  }
+  void ShowFrmHotSpot() override { real_.ShowFrmHotSpot(); }
+  JpegDialog& NewSaveJPG() override { return real_.NewSaveJPG(); }
+  GifDialog& NewConvertGIF() override { return real_.NewConvertGIF(); }
+  void FreeEncoders() override { real_.FreeEncoders(); }
+
+  std::string path;  // the answers
+  std::string folder;
+  std::string extension;           // chosen with the folder; empty leaves it
+  std::vector<std::string> asked;  // titles of the Save dialog, and what the folder chooser was for
+
+ private:
+  ProgramState& state_;
+  DiskFile files_;
+  DiskTarget targets_;
+  ExportDialogs real_;
+};
+
+}  // namespace tarvik::testing

@@ -1,0 +1,165 @@
+#include "export/FrmHotSpot.h"
+
+#include <gtest/gtest.h>
+
+#include "export/FrmHotSpotTexts.h"
+#include "forms/Controls.h"
+#include "forms/ModalDriver.h"
+#include "platform/Handles.h"
+#include "resource.h"
+
+namespace tarvik {
+namespace {
+
+using testing::Command;
+using testing::TextOf;
+
+class FrmHotSpotTest : public ::testing::Test {
+ protected:
+  FrmHotSpotTest() {
+    state.CurrentLanguage = "ENG";
+    state.HotSpotX = 5;
+    state.HotSpotY = 6;
+    state.HotSpotCancelled = false;
+  }
+
+  void Show() {
+    form.Show();
+    application.DoEvents();
+  }
+  HWND Picture() const { return form.Item(FrmHotSpot_PicCursor); }
+  void Send(UINT message, int x, int y, WPARAM keys = 0) const {
+    SendMessageW(Picture(), message, keys, MAKELPARAM(x, y));
+  }
+  std::string Shown(int id) const { return form.ItemText(id); }
+
+  Application application{GetModuleHandleW(nullptr)};
+  ProgramState state;
+  Surface magnified{385, 385, 0x123456};
+  FrmHotSpot form{application, state, [this]() -> const Surface& { return magnified; }};
+};
+
+TEST_F(FrmHotSpotTest, HasTheSizeOf7510By6295Twips) {
+  Show();
+  RECT place;
+  GetWindowRect(form.Window(), &place);
+  const WindowDc dc(form.Window());
+  EXPECT_NEAR(place.right - place.left, 7510 * GetDeviceCaps(dc.get(), LOGPIXELSX) / 1440.0, 0.5);
+  EXPECT_NEAR(place.bottom - place.top, 6295 * GetDeviceCaps(dc.get(), LOGPIXELSY) / 1440.0, 0.5);
+}
+
+TEST_F(FrmHotSpotTest, ShowsTheWholeMagnifiedPicture) {
+  SetPixel(magnified.Dc(), 0, 0, RGB(1, 2, 3));
+  SetPixel(magnified.Dc(), 384, 384, RGB(4, 5, 6));
+  Show();
+  RECT client;
+  RECT picture;
+  GetClientRect(form.Window(), &client);
+  GetClientRect(Picture(), &picture);
+  EXPECT_EQ(picture.right, 385);
+  EXPECT_EQ(picture.bottom, 385);
+  MapWindowPoints(Picture(), form.Window(), reinterpret_cast<POINT*>(&picture), 2);
+  EXPECT_LE(picture.bottom + 2, client.bottom) << "with its frame inside the window";
+  const WindowDc dc(Picture());
+  EXPECT_EQ(GetPixel(dc.get(), 0, 0), RGB(1, 2, 3));
+  EXPECT_EQ(GetPixel(dc.get(), 384, 384), RGB(4, 5, 6));
+  EXPECT_EQ(GetPixel(dc.get(), 200, 200), 0x123456U);
+}
+
+TEST_F(FrmHotSpotTest, FramesThePictureAndTheReadings) {
+  Show();
+  const WindowDc dc(form.Window());
+  for (const int id : {FrmHotSpot_PicCursor, FrmHotSpot_ImgXY}) {
+    RECT place;
+    GetWindowRect(form.Item(id), &place);
+    MapWindowPoints(nullptr, form.Window(), reinterpret_cast<POINT*>(&place), 2);
+    EXPECT_EQ(GetPixel(dc.get(), place.left - 2, place.top + 20), GetSysColor(COLOR_BTNSHADOW)) << id;
+    EXPECT_EQ(GetPixel(dc.get(), place.right + 1, place.top + 20), GetSysColor(COLOR_BTNHIGHLIGHT)) << id;
+  }
+}
+
+TEST_F(FrmHotSpotTest, ShowsItsTextsInEachLanguage) {
+  for (const std::string language : {"ENG", "CHS", "CHT"}) {
+    state.CurrentLanguage = language;
+    Show();
+    for (const FormText& row : hotSpotTexts) {
+      const std::string shown = row.id == formCaption ? TextOf(form.Window()) : Shown(row.id);
+      EXPECT_EQ(shown, *Pick(row.text, language));
+    }
+    form.Unload();
+  }
+}
+
+TEST_F(FrmHotSpotTest, OpensCancelledWithTheFormerHotSpot) {
+  Show();
+  EXPECT_TRUE(state.HotSpotCancelled);
+  EXPECT_EQ(state.HotSpotX, 5);
+}
+
+TEST_F(FrmHotSpotTest, ShowsEachClickBoundedAtZero) {
+  Show();
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "");
+  Send(WM_LBUTTONDOWN, 200, 300);
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "00");
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "00");
+  Command(form.Window(), FrmHotSpot_CmdOk, BN_CLICKED);
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_FALSE(state.HotSpotCancelled);
+  EXPECT_EQ(state.HotSpotX, 0);
+  EXPECT_EQ(state.HotSpotY, 0);
+}
+
+TEST_F(FrmHotSpotTest, DividesByTheScaleUpToTheBound) {
+  state.HotSpotBound = 40;
+  Show();
+  Send(WM_LBUTTONDOWN, 6 * 3 + 5, 384);
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "03");
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "40");
+  Send(WM_MOUSEMOVE, 6 * 7, 6 * 15);
+  EXPECT_EQ(Shown(FrmHotSpot_lblxy), "07, 15");
+  Send(WM_LBUTTONDBLCLK, 6 * 12, 6);
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "12") << "the second press of a double click too";
+  Command(form.Window(), FrmHotSpot_CmdOk, BN_CLICKED);
+  EXPECT_EQ(state.HotSpotX, 12);
+  EXPECT_EQ(state.HotSpotY, 1);
+}
+
+TEST_F(FrmHotSpotTest, TakesNoClickOfAnotherButton) {
+  Show();
+  Send(WM_RBUTTONDOWN, 200, 300);
+  Send(WM_MBUTTONDOWN, 200, 300);
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "");
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "");
+}
+
+TEST_F(FrmHotSpotTest, ShowsThePlaceUnderThePointerBoundedAtZero) {
+  Show();
+  for (const int x : {0, 13, 384, -20}) {
+    Send(WM_MOUSEMOVE, x, 29);
+    EXPECT_EQ(Shown(FrmHotSpot_lblxy), "00, 00");
+  }
+}
+
+TEST_F(FrmHotSpotTest, StoresZeroForOkWithoutAClick) {
+  Show();
+  Command(form.Window(), FrmHotSpot_CmdOk, BN_CLICKED);
+  EXPECT_FALSE(state.HotSpotCancelled);
+  EXPECT_EQ(state.HotSpotX, 0);
+  EXPECT_EQ(state.HotSpotY, 0);
+}
+
+TEST_F(FrmHotSpotTest, KeepsTheHotSpotWhereItIsCancelledOrClosed) {
+  for (const auto& leave :
+       {std::pair<UINT, WPARAM>{WM_COMMAND, FrmHotSpot_CmdCancel}, {WM_COMMAND, IDCANCEL}, {WM_CLOSE, 0}}) {
+    Show();
+    Send(WM_LBUTTONDOWN, 200, 300);
+    SendMessageW(form.Window(), leave.first, leave.second, 0);
+    EXPECT_FALSE(form.IsLoaded());
+    EXPECT_TRUE(state.HotSpotCancelled);
+    EXPECT_EQ(state.HotSpotX, 5);
+    EXPECT_EQ(state.HotSpotY, 6);
+  }
+}
+
+}  // namespace
+}  // namespace tarvik
