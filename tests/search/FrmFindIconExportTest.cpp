@@ -8,7 +8,7 @@
 #include <future>
 #include <thread>
 
-#include "export/ModMicroArtFileIO.h"
+#include "encoders/EncodedImages.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
 #include "platform/TemporaryFolder.h"
@@ -261,6 +261,54 @@ TEST_F(FrmFindIconExportTest, TakesNoCommandAndDoesNotCloseWhileItSaves) {
   EXPECT_TRUE(dialogs.asked.empty());
   Click(FrmFindIcon_CmdClose);
   EXPECT_FALSE(window->IsLoaded());
+}
+
+TEST_F(FrmFindIconExportTest, WritesEveryFileOfAJpegBatchWithTheOptionsChosenOnce) {
+  Open();
+  Find(3);
+  folder.MakeFolder("Images 2.jpg");
+  dialogs.folder = folder.Path();
+  dialogs.extension = ".jpg";
+  const std::string status = Status();
+  driver.On(fSaveJPG_CboSize, [](HWND options) {
+    CheckDlgButton(options, fSaveJPG_chkGreyscale, BST_CHECKED);
+    Command(options, fSaveJPG_chkGreyscale);
+    Command(options, fSaveJPG_cmdFinish1);
+  });
+  Click(FrmFindIcon_mnuSaveAll2);
+  for (const char* name : {"Images 1.jpg", "Images 3.jpg"})
+    EXPECT_EQ(testing::ComponentsOf(ReadAll(folder.In(name))), 1) << name;
+  ASSERT_EQ(boxes.Boxes().size(), 1U);
+  EXPECT_EQ(boxes.Boxes()[0].text, "Failed to Save Icon As Bitmap.");
+  EXPECT_EQ(Status(), status);
+  EXPECT_EQ(temporaryBitmap.Path(), "");
+}
+
+TEST_F(FrmFindIconExportTest, WritesEveryFileOfAGifBatch) {
+  Open();
+  Find(2);
+  dialogs.folder = folder.Path();
+  dialogs.extension = ".gif";
+  driver.On(FrmConvertGIF_Option1, [](HWND options) { Command(options, FrmConvertGIF_CmdOk); });
+  Click(FrmFindIcon_mnuSaveAll2);
+  EXPECT_EQ(NamesIn(folder.Path()), (std::vector<std::string>{"Images 1.gif", "Images 2.gif"}));
+  const Color color = SmallMachine::ColorOf(1);
+  const std::string gif = ReadAll(folder.In("Images 2.gif"));
+  EXPECT_EQ(Byte(gif, 13), RedOf(color));
+  EXPECT_EQ(Byte(gif, 15), BlueOf(color));
+}
+
+TEST_F(FrmFindIconExportTest, WritesNothingWhereTheOptionsOfABatchAreCancelled) {
+  Open();
+  Find(2);
+  dialogs.folder = folder.Path();
+  dialogs.extension = ".jpg";
+  driver.On(fSaveJPG_CboSize, [](HWND options) { Command(options, fSaveJPG_cmdFinish0); });
+  Click(FrmFindIcon_mnuSaveAll2);
+  dialogs.extension = ".gif";
+  driver.On(FrmConvertGIF_Option1, [](HWND options) { Command(options, FrmConvertGIF_CmdCancel); });
+  Click(FrmFindIcon_mnuSaveAll2);
+  EXPECT_TRUE(NamesIn(folder.Path()).empty());
 }
 
 TEST_F(FrmFindIconExportTest, DeletesATemporaryBitmapThatIsLeft) {
