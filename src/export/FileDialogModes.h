@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,8 +17,8 @@ struct FileDialogMode {
   std::span<const FileType> filters;
 };
 
-inline constexpr FileType iconFilters[] = {{"Windows Icon (*.ico)", "*.ico"}};
-inline constexpr FileType cursorFilters[] = {{"Windows Cursor (*.cur)", "*.cur"}};
+inline constexpr std::array<FileType, 1> iconFilters{{{"Windows Icon (*.ico)", "*.ico"}}};
+inline constexpr std::array<FileType, 1> cursorFilters{{{"Windows Cursor (*.cur)", "*.cur"}}};
 
 inline constexpr FileDialogMode saveAsMode{{" - Save As", " - 另存为", " - 另存為"}, ".ico", iconFilters};
 inline constexpr FileDialogMode saveAsImageMode{

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <utility>
 
 #include "export/ModMicroArt.h"
 #include "export/ModMicroArtFileIO.h"
@@ -41,6 +40,8 @@ class TemporaryPictureUse {
   ~TemporaryPictureUse() { picture_.Delete(); }
   TemporaryPictureUse(const TemporaryPictureUse&) = delete;
   TemporaryPictureUse& operator=(const TemporaryPictureUse&) = delete;
+  TemporaryPictureUse(TemporaryPictureUse&&) = delete;
+  TemporaryPictureUse& operator=(TemporaryPictureUse&&) = delete;
 
   const PixelView* PassThrough(const PixelView& picture) { return picture_.PassThrough(picture); }
 
@@ -61,6 +62,8 @@ class SaveCommands::Saving {
   ~Saving() { window_.SetStatusText(formerStatus_); }
   Saving(const Saving&) = delete;
   Saving& operator=(const Saving&) = delete;
+  Saving(Saving&&) = delete;
+  Saving& operator=(Saving&&) = delete;
 
  private:
   SaveWindow& window_;
