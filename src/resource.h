@@ -11,6 +11,8 @@
 #define Dialog_FrmSpash 110
 #define Bitmap_FrmSpash 111
 #define Dialog_frmBit 120
+#define Icon_frmBit_StartDisabled 121
+#define Icon_frmBit_StopDisabled 122
 #define Dialog_FrmHotSpot 130
 #define Dialog_frmDir 140
 #define Dialog_frmDirCreate 150
@@ -86,7 +88,7 @@
 #define FrmSpash_LblEmail 1203
 #define FrmSpash_Picture 1204
 
-// frmBit, the enhanced view: 1300 to 1399.
+// frmBit, the enhanced view: 1300 to 1399. A button's id is also its picture's.
 #define frmBit_img 1300
 #define frmBit_CboZoom 1301
 #define frmBit_tlb_control 1302

@@ -171,6 +171,9 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return Hourglass::Maintain() ? Answer(TRUE) : FALSE;
     case WM_PAINT:
       return Paint();
+    case WM_GETMINMAXINFO:
+      OnSizeLimits(*reinterpret_cast<MINMAXINFO*>(lParam));
+      return FALSE;
     case WM_SIZE:
       Form_Resize();
       return FALSE;

@@ -91,6 +91,8 @@ class Form {
   virtual bool Form_QueryUnload() { return true; }
   virtual void Form_Unload() {}
   virtual void Form_Resize() {}
+  // Asked before the window's size changes: how small and how large it may get, in pixels with its frame.
+  virtual void OnSizeLimits(MINMAXINFO&) {}
   virtual void Form_Paint(HDC) {}
 
   // A command of a control or menu item; false where nobody handles it. Forms hand it to Dispatch with their table.

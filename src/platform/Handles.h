@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <utility>
 
 namespace tarvik {
@@ -64,6 +66,13 @@ struct IconPolicy {
   static void Close(Type handle) { DestroyIcon(handle); }
 };
 using IconHandle = Owner<IconPolicy>;
+
+struct ImageListPolicy {
+  using Type = HIMAGELIST;
+  static Type None() { return nullptr; }
+  static void Close(Type handle) { ImageList_Destroy(handle); }
+};
+using ImageListHandle = Owner<ImageListPolicy>;
 
 struct MenuPolicy {
   using Type = HMENU;

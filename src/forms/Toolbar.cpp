@@ -1,0 +1,93 @@
+#include "forms/Toolbar.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "platform/Text.h"
+
+namespace tarvik {
+namespace {
+
+void AddIcon(HIMAGELIST list, HINSTANCE instance, int icon, int side) {
+  const IconHandle handle(
+      static_cast<HICON>(LoadImageW(instance, MAKEINTRESOURCEW(icon), IMAGE_ICON, side, side, LR_DEFAULTCOLOR)));
+  ImageList_ReplaceIcon(list, -1, handle.get());
+}
+
+}  // namespace
+
+void Toolbar::Attach(HWND toolbar, int side, std::span<const Button> buttons) {
+  window_ = toolbar;
+  const auto count = static_cast<int>(buttons.size());
+  pictures_.reset(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, count, 0));
+  disabledPictures_.reset(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, count, 0));
+  SendMessageW(window_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
+  // In this style a text does not show beside its button, but as its tooltip.
+  SendMessageW(window_, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);
+  SendMessageW(window_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures_.get()));
+  SendMessageW(window_, TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(disabledPictures_.get()));
+
+  const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(window_, GWLP_HINSTANCE));
+  for (const Button& button : buttons) {
+    if (button.startsGroup) {
+      const TBBUTTON separator{0, 0, 0, BTNS_SEP, {}, 0, 0};
+      SendMessageW(window_, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&separator));
+    }
+    const int picture = ImageList_GetImageCount(pictures_.get());
+    AddIcon(pictures_.get(), instance, button.id, side);
+    AddIcon(disabledPictures_.get(), instance, button.disabledIcon != 0 ? button.disabledIcon : button.id, side);
+    const std::wstring text = ToWide(button.text);
+    const TBBUTTON row{picture,
+                       button.id,
+                       TBSTATE_ENABLED,
+                       BTNS_BUTTON | BTNS_AUTOSIZE,
+                       {},
+                       0,
+                       reinterpret_cast<INT_PTR>(text.c_str())};
+    SendMessageW(window_, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&row));
+  }
+  Resize();
+}
+
+void Toolbar::SetText(int id, std::string_view text) {
+  std::wstring wide = ToWide(text);
+  TBBUTTONINFOW info{};
+  info.cbSize = sizeof info;
+  info.dwMask = TBIF_TEXT;
+  info.pszText = wide.data();
+  SendMessageW(window_, TB_SETBUTTONINFOW, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(&info));
+}
+
+std::string Toolbar::Text(int id) const {
+  const auto button = static_cast<WPARAM>(id);
+  const auto length = SendMessageW(window_, TB_GETBUTTONTEXTW, button, 0);
+  if (length <= 0) return {};
+  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+  SendMessageW(window_, TB_GETBUTTONTEXTW, button, reinterpret_cast<LPARAM>(text.data()));
+  text.pop_back();
+  return ToUtf8(text);
+}
+
+void Toolbar::Enable(int id, bool enabled) {
+  SendMessageW(window_, TB_ENABLEBUTTON, static_cast<WPARAM>(id), MAKELPARAM(enabled ? TRUE : FALSE, 0));
+}
+
+bool Toolbar::IsEnabled(int id) const {
+  return SendMessageW(window_, TB_ISBUTTONENABLED, static_cast<WPARAM>(id), 0) != 0;
+}
+
+SIZE Toolbar::Extent() const {
+  SIZE extent{};
+  SendMessageW(window_, TB_GETMAXSIZE, 0, reinterpret_cast<LPARAM>(&extent));
+  RECT place{};
+  GetWindowRect(window_, &place);
+  extent.cy = place.bottom - place.top;
+  return extent;
+}
+
+void Toolbar::Resize() {
+  SendMessageW(window_, TB_AUTOSIZE, 0, 0);
+}
+
+}  // namespace tarvik

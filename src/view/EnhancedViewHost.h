@@ -1,0 +1,29 @@
+#pragma once
+
+#include "numbers/Integer16.h"
+#include "search/IconList.h"
+
+namespace tarvik {
+
+// The main window as the enhanced view's rules see it. Entries are numbered from 1.
+class EnhancedViewHost {
+ public:
+  virtual ~EnhancedViewHost() = default;
+
+  // Draws the entry into PicIcon, whose size is the grid's icon size. False, and PicIcon as it was, where the list
+  // holds no entry of that number.
+  virtual bool RenderEntry(int number) = 0;
+
+  virtual int EntryCount() const = 0;
+  // The entry of that number, or null where the list holds none. Lives until the list changes.
+  virtual const IconListEntry* Entry(int number) const = 0;
+
+  // The selected entry, counted from 0.
+  virtual Integer16 CurrentIndex() const = 0;
+
+  // Whether the view is open. The view itself says so, from its load to its unload.
+  virtual bool ViewOpen() const = 0;
+  virtual void SetViewOpen(bool open) = 0;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,30 @@
+#pragma once
+
+namespace tarvik {
+
+// When the slide show ticks. The clock itself is the window's timer, which follows what this says.
+class SlideShow {
+ public:
+  bool IsEnabled() const { return isEnabled_; }
+  // Milliseconds from tick to tick: 5000 at first, and always a whole number of seconds from 1000 to 65000.
+  int Interval() const { return interval_; }
+
+  void Start() { isEnabled_ = true; }
+  void Stop() { isEnabled_ = false; }
+
+  // A second less or more, as long as the interval lies within its bounds. Whether the show runs stays as it is. True
+  // where the interval changed; the time to the next tick then counts anew.
+  bool Faster();
+  bool Slower();
+
+ private:
+  static constexpr int designInterval = 5000;
+  static constexpr int step = 1000;
+  static constexpr int leastForFaster = 1001;   // a shorter interval is not reduced
+  static constexpr int boundForSlower = 65000;  // an interval that long is not raised
+
+  bool isEnabled_ = false;
+  int interval_ = designInterval;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,60 @@
+#include "view/ViewSize.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+
+#include "startup/Placement.h"
+
+namespace tarvik {
+namespace {
+
+// The section and keys of the settings file, and the values that stand for an absent key.
+constexpr const char* settingsSection = "Bitmapview";
+constexpr const char* heightKey = "Height";
+constexpr const char* widthKey = "Width";
+constexpr const char* defaultHeight = "5310";
+constexpr const char* defaultWidth = "6645";
+
+std::string NumberText(float value) {
+  // As many digits as a single-precision number needs to come back the same; none needs more than these.
+  std::array<char, 64> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed).ptr;
+  return {digits.data(), end};
+}
+
+}  // namespace
+
+ViewSize ReadViewSize(Settings& settings) {
+  return {LeadingNumber(settings.ReadIniSetting(settingsSection, heightKey, defaultHeight)),
+          LeadingNumber(settings.ReadIniSetting(settingsSection, widthKey, defaultWidth))};
+}
+
+void WriteViewSize(Settings& settings, const ViewSize& size) {
+  settings.WriteIniSetting(settingsSection, heightKey, NumberText(size.height));
+  settings.WriteIniSetting(settingsSection, widthKey, NumberText(size.width));
+}
+
+float LeadingNumber(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) text.remove_prefix(1);
+  // The library would read "inf", "nan" and a second sign as numbers.
+  if (text.empty() || (text[0] != '.' && (text[0] < '0' || text[0] > '9'))) return 0;
+  constexpr double largest = std::numeric_limits<float>::max();
+  double value = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (result.ec == std::errc::result_out_of_range) value = largest;
+  const auto magnitude = static_cast<float>(std::min(value, largest));
+  return negative ? -magnitude : magnitude;
+}
+
+int FittingPixels(float twips, int dotsPerInch, int least, int most) {
+  const double pixels = std::round(double{twips} * dotsPerInch / twipsPerInch);
+  return static_cast<int>(std::min<double>(std::max<double>(pixels, least), most));
+}
+
+}  // namespace tarvik

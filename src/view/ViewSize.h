@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "startup/Settings.h"
+
+namespace tarvik {
+
+// The enhanced view's size in twips, with its frame. Kept between runs.
+struct ViewSize {
+  float height;
+  float width;
+
+  friend bool operator==(const ViewSize&, const ViewSize&) = default;
+};
+
+// The stored size, 5310 twips high and 6645 wide where none is stored. Each text is read by LeadingNumber, so that any
+// text gives some size; FittingPixels makes the best of it.
+ViewSize ReadViewSize(Settings& settings);
+void WriteViewSize(Settings& settings, const ViewSize& size);
+
+// The number that a text begins with; 0 where it begins with none. Blanks before it do not count, the decimal mark is
+// a point whatever the locale, and a number beyond single precision comes out as its largest.
+float LeadingNumber(std::string_view text);
+
+// A side in pixels at that many dots an inch, from twips, but never below `least` nor above `most`. Where the two
+// cannot both hold, `most` does: what lies off the screen is of no use.
+int FittingPixels(float twips, int dotsPerInch, int least, int most);
+
+}  // namespace tarvik

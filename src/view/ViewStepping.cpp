@@ -1,0 +1,68 @@
+#include "view/ViewStepping.h"
+
+#include "numbers/RuntimeError.h"
+#include "view/ViewTexts.h"
+
+namespace tarvik {
+namespace {
+
+template <typename Step>
+void SkippingErrors(Step step) {
+  try {
+    step();
+  } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): stepping goes on with the next step
+  }
+}
+
+}  // namespace
+
+ViewStepping::ViewStepping(EnhancedViewHost& host, ViewDisplay& display) : host_(host), display_(display) {}
+
+void ViewStepping::Begin() {
+  currentEntry_ = host_.CurrentIndex();
+}
+
+void ViewStepping::ShowFirst() {
+  currentEntry_ = 1;
+  ShowEntry();
+}
+
+void ViewStepping::ShowLast() {
+  currentEntry_ = host_.EntryCount();
+  ShowEntry();
+}
+
+void ViewStepping::ShowNext() {
+  if (currentEntry_ == host_.EntryCount()) currentEntry_ = 1;
+  SkippingErrors([this] { currentEntry_ += 1; });
+  ShowEntrySkippingErrors();
+}
+
+void ViewStepping::ShowPrevious() {
+  SkippingErrors([this] {
+    if (currentEntry_ == 1) currentEntry_ = host_.EntryCount();
+  });
+  SkippingErrors([this] { currentEntry_ -= 1; });
+  ShowEntrySkippingErrors();
+}
+
+void ViewStepping::UpdateStatus(int number) {
+  display_.SetStatusText("");
+  if (const IconListEntry* entry = host_.Entry(number)) display_.SetStatusText(SourceText(*entry));
+}
+
+void ViewStepping::Render() {
+  if (host_.RenderEntry(currentEntry_)) display_.ShowPicture();
+}
+
+void ViewStepping::ShowEntry() {
+  Render();
+  UpdateStatus(currentEntry_);
+}
+
+void ViewStepping::ShowEntrySkippingErrors() {
+  SkippingErrors([this] { Render(); });
+  SkippingErrors([this] { UpdateStatus(currentEntry_); });
+}
+
+}  // namespace tarvik

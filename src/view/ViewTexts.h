@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "resource.h"
+#include "search/IconList.h"
+#include "startup/FormTexts.h"
+
+namespace tarvik {
+
+// The tooltips of the toolbar's buttons.
+inline constexpr FormText viewTooltips[] = {
+    {frmBit_tlb_control_MoveFirst, {"First", "第一张", "第一張"}},
+    {frmBit_tlb_control_MoveLast, {"Last", "最后一张", "最後一張"}},
+    {frmBit_tlb_control_MovePrev, {"Back", "上一张", "上一張"}},
+    {frmBit_tlb_control_MoveNext, {"Forward", "下一张", "下一張"}},
+    {frmBit_tlb_control_Start, {"Start", "开始", "開始"}},
+    {frmBit_tlb_control_Stop, {"Stop", "停止", "停止"}},
+    {frmBit_tlb_control_Slower, {"Slower", "减慢", "減慢"}},
+    {frmBit_tlb_control_Faster, {"Faster", "加快", "加快"}},
+};
+
+// The window's caption for an enlarged picture of that size in pixels; nothing where `code` is no language. The
+// Traditional Chinese title begins with 流, and that is meant.
+std::optional<std::string> ViewCaption(int height, int width, std::string_view code);
+
+// Where an entry comes from, for the status bar: its path, " - " and its index.
+std::string SourceText(const IconListEntry& entry);
+
+}  // namespace tarvik

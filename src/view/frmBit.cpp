@@ -1,0 +1,305 @@
+#include "view/frmBit.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+
+#include "platform/Handles.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "startup/FormPlacement.h"
+#include "startup/Placement.h"
+#include "view/ViewKeys.h"
+#include "view/ViewSize.h"
+#include "view/ViewTexts.h"
+#include "view/Zoom.h"
+
+namespace tarvik {
+namespace {
+
+// The buttons with their design texts, which stay where the interface is in no language.
+constexpr Toolbar::Button buttons[] = {
+    {frmBit_tlb_control_MoveFirst, "First"},
+    {frmBit_tlb_control_MovePrev, "Back"},
+    {frmBit_tlb_control_MoveNext, "Forward"},
+    {frmBit_tlb_control_MoveLast, "Last"},
+    {frmBit_tlb_control_Start, "Start", Icon_frmBit_StartDisabled, true},
+    {frmBit_tlb_control_Stop, "Stop", Icon_frmBit_StopDisabled},
+    {frmBit_tlb_control_Slower, "Slower", 0, true},
+    {frmBit_tlb_control_Faster, "Faster"},
+    {frmBit_tlb_control_Exit, "Exit", 0, true},
+};
+
+// The buttons' pictures grow with the display's dots an inch, but toolbar and zoom list together stay above the
+// picture's fixed place.
+struct ButtonPicture {
+  int leastDotsPerInch;
+  int side;  // pixels
+};
+constexpr ButtonPicture buttonPictures[] = {{168, 40}, {120, 32}, {0, 24}};
+
+constexpr int zoomListGap = 3;  // pixels between toolbar and zoom list
+
+int DotsPerInch() {
+  const WindowDc screen(nullptr);
+  return GetDeviceCaps(screen.get(), LOGPIXELSX);
+}
+
+int ButtonPictureSide() {
+  const int dotsPerInch = DotsPerInch();
+  return std::ranges::find_if(buttonPictures, [=](const auto& row) { return dotsPerInch >= row.leastDotsPerInch; })
+      ->side;
+}
+
+SIZE SizeOf(const RECT& place) {
+  return {place.right - place.left, place.bottom - place.top};
+}
+
+SIZE WindowSize(HWND window) {
+  RECT place{};
+  GetWindowRect(window, &place);
+  return SizeOf(place);
+}
+
+// The part of the main screen that no taskbar covers.
+RECT WorkArea() {
+  RECT area{};
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+  return area;
+}
+
+}  // namespace
+
+frmBit::frmBit(Application& application, EnhancedViewOwner& host, const ProgramState& state, Settings& settings)
+    : Form(application, Dialog_frmBit),
+      host_(host),
+      state_(state),
+      settings_(settings),
+      stepping_(host, *this),
+      picture_(1, 1, white),
+      enlarged_(1, 1, white) {}
+
+void frmBit::ShowSelectedEntry(HWND owner) {
+  if (host_.EntryCount() < 1 || host_.ViewOpen()) return;
+  const int number = host_.CurrentIndex() + 1;
+  host_.RenderEntry(number);
+  Load(owner);
+  ShowPicture();
+  stepping_.UpdateStatus(number);
+  UpdateCaption();  // with the place that the picture took while the view loaded
+  ShowModal(owner);
+}
+
+void frmBit::Form_Load() {
+  AttachControls();
+  ApplyViewLanguage();
+  basInitEntry::ApplySkinToForm(*this);
+  host_.SetViewOpen(true);
+  LoadViewSize();
+  Form_Resize();
+  stepping_.Begin();
+  show_ = SlideShow();
+  StopSlideShow();
+  for (int factor = leastZoom; factor <= mostZoom; ++factor) {
+    ComboBox_AddString(Item(frmBit_CboZoom), ToWide(ZoomText(factor)).c_str());
+  }
+  Zoom(openingZoom);
+}
+
+void frmBit::Form_Unload() {
+  SaveViewSize();
+  host_.SetViewOpen(false);
+  KillTimer(Window(), frmBit_tim_nextpic);
+}
+
+void frmBit::Form_Resize() {
+  toolbar_.Resize();
+  SendMessageW(Item(frmBit_sbMain), WM_SIZE, 0, 0);
+  UpdateCaption();
+}
+
+void frmBit::OnSizeLimits(MINMAXINFO& limits) {
+  limits.ptMinTrackSize = {leastSize_.cx, leastSize_.cy};
+}
+
+bool frmBit::OnCommand(int id, int code) {
+  static constexpr Event<frmBit> events[] = {
+      {frmBit_tlb_control_MoveFirst, frmBit_tlb_control_Exit, BN_CLICKED, Call<&frmBit::tlb_control_ButtonClick>},
+      {frmBit_CboZoom, frmBit_CboZoom, CBN_SELCHANGE, Call<&frmBit::CboZoom_Click>},
+  };
+  return Dispatch<frmBit>(*this, events, id, code);
+}
+
+void frmBit::OnTimer(UINT_PTR id) {
+  if (id == frmBit_tim_nextpic) tim_nextpic_Timer();
+}
+
+bool frmBit::PreviewMessage(const MSG& message) {
+  if (message.message != WM_KEYDOWN) return false;
+  const auto button = ButtonOfKey(static_cast<int>(message.wParam));
+  if (!button) return false;
+  // Through the window, so that a run-time error meets the boundary that every handler has.
+  SendMessageW(Window(), WM_COMMAND, MAKEWPARAM(*button, BN_CLICKED), 0);
+  return true;
+}
+
+void frmBit::tlb_control_ButtonClick(int button) {
+  struct Action {
+    bool stopsShow;
+    void (frmBit::*run)();
+  };
+  static constexpr Action actions[] = {
+      {true, &frmBit::ShowFirst}, {true, &frmBit::ShowPrevious},    {true, &frmBit::ShowNext},
+      {true, &frmBit::ShowLast},  {false, &frmBit::StartSlideShow}, {false, &frmBit::StopSlideShow},
+      {false, &frmBit::Slower},   {false, &frmBit::Faster},         {false, &frmBit::Exit},
+  };
+  static_assert(std::size(actions) == frmBit_tlb_control_Exit - frmBit_tlb_control_MoveFirst + 1);
+  const Action& action = actions[static_cast<std::size_t>(button)];
+  if (action.stopsShow) StopSlideShow();
+  (this->*action.run)();
+}
+
+void frmBit::CboZoom_Click() {
+  const int row = ComboBox_GetCurSel(Item(frmBit_CboZoom));
+  if (row < 0) return;
+  Zoom(ZoomOfRow(row));
+  UpdateCaption();
+}
+
+void frmBit::tim_nextpic_Timer() {
+  if (IsIconic(Window()) == FALSE) ShowNext();
+}
+
+void frmBit::StartSlideShow() {
+  show_.Start();
+  RestartTimer();
+  toolbar_.Enable(frmBit_tlb_control_Start, false);
+  toolbar_.Enable(frmBit_tlb_control_Stop, true);
+}
+
+void frmBit::StopSlideShow() {
+  show_.Stop();
+  RestartTimer();
+  toolbar_.Enable(frmBit_tlb_control_Start, true);
+  toolbar_.Enable(frmBit_tlb_control_Stop, false);
+}
+
+void frmBit::Slower() {
+  if (show_.Slower()) RestartTimer();
+}
+
+void frmBit::Faster() {
+  if (show_.Faster()) RestartTimer();
+}
+
+void frmBit::Exit() {
+  // The window closes when the toolbar is done with its click.
+  PostMessageW(Window(), WM_CLOSE, 0, 0);
+}
+
+void frmBit::RestartTimer() {
+  KillTimer(Window(), frmBit_tim_nextpic);
+  if (show_.IsEnabled()) SetTimer(Window(), frmBit_tim_nextpic, static_cast<UINT>(show_.Interval()), nullptr);
+}
+
+void frmBit::AttachControls() {
+  toolbar_.Attach(Item(frmBit_tlb_control), ButtonPictureSide(), buttons);
+  img_ = PictureBox(Item(frmBit_img));
+  img_.Show(&enlarged_);
+
+  const HWND zoomList = Item(frmBit_CboZoom);
+  RECT place{};
+  GetWindowRect(zoomList, &place);
+  MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&place), 2);
+  SetWindowPos(zoomList, nullptr, place.left, toolbar_.Extent().cy + zoomListGap, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  MeasureLeastSize();
+}
+
+// The window is never smaller than its toolbar, the zoom list under it and the status bar.
+void frmBit::MeasureLeastSize() {
+  const SIZE toolbar = toolbar_.Extent();
+  const int height =
+      toolbar.cy + zoomListGap + WindowSize(Item(frmBit_CboZoom)).cy + WindowSize(Item(frmBit_sbMain)).cy;
+  RECT inner{0, 0, toolbar.cx, height};
+  AdjustWindowRectEx(&inner, GetWindowStyle(Window()), FALSE, GetWindowExStyle(Window()));
+  leastSize_ = SizeOf(inner);
+}
+
+void frmBit::ApplyViewLanguage() {
+  for (const FormText& row : viewTooltips) {
+    if (const auto text = Pick(row.text, state_.CurrentLanguage)) toolbar_.SetText(row.id, *text);
+  }
+}
+
+void frmBit::LoadViewSize() {
+  const ViewSize size = ReadViewSize(settings_);
+  const SIZE most = SizeOf(WorkArea());
+  const int dotsPerInch = DotsPerInch();
+  SetWindowPos(Window(), nullptr, 0, 0, FittingPixels(size.width, dotsPerInch, leastSize_.cx, most.cx),
+               FittingPixels(size.height, dotsPerInch, leastSize_.cy, most.cy),
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  basInitEntry::CenterForm(*this);
+  PlaceOnScreen();
+}
+
+// A large window, centred, could reach under the taskbar.
+void frmBit::PlaceOnScreen() {
+  const RECT area = WorkArea();
+  RECT place{};
+  GetWindowRect(Window(), &place);
+  const SIZE size = SizeOf(place);
+  SetWindowPos(Window(), nullptr, std::max(area.left, std::min(place.left, area.right - size.cx)),
+               std::max(area.top, std::min(place.top, area.bottom - size.cy)), 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmBit::SaveViewSize() {
+  WINDOWPLACEMENT placement{};
+  placement.length = sizeof placement;
+  GetWindowPlacement(Window(), &placement);
+  // A minimised window has no size of its own; it counts with the size that it comes back to.
+  const SIZE size = IsIconic(Window()) != FALSE ? SizeOf(placement.rcNormalPosition) : WindowSize(Window());
+  const int dotsPerInch = DotsPerInch();
+  WriteViewSize(settings_,
+                {static_cast<float>(ToTwips(size.cy, dotsPerInch)), static_cast<float>(ToTwips(size.cx, dotsPerInch))});
+}
+
+void frmBit::UpdateCaption() {
+  const SIZE size = WindowSize(img_.Window());
+  if (const auto caption = ViewCaption(size.cy, size.cx, state_.CurrentLanguage)) SetCaption(*caption);
+}
+
+void frmBit::ShowPicture() {
+  const Surface& source = host_.PicIcon();
+  picture_.Resize(source.Width(), source.Height(), white);
+  BitBlt(picture_.Dc(), 0, 0, source.Width(), source.Height(), source.Dc(), 0, 0, SRCCOPY);
+  Enlarge();
+}
+
+void frmBit::SetStatusText(const std::string& text) {
+  SendMessageW(Item(frmBit_sbMain), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
+}
+
+void frmBit::Zoom(int factor) {
+  const int width = factor * host_.PicIcon().Width();
+  const int height = factor * host_.PicIcon().Height();
+  enlarged_.Resize(width, height, white);
+  SetWindowPos(img_.Window(), nullptr, pictureLeft, pictureTop, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  Enlarge();
+}
+
+// Every pixel of the picture becomes a square block; no colour is mixed.
+void frmBit::Enlarge() {
+  SetStretchBltMode(enlarged_.Dc(), COLORONCOLOR);
+  StretchBlt(enlarged_.Dc(), 0, 0, enlarged_.Width(), enlarged_.Height(), picture_.Dc(), 0, 0, picture_.Width(),
+             picture_.Height(), SRCCOPY);
+  img_.Refresh();
+}
+
+}  // namespace tarvik

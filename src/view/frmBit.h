@@ -1,0 +1,98 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "forms/Form.h"
+#include "forms/PictureBox.h"
+#include "forms/Toolbar.h"
+#include "platform/Surface.h"
+#include "startup/ProgramState.h"
+#include "startup/Settings.h"
+#include "view/EnhancedViewHost.h"
+#include "view/SlideShow.h"
+#include "view/ViewStepping.h"
+
+namespace tarvik {
+
+// The main window as the enhanced view sees it: what the view's rules ask for, and the picture.
+class EnhancedViewOwner : public EnhancedViewHost {
+ public:
+  // The picture that RenderEntry draws into. Its size does not change while the view is open.
+  virtual const Surface& PicIcon() const = 0;
+};
+
+// The enhanced view: one entry of the icon list enlarged, steps through the list, and a slide show. It has no icons of
+// its own: every picture is rendered by the main window, and copied.
+class frmBit final : public Form, private ViewDisplay {
+ public:
+  // `host`, `state` and `settings` outlive the view.
+  frmBit(Application& application, EnhancedViewOwner& host, const ProgramState& state, Settings& settings);
+
+  // What the main window calls on a double click; returns when the view is closed. Does nothing where the list is
+  // empty or the view is open. In this order: the selected entry is rendered, its picture is taken over (which loads
+  // the view: from here on the host's ViewOpen is set), its source goes to the status bar, and the view is shown,
+  // modal to `owner`. The view opens at 500 % with the slide show off and its first interval, whatever it was left
+  // with.
+  void ShowSelectedEntry(HWND owner);
+
+  // Called by the message loop before a key reaches the control that has the focus. The view's keys, pressed without
+  // Alt, act whatever has the focus and go no further. Every other key is left alone: it works the zoom list and the
+  // window's menu as everywhere, and Escape and Enter do nothing.
+  bool PreviewMessage(const MSG& message) override;
+
+ private:
+  // Form
+  void Form_Load() override;
+  void Form_Unload() override;
+  void Form_Resize() override;
+  void OnSizeLimits(MINMAXINFO& limits) override;
+  bool OnCommand(int id, int code) override;
+  void OnTimer(UINT_PTR id) override;
+
+  // ViewDisplay
+  void ShowPicture() override;
+  void SetStatusText(const std::string& text) override;
+
+  // Handlers
+  void tlb_control_ButtonClick(int button);
+  void CboZoom_Click();
+  void tim_nextpic_Timer();
+
+  // What the buttons do.
+  void ShowFirst() { stepping_.ShowFirst(); }
+  void ShowLast() { stepping_.ShowLast(); }
+  void ShowNext() { stepping_.ShowNext(); }
+  void ShowPrevious() { stepping_.ShowPrevious(); }
+  void StartSlideShow();
+  void StopSlideShow();
+  void Slower();
+  void Faster();
+  void Exit();
+
+  void AttachControls();
+  void ApplyViewLanguage();
+  void LoadViewSize();
+  void SaveViewSize();
+  void MeasureLeastSize();
+  void PlaceOnScreen();
+  void UpdateCaption();
+  void RestartTimer();
+  void Zoom(int factor);
+  void Enlarge();
+
+  EnhancedViewOwner& host_;
+  const ProgramState& state_;
+  Settings& settings_;
+  ViewStepping stepping_;
+  SlideShow show_;
+
+  Toolbar toolbar_;
+  PictureBox img_;
+  Surface picture_;   // as the main window drew it
+  Surface enlarged_;  // what img_ shows
+  SIZE leastSize_{};  // of the window with its frame, in pixels
+};
+
+}  // namespace tarvik

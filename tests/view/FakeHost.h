@@ -1,0 +1,70 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "startup/Settings.h"
+#include "view/EnhancedViewHost.h"
+
+namespace tarvik::testing {
+
+// A main window's list in memory: entry n comes from "C:\icons\n.dll" and has the index 10 x n.
+// `Base` is EnhancedViewHost or a class made from it.
+template <typename Base>
+class FakeHost : public Base {
+ public:
+  explicit FakeHost(int count, Integer16 currentIndex = 0) : currentIndex_(currentIndex) {
+    for (int number = 1; number <= count; ++number) {
+      entries_.push_back({"C:\\icons\\" + std::to_string(number) + ".dll", number * 10 % 1000});
+    }
+  }
+
+  bool RenderEntry(int number) override {
+    asked.push_back(number);
+    if (failing) throw OverflowError();
+    return Entry(number) != nullptr && Draw(number);
+  }
+  int EntryCount() const override { return static_cast<int>(entries_.size()); }
+  const IconListEntry* Entry(int number) const override {
+    const bool stands = number >= 1 && number <= EntryCount();
+    return stands ? &entries_.at(static_cast<std::size_t>(number) - 1) : nullptr;
+  }
+  Integer16 CurrentIndex() const override { return currentIndex_; }
+  bool ViewOpen() const override { return viewOpen; }
+  void SetViewOpen(bool open) override { viewOpen = open; }
+
+  std::vector<int> asked;  // the entries that were to be rendered, in order
+  bool failing = false;    // rendering throws
+  bool viewOpen = false;
+
+ protected:
+  virtual bool Draw(int /*number*/) { return true; }
+
+ private:
+  std::vector<IconListEntry> entries_;
+  Integer16 currentIndex_;
+};
+
+// A settings file in memory; keys are "Section/Key".
+class MemoryStore final : public IniStore {
+ public:
+  std::string Read(const std::string& section, const std::string& key, const std::string& defaultValue,
+                   int /*capacity*/, const std::string& /*file*/) override {
+    const auto found = values.find(section + "/" + key);
+    return found == values.end() ? defaultValue : found->second;
+  }
+  int Write(const std::string& section, const std::string& key, const std::string& value,
+            const std::string& /*file*/) override {
+    values[section + "/" + key] = value;
+    return 1;
+  }
+  int DeleteKey(const std::string& section, const std::string& key, const std::string& /*file*/) override {
+    return static_cast<int>(values.erase(section + "/" + key));
+  }
+  int DeleteSection(const std::string& /*section*/, const std::string& /*file*/) override { return 0; }
+
+  std::map<std::string, std::string> values;
+};
+
+}  // namespace tarvik::testing

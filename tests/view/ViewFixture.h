@@ -1,0 +1,90 @@
+#pragma once
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/Application.h"
+#include "platform/Handles.h"
+#include "platform/Surface.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "view/FakeHost.h"
+#include "view/frmBit.h"
+
+namespace tarvik::testing {
+
+// A main window in memory whose every entry is a picture of its own, no two pixels of it alike.
+class PictureHost final : public FakeHost<EnhancedViewOwner> {
+ public:
+  PictureHost(int count, Integer16 selection, int size) : FakeHost(count, selection), picIcon_(size, size, white) {}
+
+  const Surface& PicIcon() const override { return picIcon_; }
+  static Color ColorOf(int number, int x, int y) {
+    return static_cast<Color>(number * 37 % 256) * 0x10000U + static_cast<Color>(x * 4) * 0x100U +
+           static_cast<Color>(y * 4);
+  }
+
+  std::function<void()> onDraw = [] {};
+
+ protected:
+  bool Draw(int number) override {
+    onDraw();
+    for (int y = 0; y < picIcon_.Height(); ++y) {
+      for (int x = 0; x < picIcon_.Width(); ++x) SetPixel(picIcon_.Dc(), x, y, ColorOf(number, x, y));
+    }
+    return true;
+  }
+
+ private:
+  Surface picIcon_;
+};
+
+// The real enhanced view over a main window in memory. A test's body runs while the view is shown modally.
+class ViewFixture : public ::testing::Test {
+ protected:
+  ViewFixture();
+  ~ViewFixture() override;
+
+  // Makes the list: so many entries, one of them selected (counted from 0), icons of that size.
+  void MakeList(int count, Integer16 selection = 0, int size = 32);
+  // Opens the view on the selected entry, runs `body` in its modal loop, and closes the view unless the body did.
+  void WhileOpen(const std::function<void()>& body);
+
+  // One whole click of the mouse on a toolbar button.
+  void Click(int button);
+  // One key, as it arrives at the zoom list, which has the focus.
+  void Press(int key, UINT message = WM_KEYDOWN);
+  void Tick() const { SendMessageW(view->Window(), WM_TIMER, frmBit_tim_nextpic, 0); }
+  void ChooseZoom(int row);
+  void Close() const { SendMessageW(view->Window(), WM_CLOSE, 0, 0); }
+  // Serves messages until the condition holds; false where it does not in time.
+  bool WaitFor(const std::function<bool()>& condition);
+  // Whether the slide show's timer was running; stops it.
+  bool TakeTimer() const { return KillTimer(view->Window(), frmBit_tim_nextpic) != FALSE; }
+
+  HWND Item(int id) const { return view->Item(id); }
+  std::string Caption() const;
+  std::string Status() const;
+  std::string Tooltip(int button) const;
+  bool IsButtonEnabled(int button) const;
+  RECT PlaceOf(int id) const;  // in the window's inner pixels
+  SIZE WindowSize() const;
+
+  ProgramState state;
+  MemoryStore store;
+  Settings settings{store, "C:\\program\\tarvik.exe"};
+  Application application{GetModuleHandleW(nullptr)};
+  int errors = 0;  // run-time errors that reached the boundary of a handler
+  std::unique_ptr<PictureHost> host;
+  std::unique_ptr<frmBit> view;
+  HWND owner = nullptr;
+};
+
+}  // namespace tarvik::testing

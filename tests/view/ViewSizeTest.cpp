@@ -1,0 +1,92 @@
+#include "view/ViewSize.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+#include "view/FakeHost.h"
+
+namespace tarvik {
+namespace {
+
+constexpr float largest = std::numeric_limits<float>::max();
+
+class ViewSizeTest : public ::testing::Test {
+ protected:
+  testing::MemoryStore store;
+  Settings settings{store, "C:\\program\\tarvik.exe"};
+};
+
+TEST_F(ViewSizeTest, IsTheDesignedOneWhereNoneIsStored) {
+  EXPECT_EQ(ReadViewSize(settings), (ViewSize{5310, 6645}));
+}
+
+TEST_F(ViewSizeTest, ComesBackAsItWasKept) {
+  for (const ViewSize size : {ViewSize{5310, 6645}, ViewSize{4507.5F, 1.0F / 3}, ViewSize{0, 123456.7F}}) {
+    WriteViewSize(settings, size);
+    EXPECT_EQ(ReadViewSize(settings), size);
+  }
+}
+
+TEST_F(ViewSizeTest, IsStoredAsDecimalTextWithAPoint) {
+  WriteViewSize(settings, {6000, 7507.5F});
+  EXPECT_EQ(store.values.at("Bitmapview/Height"), "6000");
+  EXPECT_EQ(store.values.at("Bitmapview/Width"), "7507.5");
+}
+
+TEST(LeadingNumber, IsWhatATextBeginsWith) {
+  const struct {
+    std::string text;
+    float number;
+  } rows[] = {
+      {"5310", 5310},
+      {"5310.25", 5310.25F},
+      {" \t 42", 42},
+      {"+42", 42},
+      {"-42", -42},
+      {".5", 0.5F},
+      {"1e3", 1000},
+      {"12 inches", 12},
+      {"1,5", 1},
+      {"5310,75", 5310},
+      {"", 0},
+      {"   ", 0},
+      {"wide", 0},
+      {"-", 0},
+      {".", 0},
+      {"+-1", 0},
+      {"inf", 0},
+      {"nan", 0},
+      {"-inf", 0},
+      {"0x10", 0},
+      {"1e39", largest},
+      {"-1e39", -largest},
+      {"1e400", largest},
+      {"-1e400", -largest},
+      {"\xE4\xB8\xAD", 0},
+      {"12\xE4\xB8\xAD", 12},
+      {"\x01\x02", 0},
+  };
+  for (const auto& row : rows) EXPECT_EQ(LeadingNumber(row.text), row.number) << '"' << row.text << '"';
+}
+
+TEST(FittingPixels, ConvertsTwipsAtTheDisplaysResolution) {
+  EXPECT_EQ(FittingPixels(5310, 96, 1, 2000), 354);
+  EXPECT_EQ(FittingPixels(6645, 96, 1, 2000), 443);
+  EXPECT_EQ(FittingPixels(5310, 192, 1, 2000), 708);
+  EXPECT_EQ(FittingPixels(5317.5F, 96, 1, 2000), 355) << "a half is rounded up";
+}
+
+TEST(FittingPixels, KeepsAnySizeWithinItsBounds) {
+  EXPECT_EQ(FittingPixels(0, 96, 200, 1000), 200);
+  EXPECT_EQ(FittingPixels(-5310, 96, 200, 1000), 200);
+  EXPECT_EQ(FittingPixels(-largest, 96, 200, 1000), 200);
+  EXPECT_EQ(FittingPixels(largest, 96, 200, 1000), 1000);
+  EXPECT_EQ(FittingPixels(3000, 96, 200, 1000), 200) << "exactly the least";
+  EXPECT_EQ(FittingPixels(15000, 96, 200, 1000), 1000) << "exactly the most";
+  EXPECT_EQ(FittingPixels(5310, 96, 400, 300), 300) << "the screen decides";
+}
+
+}  // namespace
+}  // namespace tarvik

@@ -1,0 +1,113 @@
+// The enlarged picture, pixel by pixel, and what showing it costs.
+
+#include "platform/GdiObjects.h"
+#include "view/ViewFixture.h"
+
+namespace tarvik {
+namespace {
+
+class frmBitPictureTest : public testing::ViewFixture {
+ protected:
+  // Compares what stands on the window with the entry's picture at that factor.
+  void ExpectEnlarged(int number, int factor, int size) {
+    const RECT place = PlaceOf(frmBit_img);
+    ASSERT_EQ(place.left, 100);
+    ASSERT_EQ(place.top, 100);
+    ASSERT_EQ(place.right, 100 + factor * size);
+    ASSERT_EQ(place.bottom, 100 + factor * size);
+    application.DoEvents();
+    Surface shown(factor * size, factor * size, black);
+    const WindowDc dc(Item(frmBit_img));
+    BitBlt(shown.Dc(), 0, 0, shown.Width(), shown.Height(), dc.get(), 0, 0, SRCCOPY);
+    for (int y = 0; y < shown.Height(); ++y) {
+      for (int x = 0; x < shown.Width(); ++x) {
+        ASSERT_EQ(shown.Pixel(x, y), testing::PictureHost::ColorOf(number, x / factor, y / factor))
+            << "entry " << number << ", factor " << factor << " at " << x << ", " << y;
+      }
+    }
+  }
+};
+
+TEST_F(frmBitPictureTest, MakesEveryPixelASquareAtEachSizeAndFactor) {
+  for (const int size : {16, 32, 48, 64}) {
+    MakeList(3, 1, size);
+    WhileOpen([&] {
+      ShowWindow(view->Window(), SW_MAXIMIZE);
+      ExpectEnlarged(2, 5, size);
+      for (const int factor : {1, 5, 10}) {
+        ChooseZoom(factor - 1);
+        ExpectEnlarged(2, factor, size);
+      }
+    });
+  }
+}
+
+TEST_F(frmBitPictureTest, TakesEachEntrysPicture) {
+  MakeList(3, 0, 16);
+  WhileOpen([this] {
+    Click(frmBit_tlb_control_MoveLast);
+    ExpectEnlarged(3, 5, 16);
+    Click(frmBit_tlb_control_MovePrev);
+    ExpectEnlarged(2, 5, 16);
+  });
+}
+
+TEST_F(frmBitPictureTest, KeepsThePictureWhereThereIsNoSuchEntry) {
+  MakeList(3, 0, 16);
+  WhileOpen([this] {
+    Click(frmBit_tlb_control_MovePrev);
+    ExpectEnlarged(1, 5, 16);
+    Click(frmBit_tlb_control_MovePrev);
+    ExpectEnlarged(1, 5, 16);
+    EXPECT_EQ(Status(), "");
+  });
+}
+
+TEST_F(frmBitPictureTest, RepaintsFromMemory) {
+  MakeList(3, 1, 16);
+  WhileOpen([this] {
+    host->asked.clear();
+    ShowWindow(view->Window(), SW_MINIMIZE);
+    ShowWindow(view->Window(), SW_RESTORE);
+    RedrawWindow(view->Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    ExpectEnlarged(2, 5, 16);
+    EXPECT_TRUE(host->asked.empty());
+  });
+}
+
+TEST_F(frmBitPictureTest, StaysBelowToolbarZoomListAndStatusBar) {
+  MakeList(1, 0, 64);
+  WhileOpen([this] {
+    ChooseZoom(9);
+    const RECT bar = PlaceOf(frmBit_sbMain);
+    const POINT inBar{(bar.left + bar.right) / 2, (bar.top + bar.bottom) / 2};
+    EXPECT_EQ(ChildWindowFromPoint(view->Window(), inBar), Item(frmBit_sbMain));
+  });
+}
+
+TEST_F(frmBitPictureTest, HoldsNoMoreHandlesAfterAnHourOfTicks) {
+  MakeList(5, 0, 64);
+  WhileOpen([this] {
+    Click(frmBit_tlb_control_Start);
+    for (int tick = 0; tick < 10; ++tick) Tick();
+    const int before = testing::CountGdiObjects();
+    for (int tick = 0; tick < 3600; ++tick) Tick();
+    EXPECT_EQ(testing::CountGdiObjects(), before);
+  });
+}
+
+TEST_F(frmBitPictureTest, HoldsNoMoreHandlesAfterManyZoomsAndOpenings) {
+  const auto openAndZoom = [this] {
+    WhileOpen([this] {
+      for (int row = 0; row < 10; ++row) ChooseZoom(row);
+      Click(frmBit_tlb_control_MoveNext);
+    });
+  };
+  for (int opening = 0; opening < 3; ++opening) openAndZoom();
+  const int before = testing::CountGdiObjects();
+  for (int opening = 0; opening < 10; ++opening) openAndZoom();
+  EXPECT_EQ(testing::CountGdiObjects(), before);
+}
+
+}  // namespace
+}  // namespace tarvik
