@@ -203,8 +203,10 @@ void FrmFindIcon::OnScroll(HWND scrollBar, int request) {
 }
 
 LRESULT FrmFindIcon::OnNotify(NMHDR& header) {
-  if (header.hwndFrom == lv_.Window()) return lv_.Notify(header);
-  return 0;
+  if (header.hwndFrom != lv_.Window()) return 0;
+  const LRESULT answer = lv_.Notify(header);
+  if (header.code == static_cast<UINT>(NM_DBLCLK)) PicIcons_DblClick();
+  return answer;
 }
 
 void FrmFindIcon::OnMessage(UINT message) {

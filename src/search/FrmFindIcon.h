@@ -23,11 +23,16 @@
 #include "search/Selection.h"
 #include "startup/ProgramState.h"
 #include "startup/Settings.h"
+#include "view/frmBit.h"
 
 namespace tarvik {
 
 // The main window: search options, the icon grid or the icon list, and the menus from which everything else is reached.
-class FrmFindIcon final : public Form, private SearchWindow, private SelectionView, private SaveWindow {
+class FrmFindIcon final : public Form,
+                          private SearchWindow,
+                          private SelectionView,
+                          private SaveWindow,
+                          private EnhancedViewOwner {
  public:
   // What the window stands on. All of it outlives the window.
   struct Services {
@@ -86,6 +91,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void MnuContent_Click();
   void MnuAbout_Click();
   void Vsb_Change();
+  void PicIcons_DblClick();
   void Lv_Choose(const ReportList::Choice& choice);
   void mnuRem_Click();
   void mnuShowLabel_Click();
@@ -129,6 +135,14 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   std::shared_ptr<void> ShowHourglass() override;
   void UpdateSaveMenus() override;
 
+  // EnhancedViewOwner, beside RenderEntry
+  int EntryCount() const override;
+  const IconListEntry* Entry(int number) const override;
+  Integer16 CurrentIndex() const override;
+  bool ViewOpen() const override;
+  void SetViewOpen(bool open) override;
+  const Surface& PicIcon() const override;
+
   // SelectionView, where it asks for more than a search does
   int GridInnerHeight() const override;
   bool NumbersByFile() const override;
@@ -136,7 +150,6 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   // SaveWindow, where it asks for more than a search does
   const PixelView& PicMask() const override { return surfaces_.Mask(); }
   const PixelView& PicImage() const override { return surfaces_.Image(); }
-  const PixelView& PicIcon() const override { return surfaces_.Composed(); }
   std::string StatusText() const override;
   void ShowMessage(const std::string& text, MessageKind kind) override;
   std::shared_ptr<void> HoldCommands() override;
@@ -158,6 +171,8 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   IconList list_;
   SearchDriver driver_;
   Selection selection_;
+  std::optional<frmBit> view_;  // from the first time it opens
+  bool viewOpen_ = false;
   IconSurfaces surfaces_;  // PicIcon, PicMask and PicImage
   SaveCommands commands_;
   bool isSaving_ = false;   // a save or copy command runs, and the window takes no other

@@ -42,7 +42,9 @@ int IdOf(SearchControl control) {
 
 }  // namespace
 
-void FrmFindIcon::CloseEnhancedView() {}
+void FrmFindIcon::CloseEnhancedView() {
+  if (view_) view_->Unload();
+}
 
 void FrmFindIcon::Enable(SearchControl control, bool enabled) {
   EnableItem(IdOf(control), enabled);

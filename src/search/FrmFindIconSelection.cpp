@@ -12,6 +12,7 @@ namespace tarvik {
 void FrmFindIcon::OnPicture(const PictureEvent& event) {
   if (event.id != FrmFindIcon_PicIcons) return;
   if (event.kind == PictureEvent::Kind::MouseUp) selection_.PicIcons_MouseUp(event.shift, event.x, event.y);
+  if (event.kind == PictureEvent::Kind::DblClick) PicIcons_DblClick();
 }
 
 int FrmFindIcon::GridInnerHeight() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,7 +12,7 @@
 namespace tarvik {
 
 // The tooltips of the toolbar's buttons.
-inline constexpr FormText viewTooltips[] = {
+inline constexpr auto viewTooltips = std::to_array<FormText>({
     {frmBit_tlb_control_MoveFirst, {"First", "第一张", "第一張"}},
     {frmBit_tlb_control_MoveLast, {"Last", "最后一张", "最後一張"}},
     {frmBit_tlb_control_MovePrev, {"Back", "上一张", "上一張"}},
@@ -20,7 +21,7 @@ inline constexpr FormText viewTooltips[] = {
     {frmBit_tlb_control_Stop, {"Stop", "停止", "停止"}},
     {frmBit_tlb_control_Slower, {"Slower", "减慢", "減慢"}},
     {frmBit_tlb_control_Faster, {"Faster", "加快", "加快"}},
-};
+});
 
 // The window's caption for an enlarged picture of that size in pixels; nothing where `code` is no language. The
 // Traditional Chinese title begins with 流, and that is meant.

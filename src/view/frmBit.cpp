@@ -6,8 +6,8 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
-#include <iterator>
 
 #include "platform/Handles.h"
 #include "platform/Text.h"
@@ -23,7 +23,7 @@ namespace tarvik {
 namespace {
 
 // The buttons with their design texts, which stay where the interface is in no language.
-constexpr Toolbar::Button buttons[] = {
+constexpr auto buttons = std::to_array<Toolbar::Button>({
     {frmBit_tlb_control_MoveFirst, "First"},
     {frmBit_tlb_control_MovePrev, "Back"},
     {frmBit_tlb_control_MoveNext, "Forward"},
@@ -33,7 +33,7 @@ constexpr Toolbar::Button buttons[] = {
     {frmBit_tlb_control_Slower, "Slower", 0, true},
     {frmBit_tlb_control_Faster, "Faster"},
     {frmBit_tlb_control_Exit, "Exit", 0, true},
-};
+});
 
 // The buttons' pictures grow with the display's dots an inch, but toolbar and zoom list together stay above the
 // picture's fixed place.
@@ -41,7 +41,7 @@ struct ButtonPicture {
   int leastDotsPerInch;
   int side;  // pixels
 };
-constexpr ButtonPicture buttonPictures[] = {{168, 40}, {120, 32}, {0, 24}};
+constexpr auto buttonPictures = std::to_array<ButtonPicture>({{168, 40}, {120, 32}, {0, 24}});
 
 constexpr int zoomListGap = 3;  // pixels between toolbar and zoom list
 
@@ -128,10 +128,10 @@ void frmBit::OnSizeLimits(MINMAXINFO& limits) {
 }
 
 bool frmBit::OnCommand(int id, int code) {
-  static constexpr Event<frmBit> events[] = {
+  static constexpr auto events = std::to_array<Event<frmBit>>({
       {frmBit_tlb_control_MoveFirst, frmBit_tlb_control_Exit, BN_CLICKED, Call<&frmBit::tlb_control_ButtonClick>},
       {frmBit_CboZoom, frmBit_CboZoom, CBN_SELCHANGE, Call<&frmBit::CboZoom_Click>},
-  };
+  });
   return Dispatch<frmBit>(*this, events, id, code);
 }
 
@@ -153,13 +153,19 @@ void frmBit::tlb_control_ButtonClick(int button) {
     bool stopsShow;
     void (frmBit::*run)();
   };
-  static constexpr Action actions[] = {
-      {true, &frmBit::ShowFirst}, {true, &frmBit::ShowPrevious},    {true, &frmBit::ShowNext},
-      {true, &frmBit::ShowLast},  {false, &frmBit::StartSlideShow}, {false, &frmBit::StopSlideShow},
-      {false, &frmBit::Slower},   {false, &frmBit::Faster},         {false, &frmBit::Exit},
-  };
-  static_assert(std::size(actions) == frmBit_tlb_control_Exit - frmBit_tlb_control_MoveFirst + 1);
-  const Action& action = actions[static_cast<std::size_t>(button)];
+  static constexpr auto actions = std::to_array<Action>({
+      {true, &frmBit::ShowFirst},
+      {true, &frmBit::ShowPrevious},
+      {true, &frmBit::ShowNext},
+      {true, &frmBit::ShowLast},
+      {false, &frmBit::StartSlideShow},
+      {false, &frmBit::StopSlideShow},
+      {false, &frmBit::Slower},
+      {false, &frmBit::Faster},
+      {false, &frmBit::Exit},
+  });
+  static_assert(actions.size() == frmBit_tlb_control_Exit - frmBit_tlb_control_MoveFirst + 1);
+  const Action& action = actions.at(static_cast<std::size_t>(button));
   if (action.stopsShow) StopSlideShow();
   (this->*action.run)();
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -113,6 +114,49 @@ TEST_F(FrmFindIconSelectionTest, NumbersTheLabelByTheFileOnDemand) {
   EXPECT_FALSE(window->TheMenu().IsChecked(FrmFindIcon_mnuIL1));
   Click(FrmFindIcon_mnuIL1);
   EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 5 Selected.");
+}
+
+// Closes the enhanced view as soon as it is there, and remembers what its status bar said.
+class ViewWatcher {
+ public:
+  ViewWatcher() : timer_(SetTimer(nullptr, 0, 10, Tick)) { status.clear(); }
+  ~ViewWatcher() { KillTimer(nullptr, timer_); }
+  ViewWatcher(const ViewWatcher&) = delete;
+  ViewWatcher& operator=(const ViewWatcher&) = delete;
+
+  static inline std::string status;
+
+ private:
+  static BOOL CALLBACK Visit(HWND window, LPARAM /*parameter*/) {
+    const HWND bar = GetDlgItem(window, frmBit_sbMain);
+    if (bar == nullptr || IsWindowVisible(window) == FALSE) return TRUE;
+    std::array<wchar_t, 512> text{};
+    SendMessageW(bar, SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(text.data()));
+    status = ToUtf8(text.data());
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    return TRUE;
+  }
+  static void CALLBACK Tick(HWND /*window*/, UINT /*message*/, UINT_PTR /*id*/, DWORD /*time*/) {
+    EnumThreadWindows(GetCurrentThreadId(), Visit, 0);
+  }
+
+  UINT_PTR timer_;
+};
+
+TEST_F(FrmFindIconSelectionTest, OpensTheEnhancedViewOnADoubleClick) {
+  Open20();
+  const ViewWatcher view;
+  ReleaseOnGrid(3 + 2 * 38, 10);
+  ReleaseOnGrid(3 + 2 * 38, 10, MK_LBUTTON, WM_LBUTTONDBLCLK);
+  EXPECT_EQ(ViewWatcher::status, "C:\\icons\\some.dll - 2");
+  EXPECT_TRUE(IsWindowEnabled(window->Window()));
+}
+
+TEST_F(FrmFindIconSelectionTest, OpensNoEnhancedViewOfAnEmptyList) {
+  Open();
+  const ViewWatcher view;
+  ReleaseOnGrid(10, 10, MK_LBUTTON, WM_LBUTTONDBLCLK);
+  EXPECT_EQ(ViewWatcher::status, "");
 }
 
 TEST_F(FrmFindIconSelectionTest, HidesAndShowsTheLabel) {

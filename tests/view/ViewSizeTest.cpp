@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 #include <string>
 
@@ -36,10 +37,11 @@ TEST_F(ViewSizeTest, IsStoredAsDecimalTextWithAPoint) {
 }
 
 TEST(LeadingNumber, IsWhatATextBeginsWith) {
-  const struct {
+  struct Row {
     std::string text;
     float number;
-  } rows[] = {
+  };
+  const auto rows = std::to_array<Row>({
       {"5310", 5310},
       {"5310.25", 5310.25F},
       {" \t 42", 42},
@@ -67,7 +69,7 @@ TEST(LeadingNumber, IsWhatATextBeginsWith) {
       {"\xE4\xB8\xAD", 0},
       {"12\xE4\xB8\xAD", 12},
       {"\x01\x02", 0},
-  };
+  });
   for (const auto& row : rows) EXPECT_EQ(LeadingNumber(row.text), row.number) << '"' << row.text << '"';
 }
 

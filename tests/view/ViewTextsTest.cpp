@@ -35,7 +35,7 @@ TEST(ViewTooltips, StandForEightButtonsInThreeLanguages) {
                                     {frmBit_tlb_control_Stop, {"Stop", "停止", "停止"}},
                                     {frmBit_tlb_control_Slower, {"Slower", "减慢", "減慢"}},
                                     {frmBit_tlb_control_Faster, {"Faster", "加快", "加快"}}};
-  ASSERT_EQ(std::size(viewTooltips), expected.size());
+  ASSERT_EQ(viewTooltips.size(), expected.size());
   for (const FormText& row : viewTooltips) {
     const Row& texts = expected.at(row.id);
     EXPECT_EQ(row.text.eng, texts.eng);
