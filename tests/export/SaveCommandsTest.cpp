@@ -5,7 +5,7 @@
 
 #include <new>
 
-#include "export/FakeSaveWindow.h"
+#include "export/SaveCommandsFixture.h"
 
 namespace tarvik {
 namespace {
@@ -14,35 +14,6 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
-
-class SaveCommandsTest : public ::testing::Test {
- protected:
-  SaveCommandsTest() { state.CurrentLanguage = "ENG"; }
-
-  void List(int entries, std::initializer_list<int> selected = {}) {
-    for (int number = 1; number <= entries; ++number) list.Add("C:\\some.dll", number - 1);
-    for (const int number : selected) list.Select(number);
-  }
-  // What was written, in order.
-  std::vector<std::string> Files() const {
-    std::vector<std::string> paths;
-    for (const std::string& line : script)
-      if (line.starts_with("file ")) paths.push_back(line.substr(5));
-    return paths;
-  }
-  // One byte of a file that was written.
-  int Byte(const std::string& path, std::size_t place) { return std::to_integer<int>(files.bytes.at(path).at(place)); }
-
-  testing::Script script;
-  ProgramState state;
-  IconList list;
-  SearchState search;
-  testing::FakeSaveWindow window{script};
-  testing::NotedFiles files{script};
-  testing::FakeSaveDialogs dialogs{script, state};
-  testing::FakeTemporaryPicture temporary{script};
-  SaveCommands commands{window, {dialogs, files, temporary}, list, search, state};
-};
 
 // Save As
 
@@ -236,165 +207,6 @@ TEST_F(SaveCommandsTest, SaysThatACursorFailed) {
     commands.MnuSaveAsCursor_Click();
     EXPECT_EQ(script.back(), "failure " + text);
   }
-}
-
-// Batches
-
-TEST_F(SaveCommandsTest, NumbersTheFilesOfABatchAsTheEntries) {
-  List(3, {2});
-  dialogs.folder = "D:\\out";
-  commands.mnuSaveAll_Click();
-  EXPECT_THAT(script, ElementsAre("folder for .ICO", "hourglass", "status Saving...", "render 1",
-                                  "file D:\\out\\Icon 1.ico", "paint", "render 2", "file D:\\out\\Icon 2.ico", "paint",
-                                  "render 3", "file D:\\out\\Icon 3.ico", "paint", "status standing", "pointer back"));
-}
-
-TEST_F(SaveCommandsTest, NumbersTheFilesOfSelectedEntriesFromOneOn) {
-  List(6, {2, 5});
-  dialogs.folder = "D:\\out";
-  commands.mnuSaveSel3_Click();
-  EXPECT_THAT(script, Contains("folder for .CUR"));
-  EXPECT_THAT(Files(), ElementsAre("D:\\out\\Curor 1.cur", "D:\\out\\Curor 2.cur"));
-  EXPECT_THAT(script, Contains("render 5"));
-  EXPECT_THAT(script, Not(Contains("render 3")));
-  EXPECT_THAT(script, Not(Contains("hot spot")));
-}
-
-TEST_F(SaveCommandsTest, NamesTheFilesOfEachKindOfBatch) {
-  List(1, {1});
-  dialogs.folder = "D:\\out";
-  commands.mnuSaveAll_Click();
-  commands.mnuSaveSel_Click();
-  commands.mnuSaveAll2_Click();
-  commands.mnuSaveSel2_Click();
-  commands.mnuSaveAll3_Click();
-  commands.mnuSaveSel3_Click();
-  EXPECT_THAT(Files(), ElementsAre("D:\\out\\Icon 1.ico", "D:\\out\\Icon 1.ico", "D:\\out\\Images 1.bmp",
-                                   "D:\\out\\Images 1.bmp", "D:\\out\\Curor 1.cur", "D:\\out\\Curor 1.cur"));
-}
-
-TEST_F(SaveCommandsTest, WritesNumbersWithoutLeadingZeros) {
-  List(12);
-  dialogs.folder = "D:\\out";
-  commands.mnuSaveAll_Click();
-  EXPECT_EQ(Files()[8], "D:\\out\\Icon 9.ico");
-  EXPECT_EQ(Files()[11], "D:\\out\\Icon 12.ico");
-}
-
-TEST_F(SaveCommandsTest, TakesADriveRootAsItStands) {
-  List(1);
-  dialogs.folder = "C:\\";
-  commands.mnuSaveAll_Click();
-  EXPECT_THAT(Files(), ElementsAre("C:\\Icon 1.ico"));
-}
-
-TEST_F(SaveCommandsTest, SavesNoBatchWhereNoFolderIsChosen) {
-  List(2, {1});
-  commands.mnuSaveAll_Click();
-  commands.mnuSaveAll2_Click();
-  commands.mnuSaveSel3_Click();
-  EXPECT_THAT(script, ElementsAre("folder for .ICO", "folder for .bmp", "folder for .CUR"));
-}
-
-TEST_F(SaveCommandsTest, SaysThatNoEntryIsSelectedBeforeItAsksForAFolder) {
-  List(3);
-  commands.mnuSaveSel_Click();
-  commands.mnuSaveSel2_Click();
-  commands.mnuSaveSel3_Click();
-  EXPECT_THAT(script,
-              ElementsAre("hint No Icon be selected.", "hint No Icon be selected.", "hint No Icon be selected."));
-  for (const auto& [language, text] :
-       std::map<std::string, std::string>{{"CHS", "hint 未所中任何图标."}, {"CHT", "hint 未所中任何圖示."}}) {
-    state.CurrentLanguage = language;
-    commands.mnuSaveSel_Click();
-    EXPECT_EQ(script.back(), text);
-  }
-}
-
-TEST_F(SaveCommandsTest, GoesOnAfterAFileThatFailed) {
-  List(3);
-  dialogs.folder = "D:\\out";
-  files.refused = {"D:\\out\\Icon 2.ico", "D:\\out\\Images 1.bmp", "D:\\out\\Curor 3.cur"};
-  commands.mnuSaveAll_Click();
-  EXPECT_THAT(script, Contains("failure Unable to save the file D:\\out\\Icon 2.ico"));
-  commands.mnuSaveAll2_Click();
-  EXPECT_THAT(script, Contains("failure Failed to Save Icon As Bitmap."));
-  commands.mnuSaveAll3_Click();
-  EXPECT_THAT(script, Contains("failure Failed to Save Icon As Cursor."));
-  EXPECT_THAT(Files(), ElementsAre("D:\\out\\Icon 1.ico", "D:\\out\\Icon 3.ico", "D:\\out\\Images 2.bmp",
-                                   "D:\\out\\Images 3.bmp", "D:\\out\\Curor 1.cur", "D:\\out\\Curor 2.cur"));
-  EXPECT_EQ(window.status, "standing");
-}
-
-TEST_F(SaveCommandsTest, WritesBitmapsUnderTheExtensionOfTheChosenType) {
-  List(1);
-  dialogs.folder = "D:\\out";
-  for (const char* extension : {".png", ".wbmp", ".emf"}) {
-    dialogs.chosenExtension = extension;
-    commands.mnuSaveAll2_Click();
-    const std::string path = std::string("D:\\out\\Images 1") + extension;
-    EXPECT_EQ(Files().back(), path);
-    EXPECT_EQ(Byte(path, 0), 'B');
-  }
-}
-
-TEST_F(SaveCommandsTest, ShowsTheJpegDialogOnceBeforeABatch) {
-  List(2);
-  dialogs.folder = "D:\\out";
-  dialogs.chosenExtension = ".jpg";
-  commands.mnuSaveAll2_Click();
-  EXPECT_THAT(script, ElementsAre("folder for .bmp", "jpeg show batch", "hourglass", "status Saving...", "render 1",
-                                  "temporary", "jpeg init D:\\out\\Images 1.jpg batch",
-                                  "jpeg save D:\\out\\Images 1.jpg", "paint", "render 2", "temporary",
-                                  "jpeg init D:\\out\\Images 2.jpg batch", "jpeg save D:\\out\\Images 2.jpg", "paint",
-                                  "status standing", "pointer back", "delete temporary", "jpeg free"));
-}
-
-TEST_F(SaveCommandsTest, ShowsTheGifDialogOnceBeforeABatch) {
-  List(3, {1, 3});
-  dialogs.folder = "D:\\out";
-  dialogs.chosenExtension = ".gif";
-  commands.mnuSaveSel2_Click();
-  EXPECT_THAT(script,
-              ElementsAre("folder for .bmp", "gif show batch", "hourglass", "status Saving...", "render 1",
-                          "gif save D:\\out\\Images 1.gif", "paint", "render 3", "gif save D:\\out\\Images 2.gif",
-                          "paint", "status standing", "pointer back", "gif free"));
-}
-
-TEST_F(SaveCommandsTest, WritesNothingWhereTheOptionsOfABatchAreCancelled) {
-  List(2);
-  dialogs.folder = "D:\\out";
-  dialogs.jpeg.answer = dialogs.gif.answer = DialogAnswer::Cancelled;
-  dialogs.chosenExtension = ".jpg";
-  commands.mnuSaveAll2_Click();
-  dialogs.chosenExtension = ".gif";
-  commands.mnuSaveAll2_Click();
-  EXPECT_THAT(script, ElementsAre("folder for .bmp", "jpeg show batch", "jpeg free", "folder for .bmp",
-                                  "gif show batch", "gif free"));
-}
-
-TEST_F(SaveCommandsTest, GoesOnAfterAnEncodedFileThatFailed) {
-  List(2);
-  dialogs.folder = "D:\\out";
-  dialogs.chosenExtension = ".jpg";
-  dialogs.jpeg.refused = {"D:\\out\\Images 1.jpg"};
-  commands.mnuSaveAll2_Click();
-  EXPECT_THAT(script, Contains("failure Failed to Save Icon As Bitmap.").Times(1));
-  EXPECT_THAT(script, Contains("jpeg save D:\\out\\Images 2.jpg"));
-  dialogs.chosenExtension = ".gif";
-  dialogs.gif.refused = {"D:\\out\\Images 1.gif"};
-  commands.mnuSaveAll2_Click();
-  EXPECT_THAT(script, Contains("failure Failed to Save Icon As Bitmap.").Times(2));
-  EXPECT_THAT(script, Contains("gif save D:\\out\\Images 2.gif"));
-}
-
-TEST_F(SaveCommandsTest, ReportsEachFileWhoseTemporaryBitmapFails) {
-  List(2);
-  dialogs.folder = "D:\\out";
-  dialogs.chosenExtension = ".jpg";
-  temporary.works = false;
-  commands.mnuSaveAll2_Click();
-  EXPECT_THAT(script, Contains("failure Failed to Save Icon As Bitmap.").Times(2));
 }
 
 TEST_F(SaveCommandsTest, TakesNoOtherCommandMeanwhile) {

@@ -1,5 +1,5 @@
-// Starts the real program on the screen that there is, in each language, and sees whether it refuses. The screen and the
-// expected answer come in the environment: the one who made the screen knows them.
+// Starts the real program on the screen that there is, in each language, and sees whether it refuses. The screen and
+// the expected answer come in the environment: the one who made the screen knows them.
 
 #include <windows.h>
 

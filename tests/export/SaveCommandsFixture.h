@@ -1,0 +1,44 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "export/FakeSaveWindow.h"
+#include "export/SaveCommands.h"
+
+namespace tarvik {
+
+// The save commands over a fake window, with a list of a test's own making.
+class SaveCommandsTest : public ::testing::Test {
+ protected:
+  SaveCommandsTest() { state.CurrentLanguage = "ENG"; }
+
+  void List(int entries, std::initializer_list<int> selected = {}) {
+    for (int number = 1; number <= entries; ++number) list.Add("C:\\some.dll", number - 1);
+    for (const int number : selected) list.Select(number);
+  }
+  // What was written, in order.
+  std::vector<std::string> Files() const {
+    std::vector<std::string> paths;
+    for (const std::string& line : script)
+      if (line.starts_with("file ")) paths.push_back(line.substr(5));
+    return paths;
+  }
+  // One byte of a file that was written.
+  int Byte(const std::string& path, std::size_t place) { return std::to_integer<int>(files.bytes.at(path).at(place)); }
+
+  testing::Script script;
+  ProgramState state;
+  IconList list;
+  SearchState search;
+  testing::FakeSaveWindow window{script};
+  testing::NotedFiles files{script};
+  testing::FakeSaveDialogs dialogs{script, state};
+  testing::FakeTemporaryPicture temporary{script};
+  SaveCommands commands{window, {dialogs, files, temporary}, list, search, state};
+};
+
+}  // namespace tarvik
