@@ -10,7 +10,6 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::Not;
 
 TEST_F(SaveCommandsTest, NumbersTheFilesOfABatchAsTheEntries) {
