@@ -15,6 +15,7 @@ class Form;
 class Application {
  public:
   explicit Application(HINSTANCE instance);
+  ~Application() = default;
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;
 

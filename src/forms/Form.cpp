@@ -88,7 +88,7 @@ void Form::EnableItem(int id, bool enabled) {
   }
 }
 
-void Form::ShowItem(int id, bool shown) {
+void Form::ShowItem(int id, bool shown) const {
   ShowWindow(Item(id), shown ? SW_SHOW : SW_HIDE);
 }
 

@@ -74,7 +74,7 @@ class Form {
   void SetItemText(int id, std::string_view text);
   std::string ItemText(int id) const;
   void EnableItem(int id, bool enabled);
-  void ShowItem(int id, bool shown);
+  void ShowItem(int id, bool shown) const;
   bool IsChecked(int id) const;
   void SetChecked(int id, bool checked);
   const Menu& TheMenu() const { return menu_; }

@@ -70,7 +70,7 @@ void PictureBox::Register(HINSTANCE instance) {
   WNDCLASSW definition{};
   definition.style = CS_DBLCLKS;
   definition.lpfnWndProc = WindowProcedure;
-  definition.cbWndExtra = sizeof(const Surface*);
+  definition.cbWndExtra = sizeof(LONG_PTR);  // the picture
   definition.hInstance = instance;
   definition.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
   definition.lpszClassName = className;

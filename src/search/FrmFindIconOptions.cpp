@@ -133,6 +133,7 @@ void FrmFindIcon::Vsb_Change() {
   SetWindowPos(picIcons_.Window(), nullptr, 0, -vsb_.Value(), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// A handler like the others, whatever it leaves alone. NOLINTNEXTLINE(readability-make-member-function-const)
 void FrmFindIcon::MnuContent_Click() {
   services_.openGuide();
 }

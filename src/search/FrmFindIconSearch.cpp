@@ -112,6 +112,7 @@ void FrmFindIcon::ShowInformation(const std::string& text) {
 
 void FrmFindIcon::ClearListView() {
   std::vector<ReportList::Column> columns;
+  columns.reserve(iconListColumns.size());
   for (const IconListColumn& column : iconListColumns) columns.push_back({column.Header, column.Width});
   lv_.Clear(columns);
   UpdateSaveMenus();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include <map>
 #include <string>
 
@@ -16,7 +18,7 @@ TEST(FileDialogModes, TitlesEachModeInEachLanguage) {
     const char* code;
     const char* title;
   };
-  const Row rows[] = {
+  const std::array<Row, 10> rows{{
       {saveAsMode, "ENG", "Brindle Tarvik - Save As"},
       {saveAsMode, "CHS", "Brindle Tarvik - 另存为"},
       {saveAsMode, "CHT", "Brindle Tarvik - 另存為"},
@@ -27,7 +29,7 @@ TEST(FileDialogModes, TitlesEachModeInEachLanguage) {
       {saveAsCursorMode, "CHS", "Brindle Tarvik - 另存为图标"},
       {saveAsCursorMode, "CHT", "Brindle Tarvik - 另存為圖示"},
       {saveAsMode, "XYZ", "Brindle Tarvik"},
-  };
+  }};
   for (const Row& row : rows) EXPECT_EQ(FileDialogTitle(row.mode, row.code), row.title);
 }
 
@@ -47,8 +49,10 @@ TEST(FileDialogModes, NamesTheDefaultExtensions) {
 }
 
 TEST(ImageTypes, GiveAnExtensionForTheFirstNinePlacesOnly) {
-  const char* const extensions[] = {".bmp", ".gif", ".jpg", ".png", ".wbmp", ".tif", ".tga", ".wmf", ".emf"};
-  for (int place = 0; place < 9; ++place) EXPECT_EQ(ImageExtension(place), extensions[place]);
+  constexpr std::array extensions{".bmp", ".gif", ".jpg", ".png", ".wbmp", ".tif", ".tga", ".wmf", ".emf"};
+  for (int place = 0; place < 9; ++place) {
+    EXPECT_EQ(ImageExtension(place), extensions.at(static_cast<std::size_t>(place)));
+  }
   EXPECT_EQ(ImageExtension(-1), std::nullopt);
   EXPECT_EQ(ImageExtension(9), std::nullopt);
 }
