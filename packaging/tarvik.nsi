@@ -3,7 +3,7 @@
 ; FILES holds tarvik.exe, LICENSE.txt, third-party-notices.txt and guide\.
 ;
 ; It asks for the language, which is the installer's own and the program's. Without questions: /S, with the language in
-; /LANGUAGE=ENG, CHS or CHT (English where it is left out), and the folder in /D=FOLDER, last.
+; /LANGUAGE=ENG, CHS or CHT (left out: that of an earlier installation, else English), and the folder in /D=FOLDER, last.
 ; Exit codes: 0 done, 1 cancelled, 2 no such language or not done.
 
 Target amd64-unicode
@@ -87,8 +87,8 @@ LangString CopyFailed ${LANG_TRADCHINESE} "無法寫入檔案。請關閉本程�
   ${EndIf}
 !macroend
 
-; Takes the language from the command line into $LANGUAGE; false (the error flag) where it is none of the three.
-Function LanguageFromArgument
+; Takes the program's code for a language in $R1 into $LANGUAGE; sets the error flag where it is none of the three.
+Function ChooseLanguage
   ClearErrors
   ${If} $R1 == "ENG"
     StrCpy $LANGUAGE ${LANG_ENGLISH}
@@ -107,19 +107,24 @@ Function .onInit
   ${GetParameters} $R0
   ClearErrors
   ${GetOptions} $R0 "/LANGUAGE=" $R1
-  ${If} ${Errors}
-    ${If} ${Silent}
-      StrCpy $LANGUAGE ${LANG_ENGLISH}
-    ${Else}
-      !insertmacro MUI_LANGDLL_DISPLAY
-    ${EndIf}
-  ${Else}
-    Call LanguageFromArgument
+  ${IfNot} ${Errors}
+    Call ChooseLanguage
     ${If} ${Errors}
       MessageBox MB_OK|MB_ICONSTOP "/LANGUAGE=ENG, CHS, CHT" /SD IDOK
       SetErrorLevel 2
       Quit
     ${EndIf}
+    Return
+  ${EndIf}
+
+  ; That of an earlier installation is kept, or offered first.
+  ReadRegStr $R1 HKLM "${LANGUAGE_KEY}" Language
+  Call ChooseLanguage
+  ${If} ${Errors}
+    StrCpy $LANGUAGE ${LANG_ENGLISH}
+  ${EndIf}
+  ${IfNot} ${Silent}
+    !insertmacro MUI_LANGDLL_DISPLAY
   ${EndIf}
 FunctionEnd
 

@@ -1,0 +1,119 @@
+// What an installation has left behind: the program, its language, and the rights of ordinary users.
+
+#include <windows.h>
+
+#include <aclapi.h>
+#include <gtest/gtest.h>
+#include <sddl.h>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "end_to_end/Controls.h"
+#include "end_to_end/Waiting.h"
+#include "platform/Handles.h"
+#include "platform/TemporaryFolder.h"
+#include "platform/Text.h"
+#include "resource.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path home = L"C:\\Program Files\\Brindle Tarvik";
+constexpr const wchar_t* languageKey = L"MACHINE\\Software\\Vornhold\\Brindle Tarvik\\RegInfo";
+constexpr const wchar_t* keyAbove = L"MACHINE\\Software\\Vornhold\\Brindle Tarvik";
+
+// An entry for ordinary users in an object's own list of rights.
+struct OwnRights {
+  DWORD mask;
+  int flags;  // how far it reaches beyond the object
+};
+
+// The last such entry; entries that come from above do not count. None where there is none.
+std::optional<OwnRights> OwnRightsOfUsers(const wchar_t* name, SE_OBJECT_TYPE kind) {
+  ACL* list = nullptr;
+  PSECURITY_DESCRIPTOR descriptor = nullptr;
+  EXPECT_EQ(GetNamedSecurityInfoW(name, kind, DACL_SECURITY_INFORMATION, nullptr, nullptr, &list, nullptr, &descriptor),
+            static_cast<DWORD>(ERROR_SUCCESS));
+  PSID users = nullptr;
+  ConvertStringSidToSidW(L"S-1-5-32-545", &users);
+  std::optional<OwnRights> rights;
+  for (DWORD index = 0; list != nullptr && index < list->AceCount; ++index) {
+    void* entry = nullptr;
+    GetAce(list, index, &entry);
+    auto* allowed = static_cast<ACCESS_ALLOWED_ACE*>(entry);
+    const bool own = (allowed->Header.AceFlags & INHERITED_ACE) == 0;
+    if (allowed->Header.AceType == ACCESS_ALLOWED_ACE_TYPE && own && EqualSid(&allowed->SidStart, users) != FALSE)
+      rights = OwnRights{allowed->Mask, allowed->Header.AceFlags};
+  }
+  LocalFree(users);
+  LocalFree(descriptor);
+  return rights;
+}
+
+// A visible window that has a control with that id, once there is one.
+Control WaitForWindowWith(int id) {
+  struct Search {
+    int id;
+    HWND found;
+  } search{id, nullptr};
+  Eventually([&search] {
+    EnumWindows(
+        [](HWND window, LPARAM data) {
+          auto& wanted = *reinterpret_cast<Search*>(data);
+          if (IsWindowVisible(window) == FALSE || GetDlgItem(window, wanted.id) == nullptr) return TRUE;
+          wanted.found = window;
+          return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found != nullptr;
+  });
+  return Control(search.found);
+}
+
+TEST(InstalledRights, LetUsersOpenTheLanguageKeyAsTheProgramDoes) {
+  const auto rights = OwnRightsOfUsers(languageKey, SE_REGISTRY_KEY);
+  ASSERT_TRUE(rights);
+  EXPECT_EQ(rights->mask, 0x2003FU);
+  EXPECT_EQ(rights->flags, 0) << "the rights reach further than this one key";
+}
+
+TEST(InstalledRights, GiveUsersNothingToChangeInTheKeyAbove) {
+  const auto rights = OwnRightsOfUsers(keyAbove, SE_REGISTRY_KEY);
+  EXPECT_EQ(rights.value_or(OwnRights{}).mask & (KEY_SET_VALUE | KEY_CREATE_SUB_KEY | KEY_CREATE_LINK), 0U);
+}
+
+TEST(InstalledProgram, FindsIconsInTheLanguageOfTheInstallation) {
+  const testing::TemporaryFolder folder;
+  fs::copy_file(home / L"tarvik.exe", fs::path(ToWide(folder.In("some.ico"))));
+  const std::string settings = ToUtf8((home / L"tarvik.dat").wstring());
+  ASSERT_NE(WritePrivateProfileStringA("FindIcon", "Folder", folder.Path().c_str(), settings.c_str()), FALSE);
+
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION information{};
+  ASSERT_NE(CreateProcessW((home / L"tarvik.exe").c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, home.c_str(),
+                           &startup, &information),
+            FALSE);
+  const FileHandle process(information.hProcess);
+  const FileHandle thread(information.hThread);
+
+  const Control window = WaitForWindowWith(FrmFindIcon_CmdFind);
+  ASSERT_TRUE(window);
+  EXPECT_EQ(window.Text(), "布林德图标搜索");
+  Control(GetDlgItem(window.Window(), FrmFindIcon_CmdFind)).Send(BM_CLICK);
+  EXPECT_EQ(ReportView(Control(GetDlgItem(window.Window(), FrmFindIcon_Lv))).RowCount(), 1);
+  window.Post(WM_CLOSE);
+  EXPECT_EQ(WaitForSingleObject(process.get(), 60000), WAIT_OBJECT_0);
+
+  char subDir[16] = {};
+  GetPrivateProfileStringA("FindIcon", "Subdir", "", subDir, sizeof subDir, settings.c_str());
+  EXPECT_STREQ(subDir, "False");
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end
