@@ -1,0 +1,109 @@
+// The start-up window and About box in three languages, and in one that the program does not know; a language that may
+// not be read; and a skin.
+
+#include <windows.h>
+
+#include <aclapi.h>
+#include <sddl.h>
+
+#include <filesystem>
+
+#include "end_to_end/EndToEndTest.h"
+#include "end_to_end/UnixProgram.h"
+#include "platform/Text.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+struct SpashRow {
+  std::optional<std::string> value;  // as it stands in the registry
+  const char* name;                  // of the pictures
+  const char* caption;
+  const char* notice;
+  const char* ok;
+};
+
+void PrintTo(const SpashRow& row, std::ostream* out) {
+  *out << row.name;
+}
+
+// A picture of a window, for people to look at: start-up-ENG.png and so on in the build's folder "run".
+void SavePicture(const Control& window, const std::string& name) {
+  const RECT place = window.Place();
+  const std::string area = std::to_string(place.right - place.left) + "x" + std::to_string(place.bottom - place.top) +
+                           "+" + std::to_string(place.left) + "+" + std::to_string(place.top);
+  const fs::path folder = BuiltFile("../../../run");
+  fs::create_directories(folder);
+  const auto answer =
+      RunUnix("import -silent -window root -crop " + area + " +repage " + UnixQuoted(folder / ToWide(name + ".png")));
+  EXPECT_EQ(answer.exitCode, 0) << answer.output;
+}
+
+class StartUpTexts : public EndToEnd, public ::testing::WithParamInterface<SpashRow> {
+ protected:
+  static void ExpectTexts(const Control& window) {
+    EXPECT_EQ(window.Text(), GetParam().caption);
+    EXPECT_EQ(Control(GetDlgItem(window.Window(), FrmSpash_lblDescription)).Text(), GetParam().notice);
+    EXPECT_EQ(Control(GetDlgItem(window.Window(), FrmSpash_LblEmail)).Text(), "support@brindle-tarvik.example");
+    EXPECT_EQ(Control(GetDlgItem(window.Window(), FrmSpash_CmdOk)).Text(), GetParam().ok);
+  }
+};
+
+TEST_P(StartUpTexts, AreThoseOfTheLanguageAtStartUpAndInTheAboutBox) {
+  const LanguageValue language(GetParam().value);
+  program_.Launch();
+  const Control startUp = program_.WaitForStartUpWindow();
+  ExpectTexts(startUp);
+  SavePicture(startUp, std::string("start-up-") + GetParam().name);
+  program_.WaitForMainWindow();
+  program_.Command(FrmFindIcon_MnuAbout);
+  const Control about = program_.WaitForStartUpWindow();
+  ExpectTexts(about);
+  SavePicture(about, std::string("about-") + GetParam().name);
+  Control(GetDlgItem(about.Window(), FrmSpash_CmdOk)).Press();
+  EXPECT_TRUE(Eventually([&] { return IsWindow(about.Window()) == 0; }));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Languages, StartUpTexts,
+    ::testing::Values(
+        SpashRow{std::nullopt, "ENG", "Brindle Tarvik", "Finds the icons stored in your files and saves them.", "&OK"},
+        SpashRow{"CHS", "CHS", "布林德图标搜索", "查找并保存文件中的图标。", "确定(&O)"},
+        SpashRow{"CHT", "CHT", "布林德圖示搜尋", "尋找並儲存檔案中的圖示。", "確定(&O)"},
+        SpashRow{"Chinese", "unknown", "Brindle Tarvik", "Finds icons and saves them.", "&OK"}));
+
+class StartUpRights : public EndToEnd {};
+
+// Leaves everybody, the owner too, the right to read the language's key and no more.
+class ReadOnlyLanguage {
+ public:
+  ReadOnlyLanguage() { SetRights(L"D:P(A;;KR;;;WD)"); }
+  ~ReadOnlyLanguage() { SetRights(L"D:P(A;;KA;;;WD)"); }
+  ReadOnlyLanguage(const ReadOnlyLanguage&) = delete;
+  ReadOnlyLanguage& operator=(const ReadOnlyLanguage&) = delete;
+
+ private:
+  static void SetRights(const wchar_t* rights) {
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    ASSERT_NE(ConvertStringSecurityDescriptorToSecurityDescriptorW(rights, SDDL_REVISION_1, &descriptor, nullptr),
+              FALSE);
+    ACL* list = nullptr;
+    BOOL present = FALSE;
+    BOOL defaulted = FALSE;
+    GetSecurityDescriptorDacl(descriptor, &present, &list, &defaulted);
+    wchar_t name[] = L"MACHINE\\Software\\Vornhold\\Brindle Tarvik\\RegInfo";
+    EXPECT_EQ(SetNamedSecurityInfoW(name, SE_REGISTRY_KEY, DACL_SECURITY_INFORMATION, nullptr, nullptr, list, nullptr),
+              static_cast<DWORD>(ERROR_SUCCESS));
+    LocalFree(descriptor);
+  }
+};
+
+TEST_F(StartUpRights, ALanguageThatMayOnlyBeReadLeavesTheProgramInEnglish) {
+  const LanguageValue language("CHS");
+  const ReadOnlyLanguage readOnly;
+  Start();
+  EXPECT_EQ(Caption(), "Brindle Tarvik");
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end
