@@ -136,7 +136,8 @@ bool frmBit::OnCommand(int id, int code) {
 }
 
 void frmBit::OnTimer(UINT_PTR id) {
-  if (id == frmBit_tim_nextpic) tim_nextpic_Timer();
+  // A tick may still be under way when the show stops.
+  if (id == frmBit_tim_nextpic && show_.IsEnabled()) tim_nextpic_Timer();
 }
 
 bool frmBit::PreviewMessage(const MSG& message) {

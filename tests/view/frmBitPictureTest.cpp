@@ -1,10 +1,23 @@
 // The enlarged picture, pixel by pixel, and what showing it costs.
 
+#include <windows.h>
+
+#include <psapi.h>
+
+#include <cstdint>
+
 #include "platform/GdiObjects.h"
 #include "view/ViewFixture.h"
 
 namespace tarvik {
 namespace {
+
+// The memory that this process has in use, in bytes. Wine counts no other kind.
+std::int64_t UsedBytes() {
+  PROCESS_MEMORY_COUNTERS counters{};
+  K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+  return static_cast<std::int64_t>(counters.WorkingSetSize);
+}
 
 class frmBitPictureTest : public testing::ViewFixture {
  protected:
@@ -85,14 +98,17 @@ TEST_F(frmBitPictureTest, StaysBelowToolbarZoomListAndStatusBar) {
   });
 }
 
-TEST_F(frmBitPictureTest, HoldsNoMoreHandlesAfterAnHourOfTicks) {
+TEST_F(frmBitPictureTest, HoldsNoMoreHandlesAndMemoryAfterAnHourOfTicks) {
   MakeList(5, 0, 64);
   WhileOpen([this] {
     Click(frmBit_tlb_control_Start);
-    for (int tick = 0; tick < 10; ++tick) Tick();
-    const int before = testing::CountGdiObjects();
+    for (int tick = 0; tick < 100; ++tick) Tick();
+    const int objects = testing::CountGdiObjects();
+    const std::int64_t bytes = UsedBytes();
+    EXPECT_GT(bytes, 0);
     for (int tick = 0; tick < 3600; ++tick) Tick();
-    EXPECT_EQ(testing::CountGdiObjects(), before);
+    EXPECT_EQ(testing::CountGdiObjects(), objects);
+    EXPECT_LT(UsedBytes() - bytes, 1 << 20) << "not 300 bytes a tick";
   });
 }
 

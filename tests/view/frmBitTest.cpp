@@ -199,6 +199,16 @@ TEST_F(frmBitTest, ShowsTheNextEntryWhenTheTimerFires) {
   });
 }
 
+TEST_F(frmBitTest, DoesNotAdvanceOnATickThatComesAfterTheStop) {
+  WhileOpen([this] {
+    Click(frmBit_tlb_control_Start);
+    Click(frmBit_tlb_control_Stop);
+    host->asked.clear();
+    Tick();
+    EXPECT_TRUE(host->asked.empty());
+  });
+}
+
 TEST_F(frmBitTest, DoesNotAdvanceWhileMinimised) {
   WhileOpen([this] {
     host->asked.clear();
@@ -264,6 +274,20 @@ TEST_F(frmBitTest, OpensAgainAsTheFirstTime) {
     EXPECT_EQ(Status(), "C:\\icons\\4.dll - 40");
     Click(frmBit_tlb_control_MoveNext);
     EXPECT_THAT(host->asked, ElementsAre(4, 4)) << "the selection counts anew";
+  });
+}
+
+TEST_F(frmBitTest, OpensAgainWithItsFirstInterval) {
+  WhileOpen([this] {
+    for (int press = 0; press < 4; ++press) Press(plusKey);
+  });
+  host->asked.clear();
+  WhileOpen([this] {
+    Click(frmBit_tlb_control_Start);
+    for (int press = 0; press < 3; ++press) Press(plusKey);
+    const ULONGLONG start = GetTickCount64();
+    EXPECT_TRUE(WaitFor([this] { return host->asked.size() >= 2; }));
+    EXPECT_GE(GetTickCount64() - start, 1500U) << "from five seconds down to two";
   });
 }
 
