@@ -68,11 +68,12 @@ bool DiskFile::Open(const std::string& path) {
   if (!file_ && GetLastError() == ERROR_FILE_EXISTS && Replace(systemPath))
     file_ = OpenForWriting(systemPath, TRUNCATE_EXISTING);
   if (!IsDiskFile(file_)) file_.reset();
-  return static_cast<bool>(file_);
+  complete_ = static_cast<bool>(file_);
+  return complete_;
 }
 
 bool DiskFile::Write(std::span<const std::byte> bytes) {
-  if (!file_) return false;
+  if (!complete_) return false;
   if (gathered_.size() + bytes.size() > blockSize && !Flush()) return false;
   if (bytes.size() >= blockSize) return WriteThrough(bytes);
   gathered_.insert(gathered_.end(), bytes.begin(), bytes.end());
@@ -80,7 +81,8 @@ bool DiskFile::Write(std::span<const std::byte> bytes) {
 }
 
 bool DiskFile::Close() {
-  const bool complete = file_ && Flush();
+  const bool complete = complete_ && Flush();
+  complete_ = false;
   file_.reset();
   return complete;
 }
@@ -90,8 +92,10 @@ bool DiskFile::WriteThrough(std::span<const std::byte> bytes) {
   while (!bytes.empty()) {
     const auto part = bytes.first(std::min(bytes.size(), mostAtOnce));
     DWORD written = 0;
-    if (WriteFile(file_.get(), part.data(), static_cast<DWORD>(part.size()), &written, nullptr) == 0 || written == 0)
+    if (WriteFile(file_.get(), part.data(), static_cast<DWORD>(part.size()), &written, nullptr) == 0 || written == 0) {
+      complete_ = false;
       return false;
+    }
     bytes = bytes.subspan(written);
   }
   return true;

@@ -24,6 +24,7 @@ class DiskFile final : public FileSink {
 
   FileHandle file_;
   std::vector<std::byte> gathered_;
+  bool complete_ = false;  // nothing that was to be written is missing
 };
 
 }  // namespace tarvik
