@@ -25,7 +25,7 @@ need_packages() {
   [ ${#missing[@]} -gt 0 ] || return 0
   command -v apt-get >/dev/null || fail "these packages are missing and there is no apt-get: ${missing[*]}"
   say "Installing ${#missing[@]} Debian packages: ${missing[*]}"
-  as_root apt-get update -qq || fail "apt-get update failed; is the package server reachable?"
+  as_root apt-get update -qq || fail "apt-get update failed; is the package server reachable, and may you use sudo?"
   as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null ||
     fail "apt-get could not install: ${missing[*]}"
 }
