@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstddef>
 #include <span>
+#include <utility>
 
 #include "encoders/ColorReduction.h"
 

@@ -7,7 +7,6 @@
 #include <exception>
 #include <span>
 #include <string_view>
-#include <utility>
 
 #include <jpeglib.h>
 
@@ -31,18 +30,11 @@ bool IsGreyscale(const JpegSampling& sampling) {
   return !IsPresent(sampling[1]) && !IsPresent(sampling[2]);
 }
 
-// One component, or three: what the file header and the colour spaces know.
-bool IsWritable(const JpegSampling& sampling) {
-  const auto fits = [](const SamplingFactors& factors) {
-    return factors.horizontal >= 1 && factors.horizontal <= MAX_SAMP_FACTOR && factors.vertical >= 1 &&
-           factors.vertical <= MAX_SAMP_FACTOR;
-  };
-  return fits(sampling[0]) && (IsGreyscale(sampling) || (fits(sampling[1]) && fits(sampling[2])));
-}
-
 int BlocksInterleaved(const JpegSampling& sampling) {
+  // Factors past the bound are the library's to refuse; here they need only not overflow.
+  const auto bounded = [](int factor) { return std::clamp(factor, 0, MAX_SAMP_FACTOR + 1); };
   int blocks = 0;
-  for (const SamplingFactors& factors : sampling) blocks += factors.horizontal * factors.vertical;
+  for (const SamplingFactors& factors : sampling) blocks += bounded(factors.horizontal) * bounded(factors.vertical);
   return blocks;
 }
 
@@ -189,10 +181,6 @@ class Compression {
 
 }  // namespace
 
-void JpegEncoder::SetQuality(int quality) {
-  quality_ = std::clamp(quality, 1, 100);
-}
-
 void JpegEncoder::TakePicture(const PixelView& picture) {
   width_ = std::max(picture.Width(), 0);
   height_ = std::max(picture.Height(), 0);
@@ -208,7 +196,7 @@ void JpegEncoder::TakePicture(const PixelView& picture) {
 }
 
 bool JpegEncoder::WriteFile(const std::string& path) {
-  if (rgb_.empty() || !IsWritable(sampling_)) return false;
+  if (rgb_.empty()) return false;
   Compression compression({width_, height_, rgb_}, quality_, sampling_, comment_);
   return compression.Run() && WriteWholeFile(sink_, path, compression.File());
 }

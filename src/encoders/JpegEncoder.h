@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "export/FileSink.h"
@@ -31,7 +32,7 @@ class JpegEncoder {
 
   // 1 (smallest file) to 100 (best picture), on the scale of the Independent JPEG Group's library. Values outside
   // are taken as the nearer of the two.
-  void SetQuality(int quality);
+  void SetQuality(int quality) { quality_ = quality; }
   // Either all three components are present or both chroma components are absent, which makes a picture of greys
   // with one component. WriteFile refuses any other sampling, and chroma that does not divide the luminance.
   void SetSampling(const JpegSampling& sampling) { sampling_ = sampling; }

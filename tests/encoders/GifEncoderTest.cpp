@@ -211,14 +211,16 @@ TEST(GifEncoder, NearsEachChannelToTheWebPaletteByItself) {
 }
 
 TEST(GifEncoder, AddsTheTransparentColourToTheWebPalette) {
+  constexpr Color nearlyRed = 0x0000FE;
+  constexpr Color red = 0x0000FF;
   TestPicture picture = Gradient(32);
-  picture.Set(0, 0, 0x000001);
-  picture.Set(1, 0, black);
-  const GifContent content = Written(picture, Transparent(0x000001, GifPalette::Web));
+  picture.Set(0, 0, nearlyRed);
+  picture.Set(1, 0, red);
+  const GifContent content = Written(picture, Transparent(nearlyRed, GifPalette::Web));
   EXPECT_THAT(content.transparentIndex, Optional(216));
-  ExpectSeeThroughExactly(content, picture, 0x000001);
-  EXPECT_EQ(content.Pixel(1, 0), black);
-  EXPECT_EQ(content.palette.at(216), black) << "a reader that draws it shows a web colour too";
+  ExpectSeeThroughExactly(content, picture, nearlyRed);
+  EXPECT_EQ(content.Pixel(1, 0), red);
+  EXPECT_EQ(content.palette.at(216), red) << "a reader that draws it shows a web colour too";
 }
 
 TEST(GifEncoder, TouchesNoFileWhereThePictureDoesNotFitTheFormat) {
