@@ -15,6 +15,8 @@
 namespace tarvik::end_to_end {
 namespace {
 
+namespace fs = std::filesystem;
+
 struct SpashRow {
   std::optional<std::string> value;  // as it stands in the registry
   const char* name;                  // of the pictures
@@ -66,11 +68,11 @@ TEST_P(StartUpTexts, AreThoseOfTheLanguageAtStartUpAndInTheAboutBox) {
 
 INSTANTIATE_TEST_SUITE_P(
     Languages, StartUpTexts,
-    ::testing::Values(
-        SpashRow{std::nullopt, "ENG", "Brindle Tarvik", "Finds the icons stored in your files and saves them.", "&OK"},
-        SpashRow{"CHS", "CHS", "布林德图标搜索", "查找并保存文件中的图标。", "确定(&O)"},
-        SpashRow{"CHT", "CHT", "布林德圖示搜尋", "尋找並儲存檔案中的圖示。", "確定(&O)"},
-        SpashRow{"Chinese", "unknown", "Brindle Tarvik", "Finds icons and saves them.", "&OK"}));
+    ::testing::Values(SpashRow{std::nullopt, "ENG", "Brindle Tarvik",
+                               "Finds the icons stored in your files and saves them.", "&OK"},
+                      SpashRow{"CHS", "CHS", "布林德图标搜索", "查找并保存文件中的图标。", "确定(&O)"},
+                      SpashRow{"CHT", "CHT", "布林德圖示搜尋", "尋找並儲存檔案中的圖示。", "確定(&O)"},
+                      SpashRow{"Chinese", "unknown", "Brindle Tarvik", "Finds icons and saves them.", "&OK"}));
 
 class StartUpRights : public EndToEnd {};
 
