@@ -1,6 +1,9 @@
 #include "end_to_end/Input.h"
 
+#include <chrono>
+#include <cstdlib>
 #include <stdexcept>
+#include <thread>
 #include <vector>
 
 #include "platform/Text.h"
@@ -60,7 +63,23 @@ class Holding {
   std::vector<WORD> keys_;
 };
 
+// The last press of the left button.
+struct Press {
+  POINT place;
+  std::chrono::steady_clock::time_point time;
+};
+Press lastPress{};
+
+// Waits while the system would take a press at that place for the second half of a double click.
+void WaitOutDoubleClick(POINT place) {
+  if (std::abs(place.x - lastPress.place.x) > GetSystemMetrics(SM_CXDOUBLECLK)) return;
+  if (std::abs(place.y - lastPress.place.y) > GetSystemMetrics(SM_CYDOUBLECLK)) return;
+  constexpr std::chrono::milliseconds clockStep{20};
+  std::this_thread::sleep_until(lastPress.time + std::chrono::milliseconds(GetDoubleClickTime()) + clockStep);
+}
+
 void PressLeft(POINT place) {
+  lastPress = {.place = place, .time = std::chrono::steady_clock::now()};
   SendMouse(place, MOUSEEVENTF_LEFTDOWN);
   SendMouse(place, MOUSEEVENTF_LEFTUP);
 }
@@ -72,11 +91,13 @@ void MovePointer(POINT place) {
 }
 
 void Click(POINT place, HeldKeys held) {
+  WaitOutDoubleClick(place);
   const Holding holding(held);
   PressLeft(place);
 }
 
 void DoubleClick(POINT place, HeldKeys held) {
+  WaitOutDoubleClick(place);
   const Holding holding(held);
   PressLeft(place);
   PressLeft(place);
