@@ -2,66 +2,64 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <map>
 #include <stdexcept>
 #include <thread>
-#include <vector>
 
+#include "end_to_end/UnixProgram.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
 namespace {
 
-void Send(INPUT input) {
-  if (SendInput(1, &input, sizeof input) != 1) throw std::runtime_error("input is not taken");
+// The virtual screen's own mouse and keyboard are used, as by a hand. Input made up by SendInput would be at odds with
+// them: each time the pointer enters a window, the window takes over which keys and buttons the screen holds down.
+// The text is a chain of commands of that tool.
+void Do(const std::string& actions) {
+  const UnixAnswer answer = RunUnix("xdotool " + actions);
+  if (answer.exitCode != 0) throw std::runtime_error("input is not taken: " + actions + ": " + answer.output);
 }
 
-INPUT KeyInput(WORD key, WORD character, DWORD flags) {
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key;
-  input.ki.wScan = character;
-  input.ki.dwFlags = flags;
-  return input;
+std::string KeyName(WORD key) {
+  static const std::map<WORD, const char*> names{{VK_CONTROL, "Control_L"},
+                                                 {VK_SHIFT, "Shift_L"},
+                                                 {VK_MENU, "Alt_L"},
+                                                 {VK_RETURN, "Return"},
+                                                 {VK_ESCAPE, "Escape"},
+                                                 {VK_TAB, "Tab"},
+                                                 {VK_SPACE, "space"},
+                                                 {VK_BACK, "BackSpace"},
+                                                 {VK_DELETE, "Delete"},
+                                                 {VK_HOME, "Home"},
+                                                 {VK_END, "End"},
+                                                 {VK_PRIOR, "Prior"},
+                                                 {VK_NEXT, "Next"},
+                                                 {VK_LEFT, "Left"},
+                                                 {VK_RIGHT, "Right"},
+                                                 {VK_UP, "Up"},
+                                                 {VK_DOWN, "Down"},
+                                                 {VK_ADD, "KP_Add"},
+                                                 {VK_SUBTRACT, "KP_Subtract"}};
+  if (const auto name = names.find(key); name != names.end()) return name->second;
+  if (key >= VK_F1 && key <= VK_F24) return "F" + std::to_string(key - VK_F1 + 1);
+  if (key >= 'A' && key <= 'Z') return {static_cast<char>(key - 'A' + 'a')};
+  if (key >= '0' && key <= '9') return {static_cast<char>(key)};
+  throw std::invalid_argument("no name for key " + std::to_string(key));
 }
 
-// The coordinate that the system scales back to that pixel: it counts 65,536 steps over the whole screen.
-LONG Scaled(LONG pixel, int screenSize) {
-  return (pixel * 65536 + screenSize - 1) / screenSize;
-}
-
-// Every mouse event says where it happens. What the real pointer's own late reports say in between does not count then.
-void SendMouse(POINT place, DWORD flags, int wheel = 0) {
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dx = Scaled(place.x, GetSystemMetrics(SM_CXSCREEN));
-  input.mi.dy = Scaled(place.y, GetSystemMetrics(SM_CYSCREEN));
-  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
-  input.mi.mouseData = static_cast<DWORD>(wheel);
-  Send(input);
-}
-
-void SendKey(WORD key, WORD character, DWORD flags) {
-  Send(KeyInput(key, character, flags));
-}
-
-// Holds keys down for as long as it lives.
-class Holding {
- public:
-  explicit Holding(HeldKeys keys) : keys_(keys) {
-    for (const WORD key : keys_) SendKey(key, 0, 0);
+std::string Held(const std::string& actions, HeldKeys keys) {
+  std::string down;
+  std::string up;
+  for (const WORD key : keys) {
+    down += "keydown " + KeyName(key) + " ";
+    up = " keyup " + KeyName(key) + up;
   }
-  ~Holding() {
-    for (auto key = keys_.rbegin(); key != keys_.rend(); ++key) {
-      INPUT input = KeyInput(*key, 0, KEYEVENTF_KEYUP);
-      SendInput(1, &input, sizeof input);
-    }
-  }
-  Holding(const Holding&) = delete;
-  Holding& operator=(const Holding&) = delete;
+  return down + actions + up;
+}
 
- private:
-  std::vector<WORD> keys_;
-};
+std::string MoveTo(POINT place) {
+  return "mousemove " + std::to_string(place.x) + " " + std::to_string(place.y) + " ";
+}
 
 // The last press of the left button.
 struct Press {
@@ -78,38 +76,40 @@ void WaitOutDoubleClick(POINT place) {
   std::this_thread::sleep_until(lastPress.time + std::chrono::milliseconds(GetDoubleClickTime()) + clockStep);
 }
 
-void PressLeft(POINT place) {
+void PressLeft(POINT place, const std::string& press, HeldKeys held) {
+  WaitOutDoubleClick(place);
+  Do(MoveTo(place) + Held(press, held));
   lastPress = {.place = place, .time = std::chrono::steady_clock::now()};
-  SendMouse(place, MOUSEEVENTF_LEFTDOWN);
-  SendMouse(place, MOUSEEVENTF_LEFTUP);
+}
+
+void SendUnit(WORD unit, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wScan = unit;
+  input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
+  if (SendInput(1, &input, sizeof input) != 1) throw std::runtime_error("text is not taken");
 }
 
 }  // namespace
 
 void MovePointer(POINT place) {
-  SendMouse(place, 0);
+  Do(MoveTo(place));
 }
 
 void Click(POINT place, HeldKeys held) {
-  WaitOutDoubleClick(place);
-  const Holding holding(held);
-  PressLeft(place);
+  PressLeft(place, "click 1", held);
 }
 
 void DoubleClick(POINT place, HeldKeys held) {
-  WaitOutDoubleClick(place);
-  const Holding holding(held);
-  PressLeft(place);
-  PressLeft(place);
+  PressLeft(place, "click --repeat 2 --delay 20 1", held);
 }
 
 void RightClick(POINT place) {
-  SendMouse(place, MOUSEEVENTF_RIGHTDOWN);
-  SendMouse(place, MOUSEEVENTF_RIGHTUP);
+  Do(MoveTo(place) + "click 3");
 }
 
 void TurnWheel(POINT place, int notches) {
-  SendMouse(place, MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA);
+  Do(MoveTo(place) + "click --repeat " + std::to_string(std::abs(notches)) + " --delay 1 " + (notches > 0 ? "4" : "5"));
 }
 
 POINT MiddleOf(const RECT& place) {
@@ -117,17 +117,15 @@ POINT MiddleOf(const RECT& place) {
 }
 
 void PressKey(WORD key, HeldKeys held, int times) {
-  const Holding holding(held);
-  for (int i = 0; i < times; ++i) {
-    SendKey(key, 0, 0);
-    SendKey(key, 0, KEYEVENTF_KEYUP);
-  }
+  std::string presses = "key --delay 1";
+  for (int i = 0; i < times; ++i) presses += " " + KeyName(key);
+  Do(Held(presses, held));
 }
 
 void TypeText(const std::string& text) {
   for (const wchar_t unit : ToWide(text)) {
-    SendKey(0, unit, KEYEVENTF_UNICODE);
-    SendKey(0, unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
+    SendUnit(unit, 0);
+    SendUnit(unit, KEYEVENTF_KEYUP);
   }
 }
 

@@ -14,6 +14,7 @@
 #include "end_to_end/Controls.h"
 #include "end_to_end/Waiting.h"
 #include "platform/Handles.h"
+#include "platform/IconFiles.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
 #include "resource.h"
@@ -89,7 +90,7 @@ TEST(InstalledRights, GiveUsersNothingToChangeInTheKeyAbove) {
 
 TEST(InstalledProgram, FindsIconsInTheLanguageOfTheInstallation) {
   const testing::TemporaryFolder folder;
-  fs::copy_file(home / L"tarvik.exe", fs::path(ToWide(folder.In("some.ico"))));
+  folder.MakeFile("some.ico", testing::IconFileOf(0xFF));
   const std::string settings = ToUtf8((home / L"tarvik.dat").wstring());
   ASSERT_NE(WritePrivateProfileStringA("FindIcon", "Folder", folder.Path().c_str(), settings.c_str()), FALSE);
 
