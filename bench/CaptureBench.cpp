@@ -13,6 +13,7 @@
 
 #include "BenchData.h"
 #include "Measure.h"
+#include "OutputFolder.h"
 #include "export/IconSurfaces.h"
 #include "export/ModMicroArt.h"
 #include "export/ModMicroArtFileIO.h"
@@ -20,7 +21,6 @@
 #include "platform/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/ShellIcons.h"
-#include "platform/Text.h"
 
 namespace tarvik::bench {
 namespace {
@@ -64,25 +64,11 @@ class LengthSink final : public FileSink {
   std::size_t length = 0;
 };
 
-// The files of one run, emptied before it.
-class Output {
- public:
-  explicit Output(const testing::TemporaryFolder& folder, const std::string& name) : path_(folder.MakeFolder(name)) {}
-
-  std::string File(int number) const { return JoinPath(path_, std::to_string(number)); }
-  void Empty() const {
-    for (int number = 0; number < icons; ++number) DeleteFileW(ToWide(File(number)).c_str());
-  }
-
- private:
-  std::string path_;
-};
-
 class Saving {
  public:
   Saving(std::string library, WriteFunction write) : library_(std::move(library)), write_(write) {}
 
-  void Run(const Output& output) {
+  void Run(const OutputFolder& output) {
     for (int number = 0; number < icons; ++number) {
       DiskFile file;
       if (!Save(number, output.File(number), file)) std::printf("icon %d is not saved\n", number);
@@ -118,14 +104,10 @@ class BareCalls {
   BareCalls(std::string library, std::vector<std::size_t> lengths)
       : library_(std::move(library)), lengths_(std::move(lengths)), bytes_(65536) {}
 
-  void Run(const Output& output) {
+  void Run(const OutputFolder& output) {
     for (int number = 0; number < icons; ++number) {
       Draw(number);
-      const FileHandle file(CreateFileW(ToWide(output.File(number)).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr));
-      DWORD written = 0;
-      WriteFile(file.get(), bytes_.data(), static_cast<DWORD>(lengths_[static_cast<std::size_t>(number)]), &written,
-                nullptr);
+      OutputFolder::Write(output.File(number), std::span(bytes_).first(lengths_[static_cast<std::size_t>(number)]));
     }
   }
 
@@ -153,8 +135,8 @@ void CompareFormat(const testing::TemporaryFolder& folder, const std::string& li
                    WriteFunction write) {
   Saving saving(library, write);
   BareCalls bare(library, saving.Lengths());
-  const Output bareOutput(folder, "bare " + format);
-  const Output output(folder, "saved " + format);
+  const OutputFolder bareOutput(folder, "bare " + format);
+  const OutputFolder output(folder, "saved " + format);
   Compare(
       "4,000 icons saved as " + format,
       {{.name = "bare calls", .run = [&] { bare.Run(bareOutput); }, .prepare = [&] { bareOutput.Empty(); }},

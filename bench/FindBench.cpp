@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "BenchData.h"
+#include "MainWindow.h"
 #include "Measure.h"
 #include "forms/Application.h"
 #include "platform/Folders.h"
@@ -21,21 +22,12 @@
 #include "platform/ShellIcons.h"
 #include "platform/Surface.h"
 #include "platform/Text.h"
-#include "resource.h"
-#include "search/FrmFindIcon.h"
 #include "search/SearchDriver.h"
 
 namespace tarvik::bench {
 namespace {
 
 constexpr int rounds = 5;
-
-// The files of a search.
-struct Scope {
-  std::string folder;
-  std::string pattern;  // one part, as the system's own listing takes it
-  bool subFolders = false;
-};
 
 // What a program would do that only wants the icons drawn: list folders, count, take, draw and release each icon.
 class BareCalls {
@@ -157,73 +149,14 @@ class SilentSearch {
   SearchDriver driver_;
 };
 
-// Settings that give the scope's folder and forget what is written.
-class FixedIni final : public IniStore {
- public:
-  explicit FixedIni(const Scope& scope) : scope_(scope) {}
-  std::string Read(const std::string&, const std::string& key, const std::string& defaultValue, int,
-                   const std::string&) override {
-    if (key == "Folder") return scope_.folder;
-    if (key == "Subdir") return scope_.subFolders ? "True" : "False";
-    return defaultValue;
-  }
-  int Write(const std::string&, const std::string&, const std::string&, const std::string&) override { return 1; }
-  int DeleteKey(const std::string&, const std::string&, const std::string&) override { return 1; }
-  int DeleteSection(const std::string&, const std::string&) override { return 1; }
-
- private:
-  Scope scope_;
-};
-
-// The real main window on the screen.
-class WindowSearch {
- public:
-  WindowSearch(Application& application, const Scope& scope)
-      : application_(application),
-        ini_(scope),
-        settings_(ini_, "C:\\tarvik.exe"),
-        window_(application, FrmFindIcon::Services{state_, settings_, icons_, folders_,
-                                                   [] { return std::vector<DriveListBox::Drive>{}; }, IsReadableFolder,
-                                                   scope.folder, [] {}, [] {}}) {
-    state_.CurrentLanguage = "ENG";
-    window_.Show();
-    window_.SetItemText(FrmFindIcon_txtMax, "4000");
-    const int type = scope.pattern == "*.dll" ? 4 : 0;
-    for (int box = 0; box < 7; ++box) {
-      CheckDlgButton(window_.Window(), FrmFindIcon_ChkFileType0 + box, box == type ? BST_CHECKED : BST_UNCHECKED);
-    }
-    Click(FrmFindIcon_ChkFileType0 + type);
-    application.DoEvents();
-  }
-  WindowSearch(const WindowSearch&) = delete;
-  WindowSearch& operator=(const WindowSearch&) = delete;
-  ~WindowSearch() { window_.Unload(); }
-
-  void Run() {
-    Click(FrmFindIcon_CmdFind);
-    application_.DoEvents();
-  }
-
- private:
-  void Click(int id) { SendMessageW(window_.Window(), WM_COMMAND, static_cast<WPARAM>(id), 0); }
-
-  Application& application_;
-  ProgramState state_;
-  FixedIni ini_;
-  Settings settings_;
-  ShellIcons icons_;
-  Folders folders_;
-  FrmFindIcon window_;
-};
-
 void CompareSearches(Application& application, const std::string& title, const Scope& scope) {
   BareCalls bare(scope);
   SilentSearch silent(scope);
-  WindowSearch window(application, scope);
+  MainWindow window(application, scope);
   Compare(title,
           {{"bare calls", [&] { bare.Run(); }},
            {"search, silent window", [&] { silent.Run(); }},
-           {"search, real window", [&] { window.Run(); }}},
+           {"search, real window", [&] { window.Find(); }}},
           rounds);
 }
 
@@ -262,10 +195,10 @@ Holdings Hold() {
 
 void SearchManyTimes(Application& application, const Scope& scope) {
   constexpr int searches = 100;
-  WindowSearch window(application, scope);
-  for (int i = 0; i < 5; ++i) window.Run();
+  MainWindow window(application, scope);
+  for (int i = 0; i < 5; ++i) window.Find();
   const Holdings before = Hold();
-  for (int i = 0; i < searches; ++i) window.Run();
+  for (int i = 0; i < searches; ++i) window.Find();
   const Holdings after = Hold();
   std::printf("after %d searches: %+d GDI objects, %+d windows, %+.2f MB of %.1f MB\n", searches,
               after.gdiObjects - before.gdiObjects, after.windows - before.windows, after.megabytes - before.megabytes,

@@ -1,0 +1,103 @@
+#include "MainWindow.h"
+
+#include <windows.h>
+
+#include <vector>
+
+#include "export/AnsweredDialogs.h"
+#include "export/TemporaryBitmap.h"
+#include "platform/DiskFile.h"
+#include "platform/Folders.h"
+#include "platform/Paths.h"
+#include "platform/ShellIcons.h"
+#include "resource.h"
+#include "search/FrmFindIcon.h"
+
+namespace tarvik::bench {
+namespace {
+
+// Settings that give the scope's folder and forget what is written.
+class FixedIni final : public IniStore {
+ public:
+  explicit FixedIni(const Scope& scope) : scope_(scope) {}
+  std::string Read(const std::string&, const std::string& key, const std::string& defaultValue, int,
+                   const std::string&) override {
+    if (key == "Folder") return scope_.folder;
+    if (key == "Subdir") return scope_.subFolders ? "True" : "False";
+    return defaultValue;
+  }
+  int Write(const std::string&, const std::string&, const std::string&, const std::string&) override { return 1; }
+  int DeleteKey(const std::string&, const std::string&, const std::string&) override { return 1; }
+  int DeleteSection(const std::string&, const std::string&) override { return 1; }
+
+ private:
+  Scope scope_;
+};
+
+}  // namespace
+
+struct MainWindow::Parts {
+  Parts(Application& program, const Scope& scope)
+      : application(program),
+        ini(scope),
+        settings(ini, "C:\\tarvik.exe"),
+        dialogs(
+            application, state,
+            {[this] { return window.Window(); }, [this]() -> const Surface& { return window.Surfaces().Composed(); },
+             [this]() -> const Surface& { return window.PicMain(); }}),
+        window(application, FrmFindIcon::Services{state,
+                                                  settings,
+                                                  icons,
+                                                  folders,
+                                                  [] { return std::vector<DriveListBox::Drive>{}; },
+                                                  IsReadableFolder,
+                                                  scope.folder,
+                                                  [] {},
+                                                  [] {},
+                                                  {dialogs, files, temporaryBitmap}}) {
+    state.CurrentLanguage = "ENG";
+  }
+
+  void Choose(int command) {
+    SendMessageW(window.Window(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+    application.DoEvents();
+  }
+
+  Application& application;
+  ProgramState state;
+  FixedIni ini;
+  Settings settings;
+  ShellIcons icons;
+  Folders folders;
+  DiskFile files;
+  TemporaryBitmap temporaryBitmap{TemporaryBitmapPlaces()};
+  testing::AnsweredDialogs dialogs;
+  FrmFindIcon window;
+};
+
+MainWindow::MainWindow(Application& application, const Scope& scope)
+    : parts_(std::make_unique<Parts>(application, scope)) {
+  FrmFindIcon& window = parts_->window;
+  window.Show();
+  window.SetItemText(FrmFindIcon_txtMax, "4000");
+  const int type = scope.pattern == "*.dll" ? 4 : 0;
+  for (int box = 0; box < 7; ++box) {
+    CheckDlgButton(window.Window(), FrmFindIcon_ChkFileType0 + box, box == type ? BST_CHECKED : BST_UNCHECKED);
+  }
+  parts_->Choose(FrmFindIcon_ChkFileType0 + type);
+}
+
+MainWindow::~MainWindow() {
+  parts_->window.Unload();
+}
+
+void MainWindow::Find() {
+  parts_->Choose(FrmFindIcon_CmdFind);
+}
+
+void MainWindow::SaveAll(int command, const std::string& folder) {
+  parts_->dialogs.folder = folder;
+  parts_->Choose(command);
+}
+
+}  // namespace tarvik::bench

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "forms/Application.h"
+
+namespace tarvik::bench {
+
+// The files of a search.
+struct Scope {
+  std::string folder;
+  std::string pattern;  // one part, as the system's own listing takes it
+  bool subFolders = false;
+};
+
+// The real main window on the screen, English, with the scope chosen and the limit at its highest.
+class MainWindow {
+ public:
+  MainWindow(Application& application, const Scope& scope);
+  ~MainWindow();
+  MainWindow(const MainWindow&) = delete;
+  MainWindow& operator=(const MainWindow&) = delete;
+
+  void Find();
+  // Runs a "save all" command of the menu; the folder chooser is answered with the folder.
+  void SaveAll(int command, const std::string& folder);
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace tarvik::bench

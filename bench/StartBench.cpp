@@ -1,0 +1,83 @@
+// How long the program takes from the start of its process to its first window on the screen, held against a program
+// of one empty window; and how large it is.
+
+#include <windows.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <stdexcept>
+
+#include "Measure.h"
+#include "platform/Handles.h"
+
+namespace tarvik::bench {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int rounds = 41;
+
+fs::path Built(const wchar_t* relativePath) {
+  wchar_t own[MAX_PATH] = {};
+  GetModuleFileNameW(nullptr, own, MAX_PATH);
+  return (fs::path(own).parent_path() / relativePath).lexically_normal();
+}
+
+bool ShowsWindow(DWORD process) {
+  struct Search {
+    DWORD process;
+    bool found;
+  } search{process, false};
+  EnumWindows(
+      [](HWND window, LPARAM data) -> BOOL {
+        auto& wanted = *reinterpret_cast<Search*>(data);
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        wanted.found = owner == wanted.process && IsWindowVisible(window) != FALSE;
+        return wanted.found ? FALSE : TRUE;
+      },
+      reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+// A started program, ended before the next one starts.
+class Started {
+ public:
+  void Start(const fs::path& program) {
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION information{};
+    if (CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                       &information) == FALSE)
+      throw std::runtime_error("the program cannot be started: " + program.string());
+    process_.reset(information.hProcess);
+    const FileHandle thread(information.hThread);
+    while (!ShowsWindow(information.dwProcessId)) Sleep(1);
+  }
+  void End() {
+    if (!process_) return;
+    TerminateProcess(process_.get(), 0);
+    WaitForSingleObject(process_.get(), INFINITE);
+    process_.reset();
+  }
+
+ private:
+  FileHandle process_;
+};
+
+}  // namespace
+}  // namespace tarvik::bench
+
+int main() {
+  using namespace tarvik::bench;
+  const fs::path program = Built(TARVIK_PROGRAM);
+  const fs::path emptyWindow = Built(L"empty_window.exe");
+  Started started;
+  Compare("from the start to the first window",
+          {{.name = "one empty window", .run = [&] { started.Start(emptyWindow); }, .prepare = [&] { started.End(); }},
+           {.name = "Tarvik", .run = [&] { started.Start(program); }, .prepare = [&] { started.End(); }}},
+          rounds);
+  started.End();
+  std::printf("tarvik.exe: %.2f MB\n", static_cast<double>(fs::file_size(program)) / (1024.0 * 1024.0));
+  return 0;
+}
