@@ -14,8 +14,8 @@ namespace tarvik::end_to_end {
 using HeldKeys = std::initializer_list<WORD>;
 
 void MovePointer(POINT place);
-// A click or double click of its own: soon after another one at the same place it waits until the two no longer count as
-// one double click.
+// A click or double click of its own: soon after another one at the same place it waits until the two no longer count
+// as one double click.
 void Click(POINT place, HeldKeys held = {});
 void DoubleClick(POINT place, HeldKeys held = {});
 void RightClick(POINT place);
