@@ -98,6 +98,28 @@ RECT Control::Inside() const {
   return inside;
 }
 
+std::optional<Control> Control::FindChild(int id) const {
+  struct Search {
+    int id;
+    HWND found;
+  } search{.id = id, .found = nullptr};
+  EnumChildWindows(
+      window_,
+      [](HWND child, LPARAM data) {
+        auto& wanted = *reinterpret_cast<Search*>(data);
+        if (GetDlgCtrlID(child) != wanted.id) return TRUE;
+        wanted.found = child;
+        return FALSE;
+      },
+      Pointer(&search));
+  return search.found != nullptr ? std::optional(Control(search.found)) : std::nullopt;
+}
+
+Control Control::Child(int id) const {
+  if (const auto child = FindChild(id)) return *child;
+  throw std::runtime_error("the window has no control " + std::to_string(id));
+}
+
 void Control::ChooseComboItem(int index) const {
   Send(CB_SETCURSEL, static_cast<WPARAM>(index));
   Control(GetParent(window_)).Send(WM_COMMAND, ChoiceOf(window_), Pointer(window_));
@@ -186,6 +208,25 @@ std::vector<ReportView::Column> ReportView::Columns() const {
     memory.Read(0, column);
     columns.push_back({.title = memory.ReadText(sizeof column), .width = column.cx});
   }
+}
+
+RECT ToolbarView::ButtonPlace(int button) const {
+  RECT place{};
+  const RemoteMemory memory(control_.Window(), sizeof place);
+  control_.Send(TB_GETRECT, static_cast<WPARAM>(button), Pointer(memory.At(0)));
+  memory.Read(0, place);
+  MapWindowPoints(control_.Window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+bool ToolbarView::IsEnabled(int button) const {
+  return control_.Send(TB_ISBUTTONENABLED, static_cast<WPARAM>(button)) != 0;
+}
+
+std::string ToolbarView::ButtonText(int button) const {
+  const RemoteMemory memory(control_.Window(), textCapacity * sizeof(wchar_t));
+  control_.Send(TB_GETBUTTONTEXTW, static_cast<WPARAM>(button), Pointer(memory.At(0)));
+  return memory.ReadText(0);
 }
 
 std::string StatusText(Control statusBar, int panel) {

@@ -29,6 +29,10 @@ class Control {
   LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   void Post(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
+  // The control in it with that id, at any depth; nothing, or std::runtime_error, where there is none.
+  std::optional<Control> FindChild(int id) const;
+  Control Child(int id) const;
+
   // Buttons and boxes. A press is posted: what it starts may take long or open a window.
   void Press() const { Post(BM_CLICK); }
   bool IsChecked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
@@ -74,6 +78,21 @@ class ReportView {
     friend bool operator==(const Column&, const Column&) = default;
   };
   std::vector<Column> Columns() const;
+
+ private:
+  Control control_;
+};
+
+// A toolbar of another process. Buttons go by their command ids.
+class ToolbarView {
+ public:
+  explicit ToolbarView(Control control) : control_(control) {}
+
+  // The button's place on the screen.
+  RECT ButtonPlace(int button) const;
+  bool IsEnabled(int button) const;
+  // The button's text, which shows as its tooltip.
+  std::string ButtonText(int button) const;
 
  private:
   Control control_;

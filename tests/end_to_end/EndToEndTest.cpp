@@ -2,16 +2,16 @@
 
 #include <windows.h>
 
+#include <shellapi.h>
+
 #include <algorithm>
 
 #include "end_to_end/Screen.h"
-#include "platform/Surface.h"
+#include "platform/Handles.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
 namespace {
-
-constexpr const char* section = "FindIcon";
 
 void CopyBuilt(const char* file, const std::string& target) {
   const std::filesystem::path source = BuiltFile(file);
@@ -33,12 +33,12 @@ void EndToEnd::Start(const std::string& folder, bool subFolders) {
   program_.Start();
 }
 
-void EndToEnd::WriteSetting(const std::string& key, const std::string& value) const {
+void EndToEnd::WriteSetting(const std::string& key, const std::string& value, const char* section) const {
   const std::string file = ToUtf8(program_.SettingsFile().wstring());
   ASSERT_NE(WritePrivateProfileStringA(section, key.c_str(), value.c_str(), file.c_str()), 0);
 }
 
-std::string EndToEnd::ReadSetting(const std::string& key) const {
+std::string EndToEnd::ReadSetting(const std::string& key, const char* section) const {
   const std::string file = ToUtf8(program_.SettingsFile().wstring());
   std::string value(2048, '\0');
   value.resize(
@@ -78,6 +78,22 @@ std::vector<Entry> EndToEnd::Entries() const {
     entries.push_back({.path = list.Cell(row, 1), .index = std::stoi(list.Cell(row, 2))});
   }
   return entries;
+}
+
+void DrawEntry(const Surface& picture, const Entry& entry, POINT corner, int size) {
+  const bool animated = entry.path.ends_with(".ani");
+  HICON icon = nullptr;
+  if (animated) {
+    // The shell does not extract animations everywhere; loading takes the same file at the same size.
+    icon = static_cast<HICON>(LoadImageA(nullptr, entry.path.c_str(), IMAGE_CURSOR, GetSystemMetrics(SM_CXICON),
+                                         GetSystemMetrics(SM_CYICON), LR_LOADFROMFILE));
+  } else {
+    ExtractIconExA(entry.path.c_str(), entry.index, &icon, nullptr, 1);
+  }
+  const IconHandle owner(icon);
+  ASSERT_TRUE(owner) << entry.path;
+  const UINT step = animated ? static_cast<UINT>(entry.index) : 0;
+  ASSERT_NE(DrawIconEx(picture.Dc(), corner.x, corner.y, icon, size, size, step, nullptr, DI_NORMAL), 0);
 }
 
 bool ShowsSign(const Box& box, const wchar_t* sign) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <windows.h>
 
 #include <initializer_list>
 #include <optional>
@@ -10,6 +11,7 @@
 #include "end_to_end/Machine.h"
 #include "end_to_end/Program.h"
 #include "end_to_end/Waiting.h"
+#include "platform/Surface.h"
 #include "platform/TemporaryFolder.h"
 #include "resource.h"
 
@@ -42,8 +44,8 @@ class EndToEnd : public ::testing::Test {
   // Starts the program with `folder` (the searched folder where empty) as the saved one.
   void Start(const std::string& folder = {}, bool subFolders = false);
   // Writes one of the program's settings, which it reads when it starts; and reads one as it stands in the file.
-  void WriteSetting(const std::string& key, const std::string& value) const;
-  std::string ReadSetting(const std::string& key) const;
+  void WriteSetting(const std::string& key, const std::string& value, const char* section = "FindIcon") const;
+  std::string ReadSetting(const std::string& key, const char* section = "FindIcon") const;
 
   // Ticks these boxes and no others.
   void Tick(std::initializer_list<FileType> types) const;
@@ -71,6 +73,9 @@ class EndToEnd : public ::testing::Test {
   LanguageValue noLanguage_{std::nullopt};
   Program program_{home_.Path()};
 };
+
+// Draws an entry's icon as the platform does: extracted anew from its file, at that size in pixels.
+void DrawEntry(const Surface& picture, const Entry& entry, POINT corner, int size);
 
 // Whether the box shows that sign of the system (IDI_INFORMATION ...), compared pixel by pixel.
 bool ShowsSign(const Box& box, const wchar_t* sign);

@@ -3,12 +3,9 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
-#include <shellapi.h>
-
 #include "end_to_end/EndToEndTest.h"
 #include "end_to_end/Input.h"
 #include "end_to_end/Screen.h"
-#include "platform/Handles.h"
 #include "platform/IconFiles.h"
 #include "platform/Surface.h"
 
@@ -56,7 +53,9 @@ class GridPicture : public EndToEnd {
     const int rows = (static_cast<int>(entries.size()) + geometry.columns - 1) / geometry.columns;
     auto picture = std::make_unique<Surface>(viewportWidth, std::max(viewportHeight, rows * geometry.pitch), white);
     for (int i = 0; const Entry& entry : entries) {
-      DrawEntry(*picture, entry, geometry, i++);
+      const POINT corner{3 + i % geometry.columns * geometry.pitch, 3 + i / geometry.columns * geometry.pitch};
+      DrawEntry(*picture, entry, corner, geometry.size);
+      ++i;
     }
     for (int at = 1; at <= geometry.firstFrame; ++at) {
       for (const POINT pixel :
@@ -65,24 +64,6 @@ class GridPicture : public EndToEnd {
     }
     GdiFlush();
     return picture;
-  }
-
-  static void DrawEntry(const Surface& picture, const Entry& entry, const Geometry& geometry, int place) {
-    const bool animated = entry.path.ends_with(".ani");
-    HICON icon = nullptr;
-    if (animated) {
-      // The shell does not extract animations everywhere; loading takes the same file at the same size.
-      icon = static_cast<HICON>(LoadImageA(nullptr, entry.path.c_str(), IMAGE_CURSOR, GetSystemMetrics(SM_CXICON),
-                                           GetSystemMetrics(SM_CYICON), LR_LOADFROMFILE));
-    } else {
-      ExtractIconExA(entry.path.c_str(), entry.index, &icon, nullptr, 1);
-    }
-    const IconHandle owner(icon);
-    ASSERT_TRUE(owner) << entry.path;
-    const int x = 3 + place % geometry.columns * geometry.pitch;
-    const int y = 3 + place / geometry.columns * geometry.pitch;
-    const UINT step = animated ? static_cast<UINT>(entry.index) : 0;
-    ASSERT_NE(DrawIconEx(picture.Dc(), x, y, icon, geometry.size, geometry.size, step, nullptr, DI_NORMAL), 0);
   }
 
   int ScrolledPixels() const {

@@ -108,6 +108,15 @@ void RightClick(POINT place) {
   Do(MoveTo(place) + "click 3");
 }
 
+void Drag(POINT from, POINT to) {
+  WaitOutDoubleClick(from);
+  lastPress = {.place = from, .time = std::chrono::steady_clock::now()};
+  SendMouse(from, 0);
+  SendMouse(from, MOUSEEVENTF_LEFTDOWN);
+  SendMouse(to, 0);
+  SendMouse(to, MOUSEEVENTF_LEFTUP);
+}
+
 void TurnWheel(POINT place, int notches) {
   Do(MoveTo(place) + "click --repeat " + std::to_string(std::abs(notches)) + " --delay 1 " + (notches > 0 ? "4" : "5"));
 }

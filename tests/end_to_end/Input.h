@@ -19,6 +19,8 @@ void MovePointer(POINT place);
 void Click(POINT place, HeldKeys held = {});
 void DoubleClick(POINT place, HeldKeys held = {});
 void RightClick(POINT place);
+// Presses the left button at one place and releases it at the other.
+void Drag(POINT from, POINT to);
 // Turns the wheel; positive notches turn it away from the user.
 void TurnWheel(POINT place, int notches);
 POINT MiddleOf(const RECT& place);

@@ -52,6 +52,8 @@ class Program {
   Control WaitForStartUpWindow() const;
   // Waits until the main window is up and brings it to the front.
   void WaitForMainWindow();
+  // The visible top-level window that has a control with that id, once there is one.
+  Control WaitForWindowWith(int id) const;
   // How many visible top-level windows of the process have a control with that id.
   int CountWindowsWith(int id) const;
   // Starts the program, has the start-up window go at once as it does by itself after some seconds, and waits for the
@@ -86,8 +88,6 @@ class Program {
  private:
   // The visible top-level windows of the process.
   std::vector<Control> TopWindows() const;
-  // The visible top-level window that has a control with that id, once there is one.
-  Control WaitForWindowWith(int id) const;
 
   std::filesystem::path path_;
   FileHandle process_;

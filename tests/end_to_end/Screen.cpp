@@ -10,15 +10,24 @@
 #include "end_to_end/UnixProgram.h"
 
 namespace tarvik::end_to_end {
+namespace {
+
+// Has the tool take a picture of `place` and write it to `target`: a quoted file name, after a kind where that is not
+// its ending.
+void Take(const RECT& place, const std::string& target) {
+  std::ostringstream command;
+  command << "import -silent -window root -crop " << place.right - place.left << 'x' << place.bottom - place.top << '+'
+          << place.left << '+' << place.top << " +repage -depth 8 " << target;
+  const UnixAnswer answer = RunUnix(command.str());
+  if (answer.exitCode != 0) throw std::runtime_error("no screenshot: " + answer.output);
+}
+
+}  // namespace
 
 Screenshot::Screenshot(const RECT& place) {
   const auto file =
       std::filesystem::temp_directory_path() / (L"tarvik-screen-" + std::to_wstring(GetCurrentProcessId()) + L".ppm");
-  std::ostringstream command;
-  command << "import -silent -window root -crop " << place.right - place.left << 'x' << place.bottom - place.top << '+'
-          << place.left << '+' << place.top << " +repage -depth 8 ppm:" << UnixQuoted(file);
-  const UnixAnswer answer = RunUnix(command.str());
-  if (answer.exitCode != 0) throw std::runtime_error("no screenshot: " + answer.output);
+  Take(place, "ppm:" + UnixQuoted(file));
 
   // The format: "P6", width, height, the highest value, one blank, then red, green and blue of each pixel.
   std::ifstream in(file, std::ios::binary);
@@ -35,6 +44,11 @@ Screenshot::Screenshot(const RECT& place) {
     pixels_.push_back(channel(i) | channel(i + 1) << 8 | channel(i + 2) << 16);
   in.close();
   std::filesystem::remove(file);
+}
+
+void SavePicture(const RECT& place, const std::filesystem::path& file) {
+  std::filesystem::create_directories(file.parent_path());
+  Take(place, UnixQuoted(file));
 }
 
 int CountPixels(const PixelView& picture, Color color) {

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <filesystem>
 #include <vector>
 
 #include "export/PixelView.h"
@@ -26,6 +27,10 @@ class Screenshot : public PixelView {
   int height_ = 0;
   std::vector<Color> pixels_;
 };
+
+// Saves a picture of `place`, in screen pixels, for people to look at. The file's ending says which kind of picture;
+// its folder is made where it is not there.
+void SavePicture(const RECT& place, const std::filesystem::path& file);
 
 // How many pixels have that colour.
 int CountPixels(const PixelView& picture, Color color);

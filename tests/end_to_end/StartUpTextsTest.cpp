@@ -6,16 +6,12 @@
 #include <aclapi.h>
 #include <sddl.h>
 
-#include <filesystem>
-
 #include "end_to_end/EndToEndTest.h"
-#include "end_to_end/UnixProgram.h"
+#include "end_to_end/Screen.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
 namespace {
-
-namespace fs = std::filesystem;
 
 struct SpashRow {
   std::optional<std::string> value;  // as it stands in the registry
@@ -30,15 +26,8 @@ void PrintTo(const SpashRow& row, std::ostream* out) {
 }
 
 // A picture of a window, for people to look at: start-up-ENG.png and so on in the build's folder "run".
-void SavePicture(const Control& window, const std::string& name) {
-  const RECT place = window.Place();
-  const std::string area = std::to_string(place.right - place.left) + "x" + std::to_string(place.bottom - place.top) +
-                           "+" + std::to_string(place.left) + "+" + std::to_string(place.top);
-  const fs::path folder = BuiltFile("../../../run");
-  fs::create_directories(folder);
-  const auto answer =
-      RunUnix("import -silent -window root -crop " + area + " +repage " + UnixQuoted(folder / ToWide(name + ".png")));
-  EXPECT_EQ(answer.exitCode, 0) << answer.output;
+void SaveWindowPicture(const Control& window, const std::string& name) {
+  SavePicture(window.Place(), BuiltFile("../../../run") / ToWide(name + ".png"));
 }
 
 class StartUpTexts : public EndToEnd, public ::testing::WithParamInterface<SpashRow> {
@@ -56,12 +45,12 @@ TEST_P(StartUpTexts, AreThoseOfTheLanguageAtStartUpAndInTheAboutBox) {
   program_.Launch();
   const Control startUp = program_.WaitForStartUpWindow();
   ExpectTexts(startUp);
-  SavePicture(startUp, std::string("start-up-") + GetParam().name);
+  SaveWindowPicture(startUp, std::string("start-up-") + GetParam().name);
   program_.WaitForMainWindow();
   program_.Command(FrmFindIcon_MnuAbout);
   const Control about = program_.WaitForStartUpWindow();
   ExpectTexts(about);
-  SavePicture(about, std::string("about-") + GetParam().name);
+  SaveWindowPicture(about, std::string("about-") + GetParam().name);
   Control(GetDlgItem(about.Window(), FrmSpash_CmdOk)).Press();
   EXPECT_TRUE(Eventually([&] { return IsWindow(about.Window()) == 0; }));
 }
