@@ -10,6 +10,14 @@
 #include "forms/PictureBox.h"
 
 namespace tarvik {
+namespace {
+
+// Alt+F4, which closes the window whatever has the focus: Wine's drop-down lists would keep it for themselves.
+bool IsCloseKey(const MSG& message) {
+  return message.message == WM_SYSKEYDOWN && message.wParam == VK_F4;
+}
+
+}  // namespace
 
 Application::Application(HINSTANCE instance) : instance_(instance) {
   const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
@@ -46,7 +54,12 @@ void Application::DoEvents() {
 
 void Application::Serve(MSG& message) {
   if (Form* form = FormOf(message.hwnd)) {
-    if (form->PreviewMessage(message) || IsDialogMessageW(form->Window(), &message)) return;
+    if (form->PreviewMessage(message)) return;
+    if (IsCloseKey(message)) {
+      SendMessageW(form->Window(), WM_SYSCOMMAND, SC_CLOSE, 0);
+      return;
+    }
+    if (IsDialogMessageW(form->Window(), &message)) return;
   }
   TranslateMessage(&message);
   DispatchMessageW(&message);

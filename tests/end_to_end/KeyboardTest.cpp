@@ -79,13 +79,14 @@ TEST_F(Keyboard, AltCCloses) {
   EXPECT_EQ(program_.WaitForEnd(), 0U);
 }
 
-TEST_F(Keyboard, AltF4Closes) {
-  Start();
-  // A drop-down list would keep the keys to itself.
-  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
-  ASSERT_TRUE(Focuses(FrmFindIcon_File1));
-  PressKey(VK_F4, {VK_MENU});
-  EXPECT_EQ(program_.WaitForEnd(), 0U);
+TEST_F(Keyboard, AltF4ClosesWhateverHasTheFocus) {
+  for (const int id : {FrmFindIcon_File1, FrmFindIcon_CboIconSize}) {
+    Start();
+    Click(MiddleOf(program_.Item(id).Place()));
+    ASSERT_TRUE(Focuses(id));
+    PressKey(VK_F4, {VK_MENU});
+    EXPECT_EQ(program_.WaitForEnd(), 0U);
+  }
 }
 
 TEST_F(Keyboard, AltAGoesToTheLimit) {
