@@ -120,6 +120,7 @@ void frmBit::Form_Unload() {
 void frmBit::Form_Resize() {
   toolbar_.Resize();
   SendMessageW(Item(frmBit_sbMain), WM_SIZE, 0, 0);
+  InvalidateRect(Item(frmBit_sbMain), nullptr, TRUE);  // or its size grip stays where it was as well
   UpdateCaption();
 }
 

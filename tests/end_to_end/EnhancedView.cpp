@@ -1,0 +1,38 @@
+#include "end_to_end/EnhancedView.h"
+
+#include <stdexcept>
+
+#include "end_to_end/Input.h"
+#include "end_to_end/Waiting.h"
+
+namespace tarvik::end_to_end {
+
+void EnhancedView::Close() const {
+  window_.Post(WM_CLOSE);
+  WaitUntilGone();
+}
+
+void EnhancedView::Exit() const {
+  window_.Post(WM_COMMAND, frmBit_tlb_control_Exit);
+  WaitUntilGone();
+}
+
+RECT EnhancedView::PicturePlaceInWindow() const {
+  RECT place = PicturePlace();
+  MapWindowPoints(nullptr, window_.Window(), reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+void EnhancedView::Press(int button, int times) const {
+  for (int i = 0; i < times; ++i) window_.Send(WM_COMMAND, static_cast<WPARAM>(button));
+}
+
+void EnhancedView::Click(int button) const {
+  end_to_end::Click(MiddleOf(Toolbar().ButtonPlace(button)));
+}
+
+void EnhancedView::WaitUntilGone() const {
+  if (!Eventually([this] { return !IsOpen(); })) throw std::runtime_error("the enhanced view stays");
+}
+
+}  // namespace tarvik::end_to_end

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "end_to_end/Controls.h"
+#include "end_to_end/Program.h"
+#include "resource.h"
+
+namespace tarvik::end_to_end {
+
+// The enhanced view of a running program: what it shows, and what a user does with it.
+class EnhancedView {
+ public:
+  // Waits until the program shows the view.
+  explicit EnhancedView(const Program& program) : window_(program.WaitForWindowWith(frmBit_img)) {}
+
+  const Control& Window() const { return window_; }
+  bool IsOpen() const { return IsWindow(window_.Window()) != 0; }
+  bool IsMinimised() const { return IsIconic(window_.Window()) != 0; }
+  // Closes it as its close box does, and waits until it is gone. So does Exit, by the toolbar's button.
+  void Close() const;
+  void Exit() const;
+
+  std::string Caption() const { return window_.Text(); }
+  // Where the entry comes from: the status bar's first panel.
+  std::string Status() const { return StatusText(window_.Child(frmBit_sbMain), 0); }
+  Control ZoomList() const { return window_.Child(frmBit_CboZoom); }
+  ToolbarView Toolbar() const { return ToolbarView(window_.Child(frmBit_tlb_control)); }
+  // Whether the slide show is on or off, as its two buttons tell it: Start can be pressed and Stop cannot, or the other
+  // way round.
+  bool ShowIsOff() const { return CanPress(frmBit_tlb_control_Start) && !CanPress(frmBit_tlb_control_Stop); }
+  bool ShowIsOn() const { return CanPress(frmBit_tlb_control_Stop) && !CanPress(frmBit_tlb_control_Start); }
+
+  // The enlarged picture's place on the screen, and in the window.
+  RECT PicturePlace() const { return window_.Child(frmBit_img).Place(); }
+  RECT PicturePlaceInWindow() const;
+
+  // Gives a toolbar button's command, and returns when it is done.
+  void Press(int button, int times = 1) const;
+  // Clicks a toolbar button with the real mouse. A click may get lost; whoever asks sees by what it should do.
+  void Click(int button) const;
+  // Has the slide show's clock strike now, and returns when that is done.
+  void Tick() const { window_.Send(WM_TIMER, frmBit_tim_nextpic); }
+  // Chooses from the zoom list, as a user's choice does.
+  void ChooseFactor(int factor) const { ZoomList().ChooseComboItem(factor - 1); }
+  // SC_MINIMIZE, SC_MAXIMIZE, SC_RESTORE: what the window's own menu and boxes ask for. Returns when it is done.
+  void Ask(WPARAM systemCommand) const { window_.Send(WM_SYSCOMMAND, systemCommand); }
+
+ private:
+  bool CanPress(int button) const { return Toolbar().IsEnabled(button); }
+  void WaitUntilGone() const;
+
+  Control window_;
+};
+
+}  // namespace tarvik::end_to_end

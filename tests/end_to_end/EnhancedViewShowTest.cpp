@@ -1,0 +1,211 @@
+// The enhanced view's slide show, and the window's size.
+
+#include <windows.h>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+#include "end_to_end/ViewByHand.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+using std::chrono::milliseconds;
+using Clock = std::chrono::steady_clock;
+
+// By how much two clocks of the machine may disagree about the same time.
+constexpr milliseconds clockStep{60};
+
+class EnhancedViewShow : public ViewByHand {
+ protected:
+  // Waits until the status shows another entry; when that was.
+  static Clock::time_point WaitForStep(const EnhancedView& view) {
+    const std::string before = view.Status();
+    EXPECT_TRUE(Eventually([&] { return view.Status() != before; })) << "the show stands";
+    return Clock::now();
+  }
+  // The shortest time between two steps out of so many: what else the machine does can only lengthen some.
+  static milliseconds ShortestStep(const EnhancedView& view, int steps) {
+    milliseconds shortest = patience;
+    for (auto former = WaitForStep(view); steps > 0; --steps) {
+      const auto now = WaitForStep(view);
+      shortest = std::min(shortest, std::chrono::duration_cast<milliseconds>(now - former));
+      former = now;
+    }
+    return shortest;
+  }
+};
+
+TEST_F(EnhancedViewShow, KeepsToTheClockAtEverySpeed) {
+  FindFiles(5);
+  const EnhancedView view = OpenOn(1);
+  view.Press(frmBit_tlb_control_MoveFirst);
+  // Up to the longest interval, and down to two seconds.
+  view.Press(frmBit_tlb_control_Slower, 70);
+  view.Press(frmBit_tlb_control_Faster, 63);
+  auto from = Clock::now();
+  view.Press(frmBit_tlb_control_Start);
+  EXPECT_GE(WaitForStep(view) - from, milliseconds(2000) - clockStep);
+  ExpectEntry(view, 2);
+
+  // During the show: a second, and no less.
+  from = Clock::now();
+  view.Press(frmBit_tlb_control_Faster, 5);
+  EXPECT_LT(ShortestStep(view, 2), milliseconds(1900));
+  EXPECT_GE(Clock::now() - from, milliseconds(3000) - clockStep);
+  EXPECT_TRUE(view.ShowIsOn());
+
+  // And slower again.
+  from = Clock::now();
+  view.Press(frmBit_tlb_control_Slower);
+  EXPECT_GE(WaitForStep(view) - from, milliseconds(2000) - clockStep);
+}
+
+TEST_F(EnhancedViewShow, BeginsAtItsFirstSpeedInEachOpening) {
+  FindFiles(5);
+  const EnhancedView first = OpenOn(1);
+  first.Press(frmBit_tlb_control_Faster, 4);
+  first.Press(frmBit_tlb_control_Start);
+  first.Close();
+  const EnhancedView second = OpenOn(1);
+  second.Press(frmBit_tlb_control_MoveFirst);
+  const auto from = Clock::now();
+  second.Press(frmBit_tlb_control_Start);
+  EXPECT_GE(WaitForStep(second) - from, milliseconds(5000) - clockStep);
+}
+
+TEST_F(EnhancedViewShow, GoesOnAtTheSecondEntryAfterTheLast) {
+  FindFiles(3);
+  const EnhancedView view = OpenOn(1);
+  view.Press(frmBit_tlb_control_Slower, 60);
+  view.Press(frmBit_tlb_control_Start);
+  for (const int number : {1, 2, 3, 2, 3, 2}) {
+    view.Tick();
+    EXPECT_EQ(view.Status(), Source(number));
+  }
+}
+
+TEST_F(EnhancedViewShow, WaitsWhileTheViewIsMinimised) {
+  FindFiles(5);
+  const EnhancedView view = OpenOn(1);
+  view.Press(frmBit_tlb_control_MoveFirst);
+  view.Press(frmBit_tlb_control_Faster, 4);
+  view.Press(frmBit_tlb_control_Start);
+  WaitForStep(view);
+  view.Ask(SC_MINIMIZE);
+  ASSERT_TRUE(view.IsMinimised());
+  const std::string shown = view.Status();
+  for (int i = 0; i < 3; ++i) view.Tick();
+  EXPECT_EQ(view.Status(), shown);
+  EXPECT_TRUE(view.ShowIsOn());
+  view.Ask(SC_RESTORE);
+  EXPECT_FALSE(view.IsMinimised());
+  WaitForStep(view);
+}
+
+TEST_F(EnhancedViewShow, EndsWithTheView) {
+  FindFiles(2);
+  const EnhancedView view = OpenOn(1);
+  view.Press(frmBit_tlb_control_Faster, 4);
+  view.Press(frmBit_tlb_control_Start);
+  view.Close();
+  EXPECT_TRUE(Eventually([&] { return program_.Window().IsEnabled(); }));
+  ClickCell(1);
+  ExpectCurrent(1);
+}
+
+class EnhancedViewSize : public ViewByHand {
+ protected:
+  static SIZE SizeOf(const EnhancedView& view) {
+    const RECT place = view.Window().Place();
+    return {place.right - place.left, place.bottom - place.top};
+  }
+  // Whether all of the view can be seen, and all of its buttons, list and status bar in it.
+  static void ExpectUsable(const EnhancedView& view, const std::string& what) {
+    const RECT place = view.Window().Place();
+    EXPECT_GE(place.left, 0) << what;
+    EXPECT_GE(place.top, 0) << what;
+    EXPECT_LE(place.right, GetSystemMetrics(SM_CXSCREEN)) << what;
+    EXPECT_LE(place.bottom, GetSystemMetrics(SM_CYSCREEN)) << what;
+    const RECT inside = view.Window().Inside();
+    EXPECT_LE(view.Toolbar().ButtonPlace(frmBit_tlb_control_Exit).right, inside.right) << what;
+    EXPECT_LE(view.ZoomList().Place().bottom, view.Window().Child(frmBit_sbMain).Place().top) << what;
+    EXPECT_EQ(view.Window().Child(frmBit_sbMain).Place().bottom, inside.bottom) << what;
+  }
+};
+
+TEST_F(EnhancedViewSize, IsKeptOverARestart) {
+  FindFiles(1);
+  const EnhancedView view = OpenOn(1);
+  EXPECT_EQ(SizeOf(view).cx, 443);
+  EXPECT_EQ(SizeOf(view).cy, 354);
+  // By its corner, as a user makes it larger.
+  const RECT place = view.Window().Place();
+  ASSERT_TRUE(Eventually([&] {
+    Drag({place.right - 2, place.bottom - 2}, {place.right + 98, place.bottom + 48});
+    return Eventually([&] { return SizeOf(view).cx == 543; }, std::chrono::seconds(3));
+  }));
+  EXPECT_EQ(SizeOf(view).cy, 404);
+  ExpectUsable(view, "enlarged");
+  view.Exit();
+  EXPECT_EQ(ReadViewSetting("Width"), "8145");
+  EXPECT_EQ(ReadViewSetting("Height"), "6060");
+  EXPECT_EQ(program_.Close(), 0U);
+
+  program_.Start();
+  Find();
+  const EnhancedView again = OpenOn(1);
+  EXPECT_EQ(SizeOf(again).cx, 543);
+  EXPECT_EQ(SizeOf(again).cy, 404);
+}
+
+TEST_F(EnhancedViewSize, LeavesNothingBehindWhereItGrew) {
+  FindFiles(1);
+  const EnhancedView view = OpenOn(1);
+  const auto picture = [&] {
+    MovePointer({0, 0});
+    return Screenshot(view.Window().Inside());
+  };
+  const auto settledPicture = [&] {
+    Screenshot former = picture();
+    EXPECT_TRUE(Eventually([&] {
+      const Screenshot before = std::exchange(former, picture());
+      return CountDifferences(before, former) == 0;
+    }));
+    return former;
+  };
+  view.Ask(SC_MAXIMIZE);
+  const Screenshot grown = settledPicture();
+  RedrawWindow(view.Window().Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+  EXPECT_EQ(CountDifferences(grown, settledPicture()), 0);
+}
+
+TEST_F(EnhancedViewSize, OfAMaximisedWindowFitsOnTheScreenNextTime) {
+  FindFiles(1);
+  const EnhancedView view = OpenOn(1);
+  view.Ask(SC_MAXIMIZE);
+  view.Close();
+  const EnhancedView again = OpenOn(1);
+  ExpectUsable(again, "after maximised");
+  EXPECT_GT(SizeOf(again).cx, GetSystemMetrics(SM_CXSCREEN) - 20);
+}
+
+TEST_F(EnhancedViewSize, CanBeUsedWhateverIsStored) {
+  FindFiles(1);
+  for (const char* text : {"wide", "-5310", "0", "99999999", "1e30"}) {
+    WriteViewSize(text, text);
+    const EnhancedView view = OpenOn(1);
+    ExpectUsable(view, text);
+    view.Close();
+    EXPECT_NE(ReadViewSetting("Width"), text) << "the size in use is kept";
+  }
+  // The number that a text begins with counts: 611 and 507 pixels here.
+  WriteViewSize("7605.9,5", "9165 twips");
+  const EnhancedView view = OpenOn(1);
+  EXPECT_EQ(SizeOf(view).cx, 611);
+  EXPECT_EQ(SizeOf(view).cy, 507);
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end
