@@ -1,9 +1,13 @@
 #include "end_to_end/Program.h"
 
+#include <windows.h>
+#include <winternl.h>
+
 #include <algorithm>
 #include <stdexcept>
 
 #include "end_to_end/Waiting.h"
+#include "platform/GdiObjects.h"
 #include "platform/Text.h"
 #include "resource.h"
 
@@ -26,13 +30,6 @@ std::vector<Control> ChildrenOf(HWND window) {
   return children;
 }
 
-std::optional<Control> ChildWithId(HWND window, int id) {
-  for (const Control child : ChildrenOf(window)) {
-    if (GetDlgCtrlID(child.Window()) == id) return child;
-  }
-  return std::nullopt;
-}
-
 std::wstring ClassOf(HWND window) {
   wchar_t name[64] = {};
   GetClassNameW(window, name, static_cast<int>(std::size(name)));
@@ -41,7 +38,7 @@ std::wstring ClassOf(HWND window) {
 
 // What every message box of the system has: its class, and its text under an id of its own.
 bool IsBox(Control window) {
-  return ClassOf(window.Window()) == L"#32770" && ChildWithId(window.Window(), boxTextId);
+  return ClassOf(window.Window()) == L"#32770" && window.FindChild(boxTextId);
 }
 
 }  // namespace
@@ -53,7 +50,7 @@ std::filesystem::path BuiltFile(const char* relativePath) {
 }
 
 std::string Box::Text() const {
-  return ChildWithId(window_.Window(), boxTextId).value().Text();
+  return window_.Child(boxTextId).Text();
 }
 
 std::vector<int> Box::Buttons() const {
@@ -154,9 +151,36 @@ void Program::Resume() {
   ResumeThread(thread.get());
 }
 
+std::string Program::CurrentFolder() const {
+  // Where a 64-bit process keeps it: the environment block names the parameters, these begin with some handles, and the
+  // current folder's text, counted in bytes, comes next.
+  constexpr std::size_t parametersPlace = 0x20;
+  constexpr std::size_t currentFolderPlace = 0x38;
+  PROCESS_BASIC_INFORMATION process{};
+  NtQueryInformationProcess(process_.get(), ProcessBasicInformation, &process, sizeof process, nullptr);
+  const auto read = [this](const std::byte* place, void* target, std::size_t size) {
+    if (ReadProcessMemory(process_.get(), place, target, size, nullptr) == 0)
+      throw std::runtime_error("the program's memory cannot be read");
+  };
+  const std::byte* parameters = nullptr;
+  read(reinterpret_cast<const std::byte*>(process.PebBaseAddress) + parametersPlace, &parameters, sizeof parameters);
+  UNICODE_STRING folder{};
+  read(parameters + currentFolderPlace, &folder, sizeof folder);
+  std::wstring text(folder.Length / sizeof(wchar_t), L'\0');
+  read(reinterpret_cast<const std::byte*>(folder.Buffer), text.data(), folder.Length);
+  return ToUtf8(text);
+}
+
+int Program::CountGdiObjects() const {
+  return testing::CountGdiObjects(process_.get());
+}
+
+int Program::CountHandles() const {
+  return testing::CountHandles(process_.get());
+}
+
 Control Program::Item(int id) const {
-  if (const auto item = ChildWithId(window_.Window(), id)) return *item;
-  throw std::runtime_error("the main window has no control " + std::to_string(id));
+  return window_.Child(id);
 }
 
 void Program::BringToFront() const {
@@ -192,9 +216,13 @@ Box Program::WaitForBox() const {
   return *box;
 }
 
+int Program::CountWindows() const {
+  return static_cast<int>(TopWindows().size());
+}
+
 int Program::CountWindowsWith(int id) const {
-  return static_cast<int>(std::ranges::count_if(
-      TopWindows(), [id](Control window) { return ChildWithId(window.Window(), id).has_value(); }));
+  return static_cast<int>(
+      std::ranges::count_if(TopWindows(), [id](Control window) { return window.FindChild(id).has_value(); }));
 }
 
 Control Program::WaitForWindowWith(int id) const {
@@ -202,7 +230,7 @@ Control Program::WaitForWindowWith(int id) const {
   const bool shown = Eventually([&] {
     if (!IsRunning()) throw std::runtime_error("the program ended before its window came up");
     for (const Control window : TopWindows()) {
-      if (ChildWithId(window.Window(), id)) found = window;
+      if (window.FindChild(id)) found = window;
     }
     return static_cast<bool>(found);
   });

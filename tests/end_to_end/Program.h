@@ -54,7 +54,8 @@ class Program {
   void WaitForMainWindow();
   // The visible top-level window that has a control with that id, once there is one.
   Control WaitForWindowWith(int id) const;
-  // How many visible top-level windows of the process have a control with that id.
+  // How many visible top-level windows the process has, and how many of them have a control with that id.
+  int CountWindows() const;
   int CountWindowsWith(int id) const;
   // Starts the program, has the start-up window go at once as it does by itself after some seconds, and waits for the
   // main window.
@@ -67,6 +68,12 @@ class Program {
   // Stops the process where it is, and lets it go on: what is sent meanwhile has surely come during what it does now.
   void Suspend();
   void Resume();
+
+  // The folder that the process stands in, with a backslash at its end.
+  std::string CurrentFolder() const;
+  // What the process has of the system.
+  int CountGdiObjects() const;
+  int CountHandles() const;
 
   // The main window; none before Start.
   Control Window() const { return window_; }

@@ -6,4 +6,9 @@ namespace tarvik::testing {
 // its bitmaps.
 int CountGdiObjects();
 
+// The same of any process, by a handle to it that may ask and read; and how many kernel objects it has open. 0 where
+// that cannot be had.
+int CountGdiObjects(void* process);
+int CountHandles(void* process);
+
 }  // namespace tarvik::testing

@@ -1,0 +1,129 @@
+#include "end_to_end/SavingTest.h"
+
+#include <algorithm>
+
+#include "platform/Handles.h"
+#include "platform/Text.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+constexpr int side = 32;
+constexpr int pixelCount = side * side;
+
+}  // namespace
+
+void Saving::MakePictures() {
+  for (int entry = 0; entry < static_cast<int>(pictures.size()); ++entry) {
+    const Picture& picture = pictures.at(static_cast<std::size_t>(entry));
+    const std::array icon{testing::BitmapPicture(side, picture.bits, picture.left, picture.right)};
+    tree_.MakeFile(std::to_string(entry) + ".ico", testing::IconFile(icon));
+  }
+  tree_.MakeFolder(outName);
+}
+
+void Saving::FindPictures() {
+  MakePictures();
+  Start();
+  FindAll();
+}
+
+void Saving::FindAll() {
+  Find();
+  ASSERT_EQ(List().RowCount(), static_cast<int>(pictures.size()));
+  const RECT window = program_.Window().Place();
+  MovePointer({window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2});
+  found_ = Now();
+}
+
+Pixels Saving::PixelsOf(int entry, std::uint32_t transparent) {
+  constexpr std::uint32_t opaque = 0xFF000000;
+  const Picture& picture = pictures.at(static_cast<std::size_t>(entry));
+  Pixels pixels(pixelCount, transparent);
+  for (std::size_t i = 0; i < pixelCount / 2; ++i)
+    pixels[i] = opaque | (i % side < side / 2 ? picture.left : picture.right);
+  return pixels;
+}
+
+Names Saving::NamesIn(const std::string& folder) {
+  Names names;
+  WIN32_FIND_DATAW data;
+  const FindHandle find(FindFirstFileW(ToWide(folder + "\\*").c_str(), &data));
+  do {
+    const std::string name = ToUtf8(data.cFileName);
+    if (name != "." && name != "..") names.push_back(name);
+  } while (FindNextFileW(find.get(), &data) != 0);
+  std::ranges::sort(names);
+  return names;
+}
+
+SaveDialog Saving::AskForName(int command) const {
+  program_.Command(command);
+  if (command == FrmFindIcon_MnuSaveAsCursor) Dialog(program_, FrmHotSpot_PicCursor).End(FrmHotSpot_CmdOk);
+  return SaveDialog(program_);
+}
+
+FolderChooser Saving::AskForFolder(int command) const {
+  program_.Command(command);
+  return FolderChooser(program_);
+}
+
+void Saving::ChooseOut(int command, int type) const {
+  const FolderChooser chooser = AskForFolder(command);
+  chooser.Open(outName);
+  if (type != 0) chooser.ChooseType(type);
+  chooser.Ok();
+}
+
+void Saving::SaveBatch(int command, int type) const {
+  ChooseOut(command, type);
+  ExpectAsFound();
+}
+
+void Saving::SelectByMouse(std::initializer_list<int> entries) const {
+  BringPointerIn();
+  Places wanted(entries);
+  for (int entry = 0; entry < List().RowCount(); ++entry) {
+    const bool select = wanted.contains(entry);
+    // A click that got lost is made again.
+    for (int i = 0; i < 3 && List().IsSelected(entry) != select; ++i) {
+      ClickCell(entry, {VK_CONTROL});
+      Eventually([&] { return List().IsSelected(entry) == select; }, std::chrono::seconds(5));
+    }
+  }
+  ExpectRows(wanted);
+}
+
+Names Saving::ReadMessages(int count) const {
+  Names messages;
+  for (int i = 0; i < count; ++i) {
+    const Box box = program_.WaitForBox();
+    EXPECT_EQ(box.Title(), "Brindle Tarvik - Error");
+    messages.push_back(box.Text());
+    box.Press(IDOK);
+  }
+  return messages;
+}
+
+Saving::Standing Saving::Now() const {
+  return {.pointer = ShownPointer(),
+          .caption = Caption(),
+          .status = Status(),
+          .windows = program_.CountWindows(),
+          .enabled = program_.Window().IsEnabled(),
+          .folder = program_.CurrentFolder()};
+}
+
+void Saving::ExpectAsFound() const {
+  EXPECT_TRUE(Eventually([&] { return Now() == found_; }, shortly))
+      << ::testing::PrintToString(Now()) << "\nand before " << ::testing::PrintToString(found_);
+}
+
+HCURSOR Saving::ShownPointer() {
+  CURSORINFO info{};
+  info.cbSize = sizeof info;
+  GetCursorInfo(&info);
+  return info.hCursor;
+}
+
+}  // namespace tarvik::end_to_end

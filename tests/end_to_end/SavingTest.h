@@ -1,0 +1,93 @@
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "end_to_end/Dialogs.h"
+#include "end_to_end/SaveDialog.h"
+#include "end_to_end/SelectionByHand.h"
+
+namespace tarvik::end_to_end {
+
+using Pixels = std::vector<std::uint32_t>;  // 0xAABBGGRR, from the top-left corner; 0 where transparent
+using Names = std::vector<std::string>;
+
+// Five icons found, and a folder to save them to.
+class Saving : public SelectionByHand {
+ protected:
+  // An icon of 32 pixels: the left and the right half of its upper half; the lower half is transparent.
+  struct Picture {
+    Color left;
+    Color right;
+    int bits;
+  };
+  // Two of black and white, two of the sixteen standard colours, one that needs a palette.
+  static constexpr std::array<Picture, 5> pictures{{{black, white, 1},
+                                                    {0x0000FF, 0xFF0000, 4},
+                                                    {0x20C040, 0xA06010, 24},
+                                                    {0x00FF00, 0xFF00FF, 4},
+                                                    {white, black, 1}}};
+  static constexpr const char* outName = "输出";
+
+  // Starts the program, finds the icons and puts the pointer where no dialog opens.
+  void FindPictures();
+  void MakePictures();
+  // The same after a start of the test's own.
+  void FindAll();
+
+  // Pixels of an entry, counted from 0: as its icon has them, and composed over white.
+  static Pixels IconPixels(int entry) { return PixelsOf(entry, 0); }
+  static Pixels ComposedPixels(int entry) { return PixelsOf(entry, 0xFFFFFFFF); }
+
+  std::string Out() const { return In(outName); }
+  std::string Out(const std::string& name) const { return In(std::string(outName) + "\\" + name); }
+  // Names of all that stands in a folder, in order; of the folder to save to where none is given.
+  static Names NamesIn(const std::string& folder);
+  Names SavedNames() const { return NamesIn(Out()); }
+
+  SaveDialog AskForName(int command) const;
+  // Saves by one of the three commands for one icon, up to the name.
+  void SaveAs(int command, const std::string& path) const { AskForName(command).SaveAs(path); }
+  FolderChooser AskForFolder(int command) const;
+  // Chooses the folder to save to, of the image type where one is given.
+  void ChooseOut(int command, int type = 0) const;
+  // The same, and waits for the end of the batch.
+  void SaveBatch(int command, int type = 0) const;
+  // Has exactly these entries selected, counted from 0, by the mouse.
+  void SelectByMouse(std::initializer_list<int> entries) const;
+
+  // Reads and closes so many messages, one after the other.
+  Names ReadMessages(int count) const;
+
+  // What a command leaves as it found it.
+  struct Standing {
+    HCURSOR pointer;
+    std::string caption;
+    std::string status;
+    int windows;
+    bool enabled;
+    std::string folder;  // that the process stands in
+    friend bool operator==(const Standing&, const Standing&) = default;
+    friend void PrintTo(const Standing& standing, std::ostream* out) {
+      *out << standing.pointer << ' ' << standing.caption << ' ' << standing.status << ' ' << standing.windows
+           << " windows " << standing.enabled << ' ' << standing.folder;
+    }
+  };
+  Standing Now() const;
+  // Waits for that, too: a command that is over has put everything back.
+  void ExpectAsFound() const;
+
+  static HCURSOR ShownPointer();
+
+  Standing found_{};
+
+ private:
+  static Pixels PixelsOf(int entry, std::uint32_t transparent);
+};
+
+}  // namespace tarvik::end_to_end
