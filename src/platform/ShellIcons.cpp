@@ -22,6 +22,10 @@ namespace {
 constexpr UINT countIndex = UINT_MAX;  // -1: how many icons there are
 constexpr UINT noFile = UINT_MAX;      // what the shell answers for a file it cannot read
 
+// As many icons as one file is believed to hold on its word: a search lists so many at every size. More would have a
+// whole search refused for one file.
+constexpr int believedCount = 100;
+
 class PlatformIcon final : public ExtractedIcon {
  public:
   PlatformIcon(IconHandle icon, int stepBound) : icon_(std::move(icon)), stepBound_(stepBound) {}
@@ -80,13 +84,34 @@ std::unique_ptr<ExtractedIcon> ExtractSteps(const std::string& path, int index) 
   return Drawable(std::move(icon), std::max(steps, 1));
 }
 
-}  // namespace
-
-int ShellIcons::CountIcons(const std::string& path) {
+// How many icons the shell says the file has; some systems tell it as it is written in the file.
+int ClaimedIcons(const std::string& path) {
   UINT count = 0;
   const bool finished =
       SurvivesFault([&] { count = ExtractIconExA(path.c_str(), static_cast<int>(countIndex), nullptr, nullptr, 0); });
   return finished && count <= INT_MAX ? static_cast<int>(count) : 0;
+}
+
+// How many icons can be had of a file that claims more than it has: those before the claim's first wrong one.
+int ExtractableIcons(const std::string& path, int claimed) {
+  int had = 0;
+  while (had < claimed) {
+    const int middle = had + (claimed - had) / 2;
+    if (ExtractLarge(path, middle)) {
+      had = middle + 1;
+    } else {
+      claimed = middle;
+    }
+  }
+  return had;
+}
+
+}  // namespace
+
+int ShellIcons::CountIcons(const std::string& path) {
+  const int claimed = ClaimedIcons(path);
+  if (claimed <= believedCount || ExtractLarge(path, claimed - 1)) return claimed;
+  return ExtractableIcons(path, claimed - 1);
 }
 
 std::unique_ptr<ExtractedIcon> ShellIcons::Extract(const std::string& path, int index) {

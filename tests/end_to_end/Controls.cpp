@@ -164,19 +164,31 @@ int ReportView::RowCount() const {
 }
 
 std::string ReportView::Cell(int row, int column) const {
+  return Cells(row, row + 1, column).front();
+}
+
+std::vector<std::string> ReportView::Row(int row) const {
+  std::vector<std::string> cells;
+  for (int column = 0; column < static_cast<int>(Columns().size()); ++column) cells.push_back(Cell(row, column));
+  return cells;
+}
+
+std::vector<std::string> ReportView::CellsOf(int column) const {
+  return Cells(0, RowCount(), column);
+}
+
+std::vector<std::string> ReportView::Cells(int firstRow, int endRow, int column) const {
   const RemoteMemory memory(control_.Window(), sizeof(LVITEMW) + textCapacity * sizeof(wchar_t));
   LVITEMW item{};
   item.iSubItem = column;
   item.cchTextMax = textCapacity;
   item.pszText = static_cast<wchar_t*>(memory.At(sizeof item));
   memory.Write(0, item);
-  control_.Send(LVM_GETITEMTEXTW, static_cast<WPARAM>(row), Pointer(memory.At(0)));
-  return memory.ReadText(sizeof item);
-}
-
-std::vector<std::string> ReportView::Row(int row) const {
   std::vector<std::string> cells;
-  for (int column = 0; column < static_cast<int>(Columns().size()); ++column) cells.push_back(Cell(row, column));
+  for (int row = firstRow; row < endRow; ++row) {
+    control_.Send(LVM_GETITEMTEXTW, static_cast<WPARAM>(row), Pointer(memory.At(0)));
+    cells.push_back(memory.ReadText(sizeof item));
+  }
   return cells;
 }
 

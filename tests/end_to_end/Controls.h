@@ -66,8 +66,9 @@ class ReportView {
 
   int RowCount() const;
   std::string Cell(int row, int column) const;
-  // All cells of a row.
+  // All cells of a row, and all of a column.
   std::vector<std::string> Row(int row) const;
+  std::vector<std::string> CellsOf(int column) const;
   bool IsSelected(int row) const;
   // The row's place on the screen.
   RECT RowPlace(int row) const;
@@ -80,6 +81,9 @@ class ReportView {
   std::vector<Column> Columns() const;
 
  private:
+  // The cells of one column in those rows.
+  std::vector<std::string> Cells(int firstRow, int endRow, int column) const;
+
   Control control_;
 };
 

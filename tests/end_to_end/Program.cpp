@@ -8,6 +8,7 @@
 
 #include "end_to_end/Waiting.h"
 #include "platform/GdiObjects.h"
+#include "platform/Holdings.h"
 #include "platform/Text.h"
 #include "resource.h"
 
@@ -176,7 +177,7 @@ int Program::CountGdiObjects() const {
 }
 
 int Program::CountHandles() const {
-  return testing::CountHandles(process_.get());
+  return testing::HeldBy(process_.get()).kernelHandles;
 }
 
 Control Program::Item(int id) const {

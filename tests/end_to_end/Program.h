@@ -61,6 +61,8 @@ class Program {
   // main window.
   void Start();
   bool IsRunning() const;
+  // The process, with all rights to it; owned by this object.
+  HANDLE Process() const { return process_.get(); }
   // Waits until the process has ended; its exit code.
   DWORD WaitForEnd();
   // Asks the main window to close and waits for the end; the exit code.
@@ -77,6 +79,8 @@ class Program {
 
   // The main window; none before Start.
   Control Window() const { return window_; }
+  // The visible top-level window that has a control with that id, once there is one.
+  Control WaitForWindowWith(int id) const;
   // The control of the main window with that id. Throws std::runtime_error where there is none.
   Control Item(int id) const;
   // Gives a menu item's or button's command to the main window.

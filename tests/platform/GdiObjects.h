@@ -1,14 +1,12 @@
 #pragma once
 
+#include <windows.h>
+
 namespace tarvik::testing {
 
-// How many GDI objects this process has: device contexts, bitmaps, brushes, fonts, pens, regions. An icon counts by
-// its bitmaps.
+// How many GDI objects this process, or another one that may be read, has: device contexts, bitmaps, brushes, fonts,
+// pens, regions. An icon counts by its bitmaps.
 int CountGdiObjects();
-
-// The same of any process, by a handle to it that may ask and read; and how many kernel objects it has open. 0 where
-// that cannot be had.
-int CountGdiObjects(void* process);
-int CountHandles(void* process);
+int CountGdiObjects(HANDLE process);
 
 }  // namespace tarvik::testing

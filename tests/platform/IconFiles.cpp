@@ -127,20 +127,6 @@ void AppendChunk(Bytes& file, std::string_view type, const Bytes& data, std::opt
   if (data.size() % 2 != 0) file.push_back(std::byte{0});
 }
 
-// The directory entry of a picture as a resource has it: with the number of the picture in place of its offset.
-Bytes ResourceDirectory(const IconPicture& picture, std::uint16_t number) {
-  Bytes directory;
-  for (const int value : {0, 1, 1}) Append16(directory, static_cast<std::uint64_t>(value));
-  Append(directory, static_cast<std::uint64_t>(picture.size), 1);
-  Append(directory, static_cast<std::uint64_t>(picture.size), 1);
-  Append16(directory, 0);
-  Append16(directory, 1);
-  Append16(directory, static_cast<std::uint64_t>(picture.bits));
-  Append32(directory, picture.data.size());
-  Append16(directory, number);
-  return directory;
-}
-
 }  // namespace
 
 IconPicture BitmapPicture(int size, int bits, Color left, Color right) {
@@ -249,6 +235,19 @@ Bytes AnimationFile(std::span<const Color> colors, const AnimationClaims& claims
   return file;
 }
 
+Bytes IconGroup(const IconPicture& picture, std::uint16_t number) {
+  Bytes directory;
+  for (const int value : {0, 1, 1}) Append16(directory, static_cast<std::uint64_t>(value));
+  Append(directory, static_cast<std::uint64_t>(picture.size), 1);
+  Append(directory, static_cast<std::uint64_t>(picture.size), 1);
+  Append16(directory, 0);
+  Append16(directory, 1);
+  Append16(directory, static_cast<std::uint64_t>(picture.bits));
+  Append32(directory, picture.data.size());
+  Append16(directory, number);
+  return directory;
+}
+
 void AddIcons(const std::string& path, std::span<const IconPicture> pictures) {
   const HANDLE update = BeginUpdateResourceW(ToWide(path).c_str(), FALSE);
   ASSERT_NE(update, nullptr) << path;
@@ -261,7 +260,7 @@ void AddIcons(const std::string& path, std::span<const IconPicture> pictures) {
           0);
     };
     add(MAKEINTRESOURCEW(3), picture.data);                         // RT_ICON
-    add(MAKEINTRESOURCEW(14), ResourceDirectory(picture, number));  // RT_GROUP_ICON
+    add(MAKEINTRESOURCEW(14), IconGroup(picture, number));  // RT_GROUP_ICON
   }
   EXPECT_NE(EndUpdateResourceW(update, FALSE), 0) << path;
 }

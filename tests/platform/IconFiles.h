@@ -44,6 +44,9 @@ struct AnimationClaims {
 // An animated cursor with a picture in each of the colours.
 Bytes AnimationFile(std::span<const Color> colors, const AnimationClaims& claims = {});
 
+// The group resource of an icon of one picture, which is the icon resource of that number.
+Bytes IconGroup(const IconPicture& picture, std::uint16_t number);
+
 // Gives a program or library file an icon for each of the pictures.
 void AddIcons(const std::string& path, std::span<const IconPicture> pictures);
 

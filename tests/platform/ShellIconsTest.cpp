@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "damaged_files/Libraries.h"
 #include "platform/FolderPath.h"
 #include "platform/GdiObjects.h"
 #include "platform/IconFiles.h"
@@ -246,6 +247,37 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
   EXPECT_NE(DestroyWindow(window), 0);
   EXPECT_EQ(StepColors(folder.MakeFile("good.ico", IconFileOf(red))), std::vector{red});
   EXPECT_EQ(StepColors(folder.MakeFile("good.ani", AnimationFile(twoPictures))), (std::vector{red, blue}));
+}
+
+// A library of that many icons whose resource tree claims another number of them.
+Bytes LyingLibrary(int icons, std::uint16_t claimed) {
+  constexpr std::size_t sectionPlace = 0x200;  // the tree's place in the file
+  constexpr std::size_t countPlace = 14;       // in a directory
+  const std::vector pictures(static_cast<std::size_t>(icons), BitmapPicture(16, 1, red, red));
+  testing::SoundFile library = testing::Library(testing::Bitness::Bits64, pictures);
+  const std::size_t groups = library.directories[2] & 0x7FFFFFFF;
+  library.bytes[sectionPlace + groups + countPlace] = static_cast<std::byte>(claimed);
+  library.bytes[sectionPlace + groups + countPlace + 1] = static_cast<std::byte>(claimed >> 8U);
+  return library.bytes;
+}
+
+// Such a count once ended every search of its folder, with a message that told of thousands of icons or of an overflow.
+TEST(ShellIcons, BelievesNoFileMoreThanAHundredIconsThatItDoesNotHave) {
+  const TemporaryFolder folder;
+  ShellIcons icons;
+  for (const int claimed : {101, 4000, 40000, 65535}) {
+    const auto name = std::to_string(claimed) + ".dll";
+    EXPECT_EQ(icons.CountIcons(folder.MakeFile(name, LyingLibrary(3, static_cast<std::uint16_t>(claimed)))), 3) << name;
+  }
+}
+
+TEST(ShellIcons, CountsAHundredIconsOrMoreThatAreThere) {
+  const TemporaryFolder folder;
+  ShellIcons icons;
+  for (const int count : {100, 101, 250}) {
+    const auto name = std::to_string(count) + ".dll";
+    EXPECT_EQ(icons.CountIcons(folder.MakeFile(name, LyingLibrary(count, static_cast<std::uint16_t>(count)))), count);
+  }
 }
 
 TEST(ShellIcons, KeepsNoHandles) {

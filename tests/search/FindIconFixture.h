@@ -96,14 +96,16 @@ class FindIconFixture : public ::testing::Test {
     machine.files["C:\\icons"] = {"some.dll"};
   }
 
-  void Open(const std::string& language = "ENG") {
+  void Open(const std::string& language = "ENG") { OpenOver(machine, machine, language); }
+
+  void OpenOver(IconSource& icons, FolderReader& folders, const std::string& language = "ENG") {
     state.CurrentLanguage = language;
     window = std::make_unique<FrmFindIcon>(
         application,
         FrmFindIcon::Services{state,
                               settings,
-                              machine,
-                              machine,
+                              icons,
+                              folders,
                               [] {
                                 return std::vector<DriveListBox::Drive>{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
                               },

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <random>
+
+#include "damaged_files/SoundFile.h"
+
+namespace tarvik::testing {
+
+// Chances that come out the same with every compiler.
+class Chance {
+ public:
+  explicit Chance(std::uint32_t seed) : engine_(seed) {}
+  // A number from 0 up to and without `end`, which is not 0.
+  std::size_t Below(std::size_t end) { return engine_() % end; }
+  std::uint32_t Any() { return engine_(); }
+
+ private:
+  std::mt19937 engine_;
+};
+
+enum class Damage {
+  FlippedBits,    // one to eight, anywhere
+  FlippedHeader,  // one to four in the first 128 bytes
+  Truncated,      // cut off anywhere
+  Noise,          // a run of up to 64 bytes without any sense
+  Lies,           // one to three fields that say something else
+  Loops,          // a resource tree that leads back into itself
+};
+struct DamageName {
+  Damage damage;
+  const char* name;
+};
+inline constexpr std::array damageNames{DamageName{Damage::FlippedBits, "flipped bits"},
+                                        DamageName{Damage::FlippedHeader, "flipped header"},
+                                        DamageName{Damage::Truncated, "truncated"},
+                                        DamageName{Damage::Noise, "noise"},
+                                        DamageName{Damage::Lies, "lies"},
+                                        DamageName{Damage::Loops, "loops"}};
+
+// Whether a file can be damaged that way: without a tree there is no loop in it.
+bool CanHave(const SoundFile& file, Damage damage);
+
+// The bytes of the file, damaged that way.
+Bytes Damaged(const SoundFile& file, Damage damage, Chance& chance);
+
+}  // namespace tarvik::testing

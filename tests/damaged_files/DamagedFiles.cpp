@@ -1,0 +1,125 @@
+#include "damaged_files/DamagedFiles.h"
+
+#include <array>
+#include <cstdio>
+
+#include "damaged_files/Damage.h"
+#include "damaged_files/Libraries.h"
+
+namespace tarvik::testing {
+namespace {
+
+constexpr std::uint32_t seed = 19680229;
+constexpr int foldersBelow = 3;  // in each folder
+constexpr int soundInEach = 3;
+
+constexpr Color red = 0x0000FF;
+constexpr Color blue = 0xFF0000;
+
+// Files of one kind, each damaged so many times in each way.
+struct Kind {
+  const char* name;
+  const char* extension;
+  int copies;
+  std::vector<SoundFile> files;
+};
+
+std::vector<IconPicture> EveryPicture() {
+  std::vector<IconPicture> pictures;
+  for (const int bits : {1, 4, 8, 24, 32}) pictures.push_back(BitmapPicture(bits == 8 ? 48 : 32, bits, red, blue));
+  pictures.push_back(PngPicture(32, red, blue));
+  return pictures;
+}
+
+std::vector<SoundFile> IconFiles(IconFileKind kind) {
+  const std::vector<IconPicture> pictures = EveryPicture();
+  std::vector<SoundFile> files;
+  for (const IconPicture& picture : pictures) files.push_back(SoundIconFile(IconFile(std::span(&picture, 1), kind)));
+  files.push_back(SoundIconFile(IconFile(std::array{pictures[1], pictures[4]}, kind)));
+  files.push_back(SoundIconFile(IconFile(pictures, kind)));
+  return files;
+}
+
+std::vector<SoundFile> Animations() {
+  std::vector<SoundFile> files;
+  files.push_back(SoundAnimation(AnimationFile(std::array{red})));
+  files.push_back(SoundAnimation(AnimationFile(std::array{red, blue})));
+  files.push_back(SoundAnimation(AnimationFile(std::array{red, blue}, {.sequence = {1, 0, 1}})));
+  return files;
+}
+
+// Libraries of one, two and six icons.
+template <typename Make>
+std::vector<SoundFile> LibrariesBy(Make make) {
+  const std::vector<IconPicture> pictures = EveryPicture();
+  std::vector<SoundFile> files;
+  for (const std::size_t count : {std::size_t{1}, std::size_t{2}, pictures.size()})
+    files.push_back(make(std::span(pictures).first(count)));
+  return files;
+}
+
+std::vector<Kind> Kinds() {
+  const auto wide = [](std::span<const IconPicture> pictures) { return Library(Bitness::Bits64, pictures); };
+  const auto narrow = [](std::span<const IconPicture> pictures) { return Library(Bitness::Bits32, pictures); };
+  return {{"icon", ".ico", 360, IconFiles(IconFileKind::Icon)},
+          {"cursor", ".cur", 240, IconFiles(IconFileKind::Cursor)},
+          {"cursor as animation", ".ani", 180, IconFiles(IconFileKind::Cursor)},
+          {"animation", ".ani", 360, Animations()},
+          {"16-bit library", ".icl", 300, LibrariesBy(SixteenBitLibrary)},
+          {"32-bit library", ".ocx", 270, LibrariesBy(narrow)},
+          {"64-bit library", ".dll", 270, LibrariesBy(wide)}};
+}
+
+std::string Numbered(int number, const char* extension) {
+  std::array<char, 16> text{};
+  std::snprintf(text.data(), text.size(), "%04d", number);
+  return text.data() + std::string(extension);
+}
+
+class FolderMaker {
+ public:
+  FolderMaker(const TemporaryFolder& folder, const Kind& kind, const DamageName& damage)
+      : folder_(folder), kind_(kind), damage_(damage), name_(std::string(kind.name) + ", " + damage.name) {}
+
+  DamagedFolder Make(Chance& chance) {
+    DamagedFolder made{kind_.name, damage_.name, folder_.MakeFolder(name_), {}, {}};
+    for (int below = 0; below < foldersBelow; ++below) folder_.MakeFolder(Below(below));
+    for (int copy = 0; copy < kind_.copies; ++copy) {
+      const SoundFile& file = kind_.files[static_cast<std::size_t>(copy) % kind_.files.size()];
+      made.damaged.push_back(folder_.MakeFile(Below(copy % foldersBelow) + "\\" + Numbered(copy, kind_.extension),
+                                              Damaged(file, damage_.damage, chance)));
+    }
+    const Bytes sound = IconFileOf(red);
+    for (int below = 0; below < foldersBelow; ++below) {
+      // At the start, in the middle and at the end of what is listed.
+      for (int i = 0; i < soundInEach; ++i) {
+        const std::string name = Numbered(i * (kind_.copies - 1) / (soundInEach - 1), " sound.ico");
+        made.sound.push_back(folder_.MakeFile(Below(below) + "\\" + name, sound));
+      }
+    }
+    return made;
+  }
+
+ private:
+  std::string Below(int number) const { return name_ + "\\" + std::to_string(number); }
+
+  const TemporaryFolder& folder_;
+  const Kind& kind_;
+  const DamageName& damage_;
+  std::string name_;
+};
+
+}  // namespace
+
+std::vector<DamagedFolder> MakeDamagedFiles(const TemporaryFolder& folder) {
+  Chance chance(seed);
+  std::vector<DamagedFolder> made;
+  for (const Kind& kind : Kinds()) {
+    for (const DamageName& damage : damageNames) {
+      if (CanHave(kind.files.front(), damage.damage)) made.push_back(FolderMaker(folder, kind, damage).Make(chance));
+    }
+  }
+  return made;
+}
+
+}  // namespace tarvik::testing

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/TemporaryFolder.h"
+
+namespace tarvik::testing {
+
+// Files of one kind with the same damage, in a folder of their own and folders below it.
+struct DamagedFolder {
+  std::string kind;    // "icon", "16-bit library" ...
+  std::string damage;  // "lies" ...
+  std::string path;
+  std::vector<std::string> damaged;  // paths
+  std::vector<std::string> sound;    // those that are as they should be, strewn among them: one icon each
+};
+
+// Makes at least 10,000 damaged files of every kind that holds icons, the same ones each time, each kind of damage of
+// each kind of file in a folder of its own in `folder`.
+std::vector<DamagedFolder> MakeDamagedFiles(const TemporaryFolder& folder);
+
+}  // namespace tarvik::testing

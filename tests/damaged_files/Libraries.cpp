@@ -1,0 +1,226 @@
+#include "damaged_files/Libraries.h"
+
+#include <array>
+
+namespace tarvik::testing {
+namespace {
+
+constexpr std::uint32_t iconType = 3;
+constexpr std::uint32_t iconGroupType = 14;
+
+constexpr std::size_t newHeaderPlace = 64;  // right behind the DOS header, which ends in this number
+
+void WriteDosHeader(SoundFileWriter& file) {
+  file.Number(0x5A4D, 2);  // "MZ"
+  file.PadTo(newHeaderPlace - 4);
+  file.Marked(newHeaderPlace, 4);
+}
+
+// The data of all resources: first the pictures, then the group of each.
+std::vector<Bytes> ResourceData(std::span<const IconPicture> pictures) {
+  std::vector<Bytes> data;
+  data.reserve(2 * pictures.size());
+  for (const IconPicture& picture : pictures) data.push_back(picture.data);
+  std::uint16_t number = 0;
+  for (const IconPicture& picture : pictures) data.push_back(IconGroup(picture, ++number));
+  return data;
+}
+
+void WriteGroup(SoundFileWriter& file, const Bytes& group) {
+  const auto number = [&group](std::size_t place, std::size_t width) {
+    std::uint64_t value = 0;
+    for (std::size_t i = 0; i < width; ++i) value |= std::to_integer<std::uint64_t>(group[place + i]) << (8 * i);
+    return value;
+  };
+  file.Number(number(0, 4), 4);
+  file.Marked(number(4, 2), 2);   // how many pictures
+  file.Number(number(6, 8), 8);   // of the picture: sides, colours, planes, bits
+  file.Marked(number(14, 4), 4);  // its size
+  file.Marked(number(18, 2), 2);  // its number
+}
+
+void WriteResourceData(SoundFileWriter& file, const std::vector<Bytes>& data, std::size_t index) {
+  if (index >= data.size() / 2) return WriteGroup(file, data[index]);
+  const std::size_t start = file.Place();
+  file.Append(data[index]);
+  file.MarkPicture(start);
+}
+
+constexpr std::uint32_t sectionAddress = 0x1000;
+constexpr std::size_t sectionPlace = 0x200;
+
+// The resource tree: the types, the names of each type, the one language of each name, the data.
+class ResourceTree {
+ public:
+  ResourceTree(SoundFileWriter& file, std::span<const IconPicture> pictures)
+      : file_(file), data_(ResourceData(pictures)), names_(static_cast<std::uint32_t>(pictures.size())) {}
+
+  void Write() {
+    const std::uint32_t typeSize = directorySize + entrySize * names_;
+    const std::uint32_t languages = directorySize + entrySize * 2 + 2 * typeSize;
+    const std::uint32_t dataEntries = languages + 2 * names_ * (directorySize + entrySize);
+    Directory(0, 2);
+    Entry(iconType, subDirectory | (directorySize + entrySize * 2));
+    Entry(iconGroupType, subDirectory | (directorySize + entrySize * 2 + typeSize));
+    for (std::uint32_t type = 0; type < 2; ++type) {
+      Directory(directorySize + entrySize * 2 + type * typeSize, names_);
+      for (std::uint32_t name = 0; name < names_; ++name)
+        Entry(name + 1, subDirectory | (languages + (type * names_ + name) * (directorySize + entrySize)));
+    }
+    for (std::uint32_t resource = 0; resource < 2 * names_; ++resource) {
+      Directory(languages + resource * (directorySize + entrySize), 1);
+      Entry(englishLanguage, dataEntries + resource * dataEntrySize);
+    }
+    WriteDataEntries(dataEntries + 2 * names_ * dataEntrySize);
+    for (std::size_t index = 0; index < data_.size(); ++index) WriteResourceData(file_, data_, index);
+  }
+
+ private:
+  static constexpr std::uint32_t directorySize = 16;
+  static constexpr std::uint32_t entrySize = 8;
+  static constexpr std::uint32_t dataEntrySize = 16;
+  static constexpr std::uint32_t subDirectory = 0x80000000;
+  static constexpr std::uint32_t englishLanguage = 0x409;
+
+  void Directory(std::uint32_t offset, std::uint32_t entries) {
+    file_.Directory(subDirectory | offset);
+    file_.Number(0, 12);
+    file_.Marked(0, 2);  // entries with a name
+    file_.Marked(entries, 2);
+  }
+  void Entry(std::uint32_t id, std::uint32_t leadingValue) {
+    file_.Number(id, 4);
+    file_.Branch(leadingValue);
+  }
+  void WriteDataEntries(std::uint32_t offset) {
+    for (const Bytes& data : data_) {
+      const auto size = static_cast<std::uint32_t>(data.size());
+      file_.Marked(sectionAddress + offset, 4);
+      file_.Marked(size, 4);
+      file_.Number(0, 8);
+      offset += size;
+    }
+  }
+
+  SoundFileWriter& file_;
+  std::vector<Bytes> data_;
+  std::uint32_t names_;
+};
+
+void WriteFileHeader(SoundFileWriter& file, bool wide) {
+  constexpr std::uint32_t machine32 = 0x14C;
+  constexpr std::uint32_t machine64 = 0x8664;
+  file.Number(0x4550, 4);  // "PE"
+  file.Number(wide ? machine64 : machine32, 2);
+  file.Marked(1, 2);  // sections
+  file.Number(0, 12);
+  file.Marked(wide ? 240 : 224, 2);             // the size of the optional header
+  file.Number(0x2002 | (wide ? 0 : 0x100), 2);  // a library that can be run, for 32 bits
+}
+
+void WriteOptionalHeader(SoundFileWriter& file, bool wide, std::size_t treeSize) {
+  const std::size_t word = wide ? 8 : 4;
+  constexpr std::uint32_t directories = 16;
+  constexpr std::uint32_t resourceDirectory = 2;
+  const std::size_t start = file.Place();
+  file.Number(wide ? 0x20B : 0x10B, 2);
+  file.PadTo(start + (wide ? 24 : 28));
+  file.Number(0x400000, word);     // where it is loaded
+  file.Marked(sectionAddress, 4);  // alignment in memory
+  file.Marked(sectionPlace, 4);    // and in the file
+  file.PadTo(start + 48);
+  file.Number(4, 4);  // the oldest system
+  file.PadTo(start + 56);
+  file.Marked(sectionAddress + treeSize, 4);
+  file.Marked(sectionPlace, 4);  // headers
+  file.PadTo(start + 68);
+  file.Number(2, 2);  // has windows
+  file.PadTo(start + 72 + 4 * word + 4);
+  file.Marked(directories, 4);
+  file.Number(0, 8 * resourceDirectory);
+  file.Marked(sectionAddress, 4);
+  file.Marked(treeSize, 4);
+  file.Number(0, 8);
+  file.PadTo(start + (wide ? 240 : 224));
+}
+
+void WriteSectionHeader(SoundFileWriter& file, std::size_t size) {
+  constexpr std::uint64_t name = 0x637273722E;  // ".rsrc"
+  constexpr std::uint32_t readableData = 0x40000040;
+  file.Number(name, 8);
+  file.Marked(size, 4);
+  file.Marked(sectionAddress, 4);
+  file.Marked(size, 4);
+  file.Marked(sectionPlace, 4);
+  file.Number(0, 12);
+  file.Number(readableData, 4);
+}
+
+std::size_t TreeSize(std::span<const IconPicture> pictures) {
+  SoundFileWriter alone;
+  ResourceTree(alone, pictures).Write();
+  return alone.Place();
+}
+
+}  // namespace
+
+SoundFile Library(Bitness bitness, std::span<const IconPicture> pictures) {
+  const bool wide = bitness == Bitness::Bits64;
+  const std::size_t treeSize = TreeSize(pictures);
+  SoundFileWriter file;
+  WriteDosHeader(file);
+  WriteFileHeader(file, wide);
+  WriteOptionalHeader(file, wide, treeSize);
+  WriteSectionHeader(file, treeSize);
+  file.PadTo(sectionPlace);
+  ResourceTree(file, pictures).Write();
+  return file.Take();
+}
+
+SoundFile SixteenBitLibrary(std::span<const IconPicture> pictures) {
+  constexpr std::size_t headerSize = 64;
+  constexpr std::size_t typeSize = 8;
+  constexpr std::size_t nameSize = 12;
+  constexpr std::uint32_t shift = 4;
+  constexpr std::uint32_t idBit = 0x8000;
+  const std::vector<Bytes> data = ResourceData(pictures);
+  const auto names = static_cast<std::uint32_t>(pictures.size());
+  const std::size_t tableSize = 2 + 2 * (typeSize + nameSize * names) + 2;
+
+  SoundFileWriter file;
+  WriteDosHeader(file);
+  file.Number(0x454E, 2);  // "NE"
+  file.PadTo(newHeaderPlace + 0x24);
+  file.Marked(headerSize, 2);              // where the resource table is
+  file.Marked(headerSize + tableSize, 2);  // and what comes behind it
+  file.PadTo(newHeaderPlace + 0x36);
+  file.Number(2, 1);  // for Windows
+  file.PadTo(newHeaderPlace + headerSize);
+
+  const auto aligned = [](std::size_t place) { return (place + (1U << shift) - 1) >> shift << shift; };
+  std::size_t place = aligned(newHeaderPlace + headerSize + tableSize);
+  file.Marked(shift, 2);
+  for (std::size_t index = 0; index < data.size(); ++index) {
+    if (index % names == 0) {
+      file.Marked(idBit | (index == 0 ? iconType : iconGroupType), 2);
+      file.Marked(names, 2);
+      file.Number(0, 4);
+    }
+    const std::size_t size = aligned(data[index].size());
+    file.Marked(place >> shift, 2);
+    file.Marked(size >> shift, 2);
+    file.Number(0x1C30, 2);  // may be moved and discarded, is not written to
+    file.Marked(idBit | (index % names + 1), 2);
+    file.Number(0, 4);
+    place += size;
+  }
+  file.Marked(0, 2);
+  for (std::size_t index = 0; index < data.size(); ++index) {
+    file.PadTo(aligned(file.Place()));
+    WriteResourceData(file, data, index);
+  }
+  file.PadTo(aligned(file.Place()));
+  return file.Take();
+}
+
+}  // namespace tarvik::testing

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <span>
+
+#include "damaged_files/SoundFile.h"
+
+namespace tarvik::testing {
+
+// Libraries of icons and nothing else, written byte by byte: no linker makes some of these kinds any more.
+
+enum class Bitness { Bits32, Bits64 };
+
+// A library as Windows has them since NT ("PE"): headers and one section that holds the resource tree.
+SoundFile Library(Bitness bitness, std::span<const IconPicture> pictures);
+
+// A library as 16-bit Windows had them ("NE"): a resource table of types and names.
+SoundFile SixteenBitLibrary(std::span<const IconPicture> pictures);
+
+}  // namespace tarvik::testing

@@ -1,0 +1,94 @@
+// Ten thousand files that are not what they say.
+
+#include <windows.h>
+
+#include <gmock/gmock.h>
+#include <shellapi.h>
+
+#include <algorithm>
+#include <cstdio>
+
+#include "damaged_files/DamagedFiles.h"
+#include "end_to_end/EndToEndTest.h"
+#include "platform/FaultGuard.h"
+#include "platform/FolderPath.h"
+#include "platform/Holdings.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+using testing::DamagedFolder;
+using testing::Holdings;
+using Paths = std::vector<std::string>;
+
+// Whether the system's own code faults when it is asked how many icons the file holds.
+bool BreaksTheSystem(const std::string& path) {
+  return !SurvivesFault([&] { ExtractIconExA(path.c_str(), -1, nullptr, nullptr, 0); });
+}
+
+class DamagedFiles : public EndToEnd {
+ protected:
+  void OpenFolder(const std::string& name) const {
+    const auto names = FolderNames();
+    const auto found = std::ranges::find(names, name);
+    ASSERT_NE(found, names.end()) << name;
+    const Control folders = program_.Item(FrmFindIcon_Dir1);
+    folders.Send(LB_SETCURSEL, static_cast<WPARAM>(found - names.begin()));
+    program_.Window().Send(WM_COMMAND, MAKEWPARAM(FrmFindIcon_Dir1, LBN_DBLCLK),
+                           reinterpret_cast<LPARAM>(folders.Window()));
+  }
+
+  // Searches one of the folders; the paths that are listed, sorted, one for each icon. A message box would be waited
+  // for in vain and fail the test, which then says what stands in it.
+  Paths Search(const DamagedFolder& folder) const {
+    OpenFolder(FolderName(folder.path));
+    Find();
+    Paths paths = List().CellsOf(1);
+    OpenFolder(FolderName(tree_.Path()));
+    std::ranges::sort(paths);
+    return paths;
+  }
+
+  // Searches one of the folders and checks what is found: each sound file's one icon, and none of a file that breaks
+  // the system. How many of them do.
+  int CheckSearch(const DamagedFolder& folder) const {
+    SCOPED_TRACE(folder.kind + ", " + folder.damage);
+    const Paths found = Search(folder);
+    for (const std::string& path : folder.sound) EXPECT_EQ(std::ranges::count(found, path), 1) << path;
+    int breaking = 0;
+    for (const std::string& path : folder.damaged) {
+      if (!BreaksTheSystem(path)) continue;
+      ++breaking;
+      EXPECT_FALSE(std::ranges::binary_search(found, path)) << path;
+    }
+    std::printf("%-20s %-15s %4zu damaged, with %4zu icons; %3d break the system\n", folder.kind.c_str(),
+                folder.damage.c_str(), folder.damaged.size(), found.size() - folder.sound.size(), breaking);
+    return breaking;
+  }
+};
+
+TEST_F(DamagedFiles, AreSearchedWithoutACrashAMessageOrGrowthAndTheSoundOnesAmongThemFound) {
+  const std::vector<DamagedFolder> folders = testing::MakeDamagedFiles(tree_);
+  Start({}, true);
+  Tick({Ico, Ani, Icl, Ocx, Dll, Exe, AllFiles});
+  ChooseSize(Size16);
+  SetLimit("4000");
+  Search(folders.front());
+  const Holdings before = testing::HeldBy(program_.Process());
+  int files = 0;
+  int breaking = 0;
+  for (const DamagedFolder& folder : folders) {
+    breaking += CheckSearch(folder);
+    files += static_cast<int>(folder.damaged.size());
+  }
+  EXPECT_GE(files, 10000);
+  const Holdings after = testing::HeldBy(program_.Process());
+  std::printf("%d damaged files; %d of them break the system\n", files, breaking);
+  // What the system held when it faulted stays: a bitmap here, a few pages of a file there.
+  EXPECT_LT(after.gdiObjects - before.gdiObjects, files / 20);
+  EXPECT_LT(after.kernelHandles - before.kernelHandles, files / 1000);
+  EXPECT_LT((after.bytes - before.bytes) / files, 8 * 1024) << "not 8 KB a file";
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end

@@ -1,0 +1,348 @@
+// What goes wrong around the program while it runs.
+
+#include <windows.h>
+
+#include <gmock/gmock.h>
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+#include "end_to_end/EndToEndTest.h"
+#include "platform/FolderPath.h"
+#include "platform/Handles.h"
+#include "platform/IconFiles.h"
+#include "platform/Text.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+namespace fs = std::filesystem;
+
+using ::testing::AnyOf;
+using ::testing::Each;
+using ::testing::ElementsAre;
+using testing::IconFileOf;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+constexpr Color red = 0x0000FF;
+constexpr Color green = 0x00FF00;
+
+// Pixels of the picture on the clipboard as 0x00RRGGBB, highest row first; none where there is no picture.
+using Pixels = std::vector<std::uint32_t>;
+Pixels Pasted() {
+  Pixels pixels;
+  if (OpenClipboard(nullptr) == 0) return pixels;
+  if (const HANDLE data = GetClipboardData(CF_DIB)) {
+    const auto* const bytes = static_cast<const std::byte*>(GlobalLock(data));
+    BITMAPINFOHEADER header;
+    std::memcpy(&header, bytes, sizeof header);
+    const auto width = static_cast<std::size_t>(header.biWidth);
+    const auto height = static_cast<std::size_t>(header.biHeight);
+    const std::size_t masks = header.biCompression == BI_BITFIELDS ? 3 * sizeof(DWORD) : 0;
+    pixels.resize(width * height);
+    for (std::size_t row = 0; row < height; ++row)
+      std::memcpy(&pixels[row * width], bytes + header.biSize + masks + (height - 1 - row) * width * 4, width * 4);
+    for (std::uint32_t& pixel : pixels) pixel &= 0xFFFFFF;
+    GlobalUnlock(data);
+  }
+  CloseClipboard();
+  return pixels;
+}
+
+void EmptyTheClipboard() {
+  ASSERT_NE(OpenClipboard(nullptr), 0);
+  EmptyClipboard();
+  CloseClipboard();
+}
+
+class Faults : public EndToEnd {
+ protected:
+  // Copies the current icon; what then is on the clipboard.
+  Pixels Copy() const {
+    EmptyTheClipboard();
+    program_.Command(FrmFindIcon_mnuCopy);
+    EXPECT_TRUE(Eventually([] { return IsClipboardFormatAvailable(CF_BITMAP) != 0; }));
+    return Pasted();
+  }
+  void Replace(const std::string& path, const testing::Bytes& bytes) const {
+    ASSERT_NE(DeleteFileW(ToWide(path).c_str()), 0) << path;
+    tree_.MakeFile(FolderName(path), bytes);
+  }
+  // The window finds what is in a folder of its own after all that.
+  void ExpectUsable() const {
+    EXPECT_FALSE(program_.FindBox());
+    for (const int id : {FrmFindIcon_CmdFind, FrmFindIcon_CmdClose}) EXPECT_TRUE(IsEnabled(id)) << id;
+  }
+  void ExpectNothingFound() const {
+    const std::string folder = tree_.Path().substr(0, 20);
+    EXPECT_EQ(FindAndReadMessage(), folder + " ... contains no icons.");
+    EXPECT_THAT(Entries(), IsEmpty());
+    ExpectUsable();
+  }
+};
+
+class FolderFaults : public Faults {
+ protected:
+  static constexpr int folders = 60;
+
+  // Presses Find on many folders, of one icon each, and does something while the search stands in its middle.
+  void SearchAndMeanwhile(const std::function<void()>& something) {
+    for (int i = 0; i < folders; ++i) {
+      tree_.MakeFolder(Name(i));
+      tree_.MakeFile(Name(i) + "\\a.ico", IconFileOf(red));
+    }
+    Start({}, true);
+    const Control find = program_.Item(FrmFindIcon_CmdFind);
+    find.Press();
+    ASSERT_TRUE(Eventually([&] { return !IsEnabled(FrmFindIcon_CmdClose); }));
+    program_.Suspend();
+    something();
+    program_.Resume();
+    ASSERT_TRUE(Eventually([&] { return find.IsEnabled() || program_.FindBox(); }));
+  }
+  // The folder that the search stands in stays, without its file, where the system keeps what is in use.
+  void Delete(int number) const {
+    std::error_code inUse;
+    fs::remove_all(ToWide(In(Name(number))), inUse);
+  }
+  std::string Name(int number) const { return "folder" + std::to_string(100 + number); }
+};
+
+TEST_F(FolderFaults, AFolderDeletedDuringASearchLeavesTheRestOfItsIcons) {
+  SearchAndMeanwhile([this] {
+    for (int i = folders / 2; i < folders; ++i) Delete(i);
+  });
+  // Whatever was counted by then, no icon of a folder that stays is missing, and none is there twice.
+  std::vector<Entry> expected;
+  for (int i = 0; i < folders / 2; ++i) expected.push_back({In(Name(i) + "\\a.ico"), 0});
+  std::vector<Entry> found = Entries();
+  ASSERT_GE(found.size(), expected.size());
+  found.resize(expected.size());
+  EXPECT_EQ(found, expected);
+  ExpectUsable();
+  Find();
+  EXPECT_EQ(Entries(), expected);
+}
+
+TEST_F(FolderFaults, TheWholeTreeDeletedDuringASearchEndsItWithAMessageOrAnEmptyRest) {
+  SearchAndMeanwhile([this] {
+    for (int i = 0; i < folders; ++i) Delete(i);
+  });
+  if (const auto box = program_.FindBox()) box->Press(IDOK);
+  ASSERT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind); }));
+  EXPECT_LE(List().RowCount(), folders);
+  ExpectNothingFound();
+}
+
+TEST_F(Faults, AFolderDeletedBeforeTheSearchHasNoIcons) {
+  tree_.MakeFolder("inner");
+  tree_.MakeFile("inner\\a.ico", IconFileOf(red));
+  Start(In("inner"));
+  fs::remove_all(ToWide(In("inner")));
+  EXPECT_EQ(FindAndReadMessage(), In("inner").substr(0, 20) + " ... contains no icons.");
+  ExpectUsable();
+}
+
+TEST_F(Faults, ADriveThatIsTakenOutHasNoIcons) {
+  tree_.MakeFile("a.ico", IconFileOf(red));
+  {
+    const ExtraDrive drive(tree_.Path(), "stick");
+    Start("R:\\");
+    Find();
+    EXPECT_EQ(List().RowCount(), 1);
+  }
+  EXPECT_EQ(FindAndReadMessage(), "R:\\ ... contains no icons.");
+  ExpectUsable();
+}
+
+TEST_F(Faults, ASavedFolderOnAnUnreadyDriveGivesWayToTheProgramsOwn) {
+  const EmptyDrive drive;
+  Start("Q:\\icons");
+  EXPECT_THAT(FolderNames(), ::testing::Contains(FolderName(home_.Path())));
+  ExpectUsable();
+}
+
+TEST_F(Faults, AFileReplacedAfterTheSearchGivesItsNewIcon) {
+  const std::string path = tree_.MakeFile("a.ico", IconFileOf(red));
+  Start();
+  Find();
+  EXPECT_EQ(Copy().front(), 0xFF0000U);
+  Replace(path, IconFileOf(green));
+  EXPECT_EQ(Copy().front(), 0x00FF00U);
+  ExpectUsable();
+}
+
+TEST_F(Faults, AFileThatIsGoneDamagedOrHeldAfterTheSearchGivesABlank) {
+  const std::string path = tree_.MakeFile("a.ico", IconFileOf(red));
+  const auto expectBlank = [this] {
+    const Pixels copied = Copy();
+    EXPECT_THAT(copied, SizeIs(32 * 32));
+    EXPECT_THAT(copied, Each(copied.front()));
+    ExpectUsable();
+  };
+  Start();
+  Find();
+  {
+    const FileHandle held(
+        CreateFileW(ToWide(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(held);
+    expectBlank();
+  }
+  EXPECT_EQ(Copy().front(), 0xFF0000U) << "it comes back with the file";
+  Replace(path, testing::Bytes(300, std::byte{7}));
+  expectBlank();
+  ASSERT_NE(DeleteFileW(ToWide(path).c_str()), 0);
+  expectBlank();
+}
+
+TEST_F(Faults, AClipboardThatAnotherProgramHoldsOpenIsReportedAndLeftAsItIs) {
+  tree_.MakeFile("a.ico", IconFileOf(red));
+  Start();
+  Find();
+  EmptyTheClipboard();
+  const HWND holder = CreateWindowW(L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+  ASSERT_NE(OpenClipboard(holder), 0);
+  program_.Command(FrmFindIcon_mnuCopy);
+  const Box box = program_.WaitForBox();
+  EXPECT_EQ(box.Title(), "Brindle Tarvik - Error");
+  EXPECT_EQ(box.Text(), "The icon was not copied: another program is using the clipboard.");
+  EXPECT_TRUE(ShowsSign(box, IDI_EXCLAMATION));
+  box.Press(IDOK);
+  CloseClipboard();
+  DestroyWindow(holder);
+  EXPECT_THAT(Pasted(), IsEmpty());
+  EXPECT_EQ(Copy().front(), 0xFF0000U);
+  ExpectUsable();
+}
+
+class SettingsFaults : public Faults {
+ protected:
+  // Starts with the sub-folders ticked, searches, and ends with them not ticked.
+  void ChangeOneAndClose() {
+    program_.Start();
+    EXPECT_TRUE(program_.Item(FrmFindIcon_chkSubDir).IsChecked());
+    program_.Item(FrmFindIcon_chkSubDir).Send(BM_CLICK);
+    Find();
+    EXPECT_EQ(List().RowCount(), 1);
+    EXPECT_EQ(program_.Close(), 0U);
+  }
+  std::string File() const { return ToUtf8(program_.SettingsFile().wstring()); }
+};
+
+TEST_F(SettingsFaults, AFileThatAnotherProgramHoldsOpenIsReadAndStaysAsItIs) {
+  tree_.MakeFile("a.ico", IconFileOf(red));
+  WriteSetting("Folder", tree_.Path());
+  WriteSetting("Subdir", "True");
+  const std::string before = testing::ReadAll(File());
+  const FileHandle held(
+      CreateFileW(program_.SettingsFile().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(held);
+  ChangeOneAndClose();
+  EXPECT_EQ(testing::ReadAll(File()), before);
+}
+
+TEST_F(SettingsFaults, AReadOnlyFileIsReadAndStaysWhole) {
+  tree_.MakeFile("a.ico", IconFileOf(red));
+  WriteSetting("Folder", tree_.Path());
+  WriteSetting("Subdir", "True");
+  testing::AddAttributes(File(), FILE_ATTRIBUTE_READONLY);
+  ChangeOneAndClose();
+  EXPECT_EQ(ReadSetting("Folder"), tree_.Path());
+  // Under Wine the owner of the machine may write to it all the same.
+  EXPECT_THAT(ReadSetting("Subdir"), AnyOf("True", "False"));
+}
+
+TEST_F(SettingsFaults, AFolderInTheFilesPlaceMeansTheDefaultsAndStays) {
+  ASSERT_NE(CreateDirectoryW(ToWide(File()).c_str(), nullptr), 0);
+  program_.Start();
+  EXPECT_FALSE(program_.Item(FrmFindIcon_chkSubDir).IsChecked());
+  EXPECT_THAT(FolderNames(), ::testing::Contains(FolderName(home_.Path())));
+  EXPECT_EQ(program_.Close(), 0U);
+  EXPECT_TRUE(fs::is_directory(ToWide(File())));
+}
+
+TEST_F(SettingsFaults, AFileOfNonsenseMeansTheDefaultsAndIsMended) {
+  std::ofstream(program_.SettingsFile(), std::ios::binary) << std::string(5000, '\xFF') << "[[=\n\0[FindIcon";
+  program_.Start();
+  EXPECT_FALSE(program_.Item(FrmFindIcon_chkSubDir).IsChecked());
+  EXPECT_EQ(program_.Close(), 0U);
+  EXPECT_EQ(ReadSetting("Subdir"), "False");
+}
+
+// The temporary folder of what is started while it lives: one that is not there.
+class NoTemporaryFolder {
+ public:
+  NoTemporaryFolder() {
+    for (Variable& variable : variables_) {
+      variable.former.resize(GetEnvironmentVariableW(variable.name, variable.former.data(), 32767));
+      SetEnvironmentVariableW(variable.name, L"C:\\no such folder");
+    }
+  }
+  ~NoTemporaryFolder() {
+    for (const Variable& variable : variables_) SetEnvironmentVariableW(variable.name, variable.former.c_str());
+  }
+  NoTemporaryFolder(const NoTemporaryFolder&) = delete;
+  NoTemporaryFolder& operator=(const NoTemporaryFolder&) = delete;
+
+ private:
+  struct Variable {
+    const wchar_t* name;
+    std::wstring former = std::wstring(32767, L'\0');
+  };
+  Variable variables_[2] = {{L"TEMP"}, {L"TMP"}};
+};
+
+class TemporaryFolderFaults : public Faults {
+ protected:
+  static constexpr const wchar_t* temporaryBitmap = L"C:\\tmp.bmp";
+
+  ~TemporaryFolderFaults() override { RemoveDirectoryW(temporaryBitmap); }
+
+  void StartWithoutTemporaryFolder() {
+    tree_.MakeFile("a.ico", IconFileOf(red));
+    WriteSetting("Folder", tree_.Path());
+    {
+      const NoTemporaryFolder nowhere;
+      program_.Start();
+    }
+    Find();
+  }
+
+  // Gives the Save As Image command, and its file dialog that name.
+  void SaveAsImage(const std::string& path) const {
+    constexpr int fileName = 0x47C;
+    program_.Command(FrmFindIcon_MnuSaveAsBitmap);
+    const Control dialog = program_.WaitForWindowWith(fileName);
+    Control(GetDlgItem(dialog.Window(), fileName)).SetText(path);
+    dialog.Post(WM_COMMAND, IDOK);
+    EXPECT_TRUE(Eventually([&] { return IsWindow(dialog.Window()) == 0; }));
+  }
+};
+
+TEST_F(TemporaryFolderFaults, AJpegIsSavedWithoutATemporaryFolder) {
+  StartWithoutTemporaryFolder();
+  SaveAsImage(In("a.jpg"));
+  const Control options = program_.WaitForWindowWith(fSaveJPG_cmdFinish1);
+  Control(GetDlgItem(options.Window(), fSaveJPG_cmdFinish1)).Press();
+  EXPECT_TRUE(Eventually([&] { return testing::ReadAll(In("a.jpg")).ends_with("\xFF\xD9"); }));
+  EXPECT_TRUE(Eventually([] { return !fs::exists(temporaryBitmap); }));
+  ExpectUsable();
+}
+
+TEST_F(TemporaryFolderFaults, AJpegWithNoPlaceAtAllForItsBitmapIsReported) {
+  ASSERT_NE(CreateDirectoryW(temporaryBitmap, nullptr), 0);
+  StartWithoutTemporaryFolder();
+  SaveAsImage(In("a.jpg"));
+  const Box box = program_.WaitForBox();
+  EXPECT_EQ(box.Title(), "Brindle Tarvik - Error");
+  EXPECT_EQ(box.Text(), "Failed to Save Icon As Bitmap.");
+  box.Press(IDOK);
+  EXPECT_FALSE(fs::exists(ToWide(In("a.jpg"))));
+  EXPECT_TRUE(fs::is_directory(temporaryBitmap));
+  ExpectUsable();
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end

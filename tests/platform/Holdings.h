@@ -1,0 +1,20 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+namespace tarvik::testing {
+
+// What a process holds of the system.
+struct Holdings {
+  int gdiObjects;      // device contexts, bitmaps, brushes, fonts, pens, regions; an icon counts by its bitmaps
+  int kernelHandles;   // files, mappings, events ...
+  int userHandles;     // windows, menus, icons, pointers; under Wine those of all processes together
+  std::int64_t bytes;  // of memory in use
+};
+
+// `process` needs the rights to be asked and to be read.
+Holdings HeldBy(HANDLE process);
+
+}  // namespace tarvik::testing
