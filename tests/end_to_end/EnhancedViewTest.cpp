@@ -44,7 +44,7 @@ TEST_F(EnhancedViewOpens, OnADoubleClickOnARowOfTheList) {
 TEST_F(EnhancedViewOpens, OnlyWhereThereIsAnIcon) {
   Start();
   DoubleClick(CellMiddle(0));
-  BringPointerIn();
+  WaitForAllInput();
   EXPECT_EQ(program_.CountWindowsWith(frmBit_img), 0);
 }
 

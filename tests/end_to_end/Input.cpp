@@ -110,11 +110,8 @@ void RightClick(POINT place) {
 
 void Drag(POINT from, POINT to) {
   WaitOutDoubleClick(from);
+  Do(MoveTo(from) + "mousedown 1 " + MoveTo(to) + "mouseup 1");
   lastPress = {.place = from, .time = std::chrono::steady_clock::now()};
-  SendMouse(from, 0);
-  SendMouse(from, MOUSEEVENTF_LEFTDOWN);
-  SendMouse(to, 0);
-  SendMouse(to, MOUSEEVENTF_LEFTUP);
 }
 
 void TurnWheel(POINT place, int notches) {

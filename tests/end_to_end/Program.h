@@ -79,8 +79,6 @@ class Program {
 
   // The main window; none before Start.
   Control Window() const { return window_; }
-  // The visible top-level window that has a control with that id, once there is one.
-  Control WaitForWindowWith(int id) const;
   // The control of the main window with that id. Throws std::runtime_error where there is none.
   Control Item(int id) const;
   // Gives a menu item's or button's command to the main window.

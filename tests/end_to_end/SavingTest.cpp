@@ -81,7 +81,6 @@ void Saving::SaveBatch(int command, int type) const {
 }
 
 void Saving::SelectByMouse(std::initializer_list<int> entries) const {
-  BringPointerIn();
   Places wanted(entries);
   for (int entry = 0; entry < List().RowCount(); ++entry) {
     const bool select = wanted.contains(entry);
