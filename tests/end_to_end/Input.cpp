@@ -39,7 +39,10 @@ std::string KeyName(WORD key) {
                                                  {VK_UP, "Up"},
                                                  {VK_DOWN, "Down"},
                                                  {VK_ADD, "KP_Add"},
-                                                 {VK_SUBTRACT, "KP_Subtract"}};
+                                                 {VK_SUBTRACT, "KP_Subtract"},
+                                                 {VK_INSERT, "Insert"},
+                                                 {VK_OEM_PLUS, "equal"},
+                                                 {VK_OEM_MINUS, "minus"}};
   if (const auto name = names.find(key); name != names.end()) return name->second;
   if (key >= VK_F1 && key <= VK_F24) return "F" + std::to_string(key - VK_F1 + 1);
   if (key >= 'A' && key <= 'Z') return {static_cast<char>(key - 'A' + 'a')};

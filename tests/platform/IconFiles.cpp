@@ -259,7 +259,7 @@ void AddIcons(const std::string& path, std::span<const IconPicture> pictures) {
           UpdateResourceW(update, type, MAKEINTRESOURCEW(number), 0, bytes.data(), static_cast<DWORD>(bytes.size())),
           0);
     };
-    add(MAKEINTRESOURCEW(3), picture.data);                         // RT_ICON
+    add(MAKEINTRESOURCEW(3), picture.data);                 // RT_ICON
     add(MAKEINTRESOURCEW(14), IconGroup(picture, number));  // RT_GROUP_ICON
   }
   EXPECT_NE(EndUpdateResourceW(update, FALSE), 0) << path;
