@@ -1,11 +1,14 @@
 #include "end_to_end/Program.h"
 
+#include <psapi.h>
 #include <windows.h>
 #include <winternl.h>
 
 #include <algorithm>
+#include <span>
 #include <stdexcept>
 
+#include "end_to_end/UnixProgram.h"
 #include "end_to_end/Waiting.h"
 #include "platform/GdiObjects.h"
 #include "platform/Holdings.h"
@@ -121,8 +124,39 @@ void Program::WaitForMainWindow() {
 
 void Program::Start() {
   Launch();
+  PassStartUpWindow();
+}
+
+void Program::PassStartUpWindow() {
   WaitForStartUpWindow().Post(WM_TIMER, FrmSpash_Timer1);
   WaitForMainWindow();
+}
+
+void Program::StartWithFilesUpTo(int bytes) {
+  constexpr int unit = 512;  // of the shell's limit
+  // The signal that goes with the limit would end the process; ignored, it leaves the write to fail.
+  RunUnix("trap '' XFSZ\nulimit -f " + std::to_string(bytes / unit) + "\nwine " + UnixQuoted(path_) +
+          " >/dev/null 2>&1 &");
+  if (!Eventually([this] { return Adopt(); })) throw std::runtime_error("the program does not start");
+  PassStartUpWindow();
+}
+
+bool Program::Adopt() {
+  DWORD ids[1024] = {};
+  DWORD size = 0;
+  EnumProcesses(ids, sizeof ids, &size);
+  for (const DWORD id : std::span(ids).first(size / sizeof *ids)) {
+    FileHandle process(OpenProcess(PROCESS_ALL_ACCESS, FALSE, id));
+    wchar_t image[MAX_PATH] = {};
+    DWORD length = MAX_PATH;
+    if (!process || QueryFullProcessImageNameW(process.get(), 0, image, &length) == 0 || image != path_) continue;
+    AssignProcessToJobObject(job_.get(), process.get());
+    process_ = std::move(process);
+    processId_ = id;
+    threadId_ = GetWindowThreadProcessId(WaitForStartUpWindow().Window(), nullptr);
+    return true;
+  }
+  return false;
 }
 
 bool Program::IsRunning() const {

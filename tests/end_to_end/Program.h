@@ -60,6 +60,9 @@ class Program {
   // Starts the program, has the start-up window go at once as it does by itself after some seconds, and waits for the
   // main window.
   void Start();
+  // The same for a process that can make no file longer than so many bytes, a multiple of 512: what goes beyond fails
+  // to be written, as on a full disk.
+  void StartWithFilesUpTo(int bytes);
   bool IsRunning() const;
   // The process, with all rights to it; owned by this object.
   HANDLE Process() const { return process_.get(); }
@@ -95,6 +98,9 @@ class Program {
   Box WaitForBox() const;
 
  private:
+  void PassStartUpWindow();
+  // Makes the process that runs the copy this object's own; whether there is one yet.
+  bool Adopt();
   // The visible top-level windows of the process.
   std::vector<Control> TopWindows() const;
 

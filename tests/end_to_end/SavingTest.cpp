@@ -45,6 +45,20 @@ Pixels Saving::PixelsOf(int entry, std::uint32_t transparent) {
   return pixels;
 }
 
+// A bitmap of 256 colours shows white in its last entry, which few pictures fill, so that it is black here; and its
+// first entry, that of the left half, is named by no pixel: these repeat the one written before, from the bottom row
+// up.
+Pixels Saving::BitmapPixels(int entry) {
+  Pixels pixels = ComposedPixels(entry);
+  if (entry != withPalette) return pixels;
+  std::ranges::replace(pixels, 0xFFFFFFFFU, 0xFF000000U);
+  constexpr std::size_t lastRow = side / 2 - 1;
+  for (std::size_t i = 0; i < pixelCount / 2; ++i) {
+    if (i % side < side / 2) pixels[i] = i / side == lastRow ? pixels.back() : pixels[side - 1];
+  }
+  return pixels;
+}
+
 Names Saving::NamesIn(const std::string& folder) {
   Names names;
   WIN32_FIND_DATAW data;
@@ -68,14 +82,14 @@ FolderChooser Saving::AskForFolder(int command) const {
   return FolderChooser(program_);
 }
 
-void Saving::ChooseOut(int command, int type) const {
+void Saving::ChooseOut(int command, ImageType type) const {
   const FolderChooser chooser = AskForFolder(command);
   chooser.Open(outName);
-  if (type != 0) chooser.ChooseType(type);
+  if (type != Bmp) chooser.ChooseType(type);
   chooser.Ok();
 }
 
-void Saving::SaveBatch(int command, int type) const {
+void Saving::SaveBatch(int command, ImageType type) const {
   ChooseOut(command, type);
   ExpectAsFound();
 }

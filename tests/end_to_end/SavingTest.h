@@ -17,6 +17,9 @@ namespace tarvik::end_to_end {
 using Pixels = std::vector<std::uint32_t>;  // 0xAABBGGRR, from the top-left corner; 0 where transparent
 using Names = std::vector<std::string>;
 
+// Places of the image types in the chooser's list.
+enum ImageType { Bmp, Gif, Jpg };
+
 // Five icons found, and a folder to save them to.
 class Saving : public SelectionByHand {
  protected:
@@ -26,13 +29,15 @@ class Saving : public SelectionByHand {
     Color right;
     int bits;
   };
-  // Two of black and white, two of the sixteen standard colours, one that needs a palette.
+  // One of black and white, three of the sixteen standard colours, one that needs a palette.
   static constexpr std::array<Picture, 5> pictures{{{black, white, 1},
                                                     {0x0000FF, 0xFF0000, 4},
                                                     {0x20C040, 0xA06010, 24},
                                                     {0x00FF00, 0xFF00FF, 4},
-                                                    {white, black, 1}}};
+                                                    {0x800000, 0xC0C0C0, 4}}};
   static constexpr const char* outName = "输出";
+  // A folder of the system below Wine in which nobody may make anything, whatever their rights.
+  static constexpr const char* lockedFolder = "Z:\\sys";
 
   // Starts the program, finds the icons and puts the pointer where no dialog opens.
   void FindPictures();
@@ -40,9 +45,13 @@ class Saving : public SelectionByHand {
   // The same after a start of the test's own.
   void FindAll();
 
-  // Pixels of an entry, counted from 0: as its icon has them, and composed over white.
+  static constexpr int withPalette = 2;
+
+  // Pixels of an entry, counted from 0: as its icon has them, composed over white, and as a bitmap file has the latter.
   static Pixels IconPixels(int entry) { return PixelsOf(entry, 0); }
   static Pixels ComposedPixels(int entry) { return PixelsOf(entry, 0xFFFFFFFF); }
+
+  static Pixels BitmapPixels(int entry);
 
   std::string Out() const { return In(outName); }
   std::string Out(const std::string& name) const { return In(std::string(outName) + "\\" + name); }
@@ -55,9 +64,9 @@ class Saving : public SelectionByHand {
   void SaveAs(int command, const std::string& path) const { AskForName(command).SaveAs(path); }
   FolderChooser AskForFolder(int command) const;
   // Chooses the folder to save to, of the image type where one is given.
-  void ChooseOut(int command, int type = 0) const;
+  void ChooseOut(int command, ImageType type = Bmp) const;
   // The same, and waits for the end of the batch.
-  void SaveBatch(int command, int type = 0) const;
+  void SaveBatch(int command, ImageType type = Bmp) const;
   // Has exactly these entries selected, counted from 0, by the mouse.
   void SelectByMouse(std::initializer_list<int> entries) const;
 

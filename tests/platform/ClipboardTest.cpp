@@ -2,58 +2,35 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstring>
 #include <thread>
+#include <vector>
 
 #include "platform/GdiObjects.h"
 #include "platform/Handles.h"
+#include "platform/PastedPicture.h"
 
 namespace tarvik {
 namespace {
 
-// Pixels of the bitmap on the clipboard, as another program gets them: as a device-independent bitmap.
-struct Pasted {
-  int width = 0;
-  int height = 0;
-  std::vector<std::uint32_t> rows;  // 0x00RRGGBB, lowest row first
-};
-
-Pasted Paste() {
-  Pasted pasted;
-  if (OpenClipboard(nullptr) == 0) return pasted;
-  if (const HANDLE data = GetClipboardData(CF_DIB)) {
-    const auto* const bytes = static_cast<const std::byte*>(GlobalLock(data));
-    BITMAPINFOHEADER header;
-    std::memcpy(&header, bytes, sizeof header);
-    EXPECT_EQ(header.biBitCount, 32);
-    pasted.width = header.biWidth;
-    pasted.height = header.biHeight;
-    pasted.rows.resize(static_cast<std::size_t>(header.biWidth) * static_cast<std::size_t>(header.biHeight));
-    const std::size_t masks = header.biCompression == BI_BITFIELDS ? 3 * sizeof(DWORD) : 0;
-    std::memcpy(pasted.rows.data(), bytes + header.biSize + masks, pasted.rows.size() * 4);
-    for (std::uint32_t& pixel : pasted.rows) pixel &= 0xFFFFFF;
-    GlobalUnlock(data);
-  }
-  CloseClipboard();
-  return pasted;
-}
+using testing::Paste;
+using testing::PastedPicture;
 
 TEST(Clipboard, TakesACopyOfThePicture) {
   Surface picture(3, 2, 0x332211);
   SetPixel(picture.Dc(), 2, 0, RGB(0xAA, 0xBB, 0xCC));
   ASSERT_TRUE(CopyToClipboard(picture, nullptr));
   picture.Clear(black);
-  const Pasted pasted = Paste();
+  const PastedPicture pasted = Paste();
   EXPECT_EQ(pasted.width, 3);
   EXPECT_EQ(pasted.height, 2);
-  EXPECT_EQ(pasted.rows, (std::vector<std::uint32_t>{0x112233, 0x112233, 0x112233, 0x112233, 0x112233, 0xAABBCC}));
+  const Color other = RGB(0xAA, 0xBB, 0xCC);
+  EXPECT_EQ(pasted.pixels, (std::vector<Color>{0x332211, 0x332211, other, 0x332211, 0x332211, 0x332211}));
 }
 
 TEST(Clipboard, ReplacesWhatWasThere) {
   ASSERT_TRUE(CopyToClipboard(Surface(4, 4, white), nullptr));
   ASSERT_TRUE(CopyToClipboard(Surface(2, 1, 0x0000FF), nullptr));
-  EXPECT_EQ(Paste().rows, (std::vector<std::uint32_t>{0xFF0000, 0xFF0000}));
+  EXPECT_EQ(Paste().pixels, (std::vector<Color>{0x0000FF, 0x0000FF}));
 }
 
 TEST(Clipboard, IsRefusedWhileAnotherHoldsItOpen) {

@@ -4,13 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <future>
 #include <thread>
 
 #include "encoders/EncodedImages.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
+#include "platform/PastedPicture.h"
 #include "platform/TemporaryFolder.h"
 #include "search/FindIconFixture.h"
 
@@ -188,37 +188,19 @@ TEST_F(FrmFindIconExportTest, SavesABlankWhereTheFileYieldsNoIconAnyMore) {
   EXPECT_TRUE(boxes.Boxes().empty());
 }
 
-// What the clipboard holds as a device-independent bitmap of 32 bits, lowest row first.
-std::vector<std::uint32_t> Pasted() {
-  std::vector<std::uint32_t> rows;
-  if (OpenClipboard(nullptr) == 0) return rows;
-  if (const HANDLE data = GetClipboardData(CF_DIB)) {
-    const auto* const bytes = static_cast<const std::byte*>(GlobalLock(data));
-    BITMAPINFOHEADER header;
-    std::memcpy(&header, bytes, sizeof header);
-    rows.resize(static_cast<std::size_t>(header.biWidth) * static_cast<std::size_t>(header.biHeight));
-    const std::size_t masks = header.biCompression == BI_BITFIELDS ? 3 * sizeof(DWORD) : 0;
-    std::memcpy(rows.data(), bytes + header.biSize + masks, rows.size() * 4);
-    GlobalUnlock(data);
-  }
-  CloseClipboard();
-  return rows;
-}
-
 TEST_F(FrmFindIconExportTest, CopiesMaskAndImageComposed) {
   Open();
   Find(4);
   Choose(4, 0);
   Click(FrmFindIcon_mnuCopy);
-  const std::vector<std::uint32_t> pasted = Pasted();
+  const std::vector<Color> pasted = testing::Paste().pixels;
   ASSERT_EQ(pasted.size(), 32U * 32U);
   const Surface& mask = window->Surfaces().Mask();
   const Surface& image = window->Surfaces().Image();
   for (int y = 0; y < 32; ++y) {
     for (int x = 0; x < 32; ++x) {
       const Color expected = (white & mask.Pixel(x, y)) ^ image.Pixel(x, y);
-      const std::uint32_t pixel = pasted[static_cast<std::size_t>((31 - y) * 32 + x)] & 0xFFFFFF;
-      ASSERT_EQ(pixel, Color{RedOf(expected)} * 65536 + GreenOf(expected) * 256U + BlueOf(expected)) << x << ' ' << y;
+      ASSERT_EQ(pasted[static_cast<std::size_t>(y * 32 + x)], expected) << x << ' ' << y;
     }
   }
   EXPECT_EQ(mask.Pixel(0, 0), black);

@@ -1,0 +1,137 @@
+// What a save shows while it runs, what it takes meanwhile, and what it keeps afterwards.
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <functional>
+
+#include "end_to_end/SavingTest.h"
+#include "platform/Text.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+class SaveBusy : public Saving {
+ protected:
+  static constexpr int many = 2000;
+
+  void FindMany() {
+    CopyTwoThousandIcons(In("many.dll"));
+    tree_.MakeFolder(outName);
+    Start();
+    Tick({Dll});
+    SetLimit(std::to_string(many));
+    Find();
+    ASSERT_EQ(List().RowCount(), many);
+    const RECT window = program_.Window().Place();
+    MovePointer({window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2});
+    found_ = Now();
+  }
+
+  // What each of twenty rounds left open would add up. The first rounds fill the system's own stores.
+  void ExpectToKeepNothing(const char* name, const std::function<void()>& command) const {
+    constexpr int warmUps = 2;
+    constexpr int rounds = 20;
+    int objects = 0;
+    int handles = 0;
+    for (int round = 0; round < warmUps + rounds; ++round) {
+      if (round == warmUps) {
+        objects = program_.CountGdiObjects();
+        handles = program_.CountHandles();
+      }
+      command();
+      ExpectAsFound();
+    }
+    EXPECT_GT(objects, 0);
+    EXPECT_GT(handles, 0);
+    EXPECT_LT(program_.CountGdiObjects(), objects + rounds / 2) << name;
+    EXPECT_LT(program_.CountHandles(), handles + rounds / 2) << name;
+  }
+
+  // Does something while a batch stands still in its middle, and lets it end.
+  void DuringBatch(const std::function<void()>& something) {
+    ChooseOut(FrmFindIcon_mnuSaveAll);
+    ASSERT_TRUE(Eventually([&] { return Status() == "Saving..."; }));
+    // The window answers between two files.
+    EXPECT_NE(ShownPointer(), found_.pointer) << "no hourglass";
+    program_.Suspend();
+    const auto saved = SavedNames().size();
+    something();
+    program_.Resume();
+    EXPECT_GT(saved, 0U);
+    ASSERT_LT(saved, static_cast<std::size_t>(many)) << "the batch was over before it could be stopped";
+    ASSERT_TRUE(Eventually([&] { return Status() != "Saving..."; }));
+  }
+};
+
+TEST_F(SaveBusy, ABatchShowsThatItRunsAndTakesNoCommands) {
+  FindMany();
+  DuringBatch([&] {
+    for (const int command : {FrmFindIcon_mnuExit, FrmFindIcon_mnuStart, FrmFindIcon_mnuSaveAs, FrmFindIcon_mnuSaveAll2,
+                              FrmFindIcon_mnuCopy, FrmFindIcon_mnuRem, FrmFindIcon_MnuAbout, FrmFindIcon_CmdFind})
+      program_.Command(command);
+    program_.Window().Post(WM_CLOSE);
+    program_.Window().Post(WM_SYSCOMMAND, SC_CLOSE);
+    ClickCell(5);
+    PressKey(VK_RETURN);
+    PressKey(VK_F4, {VK_MENU});
+  });
+  ASSERT_TRUE(program_.IsRunning());
+  EXPECT_TRUE(IsEnabled(FrmFindIcon_CmdFind));
+  EXPECT_EQ(program_.CountWindows(), found_.windows);
+  EXPECT_EQ(Status(), found_.status);
+  EXPECT_EQ(List().RowCount(), many);
+  EXPECT_EQ(TextOf(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
+  EXPECT_EQ(SavedNames().size(), static_cast<std::size_t>(many));
+  for (const int number : {1, 7, 1000, many})
+    EXPECT_FALSE(testing::ReadAll(Out("Icon " + std::to_string(number) + ".ico")).empty()) << number;
+}
+
+TEST_F(SaveBusy, TwentyRoundsOfEachCommandKeepNothing) {
+  FindPictures();
+  const auto saveOne = [this](int command, const char* name) {
+    DeleteFileW(ToWide(Out(name)).c_str());
+    SaveAs(command, Out(name));
+  };
+  const std::pair<const char*, std::function<void()>> commands[] = {
+      {"icon", [&] { saveOne(FrmFindIcon_mnuSaveAs, "a.ico"); }},
+      {"cursor", [&] { saveOne(FrmFindIcon_MnuSaveAsCursor, "a.cur"); }},
+      {"bitmap", [&] { saveOne(FrmFindIcon_MnuSaveAsBitmap, "a.bmp"); }},
+      {"JPEG",
+       [&] {
+         saveOne(FrmFindIcon_MnuSaveAsBitmap, "a.jpg");
+         const Dialog options(program_, fSaveJPG_CboSize);
+         options.Press(fSaveJPG_cmdComment);
+         Dialog(program_, fComment_txtComment).End(fComment_cmdFinish);
+         options.End(fSaveJPG_cmdFinish1);
+       }},
+      {"GIF",
+       [&] {
+         saveOne(FrmFindIcon_MnuSaveAsBitmap, "a.gif");
+         Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk);
+       }},
+      {"icons", [&] { ChooseOut(FrmFindIcon_mnuSaveAll); }},
+      {"selected cursors",
+       [&] {
+         const FolderChooser chooser = AskForFolder(FrmFindIcon_mnuSaveSel3);
+         NewFolderDialog(program_, chooser).End(frmDirCreate_CmdCancel);
+         chooser.Ok();
+       }},
+      {"bitmaps", [&] { ChooseOut(FrmFindIcon_mnuSaveAll2); }},
+      {"JPEGs",
+       [&] {
+         ChooseOut(FrmFindIcon_mnuSaveAll2, Jpg);
+         Dialog(program_, fSaveJPG_CboSize).End(fSaveJPG_cmdFinish1);
+       }},
+      {"GIFs",
+       [&] {
+         ChooseOut(FrmFindIcon_mnuSaveAll2, Gif);
+         Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk);
+       }},
+      {"copy", [&] { program_.Command(FrmFindIcon_mnuCopy); }},
+  };
+  for (const auto& [name, command] : commands) ExpectToKeepNothing(name, command);
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end

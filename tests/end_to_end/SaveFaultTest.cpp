@@ -1,0 +1,221 @@
+// Saving where something is in the way: folders that take no file, disks that take no more, files of the user's.
+
+#include <gmock/gmock.h>
+#include <windows.h>
+
+#include <filesystem>
+
+#include "end_to_end/SavingTest.h"
+#include "end_to_end/SeenFiles.h"
+#include "platform/Text.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+using testing::AddAttributes;
+using ::testing::Each;
+using ::testing::ElementsAre;
+using testing::ReadAll;
+using ::testing::StartsWith;
+
+constexpr const char* imageFailed = "Failed to Save Icon As Bitmap.";
+constexpr const char* cursorFailed = "Failed to Save Icon As Cursor.";
+
+class SaveFault : public Saving {
+ protected:
+  void SetUp() override { DeleteFileW(temporaryBitmap); }
+  void TearDown() override {
+    Saving::TearDown();
+    EXPECT_EQ(GetFileAttributesW(temporaryBitmap), INVALID_FILE_ATTRIBUTES) << "the temporary bitmap is left";
+  }
+
+  void AcceptJpegOptions() const { Dialog(program_, fSaveJPG_CboSize).End(fSaveJPG_cmdFinish1); }
+  void AcceptGifOptions() const { Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk); }
+  std::string IconFailed(int number) const {
+    return "Unable to save the file " + Out("Icon " + std::to_string(number) + ".ico");
+  }
+
+  static constexpr const wchar_t* temporaryBitmap = L"C:\\tmp.bmp";
+};
+
+TEST_F(SaveFault, EachFileIsReportedWhereNobodyMayWrite) {
+  const ExtraDrive locked(lockedFolder, "");
+  FindPictures();
+  const auto chooseLockedFolder = [this](int command, ImageType type) {
+    const FolderChooser chooser = AskForFolder(command);
+    chooser.ChooseDrive('r');
+    if (type != Bmp) chooser.ChooseType(type);
+    chooser.Ok();
+  };
+  chooseLockedFolder(FrmFindIcon_mnuSaveAll, Bmp);
+  EXPECT_TRUE(ShowsSign(program_.WaitForBox(), IDI_EXCLAMATION));
+  EXPECT_THAT(ReadMessages(5),
+              ElementsAre("Unable to save the file R:\\Icon 1.ico", "Unable to save the file R:\\Icon 2.ico",
+                          "Unable to save the file R:\\Icon 3.ico", "Unable to save the file R:\\Icon 4.ico",
+                          "Unable to save the file R:\\Icon 5.ico"));
+  ExpectAsFound();
+  chooseLockedFolder(FrmFindIcon_mnuSaveAll3, Bmp);
+  EXPECT_THAT(ReadMessages(5), Each(cursorFailed));
+  ExpectAsFound();
+  chooseLockedFolder(FrmFindIcon_mnuSaveAll2, Bmp);
+  EXPECT_THAT(ReadMessages(5), Each(imageFailed));
+  ExpectAsFound();
+  chooseLockedFolder(FrmFindIcon_mnuSaveAll2, Jpg);
+  AcceptJpegOptions();
+  EXPECT_THAT(ReadMessages(5), Each(imageFailed));
+  ExpectAsFound();
+  chooseLockedFolder(FrmFindIcon_mnuSaveAll2, Gif);
+  AcceptGifOptions();
+  EXPECT_THAT(ReadMessages(5), Each(imageFailed));
+  ExpectAsFound();
+}
+
+TEST_F(SaveFault, ABatchGoesOnAfterANameThatIsAFolder) {
+  FindPictures();
+  for (const char* name : {"Icon 2.ico", "Curor 1.cur", "Images 3.bmp", "Images 4.jpg", "Images 5.gif"})
+    tree_.MakeFolder(std::string(outName) + "\\" + name);
+  ChooseOut(FrmFindIcon_mnuSaveAll);
+  EXPECT_THAT(ReadMessages(1), ElementsAre(IconFailed(2)));
+  ExpectAsFound();
+  ChooseOut(FrmFindIcon_mnuSaveAll3);
+  EXPECT_THAT(ReadMessages(1), ElementsAre(cursorFailed));
+  ExpectAsFound();
+  ChooseOut(FrmFindIcon_mnuSaveAll2);
+  EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
+  ExpectAsFound();
+  ChooseOut(FrmFindIcon_mnuSaveAll2, Jpg);
+  AcceptJpegOptions();
+  EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
+  ExpectAsFound();
+  ChooseOut(FrmFindIcon_mnuSaveAll2, Gif);
+  AcceptGifOptions();
+  EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
+  ExpectAsFound();
+  EXPECT_EQ(SavedNames().size(), 25U);
+  int files = 0;
+  for (const std::string& name : SavedNames()) files += ReadAll(Out(name)).empty() ? 0 : 1;
+  EXPECT_EQ(files, 20);
+}
+
+TEST_F(SaveFault, AFolderThatGoesAwayBeforeOkIsReportedFileByFile) {
+  FindPictures();
+  const FolderChooser chooser = AskForFolder(FrmFindIcon_mnuSaveAll);
+  chooser.Open(outName);
+  ASSERT_NE(RemoveDirectoryW(ToWide(Out()).c_str()), 0);
+  chooser.Ok();
+  EXPECT_THAT(ReadMessages(5), ElementsAre(IconFailed(1), IconFailed(2), IconFailed(3), IconFailed(4), IconFailed(5)));
+  ExpectAsFound();
+}
+
+TEST_F(SaveFault, ADriveWithoutADiskIsReportedFileByFile) {
+  const EmptyDrive drive;
+  FindPictures();
+  const FolderChooser chooser = AskForFolder(FrmFindIcon_mnuSaveAll);
+  chooser.ChooseDrive('q');
+  EXPECT_EQ(chooser.Path(), "Q:\\");
+  chooser.Ok();
+  EXPECT_EQ(ReadMessages(5).back(), "Unable to save the file Q:\\Icon 5.ico");
+  ExpectAsFound();
+}
+
+TEST_F(SaveFault, AWriteThatFailsInTheMiddleIsReportedAndTheBatchGoesOn) {
+  MakePictures();
+  WriteSetting("Folder", tree_.Path());
+  WriteSetting("Subdir", "False");
+  // Icons of two and of sixteen colours fit, one with a palette of 256 does not, nor does a true-colour bitmap.
+  program_.StartWithFilesUpTo(1024);
+  FindAll();
+  ChooseOut(FrmFindIcon_mnuSaveAll);
+  EXPECT_THAT(ReadMessages(1), ElementsAre(IconFailed(3)));
+  ExpectAsFound();
+  ChooseOut(FrmFindIcon_mnuSaveAll3);
+  EXPECT_THAT(ReadMessages(1), ElementsAre(cursorFailed));
+  ExpectAsFound();
+  ChooseOut(FrmFindIcon_mnuSaveAll2);
+  EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
+  ExpectAsFound();
+  auto files = SeeFiles(Out());
+  for (const int entry : {0, 1, 3, 4}) {
+    const std::string number = std::to_string(entry + 1);
+    EXPECT_EQ(files["Icon " + number + ".ico"].pixels, IconPixels(entry));
+    EXPECT_EQ(files["Curor " + number + ".cur"].pixels, IconPixels(entry));
+    EXPECT_EQ(files["Images " + number + ".bmp"].pixels, BitmapPixels(entry));
+  }
+  // What fitted of the others stays.
+  for (const char* name : {"Icon 3.ico", "Curor 3.cur", "Images 3.bmp"}) EXPECT_EQ(ReadAll(Out(name)).size(), 1024U);
+
+  // The way to a JPEG needs the temporary bitmap, which does not fit: each is reported, and none is begun.
+  ChooseOut(FrmFindIcon_mnuSaveAll2, Jpg);
+  AcceptJpegOptions();
+  EXPECT_THAT(ReadMessages(5), Each(imageFailed));
+  ExpectAsFound();
+  SaveAs(FrmFindIcon_MnuSaveAsBitmap, Out("a.jpg"));
+  EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
+  ExpectAsFound();
+  EXPECT_EQ(SavedNames().size(), 15U);
+}
+
+TEST_F(SaveFault, AReadOnlyFileStaysButAJpegOrGifReplacesIt) {
+  FindPictures();
+  const auto saveOverReadOnly = [this](int command, const std::string& name) {
+    AddAttributes(tree_.MakeFile(std::string(outName) + "\\" + name, "kept"), FILE_ATTRIBUTE_READONLY);
+    const SaveDialog dialog = AskForName(command);
+    dialog.Save(Out(name));
+    program_.WaitForBox().Press(IDYES);
+    dialog.WaitForEnd();
+  };
+  saveOverReadOnly(FrmFindIcon_mnuSaveAs, "a.ico");
+  EXPECT_THAT(ReadMessages(1), ElementsAre("Unable to save the file " + Out("a.ico")));
+  ExpectAsFound();
+  saveOverReadOnly(FrmFindIcon_MnuSaveAsCursor, "a.cur");
+  EXPECT_THAT(ReadMessages(1), ElementsAre(cursorFailed));
+  ExpectAsFound();
+  saveOverReadOnly(FrmFindIcon_MnuSaveAsBitmap, "a.bmp");
+  EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
+  ExpectAsFound();
+  for (const char* name : {"a.ico", "a.cur", "a.bmp"}) EXPECT_EQ(ReadAll(Out(name)), "kept");
+
+  saveOverReadOnly(FrmFindIcon_MnuSaveAsBitmap, "a.jpg");
+  AcceptJpegOptions();
+  ExpectAsFound();
+  saveOverReadOnly(FrmFindIcon_MnuSaveAsBitmap, "a.gif");
+  AcceptGifOptions();
+  ExpectAsFound();
+  EXPECT_THAT(ReadAll(Out("a.jpg")), StartsWith("\xFF\xD8"));
+  EXPECT_THAT(ReadAll(Out("a.gif")), StartsWith("GIF8"));
+}
+
+TEST_F(SaveFault, TheTemporaryBitmapIsThereWhileTheJpegOptionsAreOpenAndThenGone) {
+  FindPictures();
+  for (const int button : {fSaveJPG_cmdFinish1, fSaveJPG_cmdFinish0}) {
+    SaveAs(FrmFindIcon_MnuSaveAsBitmap, Out("a" + std::to_string(button) + ".jpg"));
+    const Dialog options(program_, fSaveJPG_CboSize);
+    // Headers of 14 and 40 bytes and three bytes a pixel: true colour, whatever the icon has.
+    EXPECT_EQ(std::filesystem::file_size(temporaryBitmap), 14U + 40U + 32U * 32U * 3U);
+    options.End(button);
+    ExpectAsFound();
+    EXPECT_EQ(GetFileAttributesW(temporaryBitmap), INVALID_FILE_ATTRIBUTES);
+  }
+  EXPECT_EQ(SavedNames().size(), 1U);
+}
+
+TEST_F(SaveFault, AFileOfTheUsersWithTheTemporaryBitmapsNameStays) {
+  FindPictures();
+  std::filesystem::copy_file(ToWide(In("0.ico")), temporaryBitmap);
+  const std::string own = ReadAll(In("0.ico"));
+  SaveAs(FrmFindIcon_MnuSaveAsBitmap, Out("a.jpg"));
+  AcceptJpegOptions();
+  ExpectAsFound();
+  ChooseOut(FrmFindIcon_mnuSaveAll2, Jpg);
+  AcceptJpegOptions();
+  ExpectAsFound();
+  EXPECT_EQ(ReadAll("C:\\tmp.bmp"), own);
+  EXPECT_EQ(program_.Close(), 0U);
+  EXPECT_EQ(ReadAll("C:\\tmp.bmp"), own);
+  DeleteFileW(temporaryBitmap);
+  for (const auto& [name, file] : SeeFiles(Out())) EXPECT_EQ(file.pixels.size(), 32U * 32U) << name;
+  EXPECT_EQ(SavedNames().size(), 6U);
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end

@@ -1,0 +1,43 @@
+#include "platform/PastedPicture.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace tarvik::testing {
+namespace {
+
+PastedPicture FromBitmap(const std::byte* bytes) {
+  BITMAPINFOHEADER header;
+  std::memcpy(&header, bytes, sizeof header);
+  EXPECT_EQ(header.biBitCount, 32);
+  PastedPicture picture{.width = header.biWidth, .height = header.biHeight, .pixels = {}};
+  const std::size_t masks = header.biCompression == BI_BITFIELDS ? 3 * sizeof(DWORD) : 0;
+  const std::byte* const rows = bytes + header.biSize + masks;
+  for (int y = header.biHeight - 1; y >= 0; --y) {  // the lowest row stands first
+    for (int x = 0; x < header.biWidth; ++x) {
+      RGBQUAD pixel;
+      std::memcpy(&pixel, rows + (static_cast<std::ptrdiff_t>(y) * header.biWidth + x) * 4, sizeof pixel);
+      picture.pixels.push_back(RGB(pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue));
+    }
+  }
+  return picture;
+}
+
+}  // namespace
+
+PastedPicture Paste() {
+  PastedPicture picture;
+  if (OpenClipboard(nullptr) == 0) return picture;
+  if (const HANDLE data = GetClipboardData(CF_DIB)) {
+    picture = FromBitmap(static_cast<const std::byte*>(GlobalLock(data)));
+    GlobalUnlock(data);
+  }
+  CloseClipboard();
+  return picture;
+}
+
+}  // namespace tarvik::testing
