@@ -29,7 +29,8 @@ class SaveBusy : public Saving {
   }
 
   // What each of twenty rounds left open would add up. The first rounds fill the system's own stores.
-  void ExpectToKeepNothing(const char* name, const std::function<void()>& command) const {
+  // `keptBySystem` is what a round of the system's own dialog keeps in handles.
+  void ExpectToKeepNothing(const char* name, const std::function<void()>& command, int keptBySystem) const {
     constexpr int warmUps = 2;
     constexpr int rounds = 20;
     int objects = 0;
@@ -45,7 +46,7 @@ class SaveBusy : public Saving {
     EXPECT_GT(objects, 0);
     EXPECT_GT(handles, 0);
     EXPECT_LT(program_.CountGdiObjects(), objects + rounds / 2) << name;
-    EXPECT_LT(program_.CountHandles(), handles + rounds / 2) << name;
+    EXPECT_LT(program_.CountHandles(), handles + rounds * keptBySystem + rounds / 2) << name;
   }
 
   // Does something while a batch stands still in its middle, and lets it end.
@@ -93,10 +94,17 @@ TEST_F(SaveBusy, TwentyRoundsOfEachCommandKeepNothing) {
     DeleteFileW(ToWide(Out(name)).c_str());
     SaveAs(command, Out(name));
   };
-  const std::pair<const char*, std::function<void()>> commands[] = {
-      {"icon", [&] { saveOne(FrmFindIcon_mnuSaveAs, "a.ico"); }},
-      {"cursor", [&] { saveOne(FrmFindIcon_MnuSaveAsCursor, "a.cur"); }},
-      {"bitmap", [&] { saveOne(FrmFindIcon_MnuSaveAsBitmap, "a.bmp"); }},
+  // Wine's Save dialog, in any program, leaves a registry key open whenever a name is accepted.
+  constexpr int saveDialog = 1;
+  struct Row {
+    const char* name;
+    std::function<void()> round;
+    int keptBySystem = 0;
+  };
+  const Row commands[] = {
+      {"icon", [&] { saveOne(FrmFindIcon_mnuSaveAs, "a.ico"); }, saveDialog},
+      {"cursor", [&] { saveOne(FrmFindIcon_MnuSaveAsCursor, "a.cur"); }, saveDialog},
+      {"bitmap", [&] { saveOne(FrmFindIcon_MnuSaveAsBitmap, "a.bmp"); }, saveDialog},
       {"JPEG",
        [&] {
          saveOne(FrmFindIcon_MnuSaveAsBitmap, "a.jpg");
@@ -104,12 +112,14 @@ TEST_F(SaveBusy, TwentyRoundsOfEachCommandKeepNothing) {
          options.Press(fSaveJPG_cmdComment);
          Dialog(program_, fComment_txtComment).End(fComment_cmdFinish);
          options.End(fSaveJPG_cmdFinish1);
-       }},
+       },
+       saveDialog},
       {"GIF",
        [&] {
          saveOne(FrmFindIcon_MnuSaveAsBitmap, "a.gif");
          Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk);
-       }},
+       },
+       saveDialog},
       {"icons", [&] { ChooseOut(FrmFindIcon_mnuSaveAll); }},
       {"selected cursors",
        [&] {
@@ -130,7 +140,7 @@ TEST_F(SaveBusy, TwentyRoundsOfEachCommandKeepNothing) {
        }},
       {"copy", [&] { program_.Command(FrmFindIcon_mnuCopy); }},
   };
-  for (const auto& [name, command] : commands) ExpectToKeepNothing(name, command);
+  for (const Row& row : commands) ExpectToKeepNothing(row.name, row.round, row.keptBySystem);
 }
 
 }  // namespace

@@ -118,9 +118,9 @@ TEST_F(SaveIcons, WithNoneSelectedThatIsSaidAndNoFolderAskedFor) {
 
 TEST_F(SaveIcons, TheKeyboardAloneSaves) {
   FindPictures();
-  // A drop-down list would keep the keys to itself.
-  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
-  PressKey('F', {VK_MENU});
+  // Alt+F is the Find button's.
+  PressKey(VK_F10);
+  PressKey(VK_DOWN);
   ASSERT_TRUE(Eventually([&] { return program_.OpenMenu().has_value(); }));
   PressKey('S');
   const SaveDialog dialog(program_);
