@@ -10,8 +10,11 @@
 namespace tarvik {
 namespace {
 
-constexpr std::size_t fileBufferSize = 260;
-constexpr std::size_t titleBufferSize = 256;
+// What the dialogs give back, in characters, each of which may be three bytes of UTF-8. A path that does not fit is
+// cut, its extension first.
+constexpr std::size_t bytesPerCharacter = 3;
+constexpr std::size_t fileBufferSize = 260 * bytesPerCharacter;
+constexpr std::size_t titleBufferSize = 256 * bytesPerCharacter;
 constexpr DWORD saveFlags = OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
 constexpr DWORD openFlags = OFN_HIDEREADONLY | OFN_FILEMUSTEXIST;
 static_assert(saveFlags == 2054 && openFlags == 4100);

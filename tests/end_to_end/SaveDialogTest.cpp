@@ -168,6 +168,17 @@ TEST_F(Save, ATypedExtensionStaysAndChoosesTheFormat) {
   EXPECT_THAT(SavedNames(), ElementsAre("a.Jpg", "a.icon", "a.png"));
 }
 
+TEST_F(Save, ALongChinesePathIsTakenWhole) {
+  FindPictures();
+  // As long as a name may be below Wine, in bytes: with its folder it has more of them than a path has characters.
+  std::string name;
+  for (int i = 0; i < 80; ++i) name += "长";
+  ASSERT_GT(Out(name).size(), static_cast<std::size_t>(MAX_PATH));
+  SaveAs(FrmFindIcon_mnuSaveAs, Out(name));
+  ExpectAsFound();
+  EXPECT_THAT(SavedNames(), ElementsAre(name + ".ico"));
+}
+
 TEST_F(Save, AFileOfThatNameIsReplacedOnlyWhereTheUserAgrees) {
   FindPictures();
   tree_.MakeFile(std::string(outName) + "\\有.ico", "kept");
