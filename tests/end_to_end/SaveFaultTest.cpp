@@ -29,6 +29,13 @@ class SaveFault : public Saving {
     EXPECT_EQ(GetFileAttributesW(temporaryBitmap), INVALID_FILE_ATTRIBUTES) << "the temporary bitmap is left";
   }
 
+  void FindPicturesWithFilesUpTo(int bytes) {
+    MakePictures();
+    WriteSetting("Folder", tree_.Path());
+    WriteSetting("Subdir", "False");
+    program_.StartWithFilesUpTo(bytes);
+    FindAll();
+  }
   void AcceptJpegOptions() const { Dialog(program_, fSaveJPG_CboSize).End(fSaveJPG_cmdFinish1); }
   void AcceptGifOptions() const { Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk); }
   std::string IconFailed(int number) const {
@@ -119,12 +126,8 @@ TEST_F(SaveFault, ADriveWithoutADiskIsReportedFileByFile) {
 }
 
 TEST_F(SaveFault, AWriteThatFailsInTheMiddleIsReportedAndTheBatchGoesOn) {
-  MakePictures();
-  WriteSetting("Folder", tree_.Path());
-  WriteSetting("Subdir", "False");
   // Icons of two and of sixteen colours fit, one with a palette of 256 does not, nor does a true-colour bitmap.
-  program_.StartWithFilesUpTo(1024);
-  FindAll();
+  FindPicturesWithFilesUpTo(1024);
   ChooseOut(FrmFindIcon_mnuSaveAll);
   EXPECT_THAT(ReadMessages(1), ElementsAre(IconFailed(3)));
   ExpectAsFound();
@@ -153,6 +156,22 @@ TEST_F(SaveFault, AWriteThatFailsInTheMiddleIsReportedAndTheBatchGoesOn) {
   EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
   ExpectAsFound();
   EXPECT_EQ(SavedNames().size(), 15U);
+}
+
+TEST_F(SaveFault, NothingIsLeftOfAGifThatDoesNotFit) {
+  // A GIF of few colours fits, one with the whole web palette does not.
+  FindPicturesWithFilesUpTo(512);
+  ChooseOut(FrmFindIcon_mnuSaveAll2, Gif);
+  AcceptGifOptions();
+  ExpectAsFound();
+  EXPECT_EQ(SavedNames().size(), 5U);
+  ChooseOut(FrmFindIcon_mnuSaveSel2, Gif);
+  const Dialog options(program_, FrmConvertGIF_Option1);
+  options.Item(FrmConvertGIF_Option2).Send(BM_CLICK);
+  options.End(FrmConvertGIF_CmdOk);
+  EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
+  ExpectAsFound();
+  EXPECT_THAT(SavedNames(), ElementsAre("Images 2.gif", "Images 3.gif", "Images 4.gif", "Images 5.gif"));
 }
 
 TEST_F(SaveFault, AReadOnlyFileStaysButAJpegOrGifReplacesIt) {
