@@ -29,7 +29,6 @@ class Copy : public Saving {
 
 TEST_F(Copy, AnotherProgramPastesTheClickedIcon) {
   FindPictures();
-  BringPointerIn();
   found_ = Now();
   for (const int entry : {1, 2}) {
     ClearClipboard();

@@ -51,7 +51,6 @@ class SaveIcons : public Saving {
 
 TEST_F(SaveIcons, TheClickedIconIsSavedInEachFormat) {
   FindPictures();
-  BringPointerIn();
   ClickCell(1);
   ExpectCurrent(1);
   found_ = Now();
