@@ -9,36 +9,44 @@
 namespace tarvik {
 namespace {
 
-void AddIcon(HIMAGELIST list, HINSTANCE instance, int icon, int side) {
-  const IconHandle handle(
-      static_cast<HICON>(LoadImageW(instance, MAKEINTRESOURCEW(icon), IMAGE_ICON, side, side, LR_DEFAULTCOLOR)));
-  ImageList_ReplaceIcon(list, -1, handle.get());
+// A list of the buttons' pictures, in their order; `iconOf` says which icon resource a button shows.
+template <typename IconOf>
+ImageListHandle Pictures(HINSTANCE instance, int side, std::span<const Toolbar::Button> buttons, IconOf iconOf) {
+  ImageListHandle list(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, static_cast<int>(buttons.size()), 0));
+  for (const Toolbar::Button& button : buttons) {
+    const IconHandle icon(static_cast<HICON>(
+        LoadImageW(instance, MAKEINTRESOURCEW(iconOf(button)), IMAGE_ICON, side, side, LR_DEFAULTCOLOR)));
+    ImageList_ReplaceIcon(list.get(), -1, icon.get());
+  }
+  return list;
 }
 
 }  // namespace
 
 void Toolbar::Attach(HWND toolbar, int side, std::span<const Button> buttons) {
   window_ = toolbar;
-  const auto count = static_cast<int>(buttons.size());
-  pictures_.reset(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, count, 0));
-  disabledPictures_.reset(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, count, 0));
+  // The pictures outlive the control: they are the same for the next one.
+  if (!pictures_) {
+    const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(window_, GWLP_HINSTANCE));
+    pictures_ = Pictures(instance, side, buttons, [](const Button& button) { return button.id; });
+    disabledPictures_ = Pictures(instance, side, buttons, [](const Button& button) {
+      return button.disabledIcon != 0 ? button.disabledIcon : button.id;
+    });
+  }
   SendMessageW(window_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
   // In this style a text does not show beside its button, but as its tooltip.
   SendMessageW(window_, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);
   SendMessageW(window_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures_.get()));
   SendMessageW(window_, TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(disabledPictures_.get()));
 
-  const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(window_, GWLP_HINSTANCE));
+  int picture = 0;
   for (const Button& button : buttons) {
     if (button.startsGroup) {
       const TBBUTTON separator{0, 0, 0, BTNS_SEP, {}, 0, 0};
       SendMessageW(window_, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&separator));
     }
-    const int picture = ImageList_GetImageCount(pictures_.get());
-    AddIcon(pictures_.get(), instance, button.id, side);
-    AddIcon(disabledPictures_.get(), instance, button.disabledIcon != 0 ? button.disabledIcon : button.id, side);
     const std::wstring text = ToWide(button.text);
-    const TBBUTTON row{picture,
+    const TBBUTTON row{picture++,
                        button.id,
                        TBSTATE_ENABLED,
                        BTNS_BUTTON | BTNS_AUTOSIZE,

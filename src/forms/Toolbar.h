@@ -21,7 +21,8 @@ class Toolbar {
     bool startsGroup = false;
   };
 
-  // Fills the control `toolbar`, which has no buttons yet. Pictures are `side` pixels square.
+  // Fills the control `toolbar`, which has no buttons yet. Pictures are `side` pixels square. May be called again for
+  // another control with the same buttons, once the former one is gone.
   void Attach(HWND toolbar, int side, std::span<const Button> buttons);
   HWND Window() const { return window_; }
 
