@@ -30,6 +30,12 @@ TEST(ColorReduction, CutsBetweenTwoGroupsOfColours) {
   EXPECT_THAT(ReduceColors(colors, 2).palette, UnorderedElementsAre(0x000011, 0x0000F2));
 }
 
+TEST(ColorReduction, CutsAsLongAsAnythingIsGained) {
+  // The last cut parts two neighbours, 0 and 1 or 100 and 101, and saves half of one square step.
+  const std::vector<CountedColor> colors{{0, 1}, {1, 1}, {100, 1}, {101, 1}, {200, 1}};
+  EXPECT_THAT(ReduceColors(colors, 4).palette, testing::SizeIs(4));
+}
+
 TEST(ColorReduction, MovesColoursToWhereTheyFitBestAfterTheCuts) {
   // The first cut saves most between 11 and 15, the second between 15 and 28, and so 11 stays with 0 and 2 (mean 4).
   // It is nearer to 15 than to that mean: the two pairs and the single one are what fits.

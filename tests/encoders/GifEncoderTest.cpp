@@ -62,6 +62,14 @@ TEST(GifEncoder, WritesTheFileOnceToThePathGiven) {
   EXPECT_EQ(sink.Steps(), "open write close ");
 }
 
+TEST(GifEncoder, TellsColoursBackgroundAndPixelShapeInItsHeader) {
+  TestSink sink;
+  ASSERT_TRUE(GifEncoder(sink).WriteFile(ManyColors(16, 4), path, best));
+  EXPECT_EQ(sink.Bytes().at(10), std::byte{0xF1}) << "a colour table, 8 bits a channel, 4 colours";
+  EXPECT_EQ(sink.Bytes().at(11), std::byte{0}) << "the first colour as background";
+  EXPECT_EQ(sink.Bytes().at(12), std::byte{0}) << "square pixels, as nothing else is said";
+}
+
 TEST(GifEncoder, WritesOneImageOfThePicturesSize) {
   const std::vector<std::pair<int, int>> sizes = {{1, 1},  {16, 16}, {32, 32},   {48, 48},  {64, 64},
                                                   {17, 5}, {300, 2}, {65535, 1}, {1, 65535}};

@@ -16,6 +16,16 @@ TEST(FirstCharacters, GivesAShorterTextWhole) {
   EXPECT_EQ(FirstCharacters("", 20), "");
 }
 
+TEST(FirstCharacterLength, IsToldByTheFirstByte) {
+  const struct {
+    std::string_view text;
+    std::size_t length;
+  } rows[] = {{"\x7F\x80\x80\x80", 1}, {"\xBF\x80\x80\x80", 1}, {"\xC1\x80\x80\x80", 1}, {"\xC2\x80\x80\x80", 2},
+              {"\xDF\x80\x80\x80", 2}, {"\xE0\x80\x80\x80", 3}, {"\xEF\x80\x80\x80", 3}, {"\xF0\x80\x80\x80", 4},
+              {"\xF4\x80\x80\x80", 4}, {"\xF5\x80\x80\x80", 1}};
+  for (const auto& row : rows) EXPECT_EQ(FirstCharacterLength(row.text), row.length) << row.text;
+}
+
 TEST(FirstCharacterLength, TakesAByteThatStartsNoWholeCharacterAsOne) {
   EXPECT_EQ(FirstCharacterLength("\x80\x80"), 1U);
   EXPECT_EQ(FirstCharacterLength("\xE5\x9B"), 1U);
