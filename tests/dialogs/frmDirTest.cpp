@@ -250,6 +250,7 @@ TEST_F(frmDirTest, StaysOpenWithTheTypedNameWhereAFolderCannotBeCreated) {
     OnCreate([&](HWND window) {
       EXPECT_EQ(boxes.Boxes().back().title, row.title);
       EXPECT_EQ(boxes.Boxes().back().text, row.text);
+      EXPECT_EQ(boxes.Boxes().back().sign, LoadIconW(nullptr, IDI_ERROR));
       EXPECT_EQ(TextOf(window, frmDirCreate_txt), "a:b");
       Command(window, frmDirCreate_CmdCancel);
     });

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "encoders/EncodedImages.h"
 #include "encoders/GifOptions.h"
 #include "forms/Controls.h"
@@ -48,11 +50,18 @@ class FrmConvertGIFTest : public ::testing::Test {
   testing::TemporaryFolder folder;
   std::string path = folder.In("图.gif");
   Surface icon{32, 32, 0x332211};
+  std::function<void()> onConvert;
   DiskFile files;
   DiskTarget targets;
   testing::ModalDriver driver;
-  FrmConvertGIF form{
-      application, state, nullptr, {[this]() -> const Surface& { return icon; }, files, targets, FileLength}};
+  FrmConvertGIF form{application,
+                     state,
+                     nullptr,
+                     {[this]() -> const Surface& {
+                        if (onConvert) onConvert();
+                        return icon;
+                      },
+                      files, targets, FileLength}};
 };
 
 TEST_F(FrmConvertGIFTest, ShowsItsTextsInEachLanguage) {
@@ -123,6 +132,40 @@ TEST_F(FrmConvertGIFTest, TellsTheSizeOfTheFileInItsCaption) {
   Show(DialogMode::Single, [](HWND window) { Command(window, FrmConvertGIF_CmdOk); });
   UnhookWindowsHookEx(hook);
   EXPECT_EQ(captionSet, CaptionWithSize(ReadAll(path).size()));
+}
+
+// How many pixels of a control are clearly red.
+int CountRedPixels(HWND control) {
+  RECT place;
+  GetClientRect(control, &place);
+  const WindowDc dc(control);
+  int count = 0;
+  for (int y = 0; y < place.bottom; ++y) {
+    for (int x = 0; x < place.right; ++x) {
+      const COLORREF color = GetPixel(dc.get(), x, y);
+      count += GetRValue(color) > GetGValue(color) + 64 && GetRValue(color) > GetBValue(color) + 64 ? 1 : 0;
+    }
+  }
+  return count;
+}
+
+TEST_F(FrmConvertGIFTest, ShowsThatItConverts) {
+  const HCURSOR hourglass = LoadCursorW(nullptr, MAKEINTRESOURCEW(32514));
+  int conversions = 0;
+  onConvert = [&] {
+    ++conversions;
+    EXPECT_EQ(GetCursor(), hourglass);
+    EXPECT_FALSE(IsWindowEnabled(form.Item(FrmConvertGIF_CmdOk)));
+    EXPECT_GT(CountRedPixels(form.Item(FrmConvertGIF_Label1)), 0);
+  };
+  Show(DialogMode::Single, [&](HWND window) {
+    EXPECT_EQ(CountRedPixels(GetDlgItem(window, FrmConvertGIF_Label1)), 0);
+    const HCURSOR former = GetCursor();
+    Command(window, FrmConvertGIF_CmdOk);
+    EXPECT_EQ(GetCursor(), former);
+    EXPECT_NE(former, hourglass);
+  });
+  EXPECT_EQ(conversions, 1);
 }
 
 TEST_F(FrmConvertGIFTest, ReplacesAReadOnlyFileAndTellsWhatCannotBeWritten) {

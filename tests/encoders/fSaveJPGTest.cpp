@@ -18,7 +18,6 @@ namespace tarvik {
 namespace {
 
 using testing::ChooseRow;
-using testing::ChosenRow;
 using testing::Command;
 using testing::ReadAll;
 using testing::TextOf;
@@ -156,6 +155,32 @@ TEST_F(fSaveJPGTest, ReplacesAReadOnlyFile) {
   testing::AddAttributes(path, FILE_ATTRIBUTE_READONLY);
   EXPECT_EQ(ShowSingle([](HWND window) { Command(window, fSaveJPG_cmdFinish1); }), DialogAnswer::Ok);
   EXPECT_EQ(testing::ByteAt(ReadAll(path), 1), 0xD8);
+}
+
+// Notes the pointer when it is asked to make room for the file.
+class PointerNoted final : public ExistingTarget {
+ public:
+  bool DeleteExistingTarget(const std::string& /*path*/) override {
+    seen = GetCursor();
+    return true;
+  }
+
+  HCURSOR seen = nullptr;
+};
+
+TEST_F(fSaveJPGTest, ShowsTheHourglassWhileItWrites) {
+  const HCURSOR hourglass = LoadCursorW(nullptr, MAKEINTRESOURCEW(32514));
+  PointerNoted target;
+  fSaveJPG dialog(application, state, nullptr, files, target);
+  dialog.InitJpegExport(picture, path, DialogMode::Single);
+  driver.On(fSaveJPG_CboSize, [&](HWND window) {
+    const HCURSOR former = GetCursor();
+    EXPECT_NE(former, hourglass);
+    Command(window, fSaveJPG_cmdFinish1);
+    EXPECT_EQ(GetCursor(), former);
+  });
+  EXPECT_EQ(dialog.ShowFor(DialogMode::Single), DialogAnswer::Ok);
+  EXPECT_EQ(target.seen, hourglass);
 }
 
 TEST_F(fSaveJPGTest, TellsAFileThatCannotBeWritten) {

@@ -32,6 +32,43 @@ TEST_F(SaveCommandsTest, NumbersTheFilesOfSelectedEntriesFromOneOn) {
   EXPECT_THAT(script, Not(Contains("hot spot")));
 }
 
+TEST_F(SaveCommandsTest, WritesTheHotSpotStoredLastIntoEveryCursorOfABatch) {
+  List(2);
+  dialogs.folder = "D:\\out";
+  state.HotSpotX = 3;
+  state.HotSpotY = 7;
+  commands.mnuSaveAll3_Click();
+  for (const char* path : {"D:\\out\\Curor 1.cur", "D:\\out\\Curor 2.cur"}) {
+    EXPECT_EQ(Byte(path, 10), 3) << path;
+    EXPECT_EQ(Byte(path, 12), 7) << path;
+  }
+}
+
+// 255 colours beside black and white fill a bitmap's palette; an icon's has two entries less for them.
+TEST_F(SaveCommandsTest, CountsTheColoursOfTheImageForIconsAndOfTheComposedIconForBitmaps) {
+  const auto colors = [](int count) {
+    return TestRaster(32,
+                      [count](int x, int y) { return static_cast<Color>(0x400001 + (x + 32 * y) % count * 0x100); });
+  };
+  List(1);
+  dialogs.folder = "D:\\out";
+  struct Row {
+    int image;
+    int composed;
+    int iconBits;
+    int bitmapBits;
+  };
+  for (const Row& row : {Row{254, 257, 8, 24}, Row{255, 255, 24, 8}, Row{255, 256, 24, 8}, Row{254, 200, 8, 8}}) {
+    window.RenderAs(colors(row.image), colors(row.composed));
+    commands.mnuSaveAll_Click();
+    commands.mnuSaveAll2_Click();
+    commands.mnuSaveAll3_Click();
+    EXPECT_EQ(Byte("D:\\out\\Icon 1.ico", 36), row.iconBits) << row.image;
+    EXPECT_EQ(Byte("D:\\out\\Curor 1.cur", 36), row.iconBits) << row.image;
+    EXPECT_EQ(Byte("D:\\out\\Images 1.bmp", 28), row.bitmapBits) << row.composed;
+  }
+}
+
 TEST_F(SaveCommandsTest, NamesTheFilesOfEachKindOfBatch) {
   List(1, {1});
   dialogs.folder = "D:\\out";

@@ -20,8 +20,17 @@ class FakeSaveWindow final : public SaveWindow {
  public:
   explicit FakeSaveWindow(Script& script) : script_(script) {}
 
+  // From now on every entry renders as these pictures.
+  void RenderAs(const TestRaster& image, const TestRaster& icon) {
+    rendersAsSet_ = true;
+    mask_ = TestRaster(image.Width(), image.Height());
+    image_ = image;
+    icon_ = icon;
+  }
+
   bool RenderEntry(int number) override {
     script_.push_back("render " + std::to_string(number));
+    if (rendersAsSet_) return true;
     for (int place = 0; place < 4; ++place) {
       mask_.SetNumber(place, place == 0 ? white : black);
       image_.SetNumber(place, 0x010000U * static_cast<Color>(number));
@@ -60,6 +69,7 @@ class FakeSaveWindow final : public SaveWindow {
 
  private:
   Script& script_;
+  bool rendersAsSet_ = false;
   TestRaster mask_{2, 2};
   TestRaster image_{2, 2};
   TestRaster icon_{2, 2};

@@ -21,6 +21,15 @@ std::string TextOf(HWND window) {
   return ToUtf8({text.data(), static_cast<std::size_t>(length)});
 }
 
+// The icon beside the text.
+HICON SignOf(HWND box) {
+  for (HWND item = GetWindow(box, GW_CHILD); item != nullptr; item = GetWindow(item, GW_HWNDNEXT)) {
+    const auto icon = reinterpret_cast<HICON>(SendMessageW(item, STM_GETICON, 0, 0));
+    if ((GetWindowLongW(item, GWL_STYLE) & SS_TYPEMASK) == SS_ICON && icon != nullptr) return icon;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 struct BoxWatcherTimer {
@@ -29,7 +38,7 @@ struct BoxWatcherTimer {
     GetClassNameW(window, name.data(), static_cast<int>(name.size()));
     const HWND text = GetDlgItem(window, textControl);
     if (std::wcscmp(name.data(), L"#32770") != 0 || text == nullptr || IsWindowVisible(window) == FALSE) return TRUE;
-    watcher->boxes_.push_back({TextOf(window), TextOf(text)});
+    watcher->boxes_.push_back({TextOf(window), TextOf(text), SignOf(window)});
     EndDialog(window, IDOK);
     return TRUE;
   }

@@ -1,14 +1,17 @@
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 #include <vector>
 
 namespace tarvik::testing {
 
-// A message box that a test met: its texts, UTF-8.
+// A message box that a test met: its texts, UTF-8, and the system's icon in it.
 struct SeenBox {
   std::string title;
   std::string text;
+  HICON sign = nullptr;
 };
 
 // Closes every message box that this thread shows while it lives, by OK, and remembers what stood in it.

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
+#include <vector>
 
 #include "search/FindIconFixture.h"
 #include "search/FrmFindIconTexts.h"
@@ -42,6 +44,16 @@ TEST_F(FrmFindIconTest, OpensWithTheChoicesOfAFirstStart) {
   EXPECT_FALSE(IsEnabled(FrmFindIcon_mnuRem));
 }
 
+// The help menu's items were once disabled for good, while every test gave their commands itself.
+TEST_F(FrmFindIconTest, OffersEveryMenuItemThatNeedsNoIconsFromTheStart) {
+  Open();
+  for (const int item :
+       {FrmFindIcon_mnuStart, FrmFindIcon_mnuExit, FrmFindIcon_mnuShowLabel, FrmFindIcon_mnuIL1, FrmFindIcon_mnuIL2,
+        FrmFindIcon_mnuViewopt0, FrmFindIcon_mnuViewopt1, FrmFindIcon_MnuContent, FrmFindIcon_MnuAbout}) {
+    EXPECT_TRUE(IsEnabled(item)) << item;
+  }
+}
+
 TEST_F(FrmFindIconTest, ShowsItsTextsInEachLanguage) {
   for (const std::string language : {"ENG", "CHS", "CHT"}) {
     Open(language);
@@ -60,6 +72,52 @@ TEST_F(FrmFindIconTest, KeepsItsDesignTextsForAnUnknownCode) {
   EXPECT_EQ(Caption(), "Find Icons");
   EXPECT_EQ(Text(FrmFindIcon_OptView0), "Show Icon");
   EXPECT_EQ(window->TheMenu().Text(FrmFindIcon_mnuBatch), "&Batch Save As Icon");
+}
+
+// A menu's items from the top, those of a menu below it with a blank more in front; no separators.
+void AddItems(HMENU menu, const std::string& indent, std::vector<std::string>& lines) {
+  for (int position = 0; position < GetMenuItemCount(menu); ++position) {
+    std::array<wchar_t, 128> text{};
+    GetMenuStringW(menu, static_cast<UINT>(position), text.data(), static_cast<int>(text.size()), MF_BYPOSITION);
+    if (text[0] == L'\0') continue;
+    lines.push_back(indent + ToUtf8(text.data()));
+    if (const HMENU below = GetSubMenu(menu, position)) AddItems(below, indent + ' ', lines);
+  }
+}
+
+TEST_F(FrmFindIconTest, HasItsMenusInOrder) {
+  Open("XYZ");
+  std::vector<std::string> lines;
+  AddItems(GetMenu(window->Window()), "", lines);
+  EXPECT_EQ(lines, (std::vector<std::string>{"&File",
+                                             " &Find Icon",
+                                             " &Save As",
+                                             " Save As &Image",
+                                             " Save As Curso&r",
+                                             " &Batch Save As Icon",
+                                             "  &Save Selected Icons",
+                                             "  &Save All Icons In List",
+                                             " &Batch Save As Image",
+                                             "  &Save Selected Icons",
+                                             "  &Save All Icons In List",
+                                             " &Batch Save As Cursor",
+                                             "  &Save Selected Icons",
+                                             "  &Save All Icons In List",
+                                             " &Close",
+                                             "&Edit",
+                                             " &Copy",
+                                             " &Invert Selection",
+                                             "&Options",
+                                             " &Display Labels",
+                                             " &Icon Labels",
+                                             "  &Continuous Naming",
+                                             "  &With Respect To File",
+                                             "&View",
+                                             " Show Icon",
+                                             " Show List",
+                                             "&Help",
+                                             " &Contents",
+                                             " &About..."}));
 }
 
 TEST_F(FrmFindIconTest, BuildsThePatternFromTheTickedTypes) {
@@ -97,6 +155,37 @@ TEST_F(FrmFindIconTest, SetsTheLimitThatGoesWithASize) {
     ScrollBy(FrmFindIcon_udMain, SB_BOTTOM);
     EXPECT_EQ(Text(FrmFindIcon_txtMax), "1");
   }
+}
+
+TEST_F(FrmFindIconTest, MagnifiesEachSizeToTheSameSquare) {
+  struct Row {
+    int size;
+    int magnification;
+  };
+  Open();
+  Find(2);
+  for (const Row& row : {Row{0, 24}, {1, 12}, {2, 8}, {3, 6}}) {
+    ChooseSize(row.size);
+    EXPECT_EQ(state.Magnification, row.magnification);
+    EXPECT_TRUE(window->RenderEntry(2));
+    const Surface& magnified = window->PicMain();
+    EXPECT_EQ(magnified.Width(), 385);
+    EXPECT_EQ(magnified.Height(), 385);
+    EXPECT_EQ(magnified.Pixel(383, 383), testing::SmallMachine::ColorOf(1));
+    EXPECT_EQ(magnified.Pixel(384, 384), white);
+  }
+}
+
+TEST_F(FrmFindIconTest, AppliesTheSizeChosenAfterASearchToClicksAndCapturesAtOnce) {
+  Open();
+  Find(20);
+  ChooseSize(3);
+  EXPECT_EQ(GridPixel(3, 41), testing::SmallMachine::ColorOf(15)) << "the grid stays as it was drawn";
+  ReleaseOnGrid(3 + 2 * 70, 10);
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 3 Selected.");
+  EXPECT_TRUE(window->RenderEntry(3));
+  ASSERT_EQ(window->Surfaces().Composed().Width(), 64);
+  EXPECT_EQ(window->Surfaces().Composed().Pixel(63, 63), testing::SmallMachine::ColorOf(2));
 }
 
 TEST_F(FrmFindIconTest, RaisesTheLimitByTheUpArrow) {

@@ -1,9 +1,11 @@
-// The texts of every dialog, as a user sees them: no two controls share an access key, and none is cut off.
+// The texts of every dialog, as a user sees them: no two controls share an access key, none is cut off, and a language
+// that the program does not know leaves them as designed.
 
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,9 +17,11 @@
 #include "encoders/fSaveJPG.h"
 #include "export/FrmHotSpot.h"
 #include "forms/Application.h"
+#include "forms/Controls.h"
 #include "platform/DiskFile.h"
 #include "platform/DiskTarget.h"
 #include "platform/Surface.h"
+#include "resource.h"
 #include "startup/TextChecks.h"
 
 namespace tarvik {
@@ -25,18 +29,40 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-class DialogTextsTest : public ::testing::TestWithParam<const char*> {
+// The dialogs, each over as little as it needs.
+class Dialogs {
  protected:
-  DialogTextsTest() {
-    state.CurrentLanguage = GetParam();
+  explicit Dialogs(const std::string& language) {
+    state.CurrentLanguage = language;
     state.SaveExtension = ".BMP";
   }
 
-  static void Check(Form& form) {
-    form.Load();
-    ASSERT_TRUE(form.IsLoaded());
-    EXPECT_EQ(testing::TextsWithTakenKeys(form.Window()), Texts{});
-    EXPECT_EQ(testing::CutOffTexts(form.Window()), Texts{});
+  std::unique_ptr<Form> FolderChooser() {
+    return std::make_unique<frmDir>(application, state,
+                                    frmDir::Disk{[] {
+                                                   return std::vector<DriveListBox::Drive>{{"C:\\", "c:"}};
+                                                 },
+                                                 [](const std::string&) { return std::vector<std::string>(); },
+                                                 [](const std::string&) -> std::optional<std::string> { return {}; },
+                                                 [] { return std::string("C:\\"); }});
+  }
+  std::unique_ptr<Form> NewFolder() {
+    return std::make_unique<frmDirCreate>(
+        application, state, [](const std::string&) -> std::optional<std::string> { return {}; },
+        [](const std::string&) {});
+  }
+  std::unique_ptr<Form> HotSpotPicker() {
+    return std::make_unique<FrmHotSpot>(application, state, [this]() -> const Surface& { return picture; });
+  }
+  std::unique_ptr<Form> JpegOptions() {
+    return std::make_unique<fSaveJPG>(application, state, nullptr, files, targets);
+  }
+  std::unique_ptr<Form> JpegComment() { return std::make_unique<fComment>(application, state); }
+  std::unique_ptr<Form> GifOptions() {
+    return std::make_unique<FrmConvertGIF>(
+        application, state, nullptr,
+        FrmConvertGIF::Parts{[this]() -> const Surface& { return picture; }, files, targets,
+                             [](const std::string&) { return std::uint64_t{0}; }});
   }
 
   Application application{GetModuleHandleW(nullptr)};
@@ -46,48 +72,74 @@ class DialogTextsTest : public ::testing::TestWithParam<const char*> {
   DiskTarget targets;
 };
 
+class DialogTextsTest : public Dialogs, public ::testing::TestWithParam<const char*> {
+ protected:
+  DialogTextsTest() : Dialogs(GetParam()) {}
+
+  static void Check(const std::unique_ptr<Form>& form) {
+    form->Load();
+    ASSERT_TRUE(form->IsLoaded());
+    EXPECT_EQ(testing::TextsWithTakenKeys(form->Window()), Texts{});
+    EXPECT_EQ(testing::CutOffTexts(form->Window()), Texts{});
+  }
+};
+
 TEST_P(DialogTextsTest, FolderChooser) {
-  frmDir form(application, state,
-              {[] {
-                 return std::vector<DriveListBox::Drive>{{"C:\\", "c:"}};
-               },
-               [](const std::string&) { return std::vector<std::string>(); },
-               [](const std::string&) -> std::optional<std::string> { return std::nullopt; },
-               [] { return std::string("C:\\"); }});
-  Check(form);
+  Check(Dialogs::FolderChooser());
 }
 
 TEST_P(DialogTextsTest, NewFolder) {
-  frmDirCreate form(
-      application, state, [](const std::string&) -> std::optional<std::string> { return std::nullopt; },
-      [](const std::string&) {});
-  Check(form);
+  Check(Dialogs::NewFolder());
 }
 
 TEST_P(DialogTextsTest, HotSpotPicker) {
-  FrmHotSpot form(application, state, [this]() -> const Surface& { return picture; });
-  Check(form);
+  Check(Dialogs::HotSpotPicker());
 }
 
 TEST_P(DialogTextsTest, JpegOptions) {
-  fSaveJPG form(application, state, nullptr, files, targets);
-  Check(form);
+  Check(Dialogs::JpegOptions());
 }
 
 TEST_P(DialogTextsTest, JpegComment) {
-  fComment form(application, state);
-  Check(form);
+  Check(Dialogs::JpegComment());
 }
 
 TEST_P(DialogTextsTest, GifOptions) {
-  FrmConvertGIF form(application, state, nullptr,
-                     {[this]() -> const Surface& { return picture; }, files, targets,
-                      [](const std::string&) { return std::uint64_t{0}; }});
-  Check(form);
+  Check(Dialogs::GifOptions());
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, DialogTextsTest, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
                          [](const auto& row) { return std::string(row.param); });
+
+class UnknownLanguageTest : public Dialogs, public ::testing::Test {
+ protected:
+  UnknownLanguageTest() : Dialogs("Chinese") {}
+
+  // Compares with the template itself: the window's caption, and each text that stands in it.
+  void Check(const std::unique_ptr<Form>& form, int dialogId) {
+    form->Load();
+    Form design(application, dialogId);
+    design.Load();
+    EXPECT_EQ(testing::TextOf(form->Window()), testing::TextOf(design.Window()));
+    int texts = 0;
+    for (HWND item = GetWindow(design.Window(), GW_CHILD); item != nullptr; item = GetWindow(item, GW_HWNDNEXT)) {
+      const std::string text = testing::TextOf(item);
+      if (text.empty()) continue;
+      ++texts;
+      EXPECT_EQ(form->ItemText(GetDlgCtrlID(item)), text) << dialogId;
+    }
+    EXPECT_GT(texts, 0);
+  }
+};
+
+TEST_F(UnknownLanguageTest, LeavesEveryDialogAsDesigned) {
+  Check(FolderChooser(), Dialog_frmDir);
+  Check(NewFolder(), Dialog_frmDirCreate);
+  Check(HotSpotPicker(), Dialog_FrmHotSpot);
+  Check(JpegOptions(), Dialog_fSaveJPG);
+  Check(JpegComment(), Dialog_fComment);
+  Check(GifOptions(), Dialog_FrmConvertGIF);
+}
 
 }  // namespace
 }  // namespace tarvik

@@ -1,0 +1,29 @@
+#include "dialogs/FolderDialogTexts.h"
+
+#include <gtest/gtest.h>
+
+#include "startup/FormTextRows.h"
+
+namespace tarvik {
+namespace {
+
+TEST(FolderDialogTexts, NameTheChoosersControlsInThreeLanguages) {
+  testing::ExpectRows(frmDirTexts, {
+                                       {formCaption, {"Store To Directory...", "存储目录...", "存儲目錄..."}},
+                                       {frmDir_CmdOk, {"&OK", "确定(&O)", "確定(&O)"}},
+                                       {frmDir_CmdCancel, {"&Cancel", "取消(&C)", "取消(&C)"}},
+                                       {frmDir_cmdCreate, {"Cr&eate", "创建(&R)", "創建(&R)"}},
+                                       {frmDir_lblCaption, {"Selected Directory:", "存储目录为:", "存儲目錄為:"}},
+                                   });
+}
+
+TEST(FolderDialogTexts, NameTheNewFolderDialogsControlsInThreeLanguages) {
+  testing::ExpectRows(frmDirCreateTexts, {
+                                             {frmDirCreate_CmdOk, {"Cr&eate", "创建(&R)", "創建(&R)"}},
+                                             {frmDirCreate_CmdCancel, {"&Cancel", "取消(&C)", "取消(&C)"}},
+                                             {frmDirCreate_lblCaption, {"Folder:", "文件夹:", "文件夾:"}},
+                                         });
+}
+
+}  // namespace
+}  // namespace tarvik
