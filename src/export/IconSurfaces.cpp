@@ -5,7 +5,7 @@ namespace tarvik {
 IconSurfaces::IconSurfaces(int size)
     : composed_(size, size, surfaceBackground),
       mask_(size, size, surfaceBackground),
-      image_(size, size, surfaceBackground) {}
+      image_(size, size, imageBackground) {}
 
 void IconSurfaces::Resize(int size) {
   for (Surface* surface : {&composed_, &mask_, &image_}) surface->Resize(size, size, surfaceBackground);
@@ -13,7 +13,9 @@ void IconSurfaces::Resize(int size) {
 }
 
 void IconSurfaces::Clear() {
-  for (Surface* surface : {&composed_, &mask_, &image_}) surface->Clear(surfaceBackground);
+  composed_.Clear(surfaceBackground);
+  mask_.Clear(surfaceBackground);
+  image_.Clear(imageBackground);
 }
 
 }  // namespace tarvik

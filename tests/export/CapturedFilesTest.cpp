@@ -124,6 +124,27 @@ TEST_P(CapturedAtSize, IconsAreLoadedWithImageAndTransparency) {
   });
 }
 
+// Icons with an alpha channel once came back with every transparent pixel turned into the inverse of what lay below.
+TEST_P(CapturedAtSize, IconsWithAnAlphaChannelLeaveWhatIsBelowTheirTransparentPixels) {
+  const int size = GetParam();
+  for (const CapturedSource& source : testing::MakeSources(folder_)) {
+    if (source.name != "32-bit" && source.name != "png") continue;
+    SCOPED_TRACE(source.name);
+    const Capture capture(source, size);
+    const std::string path = folder_.In("saved");
+    ASSERT_TRUE(capture.WriteIcon(path));
+    const IconHandle icon(
+        static_cast<HICON>(LoadImageA(nullptr, path.c_str(), IMAGE_ICON, size, size, LR_LOADFROMFILE)));
+    constexpr Color below = 0x40A0E0;
+    const Surface drawn(size, size, below);
+    DrawIconEx(drawn.Dc(), 0, 0, icon.get(), size, size, 0, nullptr, DI_NORMAL);
+    // Their lower halves are transparent.
+    EXPECT_EQ(drawn.Pixel(0, size - 1), below);
+    EXPECT_EQ(drawn.Pixel(size - 1, size / 2), below);
+    EXPECT_NE(drawn.Pixel(0, size / 2 - 1), below);
+  }
+}
+
 TEST_P(CapturedAtSize, CursorsAreLoadedWithHotSpotImageAndTransparency) {
   ForEachSource([](const Capture& capture, const std::string& path) {
     ASSERT_TRUE(capture.WriteCursor(path));
@@ -147,19 +168,32 @@ TEST_P(CapturedAtSize, BitmapsAreLoadedWithDepthAndPixels) {
   });
 }
 
-// Where an icon's mask is white its composed picture is the background; elsewhere it is the image.
+// Where an icon's mask is white its composed picture is the background; elsewhere it is the image. Where an icon lets
+// some of what is below through, that is white in the one and black in the other: equally much of each colour.
 TEST_P(CapturedAtSize, TheThreeSurfacesFitTogether) {
   ForEachSource([](const Capture& capture, const std::string&) {
     int transparent = 0;
+    int half = 0;
     for (int y = 0; y < capture.Size(); ++y) {
       for (int x = 0; x < capture.Size(); ++x) {
         const bool seeThrough = capture.Mask().Pixel(x, y) == white;
         transparent += seeThrough ? 1 : 0;
         // Half-transparent pixels may be on either side.
         if (seeThrough) continue;
-        ASSERT_EQ(capture.Composed().Pixel(x, y), capture.Image().Pixel(x, y)) << x << ',' << y;
+        const Color composed = capture.Composed().Pixel(x, y);
+        const Color image = capture.Image().Pixel(x, y);
+        const auto through = [&](unsigned channel) {
+          return static_cast<int>(composed >> channel & 0xFFU) - static_cast<int>(image >> channel & 0xFFU);
+        };
+        constexpr int rounding = 2;
+        ASSERT_NEAR(through(0), through(8), rounding) << x << ',' << y;
+        ASSERT_NEAR(through(0), through(16), rounding) << x << ',' << y;
+        ASSERT_GE(through(0), 0) << x << ',' << y;
+        half += through(0) != 0 ? 1 : 0;
       }
     }
+    // No more than an icon's edges.
+    EXPECT_LT(half, capture.Size() * capture.Size() / 4);
     EXPECT_GT(transparent, 0);
     EXPECT_LT(transparent, capture.Size() * capture.Size());
   });
@@ -197,9 +231,11 @@ TEST(CapturedFiles, AnEntryWhoseFileIsGoneLeavesTheSurfacesCleared) {
     ASSERT_TRUE(ModMicroArt::CaptureEntry(icons, source.entry, 32, surfaces)) << source.name;
     ASSERT_NE(DeleteFileW(ToWide(source.entry.path).c_str()), 0);
     EXPECT_FALSE(ModMicroArt::CaptureEntry(icons, source.entry, 32, surfaces)) << source.name;
-    const std::vector<Color> cleared(std::size_t{32} * 32, white);
-    for (const Surface* surface : {&surfaces.Mask(), &surfaces.Image(), &surfaces.Composed()})
-      EXPECT_TRUE(PixelsOf(*surface) == cleared) << source.name;
+    // What is saved then is an icon that shows nothing: transparent, and without an image.
+    constexpr std::size_t pixels = std::size_t{32} * 32;
+    EXPECT_TRUE(PixelsOf(surfaces.Mask()) == std::vector<Color>(pixels, white)) << source.name;
+    EXPECT_TRUE(PixelsOf(surfaces.Image()) == std::vector<Color>(pixels, black)) << source.name;
+    EXPECT_TRUE(PixelsOf(surfaces.Composed()) == std::vector<Color>(pixels, white)) << source.name;
   }
 }
 
