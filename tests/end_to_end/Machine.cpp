@@ -21,14 +21,24 @@ namespace {
 constexpr wchar_t makerKey[] = L"Software\\Vornhold";
 constexpr wchar_t languageKey[] = L"Software\\Vornhold\\Brindle Tarvik\\RegInfo";
 constexpr wchar_t languageName[] = L"Language";
+constexpr wchar_t pageKey[] = L"Software\\Classes\\.html";
+constexpr wchar_t readerKey[] = L"Software\\Classes\\PageThatATestReads";
+constexpr wchar_t readerOpenKey[] = L"Software\\Classes\\PageThatATestReads\\shell\\open\\command";
 constexpr wchar_t emptyDrive[] = L"Q:";
 
-std::optional<std::string> ReadLanguage() {
+// Texts of the machine's part of the registry; no name stands for a key's own text.
+std::optional<std::string> ReadText(const wchar_t* key, const wchar_t* name) {
   wchar_t text[256] = {};
   DWORD size = sizeof text;
-  if (RegGetValueW(HKEY_LOCAL_MACHINE, languageKey, languageName, RRF_RT_REG_SZ, nullptr, text, &size) != ERROR_SUCCESS)
+  if (RegGetValueW(HKEY_LOCAL_MACHINE, key, name, RRF_RT_REG_SZ, nullptr, text, &size) != ERROR_SUCCESS)
     return std::nullopt;
   return ToUtf8(text);
+}
+
+bool WriteText(const wchar_t* key, const wchar_t* name, const std::string& value) {
+  const std::wstring text = ToWide(value);
+  const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+  return RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, name, REG_SZ, text.c_str(), size) == ERROR_SUCCESS;
 }
 
 bool WriteLanguage(const std::optional<std::string>& value) {
@@ -36,9 +46,7 @@ bool WriteLanguage(const std::optional<std::string>& value) {
     const LSTATUS status = RegDeleteTreeW(HKEY_LOCAL_MACHINE, makerKey);
     return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
   }
-  const std::wstring text = ToWide(*value);
-  const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-  return RegSetKeyValueW(HKEY_LOCAL_MACHINE, languageKey, languageName, REG_SZ, text.c_str(), size) == ERROR_SUCCESS;
+  return WriteText(languageKey, languageName, *value);
 }
 
 // What Wine's mount manager is told of a drive; the text follows, found by its offset from the start.
@@ -75,12 +83,28 @@ void DefineUnixDrive(ULONG type, const std::string& path) {
 
 }  // namespace
 
-LanguageValue::LanguageValue(const std::optional<std::string>& value) : former_(ReadLanguage()) {
+LanguageValue::LanguageValue(const std::optional<std::string>& value) : former_(ReadText(languageKey, languageName)) {
   if (!WriteLanguage(value)) throw std::runtime_error("the language cannot be set");
 }
 
 LanguageValue::~LanguageValue() {
   WriteLanguage(former_);
+}
+
+WebPageReader::WebPageReader(const std::string& file) : former_(ReadText(pageKey, nullptr)) {
+  if (!WriteText(readerOpenKey, nullptr, "cmd.exe /c echo %1>" + file) ||
+      !WriteText(pageKey, nullptr, "PageThatATestReads")) {
+    throw std::runtime_error("what opens web pages cannot be changed");
+  }
+}
+
+WebPageReader::~WebPageReader() {
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, readerKey);
+  if (former_) {
+    WriteText(pageKey, nullptr, *former_);
+  } else {
+    RegDeleteTreeW(HKEY_LOCAL_MACHINE, pageKey);
+  }
 }
 
 EmptyDrive::EmptyDrive() {

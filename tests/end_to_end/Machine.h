@@ -19,6 +19,19 @@ class LanguageValue {
   std::optional<std::string> former_;
 };
 
+// Web pages, which the system opens by writing their path to a file instead of showing them. Neither path may have a
+// blank.
+class WebPageReader {
+ public:
+  explicit WebPageReader(const std::string& file);
+  ~WebPageReader();
+  WebPageReader(const WebPageReader&) = delete;
+  WebPageReader& operator=(const WebPageReader&) = delete;
+
+ private:
+  std::optional<std::string> former_;
+};
+
 // Drive Q:, which stands in the list of drives while nothing can be read from it, as an empty card reader does.
 class EmptyDrive {
  public:

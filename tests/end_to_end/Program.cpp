@@ -255,6 +255,16 @@ int Program::CountWindows() const {
   return static_cast<int>(TopWindows().size());
 }
 
+RECT Program::Extent() const {
+  RECT extent{};
+  for (const Control window : TopWindows()) {
+    const RECT place = window.Place();
+    const RECT former = extent;
+    UnionRect(&extent, &former, &place);
+  }
+  return extent;
+}
+
 int Program::CountWindowsWith(int id) const {
   return static_cast<int>(
       std::ranges::count_if(TopWindows(), [id](Control window) { return window.FindChild(id).has_value(); }));

@@ -57,6 +57,8 @@ class Program {
   // How many visible top-level windows the process has, and how many of them have a control with that id.
   int CountWindows() const;
   int CountWindowsWith(int id) const;
+  // The part of the screen that holds all of them.
+  RECT Extent() const;
   // Starts the program, has the start-up window go at once as it does by itself after some seconds, and waits for the
   // main window.
   void Start();

@@ -12,13 +12,16 @@
 namespace tarvik::end_to_end {
 namespace {
 
-// Has the tool take a picture of `place` and write it to `target`: a quoted file name, after a kind where that is not
-// its ending.
-void Take(const RECT& place, const std::string& target) {
+// The command that takes a picture of `place` and writes it to the file that follows.
+std::string TakeCommand(const RECT& place) {
   std::ostringstream command;
   command << "import -silent -window root -crop " << place.right - place.left << 'x' << place.bottom - place.top << '+'
-          << place.left << '+' << place.top << " +repage -depth 8 " << target;
-  const UnixAnswer answer = RunUnix(command.str());
+          << place.left << '+' << place.top << " +repage -depth 8 ";
+  return command.str();
+}
+
+void Run(const std::string& command) {
+  const UnixAnswer answer = RunUnix(command);
   if (answer.exitCode != 0) throw std::runtime_error("no screenshot: " + answer.output);
 }
 
@@ -27,7 +30,7 @@ void Take(const RECT& place, const std::string& target) {
 Screenshot::Screenshot(const RECT& place) {
   const auto file =
       std::filesystem::temp_directory_path() / (L"tarvik-screen-" + std::to_wstring(GetCurrentProcessId()) + L".ppm");
-  Take(place, "ppm:" + UnixQuoted(file));
+  Run(TakeCommand(place) + "ppm:" + UnixQuoted(file));
 
   // The format: "P6", width, height, the highest value, one blank, then red, green and blue of each pixel.
   std::ifstream in(file, std::ios::binary);
@@ -48,7 +51,17 @@ Screenshot::Screenshot(const RECT& place) {
 
 void SavePicture(const RECT& place, const std::filesystem::path& file) {
   std::filesystem::create_directories(file.parent_path());
-  Take(place, UnixQuoted(file));
+  // Pictures are taken until two in a row are the same; where something moves all the time, the last one counts.
+  Run("folder=$(mktemp -d)\ncd $folder\ntake() { " + TakeCommand(place) + R"("ppm:$1"; }
+take former
+for try in 1 2 3 4 5 6 7 8 9 10; do
+  take shown
+  cmp -s former shown && break
+  mv shown former
+done
+[ -e shown ] || mv former shown
+convert ppm:shown )" +
+      UnixQuoted(file) + "\nstatus=$?\nrm -r $folder\nexit $status");
 }
 
 int CountPixels(const PixelView& picture, Color color) {

@@ -28,8 +28,8 @@ class Screenshot : public PixelView {
   std::vector<Color> pixels_;
 };
 
-// Saves a picture of `place`, in screen pixels, for people to look at. The file's ending says which kind of picture;
-// its folder is made where it is not there.
+// Saves a picture of `place`, in screen pixels, for people to look at, once it no longer changes. The file's ending
+// says which kind of picture; its folder is made where it is not there.
 void SavePicture(const RECT& place, const std::filesystem::path& file);
 
 // How many pixels have that colour.

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <filesystem>
+#include <string>
+
+#include "end_to_end/SaveDialog.h"
+#include "end_to_end/ViewByHand.h"
+
+namespace tarvik::end_to_end {
+
+// What a user of that language calls things, and reads.
+struct Tongue {
+  const char* code;
+  const char* folder;     // where the icons are
+  const char* newFolder;  // where a batch goes
+  const char* file;       // a name for one icon
+  const char* notice;     // of the start-up window
+  const char* caption;
+  const char* refused;  // around the two numbers
+  const char* refusedBetween;
+  const char* refusedEnd;
+  const char* foundEnd;  // of the caption, after the number
+  const char* view;      // the enhanced view's caption at 300 %
+  friend void PrintTo(const Tongue& tongue, std::ostream* out) { *out << tongue.code; }
+};
+
+// The whole program as a user goes through it, one place after the other. Every place on the way leaves a picture for
+// people to look at: journeys/ENG and so on in the build's folder.
+class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> {
+ protected:
+  void SetUp() override;
+
+  // The places, in their order.
+  void StartUp();
+  void ChooseFolder();
+  void ChooseTypes();
+  void Search();
+  void LookAtMenus();
+  void LookAtOneIcon();
+  void Select();
+  void SaveOneIcon();
+  void SaveMany();
+  void CopyIcon() const;
+  void ReadTheGuide() const;
+  void LookAtTheAboutBox();
+  void Leave() const;
+  void ComeBack();
+
+  const Tongue& tongue_ = GetParam();
+
+ private:
+  // Icons of every kind, in a folder and one below it.
+  void MakeIcons();
+  std::filesystem::path Pictures() const;
+  // Takes a picture of what the program shows; pictures are numbered along the way.
+  void Picture(const std::string& name);
+
+  // Ticks a box, and types a limit, with the mouse and the keys.
+  void TickByMouse(int id) const;
+  void TypeLimit(const std::string& limit) const;
+  // Opens a menu of the menu bar, counted from 0, by the keyboard.
+  void OpenMenuByKeys(int menu) const;
+  void CloseMenu() const;
+
+  SaveDialog AskForName(int command) const;
+  void SaveAsJpeg(const std::string& name);
+  void SaveAsGif(const std::string& name);
+  void SaveAsCursor(const std::string& name);
+  void SaveAllIcons();
+  // Saves the two selected icons to the folder that SaveAllIcons made. `type` is the image type's place in its list;
+  // `options` a control of the dialog that asks for options and `finish` its OK, 0 where none does.
+  struct Batch {
+    int command;
+    int type;
+    int options;
+    int finish;
+    const char* picture;
+  };
+  void SaveSelected(const Batch& batch);
+  // Waits until a command that saves is over, and the status as it was.
+  void WaitForSave(const std::string& status) const;
+  std::string BatchFolder() const;
+  // How many files of the batches' folder have a name that starts so, and are not empty.
+  int CountSaved(const std::wstring& start) const;
+
+  const ExtraDrive drive_{tree_.Path(), "icons"};  // R:
+  int count_ = 0;                                  // of all icons
+  int pictures_ = 0;                               // taken so far
+};
+
+}  // namespace tarvik::end_to_end
