@@ -5,7 +5,7 @@ namespace tarvik {
 IconSurfaces::IconSurfaces(int size)
     : composed_(size, size, surfaceBackground),
       mask_(size, size, surfaceBackground),
-      image_(size, size, imageBackground) {}
+      image_(size, size, surfaceBackground) {}
 
 void IconSurfaces::Resize(int size) {
   for (Surface* surface : {&composed_, &mask_, &image_}) surface->Resize(size, size, surfaceBackground);
@@ -13,9 +13,7 @@ void IconSurfaces::Resize(int size) {
 }
 
 void IconSurfaces::Clear() {
-  composed_.Clear(surfaceBackground);
-  mask_.Clear(surfaceBackground);
-  image_.Clear(imageBackground);
+  for (Surface* surface : {&composed_, &mask_, &image_}) surface->Clear(surfaceBackground);
 }
 
 }  // namespace tarvik

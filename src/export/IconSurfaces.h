@@ -7,9 +7,6 @@ namespace tarvik {
 
 // The background that icons are captured over: what a bitmap shows where its icon is transparent.
 inline constexpr Color surfaceBackground = white;
-// The background of an icon's image alone. The system blends an image with an alpha channel over it, and black is the
-// one colour that a transparent pixel of an icon file or a cursor file may have: any other changes what lies below.
-inline constexpr Color imageBackground = black;
 
 // The three surfaces of a capture, as pictures in memory: square, all of one size.
 class IconSurfaces final : public ModMicroArt::CaptureSurfaces {

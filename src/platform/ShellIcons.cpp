@@ -34,6 +34,9 @@ class PlatformIcon final : public ExtractedIcon {
     if (step < 0 || step >= stepBound_) return false;
     // Every surface icons are drawn on has a device context.
     const HDC dc = static_cast<DcSurface&>(surface).Dc();
+    // The system blends an image that has an alpha channel over what is there. Black is the one colour that a
+    // transparent pixel of an icon file may have: any other changes what lies below the icon.
+    if (part == DrawPart::Image) PatBlt(dc, corner.x, corner.y, size, size, BLACKNESS);
     return DrawIconEx(dc, corner.x, corner.y, icon_.get(), size, size, static_cast<UINT>(step), nullptr,
                       static_cast<UINT>(part)) != 0;
   }

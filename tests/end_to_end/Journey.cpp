@@ -166,7 +166,6 @@ void Journey::LookAtOneIcon() {
 
 void Journey::Select() {
   ASSERT_TRUE(Eventually([&] { return program_.Window().IsEnabled(); }));
-  BringPointerIn();
   // The window may let go of a held key as the pointer enters it, and then both clicks are made again.
   EXPECT_TRUE(Eventually([&] {
     ClickCell(3);

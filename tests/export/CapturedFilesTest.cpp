@@ -231,11 +231,9 @@ TEST(CapturedFiles, AnEntryWhoseFileIsGoneLeavesTheSurfacesCleared) {
     ASSERT_TRUE(ModMicroArt::CaptureEntry(icons, source.entry, 32, surfaces)) << source.name;
     ASSERT_NE(DeleteFileW(ToWide(source.entry.path).c_str()), 0);
     EXPECT_FALSE(ModMicroArt::CaptureEntry(icons, source.entry, 32, surfaces)) << source.name;
-    // What is saved then is an icon that shows nothing: transparent, and without an image.
-    constexpr std::size_t pixels = std::size_t{32} * 32;
-    EXPECT_TRUE(PixelsOf(surfaces.Mask()) == std::vector<Color>(pixels, white)) << source.name;
-    EXPECT_TRUE(PixelsOf(surfaces.Image()) == std::vector<Color>(pixels, black)) << source.name;
-    EXPECT_TRUE(PixelsOf(surfaces.Composed()) == std::vector<Color>(pixels, white)) << source.name;
+    const std::vector<Color> cleared(std::size_t{32} * 32, white);
+    for (const Surface* surface : {&surfaces.Mask(), &surfaces.Image(), &surfaces.Composed()})
+      EXPECT_TRUE(PixelsOf(*surface) == cleared) << source.name;
   }
 }
 
