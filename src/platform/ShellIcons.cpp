@@ -95,15 +95,24 @@ int ClaimedIcons(const std::string& path) {
   return finished && count <= INT_MAX ? static_cast<int>(count) : 0;
 }
 
-// How many icons can be had of a file that claims more than it has: those before the claim's first wrong one.
-int ExtractableIcons(const std::string& path, int claimed) {
+// How many icons can be had of a file whose icon number `missing` (from 0) cannot be had. The last one that can be had
+// is looked for downwards in growing steps, so that a broken one here and there hides none behind it.
+int ExtractableIcons(const std::string& path, int missing) {
   int had = 0;
-  while (had < claimed) {
-    const int middle = had + (claimed - had) / 2;
+  for (int step = 1; missing > 0 && had == 0; step *= 2) {
+    const int place = std::max(missing - step, 0);
+    if (ExtractLarge(path, place)) {
+      had = place + 1;
+    } else {
+      missing = place;
+    }
+  }
+  while (had < missing) {
+    const int middle = had + (missing - had) / 2;
     if (ExtractLarge(path, middle)) {
       had = middle + 1;
     } else {
-      claimed = middle;
+      missing = middle;
     }
   }
   return had;
