@@ -21,11 +21,11 @@ enum SubSampling { OneToOne, OneToTwo, TwoToOne };
 
 class SaveIcons : public Saving {
  protected:
-  void ExpectIcon(const SeenFile& file, int entry, const char* kind) const {
+  static void ExpectIcon(const SeenFile& file, int entry, const char* kind) {
     EXPECT_THAT(file.told, AllOf(HasSubstr(std::string("--") + kind), HasSubstr("--width=32 --height=32")));
     EXPECT_EQ(file.pixels, IconPixels(entry)) << entry;
   }
-  void ExpectBitmap(const SeenFile& file, int entry) const {
+  static void ExpectBitmap(const SeenFile& file, int entry) {
     EXPECT_THAT(file.told, HasSubstr("BMP3 32x32"));
     EXPECT_EQ(file.pixels, BitmapPixels(entry)) << entry;
   }
@@ -152,10 +152,12 @@ TEST_F(SaveIcons, EachSizeIsSavedAsItIsShown) {
   }
   auto files = SeeFiles(Out());
   for (const std::string side : sides) {
-    EXPECT_THAT(files[side + ".ico"].told, HasSubstr("--width=" + side + " --height=" + side));
+    EXPECT_THAT(files[side + ".ico"].told,
+                HasSubstr(std::string("--width=").append(side).append(" --height=").append(side)));
     for (const char* extension : {".bmp", ".jpg"})
-      EXPECT_THAT(files[side + extension].told, HasSubstr(side + "x" + side)) << extension;
-    EXPECT_THAT(files[side + ".gif"].told, HasSubstr("Width = " + side + ", Height = " + side));
+      EXPECT_THAT(files[side + extension].told, HasSubstr(std::string(side).append("x").append(side))) << extension;
+    EXPECT_THAT(files[side + ".gif"].told,
+                HasSubstr(std::string("Width = ").append(side).append(", Height = ").append(side)));
   }
 }
 
