@@ -70,6 +70,26 @@ TEST(GifEncoder, TellsColoursBackgroundAndPixelShapeInItsHeader) {
   EXPECT_EQ(sink.Bytes().at(12), std::byte{0}) << "square pixels, as nothing else is said";
 }
 
+TEST(GifEncoder, SaysBeforeTheImageWhichColourIsSeenThroughAndNothingElse) {
+  TestSink sink;
+  const TestPicture picture = ManyColors(16, 4);
+  ASSERT_TRUE(GifEncoder(sink).WriteFile(picture, path, Transparent(picture.Pixel(0, 0))));
+  // Behind the header of 13 bytes and four colours: the block's kind and length; a flag for the transparent colour and
+  // none for waiting or clearing; no delay; the colour; the end.
+  const std::vector<std::byte> block(sink.Bytes().begin() + 25, sink.Bytes().begin() + 33);
+  EXPECT_THAT(block, testing::ElementsAre(std::byte{0x21}, std::byte{0xF9}, std::byte{4}, std::byte{1}, std::byte{0},
+                                          std::byte{0}, std::byte{0}, std::byte{0}));
+}
+
+TEST(GifEncoder, UsesEveryPlaceOfThePaletteBesideTheTransparentColour) {
+  const TestPicture picture = ManyColors(64, 4000);
+  const GifContent content = Written(picture, Transparent(picture.Pixel(0, 0)));
+  std::set<int> used;
+  for (int y = 0; y < 64; ++y)
+    for (int x = 0; x < 64; ++x) used.insert(content.Index(x, y));
+  EXPECT_EQ(used.size(), 256U);
+}
+
 TEST(GifEncoder, WritesOneImageOfThePicturesSize) {
   const std::vector<std::pair<int, int>> sizes = {{1, 1},  {16, 16}, {32, 32},   {48, 48},  {64, 64},
                                                   {17, 5}, {300, 2}, {65535, 1}, {1, 65535}};

@@ -73,11 +73,11 @@ class ManyRounds : public testing::FindIconFixture {
     EXPECT_FALSE(testing::ReadAll(saved_.In("Icon 4.ico")).empty());
   }
 
-  // Search, save and copy; in every third round the view, in every fifth one of the saves with a dialog, in turn. More
+  // Search, save and copy; in every fourth round the view, in every tenth one of the saves with a dialog, in turn. More
   // would show no more and take minutes.
   void Round(int number) {
-    constexpr int viewPeriod = 3;
-    constexpr int turnPeriod = 5;
+    constexpr int viewPeriod = 4;
+    constexpr int turnPeriod = 10;
     const std::array<std::function<void()>, 4> turns{[this] { SaveCursor(); }, [this] { SaveJpeg(); },
                                                      [this] { SaveGif(); }, [this] { SaveAll(); }};
     SearchFiles();

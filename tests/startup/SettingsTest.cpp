@@ -58,6 +58,7 @@ TEST(SettingsPath, StandsBesideTheProgramUnderItsName) {
   EXPECT_EQ(SettingsPath("C:\\Tools v1.0\\tarvik"), "C:\\Tools v1.0\\tarvik.dat");
   EXPECT_EQ(SettingsPath("C:\\工具\\my.tarvik.EXE"), "C:\\工具\\my.tarvik.dat");
   EXPECT_EQ(SettingsPath("tarvik.exe"), "tarvik.dat");
+  EXPECT_EQ(SettingsPath("C:\\Tools\\.exe"), "C:\\Tools\\.dat") << "a name that is an extension alone";
 }
 
 TEST_F(SettingsTest, GivesTheDefaultForAnAbsentKey) {

@@ -16,6 +16,10 @@ TEST(Zoom, OffersTenWholeFactors) {
               ::testing::ElementsAre("100%", "200%", "300%", "400%", "500%", "600%", "700%", "800%", "900%", "1000%"));
 }
 
+TEST(Zoom, OpensWithFiveTimes) {
+  EXPECT_EQ(ZoomText(openingZoom), "500%");
+}
+
 TEST(Zoom, TakesItsFactorFromTheRow) {
   for (int row = 0; row < 10; ++row) EXPECT_EQ(ZoomText(ZoomOfRow(row)), std::to_string(row + 1) + "00%");
 }
