@@ -102,8 +102,18 @@ std::optional<std::string> Search(const Program& program, const Scale& scale, co
   return message;
 }
 
-void SaveBothViews(const Program& program, const fs::path& home) {
+// The enhanced view of the icon that a search has made the current one.
+void SaveEnhancedView(const Program& program, const fs::path& picture) {
+  program.Item(FrmFindIcon_PicIcons).Post(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(1, 1));
+  const Control view = program.WaitForWindowWith(frmBit_img);
+  SavePicture(view.Place(), picture);
+  view.Post(WM_CLOSE);
+  if (!Eventually([&] { return IsWindow(view.Window()) == 0; })) throw std::runtime_error("the enhanced view stays");
+}
+
+void SaveViews(const Program& program, const fs::path& home) {
   SavePicture(program.Window().Place(), home / L"grid.png");
+  SaveEnhancedView(program, home / L"view.png");
   program.Item(FrmFindIcon_OptView1).Send(BM_CLICK);
   SavePicture(program.Window().Place(), home / L"list.png");
 }
@@ -120,7 +130,7 @@ void Run(const std::string& home, const std::string& folder) {
   for (const Scale& scale : scales) {
     const auto message = Search(program, scale, homePath / L"refused.png");
     if (!message) {
-      SaveBothViews(program, homePath);
+      SaveViews(program, homePath);
       const int count = ReportView(program.Item(FrmFindIcon_Lv)).RowCount();
       std::printf("It found %d icons (at %s; the limit was %s)\n", count, scale.name, scale.limit);
       break;
