@@ -11,10 +11,17 @@
 namespace tarvik {
 namespace {
 
-// The language key, made for the test where there is none, and put back after it.
+// Takes the language key away, with what a test that was broken off may have left in it.
+void DeleteKey() {
+  for (const char* key : {RegistryLanguageStore::key, R"(Software\Vornhold\Brindle Tarvik)", R"(Software\Vornhold)"})
+    RegDeleteKeyA(HKEY_LOCAL_MACHINE, key);
+}
+
+// The language key, new and without a value, for as long as it lives.
 class LanguageKey {
  public:
   LanguageKey() {
+    DeleteKey();
     HKEY key = nullptr;
     DWORD disposition = 0;
     EXPECT_EQ(RegCreateKeyExA(HKEY_LOCAL_MACHINE, RegistryLanguageStore::key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
@@ -24,8 +31,7 @@ class LanguageKey {
   }
   ~LanguageKey() {
     key_.reset();
-    for (const char* key : {RegistryLanguageStore::key, R"(Software\Vornhold\Brindle Tarvik)", R"(Software\Vornhold)"})
-      RegDeleteKeyA(HKEY_LOCAL_MACHINE, key);
+    DeleteKey();
   }
   LanguageKey(const LanguageKey&) = delete;
   LanguageKey& operator=(const LanguageKey&) = delete;
@@ -62,6 +68,7 @@ TEST(RegistryLanguageStore, GivesBlanksWhereThereIsNoValue) {
 }
 
 TEST(RegistryLanguageStore, GivesNothingWhereThereIsNoKey) {
+  DeleteKey();
   EXPECT_EQ(Read(), "");
 }
 
