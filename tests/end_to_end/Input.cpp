@@ -126,6 +126,7 @@ POINT MiddleOf(const RECT& place) {
 }
 
 void PressKey(WORD key, HeldKeys held, int times) {
+  if (times == 0) return;
   std::string presses = "key --delay 1";
   for (int i = 0; i < times; ++i) presses += " " + KeyName(key);
   Do(Held(presses, held));
