@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "driver/Input.h"
 #include "end_to_end/EndToEndTest.h"
-#include "end_to_end/Input.h"
 #include "platform/IconFiles.h"
 
 namespace tarvik::end_to_end {

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "end_to_end/Screen.h"
+#include "driver/Screen.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/Machine.h"
-#include "end_to_end/Program.h"
-#include "end_to_end/Waiting.h"
+#include "driver/Machine.h"
+#include "driver/Program.h"
+#include "driver/Waiting.h"
 #include "platform/Surface.h"
 #include "platform/TemporaryFolder.h"
 #include "resource.h"

@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
+#include "driver/Input.h"
 #include "end_to_end/EndToEndTest.h"
-#include "end_to_end/Input.h"
 #include "platform/FolderPath.h"
 
 namespace tarvik::end_to_end {

@@ -3,9 +3,9 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
+#include "driver/Input.h"
+#include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
-#include "end_to_end/Input.h"
-#include "end_to_end/Screen.h"
 #include "platform/IconFiles.h"
 #include "platform/Surface.h"
 

@@ -9,8 +9,8 @@
 #include <array>
 #include <vector>
 
-#include "end_to_end/Dialogs.h"
-#include "end_to_end/SeenFiles.h"
+#include "driver/Dialogs.h"
+#include "driver/SeenFiles.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
@@ -111,14 +111,16 @@ void Journey::TypeLimit(const std::string& limit) const {
 
 void Journey::Search() {
   TypeLimit("100");
-  const Box refusal = FindAndWaitForBox();
+  PressKey(VK_RETURN);
+  const Box refusal = program_.WaitForBox();
   EXPECT_EQ(refusal.Text(),
             tongue_.refused + std::to_string(count_) + tongue_.refusedBetween + "100" + tongue_.refusedEnd);
   Picture("refused");
   refusal.Press(IDOK);
   ASSERT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind); }));
   TypeLimit("200");
-  Find();
+  Click(MiddleOf(program_.Item(FrmFindIcon_CmdFind).Place()));
+  ASSERT_TRUE(Eventually([&] { return List().RowCount() == count_ && IsEnabled(FrmFindIcon_CmdFind); }));
   EXPECT_EQ(Caption(), "Brindle Tarvik - " + std::string(root) + tongue_.folder + " - " + std::to_string(count_) +
                            tongue_.foundEnd);
   EXPECT_EQ(List().RowCount(), count_);
@@ -183,8 +185,31 @@ void Journey::Select() {
   EXPECT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_PicFrame).IsVisible(); }));
 }
 
+void Journey::ChooseInFileMenu(int command) const {
+  // Places are counted from 0, without the lines between the items.
+  struct Item {
+    int command;
+    int place;
+    int placeInSubMenu;  // -1 where there is none
+  };
+  constexpr std::array items{
+      Item{FrmFindIcon_mnuSaveAs, 1, -1},       Item{FrmFindIcon_MnuSaveAsBitmap, 2, -1},
+      Item{FrmFindIcon_MnuSaveAsCursor, 3, -1}, Item{FrmFindIcon_mnuSaveAll, 4, 1},
+      Item{FrmFindIcon_mnuSaveSel2, 5, 0},      Item{FrmFindIcon_mnuSaveSel3, 6, 0},
+  };
+  const auto item = std::ranges::find(items, command, &Item::command);
+  ASSERT_NE(item, items.end()) << command;
+  OpenMenuByKeys(0);
+  PressKey(VK_DOWN, {}, item->place);
+  if (item->placeInSubMenu >= 0) {
+    PressKey(VK_RIGHT);
+    PressKey(VK_DOWN, {}, item->placeInSubMenu);
+  }
+  PressKey(VK_RETURN);
+}
+
 SaveDialog Journey::AskForName(int command) const {
-  program_.Command(command);
+  ChooseInFileMenu(command);
   return SaveDialog(program_);
 }
 
@@ -212,7 +237,7 @@ void Journey::SaveAsGif(const std::string& name) {
 }
 
 void Journey::SaveAsCursor(const std::string& name) {
-  program_.Command(FrmFindIcon_MnuSaveAsCursor);
+  ChooseInFileMenu(FrmFindIcon_MnuSaveAsCursor);
   const Dialog hotSpot(program_, FrmHotSpot_PicCursor);
   Picture("hot-spot");
   hotSpot.End(FrmHotSpot_CmdOk);
@@ -256,7 +281,7 @@ int Journey::CountSaved(const std::wstring& start) const {
 
 void Journey::SaveAllIcons() {
   const std::string status = Status();
-  program_.Command(FrmFindIcon_mnuSaveAll);
+  ChooseInFileMenu(FrmFindIcon_mnuSaveAll);
   const FolderChooser chooser(program_);
   const NewFolderDialog newFolder(program_, chooser);
   Picture("new-folder");
@@ -270,7 +295,7 @@ void Journey::SaveAllIcons() {
 
 void Journey::SaveSelected(const Batch& batch) {
   const std::string status = Status();
-  program_.Command(batch.command);
+  ChooseInFileMenu(batch.command);
   const FolderChooser chooser(program_);
   chooser.Open(tongue_.newFolder);
   if (batch.type != 0) chooser.ChooseType(batch.type);

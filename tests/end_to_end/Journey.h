@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-#include "end_to_end/SaveDialog.h"
+#include "driver/SaveDialog.h"
 #include "end_to_end/ViewByHand.h"
 
 namespace tarvik::end_to_end {
@@ -64,6 +64,8 @@ class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> 
   // Opens a menu of the menu bar, counted from 0, by the keyboard.
   void OpenMenuByKeys(int menu) const;
   void CloseMenu() const;
+  // Gives one of the commands that save, by the keyboard.
+  void ChooseInFileMenu(int command) const;
 
   SaveDialog AskForName(int command) const;
   void SaveAsJpeg(const std::string& name);

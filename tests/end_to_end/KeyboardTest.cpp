@@ -4,8 +4,8 @@
 
 #include <set>
 
+#include "driver/Input.h"
 #include "end_to_end/EndToEndTest.h"
-#include "end_to_end/Input.h"
 #include "platform/IconFiles.h"
 
 namespace tarvik::end_to_end {

@@ -33,20 +33,18 @@ class SaveBusy : public Saving {
   void ExpectToKeepNothing(const char* name, const std::function<void()>& command, int keptBySystem) const {
     constexpr int warmUps = 2;
     constexpr int rounds = 20;
-    int objects = 0;
-    int handles = 0;
+    testing::Holdings before{};
     for (int round = 0; round < warmUps + rounds; ++round) {
-      if (round == warmUps) {
-        objects = program_.CountGdiObjects();
-        handles = program_.CountHandles();
-      }
+      if (round == warmUps) before = program_.Held();
       command();
       ExpectAsFound();
     }
-    EXPECT_GT(objects, 0);
-    EXPECT_GT(handles, 0);
-    EXPECT_LT(program_.CountGdiObjects(), objects + rounds / 2) << name;
-    EXPECT_LT(program_.CountHandles(), handles + rounds * keptBySystem + rounds / 2) << name;
+    EXPECT_GT(before.gdiObjects, 0);
+    EXPECT_GT(before.kernelHandles, 0);
+    const testing::Holdings after = program_.Held();
+    EXPECT_LT(after.gdiObjects, before.gdiObjects + rounds / 2) << name;
+    EXPECT_LT(after.kernelHandles, before.kernelHandles + rounds * keptBySystem + rounds / 2) << name;
+    EXPECT_LT(after.userHandles, before.userHandles + rounds / 2) << name;
   }
 
   // Does something while a batch stands still in its middle, and lets it end.

@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "driver/SeenFiles.h"
 #include "end_to_end/SavingTest.h"
-#include "end_to_end/SeenFiles.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {

@@ -5,8 +5,8 @@
 
 #include <filesystem>
 
+#include "driver/SeenFiles.h"
 #include "end_to_end/SavingTest.h"
-#include "end_to_end/SeenFiles.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {

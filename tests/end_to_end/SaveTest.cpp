@@ -4,8 +4,8 @@
 
 #include <cstdlib>
 
+#include "driver/SeenFiles.h"
 #include "end_to_end/SavingTest.h"
-#include "end_to_end/SeenFiles.h"
 
 namespace tarvik::end_to_end {
 namespace {

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/Dialogs.h"
-#include "end_to_end/SaveDialog.h"
+#include "driver/Dialogs.h"
+#include "driver/SaveDialog.h"
 #include "end_to_end/SelectionByHand.h"
 
 namespace tarvik::end_to_end {

@@ -4,9 +4,9 @@
 
 #include <utility>
 
+#include "driver/Input.h"
+#include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
-#include "end_to_end/Input.h"
-#include "end_to_end/Screen.h"
 #include "platform/IconFiles.h"
 
 namespace tarvik::end_to_end {

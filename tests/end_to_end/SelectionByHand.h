@@ -5,9 +5,9 @@
 #include <set>
 #include <string>
 
+#include "driver/Input.h"
+#include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
-#include "end_to_end/Input.h"
-#include "end_to_end/Screen.h"
 #include "grid/GridGeometry.h"
 #include "platform/IconFiles.h"
 

@@ -6,8 +6,8 @@
 #include <aclapi.h>
 #include <sddl.h>
 
+#include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
-#include "end_to_end/Screen.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {

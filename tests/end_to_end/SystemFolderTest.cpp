@@ -6,8 +6,8 @@
 #include <map>
 #include <sstream>
 
+#include "driver/UnixProgram.h"
 #include "end_to_end/EndToEndTest.h"
-#include "end_to_end/UnixProgram.h"
 #include "platform/FolderPath.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "end_to_end/EnhancedView.h"
+#include "driver/EnhancedView.h"
 #include "end_to_end/SelectionByHand.h"
 #include "platform/Surface.h"
 #include "platform/Text.h"

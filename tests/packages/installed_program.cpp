@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/Controls.h"
-#include "end_to_end/Waiting.h"
+#include "driver/Controls.h"
+#include "driver/Waiting.h"
 #include "platform/Handles.h"
 #include "platform/IconFiles.h"
 #include "platform/TemporaryFolder.h"

@@ -19,11 +19,11 @@
 #include <stdexcept>
 #include <string>
 
-#include "end_to_end/Controls.h"
-#include "end_to_end/Program.h"
-#include "end_to_end/Screen.h"
-#include "end_to_end/UnixProgram.h"
-#include "end_to_end/Waiting.h"
+#include "driver/Controls.h"
+#include "driver/Program.h"
+#include "driver/Screen.h"
+#include "driver/UnixProgram.h"
+#include "driver/Waiting.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
 #include "resource.h"

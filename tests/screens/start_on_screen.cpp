@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/Machine.h"
-#include "end_to_end/Program.h"
-#include "end_to_end/Waiting.h"
+#include "driver/Machine.h"
+#include "driver/Program.h"
+#include "driver/Waiting.h"
 #include "platform/Handles.h"
 #include "platform/TemporaryFolder.h"
 #include "resource.h"

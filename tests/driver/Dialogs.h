@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/Program.h"
+#include "driver/Program.h"
 
 namespace tarvik::end_to_end {
 

@@ -1,4 +1,4 @@
-#include "end_to_end/Input.h"
+#include "driver/Input.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <thread>
 
-#include "end_to_end/UnixProgram.h"
+#include "driver/UnixProgram.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {

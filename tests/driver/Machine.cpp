@@ -1,4 +1,4 @@
-#include "end_to_end/Machine.h"
+#include "driver/Machine.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -11,7 +11,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "end_to_end/UnixProgram.h"
+#include "driver/UnixProgram.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 

@@ -1,4 +1,4 @@
-#include "end_to_end/Program.h"
+#include "driver/Program.h"
 
 #include <psapi.h>
 #include <windows.h>
@@ -8,10 +8,8 @@
 #include <span>
 #include <stdexcept>
 
-#include "end_to_end/UnixProgram.h"
-#include "end_to_end/Waiting.h"
-#include "platform/GdiObjects.h"
-#include "platform/Holdings.h"
+#include "driver/UnixProgram.h"
+#include "driver/Waiting.h"
 #include "platform/Text.h"
 #include "resource.h"
 
@@ -204,14 +202,6 @@ std::string Program::CurrentFolder() const {
   std::wstring text(folder.Length / sizeof(wchar_t), L'\0');
   read(reinterpret_cast<const std::byte*>(folder.Buffer), text.data(), folder.Length);
   return ToUtf8(text);
-}
-
-int Program::CountGdiObjects() const {
-  return testing::CountGdiObjects(process_.get());
-}
-
-int Program::CountHandles() const {
-  return testing::HeldBy(process_.get()).kernelHandles;
 }
 
 Control Program::Item(int id) const {

@@ -1,4 +1,4 @@
-#include "end_to_end/UnixProgram.h"
+#include "driver/UnixProgram.h"
 
 #include <windows.h>
 
@@ -7,7 +7,7 @@
 #include <iterator>
 #include <stdexcept>
 
-#include "end_to_end/Waiting.h"
+#include "driver/Waiting.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 

@@ -1,4 +1,4 @@
-#include "end_to_end/Waiting.h"
+#include "driver/Waiting.h"
 
 #include <thread>
 

@@ -7,8 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/Controls.h"
+#include "driver/Controls.h"
 #include "platform/Handles.h"
+#include "platform/Holdings.h"
 
 namespace tarvik::end_to_end {
 
@@ -78,9 +79,8 @@ class Program {
 
   // The folder that the process stands in, with a backslash at its end.
   std::string CurrentFolder() const;
-  // What the process has of the system.
-  int CountGdiObjects() const;
-  int CountHandles() const;
+  // What the process holds of the system.
+  testing::Holdings Held() const { return testing::HeldBy(process_.get()); }
 
   // The main window; none before Start.
   Control Window() const { return window_; }

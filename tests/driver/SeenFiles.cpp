@@ -1,8 +1,8 @@
-#include "end_to_end/SeenFiles.h"
+#include "driver/SeenFiles.h"
 
 #include <stdexcept>
 
-#include "end_to_end/UnixProgram.h"
+#include "driver/UnixProgram.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
 

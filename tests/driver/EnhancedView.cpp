@@ -1,9 +1,9 @@
-#include "end_to_end/EnhancedView.h"
+#include "driver/EnhancedView.h"
 
 #include <stdexcept>
 
-#include "end_to_end/Input.h"
-#include "end_to_end/Waiting.h"
+#include "driver/Input.h"
+#include "driver/Waiting.h"
 
 namespace tarvik::end_to_end {
 

@@ -1,4 +1,4 @@
-#include "end_to_end/SaveDialog.h"
+#include "driver/SaveDialog.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "end_to_end/Screen.h"
+#include "driver/Screen.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -7,7 +7,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "end_to_end/UnixProgram.h"
+#include "driver/UnixProgram.h"
 
 namespace tarvik::end_to_end {
 namespace {

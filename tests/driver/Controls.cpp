@@ -1,11 +1,11 @@
-#include "end_to_end/Controls.h"
+#include "driver/Controls.h"
 
 #include <commctrl.h>
 
 #include <stdexcept>
 #include <string_view>
 
-#include "end_to_end/Waiting.h"
+#include "driver/Waiting.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 

@@ -1,11 +1,11 @@
-#include "end_to_end/Dialogs.h"
+#include "driver/Dialogs.h"
 
 #include <windows.h>
 
 #include <algorithm>
 #include <stdexcept>
 
-#include "end_to_end/Waiting.h"
+#include "driver/Waiting.h"
 #include "resource.h"
 
 namespace tarvik::end_to_end {

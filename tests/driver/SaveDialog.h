@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/Dialogs.h"
+#include "driver/Dialogs.h"
 
 namespace tarvik::end_to_end {
 

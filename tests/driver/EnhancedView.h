@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "end_to_end/Controls.h"
-#include "end_to_end/Program.h"
+#include "driver/Controls.h"
+#include "driver/Program.h"
 #include "resource.h"
 
 namespace tarvik::end_to_end {
