@@ -69,6 +69,13 @@ start_wine() {
   # Its services would hold this script's output open, so they get none of it.
   wineserver -p >/dev/null 2>&1 </dev/null 9>&- || true
   wine wineboot >/dev/null 2>&1 </dev/null 9>&- || fail "Wine does not start"
+  [ "$1" = own ] || stay_on_desktop
+}
+
+# stay_on_desktop: Wine closes its desktop when no program has used it for a second, and whoever started the program that
+# opened it waits for that. So one program, which waits for input that never comes, keeps the desktop open to the end.
+stay_on_desktop() {
+  sleep infinity 9>&- | wine cmd >/dev/null 2>&1 9>&- &
 }
 
 # choose_desktop DESKTOP: Wine reads the choice only when it starts, so it is made before, and rarely.
