@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <psapi.h>
 #include <shellapi.h>
 
 #include <cstdio>
@@ -18,6 +17,7 @@
 #include "platform/Folders.h"
 #include "platform/GdiObjects.h"
 #include "platform/Handles.h"
+#include "platform/Holdings.h"
 #include "platform/Paths.h"
 #include "platform/ShellIcons.h"
 #include "platform/Surface.h"
@@ -176,7 +176,7 @@ void CompareFolderCounts(const std::string& root) {
 struct Holdings {
   int gdiObjects = 0;
   int windows = 0;
-  double megabytes = 0;  // of private memory
+  double megabytes = 0;  // of memory in use
 };
 
 BOOL CALLBACK CountWindow(HWND /*window*/, LPARAM count) {
@@ -187,9 +187,7 @@ BOOL CALLBACK CountWindow(HWND /*window*/, LPARAM count) {
 Holdings Hold() {
   Holdings held{testing::CountGdiObjects(), 0, 0};
   EnumThreadWindows(GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&held.windows));
-  PROCESS_MEMORY_COUNTERS_EX memory{};
-  GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory), sizeof memory);
-  held.megabytes = static_cast<double>(memory.PrivateUsage) / (1024.0 * 1024.0);
+  held.megabytes = static_cast<double>(testing::HeldBy(GetCurrentProcess()).bytes) / (1024.0 * 1024.0);
   return held;
 }
 
