@@ -3,14 +3,13 @@
 
 #include <windows.h>
 
-#include <shellapi.h>
-
 #include <array>
 #include <cstdio>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "BareIcon.h"
 #include "BenchData.h"
 #include "Measure.h"
 #include "OutputFolder.h"
@@ -106,25 +105,12 @@ class BareCalls {
 
   void Run(const OutputFolder& output) {
     for (int number = 0; number < icons; ++number) {
-      Draw(number);
+      DrawBareIcon(library_, number % libraryIcons, iconSize, surfaces_);
       OutputFolder::Write(output.File(number), std::span(bytes_).first(lengths_[static_cast<std::size_t>(number)]));
     }
   }
 
  private:
-  void Draw(int number) {
-    HICON large = nullptr;
-    ExtractIconExA(library_.c_str(), number % libraryIcons, &large, nullptr, 1);
-    const IconHandle icon(large);
-    const auto draw = [&](const Surface& surface, UINT part) {
-      DrawIconEx(surface.Dc(), 0, 0, icon.get(), iconSize, iconSize, 0, nullptr, part);
-    };
-    draw(surfaces_.Mask(), DI_MASK);
-    draw(surfaces_.Image(), DI_IMAGE);
-    draw(surfaces_.Composed(), DI_NORMAL);
-    GdiFlush();
-  }
-
   std::string library_;
   std::vector<std::size_t> lengths_;
   std::vector<std::byte> bytes_;

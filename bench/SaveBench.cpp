@@ -3,14 +3,13 @@
 
 #include <windows.h>
 
-#include <shellapi.h>
-
 #include <cstddef>
 #include <filesystem>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "BareIcon.h"
 #include "BenchData.h"
 #include "MainWindow.h"
 #include "Measure.h"
@@ -37,7 +36,7 @@ class BareCalls {
     int number = 0;
     for (const std::string& path : paths_) {
       for (int index = 0; index < iconsInEach; ++index) {
-        Draw(path, index);
+        DrawBareIcon(path, index, iconSize, surfaces_);
         OutputFolder::Write(output.File(++number), bytes_);
       }
     }
@@ -52,19 +51,6 @@ class BareCalls {
       ++files;
     }
     return files == 0 ? 0 : bytes / files;
-  }
-
-  void Draw(const std::string& path, int index) {
-    HICON large = nullptr;
-    ExtractIconExA(path.c_str(), index, &large, nullptr, 1);
-    const IconHandle icon(large);
-    const auto draw = [&](const Surface& surface, UINT part) {
-      DrawIconEx(surface.Dc(), 0, 0, icon.get(), iconSize, iconSize, 0, nullptr, part);
-    };
-    draw(surfaces_.Mask(), DI_MASK);
-    draw(surfaces_.Image(), DI_IMAGE);
-    draw(surfaces_.Composed(), DI_NORMAL);
-    GdiFlush();
   }
 
   std::vector<std::string> paths_;

@@ -19,31 +19,10 @@
 #include "platform/Text.h"
 #include "resource.h"
 #include "search/FrmFindIcon.h"
+#include "startup/MemoryIni.h"
 #include "startup/RunTimeErrorBox.h"
 
 namespace tarvik::testing {
-
-// Settings kept in memory.
-class MemoryIni final : public IniStore {
- public:
-  std::string Read(const std::string& section, const std::string& key, const std::string& defaultValue,
-                   int /*capacity*/, const std::string& /*file*/) override {
-    const auto found = values.find(section + "/" + key);
-    return found == values.end() ? defaultValue : found->second;
-  }
-  int Write(const std::string& section, const std::string& key, const std::string& value,
-            const std::string& /*file*/) override {
-    values[section + "/" + key] = value;
-    return 1;
-  }
-  int DeleteKey(const std::string& section, const std::string& key, const std::string& /*file*/) override {
-    values.erase(section + "/" + key);
-    return 1;
-  }
-  int DeleteSection(const std::string& /*section*/, const std::string& /*file*/) override { return 0; }
-
-  std::map<std::string, std::string> values;
-};
 
 // An icon that is one opaque square of a colour of its own.
 class SquareIcon final : public ExtractedIcon {

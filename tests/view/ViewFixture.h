@@ -15,6 +15,7 @@
 #include "platform/Surface.h"
 #include "platform/Text.h"
 #include "resource.h"
+#include "startup/MemoryIni.h"
 #include "view/FakeHost.h"
 #include "view/frmBit.h"
 
@@ -78,7 +79,7 @@ class ViewFixture : public ::testing::Test {
   SIZE WindowSize() const;
 
   ProgramState state;
-  MemoryStore store;
+  MemoryIni store;
   Settings settings{store, "C:\\program\\tarvik.exe"};
   Application application{GetModuleHandleW(nullptr)};
   int errors = 0;  // run-time errors that reached the boundary of a handler

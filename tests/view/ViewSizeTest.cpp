@@ -6,6 +6,7 @@
 #include <limits>
 #include <string>
 
+#include "startup/MemoryIni.h"
 #include "view/FakeHost.h"
 
 namespace tarvik {
@@ -15,7 +16,7 @@ constexpr float largest = std::numeric_limits<float>::max();
 
 class ViewSizeTest : public ::testing::Test {
  protected:
-  testing::MemoryStore store;
+  testing::MemoryIni store;
   Settings settings{store, "C:\\program\\tarvik.exe"};
 };
 
