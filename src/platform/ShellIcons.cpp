@@ -95,25 +95,16 @@ int ClaimedIcons(const std::string& path) {
   return finished && count <= INT_MAX ? static_cast<int>(count) : 0;
 }
 
-// How many icons can be had of a file whose icon number `missing` (from 0) cannot be had. The last one that can be had
-// is looked for downwards in growing steps, so that a broken one here and there hides none behind it.
-int ExtractableIcons(const std::string& path, int missing) {
+// How many icons can be had of a file that claims more. From the end, it is looked for one that can be had in growing
+// steps, and from there upwards for the last one: only a hundred broken ones in a row hide those behind them.
+int ExtractableIcons(const std::string& path, int claimed) {
   int had = 0;
-  for (int step = 1; missing > 0 && had == 0; step *= 2) {
-    const int place = std::max(missing - step, 0);
-    if (ExtractLarge(path, place)) {
-      had = place + 1;
-    } else {
-      missing = place;
-    }
+  for (int step = 1, place = claimed - 1; place > 0 && had == 0; step *= 2) {
+    place = std::max(place - step, 0);
+    if (ExtractLarge(path, place)) had = place + 1;
   }
-  while (had < missing) {
-    const int middle = had + (missing - had) / 2;
-    if (ExtractLarge(path, middle)) {
-      had = middle + 1;
-    } else {
-      missing = middle;
-    }
+  for (int place = had; place < claimed && place < had + believedCount; ++place) {
+    if (ExtractLarge(path, place)) had = place + 1;
   }
   return had;
 }
@@ -123,7 +114,7 @@ int ExtractableIcons(const std::string& path, int missing) {
 int ShellIcons::CountIcons(const std::string& path) {
   const int claimed = ClaimedIcons(path);
   if (claimed <= believedCount || ExtractLarge(path, claimed - 1)) return claimed;
-  return ExtractableIcons(path, claimed - 1);
+  return ExtractableIcons(path, claimed);
 }
 
 std::unique_ptr<ExtractedIcon> ShellIcons::Extract(const std::string& path, int index) {

@@ -248,16 +248,19 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
   EXPECT_EQ(StepColors(folder.MakeFile("good.ani", AnimationFile(twoPictures))), (std::vector{red, blue}));
 }
 
-// A library of that many icons whose resource tree claims another number of them.
-Bytes LyingLibrary(int icons, std::uint16_t claimed) {
+// A library of icons whose resource tree claims another number of them.
+Bytes LyingLibrary(std::span<const IconPicture> pictures, std::uint16_t claimed) {
   constexpr std::size_t sectionPlace = 0x200;  // the tree's place in the file
   constexpr std::size_t countPlace = 14;       // in a directory
-  const std::vector pictures(static_cast<std::size_t>(icons), BitmapPicture(16, 1, red, red));
   testing::SoundFile library = testing::Library(testing::Bitness::Bits64, pictures);
   const std::size_t groups = library.directories[2] & 0x7FFFFFFF;
   library.bytes[sectionPlace + groups + countPlace] = static_cast<std::byte>(claimed);
   library.bytes[sectionPlace + groups + countPlace + 1] = static_cast<std::byte>(claimed >> 8U);
   return library.bytes;
+}
+
+Bytes LyingLibrary(int icons, std::uint16_t claimed) {
+  return LyingLibrary(std::vector(static_cast<std::size_t>(icons), BitmapPicture(16, 1, red, red)), claimed);
 }
 
 // Such a count once ended every search of its folder, with a message that told of thousands of icons or of an overflow.
@@ -268,6 +271,22 @@ TEST(ShellIcons, BelievesNoFileMoreThanAHundredIconsThatItDoesNotHave) {
     const auto name = std::to_string(claimed) + ".dll";
     EXPECT_EQ(icons.CountIcons(folder.MakeFile(name, LyingLibrary(3, static_cast<std::uint16_t>(claimed)))), 3) << name;
   }
+}
+
+TEST(ShellIcons, NoBrokenIconHidesThoseBehindItWhereTheCountIsALie) {
+  const TemporaryFolder folder;
+  ShellIcons icons;
+  std::vector pictures(50, BitmapPicture(16, 1, red, red));
+  // Each place alone, then the first half together.
+  for (std::size_t broken = 0; broken < pictures.size() - 1; ++broken) {
+    auto damaged = pictures;
+    damaged[broken].data.clear();
+    const std::string path = folder.MakeFile(std::to_string(broken) + ".dll", LyingLibrary(damaged, 4000));
+    ASSERT_EQ(icons.Extract(path, static_cast<int>(broken)), nullptr);
+    EXPECT_EQ(icons.CountIcons(path), 50) << "without icon " << broken;
+  }
+  for (IconPicture& picture : std::span(pictures).first(25)) picture.data.clear();
+  EXPECT_EQ(icons.CountIcons(folder.MakeFile("half.dll", LyingLibrary(pictures, 4000))), 50);
 }
 
 TEST(ShellIcons, CountsAHundredIconsOrMoreThatAreThere) {
