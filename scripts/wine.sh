@@ -27,9 +27,6 @@ REGEDIT4
 
 [HKEY_CURRENT_USER\Software\Wine\WineDbg]
 "ShowCrashDialog"=dword:00000000
-
-[HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]
-"Default"="1280x960"
 REG
   wine regedit /S "$(winepath -w "$WINEPREFIX/settings.reg")" >/dev/null 2>&1 </dev/null 9>&- || fail "Wine refused the settings"
   wineserver -w
@@ -44,11 +41,12 @@ lock_wine() {
   wineserver -k >/dev/null 2>&1 9>&- || true
 }
 
-# start_display: a virtual screen of our own; sets DISPLAY.
+# start_display [WIDTHxHEIGHTxDEPTH]: a virtual screen of our own; sets DISPLAY.
 start_display() {
-  local number_file
+  local screen=${1:-1280x960x24} number_file
+  display_size=${screen%x*}
   number_file=$(mktemp)
-  Xvfb -displayfd 3 -screen 0 "${1:-1280x960x24}" -nolisten tcp 3>"$number_file" >/dev/null 2>&1 </dev/null 9>&- &
+  Xvfb -displayfd 3 -screen 0 "$screen" -nolisten tcp 3>"$number_file" >/dev/null 2>&1 </dev/null 9>&- &
   for _ in $(seq 300); do
     [ ! -s "$number_file" ] || break
     sleep 0.1
@@ -59,8 +57,9 @@ start_display() {
   rm -f "$number_file"
 }
 
-# start_wine DESKTOP: keeps one Wine server up, so that each program starts in milliseconds. DESKTOP is "virtual" where
-# there is no window manager (Wine then draws a desktop and the title bars itself) and "own" where there is one.
+# start_wine DESKTOP: keeps one Wine server up, so that each program starts in milliseconds. DESKTOP is "virtual" on a
+# display of start_display, where there is no window manager (Wine then draws a desktop as large as that display, and the
+# title bars), and "own" where there is one.
 start_wine() {
   lock_wine
   make_prefix
@@ -78,15 +77,26 @@ stay_on_desktop() {
   sleep infinity 9>&- | wine cmd >/dev/null 2>&1 9>&- &
 }
 
-# choose_desktop DESKTOP: Wine reads the choice only when it starts, so it is made before, and rarely.
+# choose_desktop DESKTOP: Wine reads the choice only when it starts, so it is made before, and rarely. In what Wine keeps,
+# one "Default" under "Desktops" is the size of the desktop that "Desktop" names.
 choose_desktop() {
-  local chosen=own key='HKCU\Software\Wine\Explorer' change
-  if grep -q '^"Desktop"="Default"' "$WINEPREFIX/user.reg"; then chosen=virtual; fi
-  [ "$chosen" != "$1" ] || return 0
-  if [ "$1" = virtual ]; then change=(add "$key" /v Desktop /d Default /f); else change=(delete "$key" /v Desktop /f); fi
-  wine reg "${change[@]}" >/dev/null 2>&1 </dev/null 9>&- || fail "Wine refused its desktop setting"
+  local key='HKCU\Software\Wine\Explorer' chosen size
+  chosen=$(grep -q '^"Desktop"="Default"' "$WINEPREFIX/user.reg" && echo virtual || echo own)
+  size=$(sed -n 's/^"Default"="\([0-9]*x[0-9]*\)"$/\1/p' "$WINEPREFIX/user.reg")
+  if [ "$1" = own ]; then
+    [ "$chosen" != own ] || return 0
+    set_registry delete "$key" /v Desktop /f
+  else
+    [ "$chosen" != virtual ] || [ "$size" != "$display_size" ] || return 0
+    set_registry add "$key" /v Desktop /d Default /f
+    set_registry add "$key\\Desktops" /v Default /d "$display_size" /f
+  fi
   wineserver -k >/dev/null 2>&1 || true
   wineserver -w
+}
+
+set_registry() {
+  wine reg "$@" >/dev/null 2>&1 </dev/null 9>&- || fail "Wine refused its desktop setting"
 }
 
 # end_wine: called when the script ends, however it ends.

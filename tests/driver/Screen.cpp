@@ -8,6 +8,8 @@
 #include <stdexcept>
 
 #include "driver/UnixProgram.h"
+#include "driver/Waiting.h"
+#include "platform/Surface.h"
 
 namespace tarvik::end_to_end {
 namespace {
@@ -82,6 +84,16 @@ int CountDifferences(const PixelView& one, const PixelView& other) {
     }
   }
   return differences;
+}
+
+bool ShowsSign(const Box& box, const wchar_t* sign) {
+  const Control control = box.Sign();
+  if (!control) return false;
+  const RECT place = control.Inside();
+  Surface expected(place.right - place.left, place.bottom - place.top, GetSysColor(COLOR_3DFACE));
+  DrawIconEx(expected.Dc(), 0, 0, LoadIconW(nullptr, sign), 0, 0, 0, nullptr, DI_NORMAL);
+  GdiFlush();
+  return Eventually([&] { return CountDifferences(Screenshot(place), expected) == 0; });
 }
 
 }  // namespace tarvik::end_to_end

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "driver/Program.h"
 #include "export/PixelView.h"
 
 namespace tarvik::end_to_end {
@@ -37,5 +38,8 @@ int CountPixels(const PixelView& picture, Color color);
 
 // How many pixels of the two differ, where both have them.
 int CountDifferences(const PixelView& one, const PixelView& other);
+
+// Whether the box shows that sign of the system (IDI_INFORMATION ...), compared pixel by pixel.
+bool ShowsSign(const Box& box, const wchar_t* sign);
 
 }  // namespace tarvik::end_to_end

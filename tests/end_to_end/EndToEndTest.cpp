@@ -6,7 +6,6 @@
 
 #include <algorithm>
 
-#include "driver/Screen.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 
@@ -94,16 +93,6 @@ void DrawEntry(const Surface& picture, const Entry& entry, POINT corner, int siz
   ASSERT_TRUE(owner) << entry.path;
   const UINT step = animated ? static_cast<UINT>(entry.index) : 0;
   ASSERT_NE(DrawIconEx(picture.Dc(), corner.x, corner.y, icon, size, size, step, nullptr, DI_NORMAL), 0);
-}
-
-bool ShowsSign(const Box& box, const wchar_t* sign) {
-  const Control control = box.Sign();
-  if (!control) return false;
-  const RECT place = control.Inside();
-  Surface expected(place.right - place.left, place.bottom - place.top, GetSysColor(COLOR_3DFACE));
-  DrawIconEx(expected.Dc(), 0, 0, LoadIconW(nullptr, sign), 0, 0, 0, nullptr, DI_NORMAL);
-  GdiFlush();
-  return Eventually([&] { return CountDifferences(Screenshot(place), expected) == 0; });
 }
 
 void CopyThreeIcons(const std::string& target) {

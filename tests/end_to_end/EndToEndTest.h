@@ -77,9 +77,6 @@ class EndToEnd : public ::testing::Test {
 // Draws an entry's icon as the platform does: extracted anew from its file, at that size in pixels.
 void DrawEntry(const Surface& picture, const Entry& entry, POINT corner, int size);
 
-// Whether the box shows that sign of the system (IDI_INFORMATION ...), compared pixel by pixel.
-bool ShowsSign(const Box& box, const wchar_t* sign);
-
 // Copies of the libraries that the build made, of 3, 100 and 2,000 icons.
 void CopyThreeIcons(const std::string& target);
 void CopyHundredIcons(const std::string& target);

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
 #include "platform/FolderPath.h"
 #include "platform/Handles.h"

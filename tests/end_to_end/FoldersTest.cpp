@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "driver/Input.h"
+#include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
 #include "platform/FolderPath.h"
 

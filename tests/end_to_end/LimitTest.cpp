@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
 #include "platform/IconFiles.h"
 #include "platform/Text.h"
@@ -12,6 +13,7 @@ namespace tarvik::end_to_end {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using testing::IconFileOf;
 using ::testing::IsEmpty;
 
@@ -106,12 +108,18 @@ TEST_F(Limit, ARaisedLimitListsWhatWasRefused) {
   EXPECT_EQ(List().RowCount(), 401);
 }
 
-TEST_F(Limit, TheRefusalIsAnInformationBoxWithOneButton) {
-  StartWithIcons(101, Size64);
-  const Box box = FindAndWaitForBox();
-  EXPECT_TRUE(ShowsSign(box, IDI_INFORMATION));
-  EXPECT_THAT(box.Buttons(), ElementsAre(IDOK));
-  box.Press(IDOK);
+TEST_F(Limit, BothRefusalsAreInformationBoxesOfTheProgramWithOneButton) {
+  StartWithIcons(4000, Size16);
+  for (const char* remedy : {"Maximum 4000 icons!", "Maximum 400 icons!"}) {
+    const Box box = FindAndWaitForBox();
+    EXPECT_THAT(box.Text(), HasSubstr(remedy));
+    EXPECT_EQ(box.Title(), "Brindle Tarvik");
+    EXPECT_TRUE(ShowsSign(box, IDI_INFORMATION));
+    EXPECT_THAT(box.Buttons(), ElementsAre(IDOK));
+    box.Press(IDOK);
+    EXPECT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind); }));
+    DeleteFileW(ToWide(In("1001.dll")).c_str());
+  }
 }
 
 TEST_F(Limit, WithoutIconsTheMessageBeginsWithTheFirstTwentyCharactersOfTheFolder) {

@@ -18,9 +18,6 @@ using ::testing::ElementsAre;
 using testing::ReadAll;
 using ::testing::StartsWith;
 
-constexpr const char* imageFailed = "Failed to Save Icon As Bitmap.";
-constexpr const char* cursorFailed = "Failed to Save Icon As Cursor.";
-
 class SaveFault : public Saving {
  protected:
   void SetUp() override { DeleteFileW(temporaryBitmap); }

@@ -39,6 +39,10 @@ class Saving : public SelectionByHand {
   // A folder of the system below Wine in which nobody may make anything, whatever their rights.
   static constexpr const char* lockedFolder = "Z:\\sys";
 
+  // What the program says of an icon that it could not save as a picture or a cursor.
+  static constexpr const char* imageFailed = "Failed to Save Icon As Bitmap.";
+  static constexpr const char* cursorFailed = "Failed to Save Icon As Cursor.";
+
   // Starts the program, finds the icons and puts the pointer where no dialog opens.
   void FindPictures();
   void MakePictures();

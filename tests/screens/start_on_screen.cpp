@@ -11,6 +11,7 @@
 
 #include "driver/Machine.h"
 #include "driver/Program.h"
+#include "driver/Screen.h"
 #include "driver/Waiting.h"
 #include "platform/Handles.h"
 #include "platform/TemporaryFolder.h"
@@ -57,6 +58,24 @@ std::string ScreenAsSeen() {
          std::to_string(depth == 32 ? 24 : depth);
 }
 
+// With few colours the sign has not quite its own, but no other one is red.
+bool ShowsCriticalSign(const Box& box) {
+  const WindowDc dc(nullptr);
+  if (GetDeviceCaps(dc.get(), BITSPIXEL) > 8) return ShowsSign(box, IDI_HAND);
+  constexpr int fewestRed = 100;
+  return Eventually([&] {
+    const Screenshot sign(box.Sign().Inside());
+    int red = 0;
+    for (int y = 0; y < sign.Height(); ++y) {
+      for (int x = 0; x < sign.Width(); ++x) {
+        const Color pixel = sign.Pixel(x, y);
+        if (GetRValue(pixel) > GetGValue(pixel) + 64 && GetRValue(pixel) > GetBValue(pixel) + 64) ++red;
+      }
+    }
+    return red >= fewestRed;
+  });
+}
+
 class StartOnScreen : public ::testing::TestWithParam<const char*> {
  protected:
   const std::string screen_ = Variable("TARVIK_TEST_SCREEN");
@@ -78,6 +97,7 @@ TEST_P(StartOnScreen, StartsOrRefusesInTheLanguage) {
     const Box box = program_.WaitForBox();
     EXPECT_EQ(box.Text(), refusal.text);
     EXPECT_EQ(box.Title(), refusal.title);
+    EXPECT_TRUE(ShowsCriticalSign(box));
     EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
     EXPECT_EQ(program_.CountWindowsWith(FrmSpash_lblDescription), 0);
     box.Press(IDOK);
