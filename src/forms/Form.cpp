@@ -23,8 +23,29 @@ void Form::Load(HWND owner) {
 
 void Form::Show(HWND owner) {
   Load(owner);
+  // A caption shows the icon at once. Without one, the task bar alone does, and the window is up sooner.
+  const bool hasCaption = (GetWindowLongPtrW(window_, GWL_STYLE) & WS_CAPTION) == WS_CAPTION;
+  if (hasCaption) SetIcons();
   ShowWindow(window_, SW_SHOW);
   SetForegroundWindow(window_);
+  if (!hasCaption) SetIcons();
+  FocusFirst();
+}
+
+// The small one comes first: otherwise the system makes one out of the large one.
+void Form::SetIcons() {
+  for (const int size : {ICON_SMALL, ICON_BIG}) {
+    const int side = GetSystemMetrics(size == ICON_BIG ? SM_CXICON : SM_CXSMICON);
+    const HANDLE icon =
+        LoadImageW(application_.Instance(), MAKEINTRESOURCEW(Icon_Program), IMAGE_ICON, side, side, LR_SHARED);
+    SendMessageW(window_, WM_SETICON, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(icon));
+  }
+}
+
+void Form::FocusFirst() {
+  if (IsChild(window_, GetFocus()) != FALSE) return;
+  const HWND first = GetNextDlgTabItem(window_, nullptr, FALSE);
+  if (first != nullptr) SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
 }
 
 void Form::ShowModal(HWND owner) {
@@ -126,7 +147,7 @@ INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam,
   try {
     if (message == WM_INITDIALOG) {
       form->Initialise(window);
-      return TRUE;
+      return FALSE;  // the first control gets the focus when the form is shown
     }
     return form->Handle(message, wParam, lParam);
   } catch (const RuntimeError& error) {
@@ -138,12 +159,6 @@ INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam,
 void Form::Initialise(HWND window) {
   window_ = window;
   application_.Add(*this);
-  for (const int size : {ICON_BIG, ICON_SMALL}) {
-    const int side = GetSystemMetrics(size == ICON_BIG ? SM_CXICON : SM_CXSMICON);
-    const HANDLE icon =
-        LoadImageW(application_.Instance(), MAKEINTRESOURCEW(Icon_Program), IMAGE_ICON, side, side, LR_SHARED);
-    SendMessageW(window, WM_SETICON, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(icon));
-  }
   menu_.Attach(window);
   Form_Load();
 }

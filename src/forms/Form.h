@@ -121,6 +121,8 @@ class Form {
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR Answer(LRESULT result);
   void Initialise(HWND window);
+  void SetIcons();
+  void FocusFirst();
   INT_PTR Paint();
   void Close();
 

@@ -47,13 +47,18 @@ FrmSpash::FrmSpash(Application& application, const ProgramState& state, std::fun
     : Form(application, Dialog_FrmSpash), state_(state), showMainWindow_(std::move(showMainWindow)) {}
 
 void FrmSpash::Form_Load() {
+  picture_.reset();
   if (!state_.ShowAsAbout) RemoveCaption();
-  DrawPicture();
   basInitEntry::CenterForm(*this);
   SetTexts(*this, spashTexts, state_.CurrentLanguage);
   basInitEntry::CenterForm(*this);
   ShowItem(FrmSpash_CmdOk, state_.ShowAsAbout);
   if (!state_.ShowAsAbout) SetTimer(Window(), FrmSpash_Timer1, startUpTime, nullptr);
+}
+
+// The window is up before its picture is drawn, and painted after that.
+void FrmSpash::Form_Paint(HDC /*dc*/) {
+  if (!picture_) DrawPicture();
 }
 
 bool FrmSpash::OnCommand(int id, int code) {

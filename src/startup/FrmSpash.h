@@ -18,6 +18,7 @@ class FrmSpash final : public Form {
 
  private:
   void Form_Load() override;
+  void Form_Paint(HDC dc) override;
   bool OnCommand(int id, int code) override;
   void OnTimer(UINT_PTR id) override;
 

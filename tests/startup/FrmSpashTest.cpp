@@ -53,6 +53,15 @@ class FrmSpashTest : public ::testing::Test {
     Later(action);
     spash->ShowModal(owner.Window());
   }
+  void ExpectPicture() {
+    application.DoEvents();
+    RECT place;
+    GetClientRect(spash->Item(FrmSpash_Picture), &place);
+    const WindowDc dc(spash->Item(FrmSpash_Picture));
+    EXPECT_EQ(GetPixel(dc.get(), 0, 0), RGB(0x1D, 0x2D, 0x52));
+    const COLORREF corner = GetPixel(dc.get(), place.right - 1, place.bottom - 1);
+    EXPECT_NEAR(GetBValue(corner), 0x86, 2);
+  }
   void Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     SendMessageW(spash->Window(), message, wParam, lParam);
   }
@@ -143,12 +152,19 @@ TEST_F(FrmSpashTest, HidesItsButtonAndCaptionAtStartUp) {
 
 TEST_F(FrmSpashTest, FillsItsPicture) {
   Open();
-  RECT place;
-  GetClientRect(spash->Item(FrmSpash_Picture), &place);
-  const WindowDc dc(spash->Item(FrmSpash_Picture));
-  EXPECT_EQ(GetPixel(dc.get(), 0, 0), RGB(0x1D, 0x2D, 0x52));
-  const COLORREF corner = GetPixel(dc.get(), place.right - 1, place.bottom - 1);
-  EXPECT_NEAR(GetBValue(corner), 0x86, 2);
+  ExpectPicture();
+}
+
+TEST_F(FrmSpashTest, FillsItsPictureAgainAsAboutBox) {
+  Open();
+  Send(WM_TIMER, FrmSpash_Timer1);
+  owner.Show();
+  state.ShowAsAbout = true;
+  Later([this] {
+    ExpectPicture();
+    Send(WM_CLOSE);
+  });
+  spash->ShowModal(owner.Window());
 }
 
 TEST_F(FrmSpashTest, GivesWayToTheMainWindowAfterThreeSeconds) {
