@@ -42,6 +42,7 @@ void Form::SetIcons() {
   }
 }
 
+// Most systems have done it by now, but whoever refuses it in WM_INITDIALOG has to see to it.
 void Form::FocusFirst() {
   if (IsChild(window_, GetFocus()) != FALSE) return;
   const HWND first = GetNextDlgTabItem(window_, nullptr, FALSE);

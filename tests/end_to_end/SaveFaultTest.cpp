@@ -33,8 +33,6 @@ class SaveFault : public Saving {
     program_.StartWithFilesUpTo(bytes);
     FindAll();
   }
-  void AcceptJpegOptions() const { Dialog(program_, fSaveJPG_CboSize).End(fSaveJPG_cmdFinish1); }
-  void AcceptGifOptions() const { Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk); }
   std::string IconFailed(int number) const {
     return "Unable to save the file " + Out("Icon " + std::to_string(number) + ".ico");
   }
@@ -45,33 +43,7 @@ class SaveFault : public Saving {
 TEST_F(SaveFault, EachFileIsReportedWhereNobodyMayWrite) {
   const ExtraDrive locked(lockedFolder, "");
   FindPictures();
-  const auto chooseLockedFolder = [this](int command, ImageType type) {
-    const FolderChooser chooser = AskForFolder(command);
-    chooser.ChooseDrive('r');
-    if (type != Bmp) chooser.ChooseType(type);
-    chooser.Ok();
-  };
-  chooseLockedFolder(FrmFindIcon_mnuSaveAll, Bmp);
-  EXPECT_TRUE(ShowsSign(program_.WaitForBox(), IDI_EXCLAMATION));
-  EXPECT_THAT(ReadMessages(5),
-              ElementsAre("Unable to save the file R:\\Icon 1.ico", "Unable to save the file R:\\Icon 2.ico",
-                          "Unable to save the file R:\\Icon 3.ico", "Unable to save the file R:\\Icon 4.ico",
-                          "Unable to save the file R:\\Icon 5.ico"));
-  ExpectAsFound();
-  chooseLockedFolder(FrmFindIcon_mnuSaveAll3, Bmp);
-  EXPECT_THAT(ReadMessages(5), Each(cursorFailed));
-  ExpectAsFound();
-  chooseLockedFolder(FrmFindIcon_mnuSaveAll2, Bmp);
-  EXPECT_THAT(ReadMessages(5), Each(imageFailed));
-  ExpectAsFound();
-  chooseLockedFolder(FrmFindIcon_mnuSaveAll2, Jpg);
-  AcceptJpegOptions();
-  EXPECT_THAT(ReadMessages(5), Each(imageFailed));
-  ExpectAsFound();
-  chooseLockedFolder(FrmFindIcon_mnuSaveAll2, Gif);
-  AcceptGifOptions();
-  EXPECT_THAT(ReadMessages(5), Each(imageFailed));
-  ExpectAsFound();
+  ExpectEachFileReportedOnDriveR();
 }
 
 TEST_F(SaveFault, ABatchGoesOnAfterANameThatIsAFolder) {

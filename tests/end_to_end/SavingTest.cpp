@@ -94,6 +94,37 @@ void Saving::SaveBatch(int command, ImageType type) const {
   ExpectAsFound();
 }
 
+void Saving::ChooseDriveR(int command, ImageType type) const {
+  const FolderChooser chooser = AskForFolder(command);
+  chooser.ChooseDrive('r');
+  if (type != Bmp) chooser.ChooseType(type);
+  chooser.Ok();
+}
+
+void Saving::ExpectEachFileReportedOnDriveR() const {
+  const Names all{"Unable to save the file R:\\Icon 1.ico", "Unable to save the file R:\\Icon 2.ico",
+                  "Unable to save the file R:\\Icon 3.ico", "Unable to save the file R:\\Icon 4.ico",
+                  "Unable to save the file R:\\Icon 5.ico"};
+  ChooseDriveR(FrmFindIcon_mnuSaveAll);
+  EXPECT_TRUE(ShowsSign(program_.WaitForBox(), IDI_EXCLAMATION));
+  EXPECT_EQ(ReadMessages(5), all);
+  ExpectAsFound();
+  ChooseDriveR(FrmFindIcon_mnuSaveAll3);
+  EXPECT_EQ(ReadMessages(5), Names(5, cursorFailed));
+  ExpectAsFound();
+  ChooseDriveR(FrmFindIcon_mnuSaveAll2);
+  EXPECT_EQ(ReadMessages(5), Names(5, imageFailed));
+  ExpectAsFound();
+  ChooseDriveR(FrmFindIcon_mnuSaveAll2, Jpg);
+  AcceptJpegOptions();
+  EXPECT_EQ(ReadMessages(5), Names(5, imageFailed));
+  ExpectAsFound();
+  ChooseDriveR(FrmFindIcon_mnuSaveAll2, Gif);
+  AcceptGifOptions();
+  EXPECT_EQ(ReadMessages(5), Names(5, imageFailed));
+  ExpectAsFound();
+}
+
 void Saving::SelectByMouse(std::initializer_list<int> entries) const {
   Places wanted(entries);
   for (int entry = 0; entry < List().RowCount(); ++entry) {

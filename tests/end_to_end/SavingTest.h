@@ -71,6 +71,12 @@ class Saving : public SelectionByHand {
   void ChooseOut(int command, ImageType type = Bmp) const;
   // The same, and waits for the end of the batch.
   void SaveBatch(int command, ImageType type = Bmp) const;
+  // Chooses the root of drive R:, which a test made, to save to.
+  void ChooseDriveR(int command, ImageType type = Bmp) const;
+  void AcceptJpegOptions() const { Dialog(program_, fSaveJPG_CboSize).End(fSaveJPG_cmdFinish1); }
+  void AcceptGifOptions() const { Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk); }
+  // Saves all icons to drive R:, which takes nothing, in each format, and reads a message for each file.
+  void ExpectEachFileReportedOnDriveR() const;
   // Has exactly these entries selected, counted from 0, by the mouse.
   void SelectByMouse(std::initializer_list<int> entries) const;
 

@@ -44,13 +44,6 @@ class FullDisk : public Saving {
     Fill();
     for (; files > 0; --files) DeleteFileW(FillerPath(fillers_--).c_str());
   }
-  // Saves every icon to the disk, up to the messages or the dialog that come next.
-  void SaveAllToDisk(int command, ImageType type = Bmp) const {
-    const FolderChooser chooser = AskForFolder(command);
-    chooser.ChooseDrive('r');
-    if (type != Bmp) chooser.ChooseType(type);
-    chooser.Ok();
-  }
   Names SavedOnDisk() const {
     Names names = NamesIn("R:");
     std::erase_if(names, [](const std::string& name) { return name.starts_with("full ") || name.starts_with('.'); });
@@ -85,26 +78,7 @@ class FullDisk : public Saving {
 };
 
 TEST_F(FullDisk, WhatDoesNotFitIsReportedFileByFile) {
-  SaveAllToDisk(FrmFindIcon_mnuSaveAll);
-  EXPECT_THAT(ReadMessages(5),
-              ElementsAre("Unable to save the file R:\\Icon 1.ico", "Unable to save the file R:\\Icon 2.ico",
-                          "Unable to save the file R:\\Icon 3.ico", "Unable to save the file R:\\Icon 4.ico",
-                          "Unable to save the file R:\\Icon 5.ico"));
-  ExpectAsFound();
-  SaveAllToDisk(FrmFindIcon_mnuSaveAll3);
-  EXPECT_THAT(ReadMessages(5), Each(cursorFailed));
-  ExpectAsFound();
-  SaveAllToDisk(FrmFindIcon_mnuSaveAll2);
-  EXPECT_THAT(ReadMessages(5), Each(imageFailed));
-  ExpectAsFound();
-  SaveAllToDisk(FrmFindIcon_mnuSaveAll2, Jpg);
-  Dialog(program_, fSaveJPG_CboSize).End(fSaveJPG_cmdFinish1);
-  EXPECT_THAT(ReadMessages(5), Each(imageFailed));
-  ExpectAsFound();
-  SaveAllToDisk(FrmFindIcon_mnuSaveAll2, Gif);
-  Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk);
-  EXPECT_THAT(ReadMessages(5), Each(imageFailed));
-  ExpectAsFound();
+  ExpectEachFileReportedOnDriveR();
 }
 
 TEST_F(FullDisk, ABatchSavesWhatFits) {
@@ -116,25 +90,25 @@ TEST_F(FullDisk, ABatchSavesWhatFits) {
     }
   };
   LeaveRoomFor(2);
-  SaveAllToDisk(FrmFindIcon_mnuSaveAll);
+  ChooseDriveR(FrmFindIcon_mnuSaveAll);
   EXPECT_THAT(ReadMessages(3),
               ElementsAre("Unable to save the file R:\\Icon 3.ico", "Unable to save the file R:\\Icon 4.ico",
                           "Unable to save the file R:\\Icon 5.ico"));
   ExpectAsFound();
   expectFirstTwo("Icon ", ".ico", IconPixels);
   LeaveRoomFor(2);
-  SaveAllToDisk(FrmFindIcon_mnuSaveAll3);
+  ChooseDriveR(FrmFindIcon_mnuSaveAll3);
   EXPECT_THAT(ReadMessages(3), Each(cursorFailed));
   ExpectAsFound();
   expectFirstTwo("Curor ", ".cur", IconPixels);
   LeaveRoomFor(2);
-  SaveAllToDisk(FrmFindIcon_mnuSaveAll2);
+  ChooseDriveR(FrmFindIcon_mnuSaveAll2);
   EXPECT_THAT(ReadMessages(3), Each(imageFailed));
   ExpectAsFound();
   expectFirstTwo("Images ", ".bmp", BitmapPixels);
   LeaveRoomFor(2);
-  SaveAllToDisk(FrmFindIcon_mnuSaveAll2, Gif);
-  Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk);
+  ChooseDriveR(FrmFindIcon_mnuSaveAll2, Gif);
+  AcceptGifOptions();
   EXPECT_THAT(ReadMessages(3), Each(imageFailed));
   ExpectAsFound();
   expectFirstTwo("Images ", ".gif", ComposedPixels);

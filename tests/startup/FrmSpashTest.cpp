@@ -167,6 +167,37 @@ TEST_F(FrmSpashTest, FillsItsPictureAgainAsAboutBox) {
   spash->ShowModal(owner.Window());
 }
 
+TEST_F(FrmSpashTest, HasTheProgramsIconsWithAndWithoutACaption) {
+  const auto expectIcons = [this] {
+    for (const int size : {ICON_SMALL, ICON_BIG}) {
+      const auto icon =
+          reinterpret_cast<HICON>(SendMessageW(spash->Window(), WM_GETICON, static_cast<WPARAM>(size), 0));
+      const int side = GetSystemMetrics(size == ICON_BIG ? SM_CXICON : SM_CXSMICON);
+      EXPECT_EQ(icon, LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(Icon_Program), IMAGE_ICON, side, side,
+                                 LR_SHARED))
+          << size;
+      EXPECT_NE(icon, nullptr) << size;
+    }
+  };
+  Open();
+  expectIcons();
+  OpenAbout([&] {
+    expectIcons();
+    Send(WM_CLOSE);
+  });
+}
+
+TEST_F(FrmSpashTest, GivesTheFocusToItsButtonAsAboutBox) {
+  OpenAbout([this] {
+    EXPECT_EQ(GetFocus(), spash->Item(FrmSpash_CmdOk));
+    // As where the system does not see to it.
+    SetFocus(nullptr);
+    spash->Show();
+    EXPECT_EQ(GetFocus(), spash->Item(FrmSpash_CmdOk));
+    Send(WM_CLOSE);
+  });
+}
+
 TEST_F(FrmSpashTest, GivesWayToTheMainWindowAfterThreeSeconds) {
   const ULONGLONG start = GetTickCount64();
   Open();
