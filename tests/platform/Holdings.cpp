@@ -49,18 +49,15 @@ int CountKernelHandles(HANDLE process) {
 int CountUserHandles(HANDLE process) {
   if (const DWORD count = GetGuiResources(process, GR_USEROBJECTS)) return static_cast<int>(count);
 
-  // Wine does not count. Its handles are numbers of places in one table, and a free place is taken before the table
-  // grows. As many new ones as were never free at a time reach the table's end, and how far that moves from one time to
-  // the next is how many more are held.
-  constexpr std::size_t probes = 4000;
-  std::vector<HMENU> menus(probes);
-  int furthest = 0;
-  for (HMENU& menu : menus) {
-    menu = CreateMenu();
-    furthest = std::max<int>(furthest, LOWORD(reinterpret_cast<ULONG_PTR>(menu)));
-  }
-  for (const HMENU menu : menus) DestroyMenu(menu);
-  return furthest / 2;  // the numbers are even ones
+  // Wine does not count. Its handles are numbers of places in one table, and how often the place was taken stands in
+  // their upper half. A place is new only where none was free: then all are held, by the probes and by others.
+  std::vector<HMENU> probes;
+  const auto number = [&probes] { return reinterpret_cast<ULONG_PTR>(probes.back()); };
+  do probes.push_back(CreateMenu());
+  while (probes.back() != nullptr && HIWORD(number()) != 1);
+  const int places = LOWORD(number()) / 2;  // the numbers are even ones
+  for (const HMENU probe : probes) DestroyMenu(probe);
+  return places - static_cast<int>(probes.size());
 }
 
 std::int64_t UsedBytes(HANDLE process) {

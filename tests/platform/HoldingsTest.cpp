@@ -11,7 +11,6 @@ namespace {
 
 TEST(Holdings, CountWhatThisProcessTakesAndGivesBack) {
   constexpr int taken = 300;
-  HeldBy(GetCurrentProcess());  // the counting itself makes the table of windows and menus as long as it gets
   const Holdings before = HeldBy(GetCurrentProcess());
   {
     std::vector<BrushHandle> brushes;
@@ -25,12 +24,24 @@ TEST(Holdings, CountWhatThisProcessTakesAndGivesBack) {
     const Holdings held = HeldBy(GetCurrentProcess());
     EXPECT_EQ(held.gdiObjects, before.gdiObjects + taken);
     EXPECT_EQ(held.kernelHandles, before.kernelHandles + taken);
-    EXPECT_NEAR(held.userHandles, before.userHandles + taken, 20) << "other processes' too";
+    EXPECT_EQ(held.userHandles, before.userHandles + taken);
     for (const HMENU menu : menus) DestroyMenu(menu);
   }
   const Holdings after = HeldBy(GetCurrentProcess());
   EXPECT_EQ(after.gdiObjects, before.gdiObjects);
   EXPECT_EQ(after.kernelHandles, before.kernelHandles);
+  EXPECT_EQ(after.userHandles, before.userHandles);
+}
+
+TEST(Holdings, CountAsManyWhereMoreWereHeldBefore) {
+  const Holdings before = HeldBy(GetCurrentProcess());
+  std::vector<HMENU> menus(6000);
+  for (HMENU& menu : menus) menu = CreateMenu();
+  for (const HMENU menu : menus) DestroyMenu(menu);
+  EXPECT_EQ(HeldBy(GetCurrentProcess()).userHandles, before.userHandles);
+  const HMENU menu = CreateMenu();
+  EXPECT_EQ(HeldBy(GetCurrentProcess()).userHandles, before.userHandles + 1);
+  DestroyMenu(menu);
 }
 
 }  // namespace
