@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "driver/UnixProgram.h"
+#include "driver/Waiting.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
@@ -58,6 +59,15 @@ std::string Held(const std::string& actions, HeldKeys keys) {
     up = " keyup " + KeyName(key) + up;
   }
   return down + actions + up;
+}
+
+// Where the screen's keys go follows the window in front a moment later, and a key pressed before that is lost. This
+// answers whether they go there, and waits for a second.
+bool KeysGoToFront() {
+  const auto front = reinterpret_cast<ULONG_PTR>(GetPropW(GetForegroundWindow(), L"__wine_x11_whole_window"));
+  return RunUnix("for try in $(seq 50); do [ \"$(xdotool getwindowfocus -f)\" != " + std::to_string(front) +
+                 " ] || exit 0; sleep 0.02; done; exit 1")
+             .exitCode == 0;
 }
 
 std::string MoveTo(POINT place) {
@@ -127,6 +137,8 @@ POINT MiddleOf(const RECT& place) {
 
 void PressKey(WORD key, HeldKeys held, int times) {
   if (times == 0) return;
+  // Another window may come to the front meanwhile.
+  if (!Eventually(KeysGoToFront)) throw std::runtime_error("the keys do not go to the window in front");
   std::string presses = "key --delay 1";
   for (int i = 0; i < times; ++i) presses += " " + KeyName(key);
   Do(Held(presses, held));
