@@ -17,8 +17,8 @@ class SaveWindow {
  public:
   virtual ~SaveWindow() = default;
 
-  // Takes the icon of entry `number` into the three surfaces. False where its file yields none any more; the surfaces
-  // are then blank and are saved as they are.
+  // Takes the icon of entry `number` into the three surfaces; blank where its file yields none any more, and saved as
+  // they are. False, and the surfaces as they were, where the list holds no entry of that number.
   virtual bool RenderEntry(int number) = 0;
   virtual const PixelView& PicMask() const = 0;
   virtual const PixelView& PicImage() const = 0;

@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <commctrl.h>
-
 #include "resource.h"
 #include "search/FrmFindIcon.h"
 
@@ -61,7 +59,8 @@ void FrmFindIcon::mnuIL_Click(int index) {
 
 bool FrmFindIcon::RenderEntry(int number) {
   if (!list_.Has(number)) return false;
-  return ModMicroArt::CaptureEntry(services_.icons, list_.Item(number), state_.Geometry.IconSize, surfaces_);
+  ModMicroArt::CaptureEntry(services_.icons, list_.Item(number), state_.Geometry.IconSize, surfaces_);
+  return true;
 }
 
 }  // namespace tarvik

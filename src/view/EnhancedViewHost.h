@@ -10,8 +10,8 @@ class EnhancedViewHost {
  public:
   virtual ~EnhancedViewHost() = default;
 
-  // Draws the entry into PicIcon, whose size is the grid's icon size. False, and PicIcon as it was, where the list
-  // holds no entry of that number.
+  // Draws the entry into PicIcon, whose size is the grid's icon size; blank where its file yields no icon any more.
+  // False, and PicIcon as it was, where the list holds no entry of that number.
   virtual bool RenderEntry(int number) = 0;
 
   virtual int EntryCount() const = 0;

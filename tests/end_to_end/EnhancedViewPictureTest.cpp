@@ -119,6 +119,24 @@ TEST_F(EnhancedViewPicture, IsTheSameAfterTheWindowWasCoveredOrMinimised) {
   ExpectPicture(view, entry, 32, openingZoom);
 }
 
+TEST_F(EnhancedViewPicture, IsEmptyForAnIconWhoseFileIsGone) {
+  FindFiles(3);
+  const EnhancedView view = OpenOn(1);
+  ASSERT_TRUE(std::filesystem::remove(ToWide(In(FileName(2)))));
+  view.Press(frmBit_tlb_control_MoveNext, 2);
+  ExpectEntry(view, 2);
+  MovePointer({0, 0});
+  EXPECT_TRUE(Eventually(
+      [&] {
+        const Screenshot shown(view.PicturePlace());
+        return CountPixels(shown, white) == shown.Width() * shown.Height();
+      },
+      shortly))
+      << "the picture of the entry before stays";
+  view.Press(frmBit_tlb_control_MoveNext);
+  ExpectPicture(view, Entries()[2], 32, openingZoom);
+}
+
 TEST_F(EnhancedViewPicture, ShowsAnAnimationFrameByFrame) {
   constexpr auto colors = std::to_array<Color>({0x0000FF, 0x00FF00, 0xFF0000, 0x00FFFF});
   const std::string path = tree_.MakeFile("spin.ani", testing::AnimationFile(colors));

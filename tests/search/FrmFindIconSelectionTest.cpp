@@ -168,6 +168,13 @@ TEST_F(FrmFindIconSelectionTest, HidesAndShowsTheLabel) {
   EXPECT_TRUE(IsWindowVisible(Item(FrmFindIcon_lblInfo)));
 }
 
+TEST_F(FrmFindIconSelectionTest, ShowsAndNumbersLabelsInAllFromTheStart) {
+  Open();
+  EXPECT_TRUE(window->TheMenu().IsChecked(FrmFindIcon_mnuShowLabel));
+  EXPECT_TRUE(window->TheMenu().IsChecked(FrmFindIcon_mnuIL1));
+  EXPECT_FALSE(window->TheMenu().IsChecked(FrmFindIcon_mnuIL2));
+}
+
 TEST_F(FrmFindIconSelectionTest, RendersAnEntryIntoTheSurfaces) {
   Open20();
   EXPECT_TRUE(window->RenderEntry(4));
@@ -182,7 +189,7 @@ TEST_F(FrmFindIconSelectionTest, LeavesTheSurfacesClearedForAFileThatIsGone) {
   Open20();
   EXPECT_TRUE(window->RenderEntry(4));
   machine.icons.clear();
-  EXPECT_FALSE(window->RenderEntry(4));
+  EXPECT_TRUE(window->RenderEntry(4));
   EXPECT_EQ(window->Surfaces().Composed().Pixel(0, 0), surfaceBackground);
   EXPECT_EQ(window->Surfaces().Mask().Pixel(0, 0), surfaceBackground);
 }
