@@ -13,11 +13,6 @@ namespace {
 
 constexpr std::size_t blockSize = std::size_t{64} * 1024;
 
-// A path of common length goes as it is, so that names of devices are known for what they are.
-std::wstring SystemPath(const std::string& path) {
-  return path.size() < MAX_PATH ? ToWide(path) : LiteralPath(path);
-}
-
 FileHandle OpenForWriting(const std::wstring& path, DWORD disposition) {
   return FileHandle(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
 }
@@ -48,15 +43,29 @@ std::wstring MakeSibling(const std::wstring& path) {
   return {};
 }
 
+bool IsLink(const std::wstring& path) {
+  return (GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
 // Puts an empty file in the place of the one at the path. It is moved there and the former one not deleted, because a
 // move never follows a link.
 bool Replace(const std::wstring& path) {
-  if (!IsReplaceable(path)) return false;
   const std::wstring sibling = MakeSibling(path);
   if (sibling.empty()) return false;
   if (MoveFileExW(sibling.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING) != 0) return true;
   DeleteFileW(sibling.c_str());
   return false;
+}
+
+// Opens the file at the path without what was in it.
+FileHandle OpenAnew(const std::wstring& path) {
+  if (!IsReplaceable(path)) return {};
+  if (Replace(path)) return OpenForWriting(path, TRUNCATE_EXISTING);
+  // There are files that may be written and yet not moved or deleted: one that another program has open, or in a folder
+  // that takes no new file.
+  if (IsLink(path)) return {};
+  constexpr DWORD withOthers = FILE_SHARE_READ | FILE_SHARE_WRITE;
+  return FileHandle(CreateFileW(path.c_str(), GENERIC_WRITE, withOthers, nullptr, TRUNCATE_EXISTING, 0, nullptr));
 }
 
 }  // namespace
@@ -65,8 +74,7 @@ bool DiskFile::Open(const std::string& path) {
   const std::wstring systemPath = SystemPath(path);
   gathered_.clear();
   file_ = OpenForWriting(systemPath, CREATE_NEW);
-  if (!file_ && GetLastError() == ERROR_FILE_EXISTS && Replace(systemPath))
-    file_ = OpenForWriting(systemPath, TRUNCATE_EXISTING);
+  if (!file_ && GetLastError() == ERROR_FILE_EXISTS) file_ = OpenAnew(systemPath);
   if (!IsDiskFile(file_)) file_.reset();
   complete_ = static_cast<bool>(file_);
   return complete_;

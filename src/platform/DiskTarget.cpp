@@ -3,16 +3,8 @@
 #include <windows.h>
 
 #include "platform/Paths.h"
-#include "platform/Text.h"
 
 namespace tarvik {
-namespace {
-
-std::wstring SystemPath(const std::string& path) {
-  return path.size() < MAX_PATH ? ToWide(path) : LiteralPath(path);
-}
-
-}  // namespace
 
 bool DiskTarget::DeleteExistingTarget(const std::string& path) {
   const std::wstring systemPath = SystemPath(path);

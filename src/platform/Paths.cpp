@@ -57,4 +57,8 @@ std::wstring LiteralPath(std::string_view path) {
   return ToWide(path);
 }
 
+std::wstring SystemPath(const std::string& path) {
+  return path.size() < MAX_PATH ? ToWide(path) : LiteralPath(path);
+}
+
 }  // namespace tarvik

@@ -18,4 +18,8 @@ std::string TempFolder();     // the user's folder for temporary files, with a b
 // of backslashes, stays as it is.
 std::wstring LiteralPath(std::string_view path);
 
+// The path as it is while it is of common length, so that names of devices are known for what they are; a longer one in
+// the literal form.
+std::wstring SystemPath(const std::string& path);
+
 }  // namespace tarvik

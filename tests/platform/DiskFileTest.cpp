@@ -103,6 +103,17 @@ TEST(DiskFile, RefusesAFileThatAnotherHoldsOpen) {
   EXPECT_EQ(Folders().Files(folder.Path(), "*.*"), std::vector<std::string>{"a.ico"}) << "and leaves nothing beside it";
 }
 
+TEST(DiskFile, WritesAnewAFileThatAnotherHoldsOpenAndLetsWrite) {
+  const TemporaryFolder folder;
+  const std::string path = folder.MakeFile("a.ico", "a long file that was here");
+  const FileHandle held(CreateFileW(ToWide(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(static_cast<bool>(held));
+  EXPECT_TRUE(WriteWhole(path, "new"));
+  EXPECT_EQ(ReadAll(path), "new");
+  EXPECT_EQ(Folders().Files(folder.Path(), "*.*"), std::vector<std::string>{"a.ico"}) << "and leaves nothing beside it";
+}
+
 TEST(DiskFile, WritesToAPathOfAnyLength) {
   const TemporaryFolder folder;
   std::string name;
