@@ -1,5 +1,6 @@
 #include "forms/Form.h"
 
+#include <new>
 #include <utility>
 
 #include "forms/MousePointer.h"
@@ -153,6 +154,9 @@ INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam,
     return form->Handle(message, wParam, lParam);
   } catch (const RuntimeError& error) {
     form->application_.OnRuntimeError(*form, error);
+    return TRUE;
+  } catch (const std::bad_alloc&) {
+    form->application_.OnRuntimeError(*form, OutOfMemoryError());
     return TRUE;
   }
 }

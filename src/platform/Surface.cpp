@@ -1,9 +1,9 @@
 #include "platform/Surface.h"
 
 #include <algorithm>
-#include <new>
 #include <utility>
 
+#include "numbers/RuntimeError.h"
 #include "platform/Handles.h"
 
 namespace tarvik {
@@ -33,7 +33,7 @@ struct Surface::Section {
     info.bmiHeader.biBitCount = 24;
     void* memory = nullptr;
     bitmap.reset(CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &memory, nullptr, 0));
-    if (!dc || !bitmap) throw std::bad_alloc();
+    if (!dc || !bitmap) throw OutOfMemoryError();
     bits = static_cast<std::uint8_t*>(memory);
     former = SelectObject(dc.get(), bitmap.get());
   }
@@ -56,10 +56,6 @@ Surface::~Surface() = default;
 
 HDC Surface::Dc() const {
   return section_->dc.get();
-}
-
-HBITMAP Surface::Bitmap() const {
-  return section_->bitmap.get();
 }
 
 Color Surface::Pixel(int x, int y) const {

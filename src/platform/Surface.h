@@ -21,14 +21,13 @@ class DcSurface : public DrawSurface {
 // context. Pixels are read as 0x00BBGGRR straight from memory.
 class Surface final : public DcSurface, public PixelView {
  public:
-  // Both sides in pixels, 1 or more. Throws std::bad_alloc where the system has no memory for it.
+  // Both sides in pixels, 1 or more. Throws OutOfMemoryError where the system has no memory for it.
   Surface(int width, int height, Color background);
   ~Surface() override;
   Surface(const Surface&) = delete;
   Surface& operator=(const Surface&) = delete;
 
   HDC Dc() const override;
-  HBITMAP Bitmap() const;
   int Width() const override { return width_; }
   int Height() const override { return height_; }
   Color Pixel(int x, int y) const override;

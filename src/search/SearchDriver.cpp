@@ -63,7 +63,7 @@ void SearchDriver::CmdFind_Click() {
   for (const SearchControl control : searchControls) window_.Enable(control, false);
   try {
     Search();
-  } catch (const RuntimeError&) {
+  } catch (...) {
     list_.Clear();
     window_.ClearListView();
     FailureExit();
@@ -142,7 +142,7 @@ void SearchDriver::RunOverScope(Pass pass) {
   const std::string savedDirPath = window_.Dir1Path();
   try {
     (this->*pass)(savedDirPath);
-  } catch (const RuntimeError&) {
+  } catch (...) {
     window_.SetDir1Path(savedDirPath);
     throw;
   }

@@ -14,6 +14,7 @@ inline constexpr Text failureSuffix{" - Error", " - 错误", " - 錯誤"};
 // Run-time errors.
 inline constexpr Text overflowText{"Overflow", "溢出", "溢位"};
 inline constexpr Text typeMismatchText{"Type mismatch", "类型不匹配", "型態不符合"};
+inline constexpr Text outOfMemoryText{"Out of memory", "内存不足", "記憶體不足"};
 
 // The title of a failure's message box in the language of `code`; the product's name alone for any other code.
 inline std::string FailureTitle(std::string_view code) {

@@ -5,10 +5,19 @@
 
 namespace tarvik {
 
+namespace {
+
+const Text& TextOf(const RuntimeError& error) {
+  if (dynamic_cast<const OverflowError*>(&error) != nullptr) return overflowText;
+  if (dynamic_cast<const OutOfMemoryError*>(&error) != nullptr) return outOfMemoryText;
+  return typeMismatchText;
+}
+
+}  // namespace
+
 void ShowRuntimeError(HWND owner, const RuntimeError& error, std::string_view code) {
-  const bool overflow = dynamic_cast<const OverflowError*>(&error) != nullptr;
-  const auto text = Pick(overflow ? overflowText : typeMismatchText, code);
-  if (text) ShowMessage(owner, *text, FailureTitle(code), MessageSign::Exclamation);
+  if (const auto text = Pick(TextOf(error), code))
+    ShowMessage(owner, *text, FailureTitle(code), MessageSign::Exclamation);
 }
 
 }  // namespace tarvik

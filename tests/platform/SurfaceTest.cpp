@@ -4,6 +4,8 @@
 
 #include <array>
 
+#include "numbers/RuntimeError.h"
+
 namespace tarvik {
 namespace {
 
@@ -12,6 +14,10 @@ TEST(Surface, ReadsBackWhatGdiDrewAsBlueGreenRed) {
   SetPixel(surface.Dc(), 4, 2, RGB(1, 2, 3));
   EXPECT_EQ(surface.Pixel(4, 2), 0x030201U);
   EXPECT_EQ(surface.Pixel(3, 2), white);
+}
+
+TEST(Surface, SaysThatThereIsNoMemoryForIt) {
+  EXPECT_THROW(Surface(60000, 60000, white), OutOfMemoryError);
 }
 
 TEST(Surface, CopiesItsPixelsRowByRowFromTheTop) {

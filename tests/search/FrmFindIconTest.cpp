@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -51,6 +52,21 @@ TEST_F(FrmFindIconTest, OffersEveryMenuItemThatNeedsNoIconsFromTheStart) {
        {FrmFindIcon_mnuStart, FrmFindIcon_mnuExit, FrmFindIcon_mnuShowLabel, FrmFindIcon_mnuIL1, FrmFindIcon_mnuIL2,
         FrmFindIcon_mnuViewopt0, FrmFindIcon_mnuViewopt1, FrmFindIcon_MnuContent, FrmFindIcon_MnuAbout}) {
     EXPECT_TRUE(IsEnabled(item)) << item;
+  }
+}
+
+TEST_F(FrmFindIconTest, ShowsThatMemoryIsOutAndStaysUsable) {
+  class Exhausted final : public IconSource {
+   public:
+    int CountIcons(const std::string& /*path*/) override { throw std::bad_alloc(); }
+    std::unique_ptr<ExtractedIcon> Extract(const std::string& /*path*/, int /*index*/) override { return nullptr; }
+  } exhausted;
+  for (const auto& [language, text] : {std::pair{"ENG", "Out of memory"}, {"CHS", "内存不足"}, {"CHT", "記憶體不足"}}) {
+    OpenOver(exhausted, machine, language);
+    Find(3);
+    ASSERT_FALSE(boxes.Boxes().empty());
+    EXPECT_EQ(boxes.Boxes().back().text, text);
+    EXPECT_TRUE(IsEnabled(FrmFindIcon_CmdFind));
   }
 }
 
