@@ -20,8 +20,8 @@
 #define Dialog_fComment 170
 #define Dialog_FrmConvertGIF 180
 
-// FrmFindIcon, the main window: 1000 to 1099 controls, 1100 to 1199 menu items. PicIcon, PicMask, PicImage, PicMain,
-// PicMainCopy and PicClip are surfaces in memory and have no id.
+// FrmFindIcon, the main window: 1000 to 1099 controls, 1100 to 1199 menu items. PicIcon, PicMask, PicImage, PicMain
+// and PicClip are surfaces in memory and have no id.
 #define FrmFindIcon_Drive1 1000
 #define FrmFindIcon_Dir1 1001
 #define FrmFindIcon_File1 1002

@@ -21,7 +21,7 @@ static_assert(saveFlags == 2054 && openFlags == 4100);
 
 // The record as it was before fields were added to it, which every version of the dialogs takes.
 constexpr DWORD recordSize = offsetof(OPENFILENAMEA, lpTemplateName) + sizeof(OPENFILENAMEA::lpTemplateName);
-static_assert(sizeof(void*) != 4 || recordSize == 76);
+static_assert(recordSize == (sizeof(void*) == 4 ? 76 : 136));
 
 // The dialogs move the program to the folder that was chosen; this moves it back.
 class CurrentFolderKept {

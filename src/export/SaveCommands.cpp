@@ -6,7 +6,7 @@
 #include "export/ModMicroArt.h"
 #include "export/ModMicroArtFileIO.h"
 #include "export/SaveTexts.h"
-#include "startup/AsciiCase.h"
+#include "platform/AsciiCase.h"
 
 namespace tarvik {
 namespace {
@@ -227,10 +227,10 @@ void SaveCommands::SaveImages(Scope scope) {
 }
 
 void SaveCommands::SaveBMPToJPGForNoSingle(Scope scope, const std::string& folder, const BatchKind& kind) {
+  TemporaryPictureUse temporary(tools_.temporaryPicture);
   JpegDialog& dialog = tools_.dialogs.NewSaveJPG();
   const std::shared_ptr<void> freed(nullptr, [&dialog](void*) { dialog.FreeObj(); });
   if (dialog.ShowFor(DialogMode::NoSingle) != DialogAnswer::Ok) return;
-  TemporaryPictureUse temporary(tools_.temporaryPicture);
   SaveBatch(scope, folder, kind, [&](const std::string& path) {
     const PixelView* picture = temporary.PassThrough(window_.PicIcon());
     if (picture == nullptr) return false;

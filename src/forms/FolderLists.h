@@ -81,7 +81,6 @@ class FileListBox {
 
   const std::string& Path() const { return path_; }
   void SetPath(const std::string& folder);
-  const std::string& Pattern() const { return pattern_; }
   void SetPattern(const std::string& pattern);
   // The names of the matching files as they are on the disk now.
   std::vector<std::string> Names() const { return list_(path_, pattern_); }

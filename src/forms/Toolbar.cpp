@@ -67,22 +67,8 @@ void Toolbar::SetText(int id, std::string_view text) {
   SendMessageW(window_, TB_SETBUTTONINFOW, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(&info));
 }
 
-std::string Toolbar::Text(int id) const {
-  const auto button = static_cast<WPARAM>(id);
-  const auto length = SendMessageW(window_, TB_GETBUTTONTEXTW, button, 0);
-  if (length <= 0) return {};
-  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-  SendMessageW(window_, TB_GETBUTTONTEXTW, button, reinterpret_cast<LPARAM>(text.data()));
-  text.pop_back();
-  return ToUtf8(text);
-}
-
 void Toolbar::Enable(int id, bool enabled) {
   SendMessageW(window_, TB_ENABLEBUTTON, static_cast<WPARAM>(id), MAKELPARAM(enabled ? TRUE : FALSE, 0));
-}
-
-bool Toolbar::IsEnabled(int id) const {
-  return SendMessageW(window_, TB_ISBUTTONENABLED, static_cast<WPARAM>(id), 0) != 0;
 }
 
 SIZE Toolbar::Extent() const {

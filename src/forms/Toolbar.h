@@ -24,12 +24,9 @@ class Toolbar {
   // Fills the control `toolbar`, which has no buttons yet. Pictures are `side` pixels square. May be called again for
   // another control with the same buttons, once the former one is gone.
   void Attach(HWND toolbar, int side, std::span<const Button> buttons);
-  HWND Window() const { return window_; }
 
   void SetText(int id, std::string_view text);
-  std::string Text(int id) const;
   void Enable(int id, bool enabled);
-  bool IsEnabled(int id) const;
 
   // What all buttons need, in pixels.
   SIZE Extent() const;

@@ -5,7 +5,6 @@
 #include <limits>
 
 #include "platform/Paths.h"
-#include "platform/Text.h"
 
 namespace tarvik {
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/AsciiCase.h"
+
 namespace tarvik {
 namespace {
 
@@ -22,10 +24,6 @@ std::size_t RootLength(std::string_view path) {
   const auto share = path.find(separator, 2);
   if (share == std::string_view::npos) return path.size();
   return std::min(path.size(), path.find(separator, share + 1));
-}
-
-char UpperAscii(char character) {
-  return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
 }
 
 }  // namespace

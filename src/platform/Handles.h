@@ -74,13 +74,6 @@ struct ImageListPolicy {
 };
 using ImageListHandle = Owner<ImageListPolicy>;
 
-struct MenuPolicy {
-  using Type = HMENU;
-  static Type None() { return nullptr; }
-  static void Close(Type handle) { DestroyMenu(handle); }
-};
-using MenuHandle = Owner<MenuPolicy>;
-
 struct FilePolicy {
   using Type = HANDLE;
   static Type None() { return INVALID_HANDLE_VALUE; }

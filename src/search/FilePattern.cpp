@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/AsciiCase.h"
 #include "search/Characters.h"
-#include "startup/AsciiCase.h"
 
 namespace tarvik {
 namespace {

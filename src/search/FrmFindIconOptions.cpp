@@ -8,9 +8,6 @@
 
 #include "forms/FocusKept.h"
 #include "forms/MessageBox.h"
-#include "forms/MousePointer.h"
-#include "numbers/Conversion.h"
-#include "platform/Text.h"
 #include "resource.h"
 #include "search/FilePattern.h"
 #include "search/FrmFindIcon.h"

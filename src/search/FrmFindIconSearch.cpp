@@ -2,14 +2,11 @@
 
 #include <windows.h>
 
-#include <commctrl.h>
-
 #include <string>
 
 #include "forms/MessageBox.h"
 #include "forms/MousePointer.h"
 #include "platform/Handles.h"
-#include "platform/Text.h"
 #include "resource.h"
 #include "search/FrmFindIcon.h"
 #include "search/IconListRows.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "startup/AsciiCase.h"
+#include "platform/AsciiCase.h"
 
 namespace tarvik {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "startup/AsciiCase.h"
+#include "platform/AsciiCase.h"
 
 namespace tarvik {
 namespace {

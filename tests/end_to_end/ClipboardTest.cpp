@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
+#include <algorithm>
+#include <utility>
+
 #include "end_to_end/SavingTest.h"
 #include "platform/PastedPicture.h"
 
@@ -38,6 +41,34 @@ TEST_F(Copy, AnotherProgramPastesTheClickedIcon) {
     program_.Command(FrmFindIcon_mnuCopy);
     EXPECT_TRUE(Eventually([&] { return Pasted() == ComposedPixels(entry); })) << entry;
     ExpectAsFound();
+  }
+}
+
+// Its lower half is transparent and not black in the image: such pixels invert what they lie over, which is white.
+TEST_F(Copy, PixelsThatInvertDoSoAtEverySize) {
+  constexpr int side = 32;
+  constexpr Color left = 0x20C040;
+  constexpr Color right = 0xA06010;
+  constexpr std::size_t headerSize = 40;
+  constexpr std::size_t lowerHalf = std::size_t{3} * side * side / 2;
+  testing::IconPicture picture = testing::BitmapPicture(side, 24, left, right);
+  std::fill_n(picture.data.begin() + headerSize, lowerHalf, std::byte{0x40});
+  tree_.MakeFile("a.ico", testing::IconFile({&picture, 1}));
+  Start();
+  for (const auto& [choice, size] : {std::pair{Size16, 16}, {Size32, 32}, {Size48, 48}, {Size64, 64}}) {
+    ChooseSize(choice);
+    Find();
+    ASSERT_EQ(List().RowCount(), 1);
+    ClearClipboard();
+    program_.Command(FrmFindIcon_mnuCopy);
+    Pixels expected;
+    for (int y = 0; y < size; ++y) {
+      for (int x = 0; x < size; ++x) {
+        const Color color = y >= size / 2 ? white ^ 0x404040U : x < size / 2 ? left : right;
+        expected.push_back(0xFF000000U | color);
+      }
+    }
+    EXPECT_TRUE(Eventually([&] { return Pasted() == expected; }, shortly)) << size;
   }
 }
 

@@ -86,13 +86,34 @@ TEST_F(SaveBusy, ABatchShowsThatItRunsAndTakesNoCommands) {
     EXPECT_FALSE(testing::ReadAll(Out("Icon " + std::to_string(number) + ".ico")).empty()) << number;
 }
 
+TEST_F(SaveBusy, ABatchPaintsTheWindow) {
+  FindMany();
+  const RECT grid = program_.Item(FrmFindIcon_PicFrame).Inside();
+  const Screenshot before(grid);
+  const auto differences = [&] { return CountDifferences(Screenshot(grid), before); };
+  ChooseOut(FrmFindIcon_mnuSaveAll);
+  ASSERT_TRUE(Eventually([&] { return Status() == "Saving..."; }));
+  program_.Suspend();
+  const HWND cover =
+      CreateWindowExW(WS_EX_TOPMOST, L"Static", L"", WS_POPUP | WS_VISIBLE, grid.left, grid.top, grid.right - grid.left,
+                      grid.bottom - grid.top, nullptr, nullptr, nullptr, nullptr);
+  UpdateWindow(cover);
+  EXPECT_GT(differences(), 0);
+  DestroyWindow(cover);
+  EXPECT_GT(differences(), 0) << "painted without the program";
+  program_.Resume();
+  EXPECT_TRUE(Eventually([&] { return differences() == 0; }));
+  EXPECT_EQ(Status(), "Saving...") << "the batch was over before the window was painted";
+  ASSERT_TRUE(Eventually([&] { return Status() != "Saving..."; }));
+}
+
 TEST_F(SaveBusy, TwentyRoundsOfEachCommandKeepNothing) {
   FindPictures();
   const auto saveOne = [this](int command, const char* name) {
     DeleteFileW(ToWide(Out(name)).c_str());
     SaveAs(command, Out(name));
   };
-  // Wine's Save dialog, in any program, keeps a registry key and a USER handle whenever a name is accepted.
+  // Wine's Save dialog, in any program, keeps a registry key and a USER handle whenever it was shown.
   constexpr int saveDialog = 1;
   struct Row {
     const char* name;
@@ -118,7 +139,26 @@ TEST_F(SaveBusy, TwentyRoundsOfEachCommandKeepNothing) {
          Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk);
        },
        saveDialog},
+      {"cancelled name", [&] { AskForName(FrmFindIcon_mnuSaveAs).Cancel(); }, saveDialog},
+      {"cancelled hot spot",
+       [&] {
+         program_.Command(FrmFindIcon_MnuSaveAsCursor);
+         Dialog(program_, FrmHotSpot_PicCursor).End(FrmHotSpot_CmdCancel);
+       }},
       {"icons", [&] { ChooseOut(FrmFindIcon_mnuSaveAll); }},
+      {"cursors", [&] { ChooseOut(FrmFindIcon_mnuSaveAll3); }},
+      {"cursors of which one fails",
+       [&] {
+         const std::wstring inTheWay = ToWide(Out("Curor 2.cur"));
+         DeleteFileW(inTheWay.c_str());
+         CreateDirectoryW(inTheWay.c_str(), nullptr);
+         ChooseOut(FrmFindIcon_mnuSaveAll3);
+         ReadMessages(1);
+         RemoveDirectoryW(inTheWay.c_str());
+       }},
+      {"cancelled folder", [&] { AskForFolder(FrmFindIcon_mnuSaveAll).Cancel(); }},
+      {"selected icons", [&] { ChooseOut(FrmFindIcon_mnuSaveSel); }},
+      {"selected bitmaps", [&] { ChooseOut(FrmFindIcon_mnuSaveSel2); }},
       {"selected cursors",
        [&] {
          const FolderChooser chooser = AskForFolder(FrmFindIcon_mnuSaveSel3);

@@ -156,7 +156,7 @@ TEST_F(SaveCommandsTest, ShowsTheJpegDialogOnceBeforeABatch) {
                                   "temporary", "jpeg init D:\\out\\Images 1.jpg batch",
                                   "jpeg save D:\\out\\Images 1.jpg", "paint", "render 2", "temporary",
                                   "jpeg init D:\\out\\Images 2.jpg batch", "jpeg save D:\\out\\Images 2.jpg", "paint",
-                                  "status standing", "pointer back", "delete temporary", "jpeg free"));
+                                  "status standing", "pointer back", "jpeg free", "delete temporary"));
 }
 
 TEST_F(SaveCommandsTest, ShowsTheGifDialogOnceBeforeABatch) {
@@ -178,8 +178,8 @@ TEST_F(SaveCommandsTest, WritesNothingWhereTheOptionsOfABatchAreCancelled) {
   commands.mnuSaveAll2_Click();
   dialogs.chosenExtension = ".gif";
   commands.mnuSaveAll2_Click();
-  EXPECT_THAT(script, ElementsAre("folder for .bmp", "jpeg show batch", "jpeg free", "folder for .bmp",
-                                  "gif show batch", "gif free"));
+  EXPECT_THAT(script, ElementsAre("folder for .bmp", "jpeg show batch", "jpeg free", "delete temporary",
+                                  "folder for .bmp", "gif show batch", "gif free"));
 }
 
 TEST_F(SaveCommandsTest, GoesOnAfterAnEncodedFileThatFailed) {

@@ -109,6 +109,22 @@ TEST_F(FrmHotSpotTest, ShowsEachClickBoundedAtZero) {
   EXPECT_EQ(state.HotSpotY, 0);
 }
 
+TEST_F(FrmHotSpotTest, TakesAClickAtScale4ForTheFirstPixel) {
+  state.MagnifiedSide = 4 * 64 + 1;
+  Show();
+  Send(WM_MOUSEMOVE, 13, 29);
+  Send(WM_LBUTTONDOWN, 13, 29);
+  EXPECT_EQ(Shown(FrmHotSpot_lblxy), "00, 00");
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "00");
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "00");
+  form.Unload();
+  state.HotSpotBound = 40;  // what the bound hides
+  Show();
+  Send(WM_LBUTTONDOWN, 13, 29);
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "03");
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "07");
+}
+
 TEST_F(FrmHotSpotTest, DividesByTheScaleUpToTheBound) {
   state.HotSpotBound = 40;
   Show();

@@ -1,4 +1,4 @@
-#include "startup/AsciiCase.h"
+#include "platform/AsciiCase.h"
 
 #include <gtest/gtest.h>
 

@@ -88,6 +88,17 @@ TEST_F(FrmFindIconExportTest, SavesAllEntriesOfAListOfThree) {
   EXPECT_TRUE(boxes.Boxes().empty());
 }
 
+TEST_F(FrmFindIconExportTest, NamesFilesByEntryWhateverTheLabelsCount) {
+  machine.files["C:\\icons"] = {"a.dll", "some.dll"};
+  machine.icons["C:\\icons\\a.dll"] = 2;
+  Open();
+  Find(2);
+  Click(FrmFindIcon_mnuIL2);
+  dialogs.folder = folder.Path();
+  Click(FrmFindIcon_mnuSaveAll);
+  EXPECT_EQ(NamesIn(folder.Path()), (std::vector<std::string>{"Icon 1.ico", "Icon 2.ico", "Icon 3.ico", "Icon 4.ico"}));
+}
+
 TEST_F(FrmFindIconExportTest, SavesTheSelectedEntriesAsCursors) {
   Open();
   Find(6);

@@ -1,0 +1,67 @@
+#include "export/FileDialog.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <array>
+#include <string>
+
+#include "forms/BoxWatcher.h"
+#include "forms/Controls.h"
+#include "forms/ModalDriver.h"
+#include "platform/TemporaryFolder.h"
+#include "platform/Text.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int nameId = 0x47c;  // the system's own
+
+class FileDialogTest : public ::testing::Test {
+ protected:
+  static std::wstring CurrentFolder() {
+    std::array<wchar_t, 1024> folder{};
+    GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data());
+    return folder.data();
+  }
+  // What the dialog gives back where its user types the name and presses a button.
+  std::string Open(const std::string& name, int button) {
+    driver.On(nameId, [this, name, button](HWND dialog) {
+      title = testing::TextOf(dialog);
+      SetDlgItemTextW(dialog, nameId, ToWide(name).c_str());
+      testing::Command(dialog, button);
+    });
+    return AskForFileToOpen(nullptr, saveAsMode, "CHS");
+  }
+
+  testing::TemporaryFolder folder;
+  testing::ModalDriver driver;
+  std::string title;
+};
+
+TEST_F(FileDialogTest, GivesTheFileToOpen) {
+  const std::string path = folder.MakeFile("图标.ico");
+  const std::wstring current = CurrentFolder();
+  EXPECT_EQ(Open(path, IDOK), path);
+  EXPECT_EQ(title, "Brindle Tarvik - 另存为");
+  EXPECT_EQ(CurrentFolder(), current);
+}
+
+TEST_F(FileDialogTest, GivesNothingWhereItIsCancelled) {
+  EXPECT_EQ(Open(folder.MakeFile("a.ico"), IDCANCEL), "");
+}
+
+TEST_F(FileDialogTest, OpensNoFileThatIsNotThere) {
+  const std::string path = folder.In("none.ico");
+  const testing::BoxWatcher boxes;
+  driver.On(nameId, [path](HWND dialog) {
+    SetDlgItemTextW(dialog, nameId, ToWide(path).c_str());
+    testing::Command(dialog, IDOK);
+  });
+  driver.On(nameId, [](HWND dialog) { testing::Command(dialog, IDCANCEL); });
+  EXPECT_EQ(AskForFileToOpen(nullptr, saveAsMode, "ENG"), "");
+  EXPECT_EQ(boxes.Boxes().size(), 1U) << "says that it is not there";
+}
+
+}  // namespace
+}  // namespace tarvik
