@@ -1,5 +1,5 @@
-// The start-up window and About box in three languages, and in one that the program does not know; a language that may
-// not be read; and a skin.
+// The start-up window and About box in three languages, and in one that the program does not know; and a language that
+// may not be read.
 
 #include <windows.h>
 

@@ -9,7 +9,11 @@
 
 #include <array>
 #include <cwchar>
+#include <filesystem>
+#include <fstream>
 #include <string>
+
+#include "platform/Text.h"
 
 namespace tarvik::testing {
 namespace {
@@ -24,7 +28,7 @@ std::wstring Variable(const wchar_t* name) {
 }
 
 void Note(const std::wstring& entry) {
-  SetEnvironmentVariableW(skinDiary, (Variable(skinDiary) + entry + L'|').c_str());
+  std::ofstream(std::filesystem::path(Variable(skinDiary)), std::ios::binary | std::ios::app) << ToUtf8(entry) << '|';
 }
 
 bool IsTo(const wchar_t* behaviour) {

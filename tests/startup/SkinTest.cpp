@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <string>
 
 #include "forms/Application.h"
@@ -14,41 +13,25 @@
 #include "platform/Text.h"
 #include "resource.h"
 #include "startup/SkinComponent.h"
+#include "startup/SkinRegistration.h"
 
 namespace tarvik {
 namespace {
 
 using testing::TemporaryFolder;
 
-const std::wstring classKey = std::wstring(L"Software\\Classes\\") + Skin::className;
-const std::wstring serverKey = std::wstring(L"Software\\Classes\\CLSID\\") + testing::skinClassId;
-
-void SetValue(const std::wstring& key, const wchar_t* name, const std::wstring& text) {
-  const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-  EXPECT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key.c_str(), name, REG_SZ, text.c_str(), size), ERROR_SUCCESS);
-}
-
-// The test's component, known to the system for as long as the object lives.
-class Registration {
+// The test's component, known to the system.
+class Registration : public testing::SkinRegistration {
  public:
-  explicit Registration(const std::wstring& server = ToWide(JoinPath(ProgramFolder(), "skin_component.dll"))) {
-    SetValue(classKey + L"\\CLSID", nullptr, testing::skinClassId);
-    SetValue(serverKey + L"\\InprocServer32", nullptr, server);
-    SetValue(serverKey + L"\\InprocServer32", L"ThreadingModel", L"Apartment");
-  }
-  ~Registration() {
-    RegDeleteTreeW(HKEY_LOCAL_MACHINE, classKey.c_str());
-    RegDeleteTreeW(HKEY_LOCAL_MACHINE, serverKey.c_str());
-  }
-  Registration(const Registration&) = delete;
-  Registration& operator=(const Registration&) = delete;
+  explicit Registration(const std::wstring& server = ToWide(JoinPath(ProgramFolder(), "skin_component.dll")))
+      : SkinRegistration(server) {}
 };
 
 class SkinTest : public ::testing::Test {
  protected:
   SkinTest() {
     SetEnvironmentVariableW(testing::skinBehaviour, nullptr);
-    SetEnvironmentVariableW(testing::skinDiary, L"");
+    SetEnvironmentVariableW(testing::skinDiary, ToWide(folder.In("diary")).c_str());
     form.Load();
   }
 
@@ -57,11 +40,7 @@ class SkinTest : public ::testing::Test {
     (void)folder.MakeFile("Skins\\Galaxy.skn");
   }
   static void Have(const wchar_t* behaviour) { SetEnvironmentVariableW(testing::skinBehaviour, behaviour); }
-  static std::string Diary() {
-    std::array<wchar_t, 4096> text{};
-    const DWORD length = GetEnvironmentVariableW(testing::skinDiary, text.data(), static_cast<DWORD>(text.size()));
-    return ToUtf8({text.data(), length});
-  }
+  std::string Diary() const { return testing::ReadAll(folder.In("diary")); }
   std::string Loaded() const { return "made|LoadSkin " + folder.In("Skins\\Galaxy.skn") + "|"; }
   std::string Applied() const {
     return Loaded() + "ApplySkin " + std::to_string(reinterpret_cast<LONG_PTR>(form.Window())) + "|";
