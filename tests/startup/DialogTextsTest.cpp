@@ -6,22 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "dialogs/frmDir.h"
-#include "dialogs/frmDirCreate.h"
-#include "encoders/FrmConvertGIF.h"
-#include "encoders/fComment.h"
-#include "encoders/fSaveJPG.h"
-#include "export/FrmHotSpot.h"
-#include "forms/Application.h"
 #include "forms/Controls.h"
-#include "platform/DiskFile.h"
-#include "platform/DiskTarget.h"
-#include "platform/Surface.h"
 #include "resource.h"
+#include "startup/Dialogs.h"
 #include "startup/TextChecks.h"
 
 namespace tarvik {
@@ -29,50 +19,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-// The dialogs, each over as little as it needs.
-class Dialogs {
- protected:
-  explicit Dialogs(const std::string& language) {
-    state.CurrentLanguage = language;
-    state.SaveExtension = ".BMP";
-  }
-
-  std::unique_ptr<Form> FolderChooser() {
-    return std::make_unique<frmDir>(application, state,
-                                    frmDir::Disk{[] {
-                                                   return std::vector<DriveListBox::Drive>{{"C:\\", "c:"}};
-                                                 },
-                                                 [](const std::string&) { return std::vector<std::string>(); },
-                                                 [](const std::string&) -> std::optional<std::string> { return {}; },
-                                                 [] { return std::string("C:\\"); }});
-  }
-  std::unique_ptr<Form> NewFolder() {
-    return std::make_unique<frmDirCreate>(
-        application, state, [](const std::string&) -> std::optional<std::string> { return {}; },
-        [](const std::string&) {});
-  }
-  std::unique_ptr<Form> HotSpotPicker() {
-    return std::make_unique<FrmHotSpot>(application, state, [this]() -> const Surface& { return picture; });
-  }
-  std::unique_ptr<Form> JpegOptions() {
-    return std::make_unique<fSaveJPG>(application, state, nullptr, files, targets);
-  }
-  std::unique_ptr<Form> JpegComment() { return std::make_unique<fComment>(application, state); }
-  std::unique_ptr<Form> GifOptions() {
-    return std::make_unique<FrmConvertGIF>(
-        application, state, nullptr,
-        FrmConvertGIF::Parts{[this]() -> const Surface& { return picture; }, files, targets,
-                             [](const std::string&) { return std::uint64_t{0}; }});
-  }
-
-  Application application{GetModuleHandleW(nullptr)};
-  ProgramState state;
-  Surface picture{385, 385, white};
-  DiskFile files;
-  DiskTarget targets;
-};
-
-class DialogTextsTest : public Dialogs, public ::testing::TestWithParam<const char*> {
+class DialogTextsTest : public testing::Dialogs, public ::testing::TestWithParam<const char*> {
  protected:
   DialogTextsTest() : Dialogs(GetParam()) {}
 
@@ -111,7 +58,7 @@ TEST_P(DialogTextsTest, GifOptions) {
 INSTANTIATE_TEST_SUITE_P(Languages, DialogTextsTest, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
                          [](const auto& row) { return std::string(row.param); });
 
-class UnknownLanguageTest : public Dialogs, public ::testing::Test {
+class UnknownLanguageTest : public testing::Dialogs, public ::testing::Test {
  protected:
   UnknownLanguageTest() : Dialogs("Chinese") {}
 

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "startup/Centering.h"
 #include "view/ViewFixture.h"
 #include "view/frmBit.h"
 
@@ -16,6 +17,16 @@ TEST_F(frmBitSizeTest, OpensAtItsDesignedSizeOnTheFirstRun) {
   WhileOpen([this] {
     EXPECT_EQ(WindowSize().cx, 443);
     EXPECT_EQ(WindowSize().cy, 354);
+  });
+}
+
+TEST_F(frmBitSizeTest, OpensInTheMiddleAThirdOfTheSpareHeightDown) {
+  WhileOpen([this] { testing::ExpectCentered(view->Window()); });
+  store.values["Bitmapview/Height"] = "7605";
+  store.values["Bitmapview/Width"] = "9165";
+  WhileOpen([this] {
+    EXPECT_EQ(WindowSize().cx, 611);
+    testing::ExpectCentered(view->Window());
   });
 }
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "platform/Handles.h"
+#include "startup/Placement.h"
+
+namespace tarvik::testing {
+
+// A window stands where one of its size does by the rule.
+inline void ExpectCentered(HWND window) {
+  RECT place{};
+  GetWindowRect(window, &place);
+  const WindowDc dc(window);
+  const int across = GetDeviceCaps(dc.get(), LOGPIXELSX);
+  const int down = GetDeviceCaps(dc.get(), LOGPIXELSY);
+  const TwipPlace expected =
+      CenteredPlace({ToTwips(GetSystemMetrics(SM_CXSCREEN), across), ToTwips(GetSystemMetrics(SM_CYSCREEN), down)},
+                    {ToTwips(place.right - place.left, across), ToTwips(place.bottom - place.top, down)});
+  EXPECT_EQ(place.left, ToPixels(expected.left, across));
+  EXPECT_EQ(place.top, ToPixels(expected.top, down));
+}
+
+}  // namespace tarvik::testing

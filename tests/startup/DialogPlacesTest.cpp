@@ -1,0 +1,34 @@
+// Where every dialog stands once it is loaded.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "startup/Centering.h"
+#include "startup/Dialogs.h"
+
+namespace tarvik {
+namespace {
+
+class DialogPlacesTest : public testing::Dialogs, public ::testing::Test {
+ protected:
+  DialogPlacesTest() : Dialogs("ENG") {}
+
+  static void Check(const std::unique_ptr<Form>& form, const char* name) {
+    const ::testing::ScopedTrace trace(__FILE__, __LINE__, name);
+    form->Load();
+    testing::ExpectCentered(form->Window());
+  }
+};
+
+TEST_F(DialogPlacesTest, AreInTheMiddleAThirdOfTheSpareHeightDown) {
+  Check(FolderChooser(), "frmDir");
+  Check(NewFolder(), "frmDirCreate");
+  Check(HotSpotPicker(), "FrmHotSpot");
+  Check(JpegOptions(), "fSaveJPG");
+  Check(JpegComment(), "fComment");
+  Check(GifOptions(), "FrmConvertGIF");
+}
+
+}  // namespace
+}  // namespace tarvik
