@@ -205,16 +205,20 @@ TEST_F(frmDirTest, NamesTheNewFolderInEachLanguage) {
     const char* caption;
     const char* name;
     const char* label;
+    const char* ok;
+    const char* cancel;
   };
-  for (const Row& row : {Row{"CHS", "在C:\\work中创建子文件夹", "新建文件夹", "文件夹:"},
-                         {"CHT", "在C:\\work中創建子文件夾", "新建文件夾", "文件夾:"},
-                         {"ENG", "Create In C:\\work", "New Folder", "Folder:"}}) {
+  for (const Row& row : {Row{"CHS", "在C:\\work中创建子文件夹", "新建文件夹", "文件夹:", "创建(&R)", "取消(&C)"},
+                         {"CHT", "在C:\\work中創建子文件夾", "新建文件夾", "文件夾:", "創建(&R)", "取消(&C)"},
+                         {"ENG", "Create In C:\\work", "New Folder", "Folder:", "Cr&eate", "&Cancel"}}) {
     state.CurrentLanguage = row.language;
     OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
     OnCreate([&row](HWND window) {
       EXPECT_EQ(TextOf(window), row.caption);
       EXPECT_EQ(TextOf(window, frmDirCreate_txt), row.name);
       EXPECT_EQ(TextOf(window, frmDirCreate_lblCaption), row.label);
+      EXPECT_EQ(TextOf(window, frmDirCreate_CmdOk), row.ok);
+      EXPECT_EQ(TextOf(window, frmDirCreate_CmdCancel), row.cancel);
       DWORD start = 99;
       DWORD end = 0;
       SendMessageW(GetDlgItem(window, frmDirCreate_txt), EM_GETSEL, reinterpret_cast<WPARAM>(&start),
