@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <span>
 #include <stdexcept>
+#include <utility>
 
 #include "driver/UnixProgram.h"
 #include "driver/Waiting.h"
@@ -77,8 +78,11 @@ void Box::Press(int button) const {
 }
 
 Program::Program(const std::string& folder, const std::string& name)
-    : path_(fs::path(ToWide(folder)) / ToWide(name)), job_(CreateJobObjectW(nullptr, nullptr)) {
+    : Program(fs::path(ToWide(folder)) / ToWide(name)) {
   fs::copy_file(BuiltFile(TARVIK_PROGRAM), path_);
+}
+
+Program::Program(fs::path copy) : path_(std::move(copy)), job_(CreateJobObjectW(nullptr, nullptr)) {
   JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
   limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
   SetInformationJobObject(job_.get(), JobObjectExtendedLimitInformation, &limits, sizeof limits);

@@ -39,6 +39,8 @@ class Program {
  public:
   // `folder` is where the copy lies, and must be there; `name` is the copy's file name. Both are UTF-8.
   explicit Program(const std::string& folder, const std::string& name = "tarvik.exe");
+  // One more run of a copy that is there.
+  explicit Program(std::filesystem::path copy);
   // Ends a program that still runs, by force.
   ~Program();
   Program(const Program&) = delete;

@@ -5,6 +5,7 @@
 #include <chrono>
 
 #include "end_to_end/EndToEndTest.h"
+#include "platform/IconFiles.h"
 
 namespace tarvik::end_to_end {
 namespace {
@@ -56,6 +57,30 @@ TEST_F(StartUp, ASecondCopyStartsLikeTheFirst) {
   second.Start();
   EXPECT_EQ(second.Close(), 0U);
   EXPECT_TRUE(program_.IsRunning());
+}
+
+TEST_F(StartUp, TheSameFileStartedTwiceAtOnceGivesTwoProgramsThatWork) {
+  tree_.MakeFile("some.ico", testing::IconFileOf(0x20C040));
+  WriteSetting("Folder", tree_.Path());
+  Program second(program_.Path());
+  program_.Launch();
+  second.Launch();
+  EXPECT_NE(program_.WaitForStartUpWindow().Window(), second.WaitForStartUpWindow().Window());
+  program_.WaitForMainWindow();
+  second.WaitForMainWindow();
+  for (const Program* each : {&program_, &second}) {
+    EXPECT_EQ(each->CountWindowsWith(FrmFindIcon_CmdFind), 1);
+    each->Item(FrmFindIcon_CmdFind).Send(BM_CLICK);
+    EXPECT_EQ(ReportView(each->Item(FrmFindIcon_Lv)).RowCount(), 1);
+  }
+  // Each leaves its own settings in the file that both have.
+  second.Item(FrmFindIcon_chkSubDir).Send(BM_CLICK);
+  EXPECT_EQ(second.Close(), 0U);
+  EXPECT_EQ(ReadSetting("Subdir"), "True");
+  Find();
+  EXPECT_EQ(List().RowCount(), 1);
+  EXPECT_EQ(program_.Close(), 0U);
+  EXPECT_EQ(ReadSetting("Subdir"), "False");
 }
 
 }  // namespace
