@@ -62,11 +62,17 @@ std::string Held(const std::string& actions, HeldKeys keys) {
 }
 
 // Where the screen's keys go follows the window in front a moment later, and a key pressed before that is lost. This
-// answers whether they go there, and waits for a second.
+// answers whether they go there, and waits for a second. On a busy machine they at times do not follow at all, and the
+// window then gets them as a window manager would give them.
 bool KeysGoToFront() {
   const auto front = reinterpret_cast<ULONG_PTR>(GetPropW(GetForegroundWindow(), L"__wine_x11_whole_window"));
-  return RunUnix("for try in $(seq 50); do [ \"$(xdotool getwindowfocus -f)\" != " + std::to_string(front) +
-                 " ] || exit 0; sleep 0.02; done; exit 1")
+  return RunUnix("front=" + std::to_string(front) + R"sh(
+for try in $(seq 50); do
+  [ "$(xdotool getwindowfocus -f)" != $front ] || exit 0
+  sleep 0.02
+done
+[ $front = 0 ] || xdotool windowfocus $front
+exit 1)sh")
              .exitCode == 0;
 }
 
