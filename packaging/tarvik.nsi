@@ -189,6 +189,7 @@ Function un.onInit
 FunctionEnd
 
 ; Takes away what the installer and the program made, name by name: a folder that holds anything else stays, with it.
+; The folder goes last, so that its end is the end of all.
 Section Uninstall
   Delete "$INSTDIR\tarvik.exe"
   ${If} ${FileExists} "$INSTDIR\tarvik.exe"
@@ -196,6 +197,14 @@ Section Uninstall
     SetErrorLevel 2
     Abort
   ${EndIf}
+  Delete "${SHORTCUT}"
+
+  DeleteRegValue HKLM "${LANGUAGE_KEY}" Language
+  DeleteRegKey /ifempty HKLM "${LANGUAGE_KEY}"
+  DeleteRegKey /ifempty HKLM "Software\Vornhold\Brindle Tarvik"
+  DeleteRegKey /ifempty HKLM "Software\Vornhold"
+  DeleteRegKey HKLM "${UNINSTALL_KEY}"
+
   Delete "$INSTDIR\tarvik.dat"
   Delete "$INSTDIR\LICENSE.txt"
   Delete "$INSTDIR\third-party-notices.txt"
@@ -204,13 +213,14 @@ Section Uninstall
   Delete "$INSTDIR\guide\images\*.png"
   RMDir "$INSTDIR\guide\images"
   RMDir "$INSTDIR\guide"
-  Delete "$INSTDIR\uninstall.exe"
+  ; The program that the user started goes on as this copy of it, and holds its own file until it has ended: asked for
+  ; again for ten seconds.
+  ${For} $R0 1 100
+    Delete "$INSTDIR\uninstall.exe"
+    ${IfNot} ${FileExists} "$INSTDIR\uninstall.exe"
+      ${ExitFor}
+    ${EndIf}
+    Sleep 100
+  ${Next}
   RMDir "$INSTDIR"
-  Delete "${SHORTCUT}"
-
-  DeleteRegValue HKLM "${LANGUAGE_KEY}" Language
-  DeleteRegKey /ifempty HKLM "${LANGUAGE_KEY}"
-  DeleteRegKey /ifempty HKLM "Software\Vornhold\Brindle Tarvik"
-  DeleteRegKey /ifempty HKLM "Software\Vornhold"
-  DeleteRegKey HKLM "${UNINSTALL_KEY}"
 SectionEnd

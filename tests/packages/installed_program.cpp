@@ -1,4 +1,4 @@
-// What an installation has left behind: the program, its language, and the rights of ordinary users.
+// What an installation has left behind: the program, its language, the rights of ordinary users, and the uninstaller.
 
 #include <windows.h>
 
@@ -6,10 +6,11 @@
 #include <gtest/gtest.h>
 #include <sddl.h>
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <string>
-#include <vector>
+#include <thread>
 
 #include "driver/Controls.h"
 #include "driver/Waiting.h"
@@ -56,6 +57,19 @@ std::optional<OwnRights> OwnRightsOfUsers(const wchar_t* name, SE_OBJECT_TYPE ki
   return rights;
 }
 
+// Starts an installed program, in the folder of the installation.
+FileHandle Start(const fs::path& program, const std::wstring& arguments = {}) {
+  std::wstring command = L"\"" + program.wstring() + L"\" " + arguments;
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION information{};
+  EXPECT_NE(CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr, home.c_str(), &startup,
+                           &information),
+            FALSE);
+  const FileHandle thread(information.hThread);
+  return FileHandle(information.hProcess);
+}
+
 // A visible window that has a control with that id, once there is one.
 Control WaitForWindowWith(int id) {
   struct Search {
@@ -94,14 +108,7 @@ TEST(InstalledProgram, FindsIconsInTheLanguageOfTheInstallation) {
   const std::string settings = ToUtf8((home / L"tarvik.dat").wstring());
   ASSERT_NE(WritePrivateProfileStringA("FindIcon", "Folder", folder.Path().c_str(), settings.c_str()), FALSE);
 
-  STARTUPINFOW startup{};
-  startup.cb = sizeof startup;
-  PROCESS_INFORMATION information{};
-  ASSERT_NE(CreateProcessW((home / L"tarvik.exe").c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, home.c_str(),
-                           &startup, &information),
-            FALSE);
-  const FileHandle process(information.hProcess);
-  const FileHandle thread(information.hThread);
+  const FileHandle process = Start(home / L"tarvik.exe");
 
   const Control window = WaitForWindowWith(FrmFindIcon_CmdFind);
   ASSERT_TRUE(window);
@@ -114,6 +121,19 @@ TEST(InstalledProgram, FindsIconsInTheLanguageOfTheInstallation) {
   char subDir[16] = {};
   GetPrivateProfileStringA("FindIcon", "Subdir", "", subDir, sizeof subDir, settings.c_str());
   EXPECT_STREQ(subDir, "False");
+}
+
+// As the program that the user started holds it, which goes on in a copy and may end later than that gets to its file.
+TEST(Uninstaller, RemovesItsOwnFileOnceNobodyHoldsItOpen) {
+  const fs::path file = home / L"uninstall.exe";
+  FileHandle holder(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(holder);
+  Start(file, L"/S");
+  EXPECT_TRUE(Eventually([] { return !fs::exists(home / L"guide"); }));  // which is removed right before it
+  std::this_thread::sleep_for(std::chrono::seconds(1));
+  EXPECT_TRUE(fs::exists(file));
+  holder.reset();
+  EXPECT_TRUE(Eventually([&] { return !fs::exists(file); }));
 }
 
 }  // namespace
