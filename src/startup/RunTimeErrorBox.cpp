@@ -4,7 +4,6 @@
 #include "startup/MessageTexts.h"
 
 namespace tarvik {
-
 namespace {
 
 const Text& TextOf(const RuntimeError& error) {

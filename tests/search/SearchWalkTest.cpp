@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <new>
 #include <string>
 
 #include "numbers/RuntimeError.h"
@@ -165,6 +166,17 @@ TEST_F(SearchWalkTest, PutsDir1AndThePointersBackWhenListingFails) {
   EXPECT_EQ(window.dir1, "C:\\a");
   EXPECT_THAT(script.Lines("pointer"), ElementsAre("pointer back 2", "pointer back 1"));
   EXPECT_EQ(list.Count(), 0) << "no list beside a blank grid";
+  EXPECT_EQ(script.Lines().back(), "clear grid");
+}
+
+TEST_F(SearchWalkTest, LeavesNothingHalfDoneWhenMemoryIsOut) {
+  window.onEvents = [&] {
+    if (list.Count() == 3) throw std::bad_alloc();
+  };
+  EXPECT_THROW(Find(), std::bad_alloc);
+  EXPECT_FALSE(state.IsSearching);
+  EXPECT_EQ(window.dir1, "C:\\a");
+  EXPECT_EQ(list.Count(), 0);
   EXPECT_EQ(script.Lines().back(), "clear grid");
 }
 
