@@ -13,21 +13,43 @@ as_root() {
   fi
 }
 
-# need_packages LIST...: installs the Debian packages that the lists name (scripts/packages/LIST.txt), where missing.
+# need_packages LIST...: installs the Debian packages that the lists name (scripts/packages/LIST.txt), if missing. A row
+# "A | B" is satisfied by any of these packages; if none is there, the first one that this release has is installed.
 need_packages() {
-  local list name missing=()
+  local list row rows=() names=()
   for list in "$@"; do
-    while read -r name _; do
-      case "$name" in ''|'#'*) continue ;; esac
-      dpkg-query -W -f '${db:Status-Status}\n' "$name" 2>/dev/null | grep -qx installed || missing+=("$name")
+    while read -r row; do
+      case "$row" in ''|'#'*) continue ;; esac
+      is_installed "$row" || rows+=("$row")
     done < "$root/scripts/packages/$list.txt"
   done
-  [ ${#missing[@]} -gt 0 ] || return 0
-  command -v apt-get >/dev/null || fail "these packages are missing and there is no apt-get: ${missing[*]}"
-  say "Installing ${#missing[@]} Debian packages: ${missing[*]}"
-  as_root apt-get update -qq || fail "apt-get update failed; is the package server reachable, and may you use sudo?"
-  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null ||
-    fail "apt-get could not install: ${missing[*]}"
+  [ ${#rows[@]} -gt 0 ] || return 0
+  command -v apt-get >/dev/null || fail "these packages are missing and there is no apt-get: $(printf '%s; ' "${rows[@]}")"
+  as_root apt-get update -qq -o Acquire::Retries=3 ||
+    fail "apt-get update failed; is the package server reachable, and may you use sudo?"
+  for row in "${rows[@]}"; do names+=("$(offered "$row")"); done
+  say "Installing ${#names[@]} Debian packages: ${names[*]}"
+  as_root env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq -o Acquire::Retries=3 --no-install-recommends "${names[@]}" >/dev/null ||
+    fail "apt-get could not install: ${names[*]}"
+}
+
+# is_installed ROW: whether one of the packages of the row is installed.
+is_installed() {
+  local name
+  for name in ${1//|/ }; do
+    if dpkg-query -W -f '${db:Status-Status}\n' "$name" 2>/dev/null | grep -qx installed; then return 0; fi
+  done
+  return 1
+}
+
+# offered ROW: the first package of the row that the package server has, or the first one, for the message.
+offered() {
+  local name
+  for name in ${1//|/ }; do
+    if apt-cache show "$name" 2>/dev/null | grep -q '^Package:'; then echo "$name"; return 0; fi
+  done
+  echo "${1%% *}"
 }
 
 # watch_processes: from here on every process that this script starts carries a mark in its environment, and none

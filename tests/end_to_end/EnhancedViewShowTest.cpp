@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "end_to_end/ViewByHand.h"
+#include "platform/Holdings.h"
 
 namespace tarvik::end_to_end {
 namespace {
@@ -111,9 +112,9 @@ TEST_F(EnhancedViewShow, HoldsNoMoreAfterAThousandTicks) {
   view.Press(frmBit_tlb_control_Slower, 60);
   view.Press(frmBit_tlb_control_Start);
   for (int tick = 0; tick < 100; ++tick) view.Tick();
-  const testing::Holdings before = program_.Held();
+  const testing::Holdings before = testing::HeldBy(program_.Process());
   for (int tick = 0; tick < 1000; ++tick) view.Tick();
-  const testing::Holdings after = program_.Held();
+  const testing::Holdings after = testing::HeldBy(program_.Process());
   EXPECT_EQ(after.gdiObjects, before.gdiObjects);
   EXPECT_EQ(after.kernelHandles, before.kernelHandles);
   EXPECT_LT(after.userHandles, before.userHandles + 100) << "one in ten ticks";

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "end_to_end/SavingTest.h"
+#include "platform/Holdings.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
@@ -35,13 +36,13 @@ class SaveBusy : public Saving {
     constexpr int rounds = 20;
     testing::Holdings before{};
     for (int round = 0; round < warmUps + rounds; ++round) {
-      if (round == warmUps) before = program_.Held();
+      if (round == warmUps) before = testing::HeldBy(program_.Process());
       command();
       ExpectAsFound();
     }
     EXPECT_GT(before.gdiObjects, 0);
     EXPECT_GT(before.kernelHandles, 0);
-    const testing::Holdings after = program_.Held();
+    const testing::Holdings after = testing::HeldBy(program_.Process());
     EXPECT_LT(after.gdiObjects, before.gdiObjects + rounds / 2) << name;
     EXPECT_LT(after.kernelHandles, before.kernelHandles + rounds * keptBySystem + rounds / 2) << name;
     EXPECT_LT(after.userHandles, before.userHandles + rounds * keptBySystem + rounds / 2) << name;

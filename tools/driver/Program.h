@@ -9,7 +9,6 @@
 
 #include "driver/Controls.h"
 #include "platform/Handles.h"
-#include "platform/Holdings.h"
 
 namespace tarvik::end_to_end {
 
@@ -81,8 +80,6 @@ class Program {
 
   // The folder that the process stands in, with a backslash at its end.
   std::string CurrentFolder() const;
-  // What the process holds of the system.
-  testing::Holdings Held() const { return testing::HeldBy(process_.get()); }
 
   // The main window; none before Start.
   Control Window() const { return window_; }

@@ -1,4 +1,4 @@
-// Has the real program search a folder, as ./run does where nobody sits before a screen:
+// Has the real program search a folder, as ./run does if there is no display:
 //   run_search.exe HOME [FOLDER]
 // The program is copied to HOME and run from there. It searches FOLDER (the system folder if left out) and all folders
 // below it for icons in .ico, .dll and .exe files, at 32 x 32 and, where that is too many, at 16 x 16. What it answers
