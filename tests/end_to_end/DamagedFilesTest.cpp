@@ -86,7 +86,7 @@ TEST_F(DamagedFiles, AreSearchedWithoutACrashAMessageOrGrowthAndTheSoundOnesAmon
   ChooseSize(Size16);
   SetLimit("4000");
   Search(folders.front());
-  const Holdings before = HeldBy(program_.Process());
+  const Holdings before = testing::HeldBy(program_.Process());
   int files = 0;
   int breaking = 0;
   for (const DamagedFolder& folder : folders) {
@@ -94,7 +94,7 @@ TEST_F(DamagedFiles, AreSearchedWithoutACrashAMessageOrGrowthAndTheSoundOnesAmon
     files += static_cast<int>(folder.damaged.size());
   }
   EXPECT_GE(files, 10000);
-  const Holdings after = HeldBy(program_.Process());
+  const Holdings after = testing::HeldBy(program_.Process());
   std::printf("%d damaged files; %d of them break the system\n", files, breaking);
   // What the system held when it faulted stays: a bitmap here, a few pages of a file there.
   EXPECT_LT(after.gdiObjects - before.gdiObjects, files / 20);
