@@ -65,6 +65,7 @@ start_wine() {
   make_prefix
   wine_is_up=1
   choose_desktop "$1"
+  choose_browser
   # Its services would hold this script's output open, so they get none of it.
   wineserver -p >/dev/null 2>&1 </dev/null 9>&- || true
   wine wineboot >/dev/null 2>&1 </dev/null 9>&- || fail "Wine does not start"
@@ -95,8 +96,23 @@ choose_desktop() {
   wineserver -w
 }
 
+# choose_browser: Wine hands pages to a browser of this machine, but knows them as pages only with an HTML engine, which it
+# does not have here. So they are made known, if there is a browser that it would start. Without one the program sees
+# that nothing opens a page, and can say so.
+choose_browser() {
+  local key='HKLM\Software\Classes\.html' known=no browser wanted=no
+  for browser in xdg-open firefox konqueror mozilla opera dillo; do
+    if command -v "$browser" >/dev/null; then wanted=yes; fi
+  done
+  if grep -qiF '[Software\\Classes\\.html]' "$WINEPREFIX/system.reg"; then known=yes; fi
+  case "$known$wanted" in
+    noyes) set_registry add "$key" /ve /d htmlfile /f ;;
+    yesno) set_registry delete "$key" /f ;;
+  esac
+}
+
 set_registry() {
-  wine reg "$@" >/dev/null 2>&1 </dev/null 9>&- || fail "Wine refused its desktop setting"
+  wine reg "$@" >/dev/null 2>&1 </dev/null 9>&- || fail "Wine refused a setting: $*"
 }
 
 # end_wine: called when the script ends, however it ends.

@@ -18,9 +18,13 @@ namespace {
 // ShellExecute gives a number above this one where it could open what it was asked to.
 constexpr std::intptr_t lastShellError = 32;
 
-bool Open(HWND owner, const std::string& path) {
+bool IsThere(const std::wstring& path) {
+  return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool Open(HWND owner, const std::wstring& path) {
   const ComUse use;  // what opens the page may be a COM object
-  const HINSTANCE result = ShellExecuteW(owner, L"open", ToWide(path).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  const HINSTANCE result = ShellExecuteW(owner, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
   return reinterpret_cast<std::intptr_t>(result) > lastShellError;
 }
 
@@ -28,8 +32,10 @@ bool Open(HWND owner, const std::string& path) {
 
 void OpenGuide(HWND owner, const std::string& programFolder, std::string_view code) {
   const std::string path = GuidePath(programFolder, code);
-  if (Open(owner, path)) return;
-  const auto text = Pick(guideFailure, code);
+  const std::wstring systemPath = ToWide(path);
+  const bool isThere = IsThere(systemPath);
+  if (isThere && Open(owner, systemPath)) return;
+  const auto text = Pick(isThere ? guideNotOpened : guideMissing, code);
   if (!text) return;
   ShowMessage(owner, std::string(*text).append("\r\n\r\n").append(path), FailureTitle(code), MessageSign::Exclamation);
 }

@@ -1,0 +1,36 @@
+// What "Help, Contents" of the real program has a browser of this machine open.
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "driver/SeenFiles.h"
+#include "driver/UnixProgram.h"
+#include "end_to_end/EndToEndTest.h"
+#include "platform/Text.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::EndsWith;
+
+class Guide : public EndToEnd {
+ protected:
+  // What the browser was given; the script says where it notes that.
+  static std::string Opened() { return RunUnix(R"(cat "$TARVIK_OPENED")").output; }
+};
+
+TEST_F(Guide, OpensInABrowserOfThisMachine) {
+  fs::copy(BuiltFile(TARVIK_GUIDE), fs::path(ToWide(home_.In("guide"))), fs::copy_options::recursive);
+  program_.Start();
+  program_.Window().Post(WM_COMMAND, FrmFindIcon_MnuContent);
+  EXPECT_TRUE(Eventually([] { return !Opened().empty(); }));
+  EXPECT_THAT(Opened(), EndsWith("/guide/guide-eng.html\n"));
+  EXPECT_FALSE(program_.FindBox());
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end
