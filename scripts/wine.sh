@@ -1,7 +1,8 @@
 # A Wine of the project's own: its prefix, its settings, its virtual display. Source it after common.sh.
 export WINEPREFIX=${TARVIK_WINEPREFIX:-$root/build/wine}
 export WINEDEBUG=-all
-export WINEDLLOVERRIDES="mscoree,mshtml="
+# Without the menu builder nothing that is installed in it gets into the menus and file types of the user's own desktop.
+export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
 # The text of this variable decides how Wine names files; it must be a UTF-8 locale that every machine has.
 export LC_ALL=C.UTF-8
 
