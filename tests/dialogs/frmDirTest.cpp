@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <vector>
 
 #include "dialogs/FolderDialogTexts.h"
 #include "forms/BoxWatcher.h"
@@ -49,14 +50,12 @@ class frmDirTest : public ::testing::Test {
   std::map<std::string, std::vector<std::string>> subFolders;
   std::vector<std::string> made;  // what the new-folder dialog asked for
   bool canMake = true;
+  std::vector<DriveListBox::Drive> drives{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
   testing::ModalDriver driver;
   testing::BoxWatcher boxes;
   frmDir form{application,
               state,
-              {[] {
-                 return std::vector<DriveListBox::Drive>{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
-               },
-               [this](const std::string& folder) { return subFolders[folder]; },
+              {[this] { return drives; }, [this](const std::string& folder) { return subFolders[folder]; },
                [this](const std::string& path) -> std::optional<std::string> {
                  made.push_back(path);
                  if (!canMake) return std::nullopt;

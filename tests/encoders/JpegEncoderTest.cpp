@@ -72,9 +72,8 @@ TEST(JpegEncoder, WritesEachSamplingWithItsFactorsForLuminanceAndOneForChroma) {
   for (const std::string_view item : subSamplings) {
     SCOPED_TRACE(item);
     const SamplingFactors luminance{item[0] - '0', item[2] - '0'};
-    const JpegMarkers markers = MarkersAfter([&](JpegEncoder& encoder) {
-      encoder.SetSampling({{luminance, {1, 1}, {1, 1}}});
-    });
+    const JpegSampling sampling{{luminance, {1, 1}, {1, 1}}};
+    const JpegMarkers markers = MarkersAfter([&](JpegEncoder& encoder) { encoder.SetSampling(sampling); });
     EXPECT_THAT(markers.components, ElementsAre(Component{luminance.horizontal, luminance.vertical, 0},
                                                 Component{1, 1, 1}, Component{1, 1, 1}));
   }
@@ -89,9 +88,8 @@ TEST(JpegEncoder, InterleavesTheComponentsWhereTheirBlocksFitOneUnitOfTenBlocks)
                                  {{3, 3}, false}, {{3, 4}, false}, {{4, 3}, false}, {{4, 4}, false}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.luminance.horizontal * 10 + row.luminance.vertical);
-    const JpegMarkers markers = MarkersAfter([&](JpegEncoder& encoder) {
-      encoder.SetSampling({{row.luminance, {1, 1}, {1, 1}}});
-    });
+    const JpegSampling sampling{{row.luminance, {1, 1}, {1, 1}}};
+    const JpegMarkers markers = MarkersAfter([&](JpegEncoder& encoder) { encoder.SetSampling(sampling); });
     EXPECT_EQ(markers.componentsOfScans, row.interleaved ? std::vector{3} : std::vector({1, 1, 1}));
   }
 }

@@ -137,9 +137,8 @@ TEST_F(Folders, ChoosingADriveGoesToItsRoot) {
   tree_.MakeFolder("inner");
   Start("C:\\windows");
   ChooseDrive('r');
-  EXPECT_TRUE(Eventually([&] {
-    return FolderNames() == std::vector<std::string>{"R:\\", "inner"};
-  })) << ::testing::PrintToString(FolderNames());
+  const std::vector<std::string> names{"R:\\", "inner"};
+  EXPECT_TRUE(Eventually([&] { return FolderNames() == names; })) << ::testing::PrintToString(FolderNames());
   EXPECT_THAT(FileNames(), ElementsAre("root.ico"));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <vector>
 
@@ -14,8 +15,7 @@ class TestRaster final : public PixelView {
       : width_(width),
         height_(height),
         pixels_(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), color) {}
-  template <typename Formula>
-  requires requires(Formula formula) { Color{formula(0, 0)}; }
+  template <std::invocable<int, int> Formula>
   TestRaster(int size, Formula formula) : TestRaster(size, size, black) {
     for (int y = 0; y < size; ++y) {
       for (int x = 0; x < size; ++x) Set(x, y, formula(x, y));

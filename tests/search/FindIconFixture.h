@@ -80,19 +80,16 @@ class FindIconFixture : public ::testing::Test {
   void OpenOver(IconSource& icons, FolderReader& folders, const std::string& language = "ENG") {
     state.CurrentLanguage = language;
     window = std::make_unique<FrmFindIcon>(
-        application,
-        FrmFindIcon::Services{state,
-                              settings,
-                              icons,
-                              folders,
-                              [] {
-                                return std::vector<DriveListBox::Drive>{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
-                              },
-                              [](const std::string& folder) { return !folder.starts_with("D:"); },
-                              "C:\\program",
-                              [this] { ++aboutShown; },
-                              [this] { ++guideShown; },
-                              {dialogs, files, temporaryBitmap}});
+        application, FrmFindIcon::Services{state,
+                                           settings,
+                                           icons,
+                                           folders,
+                                           [this] { return drives; },
+                                           [](const std::string& folder) { return !folder.starts_with("D:"); },
+                                           "C:\\program",
+                                           [this] { ++aboutShown; },
+                                           [this] { ++guideShown; },
+                                           {dialogs, files, temporaryBitmap}});
     window->Show();
     application.DoEvents();
   }
@@ -149,6 +146,7 @@ class FindIconFixture : public ::testing::Test {
        [this]() -> const Surface& { return window->PicMain(); }}};
   int aboutShown = 0;
   int guideShown = 0;
+  std::vector<DriveListBox::Drive> drives{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
   BoxWatcher boxes;
   std::unique_ptr<FrmFindIcon> window;
 };

@@ -30,13 +30,11 @@ class Dialogs {
   }
 
   std::unique_ptr<Form> FolderChooser() {
-    return std::make_unique<frmDir>(application, state,
-                                    frmDir::Disk{[] {
-                                                   return std::vector<DriveListBox::Drive>{{"C:\\", "c:"}};
-                                                 },
-                                                 [](const std::string&) { return std::vector<std::string>(); },
-                                                 [](const std::string&) -> std::optional<std::string> { return {}; },
-                                                 [] { return std::string("C:\\"); }});
+    return std::make_unique<frmDir>(
+        application, state,
+        frmDir::Disk{[this] { return drives; }, [](const std::string&) { return std::vector<std::string>(); },
+                     [](const std::string&) -> std::optional<std::string> { return {}; },
+                     [] { return std::string("C:\\"); }});
   }
   std::unique_ptr<Form> NewFolder() {
     return std::make_unique<frmDirCreate>(
@@ -59,6 +57,7 @@ class Dialogs {
 
   Application application{GetModuleHandleW(nullptr)};
   ProgramState state;
+  std::vector<DriveListBox::Drive> drives{{"C:\\", "c:"}};
   Surface picture{385, 385, white};
   DiskFile files;
   DiskTarget targets;

@@ -113,14 +113,13 @@ class Factory final : public IClassFactory {
 }  // namespace
 }  // namespace tarvik::testing
 
-extern "C" __declspec(dllexport) HRESULT STDMETHODCALLTYPE
-    DllGetClassObject(REFCLSID classId, REFIID id, void** object) {
+extern "C" __declspec(dllexport) HRESULT DllGetClassObject(REFCLSID classId, REFIID id, void** object) {
   static tarvik::testing::Factory factory;
   CLSID own;
   CLSIDFromString(tarvik::testing::skinClassId, &own);
   return IsEqualCLSID(classId, own) ? factory.QueryInterface(id, object) : CLASS_E_CLASSNOTAVAILABLE;
 }
 
-extern "C" __declspec(dllexport) HRESULT STDMETHODCALLTYPE DllCanUnloadNow() {
+extern "C" __declspec(dllexport) HRESULT DllCanUnloadNow() {
   return S_FALSE;
 }
