@@ -7,6 +7,8 @@
 #include <array>
 #include <cstddef>
 
+#include "platform/SystemFunctions.h"
+
 namespace tarvik {
 namespace {
 
@@ -64,11 +66,11 @@ std::string Ask(BOOL(WINAPI* show)(OPENFILENAMEA*), DWORD flags, HWND owner, con
 }  // namespace
 
 std::string AskForFileToSave(HWND owner, const FileDialogMode& mode, std::string_view code) {
-  return Ask(GetSaveFileNameA, saveFlags, owner, mode, code);
+  return Ask(late::GetSaveFileNameA.Get(), saveFlags, owner, mode, code);
 }
 
 std::string AskForFileToOpen(HWND owner, const FileDialogMode& mode, std::string_view code) {
-  return Ask(GetOpenFileNameA, openFlags, owner, mode, code);
+  return Ask(late::GetOpenFileNameA.Get(), openFlags, owner, mode, code);
 }
 
 }  // namespace tarvik

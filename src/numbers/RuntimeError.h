@@ -1,6 +1,7 @@
 #pragma once
 
 #include <exception>
+#include <string>
 
 namespace tarvik {
 
@@ -24,6 +25,21 @@ class TypeMismatchError : public RuntimeError {
 class OutOfMemoryError : public RuntimeError {
  public:
   const char* what() const noexcept override { return "Out of memory"; }
+};
+
+// The system lacks a function that the program calls.
+class MissingFunctionError : public RuntimeError {
+ public:
+  MissingFunctionError(const std::string& function, const std::string& library)
+      : name_(function + " (" + library + ")"), what_("Missing function: " + name_) {}
+
+  const char* what() const noexcept override { return what_.c_str(); }
+  // The function and its library as a user is told them: "Function (library.dll)".
+  const std::string& Name() const { return name_; }
+
+ private:
+  std::string name_;
+  std::string what_;
 };
 
 }  // namespace tarvik

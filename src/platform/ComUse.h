@@ -4,20 +4,25 @@
 
 #include <objbase.h>
 
+#include "platform/SystemFunctions.h"
+
 namespace tarvik {
 
 // A use of COM on this thread, for as long as the object lives. The system counts them, so that nobody else's ends
-// with it.
+// with it. The constructor throws MissingFunctionError on a system without COM.
 class ComUse {
  public:
-  ComUse() : result_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE)) {}
+  ComUse()
+      : end_(late::CoUninitialize.Get()),
+        result_(late::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE)) {}
   ~ComUse() {
-    if (SUCCEEDED(result_)) CoUninitialize();
+    if (SUCCEEDED(result_)) end_();
   }
   ComUse(const ComUse&) = delete;
   ComUse& operator=(const ComUse&) = delete;
 
  private:
+  decltype(&::CoUninitialize) end_;  // looked up beforehand: a destructor must not throw
   HRESULT result_;
 };
 

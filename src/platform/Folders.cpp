@@ -10,6 +10,7 @@
 #include "platform/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/Paths.h"
+#include "platform/SystemFunctions.h"
 #include "platform/Text.h"
 #include "search/FilePattern.h"
 
@@ -85,10 +86,13 @@ bool StandsBefore(const std::wstring& a, const std::wstring& b) {
 }
 
 std::string ShareOf(char letter) {
+  // Without the network's functions a drive is still listed, by its letter alone.
+  const auto connection = late::WNetGetConnectionW.Find();
+  if (connection == nullptr) return {};
   const std::wstring device = {static_cast<wchar_t>(letter), L':'};
   std::array<wchar_t, 1024> share{};
   DWORD length = share.size();
-  return WNetGetConnectionW(device.c_str(), share.data(), &length) == NO_ERROR ? ToUtf8(share.data()) : std::string();
+  return connection(device.c_str(), share.data(), &length) == NO_ERROR ? ToUtf8(share.data()) : std::string();
 }
 
 std::string LabelOf(const Drive& drive) {

@@ -13,6 +13,7 @@
 #include "platform/FileBytes.h"
 #include "platform/Handles.h"
 #include "platform/Surface.h"
+#include "platform/SystemFunctions.h"
 #include "search/AnimationHeader.h"
 #include "search/IconList.h"
 
@@ -51,8 +52,9 @@ class PlatformIcon final : public ExtractedIcon {
 IconHandle ExtractLarge(const std::string& path, int index) {
   HICON large = nullptr;
   UINT extracted = 0;
+  const auto extract = late::ExtractIconExA.Get();  // the guarded call must not load anything
   // The small icon is not asked for: nobody draws it, and its handle would have to be destroyed too.
-  const bool finished = SurvivesFault([&] { extracted = ExtractIconExA(path.c_str(), index, &large, nullptr, 1); });
+  const bool finished = SurvivesFault([&] { extracted = extract(path.c_str(), index, &large, nullptr, 1); });
   // Only a success says that the handle means something: Wine leaves other values in it than it found.
   return finished && extracted != 0 && extracted != noFile ? IconHandle(large) : IconHandle();
 }
@@ -90,8 +92,9 @@ std::unique_ptr<ExtractedIcon> ExtractSteps(const std::string& path, int index) 
 // How many icons the shell says the file has; some systems tell it as it is written in the file.
 int ClaimedIcons(const std::string& path) {
   UINT count = 0;
+  const auto extract = late::ExtractIconExA.Get();  // as above
   const bool finished =
-      SurvivesFault([&] { count = ExtractIconExA(path.c_str(), static_cast<int>(countIndex), nullptr, nullptr, 0); });
+      SurvivesFault([&] { count = extract(path.c_str(), static_cast<int>(countIndex), nullptr, nullptr, 0); });
   return finished && count <= INT_MAX ? static_cast<int>(count) : 0;
 }
 

@@ -8,6 +8,7 @@
 
 #include "forms/MessageBox.h"
 #include "platform/ComUse.h"
+#include "platform/SystemFunctions.h"
 #include "platform/Text.h"
 #include "startup/Guide.h"
 #include "startup/MessageTexts.h"
@@ -24,7 +25,7 @@ bool IsThere(const std::wstring& path) {
 
 bool Open(HWND owner, const std::wstring& path) {
   const ComUse use;  // what opens the page may be a COM object
-  const HINSTANCE result = ShellExecuteW(owner, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  const HINSTANCE result = late::ShellExecuteW(owner, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
   return reinterpret_cast<std::intptr_t>(result) > lastShellError;
 }
 

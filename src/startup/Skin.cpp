@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/ComUse.h"
+#include "platform/SystemFunctions.h"
 #include "platform/Text.h"
 
 namespace tarvik {
@@ -20,20 +21,21 @@ class Argument {
  public:
   explicit Argument(const std::wstring& text) {
     value_.vt = VT_BSTR;
-    value_.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+    value_.bstrVal = late::SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
   }
   // A window's handle goes as a 32-bit number: no handle has more bits than that.
   explicit Argument(HWND window) {
     value_.vt = VT_I4;
     value_.lVal = static_cast<LONG>(reinterpret_cast<LONG_PTR>(window));
   }
-  ~Argument() { VariantClear(&value_); }
+  ~Argument() { clear_(&value_); }
   Argument(const Argument&) = delete;
   Argument& operator=(const Argument&) = delete;
 
   VARIANT* Value() { return &value_; }
 
  private:
+  decltype(&::VariantClear) clear_ = late::VariantClear.Get();  // looked up beforehand: a destructor must not throw
   VARIANT value_{};
 };
 
@@ -43,7 +45,7 @@ class Component {
   explicit Component(const CLSID& classId) {
     void* object = nullptr;
     const DWORD context = CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER;
-    if (SUCCEEDED(CoCreateInstance(classId, nullptr, context, IID_IDispatch, &object))) {
+    if (SUCCEEDED(late::CoCreateInstance(classId, nullptr, context, IID_IDispatch, &object))) {
       object_ = static_cast<IDispatch*>(object);
     }
   }
@@ -82,7 +84,7 @@ Skin::Skin(const std::string& folder) : path_(ToWide(folder + skinFile)) {}
 const std::optional<CLSID>& Skin::Class() {
   if (!asked_) {
     CLSID found;
-    if (SUCCEEDED(CLSIDFromProgID(className, &found))) class_ = found;
+    if (SUCCEEDED(late::CLSIDFromProgID(className, &found))) class_ = found;
     asked_ = true;
   }
   return class_;
@@ -90,6 +92,14 @@ const std::optional<CLSID>& Skin::Class() {
 
 bool Skin::Apply(Form& form) {
   if (!IsFile(path_)) return false;
+  try {
+    return Paint(form);
+  } catch (const MissingFunctionError&) {
+    return false;  // a system without COM has no component either
+  }
+}
+
+bool Skin::Paint(Form& form) {
   const ComUse use;
   if (!Class()) return false;
   auto component = std::make_shared<Component>(*Class());

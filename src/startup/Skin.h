@@ -25,6 +25,8 @@ class Skin {
   bool Apply(Form& form);
 
  private:
+  // Apply, once it is known that there is a skin file.
+  bool Paint(Form& form);
   // The component's class; none where the system does not know it. Asked once.
   const std::optional<CLSID>& Class();
 
