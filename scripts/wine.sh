@@ -75,8 +75,17 @@ start_wine() {
 
 # stay_on_desktop: Wine closes its desktop when no program has used it for a second, and whoever started the program that
 # opened it waits for that. So one program, which waits for input that never comes, keeps the desktop open to the end.
+# Its prompt tells that it is up: a busy machine may need longer for that than a whole test takes.
 stay_on_desktop() {
-  sleep infinity 9>&- | wine cmd >/dev/null 2>&1 9>&- &
+  local said
+  said=$(mktemp)
+  sleep infinity 9>&- | wine cmd >"$said" 2>/dev/null 9>&- &
+  for _ in $(seq 1200); do
+    [ ! -s "$said" ] || break
+    sleep 0.1
+  done
+  [ -s "$said" ] || fail "the desktop cannot be kept open"
+  rm -f "$said"
 }
 
 # choose_desktop DESKTOP: Wine reads the choice only when it starts, so it is made before, and rarely. In what Wine keeps,
