@@ -182,6 +182,39 @@ TEST_F(frmDirTest, ChoosesTheFolderThatIsCreated) {
   EXPECT_EQ(made, std::vector<std::string>{"C:\\work\\新"});
 }
 
+TEST_F(frmDirTest, ShowsTheFoldersThatCameMeanwhileWhereNoneWasCreated) {
+  OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
+  OnCreate([this](HWND window) {
+    subFolders["C:\\work"].emplace_back("C:\\work\\c");
+    Command(window, frmDirCreate_CmdCancel);
+  });
+  OnDir([](HWND window) {
+    const HWND list = GetDlgItem(window, frmDir_dirMain);
+    EXPECT_EQ(SendMessageW(list, LB_GETCOUNT, 0, 0), 5) << "the drive, the folder, a, b and c";
+    EXPECT_NE(SendMessageW(list, LB_FINDSTRINGEXACT, 0, reinterpret_cast<LPARAM>(L"c")), LB_ERR);
+    EXPECT_EQ(TextOf(window, frmDir_lblDir), "C:\\work");
+    Command(window, frmDir_CmdOk);
+  });
+  EXPECT_EQ(Show(), "C:\\work");
+}
+
+TEST_F(frmDirTest, SelectsTheWholeNameEachTimeThatItsBoxGainsTheFocus) {
+  OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
+  OnCreate([](HWND window) {
+    const HWND name = GetDlgItem(window, frmDirCreate_txt);
+    for (const char* text : {"abc", "一二三四五"}) {
+      testing::SetText(window, frmDirCreate_txt, text);
+      SetFocus(GetDlgItem(window, frmDirCreate_CmdCancel));
+      SendMessageW(name, EM_SETSEL, 2, 2);
+      SetFocus(name);
+      EXPECT_EQ(SendMessageW(name, EM_GETSEL, 0, 0), MAKELRESULT(0, ToWide(text).size())) << text;
+    }
+    Command(window, frmDirCreate_CmdCancel);
+  });
+  OnDir(Press(frmDir_CmdCancel));
+  Show();
+}
+
 TEST_F(frmDirTest, DoublesNoBackslashBehindADriveRoot) {
   firstFolder = "C:\\";
   OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });

@@ -208,6 +208,28 @@ TEST_F(fSaveJPGTest, KeepsTheOptionsForABatchAndWritesNothingItself) {
   }
   form.FreeObj();
   EXPECT_FALSE(form.IsLoaded());
+  // The picture is the caller's, and need not be there any more.
+  EXPECT_FALSE(form.SaveToJPGForNoSingle(folder.In("3.jpg")));
+  EXPECT_EQ(ReadAll(folder.In("3.jpg")), "");
+}
+
+TEST_F(fSaveJPGTest, BeginsWithAnEncoderOfItsOwnAfterItWasFreed) {
+  driver.On(fSaveJPG_CboSize, [](HWND window) { PostMessageW(window, WM_COMMAND, fSaveJPG_cmdComment, 0); });
+  driver.On(fComment_txtComment, [&](HWND window) {
+    testing::SetText(window, fComment_txtComment, "of the first batch");
+    Command(window, fComment_cmdFinish);
+  });
+  driver.On(fSaveJPG_CboSize, [](HWND window) { Command(window, fSaveJPG_cmdFinish1); });
+  EXPECT_EQ(form.ShowFor(DialogMode::NoSingle), DialogAnswer::Ok);
+  form.FreeObj();
+  driver.On(fSaveJPG_CboSize, [](HWND window) { PostMessageW(window, WM_COMMAND, fSaveJPG_cmdComment, 0); });
+  driver.On(fComment_txtComment, [&](HWND window) {
+    EXPECT_EQ(TextOf(window, fComment_txtComment), "");
+    Command(window, fComment_cmdFinish);
+  });
+  driver.On(fSaveJPG_CboSize, [](HWND window) { Command(window, fSaveJPG_cmdFinish1); });
+  EXPECT_EQ(form.ShowFor(DialogMode::NoSingle), DialogAnswer::Ok);
+  form.FreeObj();
 }
 
 TEST_F(fSaveJPGTest, WritesTheCommentThatWasTyped) {

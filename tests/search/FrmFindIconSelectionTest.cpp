@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,21 @@ class FrmFindIconSelectionTest : public testing::FindIconFixture {
   }
 };
 
+// A file that holds more icons when it is listed than when it was counted.
+class GrowingFile final : public IconSource {
+ public:
+  static constexpr int counted = 3;
+  static constexpr int listed = 5;
+
+  int CountIcons(const std::string& /*path*/) override { return asked_++ == 0 ? counted : listed; }
+  std::unique_ptr<ExtractedIcon> Extract(const std::string& /*path*/, int /*index*/) override {
+    return std::make_unique<testing::SquareIcon>(0x0000FF);
+  }
+
+ private:
+  int asked_ = 0;
+};
+
 using Rows = std::vector<int>;
 
 TEST_F(FrmFindIconSelectionTest, SelectsTheClickedIconAlone) {
@@ -41,6 +57,19 @@ TEST_F(FrmFindIconSelectionTest, SelectsTheClickedIconAlone) {
   EXPECT_FALSE(IsFramed(1));
   EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 2 Selected.");
   EXPECT_EQ(Status(), "C:\\icons\\some.dll");
+}
+
+TEST_F(FrmFindIconSelectionTest, AnswersForNoMoreIconsThanWereCounted) {
+  GrowingFile file;
+  OpenOver(file, machine);
+  Click(FrmFindIcon_CmdFind);
+  application.DoEvents();
+  ASSERT_EQ(ListView_GetItemCount(Item(FrmFindIcon_Lv)), GrowingFile::listed);
+  ReleaseOnGrid(3 + GrowingFile::counted * 38, 10);
+  EXPECT_EQ(SelectedRows(), Rows{1});
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
+  ReleaseOnGrid(3 + (GrowingFile::counted - 1) * 38, 10);
+  EXPECT_EQ(SelectedRows(), Rows{GrowingFile::counted});
 }
 
 TEST_F(FrmFindIconSelectionTest, AddsAndRemovesWithCtrl) {

@@ -132,6 +132,34 @@ TEST_F(SearchDriverTest, CountsCharactersAndNotBytesForTheNoIconsBox) {
   EXPECT_THAT(script.Lines("box"), ElementsAre("box C:\\图标图标图标图标图标图标图标图标图 ... contains no icons."));
 }
 
+TEST_F(SearchDriverTest, NamesTheFolderOfFile1WhereThereAreNoIcons) {
+  window.dir1 = "C:\\elsewhere";
+  Find();
+  EXPECT_THAT(script.Lines("box"), ElementsAre("box C:\\a ... contains no icons."));
+}
+
+TEST_F(SearchDriverTest, SearchesTheFolderOfFile1WithoutSubFolders) {
+  window.dir1 = "C:\\elsewhere";
+  AddFile("C:\\a", "x.dll", {.icons = 1});
+  AddFile("C:\\elsewhere", "y.dll", {.icons = 1});
+  Find();
+  ASSERT_EQ(list.Count(), 1);
+  EXPECT_EQ(list.Item(1).path, "C:\\a\\x.dll");
+  EXPECT_THAT(script.Lines("Dir1"), IsEmpty());
+  EXPECT_THAT(script.Lines("File1"), IsEmpty());
+}
+
+TEST_F(SearchDriverTest, WalksFromTheFolderOfDir1WithSubFolders) {
+  window.subDir = true;
+  window.file1 = "C:\\elsewhere";
+  AddFile("C:\\a", "x.dll", {.icons = 1});
+  AddFile("C:\\elsewhere", "y.dll", {.icons = 1});
+  Find();
+  ASSERT_EQ(list.Count(), 1);
+  EXPECT_EQ(list.Item(1).path, "C:\\a\\x.dll");
+  EXPECT_EQ(window.dir1, "C:\\a");
+}
+
 TEST_F(SearchDriverTest, KeepsTheBackslashOfADrivesRoot) {
   PointAt("C:\\");
   AddFile("C:\\", "x.ico", {});

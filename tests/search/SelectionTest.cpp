@@ -234,6 +234,23 @@ TEST_F(SelectionTest, DoesNothingForAnIconThatWasCountedButNotListed) {
   EXPECT_THAT(script.Lines(), IsEmpty());
 }
 
+// Files that came between the counting and the listing: more entries than icons counted.
+TEST_F(SelectionTest, AnswersForNoMoreEntriesThanWereCounted) {
+  state.IconCount = 10;
+  Click(11);
+  EXPECT_THAT(script.Lines(), IsEmpty());
+  Click(10);
+  EXPECT_THAT(Selected(), ElementsAre(10));
+}
+
+TEST_F(SelectionTest, AnswersForNoEntryBeyondTheNextIconsNumber) {
+  state.NextIconNumber = 11;
+  Click(12);
+  EXPECT_THAT(script.Lines(), IsEmpty());
+  Click(11);
+  EXPECT_EQ(state.CurrentIndex, 10);
+}
+
 struct LabelRow {
   std::string language;
   std::vector<std::string> label;
