@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "driver/UnixProgram.h"
+#include "driver/Waiting.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 
@@ -89,6 +90,20 @@ LanguageValue::LanguageValue(const std::optional<std::string>& value) : former_(
 
 LanguageValue::~LanguageValue() {
   WriteLanguage(former_);
+}
+
+OpenedClipboard::OpenedClipboard(HWND owner) {
+  if (!Eventually([owner] { return OpenClipboard(owner) != 0; }))
+    throw std::runtime_error("the clipboard cannot be opened");
+}
+
+OpenedClipboard::~OpenedClipboard() {
+  CloseClipboard();
+}
+
+void EmptyTheClipboard() {
+  const OpenedClipboard clipboard;
+  if (EmptyClipboard() == 0) throw std::runtime_error("the clipboard cannot be emptied");
 }
 
 WebPageReader::WebPageReader(const std::string& file) : former_(ReadText(pageKey, nullptr)) {

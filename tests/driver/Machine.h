@@ -1,11 +1,13 @@
 #pragma once
 
+#include <windows.h>
+
 #include <optional>
 #include <string>
 
 namespace tarvik::end_to_end {
 
-// Things of the machine that a test changes; each is put back when its object ends.
+// Things of the machine that a test changes. Each is put back when its object ends, if it is an object.
 
 // The value that names the interface's language; none removes it.
 class LanguageValue {
@@ -18,6 +20,19 @@ class LanguageValue {
  private:
   std::optional<std::string> former_;
 };
+
+// The clipboard, open for this process, or for a window of it. It is waited for: others open it for moments, the system
+// itself among them.
+class OpenedClipboard {
+ public:
+  explicit OpenedClipboard(HWND owner = nullptr);
+  ~OpenedClipboard();
+  OpenedClipboard(const OpenedClipboard&) = delete;
+  OpenedClipboard& operator=(const OpenedClipboard&) = delete;
+};
+
+// Leaves nothing on the clipboard.
+void EmptyTheClipboard();
 
 // Web pages, which the system opens by writing their path to a file instead of showing them. Neither path may have a
 // blank.

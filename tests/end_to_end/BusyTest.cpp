@@ -25,20 +25,6 @@ class Busy : public EndToEnd {
     Start({}, true);
   }
 
-  // Presses Find, does something while the search stands still in its middle, and lets it end.
-  void During(const std::function<void()>& something) {
-    const Control find = program_.Item(FrmFindIcon_CmdFind);
-    find.Press();
-    // The last button that a search disables.
-    ASSERT_TRUE(Eventually([&] { return !IsEnabled(FrmFindIcon_CmdClose); }));
-    program_.Suspend();
-    const bool running = !find.IsEnabled();
-    something();
-    program_.Resume();
-    ASSERT_TRUE(running) << "the search was over before it could be stopped";
-    ASSERT_TRUE(Eventually([&] { return find.IsEnabled() || !program_.IsRunning(); }));
-  }
-
   void ExpectTheSearchWentOn() {
     // A close that was only put off would come before this answer.
     ASSERT_TRUE(program_.IsRunning());
@@ -49,13 +35,13 @@ class Busy : public EndToEnd {
 
 TEST_F(Busy, TheWindowDoesNotCloseWhenAskedTo) {
   StartOnManyFolders();
-  During([&] { program_.Window().Post(WM_CLOSE); });
+  BehindFind([&] { program_.Window().Post(WM_CLOSE); });
   ExpectTheSearchWentOn();
 }
 
 TEST_F(Busy, TheWindowDoesNotCloseByItsSystemMenu) {
   StartOnManyFolders();
-  During([&] { program_.Window().Post(WM_SYSCOMMAND, SC_CLOSE); });
+  BehindFind([&] { program_.Window().Post(WM_SYSCOMMAND, SC_CLOSE); });
   ExpectTheSearchWentOn();
 }
 
@@ -63,7 +49,7 @@ TEST_F(Busy, TheWindowDoesNotCloseByAltF4) {
   StartOnManyFolders();
   // A drop-down list would keep the keys to itself.
   Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
-  During([&] { PressKey(VK_F4, {VK_MENU}); });
+  BehindFind([&] { PressKey(VK_F4, {VK_MENU}); });
   ExpectTheSearchWentOn();
   PressKey(VK_F4, {VK_MENU});
   EXPECT_EQ(program_.WaitForEnd(), 0U);
@@ -74,7 +60,7 @@ TEST_F(Busy, TheWindowDoesNotCloseByItsCloseBox) {
   const RECT window = program_.Window().Place();
   const POINT closeBox{window.right - GetSystemMetrics(SM_CXSIZE) / 2 - GetSystemMetrics(SM_CXFRAME),
                        window.top + GetSystemMetrics(SM_CYFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2};
-  During([&] { Click(closeBox); });
+  BehindFind([&] { Click(closeBox); });
   ExpectTheSearchWentOn();
   // The program saw that click only when it went on; a click elsewhere keeps the next from being its second half.
   Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
@@ -85,7 +71,7 @@ TEST_F(Busy, TheWindowDoesNotCloseByItsCloseBox) {
 
 TEST_F(Busy, TheWindowDoesNotCloseByItsCommands) {
   StartOnManyFolders();
-  During([&] {
+  BehindFind([&] {
     program_.Command(FrmFindIcon_mnuExit);
     program_.Command(FrmFindIcon_CmdClose);
     program_.Command(FrmFindIcon_CmdOk);
@@ -96,7 +82,7 @@ TEST_F(Busy, TheWindowDoesNotCloseByItsCommands) {
 
 TEST_F(Busy, TheButtonsThatCouldDisturbAreDisabled) {
   StartOnManyFolders();
-  During([&] {
+  BeforeItLists([&] {
     EXPECT_FALSE(IsEnabled(FrmFindIcon_CmdFind));
     EXPECT_FALSE(IsEnabled(FrmFindIcon_CmdOk));
     EXPECT_FALSE(IsEnabled(FrmFindIcon_CmdClose));
@@ -108,7 +94,7 @@ TEST_F(Busy, TheButtonsThatCouldDisturbAreDisabled) {
 
 TEST_F(Busy, ASecondSearchDoesNotStartInsideTheFirst) {
   StartOnManyFolders();
-  During([&] {
+  BehindFind([&] {
     program_.Command(FrmFindIcon_CmdFind);
     program_.Command(FrmFindIcon_mnuStart);
     PressKey(VK_RETURN);
@@ -119,15 +105,15 @@ TEST_F(Busy, ASecondSearchDoesNotStartInsideTheFirst) {
 TEST_F(Busy, OpeningAFolderDoesNotLeadTheSearchAstray) {
   StartOnManyFolders();
   const POINT row = program_.Item(FrmFindIcon_Dir1).ListRowMiddle(0);
-  During([&] { DoubleClick(row); });
+  BehindFind([&] { DoubleClick(row); });
   ExpectTheSearchWentOn();
 }
 
 TEST_F(Busy, ChoosingADriveDoesNotLeadTheSearchAstray) {
   StartOnManyFolders();
   const Control drives = program_.Item(FrmFindIcon_Drive1);
-  // Both messages are posted: the program stands still.
-  During([&] {
+  // Both messages are posted: the program does not answer.
+  BehindFind([&] {
     drives.Post(CB_SETCURSEL, 1);
     program_.Window().Post(WM_COMMAND, MAKEWPARAM(FrmFindIcon_Drive1, CBN_SELCHANGE),
                            reinterpret_cast<LPARAM>(drives.Window()));

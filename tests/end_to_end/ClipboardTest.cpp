@@ -23,18 +23,13 @@ class Copy : public Saving {
     for (const Color color : Paste().pixels) pixels.push_back(0xFF000000U | color);
     return pixels;
   }
-  static void ClearClipboard() {
-    ASSERT_NE(OpenClipboard(nullptr), 0);
-    EmptyClipboard();
-    CloseClipboard();
-  }
 };
 
 TEST_F(Copy, AnotherProgramPastesTheClickedIcon) {
   FindPictures();
   found_ = Now();
   for (const int entry : {1, 2}) {
-    ClearClipboard();
+    EmptyTheClipboard();
     ClickCell(entry);
     ExpectCurrent(entry);
     found_.status = Status();
@@ -59,7 +54,7 @@ TEST_F(Copy, PixelsThatInvertDoSoAtEverySize) {
     ChooseSize(choice);
     Find();
     ASSERT_EQ(List().RowCount(), 1);
-    ClearClipboard();
+    EmptyTheClipboard();
     program_.Command(FrmFindIcon_mnuCopy);
     Pixels expected;
     for (int y = 0; y < size; ++y) {
@@ -74,7 +69,7 @@ TEST_F(Copy, PixelsThatInvertDoSoAtEverySize) {
 
 TEST_F(Copy, WhatIsCopiedOutlivesTheProgram) {
   FindPictures();
-  ClearClipboard();
+  EmptyTheClipboard();
   program_.Command(FrmFindIcon_mnuCopy);
   ExpectAsFound();
   EXPECT_EQ(program_.Close(), 0U);
@@ -83,13 +78,15 @@ TEST_F(Copy, WhatIsCopiedOutlivesTheProgram) {
 
 TEST_F(Copy, AHeldClipboardIsToldAndServesLater) {
   FindPictures();
-  ClearClipboard();
+  EmptyTheClipboard();
   // Whoever opened it for a window has it to themselves.
   const HWND holder = CreateWindowW(L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
-  ASSERT_NE(OpenClipboard(holder), 0);
-  program_.Command(FrmFindIcon_mnuCopy);
-  const Names messages = ReadMessages(1);
-  CloseClipboard();
+  Names messages;
+  {
+    const OpenedClipboard held(holder);
+    program_.Command(FrmFindIcon_mnuCopy);
+    messages = ReadMessages(1);
+  }
   DestroyWindow(holder);
   EXPECT_THAT(messages, ElementsAre("The icon was not copied: another program is using the clipboard."));
   ExpectAsFound();

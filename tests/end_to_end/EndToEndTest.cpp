@@ -5,6 +5,8 @@
 #include <shellapi.h>
 
 #include <algorithm>
+#include <chrono>
+#include <future>
 
 #include "platform/Handles.h"
 #include "platform/Text.h"
@@ -20,7 +22,11 @@ void CopyBuilt(const char* file, const std::string& target) {
 }  // namespace
 
 void EndToEnd::TearDown() {
-  if (!program_.IsRunning()) return;
+  if (!program_.WasStarted()) return;
+  if (!program_.IsRunning()) {
+    EXPECT_EQ(program_.WaitForEnd(), 0U);
+    return;
+  }
   const auto box = program_.FindBox();
   ASSERT_FALSE(box) << "left open: " << box->Text();
   EXPECT_EQ(program_.Close(), 0U);
@@ -58,6 +64,41 @@ void EndToEnd::Tick(std::initializer_list<FileType> types) const {
 Box EndToEnd::FindAndWaitForBox() const {
   program_.Item(FrmFindIcon_CmdFind).Press();
   return program_.WaitForBox();
+}
+
+void EndToEnd::BehindFind(const std::function<void()>& something) {
+  const std::string before = Status();
+  program_.Suspend();
+  program_.Item(FrmFindIcon_CmdFind).Press();
+  something();
+  program_.Resume();
+  ASSERT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind) && Status() != before; }));
+}
+
+void EndToEnd::BeforeItLists(const std::function<void()>& something) {
+  program_.Suspend();
+  program_.Item(FrmFindIcon_CmdFind).Press();
+  program_.Window().Post(WM_SYSCOMMAND, SC_KEYMENU, ' ');
+  program_.Resume();
+  ASSERT_TRUE(Eventually([&] { return program_.OpenMenu().has_value(); }));
+  ASSERT_FALSE(IsEnabled(FrmFindIcon_CmdFind)) << "this menu is not the search's";
+  something();
+  program_.Window().Post(WM_CANCELMODE);
+  ASSERT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind); }));
+}
+
+void EndToEnd::DuringSearch(const std::function<bool()>& isReached, const std::function<void()>& something) {
+  ASSERT_TRUE(Eventually([&] {
+    std::future<void> search = std::async(std::launch::async, [this] { Find(); });
+    const auto isOver = [&] { return search.wait_for(std::chrono::seconds(0)) == std::future_status::ready; };
+    Eventually([&] { return isOver() || isReached(); });
+    program_.Suspend();
+    const bool isStopped = !isOver() && !IsEnabled(FrmFindIcon_CmdFind);
+    if (isStopped) something();
+    program_.Resume();
+    search.get();
+    return isStopped;
+  })) << "every search was over before it could be stopped";
 }
 
 std::string EndToEnd::FindAndReadMessage() const {

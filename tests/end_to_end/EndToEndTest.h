@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <functional>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -33,7 +34,7 @@ struct Entry {
 };
 
 // A test that runs the program in a folder of its own, on a machine without a chosen language, and searches a folder of
-// its own. At its end the program must close when asked, with exit code 0.
+// its own. At its end the program must close when asked; that or whatever ended it before must give exit code 0.
 class EndToEnd : public ::testing::Test {
  protected:
   void TearDown() override;
@@ -55,6 +56,16 @@ class EndToEnd : public ::testing::Test {
   void Find() const { program_.Item(FrmFindIcon_CmdFind).Send(BM_CLICK); }
   // Presses Find and waits for the message that ends the search.
   Box FindAndWaitForBox() const;
+  // Three ways to reach the middle of a search. Each waits until the search is over; none may end in a message.
+  //
+  // Does something before the program takes up the press of Find: the search serves what is posted or pressed, when it
+  // begins to list. The program cannot answer meanwhile.
+  void BehindFind(const std::function<void()>& something);
+  // Does something while the search waits with all icons counted and none listed: an open menu holds it.
+  void BeforeItLists(const std::function<void()>& something);
+  // Does something while the program is stopped in its search, once `isReached` holds. A search that was over before is
+  // made again. The program cannot answer meanwhile.
+  void DuringSearch(const std::function<bool()>& isReached, const std::function<void()>& something);
   // Does all that for a search that is refused or stopped: the message's text; the box is closed and the search over.
   std::string FindAndReadMessage() const;
 

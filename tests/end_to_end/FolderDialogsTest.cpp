@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
+#include <algorithm>
+
 #include "end_to_end/SavingTest.h"
 #include "platform/FolderPath.h"
 #include "platform/Text.h"
@@ -151,6 +153,22 @@ TEST_F(ChooseFolder, ANewFolderIsMadeAndChosen) {
   chooser.Ok();
   ExpectAsFound();
   EXPECT_EQ(NamesIn(Out("子目录")).size(), 5U);
+}
+
+TEST_F(ChooseFolder, TheListShowsWhatCameWhileANewFolderWasAskedFor) {
+  FindPictures();
+  const FolderChooser chooser = AskForFolder(FrmFindIcon_mnuSaveAll);
+  EXPECT_EQ(chooser.Folders().back(), outName);
+  const NewFolderDialog dialog(program_, chooser);
+  tree_.MakeFolder("来");
+  dialog.End(frmDirCreate_CmdCancel);
+  EXPECT_TRUE(Eventually([&] {
+    const Names folders = chooser.Folders();
+    return std::ranges::find(folders, "来") != folders.end();
+  }));
+  EXPECT_EQ(chooser.Path(), tree_.Path());
+  chooser.Cancel();
+  ExpectAsFound();
 }
 
 TEST_F(ChooseFolder, ANameOfNoFolderIsRefusedAndTheDialogStays) {

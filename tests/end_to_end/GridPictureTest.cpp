@@ -83,13 +83,11 @@ class GridPicture : public EndToEnd {
     const RECT inside = program_.Item(FrmFindIcon_PicFrame).Inside();
     MovePointer({0, 0});
     int differences = 0;
-    const bool same = Eventually(
-        [&] {
-          const Screenshot shown(inside);
-          differences = CountDifferences(shown, visible);
-          return shown.Width() == viewportWidth && shown.Height() == viewportHeight && differences == 0;
-        },
-        std::chrono::seconds(10));
+    const bool same = Eventually([&] {
+      const Screenshot shown(inside);
+      differences = CountDifferences(shown, visible);
+      return shown.Width() == viewportWidth && shown.Height() == viewportHeight && differences == 0;
+    });
     EXPECT_TRUE(same) << differences << " pixels differ";
     return same;
   }

@@ -78,7 +78,7 @@ void Journey::ChooseFolder() {
   ASSERT_TRUE(Eventually([&] { return FolderNames() == std::vector<std::string>{root, tongue_.folder}; }));
   ASSERT_TRUE(Eventually([&] {
     DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(1));
-    return Eventually([&] { return FileNames().size() == 4; }, std::chrono::seconds(3));
+    return Eventually([&] { return FileNames().size() == 4; }, lostAfter);
   }));
   EXPECT_THAT(FolderNames(), ElementsAre(root, tongue_.folder, "2"));
 }
@@ -88,7 +88,7 @@ void Journey::TickByMouse(int id) const {
   EXPECT_FALSE(box.IsChecked()) << id;
   EXPECT_TRUE(Eventually([&] {
     Click(MiddleOf(box.Place()));
-    return Eventually([&] { return box.IsChecked(); }, std::chrono::seconds(3));
+    return Eventually([&] { return box.IsChecked(); }, lostAfter);
   })) << id;
 }
 
@@ -105,7 +105,7 @@ void Journey::TypeLimit(const std::string& limit) const {
   EXPECT_TRUE(Eventually([&] {
     DoubleClick(MiddleOf(box.Place()));  // selects what stands in it
     TypeText(limit);
-    return Eventually([&] { return box.Text() == limit; }, std::chrono::seconds(3));
+    return Eventually([&] { return box.Text() == limit; }, lostAfter);
   })) << box.Text();
 }
 
@@ -158,7 +158,7 @@ void Journey::LookAtOneIcon() {
   EXPECT_TRUE(Eventually([&] { return view.Status().ends_with(" - 3"); })) << view.Status();
   PressKey(VK_OEM_PLUS, {}, 4);
   view.Click(frmBit_tlb_control_Start);
-  EXPECT_TRUE(Eventually([&] { return view.Status().ends_with(" - 4"); })) << view.Status();
+  EXPECT_TRUE(Eventually([&] { return !view.Status().ends_with(" - 3"); })) << view.Status();
   EXPECT_TRUE(view.ShowIsOn());
   Picture("slide-show");
   SetWindowPos(view.Window().Window(), nullptr, 0, 0, 600, 500, SWP_NOMOVE | SWP_NOZORDER);
@@ -323,9 +323,7 @@ void Journey::SaveMany() {
 }
 
 void Journey::CopyIcon() const {
-  ASSERT_NE(OpenClipboard(nullptr), 0);
-  EmptyClipboard();
-  CloseClipboard();
+  EmptyTheClipboard();
   OpenMenuByKeys(1);
   PressKey('C');
   EXPECT_TRUE(Eventually([] { return IsClipboardFormatAvailable(CF_BITMAP) != FALSE; }));

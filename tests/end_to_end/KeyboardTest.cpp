@@ -102,6 +102,9 @@ TEST_F(Keyboard, ATypedLimitCounts) {
   ASSERT_TRUE(Focuses(FrmFindIcon_txtMax));
   PressKey(VK_HOME);
   PressKey(VK_END, {VK_SHIFT});
+  // The text is typed past the screen's keys, and must not overtake them.
+  const LRESULT whole = MAKELRESULT(0, TextOf(FrmFindIcon_txtMax).size());
+  ASSERT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_txtMax).Send(EM_GETSEL) == whole; }));
   TypeText("2");
   ASSERT_TRUE(Eventually([&] { return TextOf(FrmFindIcon_txtMax) == "2"; })) << TextOf(FrmFindIcon_txtMax);
   EXPECT_EQ(FindAndReadMessage(),

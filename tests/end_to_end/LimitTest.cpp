@@ -62,7 +62,7 @@ TEST_F(Limit, ListsAllIconsWhenTheyAreExactlyAsManyAsTheLimit) {
       }
     }
     ChooseSize(row.size);
-    if (made != row.count) continue;
+    ASSERT_EQ(made, row.count);
     Find();
     EXPECT_EQ(List().RowCount(), row.count);
   }
@@ -118,7 +118,7 @@ TEST_F(Limit, BothRefusalsAreInformationBoxesOfTheProgramWithOneButton) {
     EXPECT_THAT(box.Buttons(), ElementsAre(IDOK));
     box.Press(IDOK);
     EXPECT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind); }));
-    DeleteFileW(ToWide(In("1001.dll")).c_str());
+    std::filesystem::remove(ToWide(In("1001.dll")));
   }
 }
 
@@ -135,12 +135,11 @@ TEST_F(Limit, WithoutIconsTheMessageBeginsWithTheFirstTwentyCharactersOfTheFolde
 }
 
 TEST_F(Limit, CountsCharactersOfTheFolderNotBytes) {
-  const std::string folder = "C:\\一二三四五六七八九十甲乙丙丁戊己庚辛壬癸";
-  ASSERT_TRUE(std::filesystem::create_directory(ToWide(folder)));
-  Start(folder);
-  EXPECT_EQ(FindAndReadMessage(), "C:\\一二三四五六七八九十甲乙丙丁戊己庚 ... contains no icons.");
+  const ExtraDrive drive(tree_.Path(), "");
+  tree_.MakeFolder("一二三四五六七八九十甲乙丙丁戊己庚辛壬癸");
+  Start("R:\\一二三四五六七八九十甲乙丙丁戊己庚辛壬癸");
+  EXPECT_EQ(FindAndReadMessage(), "R:\\一二三四五六七八九十甲乙丙丁戊己庚 ... contains no icons.");
   EXPECT_EQ(program_.Close(), 0U);
-  std::filesystem::remove(ToWide(folder));
 }
 
 TEST_F(Limit, AShortFolderStandsWholeInTheNoIconsMessage) {

@@ -20,7 +20,8 @@ using ::testing::StartsWith;
 
 class SaveFault : public Saving {
  protected:
-  void SetUp() override { DeleteFileW(temporaryBitmap); }
+  // Whatever another test that failed left there goes first.
+  void SetUp() override { std::filesystem::remove_all(temporaryBitmap); }
   void TearDown() override {
     Saving::TearDown();
     EXPECT_EQ(GetFileAttributesW(temporaryBitmap), INVALID_FILE_ATTRIBUTES) << "the temporary bitmap is left";

@@ -183,7 +183,7 @@ TEST_F(SaveIcons, TheHotSpotIsPickedWithTheMouse) {
   EXPECT_EQ(picked(), "");
   EXPECT_TRUE(Eventually([&] {
     Click(place);
-    return Eventually([&] { return picked() == "0000"; }, std::chrono::seconds(5));
+    return Eventually([&] { return picked() == "0000"; }, lostAfter);
   }));
   picker.End(FrmHotSpot_CmdOk);
   SaveDialog(program_).SaveAs(Out("picked.cur"));

@@ -132,7 +132,7 @@ void Saving::SelectByMouse(std::initializer_list<int> entries) const {
     // A click that got lost is made again.
     for (int i = 0; i < 3 && List().IsSelected(entry) != select; ++i) {
       ClickCell(entry, {VK_CONTROL});
-      Eventually([&] { return List().IsSelected(entry) == select; }, std::chrono::seconds(5));
+      Eventually([&] { return List().IsSelected(entry) == select; }, lostAfter);
     }
   }
   ExpectRows(wanted);

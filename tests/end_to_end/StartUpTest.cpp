@@ -13,13 +13,13 @@ namespace {
 class StartUp : public EndToEnd {};
 
 TEST_F(StartUp, TheStartUpWindowGivesWayToTheMainWindowByItself) {
+  const auto started = std::chrono::steady_clock::now();
   program_.Launch();
   const Control startUp = program_.WaitForStartUpWindow();
   EXPECT_EQ(program_.CountWindowsWith(FrmFindIcon_CmdFind), 0);
-  const auto shown = std::chrono::steady_clock::now();
   program_.WaitForMainWindow();
-  // Its three seconds began before it was seen, so a little less is right, too.
-  EXPECT_GT(std::chrono::steady_clock::now() - shown, std::chrono::seconds(2));
+  // Two clocks of the machine may disagree a little about the same three seconds.
+  EXPECT_GT(std::chrono::steady_clock::now() - started, std::chrono::milliseconds(2950));
   EXPECT_TRUE(Eventually([&] { return IsWindow(startUp.Window()) == 0; }));
 }
 

@@ -41,7 +41,7 @@ class ViewByHand : public SelectionByHand {
   EnhancedView OpenOn(int number) const {
     EXPECT_TRUE(Eventually([&] {
       DoubleClick(CellMiddle(number - 1));
-      return Eventually([&] { return program_.CountWindowsWith(frmBit_img) == 1; }, std::chrono::seconds(3));
+      return Eventually([&] { return program_.CountWindowsWith(frmBit_img) == 1; }, lostAfter);
     }));
     return EnhancedView(program_);
   }
@@ -56,7 +56,7 @@ class ViewByHand : public SelectionByHand {
   void ClickUntil(const EnhancedView& view, int button, const std::function<bool()>& isDone) const {
     EXPECT_TRUE(Eventually([&] {
       view.Click(button);
-      return Eventually(isDone, std::chrono::seconds(3));
+      return Eventually(isDone, lostAfter);
     })) << button;
   }
   // As a user's eye compares: whether the view comes to show the entry with every pixel of its icon a square of

@@ -31,7 +31,15 @@ PastedPicture FromBitmap(const std::byte* bytes) {
 
 PastedPicture Paste() {
   PastedPicture picture;
-  if (OpenClipboard(nullptr) == 0) return picture;
+  // Others may have it open for a moment, the system itself among them.
+  const ULONGLONG deadline = GetTickCount64() + 60000;
+  while (OpenClipboard(nullptr) == 0) {
+    if (GetTickCount64() >= deadline) {
+      ADD_FAILURE() << "the clipboard cannot be opened";
+      return picture;
+    }
+    Sleep(1);
+  }
   if (const HANDLE data = GetClipboardData(CF_DIB)) {
     picture = FromBitmap(static_cast<const std::byte*>(GlobalLock(data)));
     GlobalUnlock(data);

@@ -213,8 +213,12 @@ Control Program::Item(int id) const {
 }
 
 void Program::BringToFront() const {
-  SetForegroundWindow(window_.Window());
-  if (!Eventually([&] { return GetForegroundWindow() == window_.Window(); }))
+  // Another window that is just coming up may take the place back.
+  if (!Eventually([&] {
+        if (GetForegroundWindow() == window_.Window()) return true;
+        SetForegroundWindow(window_.Window());
+        return false;
+      }))
     throw std::runtime_error("the main window does not come to the front");
 }
 

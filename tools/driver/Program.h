@@ -67,6 +67,8 @@ class Program {
   // The same for a process that can make no file longer than so many bytes, a multiple of 512: what goes beyond fails
   // to be written, as on a full disk.
   void StartWithFilesUpTo(int bytes);
+  // Whether it was ever started, and whether it runs.
+  bool WasStarted() const { return static_cast<bool>(process_); }
   bool IsRunning() const;
   // The process, with all rights to it; owned by this object.
   HANDLE Process() const { return process_.get(); }
