@@ -131,16 +131,16 @@ void FrmFindIcon::ClearGrid() {
 void FrmFindIcon::SizeGrid(const GridExtent& extent) {
   // Asked once for each folder of a search, and nearly always for the same.
   if (shownExtent_ == extent && vsb_.SmallStep() == state_.Geometry.CellPitch) return;
-  shownExtent_ = extent;
   grid_.Resize(grid_.Width(), extent.height, white);
   SetWindowPos(picIcons_.Window(), nullptr, 0, 0, grid_.Width(), grid_.Height(),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   vsb_.SetRange({0, extent.scrollMaximum, state_.Geometry.CellPitch, viewportHeight}, viewportHeight);
   EnableItem(FrmFindIcon_Vsb, extent.scrolls);
+  Vsb_Change();  // a smaller range may have moved the value
+  shownExtent_ = extent;
 }
 
 void FrmFindIcon::ScrollGridToTop() {
-  if (vsb_.Value() == 0) return;
   vsb_.SetValue(0);
   Vsb_Change();
 }
