@@ -23,12 +23,6 @@ void ScrollBar::SetValue(int value) {
   SetScrollPos(window_, SB_CTL, value_, TRUE);
 }
 
-bool ScrollBar::Step(int steps) {
-  const int former = value_;
-  SetValue(value_ + steps * range_.smallStep);
-  return value_ != former;
-}
-
 bool ScrollBar::Scroll(int request) {
   const int former = value_;
   switch (request) {

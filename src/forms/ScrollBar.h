@@ -26,8 +26,6 @@ class ScrollBar {
 
   // Moves the value as the user asks by WM_HSCROLL or WM_VSCROLL; true when it changed.
   bool Scroll(int request);
-  // Moves the value by so many small steps, up for less than zero; true when it changed.
-  bool Step(int steps);
 
  private:
   int ThumbValue() const;

@@ -225,7 +225,11 @@ bool FrmFindIcon::PreviewMessage(const MSG& message) {
   RECT frame;
   GetWindowRect(Item(FrmFindIcon_PicFrame), &frame);
   if (IsWindowVisible(Item(FrmFindIcon_PicFrame)) == FALSE || PtInRect(&frame, pointer) == FALSE) return false;
-  if (vsb_.Step(-GET_WHEEL_DELTA_WPARAM(message.wParam) / WHEEL_DELTA)) Vsb_Change();
+  UINT lines = 0;
+  SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+  const int notch = PixelsPerNotch(lines, vsb_.SmallStep(), viewportHeight);
+  vsb_.SetValue(vsb_.Value() + wheel_.Turn(GET_WHEEL_DELTA_WPARAM(message.wParam), notch));
+  Vsb_Change();
   return true;
 }
 

@@ -14,6 +14,7 @@
 #include "forms/PictureBox.h"
 #include "forms/ReportList.h"
 #include "forms/ScrollBar.h"
+#include "grid/WheelScroll.h"
 #include "platform/Surface.h"
 #include "search/FolderReader.h"
 #include "search/IconList.h"
@@ -182,6 +183,7 @@ class FrmFindIcon final : public Form,
   LiveText caption_;
   LiveText status_;  // panel 1 of sbMain
   GridExtent shownExtent_;
+  WheelScroll wheel_;
 
   DriveListBox drive1_;
   DirListBox dir1_;

@@ -117,5 +117,27 @@ TEST_F(GridPicture, TheWheelAndTheScrollBarMoveIt) {
   EXPECT_TRUE(Eventually([&] { return ScrolledPixels() > 0; }));
 }
 
+// A touchpad and a fine wheel send a notch in many small parts; each part alone once counted as none.
+TEST_F(GridPicture, PartsOfANotchAddUpToOne) {
+  CopyHundredIcons(In("hundred.dll"));
+  Start();
+  Tick({Dll});
+  ChooseSize(Size64);
+  Find();
+  const Control frame = program_.Item(FrmFindIcon_PicFrame);
+  const POINT place = MiddleOf(frame.Place());
+  const auto turn = [&](int delta) {
+    frame.Post(WM_MOUSEWHEEL, static_cast<WPARAM>(delta) << 16U, MAKELPARAM(place.x, place.y));
+  };
+  turn(-WHEEL_DELTA);
+  EXPECT_TRUE(Eventually([&] { return ScrolledPixels() > 0; }));
+  const int notch = ScrolledPixels();
+  for (int part = 0; part < 12; ++part) turn(-WHEEL_DELTA / 12);
+  EXPECT_TRUE(Eventually([&] { return ScrolledPixels() == 2 * notch; })) << ScrolledPixels();
+  EXPECT_TRUE(Shows(*Expected(geometries[Size64]), 2 * notch));
+  for (int part = 0; part < 48; ++part) turn(WHEEL_DELTA / 24);
+  EXPECT_TRUE(Eventually([&] { return ScrolledPixels() == 0; })) << ScrolledPixels();
+}
+
 }  // namespace
 }  // namespace tarvik::end_to_end
