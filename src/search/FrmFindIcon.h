@@ -184,6 +184,7 @@ class FrmFindIcon final : public Form,
   LiveText status_;  // panel 1 of sbMain
   GridExtent shownExtent_;
   WheelScroll wheel_;
+  bool releaseBelongsToDblClick_ = false;  // the next release on the grid ends a double click
 
   DriveListBox drive1_;
   DirListBox dir1_;

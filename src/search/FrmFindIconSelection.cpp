@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <utility>
+
 #include "resource.h"
 #include "search/FrmFindIcon.h"
 
@@ -9,8 +11,23 @@ namespace tarvik {
 
 void FrmFindIcon::OnPicture(const PictureEvent& event) {
   if (event.id != FrmFindIcon_PicIcons) return;
-  if (event.kind == PictureEvent::Kind::MouseUp) selection_.PicIcons_MouseUp(event.shift, event.x, event.y);
-  if (event.kind == PictureEvent::Kind::DblClick) PicIcons_DblClick();
+  switch (event.kind) {
+    case PictureEvent::Kind::MouseDown:
+      releaseBelongsToDblClick_ = false;
+      break;
+    case PictureEvent::Kind::MouseUp:
+      if (!std::exchange(releaseBelongsToDblClick_, false)) selection_.PicIcons_MouseUp(event.shift, event.x, event.y);
+      break;
+    case PictureEvent::Kind::DblClick:
+      // The view opens between the second press and its release. The release is the end of the double click and no
+      // click of its own: it goes to whatever lies under the pointer, or, if the view was closed first, nowhere.
+      ReleaseCapture();
+      PicIcons_DblClick();
+      releaseBelongsToDblClick_ = GetKeyState(VK_LBUTTON) < 0;
+      break;
+    case PictureEvent::Kind::MouseMove:
+      break;
+  }
 }
 
 int FrmFindIcon::GridInnerHeight() const {

@@ -123,6 +123,14 @@ void DoubleClick(POINT place, HeldKeys held) {
   PressLeft(place, "click --repeat 2 --delay 20 1", held);
 }
 
+void DoubleClickAndHold(POINT place) {
+  PressLeft(place, "click --delay 20 1 mousedown 1", {});
+}
+
+void ReleaseLeft(POINT place) {
+  Do(MoveTo(place) + "mouseup 1");
+}
+
 void RightClick(POINT place) {
   Do(MoveTo(place) + "click 3");
 }

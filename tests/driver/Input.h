@@ -18,6 +18,9 @@ void MovePointer(POINT place);
 // as one double click.
 void Click(POINT place, HeldKeys held = {});
 void DoubleClick(POINT place, HeldKeys held = {});
+// A double click whose second press is held until ReleaseLeft, wherever the pointer is by then.
+void DoubleClickAndHold(POINT place);
+void ReleaseLeft(POINT place);
 void RightClick(POINT place);
 // Presses the left button at one place and releases it at the other.
 void Drag(POINT from, POINT to);

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <functional>
+
 #include "end_to_end/ViewByHand.h"
 
 namespace tarvik::end_to_end {
@@ -39,6 +41,61 @@ TEST_F(EnhancedViewOpens, OnADoubleClickOnARowOfTheList) {
   ExpectAsAtFirst(view, 4);
   view.Close();
   ExpectCurrent(3);
+}
+
+// The second release of the double click, which follows the opening of the view, once counted as one more click.
+class SecondRelease : public ViewByHand {
+ protected:
+  // Double-clicks an entry, counted from 0, until the view opens, from the first icon alone as the selection each time.
+  EnhancedView Open(const std::function<void()>& doubleClick) const {
+    EXPECT_TRUE(Eventually([&] {
+      ClickCell(0);
+      ExpectRows({0});
+      doubleClick();
+      return Eventually([&] { return program_.CountWindowsWith(frmBit_img) == 1; }, std::chrono::seconds(3));
+    }));
+    return EnhancedView(program_);
+  }
+};
+
+TEST_F(SecondRelease, OfADoubleClickWithCtrlTogglesNothing) {
+  FindFiles(5);
+  const EnhancedView view = Open([&] { DoubleClick(CellMiddle(2), {VK_CONTROL}); });
+  ExpectEntry(view, 3);
+  view.Close();
+  WaitForAllInput();
+  ExpectRows({0, 2});
+  ExpectFrames({0, 2});
+  ExpectCurrent(2);
+}
+
+TEST_F(SecondRelease, TwoCellsFurtherMakesNoOtherIconCurrent) {
+  FindFiles(5);
+  const EnhancedView view = Open([&] {
+    DoubleClickAndHold(CellMiddle(1));
+    ReleaseLeft(CellMiddle(3));
+  });
+  ExpectEntry(view, 2);
+  view.Close();
+  WaitForAllInput();
+  ExpectRows({1});
+  ExpectCurrent(1);
+}
+
+TEST_F(SecondRelease, OnlyAfterTheViewIsClosedSelectsNothing) {
+  FindFiles(5);
+  const EnhancedView view = Open([&] {
+    DoubleClickAndHold(CellMiddle(1));
+    if (!Eventually([&] { return program_.CountWindowsWith(frmBit_img) == 1; }, std::chrono::seconds(3)))
+      ReleaseLeft(CellMiddle(1));
+  });
+  view.Close();
+  ReleaseLeft(CellMiddle(3));
+  WaitForAllInput();
+  ExpectRows({1});
+  ExpectCurrent(1);
+  ClickCell(4);
+  ExpectRows({4});
 }
 
 TEST_F(EnhancedViewOpens, OnlyWhereThereIsAnIcon) {
