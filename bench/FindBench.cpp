@@ -86,21 +86,29 @@ class BareCalls {
   int number_ = 0;
 };
 
-// A window that swallows texts: what is left is the search itself.
-class SilentWindow final : public SearchWindow {
+// A grid that is only drawn on.
+class SilentGrid final : public GridView {
  public:
-  SilentWindow(const Scope& scope, FolderReader& folders)
-      : scope_(scope),
-        folders_(folders),
-        folder_(scope.folder),
-        grid_(WidestGrid(), 12000, white),
-        own_(114, 114, white) {}
+  void Clear() override {}
+  void Size(const GridGeometry&, int) override {}
+  int InnerHeight() const override { return picture_.Height(); }
+  DrawSurface& Picture() override { return picture_; }
+  void Keep() override {}
+  void DrawFrame(Point, Point, bool) override {}
+
+ private:
+  Surface picture_{WidestGrid(), 12000, white};
+};
+
+// A window that swallows texts: what is left is the search itself.
+class SilentWindow final : public SearchWindow, public SearchFolders {
+ public:
+  SilentWindow(const Scope& scope, FolderReader& folders) : scope_(scope), folders_(folders), folder_(scope.folder) {}
 
   void CloseEnhancedView() override {}
   void Enable(SearchControl, bool) override {}
   bool chkSubDir() const override { return scope_.subFolders; }
   std::string txtMax() const override { return "4000"; }
-  int udMainUpperEnd() const override { return 4000; }
   std::string Dir1Path() const override { return folder_; }
   void SetDir1Path(const std::string& folder) override { folder_ = folder; }
   std::vector<std::string> Dir1SubFolders() override { return folders_.SubFolders(folder_); }
@@ -113,30 +121,20 @@ class SilentWindow final : public SearchWindow {
   void ShowInformation(const std::string& text) override { std::printf("refused: %s\n", text.c_str()); }
   void ClearListView() override {}
   void ListChanged() override {}
-  void ClearGrid() override {}
-  void SizeGrid(const GridExtent&) override {}
-  void ScrollGridToTop() override {}
-  DrawSurface& Grid() override { return grid_; }
-  DrawSurface& OwnSurface() override { return own_; }
-  void DrawFrame(Point, Point, bool) override {}
-  void KeepGridPicture() override {}
   void DoEvents() override {}
   std::shared_ptr<void> ShowHourglass() override { return nullptr; }
-  void UpdateSaveMenus() override {}
 
  private:
   Scope scope_;
   FolderReader& folders_;
   std::string folder_;
-  Surface grid_;
-  Surface own_;
 };
 
 // The search behind a window that shows nothing.
 class SilentSearch {
  public:
   explicit SilentSearch(const Scope& scope)
-      : window_(scope, folders_), driver_(window_, icons_, list_, state_, language_) {}
+      : window_(scope, folders_), driver_({window_, window_, grid_, ownSurface_, icons_, list_, state_, language_}) {}
   void Run() { driver_.CmdFind_Click(); }
 
  private:
@@ -146,6 +144,8 @@ class SilentSearch {
   SearchState state_;
   std::string language_ = "ENG";
   SilentWindow window_;
+  SilentGrid grid_;
+  Surface ownSurface_{114, 114, white};
   SearchDriver driver_;
 };
 

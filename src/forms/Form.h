@@ -31,6 +31,10 @@ template <typename Window, typename Result, typename... Arguments>
 struct OwnerOf<Result (Window::*)(Arguments...)> {
   using Type = Window;
 };
+template <typename Window, typename Part>
+struct OwnerOf<Part Window::*> {
+  using Type = Window;
+};
 }  // namespace detail
 
 // A member function as an event's handler; one that takes an int gets the index.
@@ -41,6 +45,12 @@ void Call(typename detail::OwnerOf<decltype(Method)>::Type& window, int index) {
   } else {
     (window.*Method)();
   }
+}
+
+// A member function of a part of the window, one of its data members, as an event's handler.
+template <auto Part, auto Method>
+void CallOn(typename detail::OwnerOf<decltype(Part)>::Type& window, int /*index*/) {
+  (window.*Part.*Method)();
 }
 
 // A window made from a dialog template. It is loaded (the window exists, hidden, and Form_Load has run), shown modeless

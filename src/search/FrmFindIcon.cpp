@@ -41,6 +41,11 @@ void Move(HWND item, int left, int top, int width, int height) {
   SetWindowPos(item, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+bool IsInput(UINT message) {
+  return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) ||
+         (message >= WM_NCMOUSEMOVE && message <= WM_NCXBUTTONDBLCLK);
+}
+
 // The width of a control's text in its own font, in pixels.
 int TextWidth(HWND item) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)) + 1, L'\0');
@@ -57,22 +62,20 @@ int TextWidth(HWND item) {
 FrmFindIcon::FrmFindIcon(Application& application, Services services)
     : Form(application, Dialog_FrmFindIcon),
       services_(std::move(services)),
-      driver_(*this, services_.icons, list_, state_, services_.state.CurrentLanguage),
-      selection_(*this, list_, state_, services_.state.CurrentLanguage),
+      ownSurface_(ownSurfaceSide, ownSurfaceSide, white),
+      driver_({*this, folders_, grid_, ownSurface_, services_.icons, list_, state_, services_.state.CurrentLanguage}),
+      selection_(*this, grid_, list_, state_, services_.state.CurrentLanguage),
       surfaces_(state_.Geometry.IconSize),
       commands_(*this, services_.saving, list_, state_, services_.state),
       caption_([this](const std::string& text) { Form::SetCaption(text); }),
       status_([this](const std::string& text) {
         SendMessageW(Item(FrmFindIcon_sbMain), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
-      }),
-      grid_(WidestGrid(), viewportHeight, white),
-      ownSurface_(ownSurfaceSide, ownSurfaceSide, white) {}
+      }) {}
 
 void FrmFindIcon::Form_Load() {
   SetTexts(*this, findIconTexts, services_.state.CurrentLanguage);
   AttachControls();
   PlaceLimit();
-  PlaceGrid();
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);
 
@@ -98,8 +101,10 @@ void FrmFindIcon::AttachControls() {
     return services_.folders.Files(folder, pattern);
   });
   udMain_.Attach(Item(FrmFindIcon_udMain));
-  vsb_.Attach(Item(FrmFindIcon_Vsb));
+  grid_.Attach(Item(FrmFindIcon_PicFrame), Item(FrmFindIcon_Vsb), FrmFindIcon_PicIcons);
   lv_.Attach(Item(FrmFindIcon_Lv));
+  const RECT place = grid_.Place();  // the list takes the grid's place
+  Move(lv_.Window(), place.left, place.top, place.right - place.left, place.bottom - place.top);
   lv_.CellText = [this](int row, int column) {
     return list_.Has(row + 1) ? IconListCell(list_, row + 1, static_cast<std::size_t>(column)) : std::string();
   };
@@ -108,8 +113,6 @@ void FrmFindIcon::AttachControls() {
     return ReportList::Look{marking.bold, marking.color};
   };
   lv_.Choose = [this](const ReportList::Choice& choice) { Lv_Choose(choice); };
-  picIcons_ = PictureBox::Create(Item(FrmFindIcon_PicFrame), FrmFindIcon_PicIcons, grid_.Width(), grid_.Height());
-  picIcons_.Show(&grid_);
 }
 
 // The limit's box stands right behind its label, and the rest of the row behind the box, in every language; the label
@@ -124,19 +127,6 @@ void FrmFindIcon::PlaceLimit() {
     const int width = id == FrmFindIcon_SkinLabel2 ? TextWidth(Item(id)) : former.right - former.left;
     Move(Item(id), former.left + shift, former.top, width, former.bottom - former.top);
   }
-}
-
-// The viewport is as many pixels wide and high as the grid needs, whatever the size of the dialog's font.
-void FrmFindIcon::PlaceGrid() {
-  const HWND frame = Item(FrmFindIcon_PicFrame);
-  const RECT place = PlaceOf(Window(), frame);
-  const int border = 2 * GetSystemMetrics(SM_CXEDGE);
-  const int width = WidestGrid() + border;
-  const int height = viewportHeight + border;
-  const int barWidth = GetSystemMetrics(SM_CXVSCROLL);
-  Move(frame, place.left, place.top, width, height);
-  Move(vsb_.Window(), place.left + width, place.top, barWidth, height);
-  Move(lv_.Window(), place.left, place.top, width + barWidth, height);
 }
 
 bool FrmFindIcon::Form_QueryUnload() {
@@ -177,17 +167,26 @@ bool FrmFindIcon::OnCommand(int id, int code) {
       {FrmFindIcon_OptView0, FrmFindIcon_OptView1, BN_CLICKED, Call<&FrmFindIcon::OptView_Click>},
       {FrmFindIcon_mnuStart, FrmFindIcon_mnuStart, 0, Call<&FrmFindIcon::mnuStart_Click>},
       {FrmFindIcon_mnuExit, FrmFindIcon_mnuExit, 0, Call<&FrmFindIcon::mnuExit_Click>},
-      {FrmFindIcon_mnuSaveAs, FrmFindIcon_mnuSaveAs, 0, Call<&FrmFindIcon::mnuSaveAs_Click>},
-      {FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsBitmap, 0, Call<&FrmFindIcon::MnuSaveAsBitmap_Click>},
-      {FrmFindIcon_MnuSaveAsCursor, FrmFindIcon_MnuSaveAsCursor, 0, Call<&FrmFindIcon::MnuSaveAsCursor_Click>},
-      {FrmFindIcon_mnuSaveSel, FrmFindIcon_mnuSaveSel, 0, Call<&FrmFindIcon::mnuSaveSel_Click>},
-      {FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveAll, 0, Call<&FrmFindIcon::mnuSaveAll_Click>},
-      {FrmFindIcon_mnuSaveSel2, FrmFindIcon_mnuSaveSel2, 0, Call<&FrmFindIcon::mnuSaveSel2_Click>},
-      {FrmFindIcon_mnuSaveAll2, FrmFindIcon_mnuSaveAll2, 0, Call<&FrmFindIcon::mnuSaveAll2_Click>},
-      {FrmFindIcon_mnuSaveSel3, FrmFindIcon_mnuSaveSel3, 0, Call<&FrmFindIcon::mnuSaveSel3_Click>},
-      {FrmFindIcon_mnuSaveAll3, FrmFindIcon_mnuSaveAll3, 0, Call<&FrmFindIcon::mnuSaveAll3_Click>},
-      {FrmFindIcon_mnuCopy, FrmFindIcon_mnuCopy, 0, Call<&FrmFindIcon::mnuCopy_Click>},
-      {FrmFindIcon_mnuRem, FrmFindIcon_mnuRem, 0, Call<&FrmFindIcon::mnuRem_Click>},
+      {FrmFindIcon_mnuSaveAs, FrmFindIcon_mnuSaveAs, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveAs_Click>},
+      {FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsBitmap, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::MnuSaveAsBitmap_Click>},
+      {FrmFindIcon_MnuSaveAsCursor, FrmFindIcon_MnuSaveAsCursor, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::MnuSaveAsCursor_Click>},
+      {FrmFindIcon_mnuSaveSel, FrmFindIcon_mnuSaveSel, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveSel_Click>},
+      {FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveAll, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveAll_Click>},
+      {FrmFindIcon_mnuSaveSel2, FrmFindIcon_mnuSaveSel2, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveSel2_Click>},
+      {FrmFindIcon_mnuSaveAll2, FrmFindIcon_mnuSaveAll2, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveAll2_Click>},
+      {FrmFindIcon_mnuSaveSel3, FrmFindIcon_mnuSaveSel3, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveSel3_Click>},
+      {FrmFindIcon_mnuSaveAll3, FrmFindIcon_mnuSaveAll3, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveAll3_Click>},
+      {FrmFindIcon_mnuCopy, FrmFindIcon_mnuCopy, 0, CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuCopy_Click>},
+      {FrmFindIcon_mnuRem, FrmFindIcon_mnuRem, 0, CallOn<&FrmFindIcon::selection_, &Selection::mnuRem_Click>},
       {FrmFindIcon_mnuShowLabel, FrmFindIcon_mnuShowLabel, 0, Call<&FrmFindIcon::mnuShowLabel_Click>},
       {FrmFindIcon_mnuIL1, FrmFindIcon_mnuIL2, 0, Call<&FrmFindIcon::mnuIL_Click>},
       {FrmFindIcon_mnuViewopt0, FrmFindIcon_mnuViewopt1, 0, Call<&FrmFindIcon::mnuViewopt_Click>},
@@ -199,7 +198,7 @@ bool FrmFindIcon::OnCommand(int id, int code) {
 
 void FrmFindIcon::OnScroll(HWND scrollBar, int request) {
   if (scrollBar == udMain_.Window() && udMain_.Scroll(request)) udMain_Change();
-  if (scrollBar == vsb_.Window() && vsb_.Scroll(request)) Vsb_Change();
+  grid_.OnScroll(scrollBar, request);
 }
 
 LRESULT FrmFindIcon::OnNotify(NMHDR& header) {
@@ -220,17 +219,7 @@ void FrmFindIcon::OnDrawItem(const DRAWITEMSTRUCT& item) {
 bool FrmFindIcon::PreviewMessage(const MSG& message) {
   if (isSaving_ && IsInput(message.message)) return true;
   // The wheel turns what lies under the pointer, wherever the focus is.
-  if (message.message != WM_MOUSEWHEEL || IsWindowEnabled(vsb_.Window()) == FALSE) return false;
-  const POINT pointer{GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
-  RECT frame;
-  GetWindowRect(Item(FrmFindIcon_PicFrame), &frame);
-  if (IsWindowVisible(Item(FrmFindIcon_PicFrame)) == FALSE || PtInRect(&frame, pointer) == FALSE) return false;
-  UINT lines = 0;
-  SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-  const int notch = PixelsPerNotch(lines, vsb_.SmallStep(), viewportHeight);
-  vsb_.SetValue(vsb_.Value() + wheel_.Turn(GET_WHEEL_DELTA_WPARAM(message.wParam), notch));
-  Vsb_Change();
-  return true;
+  return grid_.OnWheel(message);
 }
 
 }  // namespace tarvik

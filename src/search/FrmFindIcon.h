@@ -1,29 +1,24 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "export/IconSurfaces.h"
 #include "export/SaveCommands.h"
 #include "forms/FolderLists.h"
 #include "forms/Form.h"
 #include "forms/LiveText.h"
-#include "forms/PictureBox.h"
 #include "forms/ReportList.h"
 #include "forms/ScrollBar.h"
-#include "grid/WheelScroll.h"
+#include "grid/IconGrid.h"
 #include "platform/Surface.h"
-#include "search/FolderReader.h"
+#include "search/FindIconServices.h"
 #include "search/IconList.h"
-#include "search/IconSource.h"
 #include "search/SearchDriver.h"
 #include "search/SearchWindow.h"
 #include "search/Selection.h"
-#include "startup/ProgramState.h"
-#include "startup/Settings.h"
+#include "search/ShownFolders.h"
 #include "view/frmBit.h"
 
 namespace tarvik {
@@ -35,19 +30,7 @@ class FrmFindIcon final : public Form,
                           private SaveWindow,
                           private EnhancedViewOwner {
  public:
-  // What the window stands on. All of it outlives the window.
-  struct Services {
-    ProgramState& state;
-    Settings& settings;
-    IconSource& icons;
-    FolderReader& folders;
-    std::function<std::vector<DriveListBox::Drive>()> drives;
-    std::function<bool(const std::string& folder)> isReadableFolder;
-    std::string programFolder;
-    std::function<void()> showAbout;  // returns when the About box is closed
-    std::function<void()> openGuide;
-    SaveCommands::Tools saving;
-  };
+  using Services = FindIconServices;
 
   FrmFindIcon(Application& application, Services services);
 
@@ -59,7 +42,7 @@ class FrmFindIcon final : public Form,
   // The icon in PicIcon magnified by the program's Magnification, at the top-left corner of a square of MagnifiedSide.
   const Surface& PicMain();
   // The folder shown in Dir1.
-  std::string Dir1Path() const override;
+  const std::string& Dir1Path() const { return dir1_.Path(); }
 
  private:
   // Form
@@ -91,50 +74,24 @@ class FrmFindIcon final : public Form,
   void mnuViewopt_Click(int index);
   void MnuContent_Click();
   void MnuAbout_Click();
-  void Vsb_Change();
   void PicIcons_DblClick();
   void Lv_Choose(const ReportList::Choice& choice);
-  void mnuRem_Click();
   void mnuShowLabel_Click();
   void mnuIL_Click(int index);
-  void mnuSaveAs_Click();
-  void MnuSaveAsBitmap_Click();
-  void MnuSaveAsCursor_Click();
-  void mnuSaveSel_Click();
-  void mnuSaveAll_Click();
-  void mnuSaveSel2_Click();
-  void mnuSaveAll2_Click();
-  void mnuSaveSel3_Click();
-  void mnuSaveAll3_Click();
-  void mnuCopy_Click();
 
   // SearchWindow
   void CloseEnhancedView() override;
   void Enable(SearchControl control, bool enabled) override;
   bool chkSubDir() const override;
   std::string txtMax() const override;
-  int udMainUpperEnd() const override;
-  void SetDir1Path(const std::string& folder) override;
-  std::vector<std::string> Dir1SubFolders() override;
-  std::string File1Path() const override;
-  void SetFile1Path(const std::string& folder) override;
-  std::vector<std::string> File1Names() override;
   void SetCaption(const std::string& text) override;
   void SetStatusText(const std::string& text) override;
   void SetInfoText(const std::string& text) override;
   void ShowInformation(const std::string& text) override;
   void ClearListView() override;
   void ListChanged() override;
-  void ClearGrid() override;
-  void SizeGrid(const GridExtent& extent) override;
-  void ScrollGridToTop() override;
-  DrawSurface& Grid() override;
-  DrawSurface& OwnSurface() override;
-  void DrawFrame(Point corner, Point farCorner, bool shown) override;
-  void KeepGridPicture() override;
   void DoEvents() override;
   std::shared_ptr<void> ShowHourglass() override;
-  void UpdateSaveMenus() override;
 
   // EnhancedViewOwner, beside RenderEntry
   int EntryCount() const override;
@@ -145,7 +102,6 @@ class FrmFindIcon final : public Form,
   const Surface& PicIcon() const override;
 
   // SelectionView, where it asks for more than a search does
-  int GridInnerHeight() const override;
   bool NumbersByFile() const override;
 
   // SaveWindow, where it asks for more than a search does
@@ -157,19 +113,22 @@ class FrmFindIcon final : public Form,
   void ServePainting() override;
   bool CopyPicClip() override;
 
-  static bool IsInput(UINT message);
-
   void AttachControls();
   void PlaceLimit();
-  void PlaceGrid();
   void LoadSettings();
   void SaveSettings();
+  void UpdateSaveMenus();
   void ShowSelectionInList();
   void ShowProgress();
 
   Services services_;
   SearchState state_;
   IconList list_;
+  DirListBox dir1_;
+  FileListBox file1_;
+  ShownFolders folders_{dir1_, file1_};
+  IconGrid grid_;
+  Surface ownSurface_;
   SearchDriver driver_;
   Selection selection_;
   std::optional<frmBit> view_;  // from the first time it opens
@@ -181,20 +140,12 @@ class FrmFindIcon final : public Form,
   std::optional<Surface> picMain_;
 
   LiveText caption_;
-  LiveText status_;  // panel 1 of sbMain
-  GridExtent shownExtent_;
-  WheelScroll wheel_;
+  LiveText status_;                        // panel 1 of sbMain
   bool releaseBelongsToDblClick_ = false;  // the next release on the grid ends a double click
 
   DriveListBox drive1_;
-  DirListBox dir1_;
-  FileListBox file1_;
   ScrollBar udMain_;
-  ScrollBar vsb_;
   ReportList lv_;
-  PictureBox picIcons_;
-  Surface grid_;
-  Surface ownSurface_;
 };
 
 }  // namespace tarvik

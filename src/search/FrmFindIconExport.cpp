@@ -1,4 +1,4 @@
-// The main window as the save and copy commands see it, and their menu items.
+// The main window as the save and copy commands see it.
 
 #include <windows.h>
 
@@ -18,15 +18,8 @@ namespace tarvik {
 namespace {
 
 constexpr ULONGLONG paintPeriod = 40;  // milliseconds between two looks at the waiting messages
-constexpr UINT firstFrameMouseMessage = WM_NCMOUSEMOVE;
-constexpr UINT lastFrameMouseMessage = WM_NCXBUTTONDBLCLK;
 
 }  // namespace
-
-bool FrmFindIcon::IsInput(UINT message) {
-  return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) ||
-         (message >= firstFrameMouseMessage && message <= lastFrameMouseMessage);
-}
 
 std::string FrmFindIcon::StatusText() const {
   const HWND bar = Item(FrmFindIcon_sbMain);
@@ -70,46 +63,6 @@ const Surface& FrmFindIcon::PicMain() {
   SetStretchBltMode(picMain_->Dc(), COLORONCOLOR);
   StretchBlt(picMain_->Dc(), 0, 0, magnified, magnified, icon.Dc(), 0, 0, icon.Width(), icon.Height(), SRCCOPY);
   return *picMain_;
-}
-
-void FrmFindIcon::mnuSaveAs_Click() {
-  commands_.mnuSaveAs_Click();
-}
-
-void FrmFindIcon::MnuSaveAsBitmap_Click() {
-  commands_.MnuSaveAsBitmap_Click();
-}
-
-void FrmFindIcon::MnuSaveAsCursor_Click() {
-  commands_.MnuSaveAsCursor_Click();
-}
-
-void FrmFindIcon::mnuSaveSel_Click() {
-  commands_.mnuSaveSel_Click();
-}
-
-void FrmFindIcon::mnuSaveAll_Click() {
-  commands_.mnuSaveAll_Click();
-}
-
-void FrmFindIcon::mnuSaveSel2_Click() {
-  commands_.mnuSaveSel2_Click();
-}
-
-void FrmFindIcon::mnuSaveAll2_Click() {
-  commands_.mnuSaveAll2_Click();
-}
-
-void FrmFindIcon::mnuSaveSel3_Click() {
-  commands_.mnuSaveSel3_Click();
-}
-
-void FrmFindIcon::mnuSaveAll3_Click() {
-  commands_.mnuSaveAll3_Click();
-}
-
-void FrmFindIcon::mnuCopy_Click() {
-  commands_.mnuCopy_Click();
 }
 
 }  // namespace tarvik

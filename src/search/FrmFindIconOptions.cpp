@@ -117,17 +117,12 @@ void FrmFindIcon::OptView_Click(int index) {
   SetChecked(FrmFindIcon_OptView1, list);
   SetChecked(FrmFindIcon_mnuViewopt0, !list);
   SetChecked(FrmFindIcon_mnuViewopt1, list);
-  ShowItem(FrmFindIcon_PicFrame, !list);
-  ShowItem(FrmFindIcon_Vsb, !list);
+  grid_.Show(!list);
   ShowItem(FrmFindIcon_Lv, list);
 }
 
 void FrmFindIcon::mnuViewopt_Click(int index) {
   OptView_Click(index);
-}
-
-void FrmFindIcon::Vsb_Change() {
-  SetWindowPos(picIcons_.Window(), nullptr, 0, -vsb_.Value(), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // A handler like the others, whatever it leaves alone. NOLINTNEXTLINE(readability-make-member-function-const)

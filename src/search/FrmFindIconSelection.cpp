@@ -30,10 +30,6 @@ void FrmFindIcon::OnPicture(const PictureEvent& event) {
   }
 }
 
-int FrmFindIcon::GridInnerHeight() const {
-  return grid_.Height();
-}
-
 bool FrmFindIcon::NumbersByFile() const {
   return TheMenu().IsChecked(FrmFindIcon_mnuIL2);
 }
@@ -56,10 +52,6 @@ void FrmFindIcon::Lv_Choose(const ReportList::Choice& choice) {
 
 void FrmFindIcon::ShowSelectionInList() {
   lv_.SetSelection([this](int row) { return list_.Has(row + 1) && list_.Item(row + 1).selected; });
-}
-
-void FrmFindIcon::mnuRem_Click() {
-  selection_.mnuRem_Click();
 }
 
 void FrmFindIcon::mnuShowLabel_Click() {

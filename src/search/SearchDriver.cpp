@@ -52,9 +52,15 @@ class SearchDriver::OpenFolders {
   std::vector<OpenFolder> folders_;
 };
 
-SearchDriver::SearchDriver(SearchWindow& window, IconSource& icons, IconList& list, SearchState& state,
-                           const std::string& language)
-    : window_(window), icons_(icons), list_(list), state_(state), language_(language) {}
+SearchDriver::SearchDriver(const Tools& tools)
+    : window_(tools.window),
+      folders_(tools.folders),
+      grid_(tools.grid),
+      ownSurface_(tools.ownSurface),
+      icons_(tools.icons),
+      list_(tools.list),
+      state_(tools.state),
+      language_(tools.language) {}
 
 void SearchDriver::CmdFind_Click() {
   if (state_.IsSearching) return;
@@ -87,12 +93,12 @@ void SearchDriver::Search() {
 bool SearchDriver::IsRefused() {
   const int count = state_.IconCount;
   if (count == 0) {
-    ShowBox(searchTexts::noIcons, {FirstCharacters(window_.File1Path(), pathCharactersInBox)});
+    ShowBox(searchTexts::noIcons, {FirstCharacters(folders_.File1Path(), pathCharactersInBox)});
     return true;
   }
   const int limit = ToInteger16(window_.txtMax());
   if (count <= limit) return false;
-  const int highestLimit = window_.udMainUpperEnd();
+  const int highestLimit = state_.Geometry.HighestLimit;
   if (count < highestLimit) {
     ShowBox(searchTexts::raiseLimit, {std::to_string(count), std::to_string(limit)});
   } else {
@@ -105,19 +111,18 @@ void SearchDriver::ListIcons() {
   state_.NextIconNumber = 1;
   state_.CellY = firstCell;
   state_.CellX = firstCell;
-  window_.ClearGrid();
+  grid_.Clear();
   RunOverScope(&SearchDriver::ListIconsInFolder);
   UpdateTitle();
   if (const auto text = Pick(searchTexts::firstSelected, language_)) window_.SetInfoText(std::string(*text));
-  window_.KeepGridPicture();
+  grid_.Keep();
   state_.FrameX = firstFrame;
   state_.FrameY = firstFrame;
   const int farCorner = state_.Geometry.FirstFrameExtent;
-  window_.DrawFrame({firstFrame, firstFrame}, {farCorner, farCorner}, true);
+  grid_.DrawFrame({firstFrame, firstFrame}, {farCorner, farCorner}, true);
   state_.CurrentIndex = 0;
   for (const SearchControl control : searchControls) window_.Enable(control, true);
   state_.IsSearching = false;
-  window_.UpdateSaveMenus();
   // The files that were counted can be gone by the time they are listed.
   if (list_.Has(1)) list_.Select(1);
   window_.ListChanged();
@@ -130,23 +135,23 @@ void SearchDriver::FailureExit() {
   window_.Enable(SearchControl::mnuFile, false);
   window_.Enable(SearchControl::mnuEdit, false);
   state_.IsSearching = false;
-  window_.ClearGrid();
+  grid_.Clear();
 }
 
 // With sub-folders a pass starts at Dir1's folder and moves Dir1, which is put back after it.
 void SearchDriver::RunOverScope(Pass pass) {
   if (!window_.chkSubDir()) {
-    (this->*pass)(window_.File1Path());
+    (this->*pass)(folders_.File1Path());
     return;
   }
-  const std::string savedDirPath = window_.Dir1Path();
+  const std::string savedDirPath = folders_.Dir1Path();
   try {
     (this->*pass)(savedDirPath);
   } catch (...) {
-    window_.SetDir1Path(savedDirPath);
+    folders_.SetDir1Path(savedDirPath);
     throw;
   }
-  window_.SetDir1Path(savedDirPath);
+  folders_.SetDir1Path(savedDirPath);
 }
 
 // Visits a folder, then each of its sub-folders in the same way, then leaves it. A folder's sub-folders are
@@ -162,7 +167,7 @@ void SearchDriver::Walk(const std::string& root, const Enter& enter, const Leave
       open.Leave();
       continue;
     }
-    window_.SetDir1Path(folder.path);
+    folders_.SetDir1Path(folder.path);
     std::string subFolder = std::move(folder.subFolders[folder.next++]);
     open.Enter(Opened(std::move(subFolder), enter));
   }
@@ -172,8 +177,8 @@ SearchDriver::OpenFolder SearchDriver::Opened(std::string path, const Enter& ent
   OpenFolder folder{std::move(path), {}, 0, {}};
   folder.held = enter(folder.path);
   if (!window_.chkSubDir()) return folder;
-  window_.SetDir1Path(folder.path);
-  folder.subFolders = window_.Dir1SubFolders();
+  folders_.SetDir1Path(folder.path);
+  folder.subFolders = folders_.Dir1SubFolders();
   return folder;
 }
 
@@ -186,8 +191,8 @@ void SearchDriver::CountIconsInFolder(const std::string& root) {
 }
 
 void SearchDriver::CountFilesOf(const std::string& folder) {
-  if (window_.chkSubDir()) window_.SetFile1Path(folder);
-  for (const std::string& name : window_.File1Names()) {
+  if (window_.chkSubDir()) folders_.SetFile1Path(folder);
+  for (const std::string& name : folders_.File1Names()) {
     CountIconsOfFile(PathOf(name));
     UpdateTitle();
   }
@@ -203,8 +208,7 @@ int SearchDriver::CountAnimationFrames(const std::string& path) {
   if (!icon) return 0;
   const int bound = icon->StepBound();
   int step = 0;
-  while (step < bound &&
-         icon->Draw(window_.OwnSurface(), trialCorner, state_.Geometry.IconSize, step, DrawPart::Normal)) {
+  while (step < bound && icon->Draw(ownSurface_, trialCorner, state_.Geometry.IconSize, step, DrawPart::Normal)) {
     ++step;
   }
   return step;
@@ -218,21 +222,18 @@ void SearchDriver::ListIconsInFolder(const std::string& root) {
 
 // What it returns holds the hourglass up.
 SearchDriver::Held SearchDriver::ListFilesOf(const std::string& folder) {
-  if (window_.chkSubDir()) window_.SetFile1Path(folder);
-  window_.SizeGrid(ExtentOf(state_.Geometry, state_.IconCount));
-  window_.ScrollGridToTop();
+  if (window_.chkSubDir()) folders_.SetFile1Path(folder);
+  grid_.Size(state_.Geometry, state_.IconCount);
   window_.DoEvents();
   const int limit = ToInteger16(window_.txtMax());
   Held hourglass = window_.ShowHourglass();
-  SetStatus(searchTexts::searching, {window_.Dir1Path()});
-  const int countBefore = list_.Count();
-  for (const std::string& name : window_.File1Names()) {
+  SetStatus(searchTexts::searching, {folders_.Dir1Path()});
+  for (const std::string& name : folders_.File1Names()) {
     // Asked before each file and never inside one: a file's icons are listed all together.
     if (state_.NextIconNumber > limit) break;
     SetStatus(searchTexts::adding, {std::to_string(state_.NextIconNumber)});
     ListIconsOfFile(PathOf(name));
   }
-  if (list_.Count() != countBefore) window_.ListChanged();
   return hourglass;
 }
 
@@ -263,7 +264,7 @@ void SearchDriver::ListAnimation(const std::string& path) {
 void SearchDriver::DrawInNextCell(ExtractedIcon* icon, int step) {
   const GridGeometry& geometry = state_.Geometry;
   if (icon != nullptr) {
-    icon->Draw(window_.Grid(), {state_.CellX, state_.CellY}, geometry.IconSize, step, DrawPart::Normal);
+    icon->Draw(grid_.Picture(), {state_.CellX, state_.CellY}, geometry.IconSize, step, DrawPart::Normal);
   }
   state_.CellX += geometry.CellPitch;
   if (state_.NextIconNumber % geometry.Columns == 0) {
@@ -275,11 +276,11 @@ void SearchDriver::DrawInNextCell(ExtractedIcon* icon, int step) {
 
 // The root of a drive keeps the backslash that it ends in and gets another one.
 std::string SearchDriver::PathOf(const std::string& name) const {
-  return window_.File1Path() + "\\" + name;
+  return folders_.File1Path() + "\\" + name;
 }
 
 void SearchDriver::UpdateTitle() {
-  const auto text = Compose(searchTexts::title, language_, {window_.Dir1Path(), std::to_string(state_.IconCount)});
+  const auto text = Compose(searchTexts::title, language_, {folders_.Dir1Path(), std::to_string(state_.IconCount)});
   if (text) window_.SetCaption(*text);
 }
 

@@ -7,8 +7,10 @@
 #include <string_view>
 #include <vector>
 
+#include "grid/GridView.h"
 #include "search/IconList.h"
 #include "search/IconSource.h"
+#include "search/SearchFolders.h"
 #include "search/SearchWindow.h"
 #include "startup/Language.h"
 
@@ -18,9 +20,19 @@ namespace tarvik {
 // search over the limit is refused before an icon is drawn; the second lists and draws.
 class SearchDriver {
  public:
-  // All five outlive the driver. `language` is read when a text is chosen.
-  SearchDriver(SearchWindow& window, IconSource& icons, IconList& list, SearchState& state,
-               const std::string& language);
+  // What a search works on. All of it outlives the driver.
+  struct Tools {
+    SearchWindow& window;
+    SearchFolders& folders;
+    GridView& grid;
+    DrawSurface& ownSurface;  // the window's own, on which animation steps are tried out
+    IconSource& icons;
+    IconList& list;
+    SearchState& state;
+    const std::string& language;  // read when a text is chosen
+  };
+
+  explicit SearchDriver(const Tools& tools);
 
   // Runs one search to its end; does nothing while one runs. A run-time error leaves the list empty and takes
   // the failure exit, so that the window stays usable, and is thrown on for the handler's boundary to show.
@@ -64,6 +76,9 @@ class SearchDriver {
   void ShowBox(const Text& text, std::initializer_list<std::string_view> values);
 
   SearchWindow& window_;
+  SearchFolders& folders_;
+  GridView& grid_;
+  DrawSurface& ownSurface_;
   IconSource& icons_;
   IconList& list_;
   SearchState& state_;

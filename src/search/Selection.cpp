@@ -10,12 +10,13 @@ int LabelNumber(const IconListEntry& entry, int number, bool byFile) {
   return byFile ? entry.index + 1 : number;
 }
 
-Selection::Selection(SelectionView& view, IconList& list, SearchState& state, const std::string& language)
-    : view_(view), list_(list), state_(state), language_(language) {}
+Selection::Selection(SelectionView& view, GridView& grid, IconList& list, SearchState& state,
+                     const std::string& language)
+    : view_(view), grid_(grid), list_(list), state_(state), language_(language) {}
 
 void Selection::PicIcons_MouseUp(int shift, double x, double y) {
   if (state_.IsSearching) return;
-  const auto cell = CellAt(state_.Geometry, x, y, view_.GridInnerHeight());
+  const auto cell = CellAt(state_.Geometry, x, y, grid_.InnerHeight());
   if (cell && Answers(cell->index)) Choose(*cell, shift == ctrlShift);
 }
 
@@ -114,7 +115,7 @@ void Selection::SetSelected(int number, bool selected) {
 
 void Selection::DrawFrameAt(Point corner, bool shown) {
   const int extent = state_.Geometry.FrameExtent;
-  view_.DrawFrame(corner, {corner.x + extent, corner.y + extent}, shown);
+  grid_.DrawFrame(corner, {corner.x + extent, corner.y + extent}, shown);
 }
 
 }  // namespace tarvik

@@ -2,23 +2,22 @@
 
 #include <string>
 
+#include "grid/GridView.h"
 #include "grid/HitTest.h"
 #include "search/IconList.h"
 #include "search/SearchWindow.h"
 
 namespace tarvik {
 
-// The main window as the selection sees it. The members named as in SearchWindow do the same as there, so
-// that one function of the window serves both.
+// The main window as the selection sees it, apart from its grid. The members named as in SearchWindow do the same as
+// there, so that one function of the window serves both.
 class SelectionView {
  public:
   virtual ~SelectionView() = default;
 
-  virtual int GridInnerHeight() const = 0;  // of PicIcons, in pixels
   // Whether labels number an icon by its place in its own file (mnuIL2) or by its entry (mnuIL1).
   virtual bool NumbersByFile() const = 0;
 
-  virtual void DrawFrame(Point corner, Point farCorner, bool shown) = 0;
   virtual void SetInfoText(const std::string& text) = 0;
   virtual void SetStatusText(const std::string& text) = 0;
   virtual void ListChanged() = 0;
@@ -37,8 +36,8 @@ int LabelNumber(const IconListEntry& entry, int number, bool byFile);
 // Does nothing while a search runs, nor for an entry that the list does not hold, as after a refused search.
 class Selection {
  public:
-  // All four outlive the selection. `language` is read when a text is chosen.
-  Selection(SelectionView& view, IconList& list, SearchState& state, const std::string& language);
+  // All five outlive the selection. `language` is read when a text is chosen.
+  Selection(SelectionView& view, GridView& grid, IconList& list, SearchState& state, const std::string& language);
 
   // A button released on the grid at (x, y), in pixels of PicIcons. Every button acts alike. A plain click
   // leaves the clicked entry selected alone; with Ctrl it adds the entry or takes it out.
@@ -70,6 +69,7 @@ class Selection {
   void DrawFrameAt(Point corner, bool shown);
 
   SelectionView& view_;
+  GridView& grid_;
   IconList& list_;
   SearchState& state_;
   const std::string& language_;

@@ -9,7 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include "grid/GridView.h"
 #include "search/IconSource.h"
+#include "search/SearchFolders.h"
 #include "search/SearchWindow.h"
 
 namespace tarvik {
@@ -98,7 +100,30 @@ struct FakeFolder {
   std::vector<std::string> subFolders;  // full paths
 };
 
-class FakeSearchWindow : public SearchWindow {
+class FakeGrid : public GridView {
+ public:
+  explicit FakeGrid(Script& script) : script_(script) {}
+
+  void Clear() override { script_.Add("clear grid"); }
+  void Size(const GridGeometry& geometry, int iconCount) override {
+    script_.Add("size grid " + std::to_string(geometry.IconSize) + " for " + std::to_string(iconCount));
+  }
+  int InnerHeight() const override { return innerHeight; }
+  DrawSurface& Picture() override { return picture_; }
+  void Keep() override { script_.Add("keep picture"); }
+  void DrawFrame(Point corner, Point farCorner, bool shown) override {
+    script_.Add((shown ? "show frame " : "erase frame ") + ToText(corner) + ToText(farCorner));
+  }
+
+  int innerHeight = viewportHeight;
+
+ private:
+  Script& script_;
+  FakeSurface picture_{"grid"};
+};
+
+// The window with its two lists.
+class FakeSearchWindow : public SearchWindow, public SearchFolders {
  public:
   explicit FakeSearchWindow(Script& script) : script_(script) {}
 
@@ -114,7 +139,6 @@ class FakeSearchWindow : public SearchWindow {
 
   bool chkSubDir() const override { return subDir; }
   std::string txtMax() const override { return max; }
-  int udMainUpperEnd() const override { return upperEnd; }
 
   std::string Dir1Path() const override { return dir1; }
   void SetDir1Path(const std::string& folder) override {
@@ -142,20 +166,10 @@ class FakeSearchWindow : public SearchWindow {
   void ShowInformation(const std::string& text) override { script_.Add("box " + text); }
 
   void ClearListView() override { script_.Add("clear list view"); }
-  void ListChanged() override { script_.Add("list changed"); }
-
-  void ClearGrid() override { script_.Add("clear grid"); }
-  void SizeGrid(const GridExtent& extent) override {
-    script_.Add("size grid " + std::to_string(extent.height) +
-                (extent.scrolls ? " scrolls " + std::to_string(extent.scrollMaximum) : " still"));
+  void ListChanged() override {
+    script_.Add("list changed");
+    if (onListChanged) onListChanged();
   }
-  void ScrollGridToTop() override { script_.Add("scroll to top"); }
-  DrawSurface& Grid() override { return grid_; }
-  DrawSurface& OwnSurface() override { return own_; }
-  void DrawFrame(Point corner, Point farCorner, bool shown) override {
-    script_.Add((shown ? "show frame " : "erase frame ") + ToText(corner) + ToText(farCorner));
-  }
-  void KeepGridPicture() override { script_.Add("keep picture"); }
 
   void DoEvents() override {
     script_.Add("events");
@@ -169,24 +183,16 @@ class FakeSearchWindow : public SearchWindow {
               --hourglasses_;
             }};
   }
-  void UpdateSaveMenus() override {
-    script_.Add("save menus");
-    if (onSaveMenus) onSaveMenus();
-  }
-
   std::map<std::string, FakeFolder> folders;
   std::string dir1;
   std::string file1;
   bool subDir = false;
   std::string max = "300";
-  int upperEnd = 2400;
   std::function<void()> onEvents;
-  std::function<void()> onSaveMenus;
+  std::function<void()> onListChanged;
 
  private:
   Script& script_;
-  FakeSurface grid_{"grid"};
-  FakeSurface own_{"window"};
   int hourglasses_ = 0;
 };
 

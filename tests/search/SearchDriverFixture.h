@@ -52,7 +52,13 @@ class SearchDriverTest : public ::testing::Test {
   IconList list;
   SearchState state;
   std::string language{english};
-  SearchDriver driver{window, icons, list, state, language};
+  FakeGrid grid{script};
+  FakeSurface ownSurface{"window"};
+  // The same with another machine.
+  SearchDriver::Tools ToolsOver(IconSource& machine) {
+    return {window, window, grid, ownSurface, machine, list, state, language};
+  }
+  SearchDriver driver{ToolsOver(icons)};
 };
 
 }  // namespace tarvik

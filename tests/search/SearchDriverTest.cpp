@@ -88,13 +88,13 @@ TEST_F(SearchDriverTest, DrawsTheFirstFrameToTheExtentOfEachSize) {
 TEST_F(SearchDriverTest, SizesTheGridBeforeDrawing) {
   AddFile("C:\\a", "x.dll", {.icons = 90});
   Find();
-  EXPECT_THAT(script.Lines("size grid"), ElementsAre("size grid 228 scrolls 38"));
+  EXPECT_THAT(script.Lines("size grid"), ElementsAre("size grid 32 for 90"));
 }
 
-TEST_F(SearchDriverTest, SearchesWhileItYieldsAndNoLongerWhenTheMenusAreSet) {
+TEST_F(SearchDriverTest, SearchesWhileItYieldsAndNoLongerWhenTheListIsShown) {
   std::vector<bool> searching;
   window.onEvents = [&] { searching.push_back(state.IsSearching); };
-  window.onSaveMenus = [&] { searching.push_back(state.IsSearching); };
+  window.onListChanged = [&] { searching.push_back(state.IsSearching); };
   AddFile("C:\\a", "x.dll", {.icons = 1});
   Find();
   EXPECT_THAT(searching, ElementsAre(true, false));
@@ -191,7 +191,7 @@ TEST_F(SearchDriverTest, SaysWhichFilesAreAnimated) {
   spy.files["C:\\a\\m.Ani"] = {.icons = 1};
   spy.files["C:\\a\\x.ico"] = {.icons = 1};
   window.folders["C:\\a"].files = {"m.Ani", "x.ico"};
-  SearchDriver(window, spy, list, state, language).CmdFind_Click();
+  SearchDriver(ToolsOver(spy)).CmdFind_Click();
   EXPECT_THAT(animated, ElementsAre(true, false, true, true, false, false));
 }
 
@@ -226,7 +226,7 @@ TEST_F(SearchDriverTest, ListsTheStepsOfAnAnimationWhosePictureIsGoneWhenItIsDra
   Vanishing vanishing(script);
   vanishing.files["C:\\a\\m.ani"] = {.icons = 1, .steps = 2, .stepBound = 2};
   window.folders["C:\\a"].files = {"m.ani"};
-  SearchDriver(window, vanishing, list, state, language).CmdFind_Click();
+  SearchDriver(ToolsOver(vanishing)).CmdFind_Click();
   EXPECT_EQ(list.Count(), 2);
   EXPECT_THAT(script.Lines("draw C:\\a\\m.ani#0 on grid"), IsEmpty());
 }
@@ -312,7 +312,7 @@ TEST_F(SearchDriverTest, AsksForNoLimitWhereThereAreNoIcons) {
 TEST_F(SearchDriverTest, OverflowsWhenTheGridGrowsBeyondItsCoordinates) {
   state.Geometry = gridGeometries[3];
   window.max = "32767";
-  window.upperEnd = 32767;
+  state.Geometry.HighestLimit = 32767;
   AddFile("C:\\a", "x.dll", {.icons = 4000});
   EXPECT_THROW(Find(), OverflowError);
   EXPECT_EQ(list.Count(), 0);

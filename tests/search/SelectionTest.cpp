@@ -22,16 +22,11 @@ class FakeSelectionView : public SelectionView {
  public:
   explicit FakeSelectionView(Script& script) : script_(script) {}
 
-  int GridInnerHeight() const override { return innerHeight; }
   bool NumbersByFile() const override { return byFile; }
-  void DrawFrame(Point corner, Point farCorner, bool shown) override {
-    script_.Add((shown ? "show frame " : "erase frame ") + ToText(corner) + ToText(farCorner));
-  }
   void SetInfoText(const std::string& text) override { script_.Add("label " + text); }
   void SetStatusText(const std::string& text) override { script_.Add("status " + text); }
   void ListChanged() override { script_.Add("list changed"); }
 
-  int innerHeight = 190;
   bool byFile = false;
 
  private:
@@ -71,7 +66,8 @@ class SelectionTest : public ::testing::Test {
   IconList list;
   SearchState state;
   std::string language{english};
-  Selection selection{view, list, state, language};
+  FakeGrid grid{script};
+  Selection selection{view, grid, list, state, language};
 };
 
 TEST_F(SelectionTest, SelectsTheClickedEntryAloneInThisOrder) {

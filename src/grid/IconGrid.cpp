@@ -1,0 +1,125 @@
+#include "grid/IconGrid.h"
+
+#include <windows.h>
+
+#include <windowsx.h>
+
+#include "platform/Handles.h"
+
+namespace tarvik {
+namespace {
+
+RECT PlaceInParent(HWND window) {
+  RECT place;
+  GetWindowRect(window, &place);
+  MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+bool IsOver(POINT pointer, HWND window) {
+  RECT place;
+  GetWindowRect(window, &place);
+  return PtInRect(&place, pointer) != FALSE;
+}
+
+}  // namespace
+
+IconGrid::IconGrid() : picture_(WidestGrid(), viewportHeight, white) {}
+
+void IconGrid::Attach(HWND frame, HWND bar, int pictureId) {
+  frame_ = frame;
+  vsb_.Attach(bar);
+  extent_.reset();
+  const RECT place = PlaceInParent(frame_);
+  const int border = 2 * GetSystemMetrics(SM_CXEDGE);
+  const int width = WidestGrid() + border;
+  const int height = viewportHeight + border;
+  constexpr UINT flags = SWP_NOZORDER | SWP_NOACTIVATE;
+  SetWindowPos(frame_, nullptr, place.left, place.top, width, height, flags);
+  SetWindowPos(bar, nullptr, place.left + width, place.top, GetSystemMetrics(SM_CXVSCROLL), height, flags);
+  picIcons_ = PictureBox::Create(frame_, pictureId, picture_.Width(), picture_.Height());
+  picIcons_.Show(&picture_);
+}
+
+RECT IconGrid::Place() const {
+  RECT place{};
+  const RECT frame = PlaceInParent(frame_);
+  const RECT bar = PlaceInParent(vsb_.Window());
+  UnionRect(&place, &frame, &bar);
+  return place;
+}
+
+void IconGrid::Show(bool shown) const {
+  for (const HWND window : {frame_, vsb_.Window()}) ShowWindow(window, shown ? SW_SHOW : SW_HIDE);
+}
+
+void IconGrid::OnScroll(HWND bar, int request) {
+  if (bar != vsb_.Window() || !vsb_.Scroll(request)) return;
+  if (request == SB_THUMBTRACK) {
+    Vsb_Scroll();
+  } else {
+    Vsb_Change();
+  }
+}
+
+void IconGrid::Vsb_Change() {
+  ScrollTo(vsb_.Value());
+}
+
+// While the thumb is dragged.
+void IconGrid::Vsb_Scroll() {
+  ScrollTo(vsb_.Value());
+}
+
+bool IconGrid::OnWheel(const MSG& message) {
+  if (message.message != WM_MOUSEWHEEL) return false;
+  if (IsWindowEnabled(vsb_.Window()) == FALSE || IsWindowVisible(frame_) == FALSE) return false;
+  const POINT pointer{GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
+  if (!IsOver(pointer, frame_) && !IsOver(pointer, vsb_.Window())) return false;
+  UINT lines = 0;
+  SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+  const int notch = PixelsPerNotch(lines, vsb_.SmallStep(), viewportHeight);
+  ScrollTo(vsb_.Value() + wheel_.Turn(GET_WHEEL_DELTA_WPARAM(message.wParam), notch));
+  return true;
+}
+
+// The one place that sets the bar's value and the picture's place, so that they cannot differ.
+void IconGrid::ScrollTo(int value) {
+  vsb_.SetValue(value);
+  SetWindowPos(picIcons_.Window(), nullptr, 0, -vsb_.Value(), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void IconGrid::Clear() {
+  picture_.Clear(white);
+  picIcons_.Refresh();
+}
+
+void IconGrid::Size(const GridGeometry& geometry, int iconCount) {
+  const GridExtent extent = ExtentOf(geometry, iconCount);
+  // A search asks once for each folder, and nearly always for the same.
+  if (extent_ != extent || vsb_.SmallStep() != geometry.CellPitch) {
+    extent_.reset();
+    picture_.Resize(picture_.Width(), extent.height, white);
+    SetWindowPos(picIcons_.Window(), nullptr, 0, 0, picture_.Width(), picture_.Height(),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    vsb_.SetRange({0, extent.scrollMaximum, geometry.CellPitch, viewportHeight}, viewportHeight);
+    EnableWindow(vsb_.Window(), extent.scrolls ? TRUE : FALSE);
+    extent_ = extent;
+  }
+  ScrollTo(0);
+}
+
+void IconGrid::Keep() {
+  picIcons_.Refresh();
+}
+
+void IconGrid::DrawFrame(Point corner, Point farCorner, bool shown) {
+  const Selected pen(picture_.Dc(), GetStockObject(shown ? BLACK_PEN : WHITE_PEN));
+  const Selected brush(picture_.Dc(), GetStockObject(NULL_BRUSH));
+  // The far corner belongs to the frame; GDI leaves its own last row and column out.
+  const RECT place{corner.x, corner.y, farCorner.x + 1, farCorner.y + 1};
+  Rectangle(picture_.Dc(), place.left, place.top, place.right, place.bottom);
+  InvalidateRect(picIcons_.Window(), &place, FALSE);
+}
+
+}  // namespace tarvik

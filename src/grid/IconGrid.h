@@ -1,0 +1,56 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+
+#include "forms/PictureBox.h"
+#include "forms/ScrollBar.h"
+#include "grid/GridView.h"
+#include "grid/WheelScroll.h"
+#include "platform/Surface.h"
+
+namespace tarvik {
+
+// The grid on the main window: a viewport, in it a picture box with the picture PicIcons, and beside it the scroll bar
+// Vsb, whose value is how many pixels the picture is scrolled. The three windows belong to the main window; nothing
+// else sizes or moves them.
+class IconGrid final : public GridView {
+ public:
+  IconGrid();
+
+  // Takes over the viewport `frame` and the scroll bar `bar`, children of one window, and makes the picture box with
+  // the id `pictureId`. The viewport becomes as many pixels wide and high as the grids need, whatever the size of the
+  // dialog's font, and the bar moves to its right edge.
+  void Attach(HWND frame, HWND bar, int pictureId);
+  // The place of viewport and bar together, in pixels of their parent window.
+  RECT Place() const;
+  void Show(bool shown) const;
+
+  // Scrolls as the user asks by WM_VSCROLL; nothing if that came from another bar.
+  void OnScroll(HWND bar, int request);
+  // Scrolls by the mouse wheel if `message` is a turn of it over a grid that scrolls; whether it was.
+  bool OnWheel(const MSG& message);
+
+  void Clear() override;
+  void Size(const GridGeometry& geometry, int iconCount) override;
+  int InnerHeight() const override { return picture_.Height(); }
+  DrawSurface& Picture() override { return picture_; }
+  void Keep() override;
+  void DrawFrame(Point corner, Point farCorner, bool shown) override;
+
+ private:
+  void Vsb_Change();
+  void Vsb_Scroll();
+  void ScrollTo(int value);
+
+  HWND frame_ = nullptr;
+  ScrollBar vsb_;
+  PictureBox picIcons_;
+  Surface picture_;
+  WheelScroll wheel_;
+  // What the windows were last sized for, if they were.
+  std::optional<GridExtent> extent_;
+};
+
+}  // namespace tarvik
