@@ -61,6 +61,9 @@ class StartUp final : public basInitEntry::StartUpSystem {
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*commandLine*/, int /*show*/) {
   using namespace tarvik;
   LoadLibrariesFromSystemFolderOnly();
+  // The system would cover a window that serves no messages for some seconds with a picture of it, and a long count
+  // could not show how far it is.
+  DisableProcessWindowsGhosting();
 
   ProgramState state;
   IniFile iniFile;

@@ -38,6 +38,11 @@ void ReportList::SetRowCount(int rows) {
   ListView_SetItemCountEx(window_, rows, LVSICF_NOSCROLL);
 }
 
+void ReportList::GrowTo(int rows) {
+  if (rows == ListView_GetItemCount(window_)) return;
+  ListView_SetItemCountEx(window_, rows, LVSICF_NOSCROLL | LVSICF_NOINVALIDATEALL);
+}
+
 void ReportList::Refresh() {
   InvalidateRect(window_, nullptr, FALSE);
 }

@@ -49,6 +49,8 @@ class ReportList {
   void Clear(std::span<const Column> columns);
   // Shows that many rows and draws them anew.
   void SetRowCount(int rows);
+  // The same for rows that are only added to: those already there are left alone.
+  void GrowTo(int rows);
   // Draws what is visible anew.
   void Refresh();
 

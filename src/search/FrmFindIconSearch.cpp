@@ -93,6 +93,7 @@ void FrmFindIcon::ListChanged() {
 }
 
 void FrmFindIcon::DoEvents() {
+  lv_.GrowTo(list_.Count());
   caption_.ShowIfDue();
   status_.ShowIfDue();
   TheApplication().DoEvents();

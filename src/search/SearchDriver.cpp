@@ -26,30 +26,6 @@ struct SearchDriver::OpenFolder {
   std::string path;
   std::vector<std::string> subFolders;
   std::size_t next = 0;  // the sub-folder to visit next
-  Held held;
-};
-
-// The folders that a walk stands in, outermost first. A list and not the call stack, because folders can lie
-// in one another deeper than a stack reaches. They are left innermost first, also when an error ends the
-// walk: each puts back the pointer that it found.
-class SearchDriver::OpenFolders {
- public:
-  OpenFolders() = default;
-  OpenFolders(const OpenFolders&) = delete;
-  OpenFolders(OpenFolders&&) = delete;
-  OpenFolders& operator=(const OpenFolders&) = delete;
-  OpenFolders& operator=(OpenFolders&&) = delete;
-  ~OpenFolders() {
-    while (!IsEmpty()) Leave();
-  }
-
-  bool IsEmpty() const { return folders_.empty(); }
-  void Enter(OpenFolder folder) { folders_.push_back(std::move(folder)); }
-  OpenFolder& Innermost() { return folders_.back(); }
-  void Leave() { folders_.pop_back(); }
-
- private:
-  std::vector<OpenFolder> folders_;
 };
 
 SearchDriver::SearchDriver(const Tools& tools)
@@ -140,6 +116,8 @@ void SearchDriver::FailureExit() {
 
 // With sub-folders a pass starts at Dir1's folder and moves Dir1, which is put back after it.
 void SearchDriver::RunOverScope(Pass pass) {
+  // Over the whole pass, so that also a long count shows that the program is at work. The pointer is back before a box.
+  const std::shared_ptr<void> hourglass = window_.ShowHourglass();
   if (!window_.chkSubDir()) {
     (this->*pass)(folders_.File1Path());
     return;
@@ -158,24 +136,25 @@ void SearchDriver::RunOverScope(Pass pass) {
 // read once; for each of them Dir1 is only pointed at their folder again, because the visit of the last one
 // moved it.
 void SearchDriver::Walk(const std::string& root, const Enter& enter, const Leave& leave) {
-  OpenFolders open;
-  open.Enter(Opened(root, enter));
-  while (!open.IsEmpty()) {
-    OpenFolder& folder = open.Innermost();
+  // Outermost first. A list and not the call stack, because folders can lie in one another deeper than a stack reaches.
+  std::vector<OpenFolder> open;
+  open.push_back(Opened(root, enter));
+  while (!open.empty()) {
+    OpenFolder& folder = open.back();
     if (folder.next == folder.subFolders.size()) {
       leave();
-      open.Leave();
+      open.pop_back();
       continue;
     }
     folders_.SetDir1Path(folder.path);
     std::string subFolder = std::move(folder.subFolders[folder.next++]);
-    open.Enter(Opened(std::move(subFolder), enter));
+    open.push_back(Opened(std::move(subFolder), enter));
   }
 }
 
 SearchDriver::OpenFolder SearchDriver::Opened(std::string path, const Enter& enter) {
-  OpenFolder folder{std::move(path), {}, 0, {}};
-  folder.held = enter(folder.path);
+  OpenFolder folder{std::move(path), {}, 0};
+  enter(folder.path);
   if (!window_.chkSubDir()) return folder;
   folders_.SetDir1Path(folder.path);
   folder.subFolders = folders_.Dir1SubFolders();
@@ -183,11 +162,8 @@ SearchDriver::OpenFolder SearchDriver::Opened(std::string path, const Enter& ent
 }
 
 void SearchDriver::CountIconsInFolder(const std::string& root) {
-  const Enter enter = [this](const std::string& folder) {
-    CountFilesOf(folder);
-    return Held();
-  };
-  Walk(root, enter, [] {});
+  Walk(
+      root, [this](const std::string& folder) { CountFilesOf(folder); }, [] {});
 }
 
 void SearchDriver::CountFilesOf(const std::string& folder) {
@@ -215,18 +191,16 @@ int SearchDriver::CountAnimationFrames(const std::string& path) {
 }
 
 void SearchDriver::ListIconsInFolder(const std::string& root) {
-  const Enter enter = [this](const std::string& folder) { return ListFilesOf(folder); };
+  const Enter enter = [this](const std::string& folder) { ListFilesOf(folder); };
   const Leave leave = [this] { SetStatus(searchTexts::added, {std::to_string(list_.Count())}); };
   Walk(root, enter, leave);
 }
 
-// What it returns holds the hourglass up.
-SearchDriver::Held SearchDriver::ListFilesOf(const std::string& folder) {
+void SearchDriver::ListFilesOf(const std::string& folder) {
   if (window_.chkSubDir()) folders_.SetFile1Path(folder);
   grid_.Size(state_.Geometry, state_.IconCount);
   window_.DoEvents();
   const int limit = ToInteger16(window_.txtMax());
-  Held hourglass = window_.ShowHourglass();
   SetStatus(searchTexts::searching, {folders_.Dir1Path()});
   for (const std::string& name : folders_.File1Names()) {
     // Asked before each file and never inside one: a file's icons are listed all together.
@@ -234,7 +208,6 @@ SearchDriver::Held SearchDriver::ListFilesOf(const std::string& folder) {
     SetStatus(searchTexts::adding, {std::to_string(state_.NextIconNumber)});
     ListIconsOfFile(PathOf(name));
   }
-  return hourglass;
 }
 
 void SearchDriver::ListIconsOfFile(const std::string& path) {

@@ -45,11 +45,8 @@ class SearchDriver {
  private:
   using Pass = void (SearchDriver::*)(const std::string& folder);
   using Leave = std::function<void()>;
-  // What a folder's visit holds until the folder is left.
-  using Held = std::shared_ptr<void>;
-  using Enter = std::function<Held(const std::string& folder)>;
+  using Enter = std::function<void(const std::string& folder)>;
   struct OpenFolder;
-  class OpenFolders;
 
   void Search();
   bool IsRefused();
@@ -65,7 +62,7 @@ class SearchDriver {
   void CountIconsOfFile(const std::string& path);
 
   void ListIconsInFolder(const std::string& root);
-  Held ListFilesOf(const std::string& folder);
+  void ListFilesOf(const std::string& folder);
   void ListIconsOfFile(const std::string& path);
   void ListAnimation(const std::string& path);
   void DrawInNextCell(ExtractedIcon* icon, int step);

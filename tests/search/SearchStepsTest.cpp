@@ -38,11 +38,12 @@ TEST_P(FilledSearchTest, RunsItsStepsInOrder) {
 
   Find();
 
-  const Lines counting{"files of C:\\a", "count C:\\a\\two.dll"};
+  const Lines counting{"hourglass 1", "files of C:\\a", "count C:\\a\\two.dll"};
   const Lines trying{"extract C:\\a\\move.ANI#0", "draw C:\\a\\move.ANI#0 on window at (50,50) size 32 step 0",
                      "draw C:\\a\\move.ANI#0 on window at (50,50) size 32 step 1",
                      "draw C:\\a\\move.ANI#0 on window at (50,50) size 32 step 2", "release C:\\a\\move.ANI#0"};
-  const Lines readyToList{"clear list view", "clear grid", "size grid 32 for 4", "events", "hourglass 1"};
+  const Lines readyToList{"pointer back 1", "clear list view",    "clear grid",
+                          "hourglass 1",    "size grid 32 for 4", "events"};
   const Lines drawingTwo{
       "count C:\\a\\two.dll",     "extract C:\\a\\two.dll#0", "draw C:\\a\\two.dll#0 on grid at (3,3) size 32 step 0",
       "release C:\\a\\two.dll#0", "extract C:\\a\\two.dll#1", "draw C:\\a\\two.dll#1 on grid at (41,3) size 32 step 0",
@@ -122,9 +123,9 @@ TEST_P(RefusedSearchTest, RunsItsStepsInOrder) {
   Find();
 
   EXPECT_EQ(script.Lines(), Joined({Starting(),
-                                    {"files of C:\\a", "count C:\\a\\x.dll"},
+                                    {"hourglass 1", "files of C:\\a", "count C:\\a\\x.dll"},
                                     Optional("caption ", refused.caption),
-                                    {"clear list view"},
+                                    {"pointer back 1", "clear list view"},
                                     Optional("box ", refused.box),
                                     Refusing()}));
   EXPECT_EQ(list.Count(), 0);
