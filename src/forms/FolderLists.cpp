@@ -104,10 +104,15 @@ void DirListBox::SetPath(const std::string& folder) {
   change_();
 }
 
-void DirListBox::Refresh() {
-  shown_ = FolderChain(path_);
-  current_ = static_cast<int>(shown_.size()) - 1;
-  for (std::string& folder : list_(path_)) shown_.push_back(std::move(folder));
+std::vector<std::string> DirListBox::Rows() const {
+  std::vector<std::string> rows = FolderChain(path_);
+  for (std::string& folder : list_(path_)) rows.push_back(std::move(folder));
+  return rows;
+}
+
+void DirListBox::Show(std::vector<std::string> rows) {
+  shown_ = std::move(rows);
+  current_ = static_cast<int>(FolderChain(path_).size()) - 1;
   shownPath_ = path_;
 
   const WithoutRedraw guard(window_);
@@ -120,7 +125,10 @@ void DirListBox::Refresh() {
 
 void DirListBox::Hold(bool held) {
   held_ = held;
-  if (!held_ && shownPath_ != path_) Refresh();
+  // Rows that are right already keep their place and choice.
+  if (held_) return;
+  std::vector<std::string> rows = Rows();
+  if (shownPath_ != path_ || shown_ != rows) Show(std::move(rows));
 }
 
 void DirListBox::OpenChosen() {
@@ -180,19 +188,22 @@ void FileListBox::SetPattern(const std::string& pattern) {
 
 void FileListBox::Hold(bool held) {
   held_ = held;
-  Update();
+  if (held_) return;
+  std::vector<std::string> names = Names();
+  if (shownPath_ != path_ || shownPattern_ != pattern_ || shown_ != names) Show(std::move(names));
 }
 
 void FileListBox::Update() {
   if (!held_ && (shownPath_ != path_ || shownPattern_ != pattern_)) Refresh();
 }
 
-void FileListBox::Refresh() {
+void FileListBox::Show(std::vector<std::string> names) {
   shownPath_ = path_;
   shownPattern_ = pattern_;
   const WithoutRedraw guard(window_);
   Send(window_, LB_RESETCONTENT);
-  for (const std::string& name : Names()) AddRow(window_, LB_ADDSTRING, name);
+  shown_ = std::move(names);
+  for (const std::string& name : shown_) AddRow(window_, LB_ADDSTRING, name);
 }
 
 }  // namespace tarvik

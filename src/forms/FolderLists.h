@@ -50,8 +50,9 @@ class DirListBox {
   // The sub-folders of the path as they are on the disk now.
   std::vector<std::string> SubFolders() const { return list_(path_); }
   // Fills the visible list anew.
-  void Refresh();
-  // While held, a changed path leaves the visible list alone; letting go fills it where it shows another folder.
+  void Refresh() { Show(Rows()); }
+  // While held, a changed path leaves the visible list alone; letting go fills it if it shows another folder, or if the
+  // folder has changed on the disk.
   void Hold(bool held);
 
   // Opens the chosen folder.
@@ -61,6 +62,9 @@ class DirListBox {
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                     DWORD_PTR data);
+
+  std::vector<std::string> Rows() const;
+  void Show(std::vector<std::string> rows);
 
   HWND window_ = nullptr;
   ListFolders list_;
@@ -84,11 +88,13 @@ class FileListBox {
   void SetPattern(const std::string& pattern);
   // The names of the matching files as they are on the disk now.
   std::vector<std::string> Names() const { return list_(path_, pattern_); }
-  void Refresh();
+  void Refresh() { Show(Names()); }
+  // As DirListBox does.
   void Hold(bool held);
 
  private:
   void Update();
+  void Show(std::vector<std::string> names);
 
   HWND window_ = nullptr;
   ListFiles list_;
@@ -96,6 +102,7 @@ class FileListBox {
   std::string pattern_;
   std::string shownPath_;
   std::string shownPattern_;
+  std::vector<std::string> shown_;  // names, one a row
   bool held_ = false;
 };
 
