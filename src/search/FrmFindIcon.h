@@ -6,7 +6,6 @@
 
 #include "export/IconSurfaces.h"
 #include "export/SaveCommands.h"
-#include "forms/FolderLists.h"
 #include "forms/Form.h"
 #include "forms/LiveText.h"
 #include "forms/ReportList.h"
@@ -16,7 +15,6 @@
 #include "search/FindIconServices.h"
 #include "search/IconList.h"
 #include "search/SearchDriver.h"
-#include "search/SearchWindow.h"
 #include "search/Selection.h"
 #include "search/ShownFolders.h"
 #include "view/frmBit.h"
