@@ -1,5 +1,6 @@
 #include "numbers/Conversion.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <string>
@@ -38,7 +39,36 @@ double ToHexadecimal(std::string_view digits) {
   return static_cast<double>(value);
 }
 
+// Whether a number that no double holds is too large for one, and not too small: by the place of its first digit that
+// is not 0, counted from the decimal point, and its exponent.
+bool IsTooLarge(std::string_view number) {
+  const auto exponentAt = number.find_first_of("eE");
+  const std::string_view digits = number.substr(0, exponentAt);
+  const auto point = std::min(digits.find('.'), digits.size());
+  const auto first = digits.find_first_of("123456789");
+  const double place = first < point ? static_cast<double>(point - first) : -static_cast<double>(first - point - 1);
+  if (exponentAt == std::string_view::npos) return place > 0;
+  std::string_view exponent = number.substr(exponentAt + 1);
+  const bool negative = exponent.starts_with('-');
+  if (negative || exponent.starts_with('+')) exponent.remove_prefix(1);
+  double size = 0;
+  for (const char digit : exponent) size = size * 10 + (digit - '0');
+  return place + (negative ? -size : size) > 0;
+}
+
 }  // namespace
+
+ReadNumber ReadUnsignedNumber(std::string_view text) {
+  // The library would read "inf", "nan" and a sign as numbers.
+  if (text.empty() || !(IsDigit(text[0]) || text[0] == '.')) return {};
+  double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  const auto length = static_cast<std::size_t>(end - text.data());
+  if (error == std::errc::result_out_of_range)
+    return {IsTooLarge(text.substr(0, length)) ? ReadNumber::tooLarge : 0, length};
+  if (error != std::errc()) return {};
+  return {value, length};
+}
 
 double RoundToEven(double value) {
   const double below = std::floor(value);
@@ -54,13 +84,10 @@ double ToNumber(std::string_view text) {
 
   const bool negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
-  // The library would read "inf", "nan" and a second sign as numbers.
-  if (text.empty() || !(IsDigit(text[0]) || text[0] == '.')) throw TypeMismatchError();
   const std::string digits = WithoutThousandsCommas(text);
-  double value = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  if (error == std::errc::result_out_of_range) throw OverflowError();
-  if (error != std::errc() || end != digits.data() + digits.size()) throw TypeMismatchError();
+  const auto [value, length] = ReadUnsignedNumber(digits);
+  if (length == 0 || length != digits.size()) throw TypeMismatchError();
+  if (value == ReadNumber::tooLarge) throw OverflowError();
   return negative ? -value : value;
 }
 

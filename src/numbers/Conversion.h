@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <string_view>
 
 #include "numbers/Integer16.h"
@@ -8,6 +9,18 @@ namespace tarvik {
 
 // The whole number nearest to `value`; a half goes to the even neighbour (2.5 gives 2, 3.5 gives 4).
 double RoundToEven(double value);
+
+// A number at the beginning of a text, and how many characters it has: none where the text begins with no number.
+struct ReadNumber {
+  static constexpr double tooLarge = std::numeric_limits<double>::infinity();
+
+  double value = 0;  // tooLarge beyond a double's range; 0 where it is too small for a double
+  std::size_t length = 0;
+};
+
+// Reads digits with an optional decimal point and exponent, without a sign. The decimal mark is a point whatever the
+// locale.
+ReadNumber ReadUnsignedNumber(std::string_view text);
 
 // The number that a text stands for: blanks around it, a sign, digits with an optional decimal point, commas
 // between digits and an exponent are allowed, and "&H" starts a hexadecimal one. The decimal mark is a point

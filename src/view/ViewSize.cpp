@@ -5,8 +5,8 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <system_error>
 
+#include "numbers/Conversion.h"
 #include "startup/Placement.h"
 
 namespace tarvik {
@@ -42,19 +42,15 @@ float LeadingNumber(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
   const bool negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
-  // The library would read "inf", "nan" and a second sign as numbers.
-  if (text.empty() || (text[0] != '.' && (text[0] < '0' || text[0] > '9'))) return 0;
   constexpr double largest = std::numeric_limits<float>::max();
-  double value = 0;
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (result.ec == std::errc::result_out_of_range) value = largest;
-  const auto magnitude = static_cast<float>(std::min(value, largest));
+  const auto magnitude = static_cast<float>(std::min(ReadUnsignedNumber(text).value, largest));
   return negative ? -magnitude : magnitude;
 }
 
-int FittingPixels(float twips, int dotsPerInch, int least, int most) {
+int NearestPixels(float twips, int dotsPerInch) {
+  using Pixels = std::numeric_limits<int>;
   const double pixels = std::round(double{twips} * dotsPerInch / twipsPerInch);
-  return static_cast<int>(std::min<double>(std::max<double>(pixels, least), most));
+  return static_cast<int>(std::clamp<double>(pixels, Pixels::min(), Pixels::max()));
 }
 
 }  // namespace tarvik

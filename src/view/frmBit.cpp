@@ -97,7 +97,7 @@ void frmBit::ShowSelectedEntry(HWND owner) {
 
 void frmBit::Form_Load() {
   AttachControls();
-  ApplyViewLanguage();
+  SetLanguageOfForm();
   basInitEntry::ApplySkinToForm(*this);
   host_.SetViewOpen(true);
   LoadViewSize();
@@ -124,10 +124,6 @@ void frmBit::Form_Resize() {
   UpdateCaption();
 }
 
-void frmBit::OnSizeLimits(MINMAXINFO& limits) {
-  limits.ptMinTrackSize = {leastSize_.cx, leastSize_.cy};
-}
-
 bool frmBit::OnCommand(int id, int code) {
   static constexpr auto events = std::to_array<Event<frmBit>>({
       {frmBit_tlb_control_MoveFirst, frmBit_tlb_control_Exit, BN_CLICKED, Call<&frmBit::tlb_control_ButtonClick>},
@@ -142,8 +138,11 @@ void frmBit::OnTimer(UINT_PTR id) {
 }
 
 bool frmBit::PreviewMessage(const MSG& message) {
-  if (message.message != WM_KEYDOWN) return false;
-  const auto button = ButtonOfKey(static_cast<int>(message.wParam));
+  return message.message == WM_KEYDOWN && Form_KeyDown(static_cast<int>(message.wParam));
+}
+
+bool frmBit::Form_KeyDown(int key) {
+  const auto button = ButtonOfKey(key);
   if (!button) return false;
   // Through the window, so that a run-time error meets the boundary that every handler has.
   SendMessageW(Window(), WM_COMMAND, MAKEWPARAM(*button, BN_CLICKED), 0);
@@ -226,17 +225,11 @@ void frmBit::AttachControls() {
   MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&place), 2);
   SetWindowPos(zoomList, nullptr, place.left, toolbar_.Extent().cy + zoomListGap, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-  MeasureLeastSize();
 }
 
-// The window is never smaller than its toolbar, the zoom list under it and the status bar.
-void frmBit::MeasureLeastSize() {
-  const SIZE toolbar = toolbar_.Extent();
-  const int height =
-      toolbar.cy + zoomListGap + WindowSize(Item(frmBit_CboZoom)).cy + WindowSize(Item(frmBit_sbMain)).cy;
-  RECT inner{0, 0, toolbar.cx, height};
-  AdjustWindowRectEx(&inner, GetWindowStyle(Window()), FALSE, GetWindowExStyle(Window()));
-  leastSize_ = SizeOf(inner);
+void frmBit::SetLanguageOfForm() {
+  ApplyViewLanguage();
+  UpdateCaption();
 }
 
 void frmBit::ApplyViewLanguage() {
@@ -247,10 +240,8 @@ void frmBit::ApplyViewLanguage() {
 
 void frmBit::LoadViewSize() {
   const ViewSize size = ReadViewSize(settings_);
-  const SIZE most = SizeOf(WorkArea());
   const int dotsPerInch = DotsPerInch();
-  SetWindowPos(Window(), nullptr, 0, 0, FittingPixels(size.width, dotsPerInch, leastSize_.cx, most.cx),
-               FittingPixels(size.height, dotsPerInch, leastSize_.cy, most.cy),
+  SetWindowPos(Window(), nullptr, 0, 0, NearestPixels(size.width, dotsPerInch), NearestPixels(size.height, dotsPerInch),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   basInitEntry::CenterForm(*this);
   PlaceOnScreen();

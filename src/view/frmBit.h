@@ -37,6 +37,9 @@ class frmBit final : public Form, private ViewDisplay {
   // with.
   void ShowSelectedEntry(HWND owner);
 
+  // Sets all texts of the loaded view in the current language: the buttons' tooltips and the caption.
+  void SetLanguageOfForm();
+
   // Called by the message loop before a key reaches the control that has the focus. The view's keys, pressed without
   // Alt, act whatever has the focus and go no further. Every other key is left alone: it works the zoom list and the
   // window's menu as everywhere, and Escape and Enter do nothing.
@@ -47,7 +50,6 @@ class frmBit final : public Form, private ViewDisplay {
   void Form_Load() override;
   void Form_Unload() override;
   void Form_Resize() override;
-  void OnSizeLimits(MINMAXINFO& limits) override;
   bool OnCommand(int id, int code) override;
   void OnTimer(UINT_PTR id) override;
 
@@ -59,6 +61,7 @@ class frmBit final : public Form, private ViewDisplay {
   void tlb_control_ButtonClick(int button);
   void CboZoom_Click();
   void tim_nextpic_Timer();
+  bool Form_KeyDown(int key);  // a virtual-key code; true for one of the view's keys
 
   // What the buttons do.
   void ShowFirst() { stepping_.ShowFirst(); }
@@ -75,7 +78,6 @@ class frmBit final : public Form, private ViewDisplay {
   void ApplyViewLanguage();
   void LoadViewSize();
   void SaveViewSize();
-  void MeasureLeastSize();
   void PlaceOnScreen();
   void UpdateCaption();
   void RestartTimer();
@@ -92,7 +94,6 @@ class frmBit final : public Form, private ViewDisplay {
   PictureBox img_;
   Surface picture_;   // as the main window drew it
   Surface enlarged_;  // what img_ shows
-  SIZE leastSize_{};  // of the window with its frame, in pixels
 };
 
 }  // namespace tarvik

@@ -28,6 +28,21 @@ TEST(ToInteger16, ReadsWhatUsersWriteForANumber) {
   EXPECT_EQ(ToInteger16("32767"), 32767);
 }
 
+TEST(ToInteger16, TakesANumberTooSmallForADoubleForZero) {
+  const std::string zeros(400, '0');
+  for (const std::string& text :
+       {std::string("1e-400"), std::string("-1e-400"), "." + zeros + "1", "0." + zeros + "1e+20", "1" + zeros + "e-900",
+        std::string("1e-99999999999999999999")})
+    EXPECT_EQ(ToInteger16(text), 0) << text;
+}
+
+TEST(ToInteger16, OverflowsForANumberTooLargeForADouble) {
+  const std::string zeros(400, '0');
+  for (const std::string& text : {std::string("1e400"), std::string("-1e400"), "1" + zeros, "1" + zeros + "e-20",
+                                  "." + zeros + "1e+900", std::string("1E+99999999999999999999")})
+    EXPECT_THROW(ToInteger16(text), OverflowError) << text;
+}
+
 TEST(ToInteger16, RefusesATextThatIsNoNumber) {
   for (const std::string text : {"", "  ", "abc", "12x", "--1", "+-1", "inf", "nan", "-", "&H", "1,,0", ",1", "1 2"}) {
     EXPECT_THROW(ToInteger16(text), TypeMismatchError) << '"' << text << '"';

@@ -67,6 +67,9 @@ TEST(LeadingNumber, IsWhatATextBeginsWith) {
       {"-1e39", -largest},
       {"1e400", largest},
       {"-1e400", -largest},
+      {"1e-400", 0},
+      {"-1e-400", 0},
+      {"1e-60", 0},
       {"\xE4\xB8\xAD", 0},
       {"12\xE4\xB8\xAD", 12},
       {"\x01\x02", 0},
@@ -74,21 +77,19 @@ TEST(LeadingNumber, IsWhatATextBeginsWith) {
   for (const auto& row : rows) EXPECT_EQ(LeadingNumber(row.text), row.number) << '"' << row.text << '"';
 }
 
-TEST(FittingPixels, ConvertsTwipsAtTheDisplaysResolution) {
-  EXPECT_EQ(FittingPixels(5310, 96, 1, 2000), 354);
-  EXPECT_EQ(FittingPixels(6645, 96, 1, 2000), 443);
-  EXPECT_EQ(FittingPixels(5310, 192, 1, 2000), 708);
-  EXPECT_EQ(FittingPixels(5317.5F, 96, 1, 2000), 355) << "a half is rounded up";
+TEST(NearestPixels, ConvertsTwipsAtTheDisplaysResolution) {
+  EXPECT_EQ(NearestPixels(5310, 96), 354);
+  EXPECT_EQ(NearestPixels(6645, 96), 443);
+  EXPECT_EQ(NearestPixels(5310, 192), 708);
+  EXPECT_EQ(NearestPixels(5317.5F, 96), 355) << "a half is rounded up";
 }
 
-TEST(FittingPixels, KeepsAnySizeWithinItsBounds) {
-  EXPECT_EQ(FittingPixels(0, 96, 200, 1000), 200);
-  EXPECT_EQ(FittingPixels(-5310, 96, 200, 1000), 200);
-  EXPECT_EQ(FittingPixels(-largest, 96, 200, 1000), 200);
-  EXPECT_EQ(FittingPixels(largest, 96, 200, 1000), 1000);
-  EXPECT_EQ(FittingPixels(3000, 96, 200, 1000), 200) << "exactly the least";
-  EXPECT_EQ(FittingPixels(15000, 96, 200, 1000), 1000) << "exactly the most";
-  EXPECT_EQ(FittingPixels(5310, 96, 400, 300), 300) << "the screen decides";
+TEST(NearestPixels, KeepsNoBoundButThatOfTheNumber) {
+  EXPECT_EQ(NearestPixels(0, 96), 0);
+  EXPECT_EQ(NearestPixels(-5310, 96), -354);
+  EXPECT_EQ(NearestPixels(1500000, 96), 100000);
+  EXPECT_EQ(NearestPixels(largest, 96), std::numeric_limits<int>::max());
+  EXPECT_EQ(NearestPixels(-largest, 96), std::numeric_limits<int>::min());
 }
 
 }  // namespace
