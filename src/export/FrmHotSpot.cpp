@@ -44,6 +44,7 @@ void FrmHotSpot::Form_Load() {
   PictureBox(Item(FrmHotSpot_PicCursor)).Show(&*picCursor_);
   hotX_ = 0;
   hotY_ = 0;
+  ShowHotSpot();
   state_.HotSpotCancelled = true;
   SetTexts(*this, hotSpotTexts, state_.CurrentLanguage);
   basInitEntry::ApplySkinToForm(*this);
@@ -86,6 +87,10 @@ void FrmHotSpot::PicCursor_MouseDown(const PictureEvent& event) {
   const int scale = HotSpotScale(state_.MagnifiedSide);
   hotX_ = PickedCoordinate(event.x, scale, state_.HotSpotBound);
   hotY_ = PickedCoordinate(event.y, scale, state_.HotSpotBound);
+  ShowHotSpot();
+}
+
+void FrmHotSpot::ShowHotSpot() {
   SetItemText(FrmHotSpot_LblHotX, TwoDigits(hotX_));
   SetItemText(FrmHotSpot_LblHotY, TwoDigits(hotY_));
 }

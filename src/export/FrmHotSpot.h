@@ -31,6 +31,7 @@ class FrmHotSpot final : public Form {
   void CmdCancel_Click();
 
   void PlacePicture();
+  void ShowHotSpot();
 
   ProgramState& state_;
   std::function<const Surface&()> picMain_;

@@ -50,6 +50,12 @@ TEST_F(FrmHotSpotTest, HasTheSizeOf7510By6295Twips) {
   EXPECT_NEAR(place.bottom - place.top, 6295 * GetDeviceCaps(dc.get(), LOGPIXELSY) / 1440.0, 0.5);
 }
 
+TEST_F(FrmHotSpotTest, ShowsItsFirstHotSpotFromTheStart) {
+  Show();
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "00");
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "00");
+}
+
 TEST_F(FrmHotSpotTest, ShowsTheWholeMagnifiedPicture) {
   SetPixel(magnified.Dc(), 0, 0, RGB(1, 2, 3));
   SetPixel(magnified.Dc(), 384, 384, RGB(4, 5, 6));
@@ -104,7 +110,7 @@ TEST_F(FrmHotSpotTest, OpensCancelledWithTheFormerHotSpot) {
 
 TEST_F(FrmHotSpotTest, ShowsEachClickBoundedAtZero) {
   Show();
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "");
+  form.SetItemText(FrmHotSpot_LblHotX, "changed by a click");
   Send(WM_LBUTTONDOWN, 200, 300);
   EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "00");
   EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "00");
@@ -147,11 +153,12 @@ TEST_F(FrmHotSpotTest, DividesByTheScaleUpToTheBound) {
 }
 
 TEST_F(FrmHotSpotTest, TakesNoClickOfAnotherButton) {
+  state.HotSpotBound = 63;
   Show();
   Send(WM_RBUTTONDOWN, 200, 300);
   Send(WM_MBUTTONDOWN, 200, 300);
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "");
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "");
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "00");
+  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "00");
 }
 
 TEST_F(FrmHotSpotTest, ShowsThePlaceUnderThePointerBoundedAtZero) {
