@@ -23,7 +23,7 @@ frmDir::frmDir(Application& application, ProgramState& state, Disk disk)
 
 std::string frmDir::ShowDir(HWND owner) {
   ShowModal(owner);
-  return selectedDir_;
+  return SelectedDir;
 }
 
 void frmDir::Form_Load() {
@@ -88,8 +88,8 @@ void frmDir::drvMain_Change() {
 }
 
 void frmDir::dirMain_Change() {
-  selectedDir_ = dirMain_.Path();
-  SetItemText(frmDir_lblDir, selectedDir_);
+  SelectedDir = dirMain_.Path();
+  SetItemText(frmDir_lblDir, SelectedDir);
 }
 
 void frmDir::dirMain_DblClick() {
@@ -97,12 +97,12 @@ void frmDir::dirMain_DblClick() {
 }
 
 void frmDir::CmdOk_Click() {
-  selectedDir_ = dirMain_.Path();
+  SelectedDir = dirMain_.Path();
   Unload();
 }
 
 void frmDir::CmdCancel_Click() {
-  selectedDir_.clear();
+  SelectedDir.clear();
   Unload();
 }
 

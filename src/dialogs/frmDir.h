@@ -51,7 +51,7 @@ class frmDir final : public Form {
 
   ProgramState& state_;
   Disk disk_;
-  std::string selectedDir_;
+  std::string SelectedDir;  // the dialog's answer
   DriveListBox drvMain_;
   DirListBox dirMain_;
   frmDirCreate create_;

@@ -18,7 +18,7 @@ void IconList::Clear() {
 }
 
 void IconList::Add(std::string path, Integer16 index) {
-  entries_.push_back({std::move(path), index, false});
+  entries_.push_back({std::move(path), index, false, "Row" + std::to_string(Count() + 1)});
 }
 
 bool IconList::AnySelected() const {

@@ -13,6 +13,7 @@ struct IconListEntry {
   std::string path;       // the source file, UTF-8
   Integer16 index;        // zero-based index in that file; for an animated cursor, the zero-based animation step
   bool selected = false;  // a selected entry is marked: bold and red in the list, framed in the grid
+  std::string key{};      // the name of its row: "Row17" for entry 17
 
   friend bool operator==(const IconListEntry&, const IconListEntry&) = default;
 };

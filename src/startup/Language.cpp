@@ -51,7 +51,7 @@ std::string ReadLanguageValue(LanguageStore& store, const std::string& name) {
   return Trimmed(store.ReadBuffer(name));
 }
 
-std::string ChooseLanguage(LanguageStore& store) {
+LanguageCode ChooseLanguage(LanguageStore& store) {
   const std::string name = "Language";
   if (ReadLanguageValue(store, name).empty()) return std::string(english);
   return UpperCase(store.ReadBuffer(name)).substr(0, codeLength);

@@ -7,6 +7,9 @@
 
 namespace tarvik {
 
+// The code of an interface language.
+using LanguageCode = std::string;
+
 // The codes of the three languages. Any other text is no language: it matches none of them, and windows then
 // keep their design texts.
 inline constexpr std::string_view english = "ENG";
@@ -48,6 +51,6 @@ std::string ReadLanguageValue(LanguageStore& store, const std::string& name);
 // The code that the stored value "Language" gives: "ENG" where there is none, else its first three characters
 // in upper case. Whether there is one is asked of the trimmed value, the characters are taken of the value as
 // it stands: a value with leading blanks matches no language, and that is meant.
-std::string ChooseLanguage(LanguageStore& store);
+LanguageCode ChooseLanguage(LanguageStore& store);
 
 }  // namespace tarvik

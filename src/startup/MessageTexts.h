@@ -11,6 +11,10 @@ namespace tarvik {
 // What follows the product's name in the title of every failure.
 inline constexpr Text failureSuffix{" - Error", " - 错误", " - 錯誤"};
 
+// For a second copy of the program, if it were refused. It is not: these are never shown.
+inline constexpr Text alreadyRunningTitle{"error!", "错误!", "錯誤!"};
+inline constexpr Text alreadyRunningText{"Program is running !", "请不要重复运行程序！", "請不要重複運行程式！"};
+
 // Run-time errors.
 inline constexpr Text overflowText{"Overflow", "溢出", "溢位"};
 inline constexpr Text typeMismatchText{"Type mismatch", "类型不匹配", "型態不符合"};

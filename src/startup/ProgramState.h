@@ -3,12 +3,13 @@
 #include <string>
 
 #include "numbers/Integer16.h"
+#include "startup/Language.h"
 
 namespace tarvik {
 
 // The values that the whole program shares. Made at start-up, lives for the run, and is handed to every window.
 struct ProgramState {
-  std::string CurrentLanguage;   // "ENG", "CHS" or "CHT"; any other text matches no language
+  LanguageCode CurrentLanguage;  // "ENG", "CHS" or "CHT"; any other text matches no language
   Integer16 ScreenBitsPerPixel;  // of the screen as first measured
   std::string Shell32Path;       // the shell library in the system folder
   std::string TempIconPath;      // a scratch icon file in the user's temporary folder

@@ -15,8 +15,18 @@ TEST(IconList, NumbersEntriesFromOneInTheOrderTheyCame) {
   list.Add("C:\\b.dll", 0);
   list.Add("C:\\a.dll", 4);
   ASSERT_EQ(list.Count(), 2);
-  EXPECT_EQ(list.Item(1), (IconListEntry{"C:\\b.dll", 0, false}));
-  EXPECT_EQ(list.Item(2), (IconListEntry{"C:\\a.dll", 4, false}));
+  EXPECT_EQ(list.Item(1), (IconListEntry{"C:\\b.dll", 0, false, "Row1"}));
+  EXPECT_EQ(list.Item(2), (IconListEntry{"C:\\a.dll", 4, false, "Row2"}));
+}
+
+TEST(IconList, NamesEachRowByItsNumber) {
+  IconList list;
+  for (int index = 0; index < 20; ++index) list.Add("x", index);
+  EXPECT_EQ(list.Item(1).key, "Row1");
+  EXPECT_EQ(list.Item(17).key, "Row17");
+  list.Clear();
+  list.Add("y", 0);
+  EXPECT_EQ(list.Item(1).key, "Row1");
 }
 
 TEST(IconList, HoldsEntriesOneToTheirCountAndNoOther) {

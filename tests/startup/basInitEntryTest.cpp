@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "startup/MessageTexts.h"
+
 namespace tarvik::basInitEntry {
 namespace {
 
@@ -224,6 +226,16 @@ TEST_F(CheckScreenResolutionTest, FailsWithoutAMessageForASideBeyondSixteenBits)
   EXPECT_FALSE(CheckSize("ENG", 32768, 1000));
   EXPECT_FALSE(CheckSize("ENG", 1000, 32768));
   EXPECT_EQ(computer.texts, Calls{});
+}
+
+// The texts for a copy that is refused are there in each language, and the start of a second copy shows none of them.
+TEST(MessageTexts, NameACopyThatRunsAlready) {
+  EXPECT_EQ(Pick(alreadyRunningText, "ENG"), "Program is running !");
+  EXPECT_EQ(Pick(alreadyRunningText, "CHS"), "请不要重复运行程序！");
+  EXPECT_EQ(Pick(alreadyRunningText, "CHT"), "請不要重複運行程式！");
+  EXPECT_EQ(Pick(alreadyRunningTitle, "ENG"), "error!");
+  EXPECT_EQ(Pick(alreadyRunningTitle, "CHS"), "错误!");
+  EXPECT_EQ(Pick(alreadyRunningTitle, "CHT"), "錯誤!");
 }
 
 }  // namespace
