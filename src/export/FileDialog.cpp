@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 
+#include "forms/Application.h"
 #include "platform/SystemFunctions.h"
 
 namespace tarvik {
@@ -60,7 +61,9 @@ std::string Ask(BOOL(WINAPI* show)(OPENFILENAMEA*), DWORD flags, HWND owner, con
   record.Flags = flags;
   record.lpstrDefExt = extension.c_str();
   const CurrentFolderKept folder;
-  return show(&record) != 0 ? std::string(file.data()) : std::string();
+  const bool chosen = show(&record) != 0;
+  if (owner != nullptr && IsWindow(owner) == FALSE) throw GivenUp();
+  return chosen ? std::string(file.data()) : std::string();
 }
 
 }  // namespace

@@ -52,9 +52,21 @@ void Application::DoEvents() {
   }
 }
 
+void Application::EndSession() {
+  hasEnded_ = true;
+  while (!forms_.empty()) forms_.back()->Unload();
+  // The system's dialogs and message boxes have loops of their own, which end with this message.
+  PostQuitMessage(0);
+}
+
 void Application::Serve(MSG& message) {
   if (Form* form = FormOf(message.hwnd)) {
     if (form->PreviewMessage(message)) return;
+    // A letter that a menu and a control both underline is the menu's; the system would look for controls first.
+    if (message.message == WM_SYSCHAR && form->TheMenu().OpensBy(static_cast<wchar_t>(message.wParam))) {
+      SendMessageW(form->Window(), WM_SYSCOMMAND, SC_KEYMENU, static_cast<LPARAM>(message.wParam));
+      return;
+    }
     if (IsCloseKey(message)) {
       SendMessageW(form->Window(), WM_SYSCOMMAND, SC_CLOSE, 0);
       return;

@@ -11,6 +11,10 @@ namespace tarvik {
 
 class Form;
 
+// What waited for a form is given up: the form's owner was closed under it, or the session ends. It is no error, and
+// the handler that waited ends without a message.
+class GivenUp {};
+
 // The program's message loop and the forms that are loaded. One per program, on the user-interface thread.
 class Application {
  public:
@@ -31,6 +35,10 @@ class Application {
   // Serves the messages that wait now and returns.
   void DoEvents();
 
+  // Unloads every form, the one that was loaded last first, and ends all waiting for messages. Whatever waits gives up.
+  void EndSession();
+  bool HasEnded() const { return hasEnded_; }
+
  private:
   friend class Form;
   void Add(Form& form) { forms_.push_back(&form); }
@@ -40,6 +48,7 @@ class Application {
 
   HINSTANCE instance_;
   std::vector<Form*> forms_;
+  bool hasEnded_ = false;
 };
 
 }  // namespace tarvik

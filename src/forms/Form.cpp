@@ -52,11 +52,13 @@ void Form::FocusFirst() {
 
 void Form::ShowModal(HWND owner) {
   Load(owner);
+  wentWithOwner_ = false;
   modalOwner_ = owner;
   EnableWindow(owner, FALSE);
   Show(owner);
   application_.RunWhile([this] { return IsLoaded() && IsWindowVisible(window_); });
   if (modalOwner_ != nullptr) Hide();
+  if (wentWithOwner_ || application_.HasEnded()) throw GivenUp();
 }
 
 void Form::Hide() {
@@ -73,11 +75,17 @@ void Form::Unload() {
 
 void Form::Close() {
   Hide();
-  application_.Remove(*this);
-  const HWND window = std::exchange(window_, nullptr);
+  const HWND window = window_;
   SetWindowLongPtrW(window, DWLP_USER, 0);
+  Release();
   DestroyWindow(window);
   Skn.reset();
+}
+
+// The form has no window from here on.
+void Form::Release() {
+  application_.Remove(*this);
+  window_ = nullptr;
 }
 
 HWND Form::Item(int id) const {
@@ -147,18 +155,25 @@ INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam,
   auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, DWLP_USER));
   if (form == nullptr) return FALSE;
   try {
-    if (message == WM_INITDIALOG) {
-      form->Initialise(window);
-      return FALSE;  // the first control gets the focus when the form is shown
-    }
-    return form->Handle(message, wParam, lParam);
-  } catch (const RuntimeError& error) {
-    form->application_.OnRuntimeError(*form, error);
-    return TRUE;
-  } catch (const std::bad_alloc&) {
-    form->application_.OnRuntimeError(*form, OutOfMemoryError());
+    return form->HandleOrTell(window, message, wParam, lParam);
+  } catch (const GivenUp&) {
     return TRUE;
   }
+}
+
+INT_PTR Form::HandleOrTell(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  try {
+    if (message == WM_INITDIALOG) {
+      Initialise(window);
+      return FALSE;  // the first control gets the focus when the form is shown
+    }
+    return Handle(message, wParam, lParam);
+  } catch (const RuntimeError& error) {
+    application_.OnRuntimeError(*this, error);
+  } catch (const std::bad_alloc&) {
+    application_.OnRuntimeError(*this, OutOfMemoryError());
+  }
+  return TRUE;
 }
 
 void Form::Initialise(HWND window) {
@@ -191,9 +206,6 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return Hourglass::Maintain() ? Answer(TRUE) : FALSE;
     case WM_PAINT:
       return Paint();
-    case WM_GETMINMAXINFO:
-      OnSizeLimits(*reinterpret_cast<MINMAXINFO*>(lParam));
-      return FALSE;
     case WM_SIZE:
       Form_Resize();
       return FALSE;
@@ -201,14 +213,39 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       if (Form_QueryUnload()) Unload();
       return TRUE;
     case WM_QUERYENDSESSION:
-      return Answer(Form_QueryUnload() ? TRUE : FALSE);
+      return Answer(Form_QueryEndSession() ? TRUE : FALSE);
     case WM_ENDSESSION:
-      if (wParam != 0) Unload();
+      if (wParam != 0) application_.EndSession();
       return TRUE;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      PassOn(message);
+      return FALSE;
+    case WM_DESTROY:
+      // Not by Close, which lets the window go first: the system destroys it together with its owner.
+      Form_Unload();
+      return FALSE;
+    case WM_NCDESTROY:
+      wentWithOwner_ = true;
+      Release();
+      Skn.reset();
+      return FALSE;
     default:
       if (message >= WM_APP && message < 0xC000) OnMessage(message);
       return FALSE;
   }
+}
+
+// Controls that keep colours or a theme of their own learn of a change from their window alone.
+void Form::PassOn(UINT message) const {
+  EnumChildWindows(
+      window_,
+      [](HWND control, LPARAM which) -> BOOL {
+        SendMessageW(control, static_cast<UINT>(which), 0, 0);
+        return TRUE;
+      },
+      static_cast<LPARAM>(message));
+  InvalidateRect(window_, nullptr, TRUE);
 }
 
 INT_PTR Form::Answer(LRESULT result) {

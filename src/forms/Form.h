@@ -67,10 +67,12 @@ class Form {
   void Load(HWND owner = nullptr);
   // Loads the form where it is not loaded, and shows it.
   void Show(HWND owner = nullptr);
-  // The same, and serves messages until the form is hidden or unloaded; the owner takes no input meanwhile.
+  // The same, and serves messages until the form is hidden or unloaded; the owner takes no input meanwhile. Throws
+  // GivenUp where the owner is closed first, or the session ends.
   void ShowModal(HWND owner);
   void Hide();
-  // Runs Form_Unload and destroys the window. Does nothing where it is not loaded.
+  // Runs Form_Unload and destroys the window, and with it the windows that it owns: forms among them are unloaded. Does
+  // nothing where it is not loaded.
   void Unload();
 
   bool IsLoaded() const { return window_ != nullptr; }
@@ -97,12 +99,12 @@ class Form {
 
  protected:
   virtual void Form_Load() {}
-  // Asked before the window closes by its close box, by Alt+F4 or with the session; false refuses.
+  // Asked before the window closes by its close box or by Alt+F4; false refuses.
   virtual bool Form_QueryUnload() { return true; }
+  // Asked before the session ends; false refuses, and the user is asked what to do.
+  virtual bool Form_QueryEndSession() { return true; }
   virtual void Form_Unload() {}
   virtual void Form_Resize() {}
-  // Asked before the window's size changes: how small and how large it may get, in pixels with its frame.
-  virtual void OnSizeLimits(MINMAXINFO&) {}
   virtual void Form_Paint(HDC) {}
 
   // A command of a control or menu item; false where nobody handles it. Forms hand it to Dispatch with their table.
@@ -128,6 +130,7 @@ class Form {
 
  private:
   static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  INT_PTR HandleOrTell(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR Answer(LRESULT result);
   void Initialise(HWND window);
@@ -135,11 +138,14 @@ class Form {
   void FocusFirst();
   INT_PTR Paint();
   void Close();
+  void Release();
+  void PassOn(UINT message) const;
 
   Application& application_;
   int dialogId_;
   HWND window_ = nullptr;
   HWND modalOwner_ = nullptr;  // the window that takes no input while this one is shown modally
+  bool wentWithOwner_ = false;
   Menu menu_;
 };
 

@@ -1,6 +1,8 @@
 #include "forms/Menu.h"
 
+#include <array>
 #include <optional>
+#include <string_view>
 
 #include "platform/Text.h"
 
@@ -27,6 +29,11 @@ std::optional<Place> Find(HMENU menu, int id) {
   return std::nullopt;
 }
 
+wchar_t Upper(wchar_t letter) {
+  CharUpperBuffW(&letter, 1);
+  return letter;
+}
+
 MENUITEMINFOW ItemInfo(UINT mask) {
   MENUITEMINFOW info{};
   info.cbSize = sizeof info;
@@ -35,6 +42,22 @@ MENUITEMINFOW ItemInfo(UINT mask) {
 }
 
 }  // namespace
+
+bool Menu::OpensBy(wchar_t letter) const {
+  const int count = GetMenuItemCount(menu_);
+  for (int position = 0; position < count; ++position) {
+    std::array<wchar_t, 128> buffer{};
+    MENUITEMINFOW info = ItemInfo(MIIM_STRING | MIIM_STATE);
+    info.dwTypeData = buffer.data();
+    info.cch = static_cast<UINT>(buffer.size());
+    GetMenuItemInfoW(menu_, static_cast<UINT>(position), TRUE, &info);
+    const std::wstring_view text(buffer.data());
+    const auto mark = text.find(L'&');
+    if (mark == std::wstring_view::npos || mark + 1 == text.size() || (info.fState & MFS_DISABLED) != 0) continue;
+    if (Upper(text[mark + 1]) == Upper(letter)) return true;
+  }
+  return false;
+}
 
 void Menu::Attach(HWND window) {
   window_ = window;

@@ -18,6 +18,8 @@ class Menu {
   bool IsEnabled(int id) const;
   void SetChecked(int id, bool checked);
   bool IsChecked(int id) const;
+  // Whether the bar has a menu that can be opened and underlines that letter, in either case.
+  bool OpensBy(wchar_t letter) const;
 
  private:
   void Change(int id, const MENUITEMINFOW& change);

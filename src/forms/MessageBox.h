@@ -14,6 +14,7 @@ enum class MessageSign : unsigned {
 };
 
 // Shows a message with one OK button and waits for it. Texts are UTF-8; the owner, if any, takes no input meanwhile.
+// Throws GivenUp if the owner is gone by then.
 void ShowMessage(HWND owner, std::string_view text, std::string_view title, MessageSign sign);
 
 }  // namespace tarvik

@@ -115,12 +115,13 @@ void FrmFindIcon::AttachControls() {
   lv_.Choose = [this](const ReportList::Choice& choice) { Lv_Choose(choice); };
 }
 
-// The limit's box stands right behind its label, and the rest of the row behind the box, in every language; the label
-// that ends the row is as wide as its text.
+// The limit's box stands right behind its label, and the rest of the row behind the box, in every language. Both labels
+// are as wide as their texts: a label that reached under the box would wipe it when it is drawn alone.
 void FrmFindIcon::PlaceLimit() {
   const HWND label = Item(FrmFindIcon_SkinLabel1);
   const RECT place = PlaceOf(Window(), label);
   const int space = place.bottom - place.top;
+  Move(label, place.left, place.top, TextWidth(label), place.bottom - place.top);
   const int shift = place.left + TextWidth(label) + space / 2 - PlaceOf(Window(), Item(FrmFindIcon_txtMax)).left;
   for (const int id : {FrmFindIcon_txtMax, FrmFindIcon_udMain, FrmFindIcon_SkinLabel2}) {
     const RECT former = PlaceOf(Window(), Item(id));
@@ -131,6 +132,12 @@ void FrmFindIcon::PlaceLimit() {
 
 bool FrmFindIcon::Form_QueryUnload() {
   return !state_.IsSearching && !isSaving_;
+}
+
+// Files are written only while a save command runs and no dialog or message of its own stands over the window. A search
+// writes nothing.
+bool FrmFindIcon::Form_QueryEndSession() {
+  return !isSaving_ || IsWindowEnabled(Window()) == FALSE;
 }
 
 void FrmFindIcon::Form_Unload() {
@@ -150,7 +157,9 @@ void FrmFindIcon::LoadSettings() {
 }
 
 void FrmFindIcon::SaveSettings() {
-  services_.settings.WriteIniSetting(settingsSection, folderKey, dir1_.Path());
+  // A walk that the end of the session stops has moved Dir1.
+  const std::string& folder = state_.SavedDirPath.empty() ? dir1_.Path() : state_.SavedDirPath;
+  services_.settings.WriteIniSetting(settingsSection, folderKey, folder);
   services_.settings.WriteIniSetting(settingsSection, subDirKey, TruthText(chkSubDir()));
 }
 
@@ -161,6 +170,7 @@ bool FrmFindIcon::OnCommand(int id, int code) {
       {FrmFindIcon_Dir1, FrmFindIcon_Dir1, LBN_DBLCLK, Call<&FrmFindIcon::Dir1_DblClick>},
       {FrmFindIcon_ChkFileType0, FrmFindIcon_ChkFileType6, BN_CLICKED, Call<&FrmFindIcon::ChkFileType_Click>},
       {FrmFindIcon_CboIconSize, FrmFindIcon_CboIconSize, CBN_SELCHANGE, Call<&FrmFindIcon::CboIconSize_Click>},
+      {FrmFindIcon_txtMax, FrmFindIcon_txtMax, EN_CHANGE, Call<&FrmFindIcon::txtMax_Change>},
       {FrmFindIcon_CmdFind, FrmFindIcon_CmdFind, BN_CLICKED, Call<&FrmFindIcon::CmdFind_Click>},
       {FrmFindIcon_CmdOk, FrmFindIcon_CmdOk, BN_CLICKED, Call<&FrmFindIcon::CmdOk_Click>},
       {FrmFindIcon_CmdClose, FrmFindIcon_CmdClose, BN_CLICKED, Call<&FrmFindIcon::CmdClose_Click>},
@@ -197,7 +207,10 @@ bool FrmFindIcon::OnCommand(int id, int code) {
 }
 
 void FrmFindIcon::OnScroll(HWND scrollBar, int request) {
-  if (scrollBar == udMain_.Window() && udMain_.Scroll(request)) udMain_Change();
+  if (scrollBar == udMain_.Window() && request != SB_ENDSCROLL) {
+    udMain_.Scroll(request);
+    udMain_Change();  // also if the value stays: the box may show a limit beyond it
+  }
   grid_.OnScroll(scrollBar, request);
 }
 

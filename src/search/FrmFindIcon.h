@@ -46,6 +46,7 @@ class FrmFindIcon final : public Form,
   // Form
   void Form_Load() override;
   bool Form_QueryUnload() override;
+  bool Form_QueryEndSession() override;
   void Form_Unload() override;
   bool PreviewMessage(const MSG& message) override;
   bool OnCommand(int id, int code) override;
@@ -63,6 +64,7 @@ class FrmFindIcon final : public Form,
   void ChkFileType_Click();
   void CboIconSize_Click();
   void udMain_Change();
+  void txtMax_Change();
   void CmdFind_Click();
   void mnuStart_Click();
   void CmdOk_Click();

@@ -44,6 +44,7 @@ std::shared_ptr<void> FrmFindIcon::HoldCommands() {
 void FrmFindIcon::ServePainting() {
   if (GetTickCount64() - servedAt_ < paintPeriod) return;
   TheApplication().DoEvents();
+  if (!IsLoaded()) throw GivenUp();
   servedAt_ = GetTickCount64();
 }
 

@@ -4,13 +4,16 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
 #include <string>
 
 #include "forms/FocusKept.h"
 #include "forms/MessageBox.h"
+#include "numbers/Conversion.h"
 #include "resource.h"
 #include "search/FilePattern.h"
 #include "search/FrmFindIcon.h"
+#include "startup/MessageTexts.h"
 
 namespace tarvik {
 namespace {
@@ -38,8 +41,9 @@ void FrmFindIcon::Drive1_Change() {
   ShowItem(FrmFindIcon_File1, true);
   const std::string root = drive1_.Root();
   if (!services_.isReadableFolder(root)) {
-    const auto text = Pick(driveNotReady, services_.state.CurrentLanguage);
-    if (text) tarvik::ShowMessage(Window(), *text, productTitle, MessageSign::Information);
+    const std::string& language = services_.state.CurrentLanguage;
+    const auto text = Pick(driveNotReady, language);
+    if (text) tarvik::ShowMessage(Window(), *text, FailureTitle(language), MessageSign::Information);
     return;
   }
   dir1_.SetPath(root);
@@ -76,6 +80,17 @@ void FrmFindIcon::CboIconSize_Click() {
 
 void FrmFindIcon::udMain_Change() {
   SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.HighestLimit - udMain_.Value()));
+}
+
+// The spinner goes on from a limit that was typed, or from its nearer end; a text that is no number leaves it alone.
+void FrmFindIcon::txtMax_Change() {
+  const int highest = state_.Geometry.HighestLimit;
+  try {
+    const double limit = std::clamp<double>(RoundToEven(ToNumber(txtMax())), lowestLimit, highest);
+    udMain_.SetValue(highest - static_cast<int>(limit));
+  } catch (const RuntimeError&) {
+    return;
+  }
 }
 
 void FrmFindIcon::CmdFind_Click() {

@@ -97,6 +97,7 @@ void FrmFindIcon::DoEvents() {
   caption_.ShowIfDue();
   status_.ShowIfDue();
   TheApplication().DoEvents();
+  if (!IsLoaded()) throw GivenUp();
 }
 
 std::shared_ptr<void> FrmFindIcon::ShowHourglass() {

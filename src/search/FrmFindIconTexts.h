@@ -38,7 +38,7 @@ inline constexpr FormText findIconTexts[] = {
     {FrmFindIcon_mnuEdit, {"&Edit", "(&E)编辑", "(&E)編輯"}},
     {FrmFindIcon_mnuCopy, {"&Copy to Clipboard", "(&C)复制到剪切板", "(&C)複製到剪切板"}},
     {FrmFindIcon_mnuRem, {"&Invert Selection", "(&I)反选", "(&I)反向選取"}},
-    {FrmFindIcon_mnuOP, {"&Options", "(&O)选项", "(&O)選項"}},
+    {FrmFindIcon_mnuOP, {"&Options", "(&P)选项", "(&P)選項"}},
     {FrmFindIcon_mnuShowLabel, {"&Display Labels", "(&D)显示标签", "(&D)顯示標籤"}},
     {FrmFindIcon_mnuIcLabel, {"&Icon Labels", "(&L)图标标签", "(&L)圖示標籤"}},
     {FrmFindIcon_mnuIL1, {"&Continuous Naming", "(&C)连续编号", "(&C)連續編號"}},

@@ -122,14 +122,15 @@ void SearchDriver::RunOverScope(Pass pass) {
     (this->*pass)(folders_.File1Path());
     return;
   }
-  const std::string savedDirPath = folders_.Dir1Path();
+  state_.SavedDirPath = folders_.Dir1Path();
+  const auto putBack = [this] { folders_.SetDir1Path(std::exchange(state_.SavedDirPath, {})); };
   try {
-    (this->*pass)(savedDirPath);
+    (this->*pass)(state_.SavedDirPath);
   } catch (...) {
-    folders_.SetDir1Path(savedDirPath);
+    putBack();
     throw;
   }
-  folders_.SetDir1Path(savedDirPath);
+  putBack();
 }
 
 // Visits a folder, then each of its sub-folders in the same way, then leaves it. A folder's sub-folders are

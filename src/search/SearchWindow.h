@@ -20,6 +20,7 @@ struct SearchState {
   bool IsSearching = false;
   bool IsAnimatedFile = false;
   GridGeometry Geometry = gridGeometries[1];
+  std::string SavedDirPath;  // while a walk moves Dir1: the folder that it is put back to; otherwise empty
 };
 
 // What a search enables and disables of the window.

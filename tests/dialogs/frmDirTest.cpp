@@ -215,6 +215,16 @@ TEST_F(frmDirTest, SelectsTheWholeNameEachTimeThatItsBoxGainsTheFocus) {
   Show();
 }
 
+TEST_F(frmDirTest, TakesAnOpenNewFolderDialogWithItWhereItIsClosed) {
+  for (int round = 0; round < 2; ++round) {
+    OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
+    OnCreate([this](HWND) { PostMessageW(form.Window(), WM_CLOSE, 0, 0); });
+    EXPECT_EQ(Show(), "C:\\work");
+  }
+  EXPECT_TRUE(made.empty());
+  application.Run();  // returns, as no form is left
+}
+
 TEST_F(frmDirTest, DoublesNoBackslashBehindADriveRoot) {
   firstFolder = "C:\\";
   OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });

@@ -253,6 +253,37 @@ TEST_F(fSaveJPGTest, WritesTheCommentThatWasTyped) {
   }
 }
 
+TEST_F(fSaveJPGTest, TakesEnterInTheCommentForANewLine) {
+  form.InitJpegExport(picture, path, DialogMode::Single);
+  driver.On(fSaveJPG_CboSize, [](HWND window) { PostMessageW(window, WM_COMMAND, fSaveJPG_cmdComment, 0); });
+  driver.On(fComment_txtComment, [](HWND window) {
+    const HWND text = GetDlgItem(window, fComment_txtComment);
+    testing::SetText(window, fComment_txtComment, "eins");
+    SetFocus(text);
+    SendMessageW(text, EM_SETSEL, 4, 4);
+    PostMessageW(text, WM_KEYDOWN, VK_RETURN, 1);
+  });
+  // Enter would have pressed the button; then this step never comes.
+  driver.On(fComment_txtComment, [](HWND window) {
+    EXPECT_EQ(TextOf(window, fComment_txtComment), "eins\r\n");
+    Command(window, fComment_cmdFinish);
+  });
+  driver.On(fSaveJPG_CboSize, [](HWND window) { Command(window, fSaveJPG_cmdFinish1); });
+  EXPECT_EQ(form.ShowFor(DialogMode::Single), DialogAnswer::Ok);
+  EXPECT_EQ(testing::CommentOf(ReadAll(path)), "eins\r\n");
+}
+
+TEST_F(fSaveJPGTest, TakesAnOpenCommentWithItWhereItIsClosed) {
+  for (int round = 0; round < 2; ++round) {
+    form.InitJpegExport(picture, path, DialogMode::Single);
+    driver.On(fSaveJPG_CboSize, [](HWND window) { PostMessageW(window, WM_COMMAND, fSaveJPG_cmdComment, 0); });
+    driver.On(fComment_txtComment, [this](HWND) { PostMessageW(form.Window(), WM_CLOSE, 0, 0); });
+    EXPECT_EQ(form.ShowFor(DialogMode::Single), DialogAnswer::Cancelled);
+    EXPECT_TRUE(driver.IsDone());
+  }
+  application.Run();  // returns, as no form is left
+}
+
 TEST(fComment, HasTheSizeOf4800By3460Twips) {
   Application application{GetModuleHandleW(nullptr)};
   ProgramState state;

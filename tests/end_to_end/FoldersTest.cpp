@@ -144,8 +144,8 @@ TEST_F(Folders, ChoosingADriveGoesToItsRoot) {
 
 struct NotReadyRow {
   std::optional<std::string> language;
-  const char* text;
   const char* title;
+  const char* text;
   friend void PrintTo(const NotReadyRow& row, std::ostream* out) { *out << row.language.value_or("no language"); }
 };
 
@@ -158,8 +158,8 @@ TEST_P(EmptyDriveMessage, SaysThatTheDriveIsNotReady) {
   Start();
   ChooseDrive('q');
   const Box box = program_.WaitForBox();
-  EXPECT_EQ(box.Text(), GetParam().text);
   EXPECT_EQ(box.Title(), GetParam().title);
+  EXPECT_EQ(box.Text(), GetParam().text);
   EXPECT_TRUE(ShowsSign(box, IDI_INFORMATION));
   EXPECT_THAT(box.Buttons(), ElementsAre(IDOK));
   box.Press(IDOK);
@@ -167,9 +167,9 @@ TEST_P(EmptyDriveMessage, SaysThatTheDriveIsNotReady) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, EmptyDriveMessage,
-                         ::testing::Values(NotReadyRow{std::nullopt, "Driver Not Ready!", "Brindle Tarvik - Error"},
-                                           NotReadyRow{"CHS", "路径无效!", "Brindle Tarvik - 错误"},
-                                           NotReadyRow{"CHT", "路徑無效!", "Brindle Tarvik - 錯誤"}));
+                         ::testing::Values(NotReadyRow{std::nullopt, "Brindle Tarvik - Error", "Driver Not Ready!"},
+                                           NotReadyRow{"CHS", "Brindle Tarvik - 错误", "路径无效!"},
+                                           NotReadyRow{"CHT", "Brindle Tarvik - 錯誤", "路徑無效!"}));
 
 TEST_F(Folders, AnUnknownLanguageShowsNoMessageForAnEmptyDrive) {
   const LanguageValue language("Chinese");

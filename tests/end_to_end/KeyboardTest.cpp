@@ -66,10 +66,12 @@ TEST_F(Keyboard, TabReachesTheListWhereItIsShown) {
   EXPECT_THAT(TabRound(), ::testing::Contains(static_cast<int>(FrmFindIcon_Lv)));
 }
 
-TEST_F(Keyboard, AltFFinds) {
+TEST_F(Keyboard, EnterFinds) {
   tree_.MakeFile("a.ico", IconFileOf(0xFF));
   Start();
-  PressKey('F', {VK_MENU});
+  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
+  ASSERT_TRUE(Focuses(FrmFindIcon_File1));
+  PressKey(VK_RETURN);
   EXPECT_TRUE(Eventually([&] { return List().RowCount() == 1; }));
 }
 

@@ -2,7 +2,10 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <string>
+#include <vector>
 
 #include "platform/Text.h"
 
@@ -44,6 +47,24 @@ inline std::string RowText(HWND window, int id, int row) {
   std::wstring text(256, L'\0');
   SendMessageW(GetDlgItem(window, id), CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
   return ToUtf8(text.c_str());
+}
+
+// The changes of the system that a window passes on to its controls, and those of them that reach `control` where the
+// window is told of each.
+inline const std::vector<UINT> allChanges{WM_SYSCOLORCHANGE, WM_THEMECHANGED};
+inline std::vector<UINT> ChangesToldTo(HWND control, HWND window) {
+  std::vector<UINT> told;
+  const auto listen = [](HWND listened, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                         DWORD_PTR data) -> LRESULT {
+    const bool isChange = message == WM_SYSCOLORCHANGE || message == WM_THEMECHANGED;
+    if (isChange) reinterpret_cast<std::vector<UINT>*>(data)->push_back(message);
+    return DefSubclassProc(listened, message, wParam, lParam);
+  };
+  constexpr UINT_PTR listener = 77;
+  SetWindowSubclass(control, listen, listener, reinterpret_cast<DWORD_PTR>(&told));
+  for (const UINT change : allChanges) SendMessageW(window, change, 0, 0);
+  RemoveWindowSubclass(control, listen, listener);
+  return told;
 }
 
 }  // namespace tarvik::testing

@@ -204,14 +204,6 @@ TEST_F(FrmFindIconTest, AppliesTheSizeChosenAfterASearchToClicksAndCapturesAtOnc
   EXPECT_EQ(window->Surfaces().Composed().Pixel(63, 63), testing::SmallMachine::ColorOf(2));
 }
 
-TEST_F(FrmFindIconTest, RaisesTheLimitByTheUpArrow) {
-  Open();
-  ScrollBy(FrmFindIcon_udMain, SB_LINEUP);
-  EXPECT_EQ(Text(FrmFindIcon_txtMax), "310");
-  ScrollBy(FrmFindIcon_udMain, SB_PAGEDOWN);
-  EXPECT_EQ(Text(FrmFindIcon_txtMax), "210");
-}
-
 TEST_F(FrmFindIconTest, ListsWhatASearchFound) {
   Open();
   Find(20);
@@ -313,15 +305,6 @@ TEST_F(FrmFindIconTest, ShowsTheListInPlaceOfTheGrid) {
   EXPECT_FALSE(IsWindowVisible(Item(FrmFindIcon_Lv)));
   EXPECT_TRUE(IsWindowVisible(Item(FrmFindIcon_PicFrame)));
   EXPECT_TRUE(window->TheMenu().IsChecked(FrmFindIcon_mnuViewopt0));
-}
-
-TEST_F(FrmFindIconTest, SaysThatADriveIsNotReady) {
-  Open();
-  SendMessageW(Item(FrmFindIcon_Drive1), CB_SETCURSEL, 1, 0);
-  SendMessageW(window->Window(), WM_COMMAND, MAKEWPARAM(FrmFindIcon_Drive1, CBN_SELCHANGE), 0);
-  ASSERT_EQ(boxes.Boxes().size(), 1U);
-  EXPECT_EQ(boxes.Boxes()[0].text, "Driver Not Ready!");
-  EXPECT_EQ(machine.patterns.back(), "*.ico");
 }
 
 TEST_F(FrmFindIconTest, KeepsFolderAndSubFolderChoice) {

@@ -41,7 +41,8 @@ TEST_F(SearchDriverTest, ListsEachStepOfAnAnimationAndTakesItsIconOnce) {
   ASSERT_EQ(list.Count(), 8);
   Lines drawn;
   for (int step = 0; step < 8; ++step) {
-    EXPECT_EQ(list.Item(step + 1), (IconListEntry{"C:\\a\\eight.ani", step, step == 0}));
+    EXPECT_EQ(list.Item(step + 1),
+              (IconListEntry{"C:\\a\\eight.ani", step, step == 0, "Row" + std::to_string(step + 1)}));
     drawn.push_back("draw C:\\a\\eight.ani#0 on grid at (" + std::to_string(3 + 38 * step) + ",3) size 32 step " +
                     std::to_string(step));
   }

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "forms/Controls.h"
 #include "view/ViewFixture.h"
 #include "view/ViewTexts.h"
 
@@ -334,6 +335,13 @@ TEST_F(frmBitTest, HasTooltipsInEachLanguage) {
       }
     });
   }
+}
+
+TEST_F(frmBitTest, TellsItsControlsOfNewColorsAndThemes) {
+  WhileOpen([this] {
+    for (const int id : {frmBit_tlb_control, frmBit_sbMain})
+      EXPECT_EQ(testing::ChangesToldTo(Item(id), view->Window()), testing::allChanges) << id;
+  });
 }
 
 TEST_F(frmBitTest, ShowsNoTextBesideAButtonsPicture) {

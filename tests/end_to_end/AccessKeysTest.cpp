@@ -1,0 +1,154 @@
+// Every letter that the main window underlines, pressed with Alt: the menu of that letter opens; where no menu has it,
+// or it is disabled, the control of that letter is used.
+
+#include <windows.h>
+
+#include <gmock/gmock.h>
+
+#include <cwctype>
+#include <map>
+#include <optional>
+
+#include "driver/Input.h"
+#include "end_to_end/EndToEndTest.h"
+#include "platform/IconFiles.h"
+#include "platform/Text.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+using testing::IconFileOf;
+
+enum class State { AtStart, AfterASearch, WithTheList, AfterASearchWithoutIcons };
+
+struct Row {
+  const char* language;
+  State state;
+  friend void PrintTo(const Row& row, std::ostream* out) {
+    *out << row.language << ", " << static_cast<int>(row.state);
+  }
+};
+
+// The letter behind a "&", in upper case.
+std::optional<wchar_t> LetterOf(const std::string& text) {
+  const std::wstring wide = ToWide(text);
+  const auto mark = wide.find(L'&');
+  if (mark == std::wstring::npos || mark + 1 == wide.size()) return std::nullopt;
+  return static_cast<wchar_t>(std::towupper(wide[mark + 1]));
+}
+
+class AccessKeys : public EndToEnd, public ::testing::WithParamInterface<Row> {
+ protected:
+  struct Letters {
+    std::map<wchar_t, int> menus;     // the menus that can be opened, by their places in the bar
+    std::map<wchar_t, int> controls;  // those that can be used
+  };
+
+  void Prepare() {
+    if (GetFileAttributesW(ToWide(In("a.ico")).c_str()) == INVALID_FILE_ATTRIBUTES)
+      tree_.MakeFile("a.ico", IconFileOf(0xFF));
+    Start();
+    if (GetParam().state == State::AtStart) return;
+    if (GetParam().state == State::AfterASearchWithoutIcons) {
+      Tick({Ani});
+      FindAndReadMessage();
+      return;
+    }
+    Find();
+    if (GetParam().state == State::WithTheList) program_.Item(FrmFindIcon_OptView1).Send(BM_CLICK);
+  }
+
+  Letters Underlined() const {
+    Letters letters;
+    const HMENU bar = GetMenu(program_.Window().Window());
+    for (int place = 0; place < GetMenuItemCount(bar); ++place) {
+      std::wstring text(128, L'\0');
+      text.resize(static_cast<std::size_t>(
+          GetMenuStringW(bar, static_cast<UINT>(place), text.data(), static_cast<int>(text.size()), MF_BYPOSITION)));
+      const bool enabled =
+          (GetMenuState(bar, static_cast<UINT>(place), MF_BYPOSITION) & (MF_GRAYED | MF_DISABLED)) == 0;
+      if (const auto letter = LetterOf(ToUtf8(text)); letter && enabled) letters.menus[*letter] = place;
+    }
+    for (const int id : {FrmFindIcon_CmdFind, FrmFindIcon_CmdOk, FrmFindIcon_CmdClose, FrmFindIcon_SkinLabel1}) {
+      if (const auto letter = LetterOf(TextOf(id)); letter && IsEnabled(id)) letters.controls[*letter] = id;
+    }
+    return letters;
+  }
+
+  void Press(wchar_t letter) const { PressKey(static_cast<WORD>(letter), {VK_MENU}); }
+
+  void ExpectMenu(wchar_t letter, int place) const {
+    Press(letter);
+    std::optional<Control> menu;
+    ASSERT_TRUE(Eventually([&] { return (menu = program_.OpenMenu()).has_value(); })) << static_cast<char>(letter);
+    const auto shown = reinterpret_cast<HMENU>(menu->Send(MN_GETHMENU));
+    EXPECT_EQ(shown, GetSubMenu(GetMenu(program_.Window().Window()), place)) << static_cast<char>(letter);
+    PressKey(VK_ESCAPE, {}, 2);
+    ASSERT_TRUE(Eventually([&] { return !program_.OpenMenu(); }));
+  }
+
+  // What a control's letter does: the label's goes to its box, and each button's presses that.
+  void ExpectUse(int control) {
+    if (control == FrmFindIcon_SkinLabel1) {
+      EXPECT_TRUE(Eventually([&] { return GetDlgCtrlID(program_.Focus().Window()) == FrmFindIcon_txtMax; }));
+    } else if (control == FrmFindIcon_CmdFind) {
+      const Box box = program_.WaitForBox();  // of a search that finds nothing
+      box.Press(IDOK);
+      EXPECT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind); }));
+    } else {
+      EXPECT_EQ(program_.WaitForEnd(), 0U);
+    }
+  }
+};
+
+TEST_P(AccessKeys, OpenTheirMenuOrUseTheirControl) {
+  const LanguageValue language(GetParam().language);
+  Prepare();
+  const Letters letters = Underlined();
+  for (const auto& [letter, place] : letters.menus) ExpectMenu(letter, place);
+  ASSERT_TRUE(program_.IsRunning());
+  for (const auto& [letter, control] : letters.controls) {
+    if (letters.menus.contains(letter)) continue;
+    if (!program_.IsRunning()) Prepare();
+    Press(letter);
+    ExpectUse(control);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(LanguagesAndStates, AccessKeys,
+                         ::testing::Values(Row{"ENG", State::AtStart}, Row{"ENG", State::AfterASearch},
+                                           Row{"ENG", State::WithTheList}, Row{"ENG", State::AfterASearchWithoutIcons},
+                                           Row{"CHS", State::AtStart}, Row{"CHS", State::AfterASearch},
+                                           Row{"CHS", State::WithTheList}, Row{"CHS", State::AfterASearchWithoutIcons},
+                                           Row{"CHT", State::AtStart}, Row{"CHT", State::AfterASearch},
+                                           Row{"CHT", State::WithTheList}, Row{"CHT", State::AfterASearchWithoutIcons},
+                                           Row{"none", State::AtStart}, Row{"none", State::AfterASearch}));
+
+class AccessKeysInASearch : public EndToEnd, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(AccessKeysInASearch, DoNothingToIt) {
+  constexpr int folders = 60;
+  const LanguageValue language(GetParam());
+  for (int i = 0; i < folders; ++i) {
+    const std::string folder = "folder" + std::to_string(100 + i);
+    tree_.MakeFolder(folder);
+    tree_.MakeFile(folder + "\\a.ico", IconFileOf(0xFF));
+  }
+  Start({}, true);
+  program_.Item(FrmFindIcon_CmdFind).Press();
+  ASSERT_TRUE(Eventually([&] { return !IsEnabled(FrmFindIcon_CmdClose); }));
+  program_.Suspend();
+  const bool running = !IsEnabled(FrmFindIcon_CmdFind);
+  for (const WORD letter : {WORD{'F'}, WORD{'E'}, WORD{'C'}}) PressKey(letter, {VK_MENU});
+  program_.Resume();
+  ASSERT_TRUE(running) << "the search was over before it could be stopped";
+  ASSERT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind) || !program_.IsRunning(); }));
+  ASSERT_TRUE(program_.IsRunning());
+  EXPECT_FALSE(program_.OpenMenu());
+  EXPECT_EQ(List().RowCount(), folders);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, AccessKeysInASearch, ::testing::Values("ENG", "CHS", "CHT"));
+
+}  // namespace
+}  // namespace tarvik::end_to_end
