@@ -58,15 +58,16 @@ start_display() {
   rm -f "$number_file"
 }
 
-# start_wine DESKTOP: keeps one Wine server up, so that each program starts in milliseconds. DESKTOP is "virtual" on a
-# display of start_display, where there is no window manager (Wine then draws a desktop as large as that display, and the
-# title bars), and "own" where there is one.
+# start_wine DESKTOP [DOTS]: keeps one Wine server up, so that each program starts in milliseconds. DESKTOP is "virtual" on
+# a display of start_display, where there is no window manager (Wine then draws a desktop as large as that display, and
+# the title bars), and "own" where there is one. DOTS are the display's dots an inch, 96 where none are given.
 start_wine() {
   lock_wine
   make_prefix
   wine_is_up=1
   choose_desktop "$1"
   choose_browser
+  choose_dots "${2:-96}"
   # Its services would hold this script's output open, so they get none of it.
   wineserver -p >/dev/null 2>&1 </dev/null 9>&- || true
   wine wineboot >/dev/null 2>&1 </dev/null 9>&- || fail "Wine does not start"
@@ -119,6 +120,16 @@ choose_browser() {
     noyes) set_registry add "$key" /ve /d htmlfile /f ;;
     yesno) set_registry delete "$key" /f ;;
   esac
+}
+
+# choose_dots DOTS: the same for the dots an inch that programs are told of. Where Wine keeps none, it tells of 96.
+choose_dots() {
+  local chosen
+  chosen=$(sed -n '/^\[Control Panel\\\\Desktop\]/,/^$/s/^"LogPixels"=dword:0*\([0-9a-f]*\)$/\1/p' "$WINEPREFIX/user.reg")
+  [ "$((16#${chosen:-60}))" != "$1" ] || return 0
+  set_registry add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f
+  wineserver -k >/dev/null 2>&1 || true
+  wineserver -w
 }
 
 set_registry() {

@@ -1,0 +1,108 @@
+// How every window is laid out, at the dots an inch that the tests' display has: no visible control lies over another,
+// no text is cut off, and no list cuts its letters.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Handles.h"
+#include "resource.h"
+#include "search/FindIconFixture.h"
+#include "startup/Dialogs.h"
+#include "startup/FrmSpash.h"
+#include "startup/LayoutChecks.h"
+#include "startup/TextChecks.h"
+#include "view/ViewFixture.h"
+
+namespace tarvik {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+void ExpectInOrder(HWND window) {
+  EXPECT_EQ(testing::OverlappingControls(window), Texts{});
+  EXPECT_EQ(testing::CutOffTexts(window), Texts{});
+  EXPECT_EQ(testing::ListsThatCutLetters(window), std::vector<int>{});
+}
+
+// Whoever sets the display's dots an inch says so; the tests of those dots would otherwise prove nothing.
+TEST(Layout, IsLookedAtWithTheDotsAnInchThatWereAskedFor) {
+  const char* const asked = std::getenv("TARVIK_TEST_DOTS");
+  const WindowDc screen(nullptr);
+  EXPECT_EQ(std::to_string(GetDeviceCaps(screen.get(), LOGPIXELSX)), asked != nullptr ? asked : "96");
+}
+
+class DialogLayout : public testing::Dialogs, public ::testing::TestWithParam<const char*> {
+ protected:
+  DialogLayout() : Dialogs(GetParam()) {}
+
+  static void Check(const std::unique_ptr<Form>& form) {
+    form->Load();
+    ASSERT_TRUE(form->IsLoaded());
+    ExpectInOrder(form->Window());
+  }
+};
+
+TEST_P(DialogLayout, FolderChooser) {
+  Check(Dialogs::FolderChooser());
+}
+
+TEST_P(DialogLayout, NewFolder) {
+  Check(Dialogs::NewFolder());
+}
+
+TEST_P(DialogLayout, HotSpotPicker) {
+  Check(Dialogs::HotSpotPicker());
+}
+
+TEST_P(DialogLayout, JpegOptions) {
+  Check(Dialogs::JpegOptions());
+}
+
+TEST_P(DialogLayout, JpegComment) {
+  Check(Dialogs::JpegComment());
+}
+
+TEST_P(DialogLayout, GifOptions) {
+  Check(Dialogs::GifOptions());
+}
+
+TEST_P(DialogLayout, StartUpWindowAndAboutBox) {
+  for (const bool about : {false, true}) {
+    state.ShowAsAbout = about;
+    Check(std::make_unique<FrmSpash>(application, state, [] {}));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, DialogLayout, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
+                         [](const auto& row) { return std::string(row.param); });
+
+class MainWindowLayout : public testing::FindIconFixture, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(MainWindowLayout, IsInOrderWithTheGridAndWithTheList) {
+  Open(GetParam());
+  ExpectInOrder(window->Window());
+  Click(FrmFindIcon_OptView1);
+  ExpectInOrder(window->Window());
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, MainWindowLayout, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
+                         [](const auto& row) { return std::string(row.param); });
+
+class EnhancedViewLayout : public testing::ViewFixture, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(EnhancedViewLayout, IsInOrderWhenItOpens) {
+  state.CurrentLanguage = GetParam();
+  WhileOpen([this] { ExpectInOrder(view->Window()); });
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, EnhancedViewLayout, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
+                         [](const auto& row) { return std::string(row.param); });
+
+}  // namespace
+}  // namespace tarvik
