@@ -145,7 +145,8 @@ class EndingOver : public Ending, public ::testing::WithParamInterface<std::stri
 TEST_P(EndingOver, TheMainWindowClosesWithTheProcessOrStaysWithWhatIsOverIt) {
   for (const Way way : closing) {
     StartAndFind();
-    const bool closes = OpenIt();
+    // The system takes no command of the window's menu while the window is disabled.
+    const bool closes = OpenIt() && way == Way::Close;
     const std::size_t windows = Windows().size();
     Ask(way);
     if (!closes) {
