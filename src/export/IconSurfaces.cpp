@@ -13,7 +13,9 @@ void IconSurfaces::Resize(int size) {
 }
 
 void IconSurfaces::Clear() {
-  for (Surface* surface : {&composed_, &mask_, &image_}) surface->Clear(surfaceBackground);
+  composed_.Clear(surfaceBackground);
+  mask_.Clear(white);
+  image_.Clear(black);
 }
 
 }  // namespace tarvik

@@ -17,6 +17,8 @@ class IconSurfaces final : public ModMicroArt::CaptureSurfaces {
   // Changes the size of all three and clears them.
   void Resize(int size);
 
+  // Makes them those of a blank icon: transparent everywhere, and black there, because any other colour under a
+  // transparent pixel changes what lies below the icon.
   void Clear() override;
   Surface& Mask() override { return mask_; }
   Surface& Image() override { return image_; }

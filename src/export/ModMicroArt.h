@@ -26,7 +26,7 @@ class CaptureSurfaces {
  public:
   virtual ~CaptureSurfaces() = default;
 
-  virtual void Clear() = 0;             // all three, to their background
+  virtual void Clear() = 0;             // all three, to those of a blank icon
   virtual DrawSurface& Mask() = 0;      // white where the icon is transparent
   virtual DrawSurface& Image() = 0;     // the colours alone
   virtual DrawSurface& Composed() = 0;  // the icon as it looks over the background

@@ -174,6 +174,42 @@ TEST_F(SaveFault, AReadOnlyFileStaysButAJpegOrGifReplacesIt) {
   EXPECT_THAT(ReadAll(Out("a.gif")), StartsWith("GIF8"));
 }
 
+TEST_F(SaveFault, TheIconOfAFileThatIsGoneIsSavedBlank) {
+  FindPictures();
+  for (int entry = 0; entry < 5; ++entry) ASSERT_NE(DeleteFileW(ToWide(In(std::to_string(entry) + ".ico")).c_str()), 0);
+  SaveBatch(FrmFindIcon_mnuSaveAll);
+  SaveBatch(FrmFindIcon_mnuSaveAll3);
+  EXPECT_EQ(SavedNames().size(), 10U);
+  for (const std::string& name : SavedNames()) {
+    const std::string bytes = ReadAll(Out(name));
+    // Headers and a palette of two colours, then the image and the mask. Transparent pixels that are not black would
+    // invert what lies below the icon.
+    constexpr std::size_t imagePlace = 6 + 16 + 40 + 8;
+    constexpr std::size_t imageBytes = 4 * 32;
+    ASSERT_EQ(bytes.size(), imagePlace + 2 * imageBytes) << name;
+    EXPECT_EQ(bytes.substr(imagePlace, imageBytes), std::string(imageBytes, '\0')) << name;
+    EXPECT_EQ(bytes.substr(imagePlace + imageBytes), std::string(imageBytes, '\xFF')) << name;
+  }
+}
+
+// Each look at such an icon costs the system some GDI objects, which it never gets back.
+TEST_F(SaveFault, AnIconThatTheSystemBreaksOnIsAskedForOnce) {
+  MakePictures();
+  const std::array icon{testing::BitmapPicture(32, 32, black, white)};
+  testing::Bytes cut = testing::IconFile(icon);
+  cut.resize(3000);
+  for (int i = 0; i < 20; ++i) tree_.MakeFile("broken" + std::to_string(i) + ".ico", cut);
+  Start();
+  Find();
+  ASSERT_EQ(List().RowCount(), 25);
+  found_ = Now();
+  SaveBatch(FrmFindIcon_mnuSaveAll);
+  const int before = program_.Held().gdiObjects;
+  for (int i = 0; i < 3; ++i) SaveBatch(FrmFindIcon_mnuSaveAll);
+  EXPECT_LE(program_.Held().gdiObjects, before + 5);
+  EXPECT_EQ(SavedNames().size(), 25U);
+}
+
 TEST_F(SaveFault, TheTemporaryBitmapIsThereWhileTheJpegOptionsAreOpenAndThenGone) {
   FindPictures();
   for (const int button : {fSaveJPG_cmdFinish1, fSaveJPG_cmdFinish0}) {

@@ -9,8 +9,11 @@
 #include <vector>
 
 #include "damaged_files/Libraries.h"
+#include "driver/UnixProgram.h"
+#include "numbers/RuntimeError.h"
 #include "platform/FolderPath.h"
 #include "platform/GdiObjects.h"
+#include "platform/Handles.h"
 #include "platform/IconFiles.h"
 #include "platform/Paths.h"
 #include "platform/Surface.h"
@@ -303,6 +306,59 @@ TEST(ShellIcons, CountsAHundredIconsOrMoreThatAreThere) {
     const auto name = std::to_string(count) + ".dll";
     EXPECT_EQ(icons.CountIcons(folder.MakeFile(name, LyingLibrary(count, static_cast<std::uint16_t>(count)))), count);
   }
+}
+
+// Of each call that is cut off the system keeps what it had made by then.
+TEST(ShellIcons, AsksTheSystemOnceForAnIconThatItBreaksOn) {
+  const TemporaryFolder folder;
+  const IconPicture picture = BitmapPicture(32, 32, red, blue);
+  const std::string path = folder.MakeFile("a.ico", Truncated(OneIcon(picture), 3000));
+  ShellIcons icons;
+  ASSERT_EQ(icons.Extract(path, 0), nullptr);
+  const int before = testing::CountGdiObjects();
+  for (int i = 0; i < 20; ++i) EXPECT_EQ(icons.Extract(path, 0), nullptr);
+  EXPECT_EQ(testing::CountGdiObjects(), before);
+}
+
+TEST(ShellIcons, AsksAgainForAFileThatHasChanged) {
+  const TemporaryFolder folder;
+  const std::string path = folder.MakeFile("a.ico", Truncated(OneIcon(BitmapPicture(32, 32, red, blue)), 3000));
+  ShellIcons icons;
+  ASSERT_EQ(icons.Extract(path, 0), nullptr);
+  // The call that was cut off still holds the file, so that it can only be changed from outside of Wine.
+  const std::string sound = folder.MakeFile("sound.ico", OneIcon(BitmapPicture(32, 32, red, blue)));
+  ASSERT_EQ(
+      end_to_end::RunUnix("cp " + end_to_end::UnixQuoted(ToWide(sound)) + ' ' + end_to_end::UnixQuoted(ToWide(path)))
+          .exitCode,
+      0);
+  EXPECT_NE(icons.Extract(path, 0), nullptr);
+}
+
+// All GDI objects that the process can have, as tiny bitmaps.
+class NoGdiObjects {
+ public:
+  NoGdiObjects() {
+    while (const HBITMAP bitmap = CreateBitmap(1, 1, 1, 1, nullptr)) bitmaps_.emplace_back(bitmap);
+  }
+
+ private:
+  std::vector<BitmapHandle> bitmaps_;
+};
+
+// A blank picture was saved for a good icon once the damaged ones had used up the process's GDI objects.
+TEST(ShellIcons, SaysThatThereIsNoRoomForAnIconInsteadOfLeavingItOut) {
+  const TemporaryFolder folder;
+  const std::string path = folder.MakeFile("a.ico", IconFileOf(red));
+  ShellIcons icons;
+  Surface surface(32, 32, background);
+  const auto icon = icons.Extract(path, 0);
+  ASSERT_NE(icon, nullptr);
+  {
+    NoGdiObjects none;
+    EXPECT_THROW(icons.Extract(path, 0), OutOfMemoryError);
+  }
+  EXPECT_NE(icons.Extract(path, 0), nullptr);
+  EXPECT_TRUE(icon->Draw(surface, {0, 0}, 32, 0, DrawPart::Normal));
 }
 
 TEST(ShellIcons, KeepsNoHandles) {

@@ -193,6 +193,11 @@ TEST_F(FrmFindIconExportTest, SavesABlankWhereTheFileYieldsNoIconAnyMore) {
   Open();
   Find(2);
   machine.icons.clear();
+  dialogs.path = folder.In("a.ico");
+  Click(FrmFindIcon_mnuSaveAs);
+  const std::string icon = ReadAll(dialogs.path);
+  constexpr std::size_t imagePlace = 6 + 16 + 40 + 8;
+  EXPECT_EQ(icon.substr(imagePlace), std::string(128, '\0') + std::string(128, '\xFF')) << "image and mask";
   dialogs.path = folder.In("a.bmp");
   Click(FrmFindIcon_MnuSaveAsBitmap);
   EXPECT_EQ(ReadAll(dialogs.path).size(), 14U + 40U + 2U * 4U + 32U * 4U) << "black and white alone";
