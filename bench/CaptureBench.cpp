@@ -53,7 +53,7 @@ bool WriteBitmap(const IconSurfaces& surfaces, const std::string& path, FileSink
 // Counts the bytes and keeps none.
 class LengthSink final : public FileSink {
  public:
-  bool Open(const std::string&) override { return true; }
+  bool Open(const std::string&, ReadOnlyFile) override { return true; }
   bool Write(std::span<const std::byte> bytes) override {
     length += bytes.size();
     return true;

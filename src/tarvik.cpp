@@ -16,7 +16,6 @@
 #include "forms/MessageBox.h"
 #include "platform/DesktopScreen.h"
 #include "platform/DiskFile.h"
-#include "platform/DiskTarget.h"
 #include "platform/Folders.h"
 #include "platform/IniFile.h"
 #include "platform/Paths.h"
@@ -82,7 +81,6 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
   const auto showAbout = [&] { spash->ShowModal(findIcon->Window()); };
   const auto openGuide = [&] { OpenGuide(findIcon->Window(), ProgramFolder(), state.CurrentLanguage); };
   DiskFile files;
-  DiskTarget targets;
   TemporaryBitmap temporaryBitmap(TemporaryBitmapPlaces());
   ExportDialogs exportDialogs(
       application, state,
@@ -90,7 +88,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
        [&]() -> const Surface& { return findIcon->PicMain(); }},
       {DriveRows, [&](const std::string& folder) { return folders.SubFolders(folder); }, CreateFolder,
        [&] { return findIcon->Dir1Path(); }},
-      files, targets);
+      files);
 
   const auto showMainWindow = [&] {
     if (!findIcon) {

@@ -102,7 +102,7 @@ bool FrmConvertGIF::Convert(const std::string& target) {
       .palette = IsChecked(FrmConvertGIF_Option1) ? GifPalette::BestQuality : GifPalette::Web,
   };
   if (!encoder_) encoder_.emplace(parts_.sink);
-  return ReplaceTarget(parts_.targets, target, [&] { return encoder_->WriteFile(*picture_, target, settings); });
+  return encoder_->WriteFile(*picture_, target, settings);
 }
 
 void FrmConvertGIF::CmdCancel_Click() {

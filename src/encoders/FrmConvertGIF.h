@@ -7,7 +7,6 @@
 #include <optional>
 #include <string>
 
-#include "encoders/ExistingTarget.h"
 #include "encoders/GifEncoder.h"
 #include "encoders/ImageDialogs.h"
 #include "export/FileSink.h"
@@ -24,7 +23,6 @@ class FrmConvertGIF final : public Form, public GifDialog {
   struct Parts {
     std::function<const Surface&()> picIcon;  // the main window's
     FileSink& sink;
-    ExistingTarget& targets;
     std::function<std::uint64_t(const std::string& path)> fileLength;  // in bytes
   };
 

@@ -13,7 +13,7 @@
 #include <gif_lib.h>
 
 #include "encoders/IndexedPicture.h"
-#include "encoders/WholeFile.h"
+#include "export/WholeFile.h"
 
 namespace tarvik {
 namespace {
@@ -97,7 +97,7 @@ bool GifEncoder::WriteFile(const PixelView& picture, const std::string& path, co
   IndexedPicture indexed = settings.palette == GifPalette::Web ? IndexByWebPalette(picture, transparent)
                                                                : IndexByBestPalette(picture, transparent);
   const auto file = Encode(indexed);
-  return file && WriteWholeFile(sink_, path, *file);
+  return file && WriteWholeFile(sink_, path, *file, ReadOnlyFile::Replaced);
 }
 
 }  // namespace tarvik

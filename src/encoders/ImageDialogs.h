@@ -13,7 +13,7 @@ enum class DialogMode { Single, NoSingle };
 enum class DialogAnswer {
   Cancelled,
   Ok,
-  Failed,  // OK was chosen, and the file could not be written; nothing of it is left
+  Failed,  // OK was chosen, and the file could not be written as a whole
 };
 
 // The JPEG options dialog as the save commands see it.

@@ -10,7 +10,7 @@
 
 #include <jpeglib.h>
 
-#include "encoders/WholeFile.h"
+#include "export/WholeFile.h"
 
 namespace tarvik {
 namespace {
@@ -198,7 +198,7 @@ void JpegEncoder::TakePicture(const PixelView& picture) {
 bool JpegEncoder::WriteFile(const std::string& path) {
   if (rgb_.empty()) return false;
   Compression compression({width_, height_, rgb_}, quality_, sampling_, comment_);
-  return compression.Run() && WriteWholeFile(sink_, path, compression.File());
+  return compression.Run() && WriteWholeFile(sink_, path, compression.File(), ReadOnlyFile::Replaced);
 }
 
 }  // namespace tarvik

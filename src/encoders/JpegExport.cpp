@@ -16,7 +16,7 @@ JpegEncoder& JpegExport::Encoder() {
 bool JpegExport::Save(const std::string& path) {
   if (picture_ == nullptr) return false;
   Encoder().TakePicture(*picture_);
-  return ReplaceTarget(targets_, path, [&] { return Encoder().WriteFile(path); });
+  return Encoder().WriteFile(path);
 }
 
 void JpegExport::FreeObj() {

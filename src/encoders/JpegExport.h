@@ -3,7 +3,6 @@
 #include <optional>
 #include <string>
 
-#include "encoders/ExistingTarget.h"
 #include "encoders/ImageDialogs.h"
 #include "encoders/JpegEncoder.h"
 #include "export/FileSink.h"
@@ -15,8 +14,8 @@ namespace tarvik {
 // with the options.
 class JpegExport {
  public:
-  // Both outlive the export.
-  JpegExport(FileSink& sink, ExistingTarget& targets) : sink_(sink), targets_(targets) {}
+  // The sink outlives the export.
+  explicit JpegExport(FileSink& sink) : sink_(sink) {}
 
   void InitJpegExport(const PixelView& picture, const std::string& target, DialogMode mode);
   void SetMode(DialogMode mode) { mode_ = mode; }
@@ -24,8 +23,8 @@ class JpegExport {
 
   // The encoder, made on first use. It keeps its options for every file until FreeObj.
   JpegEncoder& Encoder();
-  // Writes the picture to the path, replacing what stands there. False where there is no picture or it cannot be
-  // written; nothing of the file is left then.
+  // Writes the picture to the path, replacing a file there, a read-only one too. False if there is no picture or the
+  // file cannot be written; what was written of it is left.
   bool Save(const std::string& path);
   // The same, to the target.
   bool Save() { return Save(target_); }
@@ -34,7 +33,6 @@ class JpegExport {
 
  private:
   FileSink& sink_;
-  ExistingTarget& targets_;
   std::optional<JpegEncoder> encoder_;
   const PixelView* picture_ = nullptr;
   std::string target_;

@@ -19,13 +19,8 @@ constexpr int okButton = 1;      // of cmdFinish
 
 }  // namespace
 
-fSaveJPG::fSaveJPG(Application& application, const ProgramState& state, HWND owner, FileSink& sink,
-                   ExistingTarget& targets)
-    : Form(application, Dialog_fSaveJPG),
-      state_(state),
-      owner_(owner),
-      export_(sink, targets),
-      comment_(application, state) {}
+fSaveJPG::fSaveJPG(Application& application, const ProgramState& state, HWND owner, FileSink& sink)
+    : Form(application, Dialog_fSaveJPG), state_(state), owner_(owner), export_(sink), comment_(application, state) {}
 
 void fSaveJPG::InitJpegExport(const PixelView& picture, const std::string& target, DialogMode mode) {
   export_.InitJpegExport(picture, target, mode);

@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "encoders/ExistingTarget.h"
 #include "encoders/ImageDialogs.h"
 #include "encoders/JpegExport.h"
 #include "encoders/fComment.h"
@@ -20,7 +19,7 @@ namespace tarvik {
 class fSaveJPG final : public Form, public JpegDialog {
  public:
   // Shown over `owner`. Everything outlives the form.
-  fSaveJPG(Application& application, const ProgramState& state, HWND owner, FileSink& sink, ExistingTarget& targets);
+  fSaveJPG(Application& application, const ProgramState& state, HWND owner, FileSink& sink);
 
   void InitJpegExport(const PixelView& picture, const std::string& target, DialogMode mode) override;
   DialogAnswer ShowFor(DialogMode mode) override;

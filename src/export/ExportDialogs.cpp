@@ -3,17 +3,16 @@
 #include <utility>
 
 #include "export/FileDialog.h"
-#include "platform/DiskTarget.h"
+#include "platform/DiskFile.h"
 
 namespace tarvik {
 
 ExportDialogs::ExportDialogs(Application& application, ProgramState& state, MainWindow mainWindow, frmDir::Disk disk,
-                             FileSink& sink, ExistingTarget& targets)
+                             FileSink& sink)
     : application_(application),
       state_(state),
       mainWindow_(std::move(mainWindow)),
       sink_(sink),
-      targets_(targets),
       dir_(application, state, std::move(disk)),
       hotSpot_(application, state, mainWindow_.picMain) {}
 
@@ -30,12 +29,12 @@ void ExportDialogs::ShowFrmHotSpot() {
 }
 
 JpegDialog& ExportDialogs::NewSaveJPG() {
-  return saveJpg_.emplace(application_, state_, mainWindow_.window(), sink_, targets_);
+  return saveJpg_.emplace(application_, state_, mainWindow_.window(), sink_);
 }
 
 GifDialog& ExportDialogs::NewConvertGIF() {
   return convertGif_.emplace(application_, state_, mainWindow_.window(),
-                             FrmConvertGIF::Parts{mainWindow_.picIcon, sink_, targets_, FileLength});
+                             FrmConvertGIF::Parts{mainWindow_.picIcon, sink_, FileLength});
 }
 
 // The dialogs themselves stay: one of them may be the caller's caller, where the session ends while it is open.

@@ -28,8 +28,8 @@ class ExportDialogs final : public SaveDialogs {
   };
 
   // Everything outlives the dialogs.
-  ExportDialogs(Application& application, ProgramState& state, MainWindow mainWindow, frmDir::Disk disk, FileSink& sink,
-                ExistingTarget& targets);
+  ExportDialogs(Application& application, ProgramState& state, MainWindow mainWindow, frmDir::Disk disk,
+                FileSink& sink);
 
   std::string AskForPath(const FileDialogMode& mode) override;
   std::string ShowDir() override;
@@ -43,7 +43,6 @@ class ExportDialogs final : public SaveDialogs {
   ProgramState& state_;
   MainWindow mainWindow_;
   FileSink& sink_;
-  ExistingTarget& targets_;
   frmDir dir_;
   FrmHotSpot hotSpot_;
   std::optional<fSaveJPG> saveJpg_;

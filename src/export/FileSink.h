@@ -6,17 +6,20 @@
 
 namespace tarvik {
 
-// A file being written. Each step says whether it worked; a writer stops at the first that did not, and the file is
-// then let go, as it stands, when the sink ends or opens another.
+// What happens to a read-only file at the path of a file to be written.
+enum class ReadOnlyFile { Refused, Replaced };
+
+// A file being written. Each step returns whether it worked; a writer stops at the first that did not. The file is
+// then closed with what it holds when the sink ends or opens another.
 class FileSink {
  public:
   virtual ~FileSink() = default;
 
-  // Replaces what stands at the path (UTF-8) with a new, empty file. Nothing but that one path is touched.
-  virtual bool Open(const std::string& path) = 0;
-  // Appends all of the bytes or says no.
+  // Puts a new, empty file at the path (UTF-8), in place of an existing one. Only this path is touched.
+  virtual bool Open(const std::string& path, ReadOnlyFile readOnly) = 0;
+  // Appends all of the bytes, or returns false.
   virtual bool Write(std::span<const std::byte> bytes) = 0;
-  // True when everything written is in the file.
+  // True if everything written is in the file.
   virtual bool Close() = 0;
 };
 

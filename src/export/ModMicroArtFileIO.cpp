@@ -4,11 +4,11 @@
 #include <cstdint>
 #include <span>
 
-#include "export/ByteWriter.h"
 #include "export/FileFormats.h"
 #include "export/ModPalette.h"
 #include "export/PixelCopy.h"
 #include "export/PixelWriters.h"
+#include "export/WholeFile.h"
 
 namespace tarvik::ModMicroArtFileIO {
 namespace {
@@ -103,10 +103,6 @@ std::size_t SizeBound(const PixelCopy& pixels) {
   return headersAndPalette + pixels.Pixels().size() * 4;
 }
 
-bool Save(const ByteWriter& file, const std::string& path, FileSink& sink) {
-  return sink.Open(path) && sink.Write(file.Bytes()) && sink.Close();
-}
-
 bool WriteIconOrCursor(const PixelView& mask, const PixelView& image, ColorClass colors, const DirectoryFields& fields,
                        const std::string& path, FileSink& sink) {
   const PixelCopy imagePixels(image);
@@ -120,7 +116,7 @@ bool WriteIconOrCursor(const PixelView& mask, const PixelView& image, ColorClass
   WriteInfoHeader(imagePixels.Width(), imagePixels.Height() * imageAndMask, depth, imageBytesNotGiven, file);
   WritePaletteAndPixels(imagePixels, colors, ModPalette::BuildIconPalette, file);
   Write1Bit(maskPixels, file);
-  return Save(file, path, sink);
+  return WriteWholeFile(sink, path, file.Bytes(), ReadOnlyFile::Refused);
 }
 
 }  // namespace
@@ -146,10 +142,10 @@ bool WriteBitmap(const PixelView& composed, ColorClass colors, const std::string
   WriteInfoHeader(pixels.Width(), pixels.Height(), depth,
                   FileFormats::DeclaredImageBytes(depth, pixels.Width(), pixels.Height()), file);
   WritePaletteAndPixels(pixels, colors, ModPalette::BuildBitmapPalette, file);
-  return Save(file, path, sink);
+  return WriteWholeFile(sink, path, file.Bytes(), ReadOnlyFile::Refused);
 }
 
-bool WriteTrueColorBitmap(const PixelView& composed, const std::string& path, FileSink& sink) {
+ByteWriter TrueColorBitmap(const PixelView& composed) {
   const PixelCopy pixels(composed);
   const Depth& depth = FileFormats::DepthOf(ColorClass::TrueColor);
   const std::uint32_t imageBytes = FileFormats::DeclaredImageBytes(depth, pixels.Width(), pixels.Height());
@@ -157,7 +153,7 @@ bool WriteTrueColorBitmap(const PixelView& composed, const std::string& path, Fi
   WriteBitmapFileHeader(FileFormats::bitmapFileHeaderBytes + FileFormats::infoHeaderBytes + imageBytes, depth, file);
   WriteInfoHeader(pixels.Width(), pixels.Height(), depth, imageBytes, file);
   WritePadded24Bit(pixels, file);
-  return Save(file, path, sink);
+  return file;
 }
 
 }  // namespace tarvik::ModMicroArtFileIO

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "export/ByteWriter.h"
 #include "export/FileSink.h"
 #include "export/ModMicroArt.h"
 #include "export/PixelView.h"
@@ -9,8 +10,8 @@
 
 // Writes one captured icon as a file: icon, cursor or Windows bitmap, at the size of its surfaces and the depth of its
 // colour class. The layouts are those of Windows icon resources and device-independent bitmaps, with a few fixed
-// oddities that are kept where they stand. Each writer returns false at the first step of the sink that fails; the
-// file may then be there in part. None shows a message.
+// oddities that are kept where they stand. Each writer refuses to replace a read-only file,
+// and returns false if a step of the sink fails; the file may then be there in part. None shows a message.
 namespace tarvik::ModMicroArtFileIO {
 
 // The pixel of a cursor that points, from the top-left corner of the icon.
@@ -35,8 +36,8 @@ bool WriteCursor(const PixelView& mask, const PixelView& image, ModMicroArt::Col
 // 255 wherever the palette has them.
 bool WriteBitmap(const PixelView& composed, ModMicroArt::ColorClass colors, const std::string& path, FileSink& sink);
 
-// Writes a true-colour bitmap (.bmp) that reads back as exactly the same pixels, whatever the size: what is handed to
-// an encoder.
-bool WriteTrueColorBitmap(const PixelView& composed, const std::string& path, FileSink& sink);
+// The bytes of a true-colour bitmap (.bmp) that reads back as exactly the same pixels, whatever the size: what is
+// handed to an encoder.
+ByteWriter TrueColorBitmap(const PixelView& composed);
 
 }  // namespace tarvik::ModMicroArtFileIO

@@ -20,24 +20,13 @@ namespace {
 
 constexpr const char* firstPath = "C:\\tmp.bmp";
 
-// Writes into an open file, from its start. The path was settled when the file was made.
-class OpenFileSink final : public FileSink {
- public:
-  explicit OpenFileSink(HANDLE file) : file_(file) {}
-
-  bool Open(const std::string& /*path*/) override {
-    return SetFilePointer(file_, 0, nullptr, FILE_BEGIN) == 0 && SetEndOfFile(file_) != 0;
-  }
-  bool Write(std::span<const std::byte> bytes) override {
-    DWORD written = 0;
-    return WriteFile(file_, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != 0 &&
-           written == bytes.size();
-  }
-  bool Close() override { return true; }
-
- private:
-  HANDLE file_;
-};
+// Makes the bytes all that the open file holds.
+bool WriteFromStart(HANDLE file, std::span<const std::byte> bytes) {
+  DWORD written = 0;
+  return SetFilePointer(file, 0, nullptr, FILE_BEGIN) == 0 && SetEndOfFile(file) != 0 &&
+         WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != 0 &&
+         written == bytes.size();
+}
 
 // All bytes of an open file; none where they cannot be read.
 std::vector<std::byte> ReadFromStart(HANDLE file) {
@@ -82,8 +71,7 @@ bool TemporaryBitmap::MakeNew(const std::string& path) {
 }
 
 bool TemporaryBitmap::Write(const PixelView& picture) {
-  OpenFileSink sink(file_.get());
-  return ModMicroArtFileIO::WriteTrueColorBitmap(picture, path_, sink);
+  return WriteFromStart(file_.get(), ModMicroArtFileIO::TrueColorBitmap(picture).Bytes());
 }
 
 bool TemporaryBitmap::ReadBack() {

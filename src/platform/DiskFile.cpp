@@ -6,75 +6,112 @@
 #include <span>
 
 #include "platform/Paths.h"
-#include "platform/Text.h"
+#include "platform/SiblingFile.h"
 
 namespace tarvik {
 namespace {
 
 constexpr std::size_t blockSize = std::size_t{64} * 1024;
 
-FileHandle OpenForWriting(const std::wstring& path, DWORD disposition) {
-  return FileHandle(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
-}
+constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 bool IsDiskFile(const FileHandle& file) {
   return file && GetFileType(file.get()) == FILE_TYPE_DISK;
 }
 
-// True for what may be replaced: a file that is not read-only, and a link that leads nowhere.
-bool IsReplaceable(const std::wstring& path) {
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES) return true;
-  if ((attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) return false;
-  constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  return IsDiskFile(
-      FileHandle(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, shareAll, nullptr, OPEN_EXISTING, 0, nullptr)));
+FileHandle OpenForAttributes(const std::wstring& path) {
+  constexpr DWORD foldersAndLinksToo = FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT;
+  return FileHandle(
+      CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, shareAll, nullptr, OPEN_EXISTING, foldersAndLinksToo, nullptr));
 }
 
-// A new, empty file in the same folder; empty where there can be none.
-std::wstring MakeSibling(const std::wstring& path) {
-  constexpr int attempts = 100;
-  const std::wstring stem = path.substr(0, path.rfind(L'\\') + 1) + L"tarvik" + std::to_wstring(GetCurrentProcessId());
-  for (int attempt = 0; attempt < attempts; ++attempt) {
-    std::wstring sibling = stem + L'-' + std::to_wstring(attempt) + L".tmp";
-    if (OpenForWriting(sibling, CREATE_NEW)) return sibling;
-    if (GetLastError() != ERROR_FILE_EXISTS) break;
+// The path without links, 8.3 names and mounted folders; empty if the system does not know it.
+std::wstring FinalPath(const FileHandle& file) {
+  const DWORD size = file ? GetFinalPathNameByHandleW(file.get(), nullptr, 0, 0) : 0;
+  std::wstring path(size, L'\0');
+  const DWORD length = size == 0 ? 0 : GetFinalPathNameByHandleW(file.get(), path.data(), size, 0);
+  path.resize(length < size ? length : 0);
+  return path;
+}
+
+std::wstring FolderOf(const std::wstring& path) {
+  const std::size_t end = path.find_last_of(L"\\/:");
+  return end == std::wstring::npos ? L"." : path.substr(0, end + 1);
+}
+
+// The path that the entry of this name has in its folder: what FinalPath gives for it if it is not a link.
+std::wstring PathOfEntry(const std::wstring& path) {
+  WIN32_FIND_DATAW entry{};
+  const FindHandle found(FindFirstFileW(path.c_str(), &entry));
+  std::wstring folder = FinalPath(OpenForAttributes(FolderOf(path)));
+  if (!found || folder.empty()) return {};
+  if (!folder.ends_with(L'\\')) folder += L'\\';
+  return folder + static_cast<const wchar_t*>(entry.cFileName);
+}
+
+// What is at the path of a file to be written.
+struct Existing {
+  bool replaceable = false;
+  bool isLink = false;
+  DWORD attributes = INVALID_FILE_ATTRIBUTES;
+  std::wstring attributesOf;  // the path that they belong to: under Wine that of the file which a link leads to
+};
+
+Existing LookAt(const std::wstring& path) {
+  Existing existing;
+  existing.attributes = GetFileAttributesW(path.c_str());
+  existing.attributesOf = path;
+  if (existing.attributes == INVALID_FILE_ATTRIBUTES) {
+    // Under Wine a link that leads nowhere. A pipe has no attributes there either, but no file can be moved over it.
+    existing.replaceable = true;
+    existing.isLink = true;
+    return existing;
   }
-  return {};
+  const FileHandle file = OpenForAttributes(path);
+  existing.replaceable = (existing.attributes & FILE_ATTRIBUTE_DIRECTORY) == 0 && IsDiskFile(file);
+  existing.isLink = (existing.attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+  if (existing.isLink || !existing.replaceable) return existing;
+  // Wine does not say that a file is a link, but opens what it leads to.
+  const std::wstring finalPath = FinalPath(file);
+  const std::wstring own = PathOfEntry(path);
+  if (finalPath.empty() || own.empty() ||
+      CompareStringOrdinal(finalPath.c_str(), -1, own.c_str(), -1, TRUE) == CSTR_EQUAL)
+    return existing;
+  existing.isLink = true;
+  existing.attributesOf = finalPath;
+  return existing;
 }
 
-bool IsLink(const std::wstring& path) {
-  return (GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-}
-
-// Puts an empty file in the place of the one at the path. It is moved there and the former one not deleted, because a
-// move never follows a link.
-bool Replace(const std::wstring& path) {
-  const std::wstring sibling = MakeSibling(path);
-  if (sibling.empty()) return false;
-  if (MoveFileExW(sibling.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING) != 0) return true;
-  DeleteFileW(sibling.c_str());
-  return false;
-}
-
-// Opens the file at the path without what was in it.
-FileHandle OpenAnew(const std::wstring& path) {
-  if (!IsReplaceable(path)) return {};
-  if (Replace(path)) return OpenForWriting(path, TRUNCATE_EXISTING);
-  // There are files that may be written and yet not moved or deleted: one that another program has open, or in a folder
-  // that takes no new file.
-  if (IsLink(path)) return {};
+FileHandle OpenInPlace(const std::wstring& path) {
   constexpr DWORD withOthers = FILE_SHARE_READ | FILE_SHARE_WRITE;
   return FileHandle(CreateFileW(path.c_str(), GENERIC_WRITE, withOthers, nullptr, TRUNCATE_EXISTING, 0, nullptr));
 }
 
+// Removes the existing file from its name and opens an empty one there: steps 2 to 5 (see DiskFile).
+FileHandle DeleteExistingTarget(const std::wstring& path, ReadOnlyFile readOnly) {
+  const Existing existing = LookAt(path);
+  if (!existing.replaceable) return {};
+  const bool isReadOnly =
+      existing.attributes != INVALID_FILE_ATTRIBUTES && (existing.attributes & FILE_ATTRIBUTE_READONLY) != 0;
+  if (isReadOnly && (readOnly == ReadOnlyFile::Refused ||
+                     SetFileAttributesW(existing.attributesOf.c_str(), FILE_ATTRIBUTE_NORMAL) == 0))
+    return {};
+  FileHandle file = SiblingFile(path).MoveTo(path);
+  if (!file && !existing.isLink) file = OpenInPlace(path);
+  // What was not replaced keeps its attributes, be it the file itself or the one that a replaced link leads to.
+  if (isReadOnly && (!file || existing.attributesOf != path))
+    SetFileAttributesW(existing.attributesOf.c_str(), existing.attributes);
+  return file;
+}
+
 }  // namespace
 
-bool DiskFile::Open(const std::string& path) {
+bool DiskFile::Open(const std::string& path, ReadOnlyFile readOnly) {
   const std::wstring systemPath = SystemPath(path);
   gathered_.clear();
-  file_ = OpenForWriting(systemPath, CREATE_NEW);
-  if (!file_ && GetLastError() == ERROR_FILE_EXISTS) file_ = OpenAnew(systemPath);
+  file_.reset();
+  file_.reset(CreateFileW(systemPath.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file_ && GetLastError() == ERROR_FILE_EXISTS) file_ = DeleteExistingTarget(systemPath, readOnly);
   if (!IsDiskFile(file_)) file_.reset();
   complete_ = static_cast<bool>(file_);
   return complete_;
@@ -113,6 +150,15 @@ bool DiskFile::Flush() {
   const bool written = WriteThrough(gathered_);
   gathered_.clear();
   return written;
+}
+
+std::uint64_t FileLength(const std::string& path) {
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  if (GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data) == 0) return 0;
+  ULARGE_INTEGER length;
+  length.LowPart = data.nFileSizeLow;
+  length.HighPart = data.nFileSizeHigh;
+  return length.QuadPart;
 }
 
 }  // namespace tarvik

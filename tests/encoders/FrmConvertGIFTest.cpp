@@ -11,7 +11,6 @@
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
 #include "platform/DiskFile.h"
-#include "platform/DiskTarget.h"
 #include "platform/TemporaryFolder.h"
 #include "resource.h"
 
@@ -52,7 +51,6 @@ class FrmConvertGIFTest : public ::testing::Test {
   Surface icon{32, 32, 0x332211};
   std::function<void()> onConvert;
   DiskFile files;
-  DiskTarget targets;
   testing::ModalDriver driver;
   FrmConvertGIF form{application,
                      state,
@@ -61,7 +59,7 @@ class FrmConvertGIFTest : public ::testing::Test {
                         if (onConvert) onConvert();
                         return icon;
                       },
-                      files, targets, FileLength}};
+                      files, FileLength}};
 };
 
 TEST_F(FrmConvertGIFTest, ShowsItsTextsInEachLanguage) {

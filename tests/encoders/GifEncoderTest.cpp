@@ -59,7 +59,7 @@ TEST(GifEncoder, WritesTheFileOnceToThePathGiven) {
   TestSink sink;
   EXPECT_TRUE(GifEncoder(sink).WriteFile(Gradient(16), path, best));
   EXPECT_EQ(sink.Path(), path);
-  EXPECT_EQ(sink.Steps(), "open write close ");
+  EXPECT_EQ(sink.Steps(), "open over read-only write close ");
 }
 
 TEST(GifEncoder, TellsColoursBackgroundAndPixelShapeInItsHeader) {
@@ -261,9 +261,10 @@ TEST(GifEncoder, TouchesNoFileWhereThePictureDoesNotFitTheFormat) {
 }
 
 TEST(GifEncoder, SaysNoWhereTheFileCannotBeWritten) {
-  const std::vector<std::pair<TestSink::Step, std::string>> rows = {{TestSink::Step::Open, "open "},
-                                                                    {TestSink::Step::Write, "open write close "},
-                                                                    {TestSink::Step::Close, "open write close "}};
+  const std::vector<std::pair<TestSink::Step, std::string>> rows = {
+      {TestSink::Step::Open, "open over read-only "},
+      {TestSink::Step::Write, "open over read-only write close "},
+      {TestSink::Step::Close, "open over read-only write close "}};
   for (const auto& [failing, steps] : rows) {
     TestSink sink(failing);
     EXPECT_FALSE(GifEncoder(sink).WriteFile(Gradient(16), path, best));

@@ -46,7 +46,7 @@ TEST(JpegEncoder, WritesTheFileOnceToThePathGiven) {
   encoder.TakePicture(Gradient(32));
   EXPECT_TRUE(encoder.WriteFile(path));
   EXPECT_EQ(sink.Path(), path);
-  EXPECT_EQ(sink.Steps(), "open write close ");
+  EXPECT_EQ(sink.Steps(), "open over read-only write close ");
 }
 
 TEST(JpegEncoder, WritesABaselineFileOfThePicturesSize) {
@@ -336,9 +336,10 @@ TEST(JpegEncoder, TouchesNoFileWhereTheSamplingIsNone) {
 }
 
 TEST(JpegEncoder, SaysNoWhereTheFileCannotBeWritten) {
-  const std::vector<std::pair<TestSink::Step, std::string>> rows = {{TestSink::Step::Open, "open "},
-                                                                    {TestSink::Step::Write, "open write close "},
-                                                                    {TestSink::Step::Close, "open write close "}};
+  const std::vector<std::pair<TestSink::Step, std::string>> rows = {
+      {TestSink::Step::Open, "open over read-only "},
+      {TestSink::Step::Write, "open over read-only write close "},
+      {TestSink::Step::Close, "open over read-only write close "}};
   for (const auto& [failing, steps] : rows) {
     TestSink sink(failing);
     JpegEncoder encoder(sink);

@@ -9,60 +9,36 @@
 namespace tarvik {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-// A file that may or may not be deleted.
-class FakeTarget final : public ExistingTarget {
- public:
-  bool DeleteExistingTarget(const std::string& path) override {
-    deleted.push_back(path);
-    return deletable;
-  }
-
-  bool deletable = true;
-  std::vector<std::string> deleted;
-};
 
 class JpegExportTest : public ::testing::Test {
  protected:
   TestRaster picture{16, 16, 0x0080FF};
   MemorySink sink;
-  FakeTarget target;
-  JpegExport jpeg{sink, target};
+  JpegExport jpeg{sink};
 };
 
 TEST_F(JpegExportTest, ReplacesTheTargetByThePicture) {
   jpeg.InitJpegExport(picture, "D:\\a.jpg", DialogMode::Single);
   EXPECT_TRUE(jpeg.Save());
-  EXPECT_THAT(target.deleted, ElementsAre("D:\\a.jpg"));
   EXPECT_EQ(sink.openedPath, "D:\\a.jpg");
+  EXPECT_EQ(sink.readOnlyFile, ReadOnlyFile::Replaced);
   EXPECT_EQ(sink.bytes[0], 0xFF);
   EXPECT_EQ(sink.bytes[1], 0xD8) << "the start of a JPEG file";
 }
 
-TEST_F(JpegExportTest, WritesNothingOverAFileThatStays) {
-  jpeg.InitJpegExport(picture, "D:\\a.jpg", DialogMode::Single);
-  target.deletable = false;
-  EXPECT_FALSE(jpeg.Save());
-  EXPECT_THAT(sink.steps, IsEmpty());
-  EXPECT_THAT(target.deleted, ElementsAre("D:\\a.jpg")) << "and tries no second time";
-}
-
-TEST_F(JpegExportTest, LeavesNothingOfAFileThatFailed) {
+TEST_F(JpegExportTest, SaysThatAFileFailed) {
   for (const int failingStep : {0, 1, 2}) {
     MemorySink failing(failingStep);
-    FakeTarget both;
-    JpegExport exporting(failing, both);
+    JpegExport exporting(failing);
     exporting.InitJpegExport(picture, "D:\\a.jpg", DialogMode::Single);
     EXPECT_FALSE(exporting.Save()) << failingStep;
-    EXPECT_THAT(both.deleted, ElementsAre("D:\\a.jpg", "D:\\a.jpg"));
   }
 }
 
 TEST_F(JpegExportTest, WritesNothingWithoutAPicture) {
   EXPECT_FALSE(jpeg.Save("D:\\a.jpg"));
-  EXPECT_THAT(target.deleted, IsEmpty());
+  EXPECT_THAT(sink.steps, IsEmpty());
 }
 
 TEST_F(JpegExportTest, KeepsTheOptionsForEveryFileUntilItIsFreed) {

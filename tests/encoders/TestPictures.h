@@ -52,8 +52,8 @@ class TestSink : public FileSink {
 
   explicit TestSink(Step failing = Step::None) : failing_(failing) {}
 
-  bool Open(const std::string& path) override {
-    steps_ += "open ";
+  bool Open(const std::string& path, ReadOnlyFile readOnly) override {
+    steps_ += readOnly == ReadOnlyFile::Replaced ? "open over read-only " : "open ";
     path_ = path;
     bytes_.clear();
     return failing_ != Step::Open;
@@ -69,7 +69,7 @@ class TestSink : public FileSink {
   }
 
   const std::string& Path() const { return path_; }
-  const std::string& Steps() const { return steps_; }  // "open write close "
+  const std::string& Steps() const { return steps_; }  // "open over read-only write close "
   const std::vector<std::byte>& Bytes() const { return bytes_; }
 
  private:

@@ -10,7 +10,6 @@
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
 #include "platform/DiskFile.h"
-#include "platform/DiskTarget.h"
 #include "platform/TemporaryFolder.h"
 #include "resource.h"
 
@@ -51,9 +50,8 @@ class fSaveJPGTest : public ::testing::Test {
   std::string path = folder.In("图.jpg");
   TestRaster picture{32, [](int x, int y) { return static_cast<Color>(x * 8 + y * 8 * 256); }};
   DiskFile files;
-  DiskTarget targets;
   testing::ModalDriver driver;
-  fSaveJPG form{application, state, nullptr, files, targets};
+  fSaveJPG form{application, state, nullptr, files};
 };
 
 TEST_F(fSaveJPGTest, OpensWithMediumQualityAndTheDefaultSampling) {
@@ -157,21 +155,23 @@ TEST_F(fSaveJPGTest, ReplacesAReadOnlyFile) {
   EXPECT_EQ(testing::ByteAt(ReadAll(path), 1), 0xD8);
 }
 
-// Notes the pointer when it is asked to make room for the file.
-class PointerNoted final : public ExistingTarget {
+// Notes the pointer when the file is opened, and keeps nothing.
+class PointerNoted final : public FileSink {
  public:
-  bool DeleteExistingTarget(const std::string& /*path*/) override {
+  bool Open(const std::string& /*path*/, ReadOnlyFile /*readOnly*/) override {
     seen = GetCursor();
     return true;
   }
+  bool Write(std::span<const std::byte> /*bytes*/) override { return true; }
+  bool Close() override { return true; }
 
   HCURSOR seen = nullptr;
 };
 
 TEST_F(fSaveJPGTest, ShowsTheHourglassWhileItWrites) {
   const HCURSOR hourglass = LoadCursorW(nullptr, MAKEINTRESOURCEW(32514));
-  PointerNoted target;
-  fSaveJPG dialog(application, state, nullptr, files, target);
+  PointerNoted file;
+  fSaveJPG dialog(application, state, nullptr, file);
   dialog.InitJpegExport(picture, path, DialogMode::Single);
   driver.On(fSaveJPG_CboSize, [&](HWND window) {
     const HCURSOR former = GetCursor();
@@ -180,7 +180,7 @@ TEST_F(fSaveJPGTest, ShowsTheHourglassWhileItWrites) {
     EXPECT_EQ(GetCursor(), former);
   });
   EXPECT_EQ(dialog.ShowFor(DialogMode::Single), DialogAnswer::Ok);
-  EXPECT_EQ(target.seen, hourglass);
+  EXPECT_EQ(file.seen, hourglass);
 }
 
 TEST_F(fSaveJPGTest, TellsAFileThatCannotBeWritten) {

@@ -18,7 +18,7 @@ namespace {
 
 class DiskSink : public FileSink {
  public:
-  bool Open(const std::string& path) override {
+  bool Open(const std::string& path, ReadOnlyFile /*readOnly*/) override {
     file_.open(path, std::ios::binary | std::ios::trunc);
     return file_.is_open();
   }

@@ -6,7 +6,6 @@
 
 #include "export/ExportDialogs.h"
 #include "platform/DiskFile.h"
-#include "platform/DiskTarget.h"
 
 namespace tarvik::testing {
 
@@ -15,7 +14,7 @@ namespace tarvik::testing {
 class AnsweredDialogs final : public SaveDialogs {
  public:
   AnsweredDialogs(Application& application, ProgramState& state, ExportDialogs::MainWindow mainWindow)
-      : state_(state), real_(application, state, std::move(mainWindow), {}, files_, targets_) {}
+      : state_(state), real_(application, state, std::move(mainWindow), {}, files_) {}
 
   std::string AskForPath(const FileDialogMode& mode) override {
     asked.emplace_back(mode.titleSuffix.eng);
@@ -39,7 +38,6 @@ class AnsweredDialogs final : public SaveDialogs {
  private:
   ProgramState& state_;
   DiskFile files_;
-  DiskTarget targets_;
   ExportDialogs real_;
 };
 

@@ -57,7 +57,10 @@ class FakeSaveWindow final : public SaveWindow {
     ++held;
     return {static_cast<void*>(this), [this](void*) { --held; }};
   }
-  void ServePainting() override { script_.emplace_back("paint"); }
+  void ServePainting() override {
+    script_.emplace_back("paint");
+    heldWhenServed.push_back(held);
+  }
   bool CopyPicClip() override {
     script_.emplace_back("copy");
     return clipboardFree;
@@ -66,6 +69,7 @@ class FakeSaveWindow final : public SaveWindow {
   std::string status = "standing";
   bool clipboardFree = true;
   int held = 0;
+  std::vector<int> heldWhenServed;  // `held` at each ServePainting
 
  private:
   Script& script_;
@@ -80,7 +84,7 @@ class NotedFiles final : public FileSink {
  public:
   explicit NotedFiles(Script& script) : script_(script) {}
 
-  bool Open(const std::string& path) override {
+  bool Open(const std::string& path, ReadOnlyFile /*readOnly*/) override {
     path_ = path;
     bytes[path].clear();
     if (refused.contains(path)) script_.push_back("refused " + path);
@@ -162,6 +166,7 @@ class FakeSaveDialogs final : public SaveDialogs {
   }
   std::string ShowDir() override {
     script_.push_back("folder for " + state_.SaveExtension);
+    if (onShowDir) onShowDir();
     if (!chosenExtension.empty()) state_.SaveExtension = chosenExtension;
     return folder;
   }
@@ -176,6 +181,7 @@ class FakeSaveDialogs final : public SaveDialogs {
   std::string path;  // the answers
   std::string folder;
   std::string chosenExtension;  // in the folder chooser
+  std::function<void()> onShowDir;
   bool hotSpotCancelled = false;
   FakeJpegDialog jpeg;
   FakeGifDialog gif;

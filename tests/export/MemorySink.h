@@ -18,8 +18,9 @@ class MemorySink final : public FileSink {
 
   explicit MemorySink(int failingStep = noFailure) : failingStep_(failingStep) {}
 
-  bool Open(const std::string& path) override {
+  bool Open(const std::string& path, ReadOnlyFile readOnly) override {
     openedPath = path;
+    readOnlyFile = readOnly;
     bytes.clear();
     return Step("Open");
   }
@@ -33,6 +34,7 @@ class MemorySink final : public FileSink {
   std::vector<std::uint8_t> bytes;
   std::vector<std::string> steps;
   std::string openedPath;
+  ReadOnlyFile readOnlyFile{};
 
  private:
   bool Step(const std::string& name) {

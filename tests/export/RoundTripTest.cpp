@@ -279,7 +279,7 @@ TEST(RoundTrip, TrueColourBitmapsForEncodersComeBackAtEverySize) {
   for (int size = 1; size <= 70; ++size) {
     const TestRaster composed = pictures.OfClass(size, ColorClass::TrueColor);
     MemorySink sink;
-    ASSERT_TRUE(WriteTrueColorBitmap(composed, "tmp.bmp", sink));
+    ASSERT_TRUE(sink.Write(TrueColorBitmap(composed).Bytes()));
     const ReadImage bitmap = ReadBitmap(sink.bytes);
     EXPECT_EQ(bitmap.width, size);
     EXPECT_EQ(bitmap.bitsPerPixel, 24);

@@ -17,6 +17,7 @@
 #include "export/FileSink.h"
 #include "export/ModMicroArtFileIO.h"
 #include "export/TestRaster.h"
+#include "export/WholeFile.h"
 
 namespace tarvik {
 namespace {
@@ -26,7 +27,7 @@ namespace IO = ModMicroArtFileIO;
 
 class FileOnDisk final : public FileSink {
  public:
-  bool Open(const std::string& path) override {
+  bool Open(const std::string& path, ReadOnlyFile /*readOnly*/) override {
     file_.open(path, std::ios::binary | std::ios::trunc);
     return file_.is_open();
   }
@@ -88,7 +89,8 @@ bool WriteSamples(const std::string& stem, int size, ColorClass colors) {
   return IO::WriteIcon(mask, image, colors, stem + ".ico", icon) &&
          IO::WriteCursor(mask, image, colors, {size / 2 - 1, size / 4}, stem + ".cur", cursor) &&
          IO::WriteBitmap(image, colors, stem + ".bmp", bitmap) &&
-         IO::WriteTrueColorBitmap(image, stem + "-encoder.bmp", encoderBitmap) &&
+         WriteWholeFile(encoderBitmap, stem + "-encoder.bmp", IO::TrueColorBitmap(image).Bytes(),
+                        ReadOnlyFile::Refused) &&
          WritePnm(stem + ".ppm", image, false) && WritePnm(stem + ".pgm", mask, true);
 }
 

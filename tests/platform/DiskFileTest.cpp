@@ -11,6 +11,7 @@
 #include "platform/FolderPath.h"
 #include "platform/Folders.h"
 #include "platform/Paths.h"
+#include "platform/SaveTargets.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
 
@@ -25,16 +26,16 @@ std::span<const std::byte> BytesOf(std::string_view text) {
   return std::as_bytes(std::span(text));
 }
 
-bool WriteWhole(const std::string& path, std::string_view text) {
+bool WriteWhole(const std::string& path, std::string_view text, ReadOnlyFile readOnly = ReadOnlyFile::Refused) {
   DiskFile file;
-  return file.Open(path) && file.Write(BytesOf(text)) && file.Close();
+  return file.Open(path, readOnly) && file.Write(BytesOf(text)) && file.Close();
 }
 
 TEST(DiskFile, WritesAllItIsGivenInOrder) {
   const TemporaryFolder folder;
   const std::string path = folder.In("图标.ico");
   DiskFile file;
-  ASSERT_TRUE(file.Open(path));
+  ASSERT_TRUE(file.Open(path, ReadOnlyFile::Refused));
   std::string expected;
   for (int i = 0; i < 50000; ++i) {
     const std::string part = std::to_string(i) + ' ';
@@ -64,54 +65,58 @@ TEST(DiskFile, ReplacesAHiddenFile) {
   EXPECT_EQ(ReadAll(path), "new");
 }
 
-TEST(DiskFile, ReplacesALinkAndNotWhatItStandsFor) {
-  TemporaryFolder folder;
-  const std::string target = folder.MakeFile("target.ico", "target");
-  const std::string link = folder.MakeLink("link.ico", target);
-  EXPECT_TRUE(WriteWhole(link, "new"));
-  EXPECT_EQ(ReadAll(link), "new");
-  EXPECT_EQ(ReadAll(target), "target");
+// One way for all formats: a file of either kind is put in the place of whatever can be there, or refused, and nothing
+// else is touched.
+TEST(DiskFile, ReplacesTheTargetItselfOrLeavesEverythingAsItIs) {
+  for (const ReadOnlyFile readOnly : {ReadOnlyFile::Refused, ReadOnlyFile::Replaced}) {
+    SCOPED_TRACE(readOnly == ReadOnlyFile::Replaced ? "read-only files are replaced" : "read-only files are refused");
+    const TemporaryFolder folder;
+    testing::SaveTargets targets(folder.MakeFolder("targets"), folder.MakeFolder("elsewhere"),
+                                 [](int number) { return std::to_string(number) + ".ico"; });
+    for (int number = 1; number <= testing::SaveTargets::Count(); ++number) {
+      EXPECT_EQ(WriteWhole(targets.Path(number), "new", readOnly), testing::SaveTargets::TakesAFile(number, readOnly))
+          << testing::SaveTargets::What(number);
+    }
+    targets.ExpectSaved("new", readOnly);
+  }
 }
 
-TEST(DiskFile, RefusesAReadOnlyFile) {
+TEST(DiskFile, LeavesAFileThatAnotherCopyOfTheProgramIsWriting) {
   const TemporaryFolder folder;
-  const std::string path = folder.MakeFile("a.ico", "old");
-  AddAttributes(path, FILE_ATTRIBUTE_READONLY);
-  EXPECT_FALSE(WriteWhole(path, "new"));
-  EXPECT_EQ(ReadAll(path), "old");
+  const std::string path = folder.In("a.jpg");
+  DiskFile first;
+  ASSERT_TRUE(first.Open(path, ReadOnlyFile::Replaced));
+  ASSERT_TRUE(first.Write(BytesOf("first")));
+  EXPECT_FALSE(WriteWhole(path, "second", ReadOnlyFile::Replaced));
+  EXPECT_TRUE(first.Close());
+  EXPECT_EQ(ReadAll(path), "first");
+  EXPECT_EQ(Folders().Files(folder.Path(), "*.*"), std::vector<std::string>{"a.jpg"}) << "and leaves nothing beside it";
+}
+
+TEST(DiskFile, LeavesWhatWasWrittenOfAFileThatIsNotFinished) {
+  const TemporaryFolder folder;
+  const std::string path = folder.MakeFile("a.jpg", "former");
+  {
+    DiskFile file;
+    ASSERT_TRUE(file.Open(path, ReadOnlyFile::Replaced));
+    ASSERT_TRUE(file.Write(BytesOf(std::string(100000, 'n'))));
+  }
+  EXPECT_EQ(ReadAll(path), std::string(100000, 'n'));
 }
 
 TEST(DiskFile, RefusesWhatIsNoPlaceForAFile) {
   const TemporaryFolder folder;
   folder.MakeFolder("folder.ico");
   folder.MakeFile(R"(folder.ico\inside)");
-  for (const std::string& path : {folder.In("folder.ico"), folder.In(R"(none\a.ico)"), folder.In("a?.ico"),
-                                  std::string(), std::string("NUL"), std::string(R"(Q:\a.ico)")}) {
-    EXPECT_FALSE(WriteWhole(path, "new")) << path;
+  for (const std::string& path :
+       {folder.In("folder.ico"), folder.In(R"(none\a.ico)"), folder.In("a?.ico"), std::string(), std::string("NUL"),
+        std::string("nul.jpg"), std::string("CON"), std::string("COM9"), std::string("LPT9.gif"), folder.In("NUL"),
+        std::string(R"(\\.\NUL)"), std::string(R"(Q:\a.ico)")}) {
+    for (const ReadOnlyFile readOnly : {ReadOnlyFile::Refused, ReadOnlyFile::Replaced})
+      EXPECT_FALSE(WriteWhole(path, "new", readOnly)) << path;
   }
   EXPECT_EQ(ReadAll(folder.In(R"(folder.ico\inside)")), "x");
-}
-
-TEST(DiskFile, RefusesAFileThatAnotherHoldsOpen) {
-  const TemporaryFolder folder;
-  const std::string path = folder.MakeFile("a.ico", "old");
-  const FileHandle held(
-      CreateFileW(ToWide(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-  ASSERT_TRUE(static_cast<bool>(held));
-  EXPECT_FALSE(WriteWhole(path, "new"));
-  EXPECT_EQ(ReadAll(path), "old");
-  EXPECT_EQ(Folders().Files(folder.Path(), "*.*"), std::vector<std::string>{"a.ico"}) << "and leaves nothing beside it";
-}
-
-TEST(DiskFile, WritesAnewAFileThatAnotherHoldsOpenAndLetsWrite) {
-  const TemporaryFolder folder;
-  const std::string path = folder.MakeFile("a.ico", "a long file that was here");
-  const FileHandle held(CreateFileW(ToWide(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                    OPEN_EXISTING, 0, nullptr));
-  ASSERT_TRUE(static_cast<bool>(held));
-  EXPECT_TRUE(WriteWhole(path, "new"));
-  EXPECT_EQ(ReadAll(path), "new");
-  EXPECT_EQ(Folders().Files(folder.Path(), "*.*"), std::vector<std::string>{"a.ico"}) << "and leaves nothing beside it";
+  EXPECT_TRUE(Folders().Files(folder.Path(), "*.*").empty());
 }
 
 TEST(DiskFile, WritesToAPathOfAnyLength) {
@@ -131,7 +136,7 @@ TEST(DiskFile, SaysNoWhereNothingIsOpen) {
   EXPECT_FALSE(file.Write(BytesOf("x")));
   EXPECT_FALSE(file.Close());
   const TemporaryFolder folder;
-  ASSERT_TRUE(file.Open(folder.In("a.ico")));
+  ASSERT_TRUE(file.Open(folder.In("a.ico"), ReadOnlyFile::Refused));
   EXPECT_TRUE(file.Close());
   EXPECT_FALSE(file.Close());
 }
@@ -139,12 +144,29 @@ TEST(DiskFile, SaysNoWhereNothingIsOpen) {
 TEST(DiskFile, LetsNobodyReadAHalfWrittenFile) {
   const TemporaryFolder folder;
   DiskFile file;
-  ASSERT_TRUE(file.Open(folder.In("a.ico")));
+  ASSERT_TRUE(file.Open(folder.In("a.ico"), ReadOnlyFile::Refused));
   ASSERT_TRUE(file.Write(BytesOf("x")));
   EXPECT_EQ(CreateFileW(ToWide(folder.In("a.ico")).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                         OPEN_EXISTING, 0, nullptr),
             INVALID_HANDLE_VALUE);
   EXPECT_TRUE(file.Close());
+}
+
+TEST(DiskFile, ReplacesAFileOfARelativeName) {
+  const TemporaryFolder folder;
+  folder.MakeFile("a.ico", "former");
+  std::wstring former(MAX_PATH, L'\0');
+  former.resize(GetCurrentDirectoryW(MAX_PATH, former.data()));
+  SetCurrentDirectoryW(ToWide(folder.Path()).c_str());
+  EXPECT_TRUE(WriteWhole("a.ico", "new"));
+  SetCurrentDirectoryW(former.c_str());
+  EXPECT_EQ(ReadAll(folder.In("a.ico")), "new");
+}
+
+TEST(FileLength, CountsBytes) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(FileLength(folder.MakeFile("a", std::string(1078, 'x'))), 1078U);
+  EXPECT_EQ(FileLength(folder.In("missing")), 0U);
 }
 
 }  // namespace

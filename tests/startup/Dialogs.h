@@ -16,7 +16,6 @@
 #include "export/FrmHotSpot.h"
 #include "forms/Application.h"
 #include "platform/DiskFile.h"
-#include "platform/DiskTarget.h"
 #include "platform/Surface.h"
 
 namespace tarvik::testing {
@@ -44,15 +43,12 @@ class Dialogs {
   std::unique_ptr<Form> HotSpotPicker() {
     return std::make_unique<FrmHotSpot>(application, state, [this]() -> const Surface& { return picture; });
   }
-  std::unique_ptr<Form> JpegOptions() {
-    return std::make_unique<fSaveJPG>(application, state, nullptr, files, targets);
-  }
+  std::unique_ptr<Form> JpegOptions() { return std::make_unique<fSaveJPG>(application, state, nullptr, files); }
   std::unique_ptr<Form> JpegComment() { return std::make_unique<fComment>(application, state); }
   std::unique_ptr<Form> GifOptions() {
-    return std::make_unique<FrmConvertGIF>(
-        application, state, nullptr,
-        FrmConvertGIF::Parts{[this]() -> const Surface& { return picture; }, files, targets,
-                             [](const std::string&) { return std::uint64_t{0}; }});
+    return std::make_unique<FrmConvertGIF>(application, state, nullptr,
+                                           FrmConvertGIF::Parts{[this]() -> const Surface& { return picture; }, files,
+                                                                [](const std::string&) { return std::uint64_t{0}; }});
   }
 
   Application application{GetModuleHandleW(nullptr)};
@@ -60,7 +56,6 @@ class Dialogs {
   std::vector<DriveListBox::Drive> drives{{"C:\\", "c:"}};
   Surface picture{385, 385, white};
   DiskFile files;
-  DiskTarget targets;
 };
 
 }  // namespace tarvik::testing

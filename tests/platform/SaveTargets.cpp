@@ -1,0 +1,177 @@
+#include "platform/SaveTargets.h"
+
+#include <windows.h>
+
+#include <gmock/gmock.h>
+
+#include <array>
+
+#include "driver/UnixProgram.h"
+#include "platform/FolderPath.h"
+#include "platform/Paths.h"
+#include "platform/TemporaryFolder.h"
+#include "platform/Text.h"
+
+namespace tarvik::testing {
+namespace {
+
+using end_to_end::RunUnix;
+using end_to_end::UnixQuoted;
+
+enum class Kind { Free, File, Link, LinkToNothing, SecondName, Folder, Pipe };
+
+constexpr DWORD notHeld = ~DWORD{0};
+constexpr DWORD readable = FILE_SHARE_READ;
+constexpr DWORD writable = FILE_SHARE_WRITE;
+constexpr DWORD removable = FILE_SHARE_DELETE;
+
+struct Row {
+  const char* what;
+  Kind kind;
+  bool readOnly;
+  DWORD heldWith;  // what another program that has it open shares it for
+  bool takes;      // a file of a format that refuses read-only files
+  bool takesOverReadOnly;
+};
+
+// Under Wine a link has the attributes of the file that it leads to, so that a link to a read-only file is one.
+constexpr std::array rows{
+    Row{"nothing", Kind::Free, false, notHeld, true, true},
+    Row{"a file", Kind::File, false, notHeld, true, true},
+    Row{"a read-only file", Kind::File, true, notHeld, false, true},
+    Row{"a link to a file", Kind::Link, false, notHeld, true, true},
+    Row{"a link to a read-only file", Kind::Link, true, notHeld, false, true},
+    Row{"a link to nothing", Kind::LinkToNothing, false, notHeld, true, true},
+    Row{"a second name of a file", Kind::SecondName, false, notHeld, true, true},
+    Row{"a folder", Kind::Folder, false, notHeld, false, false},
+    Row{"a pipe", Kind::Pipe, false, notHeld, false, false},
+    Row{"a file held alone", Kind::File, false, 0, false, false},
+    Row{"a file held, to be read", Kind::File, false, readable, false, false},
+    Row{"a file held, to be written", Kind::File, false, writable, true, true},
+    Row{"a file held, to be read and written", Kind::File, false, readable | writable, true, true},
+    Row{"a file held, to be removed", Kind::File, false, removable, false, false},
+    Row{"a file held, to be read and removed", Kind::File, false, readable | removable, false, false},
+    Row{"a file held, to be written and removed", Kind::File, false, writable | removable, true, true},
+    Row{"a file held, for all", Kind::File, false, readable | writable | removable, true, true},
+    Row{"a read-only file held, to be read and removed", Kind::File, true, readable | removable, false, false},
+    Row{"a link to a file held, to be read and written", Kind::Link, false, readable | writable, false, false},
+};
+
+const Row& RowOf(int number) {
+  return rows.at(static_cast<std::size_t>(number) - 1);
+}
+
+void WriteKept(const std::string& path) {
+  const FileHandle file(CreateFileW(LiteralPath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
+  DWORD written = 0;
+  EXPECT_NE(WriteFile(file.get(), "kept", 4, &written, nullptr), 0) << path;
+}
+
+void Run(const std::string& command) {
+  const auto answer = RunUnix(command);
+  EXPECT_EQ(answer.exitCode, 0) << command << ": " << answer.output;
+}
+
+std::string Quoted(const std::string& path) {
+  return UnixQuoted(ToWide(path));
+}
+
+DWORD AttributesOf(const std::string& path) {
+  return GetFileAttributesW(LiteralPath(path).c_str());
+}
+
+std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  WIN32_FIND_DATAW entry;
+  const FindHandle found(FindFirstFileW(LiteralPath(JoinPath(folder, "*")).c_str(), &entry));
+  do {
+    const std::string name = ToUtf8(entry.cFileName);
+    if (name != "." && name != "..") names.push_back(name);
+  } while (FindNextFileW(found.get(), &entry) != 0);
+  return names;
+}
+
+}  // namespace
+
+int SaveTargets::Count() {
+  return static_cast<int>(rows.size());
+}
+
+std::string SaveTargets::What(int number) {
+  return RowOf(number).what;
+}
+
+bool SaveTargets::TakesAFile(int number, ReadOnlyFile readOnly) {
+  return readOnly == ReadOnlyFile::Replaced ? RowOf(number).takesOverReadOnly : RowOf(number).takes;
+}
+
+SaveTargets::SaveTargets(std::string folder, std::string elsewhere,
+                         const std::function<std::string(int number)>& nameOf)
+    : folder_(std::move(folder)), elsewhere_(std::move(elsewhere)) {
+  for (int number = 1; number <= Count(); ++number) {
+    names_.push_back(nameOf(number));
+    Make(number);
+  }
+}
+
+SaveTargets::~SaveTargets() {
+  holders_.clear();
+  for (const std::string& folder : {folder_, elsewhere_})
+    RunUnix("cd " + Quoted(folder) + " && chmod -R u+w . && rm -rf -- *");
+}
+
+std::string SaveTargets::Path(int number) const {
+  return JoinPath(folder_, names_.at(static_cast<std::size_t>(number) - 1));
+}
+
+// The file that has to stay: the target itself, or what a link or a second name stands for.
+std::string SaveTargets::Kept(int number) const {
+  const Kind kind = RowOf(number).kind;
+  return kind == Kind::Link || kind == Kind::SecondName ? JoinPath(elsewhere_, std::to_string(number)) : Path(number);
+}
+
+void SaveTargets::Make(int number) {
+  const Row& row = RowOf(number);
+  const std::string path = Path(number);
+  const std::string kept = Kept(number);
+  if (row.kind == Kind::File || kept != path) WriteKept(kept);
+  if (row.kind == Kind::Link) Run("ln -s " + Quoted(kept) + ' ' + Quoted(folder_) + "/'" + names_.back() + '\'');
+  if (row.kind == Kind::LinkToNothing) Run("ln -s nothing " + Quoted(folder_) + "/'" + names_.back() + '\'');
+  if (row.kind == Kind::Pipe) Run("mkfifo " + Quoted(folder_) + "/'" + names_.back() + '\'');
+  if (row.kind == Kind::SecondName) {
+    EXPECT_NE(CreateHardLinkW(LiteralPath(path).c_str(), LiteralPath(kept).c_str(), nullptr), 0);
+  }
+  if (row.kind == Kind::Folder) {
+    EXPECT_NE(CreateDirectoryW(LiteralPath(path).c_str(), nullptr), 0);
+  }
+  if (row.readOnly) AddAttributes(kept, FILE_ATTRIBUTE_READONLY);
+  if (row.heldWith == notHeld) return;
+  holders_.emplace_back(
+      CreateFileW(LiteralPath(kept).c_str(), GENERIC_READ, row.heldWith, nullptr, OPEN_EXISTING, 0, nullptr));
+  EXPECT_TRUE(holders_.back()) << row.what;
+}
+
+void SaveTargets::ExpectSaved(const std::string& start, ReadOnlyFile readOnly) {
+  holders_.clear();
+  for (int number = 1; number <= Count(); ++number) {
+    const Row& row = RowOf(number);
+    const std::string path = Path(number);
+    if (TakesAFile(number, readOnly)) {
+      EXPECT_THAT(ReadAll(path), ::testing::StartsWith(start)) << row.what;
+      EXPECT_EQ(AttributesOf(path) & FILE_ATTRIBUTE_READONLY, 0U) << row.what;
+    }
+    if (row.kind == Kind::Folder) {
+      EXPECT_NE(AttributesOf(path) & FILE_ATTRIBUTE_DIRECTORY, 0U);
+    }
+    if (row.kind == Kind::Pipe)
+      Run("test -p " + Quoted(folder_) + "/'" + names_.at(static_cast<std::size_t>(number) - 1) + '\'');
+    const bool stays = row.kind == Kind::Link || row.kind == Kind::SecondName ||
+                       (row.kind == Kind::File && !TakesAFile(number, readOnly));
+    if (!stays) continue;
+    EXPECT_EQ(ReadAll(Kept(number)), "kept") << row.what;
+    EXPECT_EQ((AttributesOf(Kept(number)) & FILE_ATTRIBUTE_READONLY) != 0, row.readOnly) << row.what;
+  }
+  EXPECT_THAT(NamesIn(folder_), ::testing::UnorderedElementsAreArray(names_));
+}
+
+}  // namespace tarvik::testing
