@@ -12,6 +12,14 @@
 namespace tarvik::end_to_end {
 namespace {
 
+// One of the batch commands and the names of its files.
+struct BatchOfFiles {
+  std::string name;
+  int command;
+  std::string prefix;
+  std::string extension;
+};
+
 class SaveBusy : public Saving {
  protected:
   static constexpr int many = 2000;
@@ -57,8 +65,8 @@ class SaveBusy : public Saving {
   }
 
   // Does something while a batch stands still in its middle, and lets it end.
-  void DuringBatch(const std::function<void()>& something) {
-    ChooseOut(FrmFindIcon_mnuSaveAll);
+  void DuringBatch(int command, const std::function<void()>& something) {
+    ChooseOut(command);
     StopAfter(few);
     const HCURSOR pointer = ShownPointer();
     something();
@@ -68,10 +76,12 @@ class SaveBusy : public Saving {
   }
 };
 
-TEST_F(SaveBusy, ABatchShowsThatItRunsAndTakesNoCommands) {
+class EveryBatch : public SaveBusy, public ::testing::WithParamInterface<BatchOfFiles> {};
+
+TEST_P(EveryBatch, ShowsThatItRunsAndTakesNoCommands) {
   FindMany();
-  DuringBatch([&] {
-    for (const int command : {FrmFindIcon_mnuExit, FrmFindIcon_mnuStart, FrmFindIcon_mnuSaveAs, FrmFindIcon_mnuSaveAll2,
+  DuringBatch(GetParam().command, [&] {
+    for (const int command : {FrmFindIcon_mnuExit, FrmFindIcon_mnuStart, FrmFindIcon_mnuSaveAs, FrmFindIcon_mnuSaveSel2,
                               FrmFindIcon_mnuCopy, FrmFindIcon_mnuRem, FrmFindIcon_MnuAbout, FrmFindIcon_CmdFind})
       program_.Command(command);
     program_.Window().Post(WM_CLOSE);
@@ -88,8 +98,15 @@ TEST_F(SaveBusy, ABatchShowsThatItRunsAndTakesNoCommands) {
   EXPECT_EQ(TextOf(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
   EXPECT_EQ(SavedNames().size(), static_cast<std::size_t>(many));
   for (const int number : {1, 7, 1000, many})
-    EXPECT_FALSE(testing::ReadAll(Out("Icon " + std::to_string(number) + ".ico")).empty()) << number;
+    EXPECT_FALSE(testing::ReadAll(Out(GetParam().prefix + std::to_string(number) + GetParam().extension)).empty())
+        << number;
 }
+
+INSTANTIATE_TEST_SUITE_P(SaveBusy, EveryBatch,
+                         ::testing::Values(BatchOfFiles{"Icons", FrmFindIcon_mnuSaveAll, "Icon ", ".ico"},
+                                           BatchOfFiles{"Images", FrmFindIcon_mnuSaveAll2, "Images ", ".bmp"},
+                                           BatchOfFiles{"Cursors", FrmFindIcon_mnuSaveAll3, "Curor ", ".cur"}),
+                         [](const auto& batch) { return batch.param.name; });
 
 TEST_F(SaveBusy, ABatchPaintsTheWindow) {
   FindMany();

@@ -2,7 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <cstdlib>
+#include <functional>
 
 #include "driver/SeenFiles.h"
 #include "end_to_end/SavingTest.h"
@@ -40,6 +42,45 @@ class SaveIcons : public Saving {
       }
     }
     return farthest;
+  }
+  // The three areas of a picture, which are plain, away from where they meet: a lossy file keeps them nearly.
+  static void ExpectAreas(const Pixels& pixels, int side, int entry) {
+    ASSERT_EQ(pixels.size(), static_cast<std::size_t>(side * side));
+    const Picture& picture = pictures.at(static_cast<std::size_t>(entry));
+    const int eighth = side / 8;
+    const auto at = [&](int x, int y) { return Pixels{pixels[static_cast<std::size_t>(y * side + x)]}; };
+    constexpr int near = 8;
+    EXPECT_LE(FarthestChannel(at(eighth, eighth), {0xFF000000 | picture.left}), near) << entry;
+    EXPECT_LE(FarthestChannel(at(side - eighth, eighth), {0xFF000000 | picture.right}), near) << entry;
+    EXPECT_LE(FarthestChannel(at(side / 2, side - eighth), {0xFFFFFFFF}), near) << entry;
+  }
+  // The bits of a picture of black and white, in an icon file of the size: rows from the bottom up, each filled up to
+  // these many bytes (to two more than it should be at 64 pixels, which other programs do not read as it is meant).
+  static std::string BitsOf(const std::function<bool(int x, int y)>& isWhite, int side) {
+    constexpr std::array rowBytes{4, 4, 8, 10};
+    std::string bits;
+    for (int y = side - 1; y >= 0; --y) {
+      std::string row(static_cast<std::size_t>(rowBytes.at(static_cast<std::size_t>(side) / 16 - 1)), '\0');
+      for (int x = 0; x < side; ++x) {
+        if (isWhite(x, y)) row[static_cast<std::size_t>(x / 8)] |= static_cast<char>(0x80 >> x % 8);
+      }
+      bits += row;
+    }
+    return bits;
+  }
+  // The first picture at a size: its image and its mask.
+  static void ExpectFirstIcon(const std::string& file, int side) {
+    constexpr std::size_t imagePlace = 6 + 16 + 40 + 8;
+    const auto image = [side](int x, int y) { return y < side / 2 && x >= side / 2; };
+    const auto mask = [side](int /*x*/, int y) { return y >= side / 2; };
+    ASSERT_GT(file.size(), imagePlace);
+    EXPECT_EQ(file.substr(imagePlace), BitsOf(image, side) + BitsOf(mask, side)) << side;
+  }
+  static Pixels FirstComposed(int side) {
+    Pixels pixels;
+    for (int y = 0; y < side; ++y)
+      for (int x = 0; x < side; ++x) pixels.push_back(y < side / 2 && x < side / 2 ? 0xFF000000 : 0xFFFFFFFF);
+    return pixels;
   }
   void TypeComment(const Dialog& options, const std::string& text) const {
     options.Press(fSaveJPG_cmdComment);
@@ -158,6 +199,14 @@ TEST_F(SaveIcons, EachSizeIsSavedAsItIsShown) {
       EXPECT_THAT(files[side + extension].told, HasSubstr(std::string(side).append("x").append(side))) << extension;
     EXPECT_THAT(files[side + ".gif"].told,
                 HasSubstr(std::string("Width = ").append(side).append(", Height = ").append(side)));
+    const int pixels = std::stoi(side);
+    ExpectFirstIcon(testing::ReadAll(Out(side + ".ico")), pixels);
+    EXPECT_EQ(files[side + ".gif"].pixels, FirstComposed(pixels)) << side;
+    ExpectAreas(files[side + ".jpg"].pixels, pixels, 0);
+    // What the file of 64 pixels holds is not what it says it does.
+    if (pixels != 64) {
+      EXPECT_EQ(files[side + ".bmp"].pixels, FirstComposed(pixels)) << side;
+    }
   }
 }
 
@@ -281,8 +330,10 @@ TEST_F(SaveIcons, EachJpegOfABatchHasTheOptionsChosenOnce) {
   grey.End(fSaveJPG_cmdFinish1);
   ExpectAsFound();
 
-  const auto colored = SeeFiles(Out());
+  auto colored = SeeFiles(Out());
   EXPECT_EQ(colored.size(), 5U);
+  for (int entry = 0; entry < 5; ++entry)
+    ExpectAreas(colored["Images " + std::to_string(entry + 1) + ".jpg"].pixels, 32, entry);
   for (const auto& [name, file] : colored) {
     EXPECT_THAT(file.told, AllOf(HasSubstr("32x32 quality 80 sampling 2x1,1x1,1x1"), HasSubstr("all of them"))) << name;
     EXPECT_THAT(name, ::testing::MatchesRegex("Images .\\.jpg"));

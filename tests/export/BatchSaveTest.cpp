@@ -105,6 +105,34 @@ TEST_F(SaveCommandsTest, SavesNoBatchWhereNoFolderIsChosen) {
   EXPECT_THAT(script, ElementsAre("folder for .ICO", "folder for .bmp", "folder for .CUR"));
 }
 
+TEST_F(SaveCommandsTest, TakesNoOtherCommandDuringABatchOfAnyKind) {
+  List(2, {1, 2});
+  dialogs.folder = "D:\\out";
+  using Batch = void (SaveCommands::*)();
+  struct Row {
+    const char* name;
+    Batch batch;
+    const char* extension;
+  };
+  for (const Row& row :
+       {Row{"icons", &SaveCommands::mnuSaveAll_Click, ""}, Row{"selected icons", &SaveCommands::mnuSaveSel_Click, ""},
+        Row{"cursors", &SaveCommands::mnuSaveAll3_Click, ""},
+        Row{"selected cursors", &SaveCommands::mnuSaveSel3_Click, ""},
+        Row{"bitmaps", &SaveCommands::mnuSaveAll2_Click, ".bmp"},
+        Row{"selected bitmaps", &SaveCommands::mnuSaveSel2_Click, ".bmp"},
+        Row{"JPEGs", &SaveCommands::mnuSaveAll2_Click, ".jpg"},
+        Row{"GIFs", &SaveCommands::mnuSaveAll2_Click, ".gif"}}) {
+    dialogs.chosenExtension = row.extension;
+    window.heldWhenServed.clear();
+    int heldInChooser = 0;
+    dialogs.onShowDir = [&] { heldInChooser = window.held; };
+    (commands.*row.batch)();
+    EXPECT_EQ(heldInChooser, 1) << row.name;
+    EXPECT_EQ(window.heldWhenServed, (std::vector<int>{1, 1})) << row.name;
+    EXPECT_EQ(window.held, 0) << row.name;
+  }
+}
+
 TEST_F(SaveCommandsTest, SaysThatNoEntryIsSelectedBeforeItAsksForAFolder) {
   List(3);
   commands.mnuSaveSel_Click();

@@ -204,6 +204,46 @@ TEST_F(FrmFindIconExportTest, SavesABlankWhereTheFileYieldsNoIconAnyMore) {
   EXPECT_TRUE(boxes.Boxes().empty());
 }
 
+// An icon whose left half is opaque, whose right half lets what lies below it through, and inverts some of that.
+class HalfIcon final : public ExtractedIcon {
+ public:
+  static constexpr Color opaque = 0x20C040;
+  static constexpr Color inverting = 0x404000;
+
+  bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
+    if (step >= 1) return false;
+    const HDC dc = static_cast<DcSurface&>(surface).Dc();
+    const auto fill = [&](int from, int to, Color color) {
+      const RECT place{corner.x + from, corner.y, corner.x + to, corner.y + size};
+      const BrushHandle brush(CreateSolidBrush(color));
+      FillRect(dc, &place, brush.get());
+    };
+    fill(0, size / 2, part == DrawPart::Mask ? black : opaque);
+    if (part != DrawPart::Normal) fill(size / 2, size, part == DrawPart::Mask ? white : inverting);
+    return true;
+  }
+  int StepBound() const override { return 1; }
+};
+
+class HalfIcons final : public IconSource {
+ public:
+  int CountIcons(const std::string& /*path*/) override { return 1; }
+  std::unique_ptr<ExtractedIcon> Extract(const std::string& /*path*/, int /*index*/) override {
+    return std::make_unique<HalfIcon>();
+  }
+};
+
+TEST_F(FrmFindIconExportTest, CopiesWhatLiesBelowTheTransparentPixels) {
+  HalfIcons icons;
+  OpenOver(icons, machine);
+  Find(1);
+  Click(FrmFindIcon_mnuCopy);
+  const std::vector<Color> pasted = testing::Paste().pixels;
+  ASSERT_EQ(pasted.size(), 32U * 32U);
+  for (std::size_t i = 0; i < pasted.size(); ++i)
+    ASSERT_EQ(pasted[i], i % 32 < 16 ? HalfIcon::opaque : white ^ HalfIcon::inverting) << i;
+}
+
 TEST_F(FrmFindIconExportTest, CopiesMaskAndImageComposed) {
   Open();
   Find(4);
