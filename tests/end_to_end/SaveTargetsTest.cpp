@@ -18,9 +18,8 @@ class SaveOver : public Saving {
   // As many icons as there are targets.
   void SetUp() override {
     const std::array icon{testing::BitmapPicture(32, 4, 0x0000FF, 0xFF0000)};
-    tree_.MakeFolder("icons");
     for (int number = 1; number <= SaveTargets::Count(); ++number)
-      tree_.MakeFile("icons\\" + std::to_string(number) + ".ico", testing::IconFile(icon));
+      tree_.MakeFile(std::to_string(number) + ".ico", testing::IconFile(icon));
     Start();
     Find();
     ASSERT_EQ(List().RowCount(), SaveTargets::Count());

@@ -49,10 +49,10 @@ class SaveIcons : public Saving {
     const Picture& picture = pictures.at(static_cast<std::size_t>(entry));
     const int eighth = side / 8;
     const auto at = [&](int x, int y) { return Pixels{pixels[static_cast<std::size_t>(y * side + x)]}; };
-    constexpr int near = 8;
-    EXPECT_LE(FarthestChannel(at(eighth, eighth), {0xFF000000 | picture.left}), near) << entry;
-    EXPECT_LE(FarthestChannel(at(side - eighth, eighth), {0xFF000000 | picture.right}), near) << entry;
-    EXPECT_LE(FarthestChannel(at(side / 2, side - eighth), {0xFFFFFFFF}), near) << entry;
+    constexpr int closeEnough = 8;
+    EXPECT_LE(FarthestChannel(at(eighth, eighth), {0xFF000000 | picture.left}), closeEnough) << entry;
+    EXPECT_LE(FarthestChannel(at(side - eighth, eighth), {0xFF000000 | picture.right}), closeEnough) << entry;
+    EXPECT_LE(FarthestChannel(at(side / 2, side - eighth), {0xFFFFFFFF}), closeEnough) << entry;
   }
   // The bits of a picture of black and white, in an icon file of the size: rows from the bottom up, each filled up to
   // these many bytes (to two more than it should be at 64 pixels, which other programs do not read as it is meant).
