@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "platform/FolderPath.h"
+#include "base/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/IconFiles.h"
 #include "platform/Paths.h"

@@ -13,13 +13,13 @@
 #include "BenchData.h"
 #include "Measure.h"
 #include "OutputFolder.h"
+#include "base/FolderPath.h"
 #include "export/IconSurfaces.h"
 #include "export/ModMicroArt.h"
 #include "export/ModMicroArtFileIO.h"
 #include "platform/DiskFile.h"
-#include "platform/FolderPath.h"
 #include "platform/Handles.h"
-#include "platform/ShellIcons.h"
+#include "search/icons/ShellIcons.h"
 
 namespace tarvik::bench {
 namespace {

@@ -14,15 +14,15 @@
 #include "MainWindow.h"
 #include "Measure.h"
 #include "forms/Application.h"
-#include "platform/Folders.h"
 #include "platform/GdiObjects.h"
 #include "platform/Handles.h"
 #include "platform/Holdings.h"
 #include "platform/Paths.h"
-#include "platform/ShellIcons.h"
 #include "platform/Surface.h"
 #include "platform/Text.h"
 #include "search/SearchDriver.h"
+#include "search/icons/Folders.h"
+#include "search/icons/ShellIcons.h"
 
 namespace tarvik::bench {
 namespace {

@@ -7,11 +7,11 @@
 #include "export/AnsweredDialogs.h"
 #include "export/TemporaryBitmap.h"
 #include "platform/DiskFile.h"
-#include "platform/Folders.h"
 #include "platform/Paths.h"
-#include "platform/ShellIcons.h"
 #include "resource.h"
-#include "search/FrmFindIcon.h"
+#include "search/icons/Folders.h"
+#include "search/icons/ShellIcons.h"
+#include "search/window/FrmFindIcon.h"
 
 namespace tarvik::bench {
 namespace {

@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "platform/FolderPath.h"
+#include "base/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"

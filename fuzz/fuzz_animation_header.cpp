@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "FuzzInput.h"
-#include "search/AnimationHeader.h"
+#include "search/icons/AnimationHeader.h"
 
 namespace tarvik {
 namespace {

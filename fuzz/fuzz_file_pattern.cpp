@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "FuzzInput.h"
-#include "search/Characters.h"
-#include "search/FilePattern.h"
+#include "base/Characters.h"
+#include "search/icons/FilePattern.h"
 
 namespace tarvik {
 namespace {

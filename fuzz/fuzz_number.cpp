@@ -2,7 +2,7 @@
 #include <optional>
 
 #include "FuzzInput.h"
-#include "numbers/Conversion.h"
+#include "base/Conversion.h"
 
 namespace tarvik {
 namespace {

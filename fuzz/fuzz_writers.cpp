@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "FuzzInput.h"
-#include "export/FileSink.h"
+#include "base/FileSink.h"
 #include "export/ModMicroArt.h"
 #include "export/ModMicroArtFileIO.h"
 

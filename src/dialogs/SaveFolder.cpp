@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/AsciiCase.h"
+#include "base/AsciiCase.h"
 
 namespace tarvik {
 

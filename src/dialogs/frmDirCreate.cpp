@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "base/FolderPath.h"
 #include "dialogs/FolderDialogTexts.h"
 #include "forms/MessageBox.h"
-#include "platform/FolderPath.h"
 #include "resource.h"
 #include "startup/FormPlacement.h"
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "export/PixelView.h"
+#include "base/PixelView.h"
 
 namespace tarvik {
 

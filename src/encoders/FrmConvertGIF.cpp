@@ -4,10 +4,10 @@
 
 #include <utility>
 
+#include "base/FolderPath.h"
 #include "encoders/DialogTexts.h"
 #include "encoders/GifOptions.h"
 #include "forms/MousePointer.h"
-#include "platform/FolderPath.h"
 #include "platform/Text.h"
 #include "resource.h"
 #include "startup/FormPlacement.h"

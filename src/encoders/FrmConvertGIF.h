@@ -7,9 +7,9 @@
 #include <optional>
 #include <string>
 
+#include "base/FileSink.h"
 #include "encoders/GifEncoder.h"
 #include "encoders/ImageDialogs.h"
-#include "export/FileSink.h"
 #include "forms/Form.h"
 #include "platform/Surface.h"
 #include "startup/ProgramState.h"

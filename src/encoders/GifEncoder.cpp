@@ -12,8 +12,8 @@
 
 #include <gif_lib.h>
 
+#include "base/WholeFile.h"
 #include "encoders/IndexedPicture.h"
-#include "export/WholeFile.h"
 
 namespace tarvik {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "export/FileSink.h"
-#include "export/PixelView.h"
+#include "base/FileSink.h"
+#include "base/PixelView.h"
 
 namespace tarvik {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "export/PixelView.h"
+#include "base/PixelView.h"
 
 namespace tarvik {
 

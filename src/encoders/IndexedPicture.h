@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "export/PixelView.h"
+#include "base/PixelView.h"
 
 namespace tarvik {
 

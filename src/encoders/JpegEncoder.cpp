@@ -10,7 +10,7 @@
 
 #include <jpeglib.h>
 
-#include "export/WholeFile.h"
+#include "base/WholeFile.h"
 
 namespace tarvik {
 namespace {

@@ -3,10 +3,10 @@
 #include <optional>
 #include <string>
 
+#include "base/FileSink.h"
+#include "base/PixelView.h"
 #include "encoders/ImageDialogs.h"
 #include "encoders/JpegEncoder.h"
-#include "export/FileSink.h"
-#include "export/PixelView.h"
 
 namespace tarvik {
 

@@ -4,10 +4,10 @@
 
 #include <string>
 
+#include "base/FileSink.h"
 #include "encoders/ImageDialogs.h"
 #include "encoders/JpegExport.h"
 #include "encoders/fComment.h"
-#include "export/FileSink.h"
 #include "forms/Form.h"
 #include "forms/ScrollBar.h"
 #include "startup/ProgramState.h"

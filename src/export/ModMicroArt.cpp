@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <span>
 
-#include "export/ColorIndex.h"
+#include "base/ColorIndex.h"
+#include "base/PixelCopy.h"
 #include "export/ModPalette.h"
-#include "export/PixelCopy.h"
 
 namespace tarvik::ModMicroArt {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "export/PixelView.h"
-#include "search/IconList.h"
-#include "search/IconSource.h"
+#include "base/PixelView.h"
+#include "search/icons/IconList.h"
+#include "search/icons/IconSource.h"
 
 // Taking one icon as pixels, and the choice of how many colours its file has.
 namespace tarvik::ModMicroArt {

@@ -4,11 +4,11 @@
 #include <cstdint>
 #include <span>
 
+#include "base/PixelCopy.h"
+#include "base/WholeFile.h"
 #include "export/FileFormats.h"
 #include "export/ModPalette.h"
-#include "export/PixelCopy.h"
 #include "export/PixelWriters.h"
-#include "export/WholeFile.h"
 
 namespace tarvik::ModMicroArtFileIO {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "export/ByteWriter.h"
-#include "export/FileSink.h"
+#include "base/ByteWriter.h"
+#include "base/FileSink.h"
+#include "base/Integer16.h"
+#include "base/PixelView.h"
 #include "export/ModMicroArt.h"
-#include "export/PixelView.h"
-#include "numbers/Integer16.h"
 
 // Writes one captured icon as a file: icon, cursor or Windows bitmap, at the size of its surfaces and the depth of its
 // colour class. The layouts are those of Windows icon resources and device-independent bitmaps, with a few fixed

@@ -1,7 +1,7 @@
 #include "export/ModPalette.h"
 
-#include "export/ColorIndex.h"
-#include "export/PixelCopy.h"
+#include "base/ColorIndex.h"
+#include "base/PixelCopy.h"
 
 namespace tarvik::ModPalette {
 

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "export/PixelView.h"
+#include "base/PixelView.h"
 
 namespace tarvik {
 class PixelCopy;

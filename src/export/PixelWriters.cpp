@@ -6,7 +6,7 @@
 #include <optional>
 #include <span>
 
-#include "export/ColorIndex.h"
+#include "base/ColorIndex.h"
 
 namespace tarvik::ModMicroArtFileIO {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <cstddef>
 
-#include "export/ByteWriter.h"
+#include "base/ByteWriter.h"
+#include "base/PixelCopy.h"
 #include "export/ModPalette.h"
-#include "export/PixelCopy.h"
 
 // The pixels of a picture as a file holds them, one writer for each depth. All append the bottom row first, each row
 // from left to right, and none pads rows but as it says. A row past its end has no pixels: the rest of a last byte is 0

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <string_view>
 
+#include "base/AsciiCase.h"
 #include "export/ModMicroArt.h"
 #include "export/ModMicroArtFileIO.h"
 #include "export/SaveTexts.h"
-#include "platform/AsciiCase.h"
 
 namespace tarvik {
 namespace {

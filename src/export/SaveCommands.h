@@ -4,10 +4,10 @@
 #include <memory>
 #include <string>
 
-#include "export/FileSink.h"
+#include "base/FileSink.h"
 #include "export/SaveWindow.h"
-#include "search/IconList.h"
 #include "search/SearchWindow.h"
+#include "search/icons/IconList.h"
 #include "startup/Language.h"
 #include "startup/ProgramState.h"
 

@@ -3,9 +3,9 @@
 #include <memory>
 #include <string>
 
+#include "base/PixelView.h"
 #include "encoders/ImageDialogs.h"
 #include "export/FileDialogModes.h"
-#include "export/PixelView.h"
 
 namespace tarvik {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "numbers/RuntimeError.h"
+#include "base/RuntimeError.h"
 
 namespace tarvik {
 

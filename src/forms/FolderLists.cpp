@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "platform/FolderPath.h"
+#include "base/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "grid/GridGeometry.h"
-#include "search/IconSource.h"
+#include "search/icons/IconSource.h"
 
 namespace tarvik {
 

@@ -1,6 +1,6 @@
 #include "grid/HitTest.h"
 
-#include "numbers/Conversion.h"
+#include "base/Conversion.h"
 
 namespace tarvik {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "export/FileSink.h"
+#include "base/FileSink.h"
 #include "platform/Handles.h"
 
 namespace tarvik {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "platform/FolderPath.h"
+#include "base/FolderPath.h"
 #include "platform/Text.h"
 
 namespace tarvik {

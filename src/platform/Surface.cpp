@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "numbers/RuntimeError.h"
+#include "base/RuntimeError.h"
 #include "platform/Handles.h"
 
 namespace tarvik {

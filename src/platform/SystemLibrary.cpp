@@ -1,6 +1,6 @@
 #include "platform/SystemLibrary.h"
 
-#include "platform/FolderPath.h"
+#include "base/FolderPath.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
 

@@ -4,7 +4,7 @@
 
 #include <atomic>
 
-#include "numbers/RuntimeError.h"
+#include "base/RuntimeError.h"
 
 namespace tarvik {
 

@@ -3,8 +3,8 @@
 #include <array>
 #include <utility>
 
-#include "numbers/Conversion.h"
-#include "search/Characters.h"
+#include "base/Characters.h"
+#include "base/Conversion.h"
 #include "search/SearchTexts.h"
 
 namespace tarvik {

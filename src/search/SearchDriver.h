@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "grid/GridView.h"
-#include "search/IconList.h"
-#include "search/IconSource.h"
 #include "search/SearchFolders.h"
 #include "search/SearchWindow.h"
+#include "search/icons/IconList.h"
+#include "search/icons/IconSource.h"
 #include "startup/Language.h"
 
 namespace tarvik {

@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
+#include "base/Integer16.h"
 #include "grid/GridGeometry.h"
-#include "numbers/Integer16.h"
 
 namespace tarvik {
 

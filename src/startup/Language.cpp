@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/AsciiCase.h"
+#include "base/AsciiCase.h"
 
 namespace tarvik {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "numbers/Conversion.h"
+#include "base/Conversion.h"
 
 namespace tarvik {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "numbers/Integer16.h"
+#include "base/Integer16.h"
 #include "startup/Language.h"
 
 namespace tarvik {

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "numbers/RuntimeError.h"
+#include "base/RuntimeError.h"
 
 namespace tarvik {
 

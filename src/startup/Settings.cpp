@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/AsciiCase.h"
+#include "base/AsciiCase.h"
 
 namespace tarvik {
 namespace {

@@ -1,6 +1,6 @@
 #include "startup/basInitEntry.h"
 
-#include "numbers/Integer16.h"
+#include "base/Integer16.h"
 #include "startup/MessageTexts.h"
 
 namespace tarvik::basInitEntry {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "numbers/Integer16.h"
-#include "search/IconList.h"
+#include "base/Integer16.h"
+#include "search/icons/IconList.h"
 
 namespace tarvik {
 

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-#include "numbers/Conversion.h"
+#include "base/Conversion.h"
 #include "startup/Placement.h"
 
 namespace tarvik {

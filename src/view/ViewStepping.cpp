@@ -1,6 +1,6 @@
 #include "view/ViewStepping.h"
 
-#include "numbers/RuntimeError.h"
+#include "base/RuntimeError.h"
 #include "view/ViewTexts.h"
 
 namespace tarvik {

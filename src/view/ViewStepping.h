@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "numbers/Integer16.h"
+#include "base/Integer16.h"
 #include "view/EnhancedViewHost.h"
 
 namespace tarvik {

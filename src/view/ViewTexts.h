@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "resource.h"
-#include "search/IconList.h"
+#include "search/icons/IconList.h"
 #include "startup/FormTexts.h"
 
 namespace tarvik {

@@ -5,11 +5,11 @@
 #include <map>
 #include <vector>
 
+#include "base/FolderPath.h"
 #include "dialogs/FolderDialogTexts.h"
 #include "forms/BoxWatcher.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
-#include "platform/FolderPath.h"
 #include "resource.h"
 
 namespace tarvik {

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "export/FileSink.h"
-#include "export/PixelView.h"
+#include "base/FileSink.h"
+#include "base/PixelView.h"
 
 namespace tarvik {
 

@@ -8,12 +8,12 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "base/FolderPath.h"
 #include "damaged_files/DamagedFiles.h"
 #include "end_to_end/EndToEndTest.h"
-#include "platform/FaultGuard.h"
-#include "platform/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/Holdings.h"
+#include "search/icons/FaultGuard.h"
 
 namespace tarvik::end_to_end {
 namespace {

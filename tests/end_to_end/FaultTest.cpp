@@ -7,9 +7,9 @@
 #include <filesystem>
 #include <fstream>
 
+#include "base/FolderPath.h"
 #include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
-#include "platform/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/IconFiles.h"
 #include "platform/PastedPicture.h"

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
+#include "base/FolderPath.h"
 #include "end_to_end/SavingTest.h"
-#include "platform/FolderPath.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {

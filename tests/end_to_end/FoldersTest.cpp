@@ -3,10 +3,10 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
+#include "base/FolderPath.h"
 #include "driver/Input.h"
 #include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
-#include "platform/FolderPath.h"
 
 namespace tarvik::end_to_end {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "base/FolderPath.h"
 #include "end_to_end/EndToEndTest.h"
-#include "platform/FolderPath.h"
 #include "platform/IconFiles.h"
 #include "platform/Text.h"
 

@@ -6,9 +6,9 @@
 #include <map>
 #include <sstream>
 
+#include "base/FolderPath.h"
 #include "driver/UnixProgram.h"
 #include "end_to_end/EndToEndTest.h"
-#include "platform/FolderPath.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
 

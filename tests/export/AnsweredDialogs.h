@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "export/ExportDialogs.h"
 #include "platform/DiskFile.h"
+#include "search/window/ExportDialogs.h"
 
 namespace tarvik::testing {
 

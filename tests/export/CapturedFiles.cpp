@@ -4,12 +4,12 @@
 
 #include <array>
 
+#include "base/FolderPath.h"
 #include "export/SeenPixels.h"
 #include "platform/DiskFile.h"
-#include "platform/FolderPath.h"
 #include "platform/IconFiles.h"
 #include "platform/Paths.h"
-#include "platform/ShellIcons.h"
+#include "search/icons/ShellIcons.h"
 
 namespace tarvik::testing {
 namespace {

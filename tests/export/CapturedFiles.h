@@ -7,7 +7,7 @@
 #include "export/ModMicroArtFileIO.h"
 #include "export/TestRaster.h"
 #include "platform/TemporaryFolder.h"
-#include "search/IconList.h"
+#include "search/icons/IconList.h"
 
 namespace tarvik::testing {
 

@@ -12,12 +12,12 @@
 #include <string>
 #include <vector>
 
+#include "base/FolderPath.h"
 #include "export/CapturedFiles.h"
 #include "export/FileFormats.h"
-#include "platform/FolderPath.h"
 #include "platform/Handles.h"
-#include "platform/ShellIcons.h"
 #include "platform/Text.h"
+#include "search/icons/ShellIcons.h"
 
 namespace tarvik {
 namespace {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "export/PixelView.h"
+#include "base/PixelView.h"
 
 namespace tarvik {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "export/FileSink.h"
+#include "base/FileSink.h"
 
 namespace tarvik {
 

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "export/PixelCopy.h"
+#include "base/PixelCopy.h"
 #include "export/TestRaster.h"
 
 namespace tarvik::ModPalette {

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "export/PixelView.h"
+#include "base/PixelView.h"
 #include "export/TestRaster.h"
 
 namespace tarvik {

@@ -14,10 +14,10 @@
 #include <span>
 #include <string>
 
-#include "export/FileSink.h"
+#include "base/FileSink.h"
+#include "base/WholeFile.h"
 #include "export/ModMicroArtFileIO.h"
 #include "export/TestRaster.h"
-#include "export/WholeFile.h"
 
 namespace tarvik {
 namespace {

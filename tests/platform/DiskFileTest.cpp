@@ -8,12 +8,12 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/FolderPath.h"
-#include "platform/Folders.h"
+#include "base/FolderPath.h"
 #include "platform/Paths.h"
 #include "platform/SaveTargets.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
+#include "search/icons/Folders.h"
 
 namespace tarvik {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "export/PixelView.h"
+#include "base/PixelView.h"
 
 namespace tarvik::testing {
 

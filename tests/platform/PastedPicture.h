@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "export/PixelView.h"
+#include "base/PixelView.h"
 
 namespace tarvik::testing {
 

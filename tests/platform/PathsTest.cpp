@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "platform/FolderPath.h"
+#include "base/FolderPath.h"
 #include "platform/Text.h"
 
 namespace tarvik {

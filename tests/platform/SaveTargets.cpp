@@ -6,8 +6,8 @@
 
 #include <array>
 
+#include "base/FolderPath.h"
 #include "driver/UnixProgram.h"
-#include "platform/FolderPath.h"
 #include "platform/Paths.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"

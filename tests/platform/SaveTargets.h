@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "export/FileSink.h"
+#include "base/FileSink.h"
 #include "platform/Handles.h"
 
 namespace tarvik::testing {

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/Folders.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
+#include "search/icons/Folders.h"
 
 namespace tarvik {
 namespace {

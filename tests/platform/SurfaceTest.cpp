@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "numbers/RuntimeError.h"
+#include "base/RuntimeError.h"
 
 namespace tarvik {
 namespace {

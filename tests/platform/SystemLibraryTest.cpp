@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "platform/FolderPath.h"
+#include "base/FolderPath.h"
 #include "platform/Paths.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"

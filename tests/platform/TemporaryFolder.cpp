@@ -5,7 +5,7 @@
 
 #include <array>
 
-#include "platform/FolderPath.h"
+#include "base/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "grid/GridView.h"
-#include "search/IconSource.h"
 #include "search/SearchFolders.h"
 #include "search/SearchWindow.h"
+#include "search/icons/IconSource.h"
 
 namespace tarvik {
 

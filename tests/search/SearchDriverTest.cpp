@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "numbers/RuntimeError.h"
+#include "base/RuntimeError.h"
 #include "search/SearchDriverFixture.h"
 
 namespace tarvik {

@@ -6,7 +6,7 @@
 #include <new>
 #include <string>
 
-#include "numbers/RuntimeError.h"
+#include "base/RuntimeError.h"
 #include "search/SearchDriverFixture.h"
 
 namespace tarvik {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "search/FindIconFixture.h"
+#include "search/window/FindIconFixture.h"
 #include "startup/TextChecks.h"
 
 namespace tarvik {

@@ -12,7 +12,7 @@
 
 #include "platform/Handles.h"
 #include "resource.h"
-#include "search/FindIconFixture.h"
+#include "search/window/FindIconFixture.h"
 #include "startup/Dialogs.h"
 #include "startup/FrmSpash.h"
 #include "startup/LayoutChecks.h"

@@ -6,8 +6,8 @@
 
 #include <string>
 
+#include "base/FolderPath.h"
 #include "forms/Application.h"
-#include "platform/FolderPath.h"
 #include "platform/Paths.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"

@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <vector>
 
+#include "base/PixelView.h"
 #include "driver/Program.h"
-#include "export/PixelView.h"
 
 namespace tarvik::end_to_end {
 

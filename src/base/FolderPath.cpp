@@ -1,0 +1,70 @@
+#include "base/FolderPath.h"
+
+#include <algorithm>
+
+#include "base/AsciiCase.h"
+
+namespace tarvik {
+namespace {
+
+constexpr char separator = '\\';
+constexpr std::size_t driveRootLength = 3;  // "C:\"
+
+bool IsNetworkPath(std::string_view path) {
+  return path.starts_with("\\\\");
+}
+
+bool HasDrive(std::string_view path) {
+  return path.size() >= 2 && path[1] == ':';
+}
+
+// How many characters of the path are its root: "C:\" or "\\server\share".
+std::size_t RootLength(std::string_view path) {
+  if (!IsNetworkPath(path)) return std::min(path.size(), driveRootLength);
+  const auto share = path.find(separator, 2);
+  if (share == std::string_view::npos) return path.size();
+  return std::min(path.size(), path.find(separator, share + 1));
+}
+
+}  // namespace
+
+std::string TidyFolderPath(std::string_view path) {
+  std::string tidy(path);
+  std::ranges::replace(tidy, '/', separator);
+  if (HasDrive(tidy)) {
+    tidy[0] = UpperAscii(tidy[0]);
+    if (tidy.size() == 2) tidy += separator;
+  }
+  while (tidy.size() > RootLength(tidy) && tidy.ends_with(separator)) tidy.pop_back();
+  return tidy;
+}
+
+std::vector<std::string> FolderChain(const std::string& path) {
+  std::vector<std::string> chain;
+  std::size_t end = RootLength(path);
+  if (end > 0) chain.push_back(path.substr(0, end));
+  while (end < path.size()) {
+    const auto start = path[end] == separator ? end + 1 : end;
+    end = std::min(path.size(), path.find(separator, start));
+    chain.push_back(path.substr(0, end));
+  }
+  return chain;
+}
+
+std::string ParentFolder(const std::string& path) {
+  const std::vector<std::string> chain = FolderChain(path);
+  return chain.size() < 2 ? path : chain[chain.size() - 2];
+}
+
+std::string FolderName(const std::string& path) {
+  if (path.size() <= RootLength(path)) return path;
+  return path.substr(path.find_last_of(separator) + 1);
+}
+
+std::string JoinPath(std::string_view folder, std::string_view name) {
+  std::string path(folder);
+  if (!path.empty() && !path.ends_with(separator)) path += separator;
+  return path.append(name);
+}
+
+}  // namespace tarvik

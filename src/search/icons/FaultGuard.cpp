@@ -1,0 +1,79 @@
+#include "search/icons/FaultGuard.h"
+
+#include <windows.h>
+
+#include <csetjmp>
+
+namespace tarvik {
+namespace {
+
+// Where the guarded call of this thread was made; null while there is none.
+thread_local jmp_buf* returnPlace = nullptr;
+
+[[noreturn]] void LeaveCall() {
+  jmp_buf* const place = returnPlace;
+  returnPlace = nullptr;
+  std::longjmp(*place, 1);
+}
+
+// What a damaged file can lead to: an offset or a count beyond it, the file gone from under its mapping, a size of 0
+// that something is divided by, or a quotient that does not fit. Everything else says that more is wrong than a file:
+// an illegal instruction, a breakpoint, a stack that overflows, or a jump to where there is no code.
+bool IsFaultOfReading(const EXCEPTION_RECORD& exception) {
+  switch (exception.ExceptionCode) {
+    case EXCEPTION_ACCESS_VIOLATION:
+      return exception.NumberParameters == 0 || exception.ExceptionInformation[0] != EXCEPTION_EXECUTE_FAULT;
+    case EXCEPTION_IN_PAGE_ERROR:
+    case EXCEPTION_INT_DIVIDE_BY_ZERO:
+    case EXCEPTION_INT_OVERFLOW:
+      return true;
+    default:
+      return false;
+  }
+}
+
+// The module that the instruction is in; null if it is in none.
+void* ModuleOf(PVOID instruction) {
+  void* module = nullptr;
+  return RtlPcToFileHeader(instruction, &module);
+}
+
+// Whether the instruction is this program's own, whose faults must not be hidden. All others are the system's: also
+// those in no module, because Wine reads files partly in libraries of the machine below it, which are none.
+bool IsOfProgram(PVOID instruction) {
+  return ModuleOf(instruction) == ModuleOf(reinterpret_cast<void*>(&LeaveCall));
+}
+
+// Lets the thread go on in LeaveCall instead of where it faulted. It leaves from there and not from here, so that
+// the system ends its own work on the exception first.
+LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
+  if (returnPlace == nullptr) return EXCEPTION_CONTINUE_SEARCH;
+  const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
+  if (!IsFaultOfReading(record) || IsOfProgram(record.ExceptionAddress)) return EXCEPTION_CONTINUE_SEARCH;
+
+  // A function is entered with its stack 8 bytes off a multiple of 16, above the caller's room for four arguments.
+  constexpr DWORD64 argumentRoom = 32;
+  constexpr DWORD64 returnAddressSize = 8;
+  CONTEXT& state = *exception->ContextRecord;
+  state.Rsp = (state.Rsp - argumentRoom) / 16 * 16 - returnAddressSize;
+  state.Rip = reinterpret_cast<DWORD64>(&LeaveCall);
+  return EXCEPTION_CONTINUE_EXECUTION;
+}
+
+}  // namespace
+
+bool CallSurvivesFault(void (*call)(void* context), void* context) {
+  // First in line and for the whole run; without a guarded call it passes every exception on.
+  [[maybe_unused]] static void* const handler = AddVectoredExceptionHandler(1, OnException);
+
+  jmp_buf place;
+  // No frame is given, so that the jump restores the registers and unwinds nothing: frames of the system that were
+  // cut off need not be unwindable.
+  if (_setjmp(place, nullptr) != 0) return false;
+  returnPlace = &place;
+  call(context);
+  returnPlace = nullptr;
+  return true;
+}
+
+}  // namespace tarvik

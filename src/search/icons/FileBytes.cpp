@@ -1,0 +1,34 @@
+#include "search/icons/FileBytes.h"
+
+#include <windows.h>
+
+#include <limits>
+
+#include "platform/Paths.h"
+
+namespace tarvik {
+
+FileBytes::FileBytes(const std::string& path)
+    : file_(CreateFileW(LiteralPath(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                        nullptr, OPEN_EXISTING, 0, nullptr)) {
+  // A pipe or a device would let its reader wait.
+  if (file_ && GetFileType(file_.get()) != FILE_TYPE_DISK) file_.reset();
+}
+
+std::uint64_t FileBytes::Size() {
+  LARGE_INTEGER size{};
+  if (!file_ || GetFileSizeEx(file_.get(), &size) == 0) return 0;
+  return static_cast<std::uint64_t>(size.QuadPart);
+}
+
+bool FileBytes::Read(std::uint64_t offset, std::span<std::byte> bytes) {
+  if (!file_ || bytes.size() > std::numeric_limits<DWORD>::max()) return false;
+  OVERLAPPED place{};
+  place.Offset = static_cast<DWORD>(offset);
+  place.OffsetHigh = static_cast<DWORD>(offset >> 32U);
+  DWORD count = 0;
+  return ReadFile(file_.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, &place) != 0 &&
+         count == bytes.size();
+}
+
+}  // namespace tarvik

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+
+#include "platform/Handles.h"
+#include "search/icons/AnimationHeader.h"
+
+namespace tarvik {
+
+// The bytes of a file on disk. Others may go on using the file meanwhile. One that cannot be opened has no bytes.
+class FileBytes final : public ByteSource {
+ public:
+  // `path` is UTF-8.
+  explicit FileBytes(const std::string& path);
+
+  std::uint64_t Size() override;
+  bool Read(std::uint64_t offset, std::span<std::byte> bytes) override;
+
+ private:
+  FileHandle file_;
+};
+
+}  // namespace tarvik

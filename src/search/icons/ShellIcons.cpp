@@ -1,0 +1,157 @@
+#include "search/icons/ShellIcons.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <utility>
+
+#include "base/RuntimeError.h"
+#include "platform/Handles.h"
+#include "platform/Surface.h"
+#include "platform/SystemFunctions.h"
+#include "search/icons/AnimationHeader.h"
+#include "search/icons/FaultGuard.h"
+#include "search/icons/FileBytes.h"
+#include "search/icons/IconList.h"
+
+namespace tarvik {
+namespace {
+
+constexpr UINT countIndex = UINT_MAX;  // -1: how many icons there are
+constexpr UINT noFile = UINT_MAX;      // what the shell answers for a file it cannot read
+
+// Numbers of calls to remember besides those that take the icon of an index.
+constexpr int countCall = -1;
+constexpr int cursorCall = -2;
+
+// As many icons as one file is believed to hold on its word: a search lists so many at every size. More would have a
+// whole search refused for one file.
+constexpr int believedCount = 100;
+
+// Throws OutOfMemoryError if the process can make hardly any GDI object more. Asked after a failure only. So many are
+// left for the message that says so.
+void RequireGdiObjects() {
+  constexpr int reserve = 100;
+  std::array<BitmapHandle, reserve> probes;
+  for (BitmapHandle& probe : probes) {
+    probe.reset(CreateBitmap(1, 1, 1, 1, nullptr));
+    if (!probe) throw OutOfMemoryError();
+  }
+}
+
+class PlatformIcon final : public ExtractedIcon {
+ public:
+  PlatformIcon(IconHandle icon, int stepBound) : icon_(std::move(icon)), stepBound_(stepBound) {}
+
+  bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
+    if (step < 0 || step >= stepBound_) return false;
+    // Every surface icons are drawn on has a device context.
+    const HDC dc = static_cast<DcSurface&>(surface).Dc();
+    // The system blends an image that has an alpha channel over what is there. Black is the one colour that a
+    // transparent pixel of an icon file may have: any other changes what lies below the icon.
+    if (part == DrawPart::Image) PatBlt(dc, corner.x, corner.y, size, size, BLACKNESS);
+    const bool drawn = DrawIconEx(dc, corner.x, corner.y, icon_.get(), size, size, static_cast<UINT>(step), nullptr,
+                                  static_cast<UINT>(part)) != 0;
+    if (!drawn) RequireGdiObjects();
+    return drawn;
+  }
+
+  int StepBound() const override { return stepBound_; }
+
+ private:
+  IconHandle icon_;
+  int stepBound_;
+};
+
+std::unique_ptr<ExtractedIcon> Drawable(IconHandle icon, int stepBound) {
+  if (!icon) return nullptr;
+  return std::make_unique<PlatformIcon>(std::move(icon), stepBound);
+}
+
+// A cursor file starts with a zero and this number, an icon file with a zero and 1; both of 16 bits.
+bool IsStillCursor(ByteSource& file) {
+  std::array<std::byte, 4> start{};
+  constexpr std::array cursorStart{std::byte{0}, std::byte{0}, std::byte{2}, std::byte{0}};
+  return file.Read(0, start) && start == cursorStart;
+}
+
+}  // namespace
+
+template <typename Call>
+bool ShellIcons::Survives(const std::string& path, int call, Call&& make) {
+  if (cutOff_.Has(path, call)) return false;
+  if (SurvivesFault(make)) return true;
+  // Without GDI objects the system may break on any file, and that says nothing about this one.
+  RequireGdiObjects();
+  cutOff_.Remember(path, call);
+  return false;
+}
+
+IconHandle ShellIcons::ExtractLarge(const std::string& path, int index) {
+  HICON large = nullptr;
+  UINT extracted = 0;
+  const auto extract = late::ExtractIconExA.Get();  // the guarded call must not load anything
+  // The small icon is not asked for: nobody draws it, and its handle would have to be destroyed too.
+  const bool finished = Survives(path, index, [&] { extracted = extract(path.c_str(), index, &large, nullptr, 1); });
+  // Only a success says that the handle means something: Wine leaves other values in it than it found.
+  return finished && extracted != 0 && extracted != noFile ? IconHandle(large) : IconHandle();
+}
+
+IconHandle ShellIcons::LoadCursorFile(const std::string& path) {
+  HANDLE cursor = nullptr;
+  const bool finished = Survives(path, cursorCall, [&] {
+    cursor = LoadImageA(nullptr, path.c_str(), IMAGE_CURSOR, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON),
+                        LR_LOADFROMFILE);
+  });
+  return finished ? IconHandle(static_cast<HICON>(cursor)) : IconHandle();
+}
+
+// A picture of a file named ".ani": an animated cursor or, misnamed, a still picture.
+std::unique_ptr<ExtractedIcon> ShellIcons::ExtractSteps(const std::string& path, int index) {
+  FileBytes file(path);
+  const int steps = MostAnimationSteps(file);
+  IconHandle icon = ExtractLarge(path, index);
+  if (!icon && (HoldsWhatItSays(file) || IsStillCursor(file))) icon = LoadCursorFile(path);
+  return Drawable(std::move(icon), std::max(steps, 1));
+}
+
+// How many icons the shell says the file has; some systems tell it as it is written in the file.
+int ShellIcons::ClaimedIcons(const std::string& path) {
+  UINT count = 0;
+  const auto extract = late::ExtractIconExA.Get();  // as above
+  const bool finished = Survives(
+      path, countCall, [&] { count = extract(path.c_str(), static_cast<int>(countIndex), nullptr, nullptr, 0); });
+  return finished && count <= INT_MAX ? static_cast<int>(count) : 0;
+}
+
+// How many icons can be had of a file that claims more. From the end, it is looked for one that can be had in growing
+// steps, and from there upwards for the last one: only a hundred broken ones in a row hide those behind them.
+int ShellIcons::ExtractableIcons(const std::string& path, int claimed) {
+  int had = 0;
+  for (int step = 1, place = claimed - 1; place > 0 && had == 0; step *= 2) {
+    place = std::max(place - step, 0);
+    if (ExtractLarge(path, place)) had = place + 1;
+  }
+  for (int place = had; place < claimed && place < had + believedCount; ++place) {
+    if (ExtractLarge(path, place)) had = place + 1;
+  }
+  return had;
+}
+
+int ShellIcons::CountIcons(const std::string& path) {
+  const int claimed = ClaimedIcons(path);
+  if (claimed <= believedCount || ExtractLarge(path, claimed - 1)) return claimed;
+  return ExtractableIcons(path, claimed);
+}
+
+std::unique_ptr<ExtractedIcon> ShellIcons::Extract(const std::string& path, int index) {
+  auto icon = IsAnimatedCursorName(path) ? ExtractSteps(path, index) : Drawable(ExtractLarge(path, index), 1);
+  if (icon == nullptr) RequireGdiObjects();
+  return icon;
+}
+
+}  // namespace tarvik

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Handles.h"
+#include "search/icons/CutOffCalls.h"
+#include "search/icons/IconSource.h"
+
+namespace tarvik {
+
+// The icons in the files of this machine, as the shell takes them out; animated cursors, where the shell will not,
+// as the system loads cursors. A damaged file holds none, whatever the system makes of it; an icon on which the system
+// breaks is asked for once in a run. Icons draw on any DcSurface.
+//
+// Extract and the icons' Draw throw OutOfMemoryError if they fail because there are no GDI objects left, so that no
+// blank picture is taken for an icon.
+class ShellIcons final : public IconSource {
+ public:
+  int CountIcons(const std::string& path) override;
+  std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override;
+
+ private:
+  // Makes the call unless it had to be cut off before, and remembers if it has to be now. `call` is its number there.
+  template <typename Call>
+  bool Survives(const std::string& path, int call, Call&& make);
+
+  IconHandle ExtractLarge(const std::string& path, int index);
+  IconHandle LoadCursorFile(const std::string& path);
+  std::unique_ptr<ExtractedIcon> ExtractSteps(const std::string& path, int index);
+  int ClaimedIcons(const std::string& path);
+  int ExtractableIcons(const std::string& path, int claimed);
+
+  CutOffCalls cutOff_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "export/SaveCommands.h"
+#include "forms/FolderLists.h"
+#include "search/icons/FolderReader.h"
+#include "search/icons/IconSource.h"
+#include "startup/ProgramState.h"
+#include "startup/Settings.h"
+
+namespace tarvik {
+
+// What the main window stands on. All of it outlives the window.
+struct FindIconServices {
+  ProgramState& state;
+  Settings& settings;
+  IconSource& icons;
+  FolderReader& folders;
+  std::function<std::vector<DriveListBox::Drive>()> drives;
+  std::function<bool(const std::string& folder)> isReadableFolder;
+  std::string programFolder;
+  std::function<void()> showAbout;  // returns when the About box is closed
+  std::function<void()> openGuide;
+  SaveCommands::Tools saving;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,238 @@
+#include "search/window/FrmFindIcon.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <utility>
+
+#include "base/FolderPath.h"
+#include "platform/Handles.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "search/window/FrmFindIconTexts.h"
+#include "search/window/IconListRows.h"
+#include "startup/FormPlacement.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int firstSize = 1;  // "32 x 32"
+constexpr const char* firstPattern = "*.ico";
+constexpr const char* firstStatus = "Click the Start button to start search";
+
+// The section and keys of the settings file.
+constexpr const char* settingsSection = "FindIcon";
+constexpr const char* folderKey = "Folder";
+constexpr const char* subDirKey = "Subdir";
+
+// A step of an animation is tried out at (50, 50) of the window's own surface, at the grid's icon size.
+constexpr int ownSurfaceSide = 50 + 64;
+
+RECT PlaceOf(HWND form, HWND item) {
+  RECT place;
+  GetWindowRect(item, &place);
+  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+void Move(HWND item, int left, int top, int width, int height) {
+  SetWindowPos(item, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+bool IsInput(UINT message) {
+  return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) ||
+         (message >= WM_NCMOUSEMOVE && message <= WM_NCXBUTTONDBLCLK);
+}
+
+// The width of a control's text in its own font, in pixels.
+int TextWidth(HWND item) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(item, text.data(), static_cast<int>(text.size()))));
+  const WindowDc dc(item);
+  const Selected font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(item, WM_GETFONT, 0, 0)));
+  RECT place{};
+  DrawTextW(dc.get(), text.c_str(), -1, &place, DT_CALCRECT | DT_SINGLELINE);
+  return place.right;
+}
+
+}  // namespace
+
+FrmFindIcon::FrmFindIcon(Application& application, Services services)
+    : Form(application, Dialog_FrmFindIcon),
+      services_(std::move(services)),
+      ownSurface_(ownSurfaceSide, ownSurfaceSide, white),
+      driver_({*this, folders_, grid_, ownSurface_, services_.icons, list_, state_, services_.state.CurrentLanguage}),
+      selection_(*this, grid_, list_, state_, services_.state.CurrentLanguage),
+      surfaces_(state_.Geometry.IconSize),
+      commands_(*this, services_.saving, list_, state_, services_.state),
+      caption_([this](const std::string& text) { Form::SetCaption(text); }),
+      status_([this](const std::string& text) {
+        SendMessageW(Item(FrmFindIcon_sbMain), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
+      }) {}
+
+void FrmFindIcon::Form_Load() {
+  SetTexts(*this, findIconTexts, services_.state.CurrentLanguage);
+  AttachControls();
+  PlaceLimit();
+  basInitEntry::ApplySkinToForm(*this);
+  basInitEntry::CenterForm(*this);
+
+  EnableItem(FrmFindIcon_CmdOk, false);
+  const HWND sizes = Item(FrmFindIcon_CboIconSize);
+  for (const GridGeometry& geometry : gridGeometries) ComboBox_AddString(sizes, ToWide(geometry.Caption).c_str());
+  ComboBox_SetCurSel(sizes, firstSize);
+  CboIconSize_Click();
+  SetChecked(FrmFindIcon_ChkFileType0, true);
+  file1_.SetPattern(firstPattern);
+  SetStatusText(firstStatus);
+  OptView_Click(0);
+  LoadSettings();
+  UpdateSaveMenus();
+}
+
+void FrmFindIcon::AttachControls() {
+  drive1_.Attach(Item(FrmFindIcon_Drive1), services_.drives);
+  dir1_.Attach(
+      Item(FrmFindIcon_Dir1), [this](const std::string& folder) { return services_.folders.SubFolders(folder); },
+      [this] { Dir1_Change(); });
+  file1_.Attach(Item(FrmFindIcon_File1), [this](const std::string& folder, const std::string& pattern) {
+    return services_.folders.Files(folder, pattern);
+  });
+  udMain_.Attach(Item(FrmFindIcon_udMain));
+  grid_.Attach(Item(FrmFindIcon_PicFrame), Item(FrmFindIcon_Vsb), FrmFindIcon_PicIcons);
+  lv_.Attach(Item(FrmFindIcon_Lv));
+  const RECT place = grid_.Place();  // the list takes the grid's place
+  Move(lv_.Window(), place.left, place.top, place.right - place.left, place.bottom - place.top);
+  lv_.CellText = [this](int row, int column) {
+    return list_.Has(row + 1) ? IconListCell(list_, row + 1, static_cast<std::size_t>(column)) : std::string();
+  };
+  lv_.LookOf = [this](int row) {
+    const RowMarking marking = list_.Has(row + 1) ? MarkingOf(list_.Item(row + 1)) : RowMarking();
+    return ReportList::Look{marking.bold, marking.color};
+  };
+  lv_.Choose = [this](const ReportList::Choice& choice) { Lv_Choose(choice); };
+}
+
+// The limit's box stands right behind its label, and the rest of the row behind the box, in every language. Both labels
+// are as wide as their texts: a label that reached under the box would wipe it when it is drawn alone.
+void FrmFindIcon::PlaceLimit() {
+  const HWND label = Item(FrmFindIcon_SkinLabel1);
+  const RECT place = PlaceOf(Window(), label);
+  const int space = place.bottom - place.top;
+  Move(label, place.left, place.top, TextWidth(label), place.bottom - place.top);
+  const int shift = place.left + TextWidth(label) + space / 2 - PlaceOf(Window(), Item(FrmFindIcon_txtMax)).left;
+  for (const int id : {FrmFindIcon_txtMax, FrmFindIcon_udMain, FrmFindIcon_SkinLabel2}) {
+    const RECT former = PlaceOf(Window(), Item(id));
+    const int width = id == FrmFindIcon_SkinLabel2 ? TextWidth(Item(id)) : former.right - former.left;
+    Move(Item(id), former.left + shift, former.top, width, former.bottom - former.top);
+  }
+}
+
+bool FrmFindIcon::Form_QueryUnload() {
+  return !state_.IsSearching && !isSaving_;
+}
+
+// Files are written only while a save command runs and no dialog or message of its own stands over the window. A search
+// writes nothing.
+bool FrmFindIcon::Form_QueryEndSession() {
+  return !isSaving_ || IsWindowEnabled(Window()) == FALSE;
+}
+
+void FrmFindIcon::Form_Unload() {
+  CloseEnhancedView();
+  SaveSettings();
+  commands_.CleanUp();
+}
+
+void FrmFindIcon::LoadSettings() {
+  Settings& settings = services_.settings;
+  std::string folder = TidyFolderPath(settings.ReadIniSetting(settingsSection, folderKey, services_.programFolder));
+  if (!services_.isReadableFolder(folder)) folder = TidyFolderPath(services_.programFolder);
+  dir1_.SetPath(folder);
+  drive1_.ChooseDriveOf(folder);
+  const std::string subDir = settings.ReadIniSetting(settingsSection, subDirKey, TruthText(false));
+  SetChecked(FrmFindIcon_chkSubDir, IsTruth(subDir));
+}
+
+void FrmFindIcon::SaveSettings() {
+  // A walk that the end of the session stops has moved Dir1.
+  const std::string& folder = state_.SavedDirPath.empty() ? dir1_.Path() : state_.SavedDirPath;
+  services_.settings.WriteIniSetting(settingsSection, folderKey, folder);
+  services_.settings.WriteIniSetting(settingsSection, subDirKey, TruthText(chkSubDir()));
+}
+
+bool FrmFindIcon::OnCommand(int id, int code) {
+  static constexpr Event<FrmFindIcon> events[] = {
+      {FrmFindIcon_Drive1, FrmFindIcon_Drive1, CBN_SELCHANGE, Call<&FrmFindIcon::Drive1_Change>},
+      {FrmFindIcon_Drive1, FrmFindIcon_Drive1, CBN_DROPDOWN, Call<&FrmFindIcon::Drive1_DropDown>},
+      {FrmFindIcon_Dir1, FrmFindIcon_Dir1, LBN_DBLCLK, Call<&FrmFindIcon::Dir1_DblClick>},
+      {FrmFindIcon_ChkFileType0, FrmFindIcon_ChkFileType6, BN_CLICKED, Call<&FrmFindIcon::ChkFileType_Click>},
+      {FrmFindIcon_CboIconSize, FrmFindIcon_CboIconSize, CBN_SELCHANGE, Call<&FrmFindIcon::CboIconSize_Click>},
+      {FrmFindIcon_txtMax, FrmFindIcon_txtMax, EN_CHANGE, Call<&FrmFindIcon::txtMax_Change>},
+      {FrmFindIcon_CmdFind, FrmFindIcon_CmdFind, BN_CLICKED, Call<&FrmFindIcon::CmdFind_Click>},
+      {FrmFindIcon_CmdOk, FrmFindIcon_CmdOk, BN_CLICKED, Call<&FrmFindIcon::CmdOk_Click>},
+      {FrmFindIcon_CmdClose, FrmFindIcon_CmdClose, BN_CLICKED, Call<&FrmFindIcon::CmdClose_Click>},
+      {FrmFindIcon_OptView0, FrmFindIcon_OptView1, BN_CLICKED, Call<&FrmFindIcon::OptView_Click>},
+      {FrmFindIcon_mnuStart, FrmFindIcon_mnuStart, 0, Call<&FrmFindIcon::mnuStart_Click>},
+      {FrmFindIcon_mnuExit, FrmFindIcon_mnuExit, 0, Call<&FrmFindIcon::mnuExit_Click>},
+      {FrmFindIcon_mnuSaveAs, FrmFindIcon_mnuSaveAs, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveAs_Click>},
+      {FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsBitmap, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::MnuSaveAsBitmap_Click>},
+      {FrmFindIcon_MnuSaveAsCursor, FrmFindIcon_MnuSaveAsCursor, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::MnuSaveAsCursor_Click>},
+      {FrmFindIcon_mnuSaveSel, FrmFindIcon_mnuSaveSel, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveSel_Click>},
+      {FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveAll, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveAll_Click>},
+      {FrmFindIcon_mnuSaveSel2, FrmFindIcon_mnuSaveSel2, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveSel2_Click>},
+      {FrmFindIcon_mnuSaveAll2, FrmFindIcon_mnuSaveAll2, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveAll2_Click>},
+      {FrmFindIcon_mnuSaveSel3, FrmFindIcon_mnuSaveSel3, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveSel3_Click>},
+      {FrmFindIcon_mnuSaveAll3, FrmFindIcon_mnuSaveAll3, 0,
+       CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuSaveAll3_Click>},
+      {FrmFindIcon_mnuCopy, FrmFindIcon_mnuCopy, 0, CallOn<&FrmFindIcon::commands_, &SaveCommands::mnuCopy_Click>},
+      {FrmFindIcon_mnuRem, FrmFindIcon_mnuRem, 0, CallOn<&FrmFindIcon::selection_, &Selection::mnuRem_Click>},
+      {FrmFindIcon_mnuShowLabel, FrmFindIcon_mnuShowLabel, 0, Call<&FrmFindIcon::mnuShowLabel_Click>},
+      {FrmFindIcon_mnuIL1, FrmFindIcon_mnuIL2, 0, Call<&FrmFindIcon::mnuIL_Click>},
+      {FrmFindIcon_mnuViewopt0, FrmFindIcon_mnuViewopt1, 0, Call<&FrmFindIcon::mnuViewopt_Click>},
+      {FrmFindIcon_MnuContent, FrmFindIcon_MnuContent, 0, Call<&FrmFindIcon::MnuContent_Click>},
+      {FrmFindIcon_MnuAbout, FrmFindIcon_MnuAbout, 0, Call<&FrmFindIcon::MnuAbout_Click>},
+  };
+  return !isSaving_ && Dispatch<FrmFindIcon>(*this, events, id, code);
+}
+
+void FrmFindIcon::OnScroll(HWND scrollBar, int request) {
+  if (scrollBar == udMain_.Window() && request != SB_ENDSCROLL) {
+    udMain_.Scroll(request);
+    udMain_Change();  // also if the value stays: the box may show a limit beyond it
+  }
+  grid_.OnScroll(scrollBar, request);
+}
+
+LRESULT FrmFindIcon::OnNotify(NMHDR& header) {
+  if (header.hwndFrom != lv_.Window()) return 0;
+  const LRESULT answer = lv_.Notify(header);
+  if (header.code == static_cast<UINT>(NM_DBLCLK)) PicIcons_DblClick();
+  return answer;
+}
+
+void FrmFindIcon::OnMessage(UINT message) {
+  if (message == ReportList::ChoiceMessage) lv_.TellChoice();
+}
+
+void FrmFindIcon::OnDrawItem(const DRAWITEMSTRUCT& item) {
+  if (item.CtlID == FrmFindIcon_Dir1) dir1_.Draw(item);
+}
+
+bool FrmFindIcon::PreviewMessage(const MSG& message) {
+  if (isSaving_ && IsInput(message.message)) return true;
+  // The wheel turns what lies under the pointer, wherever the focus is.
+  return grid_.OnWheel(message);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,69 @@
+// The main window as the save and copy commands see it.
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <memory>
+#include <string>
+
+#include "forms/MessageBox.h"
+#include "platform/Clipboard.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "search/window/FrmFindIcon.h"
+#include "startup/MessageTexts.h"
+
+namespace tarvik {
+namespace {
+
+constexpr ULONGLONG paintPeriod = 40;  // milliseconds between two looks at the waiting messages
+
+}  // namespace
+
+std::string FrmFindIcon::StatusText() const {
+  const HWND bar = Item(FrmFindIcon_sbMain);
+  std::wstring text(LOWORD(SendMessageW(bar, SB_GETTEXTLENGTHW, 0, 0)) + std::size_t{1}, L'\0');
+  SendMessageW(bar, SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(text.data()));
+  text.pop_back();
+  return ToUtf8(text);
+}
+
+void FrmFindIcon::ShowMessage(const std::string& text, MessageKind kind) {
+  tarvik::ShowMessage(Window(), text, FailureTitle(services_.state.CurrentLanguage),
+                      kind == MessageKind::Failure ? MessageSign::Exclamation : MessageSign::Information);
+}
+
+std::shared_ptr<void> FrmFindIcon::HoldCommands() {
+  isSaving_ = true;
+  return {static_cast<void*>(this), [this](void*) { isSaving_ = false; }};
+}
+
+// Serving all messages and not the painting alone keeps the system from taking the window for one that hangs; input is
+// taken out before it reaches anything.
+void FrmFindIcon::ServePainting() {
+  if (GetTickCount64() - servedAt_ < paintPeriod) return;
+  TheApplication().DoEvents();
+  if (!IsLoaded()) throw GivenUp();
+  servedAt_ = GetTickCount64();
+}
+
+bool FrmFindIcon::CopyPicClip() {
+  const Surface& mask = surfaces_.Mask();
+  Surface picClip(mask.Width(), mask.Height(), surfaceBackground);
+  picClip.Combine(mask, SRCAND);
+  picClip.Combine(surfaces_.Image(), SRCINVERT);
+  return CopyToClipboard(picClip, Window());
+}
+
+const Surface& FrmFindIcon::PicMain() {
+  const int side = services_.state.MagnifiedSide;
+  const int magnified = state_.Geometry.IconSize * services_.state.Magnification;
+  if (!picMain_) picMain_.emplace(side, side, surfaceBackground);
+  const Surface& icon = surfaces_.Composed();
+  SetStretchBltMode(picMain_->Dc(), COLORONCOLOR);
+  StretchBlt(picMain_->Dc(), 0, 0, magnified, magnified, icon.Dc(), 0, 0, icon.Width(), icon.Height(), SRCCOPY);
+  return *picMain_;
+}
+
+}  // namespace tarvik

@@ -1,0 +1,153 @@
+// The main window's search options and buttons.
+
+#include <windows.h>
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <string>
+
+#include "base/Conversion.h"
+#include "forms/FocusKept.h"
+#include "forms/MessageBox.h"
+#include "resource.h"
+#include "search/icons/FilePattern.h"
+#include "search/window/FrmFindIcon.h"
+#include "startup/MessageTexts.h"
+
+namespace tarvik {
+namespace {
+
+// The limit's spinner: from 1 up to the highest limit of the chosen size.
+constexpr int lowestLimit = 1;
+constexpr int limitStep = 10;
+constexpr int limitPage = 100;
+
+constexpr int FileTypeId(std::size_t box) {
+  return FrmFindIcon_ChkFileType0 + static_cast<int>(box);
+}
+
+constexpr Text driveNotReady{"Driver Not Ready!", "路径无效!", "路徑無效!"};
+
+}  // namespace
+
+void FrmFindIcon::Drive1_DropDown() {
+  drive1_.Refresh();
+}
+
+void FrmFindIcon::Drive1_Change() {
+  if (state_.IsSearching) return drive1_.ChooseDriveOf(dir1_.Path());  // the walk owns the folder lists
+  ShowItem(FrmFindIcon_Dir1, true);
+  ShowItem(FrmFindIcon_File1, true);
+  const std::string root = drive1_.Root();
+  if (!services_.isReadableFolder(root)) {
+    const std::string& language = services_.state.CurrentLanguage;
+    const auto text = Pick(driveNotReady, language);
+    if (text) tarvik::ShowMessage(Window(), *text, FailureTitle(language), MessageSign::Information);
+    return;
+  }
+  dir1_.SetPath(root);
+  file1_.SetPath(dir1_.Path());
+}
+
+void FrmFindIcon::Dir1_Change() {
+  file1_.SetPath(dir1_.Path());
+}
+
+void FrmFindIcon::Dir1_DblClick() {
+  if (!state_.IsSearching) dir1_.OpenChosen();
+}
+
+void FrmFindIcon::ChkFileType_Click() {
+  FileTypeChecks checks{};
+  for (std::size_t box = 0; box < checks.size(); ++box) checks.at(box) = IsChecked(FileTypeId(box));
+  checks = WithAllFilesRule(checks);
+  for (std::size_t box = 0; box < checks.size(); ++box) SetChecked(FileTypeId(box), checks.at(box));
+  file1_.SetPattern(BuildPattern(checks));
+}
+
+void FrmFindIcon::CboIconSize_Click() {
+  const int chosen = ComboBox_GetCurSel(Item(FrmFindIcon_CboIconSize));
+  if (chosen < 0) return;
+  state_.Geometry = gridGeometries.at(static_cast<std::size_t>(chosen));
+  services_.state.Magnification = (services_.state.MagnifiedSide - 1) / state_.Geometry.IconSize;
+  surfaces_.Resize(state_.Geometry.IconSize);
+  udMain_.SetRange({0, state_.Geometry.HighestLimit - lowestLimit, limitStep, limitPage});
+  // The upper end is the bar's upper end, so that the up arrow raises the limit.
+  udMain_.SetValue(state_.Geometry.HighestLimit - state_.Geometry.DefaultLimit);
+  SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.DefaultLimit));
+}
+
+void FrmFindIcon::udMain_Change() {
+  SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.HighestLimit - udMain_.Value()));
+}
+
+// The spinner goes on from a limit that was typed, or from its nearer end; a text that is no number leaves it alone.
+void FrmFindIcon::txtMax_Change() {
+  const int highest = state_.Geometry.HighestLimit;
+  try {
+    const double limit = std::clamp<double>(RoundToEven(ToNumber(txtMax())), lowestLimit, highest);
+    udMain_.SetValue(highest - static_cast<int>(limit));
+  } catch (const RuntimeError&) {
+    return;
+  }
+}
+
+void FrmFindIcon::CmdFind_Click() {
+  if (state_.IsSearching) return;
+  // The walk moves both lists through every folder; they show again where it ends.
+  const FolderListsHeld held(dir1_, file1_);
+  // The button is disabled meanwhile, and a disabled control that has the focus would swallow every key.
+  const FocusKept focus(Window());
+  // The last texts show at the end, also where an error ends the search.
+  const std::shared_ptr<void> progress(nullptr, [this](void*) { ShowProgress(); });
+  driver_.CmdFind_Click();
+}
+
+void FrmFindIcon::mnuStart_Click() {
+  CmdFind_Click();
+}
+
+void FrmFindIcon::CmdOk_Click() {
+  // A disabled button sends nothing, but its command can come from elsewhere.
+  if (state_.IsSearching || !list_.Has(state_.CurrentIndex + 1)) return;
+  const IconListEntry& entry = list_.Item(state_.CurrentIndex + 1);
+  services_.state.ChosenIconPath = entry.path;
+  services_.state.ChosenIconIndex = entry.index;
+  services_.state.ChoiceCancelled = false;
+  Unload();
+}
+
+void FrmFindIcon::CmdClose_Click() {
+  if (Form_QueryUnload()) Unload();
+}
+
+void FrmFindIcon::mnuExit_Click() {
+  CmdClose_Click();
+}
+
+void FrmFindIcon::OptView_Click(int index) {
+  const bool list = index == 1;
+  SetChecked(FrmFindIcon_OptView0, !list);
+  SetChecked(FrmFindIcon_OptView1, list);
+  SetChecked(FrmFindIcon_mnuViewopt0, !list);
+  SetChecked(FrmFindIcon_mnuViewopt1, list);
+  grid_.Show(!list);
+  ShowItem(FrmFindIcon_Lv, list);
+}
+
+void FrmFindIcon::mnuViewopt_Click(int index) {
+  OptView_Click(index);
+}
+
+// A handler like the others, whatever it leaves alone. NOLINTNEXTLINE(readability-make-member-function-const)
+void FrmFindIcon::MnuContent_Click() {
+  services_.openGuide();
+}
+
+void FrmFindIcon::MnuAbout_Click() {
+  services_.state.ShowAsAbout = true;
+  services_.showAbout();
+}
+
+}  // namespace tarvik

@@ -1,0 +1,111 @@
+// The main window as a search sees it.
+
+#include <windows.h>
+
+#include <string>
+
+#include "forms/MessageBox.h"
+#include "forms/MousePointer.h"
+#include "resource.h"
+#include "search/window/FrmFindIcon.h"
+#include "search/window/IconListRows.h"
+
+namespace tarvik {
+namespace {
+
+// What needs an entry to act on.
+constexpr int entryItems[] = {
+    FrmFindIcon_mnuSaveAs,   FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsCursor, FrmFindIcon_mnuSaveSel,
+    FrmFindIcon_mnuSaveAll,  FrmFindIcon_mnuSaveSel2,     FrmFindIcon_mnuSaveAll2,     FrmFindIcon_mnuSaveSel3,
+    FrmFindIcon_mnuSaveAll3, FrmFindIcon_mnuCopy,         FrmFindIcon_mnuRem,
+};
+
+int IdOf(SearchControl control) {
+  switch (control) {
+    case SearchControl::CmdFind:
+      return FrmFindIcon_CmdFind;
+    case SearchControl::CmdOk:
+      return FrmFindIcon_CmdOk;
+    case SearchControl::CmdClose:
+      return FrmFindIcon_CmdClose;
+    case SearchControl::mnuFile:
+      return FrmFindIcon_mnuFile;
+    case SearchControl::mnuEdit:
+      return FrmFindIcon_mnuEdit;
+  }
+  return 0;
+}
+
+}  // namespace
+
+void FrmFindIcon::CloseEnhancedView() {
+  if (view_) view_->Unload();
+}
+
+void FrmFindIcon::Enable(SearchControl control, bool enabled) {
+  EnableItem(IdOf(control), enabled);
+}
+
+bool FrmFindIcon::chkSubDir() const {
+  return IsChecked(FrmFindIcon_chkSubDir);
+}
+
+std::string FrmFindIcon::txtMax() const {
+  return ItemText(FrmFindIcon_txtMax);
+}
+
+void FrmFindIcon::SetCaption(const std::string& text) {
+  caption_.Set(text);
+  if (!state_.IsSearching) caption_.Flush();
+}
+
+void FrmFindIcon::SetStatusText(const std::string& text) {
+  status_.Set(text);
+  if (!state_.IsSearching) status_.Flush();
+}
+
+void FrmFindIcon::ShowProgress() {
+  caption_.Flush();
+  status_.Flush();
+}
+
+void FrmFindIcon::SetInfoText(const std::string& text) {
+  SetItemText(FrmFindIcon_lblInfo, text);
+}
+
+void FrmFindIcon::ShowInformation(const std::string& text) {
+  ShowProgress();
+  tarvik::ShowMessage(Window(), text, productTitle, MessageSign::Information);
+}
+
+void FrmFindIcon::ClearListView() {
+  std::vector<ReportList::Column> columns;
+  columns.reserve(iconListColumns.size());
+  for (const IconListColumn& column : iconListColumns) columns.push_back({column.Header, column.Width});
+  lv_.Clear(columns);
+  UpdateSaveMenus();
+}
+
+void FrmFindIcon::ListChanged() {
+  lv_.SetRowCount(list_.Count());
+  ShowSelectionInList();
+  UpdateSaveMenus();
+}
+
+void FrmFindIcon::DoEvents() {
+  lv_.GrowTo(list_.Count());
+  caption_.ShowIfDue();
+  status_.ShowIfDue();
+  TheApplication().DoEvents();
+  if (!IsLoaded()) throw GivenUp();
+}
+
+std::shared_ptr<void> FrmFindIcon::ShowHourglass() {
+  return std::make_shared<Hourglass>();
+}
+
+void FrmFindIcon::UpdateSaveMenus() {
+  for (const int item : entryItems) EnableItem(item, list_.Count() > 0);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,75 @@
+// The main window's grid and list as places to choose icons in, and what the menus do with the choice.
+
+#include <windows.h>
+
+#include <utility>
+
+#include "resource.h"
+#include "search/window/FrmFindIcon.h"
+
+namespace tarvik {
+
+void FrmFindIcon::OnPicture(const PictureEvent& event) {
+  if (event.id != FrmFindIcon_PicIcons) return;
+  switch (event.kind) {
+    case PictureEvent::Kind::MouseDown:
+      releaseBelongsToDblClick_ = false;
+      break;
+    case PictureEvent::Kind::MouseUp:
+      if (!std::exchange(releaseBelongsToDblClick_, false)) selection_.PicIcons_MouseUp(event.shift, event.x, event.y);
+      break;
+    case PictureEvent::Kind::DblClick:
+      // The view opens between the second press and its release. The release is the end of the double click and no
+      // click of its own: it goes to whatever lies under the pointer, or, if the view was closed first, nowhere.
+      ReleaseCapture();
+      PicIcons_DblClick();
+      releaseBelongsToDblClick_ = GetKeyState(VK_LBUTTON) < 0;
+      break;
+    case PictureEvent::Kind::MouseMove:
+      break;
+  }
+}
+
+bool FrmFindIcon::NumbersByFile() const {
+  return TheMenu().IsChecked(FrmFindIcon_mnuIL2);
+}
+
+// The control changes its own rows before it tells; which rule that was is read off its keys, and its rows are then
+// set to what the rule made of it.
+void FrmFindIcon::Lv_Choose(const ReportList::Choice& choice) {
+  const int number = choice.row + 1;
+  if (choice.all) {
+    selection_.ChooseAll();
+  } else if (!list_.Has(number)) {
+    ListChanged();
+  } else if (choice.shift) {
+    selection_.ChooseRange(choice.anchor + 1, number, choice.ctrl);
+  } else {
+    selection_.ChooseRow(number, choice.ctrl ? ctrlShift : 0);
+  }
+  ShowSelectionInList();
+}
+
+void FrmFindIcon::ShowSelectionInList() {
+  lv_.SetSelection([this](int row) { return list_.Has(row + 1) && list_.Item(row + 1).selected; });
+}
+
+void FrmFindIcon::mnuShowLabel_Click() {
+  const bool shown = !TheMenu().IsChecked(FrmFindIcon_mnuShowLabel);
+  SetChecked(FrmFindIcon_mnuShowLabel, shown);
+  ShowItem(FrmFindIcon_lblInfo, shown);
+}
+
+void FrmFindIcon::mnuIL_Click(int index) {
+  SetChecked(FrmFindIcon_mnuIL1, index == 0);
+  SetChecked(FrmFindIcon_mnuIL2, index == 1);
+  selection_.ShowCurrentLabel();
+}
+
+bool FrmFindIcon::RenderEntry(int number) {
+  if (!list_.Has(number)) return false;
+  ModMicroArt::CaptureEntry(services_.icons, list_.Item(number), state_.Geometry.IconSize, surfaces_);
+  return true;
+}
+
+}  // namespace tarvik

@@ -1,0 +1,32 @@
+#include "startup/RegistryLanguageStore.h"
+
+#include <windows.h>
+
+#include "platform/Handles.h"
+
+namespace tarvik {
+namespace {
+
+// Read control and the rights to query and set values, to create and list sub-keys, to be notified and to create
+// links: an account that may not write to the key does not open it, and the program is then in English.
+constexpr REGSAM accessRights = READ_CONTROL | KEY_QUERY_VALUE | KEY_SET_VALUE | KEY_CREATE_SUB_KEY |
+                                KEY_ENUMERATE_SUB_KEYS | KEY_NOTIFY | KEY_CREATE_LINK;
+static_assert(accessRights == 0x2003F);
+
+constexpr DWORD bufferSize = 260;
+
+}  // namespace
+
+std::string RegistryLanguageStore::ReadBuffer(const std::string& name) {
+  HKEY opened = nullptr;
+  if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, key, 0, accessRights, &opened) != ERROR_SUCCESS) return {};
+  const RegistryKey owner(opened);
+
+  std::string buffer(bufferSize, ' ');
+  DWORD size = bufferSize;
+  // Whether there is such a value shows in the buffer alone: what is not written stays blank.
+  RegQueryValueExA(opened, name.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(buffer.data()), &size);
+  return buffer;
+}
+
+}  // namespace tarvik

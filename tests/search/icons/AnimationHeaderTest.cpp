@@ -1,0 +1,198 @@
+#include "search/icons/AnimationHeader.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <string>
+
+namespace tarvik {
+namespace {
+
+class BytesInMemory : public ByteSource {
+ public:
+  explicit BytesInMemory(std::string bytes) : bytes_(std::move(bytes)) {}
+
+  std::uint64_t Size() override { return bytes_.size(); }
+  bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
+    ++reads;
+    if (offset > bytes_.size() || bytes.size() > bytes_.size() - offset) return false;
+    const auto* from = reinterpret_cast<const std::byte*>(bytes_.data()) + offset;
+    std::copy_n(from, bytes.size(), bytes.begin());
+    return true;
+  }
+
+  int reads = 0;
+
+ private:
+  std::string bytes_;
+};
+
+std::string Number(std::uint32_t number) {
+  std::string bytes;
+  for (int i = 0; i < 4; ++i, number /= 256) bytes += static_cast<char>(number % 256);
+  return bytes;
+}
+
+// A chunk that states `size` for its data.
+std::string Chunk(const std::string& type, const std::string& data, std::uint32_t size) {
+  return type + Number(size) + data + (data.size() % 2 == 0 ? "" : std::string(1, '\0'));
+}
+std::string Chunk(const std::string& type, const std::string& data) {
+  return Chunk(type, data, static_cast<std::uint32_t>(data.size()));
+}
+
+std::string Header(std::uint32_t pictures, std::uint32_t steps) {
+  std::string data = Number(36) + Number(pictures) + Number(steps);
+  for (const std::uint32_t field : {0U, 0U, 0U, 0U, 6U, 1U}) data += Number(field);
+  return Chunk("anih", data);
+}
+
+std::string Pictures(int count) {
+  std::string data = "fram";
+  for (int i = 0; i < count; ++i) data += Chunk("icon", "odd");
+  return Chunk("LIST", data);
+}
+
+std::string Sequence(int entries) {
+  std::string data;
+  for (int i = 0; i < entries; ++i) data += Number(0);
+  return Chunk("seq ", data);
+}
+
+std::string Animation(const std::string& chunks) {
+  return Chunk("RIFF", "ACON" + chunks);
+}
+
+int StepsOf(const std::string& bytes) {
+  BytesInMemory file(bytes);
+  return MostAnimationSteps(file);
+}
+
+TEST(MostAnimationSteps, CountsTheStepsOfTheHeader) {
+  EXPECT_EQ(StepsOf(Animation(Header(8, 8) + Pictures(8))), 8);
+  EXPECT_EQ(StepsOf(Animation(Header(8, 5) + Pictures(8))), 5);
+}
+
+TEST(MostAnimationSteps, BelievesTheHeaderOnlyAsFarAsThereArePictures) {
+  EXPECT_EQ(StepsOf(Animation(Header(8, 0xFFFFFFFF) + Pictures(3))), 3);
+  EXPECT_EQ(StepsOf(Animation(Header(8, 8))), 0);
+}
+
+TEST(MostAnimationSteps, LetsAnOrderRepeatPictures) {
+  EXPECT_EQ(StepsOf(Animation(Header(2, 6) + Sequence(6) + Pictures(2))), 6);
+  EXPECT_EQ(StepsOf(Animation(Header(2, 6) + Sequence(4) + Pictures(2))), 4);
+  EXPECT_EQ(StepsOf(Animation(Header(9, 9) + Sequence(4) + Pictures(9))), 4);
+}
+
+TEST(MostAnimationSteps, PassesOverOtherChunksAndTheirPadding) {
+  const std::string info = Chunk("LIST", "INFO" + Chunk("icon", "x") + Chunk("IART", "me!"));
+  EXPECT_EQ(StepsOf(Animation(info + Header(2, 7) + Chunk("rate", Number(6) + "x") + Pictures(2))), 2);
+}
+
+TEST(MostAnimationSteps, FindsChunksAcrossTheBlocksThatAreRead) {
+  for (std::size_t size = 4060; size < 4110; ++size) {
+    EXPECT_EQ(StepsOf(Animation(Chunk("junk", std::string(size, 'j')) + Header(2, 2) + Pictures(2))), 2) << size;
+  }
+}
+
+TEST(MostAnimationSteps, IsNoneForAFileThatIsNoAnimation) {
+  EXPECT_EQ(StepsOf(""), 0);
+  EXPECT_EQ(StepsOf("RIFF"), 0);
+  EXPECT_EQ(StepsOf(Chunk("RIFF", "WAVE" + Header(2, 2) + Pictures(2))), 0);
+  EXPECT_EQ(StepsOf(std::string("\0\0\1\0\1\0", 6) + std::string(100, 'x')), 0);
+  EXPECT_EQ(StepsOf("x" + Animation(Header(2, 2) + Pictures(2))), 0);
+  EXPECT_EQ(StepsOf(Animation("")), 0);
+}
+
+TEST(MostAnimationSteps, CountsWhatIsLeftOfAFileThatIsCutShort) {
+  const std::string whole = Animation(Header(4, 4) + Pictures(4));
+  const std::size_t pictureSize = 8 + 4;
+  EXPECT_EQ(StepsOf(whole.substr(0, whole.size() - pictureSize)), 3);
+  EXPECT_EQ(StepsOf(whole.substr(0, 12 + 8 + 36)), 0);
+  const std::string sequence = Animation(Header(4, 4) + Sequence(4));
+  EXPECT_EQ(StepsOf(sequence.substr(0, sequence.size() - 5)), 2) << "two whole entries are left";
+  for (std::size_t size = 0; size <= whole.size(); ++size) EXPECT_LE(StepsOf(whole.substr(0, size)), 4);
+}
+
+TEST(MostAnimationSteps, TrustsNoSizeThatTheFileStates) {
+  const std::string header = Header(2, 2);
+  EXPECT_EQ(StepsOf(Chunk("RIFF", "ACON" + header + Pictures(2), 0)), 2);
+  EXPECT_EQ(StepsOf(Chunk("RIFF", "ACON" + header + Pictures(2), 0xFFFFFFFF)), 2);
+  EXPECT_EQ(StepsOf(Animation(header + Chunk("LIST", "fram" + Chunk("icon", "ab", 0xFFFFFFFF), 0xFFFFFFFF))), 1);
+  EXPECT_EQ(StepsOf(Animation(Header(2, 99) + Chunk("seq ", Number(0), 0xFFFFFFFE))), 1);
+  EXPECT_EQ(StepsOf(Animation(Chunk("junk", "", 0xFFFFFFFF) + header + Pictures(2))), 0);
+  EXPECT_EQ(StepsOf(Animation(header + Chunk("LIST", "fr", 2) + Pictures(2))), 2);
+  EXPECT_EQ(StepsOf(Animation(Chunk("anih", Number(36)) + Pictures(2))), 0) << "a header without its step count";
+}
+
+TEST(MostAnimationSteps, TakesTheLargestWhereAChunkStandsTwice) {
+  EXPECT_EQ(StepsOf(Animation(Header(3, 1) + Header(3, 3) + Pictures(1) + Pictures(2))), 3);
+  EXPECT_EQ(StepsOf(Animation(Header(3, 9) + Sequence(5) + Sequence(2) + Pictures(1))), 5);
+}
+
+TEST(MostAnimationSteps, ReadsARunOfEmptyChunksInBlocks) {
+  std::string chunks;
+  for (int i = 0; i < 10000; ++i) chunks += Chunk("icon", "");
+  BytesInMemory file(Animation(Header(1, 0xFFFFFFFF) + Chunk("LIST", "fram" + chunks)));
+  EXPECT_EQ(MostAnimationSteps(file), 10000);
+  EXPECT_LE(file.reads, 25) << "about 80,000 bytes in blocks of 4,096";
+}
+
+TEST(MostAnimationSteps, FindsNothingInAFileThatCannotBeRead) {
+  class Unreadable : public ByteSource {
+   public:
+    std::uint64_t Size() override { return 1000; }
+    bool Read(std::uint64_t, std::span<std::byte>) override { return false; }
+  };
+  Unreadable file;
+  EXPECT_EQ(MostAnimationSteps(file), 0);
+}
+
+bool IsWhole(const std::string& bytes) {
+  BytesInMemory file(bytes);
+  return HoldsWhatItSays(file);
+}
+
+TEST(HoldsWhatItSays, IsTrueOfAWholeAnimation) {
+  EXPECT_TRUE(IsWhole(Animation(Header(8, 8) + Pictures(8))));
+  EXPECT_TRUE(IsWhole(Animation(Header(2, 5) + Sequence(5) + Pictures(2))));
+  EXPECT_TRUE(IsWhole(Animation(Header(2, 2) + Pictures(3))));
+}
+
+TEST(HoldsWhatItSays, IsFalseWhereTheHeaderSaysMoreThanThereIs) {
+  EXPECT_FALSE(IsWhole(Animation(Header(3, 2) + Pictures(2)))) << "pictures";
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 3) + Pictures(2)))) << "steps";
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 6) + Sequence(5) + Pictures(2)))) << "steps in an order";
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 0x40000001) + Sequence(5) + Pictures(2))));
+  EXPECT_FALSE(IsWhole(Animation(Header(0xFFFFFFFF, 2) + Pictures(2))));
+}
+
+TEST(HoldsWhatItSays, IsFalseWhereTheHeaderSaysThereIsNothing) {
+  EXPECT_FALSE(IsWhole(Animation(Header(0, 5) + Sequence(5) + Pictures(2)))) << "no pictures";
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 0) + Pictures(2)))) << "no steps";
+}
+
+TEST(HoldsWhatItSays, IsFalseWhereTheOrderNamesAPictureThatIsNotThere) {
+  const auto ordered = [](std::uint32_t picture) {
+    return Animation(Header(2, 2) + Chunk("seq ", Number(0) + Number(picture)) + Pictures(2));
+  };
+  EXPECT_TRUE(IsWhole(ordered(1)));
+  EXPECT_FALSE(IsWhole(ordered(2)));
+  EXPECT_FALSE(IsWhole(ordered(0xFFFFFFFF)));
+}
+
+TEST(HoldsWhatItSays, IsFalseOfTwoHeadersOrOrders) {
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 2) + Header(2, 2) + Pictures(2))));
+  EXPECT_FALSE(IsWhole(Animation(Header(2, 2) + Sequence(2) + Sequence(2) + Pictures(2))));
+}
+
+TEST(HoldsWhatItSays, IsFalseOfWhatIsNoAnimation) {
+  EXPECT_FALSE(IsWhole(""));
+  EXPECT_FALSE(IsWhole(Animation("")));
+  EXPECT_FALSE(IsWhole(Animation(Header(0, 0))));
+  EXPECT_FALSE(IsWhole(Chunk("RIFF", "WAVE" + Header(2, 2) + Pictures(2))));
+}
+
+}  // namespace
+}  // namespace tarvik

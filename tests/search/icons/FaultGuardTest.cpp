@@ -1,0 +1,139 @@
+#include "search/icons/FaultGuard.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <array>
+
+namespace tarvik {
+namespace {
+
+// A page that nobody may read.
+class ForbiddenPage {
+ public:
+  ForbiddenPage() : page_(VirtualAlloc(nullptr, 4096, MEM_RESERVE | MEM_COMMIT, PAGE_NOACCESS)) {}
+  ~ForbiddenPage() { VirtualFree(page_, 0, MEM_RELEASE); }
+  ForbiddenPage(const ForbiddenPage&) = delete;
+  ForbiddenPage& operator=(const ForbiddenPage&) = delete;
+
+  // An instruction of this program reads the page.
+  char Read() const { return *static_cast<volatile char*>(page_); }
+  // An instruction of the system does.
+  void HaveSystemRead() const { RtlCompareMemory(page_, other_.data(), other_.size()); }
+
+ private:
+  void* page_;
+  std::array<char, 16> other_{};
+};
+
+// Needs more of the stack than there is.
+int Deep(int depth) {
+  volatile char room[4096];
+  room[0] = 1;
+  return depth == 0 ? 0 : Deep(depth - 1) + room[0];
+}
+
+// A program that an exception ends has the exception's number as its exit code.
+class EndedBy {
+ public:
+  explicit EndedBy(DWORD exception) : exception_(exception) {}
+  bool operator()(int exitCode) const { return static_cast<DWORD>(exitCode) == exception_; }
+
+ private:
+  DWORD exception_;
+};
+
+TEST(FaultGuard, LetsACallThatFaultsNotBeTheEnd) {
+  const ForbiddenPage page;
+  bool finished = false;
+  EXPECT_FALSE(SurvivesFault([&] {
+    page.HaveSystemRead();
+    finished = true;
+  }));
+  EXPECT_FALSE(finished);
+}
+
+TEST(FaultGuard, SaysThatACallCameBack) {
+  int value = 0;
+  EXPECT_TRUE(SurvivesFault([&] { value = 7; }));
+  EXPECT_EQ(value, 7);
+}
+
+TEST(FaultGuard, ServesManyFaultsOneAfterTheOther) {
+  const ForbiddenPage page;
+  int faults = 0;
+  for (int i = 0; i < 1000; ++i) faults += SurvivesFault([&] { page.HaveSystemRead(); }) ? 0 : 1;
+  EXPECT_EQ(faults, 1000);
+}
+
+// Raised by an instruction of the system each time.
+TEST(FaultGuard, CatchesEachKindOfFaultThatADamagedFileLeadsTo) {
+  for (const DWORD kind :
+       {EXCEPTION_ACCESS_VIOLATION, EXCEPTION_IN_PAGE_ERROR, EXCEPTION_INT_DIVIDE_BY_ZERO, EXCEPTION_INT_OVERFLOW}) {
+    EXPECT_FALSE(SurvivesFault([&] { RaiseException(kind, 0, 0, nullptr); })) << std::hex << kind;
+  }
+}
+
+class FaultGuardDeathTest : public ::testing::Test {
+ protected:
+  FaultGuardDeathTest() {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    SetUnhandledExceptionFilter(EndAtOnce);
+  }
+  ~FaultGuardDeathTest() override { SetUnhandledExceptionFilter(nullptr); }
+
+ private:
+  // Without a box of the system, and without a debugger that prints a trace.
+  static LONG WINAPI EndAtOnce(EXCEPTION_POINTERS* /*exception*/) { return EXCEPTION_EXECUTE_HANDLER; }
+};
+
+// Once a fault of the loading of a function passed for a damaged file, and no file had icons any more.
+TEST_F(FaultGuardDeathTest, LetsAFaultOfTheProgramsOwnEndIt) {
+  EXPECT_EXIT(
+      {
+        const ForbiddenPage page;
+        SurvivesFault([&] { page.Read(); });
+      },
+      EndedBy(EXCEPTION_ACCESS_VIOLATION), "");
+  EXPECT_EXIT(
+      {
+        volatile int size = 0;
+        volatile int result = 0;
+        SurvivesFault([&] { result = 100 / size; });
+      },
+      EndedBy(EXCEPTION_INT_DIVIDE_BY_ZERO), "");
+}
+
+TEST_F(FaultGuardDeathTest, LetsACallOfNoFunctionEndTheProgram) {
+  using Function = void (*)();
+  EXPECT_EXIT(
+      {
+        const volatile Function none = nullptr;
+        SurvivesFault([&] { none(); });
+      },
+      EndedBy(EXCEPTION_ACCESS_VIOLATION), "");
+}
+
+TEST_F(FaultGuardDeathTest, LetsEveryOtherKindOfExceptionEndTheProgram) {
+  for (const DWORD kind : {EXCEPTION_ILLEGAL_INSTRUCTION, EXCEPTION_PRIV_INSTRUCTION, EXCEPTION_BREAKPOINT,
+                           EXCEPTION_GUARD_PAGE, EXCEPTION_NONCONTINUABLE_EXCEPTION}) {
+    EXPECT_EXIT(SurvivesFault([&] { RaiseException(kind, 0, 0, nullptr); }), EndedBy(kind), "") << std::hex << kind;
+  }
+}
+
+TEST_F(FaultGuardDeathTest, LetsAStackThatOverflowsEndTheProgram) {
+  EXPECT_EXIT(SurvivesFault([] { Deep(1000000); }), EndedBy(EXCEPTION_STACK_OVERFLOW), "");
+}
+
+TEST_F(FaultGuardDeathTest, LeavesFaultsOutsideAGuardedCallAlone) {
+  EXPECT_EXIT(
+      {
+        const ForbiddenPage page;
+        SurvivesFault([] {});
+        page.HaveSystemRead();
+      },
+      EndedBy(EXCEPTION_ACCESS_VIOLATION), "");
+}
+
+}  // namespace
+}  // namespace tarvik

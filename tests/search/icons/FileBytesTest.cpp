@@ -1,0 +1,45 @@
+#include "search/icons/FileBytes.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+
+#include "platform/TemporaryFolder.h"
+
+namespace tarvik {
+namespace {
+
+using testing::TemporaryFolder;
+
+TEST(FileBytes, ReadsFromAnyPlace) {
+  const TemporaryFolder folder;
+  FileBytes file(folder.MakeFile("光标😀.ani", "0123456789"));
+  std::array<std::byte, 3> bytes{};
+  EXPECT_EQ(file.Size(), 10U);
+  ASSERT_TRUE(file.Read(7, bytes));
+  EXPECT_EQ(bytes, (std::array{std::byte{'7'}, std::byte{'8'}, std::byte{'9'}}));
+  ASSERT_TRUE(file.Read(0, bytes));
+  EXPECT_EQ(bytes[0], std::byte{'0'});
+}
+
+TEST(FileBytes, GivesAllBytesOrNone) {
+  const TemporaryFolder folder;
+  FileBytes file(folder.MakeFile("a.ani", "0123456789"));
+  std::array<std::byte, 3> bytes{};
+  EXPECT_FALSE(file.Read(8, bytes));
+  EXPECT_FALSE(file.Read(1ULL << 40U, bytes));
+}
+
+TEST(FileBytes, HasNoBytesWhereNoFileIs) {
+  const TemporaryFolder folder;
+  std::array<std::byte, 1> bytes{};
+  for (const std::string& path : {folder.In("none.ani"), folder.Path(), std::string()}) {
+    FileBytes file(path);
+    EXPECT_EQ(file.Size(), 0U) << path;
+    EXPECT_FALSE(file.Read(0, bytes)) << path;
+  }
+}
+
+}  // namespace
+}  // namespace tarvik

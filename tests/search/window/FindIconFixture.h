@@ -1,0 +1,154 @@
+#pragma once
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "export/AnsweredDialogs.h"
+#include "export/TemporaryBitmap.h"
+#include "forms/Application.h"
+#include "forms/BoxWatcher.h"
+#include "platform/DiskFile.h"
+#include "platform/Handles.h"
+#include "platform/Surface.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "search/window/FrmFindIcon.h"
+#include "startup/MemoryIni.h"
+#include "startup/RunTimeErrorBox.h"
+
+namespace tarvik::testing {
+
+// An icon that is one opaque square of a colour of its own.
+class SquareIcon final : public ExtractedIcon {
+ public:
+  explicit SquareIcon(Color color) : color_(color) {}
+  bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
+    if (step >= 1) return false;
+    const RECT place{corner.x, corner.y, corner.x + size, corner.y + size};
+    const BrushHandle brush(CreateSolidBrush(part == DrawPart::Mask ? black : color_));
+    FillRect(static_cast<DcSurface&>(surface).Dc(), &place, brush.get());
+    return true;
+  }
+  int StepBound() const override { return 1; }
+
+ private:
+  Color color_;
+};
+
+// A machine of a few folders: each file holds as many icons as the map says.
+class SmallMachine final : public IconSource, public FolderReader {
+ public:
+  static Color ColorOf(int index) { return 0x010203U * static_cast<Color>(index % 60 + 1); }
+
+  int CountIcons(const std::string& path) override { return icons.contains(path) ? icons.at(path) : 0; }
+  std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override {
+    if (index >= CountIcons(path)) return nullptr;
+    return std::make_unique<SquareIcon>(ColorOf(index));
+  }
+  std::vector<std::string> Files(const std::string& folder, const std::string& pattern) override {
+    patterns.push_back(pattern);
+    return files[folder];
+  }
+  std::vector<std::string> SubFolders(const std::string& folder) override { return subFolders[folder]; }
+
+  std::map<std::string, int> icons;  // by path
+  std::map<std::string, std::vector<std::string>> files;
+  std::map<std::string, std::vector<std::string>> subFolders;  // full paths
+  std::vector<std::string> patterns;                           // as they were asked for
+};
+
+// The real main window over a small machine: "C:\icons" with one file of as many icons as a test says.
+class FindIconFixture : public ::testing::Test {
+ protected:
+  FindIconFixture() {
+    state.CurrentLanguage = "ENG";
+    application.OnRuntimeError = [this](Form& form, const RuntimeError& error) {
+      ShowRuntimeError(form.Window(), error, state.CurrentLanguage);
+    };
+    ini.values["FindIcon/Folder"] = "C:\\icons";
+    machine.files["C:\\icons"] = {"some.dll"};
+  }
+
+  void Open(const std::string& language = "ENG") { OpenOver(machine, machine, language); }
+
+  void OpenOver(IconSource& icons, FolderReader& folders, const std::string& language = "ENG") {
+    state.CurrentLanguage = language;
+    window = std::make_unique<FrmFindIcon>(
+        application, FrmFindIcon::Services{state,
+                                           settings,
+                                           icons,
+                                           folders,
+                                           [this] { return drives; },
+                                           [](const std::string& folder) { return !folder.starts_with("D:"); },
+                                           "C:\\program",
+                                           [this] { ++aboutShown; },
+                                           [this] { ++guideShown; },
+                                           {dialogs, files, temporaryBitmap}});
+    window->Show();
+    application.DoEvents();
+  }
+
+  void Find(int icons) {
+    machine.icons["C:\\icons\\some.dll"] = icons;
+    Click(FrmFindIcon_CmdFind);
+    application.DoEvents();
+  }
+
+  void Click(int id) { SendMessageW(window->Window(), WM_COMMAND, static_cast<WPARAM>(id), 0); }
+  HWND Item(int id) const { return window->Item(id); }
+  HWND Grid() const { return GetDlgItem(Item(FrmFindIcon_PicFrame), FrmFindIcon_PicIcons); }
+  std::string Text(int id) const { return window->ItemText(id); }
+  void SetText(int id, const std::string& text) const { window->SetItemText(id, text); }
+  bool IsEnabled(int id) const {
+    return Item(id) != nullptr ? IsWindowEnabled(Item(id)) != FALSE : window->TheMenu().IsEnabled(id);
+  }
+  std::string Caption() const {
+    std::wstring text(512, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(window->Window(), text.data(), 512)));
+    return ToUtf8(text);
+  }
+  std::string Status() const {
+    std::wstring text(512, L'\0');
+    SendMessageW(Item(FrmFindIcon_sbMain), SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(text.data()));
+    return ToUtf8(text.c_str());
+  }
+  // A pixel of the grid picture as the window paints it.
+  Color GridPixel(int x, int y) const {
+    application_.DoEvents();
+    const WindowDc dc(Grid());
+    return GetPixel(dc.get(), x, y);
+  }
+  void ReleaseOnGrid(int x, int y, WPARAM keys = 0, UINT message = WM_LBUTTONUP) const {
+    SendMessageW(Grid(), message, keys, MAKELPARAM(x, y));
+  }
+  bool IsRowSelected(int number) const {
+    return ListView_GetItemState(Item(FrmFindIcon_Lv), number - 1, LVIS_SELECTED) != 0;
+  }
+
+  ProgramState state;
+  MemoryIni ini;
+  Settings settings{ini, "C:\\program\\tarvik.exe"};
+  SmallMachine machine;
+  Application application{GetModuleHandleW(nullptr)};
+  Application& application_ = application;
+  DiskFile files;
+  TemporaryBitmap temporaryBitmap{TemporaryBitmapPlaces()};
+  AnsweredDialogs dialogs{
+      application,
+      state,
+      {[this] { return window->Window(); }, [this]() -> const Surface& { return window->Surfaces().Composed(); },
+       [this]() -> const Surface& { return window->PicMain(); }}};
+  int aboutShown = 0;
+  int guideShown = 0;
+  std::vector<DriveListBox::Drive> drives{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
+  BoxWatcher boxes;
+  std::unique_ptr<FrmFindIcon> window;
+};
+
+}  // namespace tarvik::testing

@@ -1,0 +1,227 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "search/window/FindIconFixture.h"
+
+namespace tarvik {
+namespace {
+
+class FrmFindIconSelectionTest : public testing::FindIconFixture {
+ protected:
+  void Open20() {
+    Open();
+    Find(20);
+  }
+  std::vector<int> SelectedRows() const {
+    std::vector<int> rows;
+    for (int number = 1; number <= ListView_GetItemCount(Item(FrmFindIcon_Lv)); ++number) {
+      if (IsRowSelected(number)) rows.push_back(number);
+    }
+    return rows;
+  }
+  bool IsFramed(int number) const { return GridPixel(1 + (number - 1) % 15 * 38, 1 + (number - 1) / 15 * 38) == black; }
+  // As a user does with the control: its own state changes, and it tells.
+  void ChooseInList(int row) {
+    ListView_SetItemState(Item(FrmFindIcon_Lv), -1, 0, LVIS_SELECTED);
+    ListView_SetItemState(Item(FrmFindIcon_Lv), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    application.DoEvents();
+  }
+};
+
+// A file that holds more icons when it is listed than when it was counted.
+class GrowingFile final : public IconSource {
+ public:
+  static constexpr int counted = 3;
+  static constexpr int listed = 5;
+
+  int CountIcons(const std::string& /*path*/) override { return asked_++ == 0 ? counted : listed; }
+  std::unique_ptr<ExtractedIcon> Extract(const std::string& /*path*/, int /*index*/) override {
+    return std::make_unique<testing::SquareIcon>(0x0000FF);
+  }
+
+ private:
+  int asked_ = 0;
+};
+
+using Rows = std::vector<int>;
+
+TEST_F(FrmFindIconSelectionTest, SelectsTheClickedIconAlone) {
+  Open20();
+  ReleaseOnGrid(3 + 38, 10);
+  EXPECT_EQ(SelectedRows(), Rows{2});
+  EXPECT_TRUE(IsFramed(2));
+  EXPECT_FALSE(IsFramed(1));
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 2 Selected.");
+  EXPECT_EQ(Status(), "C:\\icons\\some.dll");
+}
+
+TEST_F(FrmFindIconSelectionTest, AnswersForNoMoreIconsThanWereCounted) {
+  GrowingFile file;
+  OpenOver(file, machine);
+  Click(FrmFindIcon_CmdFind);
+  application.DoEvents();
+  ASSERT_EQ(ListView_GetItemCount(Item(FrmFindIcon_Lv)), GrowingFile::listed);
+  ReleaseOnGrid(3 + GrowingFile::counted * 38, 10);
+  EXPECT_EQ(SelectedRows(), Rows{1});
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
+  ReleaseOnGrid(3 + (GrowingFile::counted - 1) * 38, 10);
+  EXPECT_EQ(SelectedRows(), Rows{GrowingFile::counted});
+}
+
+TEST_F(FrmFindIconSelectionTest, AddsAndRemovesWithCtrl) {
+  Open20();
+  ReleaseOnGrid(3 + 38, 10, MK_CONTROL);
+  EXPECT_EQ(SelectedRows(), (Rows{1, 2}));
+  ReleaseOnGrid(10, 10, MK_CONTROL);
+  EXPECT_EQ(SelectedRows(), Rows{2});
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.") << "the current entry moves to a deselected one too";
+}
+
+TEST_F(FrmFindIconSelectionTest, TakesCtrlWithShiftForAPlainClick) {
+  Open20();
+  ReleaseOnGrid(3 + 38, 10, MK_CONTROL | MK_SHIFT);
+  EXPECT_EQ(SelectedRows(), Rows{2});
+}
+
+TEST_F(FrmFindIconSelectionTest, TreatsEveryButtonAlike) {
+  Open20();
+  ReleaseOnGrid(3 + 38, 10, 0, WM_RBUTTONUP);
+  EXPECT_EQ(SelectedRows(), Rows{2});
+  ReleaseOnGrid(3 + 76, 10, 0, WM_MBUTTONUP);
+  EXPECT_EQ(SelectedRows(), Rows{3});
+}
+
+TEST_F(FrmFindIconSelectionTest, IgnoresClicksBesideTheIcons) {
+  Open20();
+  ReleaseOnGrid(581, 10);
+  ReleaseOnGrid(3 + 5 * 38, 3 + 38);
+  EXPECT_EQ(SelectedRows(), Rows{1});
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
+}
+
+TEST_F(FrmFindIconSelectionTest, LeavesTheFirstFrameAfterAnotherWasCurrent) {
+  Open20();
+  ReleaseOnGrid(3 + 38, 10, MK_CONTROL);
+  ReleaseOnGrid(3 + 76, 10);
+  EXPECT_EQ(SelectedRows(), Rows{3});
+  EXPECT_TRUE(IsFramed(1));
+  EXPECT_FALSE(IsFramed(2));
+}
+
+TEST_F(FrmFindIconSelectionTest, InvertsRowsAndFramesTogether) {
+  Open20();
+  Click(FrmFindIcon_mnuRem);
+  EXPECT_EQ(SelectedRows().size(), 19U);
+  EXPECT_FALSE(IsFramed(1));
+  EXPECT_TRUE(IsFramed(20));
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
+}
+
+TEST_F(FrmFindIconSelectionTest, FollowsAChoiceInTheList) {
+  Open20();
+  Click(FrmFindIcon_OptView1);
+  ChooseInList(16);
+  EXPECT_EQ(SelectedRows(), Rows{17});
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 17 Selected.");
+  Click(FrmFindIcon_OptView0);
+  EXPECT_TRUE(IsFramed(17));
+}
+
+TEST_F(FrmFindIconSelectionTest, NumbersTheLabelByTheFileOnDemand) {
+  machine.files["C:\\icons"] = {"a.dll", "some.dll"};
+  machine.icons["C:\\icons\\a.dll"] = 4;
+  Open20();
+  ReleaseOnGrid(3 + 4 * 38, 10);
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 5 Selected.");
+  Click(FrmFindIcon_mnuIL2);
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
+  EXPECT_TRUE(window->TheMenu().IsChecked(FrmFindIcon_mnuIL2));
+  EXPECT_FALSE(window->TheMenu().IsChecked(FrmFindIcon_mnuIL1));
+  Click(FrmFindIcon_mnuIL1);
+  EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 5 Selected.");
+}
+
+// Closes the enhanced view as soon as it is there, and remembers what its status bar said.
+class ViewWatcher {
+ public:
+  ViewWatcher() : timer_(SetTimer(nullptr, 0, 10, Tick)) { status.clear(); }
+  ~ViewWatcher() { KillTimer(nullptr, timer_); }
+  ViewWatcher(const ViewWatcher&) = delete;
+  ViewWatcher& operator=(const ViewWatcher&) = delete;
+
+  static inline std::string status;
+
+ private:
+  static BOOL CALLBACK Visit(HWND window, LPARAM /*parameter*/) {
+    const HWND bar = GetDlgItem(window, frmBit_sbMain);
+    if (bar == nullptr || IsWindowVisible(window) == FALSE) return TRUE;
+    std::array<wchar_t, 512> text{};
+    SendMessageW(bar, SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(text.data()));
+    status = ToUtf8(text.data());
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    return TRUE;
+  }
+  static void CALLBACK Tick(HWND /*window*/, UINT /*message*/, UINT_PTR /*id*/, DWORD /*time*/) {
+    EnumThreadWindows(GetCurrentThreadId(), Visit, 0);
+  }
+
+  UINT_PTR timer_;
+};
+
+TEST_F(FrmFindIconSelectionTest, OpensTheEnhancedViewOnADoubleClick) {
+  Open20();
+  const ViewWatcher view;
+  ReleaseOnGrid(3 + 2 * 38, 10);
+  ReleaseOnGrid(3 + 2 * 38, 10, MK_LBUTTON, WM_LBUTTONDBLCLK);
+  EXPECT_EQ(ViewWatcher::status, "C:\\icons\\some.dll - 2");
+  EXPECT_TRUE(IsWindowEnabled(window->Window()));
+}
+
+TEST_F(FrmFindIconSelectionTest, OpensNoEnhancedViewOfAnEmptyList) {
+  Open();
+  const ViewWatcher view;
+  ReleaseOnGrid(10, 10, MK_LBUTTON, WM_LBUTTONDBLCLK);
+  EXPECT_EQ(ViewWatcher::status, "");
+}
+
+TEST_F(FrmFindIconSelectionTest, HidesAndShowsTheLabel) {
+  Open20();
+  Click(FrmFindIcon_mnuShowLabel);
+  EXPECT_FALSE(IsWindowVisible(Item(FrmFindIcon_lblInfo)));
+  EXPECT_FALSE(window->TheMenu().IsChecked(FrmFindIcon_mnuShowLabel));
+  Click(FrmFindIcon_mnuShowLabel);
+  EXPECT_TRUE(IsWindowVisible(Item(FrmFindIcon_lblInfo)));
+}
+
+TEST_F(FrmFindIconSelectionTest, ShowsAndNumbersLabelsInAllFromTheStart) {
+  Open();
+  EXPECT_TRUE(window->TheMenu().IsChecked(FrmFindIcon_mnuShowLabel));
+  EXPECT_TRUE(window->TheMenu().IsChecked(FrmFindIcon_mnuIL1));
+  EXPECT_FALSE(window->TheMenu().IsChecked(FrmFindIcon_mnuIL2));
+}
+
+TEST_F(FrmFindIconSelectionTest, RendersAnEntryIntoTheSurfaces) {
+  Open20();
+  EXPECT_TRUE(window->RenderEntry(4));
+  EXPECT_EQ(window->Surfaces().Composed().Pixel(31, 31), testing::SmallMachine::ColorOf(3));
+  EXPECT_EQ(window->Surfaces().Mask().Pixel(0, 0), black);
+  EXPECT_FALSE(window->RenderEntry(0));
+  EXPECT_FALSE(window->RenderEntry(21));
+  EXPECT_EQ(window->Surfaces().Composed().Pixel(31, 31), testing::SmallMachine::ColorOf(3));
+}
+
+TEST_F(FrmFindIconSelectionTest, LeavesTheSurfacesClearedForAFileThatIsGone) {
+  Open20();
+  EXPECT_TRUE(window->RenderEntry(4));
+  machine.icons.clear();
+  EXPECT_TRUE(window->RenderEntry(4));
+  EXPECT_EQ(window->Surfaces().Composed().Pixel(0, 0), surfaceBackground);
+  EXPECT_EQ(window->Surfaces().Mask().Pixel(0, 0), surfaceBackground);
+}
+
+}  // namespace
+}  // namespace tarvik

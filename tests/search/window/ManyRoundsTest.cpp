@@ -1,0 +1,114 @@
+// What stays behind after a long day with the main window: over real files, with all its dialogs.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <functional>
+
+#include "forms/Controls.h"
+#include "forms/ModalDriver.h"
+#include "platform/Holdings.h"
+#include "platform/IconFiles.h"
+#include "platform/TemporaryFolder.h"
+#include "search/icons/Folders.h"
+#include "search/icons/ShellIcons.h"
+#include "search/window/FindIconFixture.h"
+
+namespace tarvik {
+namespace {
+
+using testing::Command;
+using testing::Holdings;
+
+class ManyRounds : public testing::FindIconFixture {
+ protected:
+  void OpenOnFiles() {
+    const std::array colors{Color{0x0000FF}, Color{0xFF0000}};
+    files_.MakeFile("a.ico", testing::IconFileOf(0xFF));
+    files_.MakeFile("b.ico", testing::IconFile(std::array{testing::PngPicture(32, 0xFF, 0xFF00)}));
+    files_.MakeFile("c.ani", testing::AnimationFile(colors));
+    files_.MakeFile("d.ico", "no icon");
+    ini.values["FindIcon/Folder"] = files_.Path();
+    OpenOver(icons_, folders_);
+    SendMessageW(Item(FrmFindIcon_ChkFileType0 + 1), BM_CLICK, 0, 0);
+  }
+
+  // One thing of a round, and what it must leave.
+  void SearchFiles() {
+    Click(FrmFindIcon_CmdFind);
+    application.DoEvents();
+    ASSERT_EQ(ListView_GetItemCount(Item(FrmFindIcon_Lv)), 4);
+  }
+  void ChooseAndView() {
+    driver_.On(frmBit_sbMain, [](HWND view) {
+      Command(view, frmBit_tlb_control_MoveNext);
+      PostMessageW(view, WM_CLOSE, 0, 0);
+    });
+    ReleaseOnGrid(10 + 38, 10);
+    ReleaseOnGrid(10 + 38, 10, MK_LBUTTON, WM_LBUTTONDBLCLK);
+  }
+  void SaveOne(int command, const std::string& name) {
+    dialogs.path = saved_.In(name);
+    Click(command);
+    EXPECT_FALSE(testing::ReadAll(dialogs.path).empty()) << name;
+    DeleteFileW(ToWide(dialogs.path).c_str());
+  }
+  void SaveCursor() {
+    driver_.On(FrmHotSpot_PicCursor, [](HWND picker) { Command(picker, FrmHotSpot_CmdOk); });
+    SaveOne(FrmFindIcon_MnuSaveAsCursor, "a.cur");
+  }
+  void SaveJpeg() {
+    driver_.On(fSaveJPG_CboSize, [](HWND options) { Command(options, fSaveJPG_cmdFinish1); });
+    SaveOne(FrmFindIcon_MnuSaveAsBitmap, "a.jpg");
+  }
+  void SaveGif() {
+    driver_.On(FrmConvertGIF_Option1, [](HWND options) { Command(options, FrmConvertGIF_CmdOk); });
+    SaveOne(FrmFindIcon_MnuSaveAsBitmap, "a.gif");
+  }
+  void SaveAll() {
+    dialogs.folder = saved_.Path();
+    for (const int command : {FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveAll2, FrmFindIcon_mnuSaveSel3}) Click(command);
+    EXPECT_FALSE(testing::ReadAll(saved_.In("Icon 4.ico")).empty());
+  }
+
+  // Search, view, save and copy; of the saves with a dialog of their own, and all icons at once, one a round, in turn.
+  void Round(int number) {
+    const std::array<std::function<void()>, 4> turns{[this] { SaveCursor(); }, [this] { SaveJpeg(); },
+                                                     [this] { SaveGif(); }, [this] { SaveAll(); }};
+    SearchFiles();
+    ChooseAndView();
+    SaveOne(FrmFindIcon_mnuSaveAs, "a.ico");
+    SaveOne(FrmFindIcon_MnuSaveAsBitmap, "a.bmp");
+    turns[static_cast<std::size_t>(number) % turns.size()]();
+    Click(FrmFindIcon_mnuCopy);
+    application.DoEvents();
+  }
+
+ private:
+  testing::TemporaryFolder files_;
+  testing::TemporaryFolder saved_;
+  ShellIcons icons_;
+  Folders folders_;
+  testing::ModalDriver driver_;
+};
+
+TEST_F(ManyRounds, OfSearchViewSaveAndCopyLeaveNothingBehind) {
+  constexpr int warmUp = 40;
+  constexpr int rounds = 1000;
+  OpenOnFiles();
+  for (int round = 0; round < warmUp && !HasFailure(); ++round) Round(round);
+  const Holdings before = testing::HeldBy(GetCurrentProcess());
+  for (int round = 0; round < rounds && !HasFailure(); ++round) Round(round);
+  const Holdings after = testing::HeldBy(GetCurrentProcess());
+  EXPECT_TRUE(boxes.Boxes().empty());
+  EXPECT_EQ(after.gdiObjects, before.gdiObjects);
+  EXPECT_EQ(after.kernelHandles, before.kernelHandles);
+  EXPECT_LT(after.userHandles - before.userHandles, rounds / 20) << "of all processes together";
+  EXPECT_GT(before.bytes, 0);
+  EXPECT_LT(after.bytes - before.bytes, 2 << 20) << "not 2 KB a round";
+}
+
+}  // namespace
+}  // namespace tarvik

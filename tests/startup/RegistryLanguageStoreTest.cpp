@@ -1,0 +1,92 @@
+#include "startup/RegistryLanguageStore.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <string>
+
+#include "platform/Handles.h"
+#include "startup/Language.h"
+
+namespace tarvik {
+namespace {
+
+// Takes the language key away, with what a test that was broken off may have left in it.
+void DeleteKey() {
+  for (const char* key : {RegistryLanguageStore::key, R"(Software\Vornhold\Brindle Tarvik)", R"(Software\Vornhold)"})
+    RegDeleteKeyA(HKEY_LOCAL_MACHINE, key);
+}
+
+// The language key, new and without a value, for as long as it lives.
+class LanguageKey {
+ public:
+  LanguageKey() {
+    DeleteKey();
+    HKEY key = nullptr;
+    DWORD disposition = 0;
+    EXPECT_EQ(RegCreateKeyExA(HKEY_LOCAL_MACHINE, RegistryLanguageStore::key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
+                              &key, &disposition),
+              ERROR_SUCCESS);
+    key_.reset(key);
+  }
+  ~LanguageKey() {
+    key_.reset();
+    DeleteKey();
+  }
+  LanguageKey(const LanguageKey&) = delete;
+  LanguageKey& operator=(const LanguageKey&) = delete;
+
+  void Set(const std::string& value) const {
+    EXPECT_EQ(RegSetValueExA(key_.get(), "Language", 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
+                             static_cast<DWORD>(value.size() + 1)),
+              ERROR_SUCCESS);
+  }
+
+ private:
+  RegistryKey key_;
+};
+
+std::string Read() {
+  return RegistryLanguageStore().ReadBuffer("Language");
+}
+
+TEST(RegistryLanguageStore, GivesTheValueInABufferOfBlanks) {
+  const LanguageKey key;
+  key.Set(" chs");
+  EXPECT_EQ(Read(), std::string(" chs\0", 5) + std::string(255, ' '));
+}
+
+TEST(RegistryLanguageStore, GivesUtf8) {
+  const LanguageKey key;
+  key.Set("简体");
+  EXPECT_EQ(Read(), std::string("简体\0", 7) + std::string(253, ' '));
+}
+
+TEST(RegistryLanguageStore, GivesBlanksWhereThereIsNoValue) {
+  const LanguageKey key;
+  EXPECT_EQ(Read(), std::string(260, ' '));
+}
+
+TEST(RegistryLanguageStore, GivesNothingWhereThereIsNoKey) {
+  DeleteKey();
+  EXPECT_EQ(Read(), "");
+}
+
+TEST(RegistryLanguageStore, LeavesTheBufferBlankForAValueThatIsTooLong) {
+  const LanguageKey key;
+  key.Set(std::string(300, 'E'));
+  EXPECT_EQ(Read(), std::string(260, ' '));
+}
+
+TEST(RegistryLanguageStore, SettlesTheLanguageTogetherWithTheRule) {
+  const LanguageKey key;
+  RegistryLanguageStore store;
+  EXPECT_EQ(ChooseLanguage(store), "ENG");
+  key.Set("chs");
+  EXPECT_EQ(ChooseLanguage(store), "CHS");
+  key.Set("  CHT  ");
+  EXPECT_EQ(ChooseLanguage(store), "  C");
+}
+
+}  // namespace
+}  // namespace tarvik
