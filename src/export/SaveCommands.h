@@ -6,7 +6,7 @@
 
 #include "base/FileSink.h"
 #include "export/SaveWindow.h"
-#include "search/SearchWindow.h"
+#include "grid/SearchState.h"
 #include "search/icons/IconList.h"
 #include "startup/Language.h"
 #include "startup/ProgramState.h"

@@ -3,14 +3,9 @@
 #include <array>
 #include <string_view>
 
-namespace tarvik {
+#include "base/Point.h"
 
-// A place in the grid picture, in pixels from its top-left corner.
-struct Point {
-  int x = 0;
-  int y = 0;
-  friend bool operator==(const Point&, const Point&) = default;
-};
+namespace tarvik {
 
 // The grid of one icon size: all lengths in pixels.
 struct GridGeometry {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "base/DrawSurface.h"
+#include "base/Point.h"
 #include "grid/GridGeometry.h"
-#include "search/icons/IconSource.h"
 
 namespace tarvik {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "search/SearchTexts.h"
+#include "grid/SelectionTexts.h"
 
 namespace tarvik {
 
@@ -76,7 +76,7 @@ void Selection::ShowCurrentLabel() {
   const int number = state_.CurrentIndex + 1;
   if (!list_.Has(number)) return;
   const int label = LabelNumber(list_.Item(number), number, view_.NumbersByFile());
-  const auto text = Compose(searchTexts::entrySelected, language_, {std::to_string(label)});
+  const auto text = Compose(selectionTexts::entrySelected, language_, {std::to_string(label)});
   if (text) view_.SetInfoText(*text);
 }
 

@@ -4,7 +4,7 @@
 
 #include "grid/GridView.h"
 #include "grid/HitTest.h"
-#include "search/SearchWindow.h"
+#include "grid/SearchState.h"
 #include "search/icons/IconList.h"
 
 namespace tarvik {

@@ -6,8 +6,8 @@
 #include <memory>
 #include <span>
 
+#include "base/DrawSurface.h"
 #include "base/PixelView.h"
-#include "search/icons/IconSource.h"
 
 namespace tarvik {
 

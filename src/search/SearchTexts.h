@@ -2,7 +2,7 @@
 
 #include "startup/Language.h"
 
-// The texts of a search and of the selection. "%1" and "%2" are places for values (see Compose).
+// The texts of a search. "%1" and "%2" are places for values (see Compose).
 namespace tarvik::searchTexts {
 
 // Window title: Dir1's path, the count.
@@ -16,9 +16,8 @@ inline constexpr Text adding{"Adding %1th icon to list", "正添加No.%1到列�
 inline constexpr Text added{"%1 Icons Added. Double click an icon for enhanced view.",
                             "%1个图标被加入列表.双击图标可以浏览.", "%1個圖示被加入列表.雙擊圖示可以流覽."};
 
-// Label after a search, and after an entry was chosen: its number. Only the second has a blank before "NO.".
+// Label after a search.
 inline constexpr Text firstSelected{"Icon No 1 Selected.", "选中NO.1 图标.", "選中NO.1 圖示."};
-inline constexpr Text entrySelected{"Icon No %1 Selected.", "选中 NO.%1 图标.", "選中 NO.%1 圖示."};
 
 // Message boxes: the start of the folder's path; the count and the limit; the count and the highest limit.
 inline constexpr Text noIcons{"%1 ... contains no icons.", "%1中没有图标.", "%1中沒有圖示."};

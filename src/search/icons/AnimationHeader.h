@@ -1,20 +1,8 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <span>
+#include "base/ByteSource.h"
 
 namespace tarvik {
-
-// The bytes of a file, read where they are asked for.
-class ByteSource {
- public:
-  virtual ~ByteSource() = default;
-
-  virtual std::uint64_t Size() = 0;
-  // Fills all of `bytes` from `offset` on, or says no.
-  virtual bool Read(std::uint64_t offset, std::span<std::byte> bytes) = 0;
-};
 
 // The most steps that the animation in a file can have, told without the platform; 0 for a file that is no
 // animation (RIFF of type ACON: a header chunk "anih", an optional order of pictures "seq ", and the pictures

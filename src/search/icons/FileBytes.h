@@ -5,8 +5,8 @@
 #include <span>
 #include <string>
 
+#include "base/ByteSource.h"
 #include "platform/Handles.h"
-#include "search/icons/AnimationHeader.h"
 
 namespace tarvik {
 

@@ -3,15 +3,10 @@
 #include <memory>
 #include <string>
 
-#include "grid/GridGeometry.h"
+#include "base/DrawSurface.h"
+#include "base/Point.h"
 
 namespace tarvik {
-
-// Something icons are drawn on: the grid picture, a capture surface, the main window. The platform knows how.
-class DrawSurface {
- public:
-  virtual ~DrawSurface() = default;
-};
 
 // What of an icon is drawn.
 enum class DrawPart { Mask = 1, Image = 2, Normal = 3 };
