@@ -119,7 +119,12 @@ void frmBit::Form_Unload() {
 
 void frmBit::Form_Resize() {
   toolbar_.Resize();
+  RECT formerBar;
+  GetWindowRect(Item(frmBit_sbMain), &formerBar);
+  MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&formerBar), 2);
   SendMessageW(Item(frmBit_sbMain), WM_SIZE, 0, 0);
+  // Wine 10 keeps the picture of a status bar where the bar was when the window grows.
+  RedrawWindow(Window(), &formerBar, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   InvalidateRect(Item(frmBit_sbMain), nullptr, TRUE);  // or its size grip stays where it was as well
   UpdateCaption();
 }
