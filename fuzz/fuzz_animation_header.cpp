@@ -10,7 +10,7 @@ class FuzzedFile : public ByteSource {
  public:
   FuzzedFile(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
 
-  std::uint64_t Size() override { return size_; }
+  FileStamp Stamp() override { return {.size = size_}; }
   bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
     Require(offset <= size_ && bytes.size() <= size_ - offset, "no byte past the end is asked for");
     ++reads;
@@ -30,7 +30,7 @@ class FuzzedFile : public ByteSource {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   tarvik::FuzzedFile file(data, size);
-  const int steps = tarvik::MostAnimationSteps(file);
+  const int steps = tarvik::InspectAnimation(file).mostSteps;
   tarvik::Require(steps >= 0, "steps are counted from zero");
   tarvik::Require(static_cast<std::size_t>(steps) <= size / 4, "each step takes four bytes or more");
   tarvik::Require(file.reads <= size / 4096 + 1, "each block is read once");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <windows.h>
+#include <winioctl.h>
 
 #include <array>
 
@@ -117,6 +118,19 @@ std::string TemporaryFolder::MakeFile(std::string_view name, std::span<const std
 
 std::string TemporaryFolder::MakeFile(std::string_view name, std::string_view text) const {
   return MakeFile(name, std::as_bytes(std::span(text)));
+}
+
+std::string TemporaryFolder::MakeSparseFile(std::string_view name, std::span<const std::byte> start,
+                                            std::uint64_t size) const {
+  const std::string path = MakeFile(name, start);
+  const FileHandle file(CreateFileW(LiteralPath(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+  DWORD written = 0;
+  // Wine's files are sparse unasked, and it does not know the request.
+  DeviceIoControl(file.get(), FSCTL_SET_SPARSE, nullptr, 0, nullptr, 0, &written, nullptr);
+  LARGE_INTEGER end;
+  end.QuadPart = static_cast<LONGLONG>(size);
+  EXPECT_TRUE(SetFilePointerEx(file.get(), end, nullptr, FILE_BEGIN) != 0 && SetEndOfFile(file.get()) != 0) << name;
+  return path;
 }
 
 std::string TemporaryFolder::MakeLink(std::string_view name, const std::string& target) {

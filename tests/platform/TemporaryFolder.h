@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -25,6 +26,8 @@ class TemporaryFolder {
   std::string MakeFolder(std::string_view name) const;
   std::string MakeFile(std::string_view name, std::span<const std::byte> bytes) const;
   std::string MakeFile(std::string_view name, std::string_view text = "x") const;
+  // A file of `size` bytes that takes hardly any room: zeros behind what it starts with.
+  std::string MakeSparseFile(std::string_view name, std::span<const std::byte> start, std::uint64_t size) const;
   // A symbolic link to a folder or to a file.
   std::string MakeLink(std::string_view name, const std::string& target);
 

@@ -13,6 +13,8 @@ constexpr std::uint64_t listTypeSize = 4;        // a list's data starts with th
 constexpr std::uint64_t pictureCountOffset = 4;  // in the data of "anih", after its own size
 constexpr std::uint64_t stepCountOffset = 8;     // after the picture count
 constexpr std::uint64_t sequenceEntrySize = 4;
+constexpr std::uint32_t stillCursorStart = 0x20000;  // of 16 bits each: a zero, and 2 for a cursor
+constexpr std::size_t mostLooks = 10'000;            // that are remembered
 
 // A type of four characters as the number that stands for it in a file.
 consteval std::uint32_t TypeNumber(std::string_view type) {
@@ -29,12 +31,14 @@ constexpr std::uint32_t framesType = TypeNumber("fram");
 constexpr std::uint32_t pictureType = TypeNumber("icon");
 
 // Reads a file through a block kept in memory, so that a run of small chunks costs few reads. Bytes past the
-// end, or that the file will not give, read as zero: no chunk has such a type.
+// end, past the bound, or that the file will not give, read as zero: no chunk has such a type.
 class BlockReader {
  public:
-  explicit BlockReader(ByteSource& file) : file_(file), size_(file.Size()) {}
+  explicit BlockReader(ByteSource& file) : file_(file), size_(file.Stamp().size) {}
 
   std::uint64_t Size() const { return size_; }
+  // The first place that was not looked at because of the bounds; past every file if there is none.
+  std::uint64_t GivenUpAt() const { return givenUpAt_; }
 
   // A little-endian number. Its bytes are read upwards, as all of the file is: going back would load blocks twice.
   std::uint32_t Number(std::uint64_t offset) {
@@ -43,7 +47,17 @@ class BlockReader {
     return number;
   }
 
+  // Whether one more chunk, or entry of an order, may be looked at: the one at that place.
+  bool MayTakeChunk(std::uint64_t offset) { return MayTake(chunksLeft_, offset); }
+  bool MayTakeEntry(std::uint64_t offset) { return MayTake(entriesLeft_, offset); }
+
  private:
+  bool MayTake(int& left, std::uint64_t offset) {
+    if (left == 0 || bytesLeft_ == 0) GiveUp(offset);
+    return left != 0 && bytesLeft_ != 0 && left-- != 0;
+  }
+  void GiveUp(std::uint64_t offset) { givenUpAt_ = std::min(givenUpAt_, offset); }
+
   std::uint32_t Byte(std::uint64_t offset) {
     if (offset >= size_) return 0;
     if (offset < start_ || offset - start_ >= held_) Load(offset);
@@ -51,8 +65,13 @@ class BlockReader {
   }
 
   void Load(std::uint64_t offset) {
+    if (bytesLeft_ < block_.size()) {
+      bytesLeft_ = 0;
+      return GiveUp(offset);
+    }
     start_ = offset - offset % block_.size();
     held_ = std::min<std::uint64_t>(block_.size(), size_ - start_);
+    bytesLeft_ -= held_;
     if (!file_.Read(start_, std::span(block_).first(held_))) std::ranges::fill(block_, std::byte{0});
   }
 
@@ -60,6 +79,10 @@ class BlockReader {
   std::uint64_t size_;
   std::uint64_t start_ = 0;
   std::uint64_t held_ = 0;
+  std::uint64_t bytesLeft_ = mostAnimationBytes;
+  int chunksLeft_ = mostAnimationChunks;
+  int entriesLeft_ = mostSequenceEntries;
+  std::uint64_t givenUpAt_ = std::numeric_limits<std::uint64_t>::max();
   std::array<std::byte, 4096> block_{};
 };
 
@@ -70,10 +93,10 @@ struct Chunk {
   std::uint64_t size;  // of the data that is there
 };
 
-// Calls `visit` for each chunk between two places. Each one takes at least its header, so the walk ends.
+// Calls `visit` for each chunk between two places, as far as the bounds allow.
 template <typename Visit>
 void ForEachChunk(BlockReader& file, std::uint64_t from, std::uint64_t end, const Visit& visit) {
-  while (from < end && end - from >= chunkHeaderSize) {
+  while (from < end && end - from >= chunkHeaderSize && file.MayTakeChunk(from)) {
     const std::uint32_t type = file.Number(from);
     const std::uint64_t written = file.Number(from + 4);
     const std::uint64_t data = from + chunkHeaderSize;
@@ -82,7 +105,7 @@ void ForEachChunk(BlockReader& file, std::uint64_t from, std::uint64_t end, cons
   }
 }
 
-// What a file says of its steps. Where a chunk stands more than once, the largest counts: whichever of them
+// What a file says of its steps. If there are several chunks of a kind, the largest counts: whichever of them
 // the platform takes, it draws no more steps.
 struct Findings {
   std::uint64_t headerPictures = 0;
@@ -106,11 +129,13 @@ void CountPictures(BlockReader& file, const Chunk& list, Findings& findings) {
 void NoteSequence(BlockReader& file, const Chunk& chunk, Findings& findings) {
   ++findings.sequences;
   const std::uint64_t entries = chunk.size / sequenceEntrySize;
-  findings.sequenceEntries = std::max(findings.sequenceEntries, entries);
-  for (std::uint64_t entry = 0; entry < entries; ++entry) {
-    const std::uint64_t picture = file.Number(chunk.data + entry * sequenceEntrySize);
-    findings.highestEntry = std::max(findings.highestEntry, picture);
+  std::uint64_t entry = 0;
+  for (; entry < entries; ++entry) {
+    const std::uint64_t place = chunk.data + entry * sequenceEntrySize;
+    if (!file.MayTakeEntry(place)) break;
+    findings.highestEntry = std::max<std::uint64_t>(findings.highestEntry, file.Number(place));
   }
+  findings.sequenceEntries = std::max(findings.sequenceEntries, entry);
 }
 
 void Note(BlockReader& file, const Chunk& chunk, Findings& findings) {
@@ -126,32 +151,40 @@ void Note(BlockReader& file, const Chunk& chunk, Findings& findings) {
   }
 }
 
-// What the file says and holds; nothing where it is no animation.
-Findings Inspect(ByteSource& source) {
-  Findings findings;
-  BlockReader file(source);
-  if (file.Number(0) != riffType || file.Number(chunkHeaderSize) != animationType) return findings;
-  // The size that the file states for itself is often wrong and never needed.
-  ForEachChunk(file, chunkHeaderSize + listTypeSize, file.Size(),
-               [&](const Chunk& chunk) { Note(file, chunk, findings); });
-  return findings;
-}
-
-}  // namespace
-
-int MostAnimationSteps(ByteSource& file) {
-  const Findings findings = Inspect(file);
-  const std::uint64_t steps = std::min(findings.headerSteps, findings.HeldSteps());
-  return static_cast<int>(std::min<std::uint64_t>(steps, std::numeric_limits<int>::max()));
-}
-
-bool HoldsWhatItSays(ByteSource& file) {
-  const Findings findings = Inspect(file);
-  // Of two headers or orders, nobody knows which the platform takes.
+bool HoldsWhatItSays(const Findings& findings) {
+  // Of two headers or orders, it is unknown which the platform takes.
   const bool plain = findings.headers == 1 && findings.sequences <= 1;
   return plain && findings.headerPictures > 0 && findings.headerPictures <= findings.pictures &&
          findings.headerSteps > 0 && findings.headerSteps <= findings.HeldSteps() &&
          findings.highestEntry < findings.headerPictures;
+}
+
+}  // namespace
+
+AnimationFacts InspectAnimation(ByteSource& source) {
+  BlockReader file(source);
+  const std::uint32_t start = file.Number(0);
+  const std::uint64_t statedEnd = file.Number(4) + chunkHeaderSize;
+  if (start != riffType || file.Number(chunkHeaderSize) != animationType) {
+    return {.isStillCursor = start == stillCursorStart};
+  }
+  Findings findings;
+  // The size that the file states for itself is often wrong, so that what lies behind it is looked at too.
+  ForEachChunk(file, chunkHeaderSize + listTypeSize, file.Size(),
+               [&](const Chunk& chunk) { Note(file, chunk, findings); });
+  const std::uint64_t steps = std::min(findings.headerSteps, findings.HeldSteps());
+  const bool seen = file.GivenUpAt() >= std::min(statedEnd, file.Size());
+  return {.mostSteps = static_cast<int>(steps), .holdsWhatItSays = seen && HoldsWhatItSays(findings)};
+}
+
+AnimationFacts AnimationLooks::Of(const std::string& path, ByteSource& file) {
+  const FileStamp stamp = file.Stamp();
+  const auto known = looks_.find(path);
+  if (known != looks_.end() && known->second.stamp == stamp) return known->second.facts;
+  if (looks_.size() >= mostLooks) looks_.clear();
+  const AnimationFacts facts = InspectAnimation(file);
+  looks_.insert_or_assign(path, Look{stamp, facts});
+  return facts;
 }
 
 }  // namespace tarvik

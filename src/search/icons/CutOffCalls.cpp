@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <cstdint>
+
 #include "platform/Paths.h"
 
 namespace tarvik {
@@ -13,7 +15,7 @@ std::uint64_t Number(DWORD high, DWORD low) {
 
 }  // namespace
 
-CutOffCalls::FileState CutOffCalls::StateOf(const std::string& path) {
+FileStamp CutOffCalls::StateOf(const std::string& path) {
   WIN32_FILE_ATTRIBUTE_DATA data{};
   if (GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data) == 0) return {};
   return {.size = Number(data.nFileSizeHigh, data.nFileSizeLow),
@@ -22,7 +24,7 @@ CutOffCalls::FileState CutOffCalls::StateOf(const std::string& path) {
 
 void CutOffCalls::Remember(const std::string& path, int call) {
   Calls& known = files_[path];
-  const FileState state = StateOf(path);
+  const FileStamp state = StateOf(path);
   if (known.state != state) known = {.state = state, .calls = {}};
   known.calls.insert(call);
 }

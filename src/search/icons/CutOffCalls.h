@@ -1,9 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <map>
 #include <set>
 #include <string>
+
+#include "base/ByteSource.h"
 
 namespace tarvik {
 
@@ -17,16 +18,11 @@ class CutOffCalls {
   bool Has(const std::string& path, int call) const;
 
  private:
-  struct FileState {
-    std::uint64_t size = 0;
-    std::uint64_t written = 0;  // in the system's unit
-    friend bool operator==(const FileState&, const FileState&) = default;
-  };
   struct Calls {
-    FileState state;
+    FileStamp state;
     std::set<int> calls;
   };
-  static FileState StateOf(const std::string& path);
+  static FileStamp StateOf(const std::string& path);
 
   std::map<std::string, Calls> files_;
 };

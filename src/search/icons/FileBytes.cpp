@@ -15,10 +15,12 @@ FileBytes::FileBytes(const std::string& path)
   if (file_ && GetFileType(file_.get()) != FILE_TYPE_DISK) file_.reset();
 }
 
-std::uint64_t FileBytes::Size() {
-  LARGE_INTEGER size{};
-  if (!file_ || GetFileSizeEx(file_.get(), &size) == 0) return 0;
-  return static_cast<std::uint64_t>(size.QuadPart);
+FileStamp FileBytes::Stamp() {
+  BY_HANDLE_FILE_INFORMATION information{};
+  if (!file_ || GetFileInformationByHandle(file_.get(), &information) == 0) return {};
+  const auto joined = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; };
+  return {joined(information.nFileSizeHigh, information.nFileSizeLow),
+          joined(information.ftLastWriteTime.dwHighDateTime, information.ftLastWriteTime.dwLowDateTime)};
 }
 
 bool FileBytes::Read(std::uint64_t offset, std::span<std::byte> bytes) {

@@ -16,7 +16,7 @@ class FileBytes final : public ByteSource {
   // `path` is UTF-8.
   explicit FileBytes(const std::string& path);
 
-  std::uint64_t Size() override;
+  FileStamp Stamp() override;
   bool Read(std::uint64_t offset, std::span<std::byte> bytes) override;
 
  private:

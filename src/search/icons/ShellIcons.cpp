@@ -72,14 +72,11 @@ std::unique_ptr<ExtractedIcon> Drawable(IconHandle icon, int stepBound) {
   return std::make_unique<PlatformIcon>(std::move(icon), stepBound);
 }
 
-// A cursor file starts with a zero and this number, an icon file with a zero and 1; both of 16 bits.
-bool IsStillCursor(ByteSource& file) {
-  std::array<std::byte, 4> start{};
-  constexpr std::array cursorStart{std::byte{0}, std::byte{0}, std::byte{2}, std::byte{0}};
-  return file.Read(0, start) && start == cursorStart;
-}
-
 }  // namespace
+
+ShellIcons::ShellIcons() : ShellIcons([](const std::string& path) { return std::make_unique<FileBytes>(path); }) {}
+
+ShellIcons::ShellIcons(OpenBytes open) : open_(std::move(open)) {}
 
 template <typename Call>
 bool ShellIcons::Survives(const std::string& path, int call, Call&& make) {
@@ -95,7 +92,7 @@ IconHandle ShellIcons::ExtractLarge(const std::string& path, int index) {
   HICON large = nullptr;
   UINT extracted = 0;
   const auto extract = late::ExtractIconExA.Get();  // the guarded call must not load anything
-  // The small icon is not asked for: nobody draws it, and its handle would have to be destroyed too.
+  // The small icon is not asked for: it is never drawn, and its handle would have to be destroyed too.
   const bool finished = Survives(path, index, [&] { extracted = extract(path.c_str(), index, &large, nullptr, 1); });
   // Only a success says that the handle means something: Wine leaves other values in it than it found.
   return finished && extracted != 0 && extracted != noFile ? IconHandle(large) : IconHandle();
@@ -112,11 +109,10 @@ IconHandle ShellIcons::LoadCursorFile(const std::string& path) {
 
 // A picture of a file named ".ani": an animated cursor or, misnamed, a still picture.
 std::unique_ptr<ExtractedIcon> ShellIcons::ExtractSteps(const std::string& path, int index) {
-  FileBytes file(path);
-  const int steps = MostAnimationSteps(file);
+  const AnimationFacts facts = looks_.Of(path, *open_(path));
   IconHandle icon = ExtractLarge(path, index);
-  if (!icon && (HoldsWhatItSays(file) || IsStillCursor(file))) icon = LoadCursorFile(path);
-  return Drawable(std::move(icon), std::max(steps, 1));
+  if (!icon && (facts.holdsWhatItSays || facts.isStillCursor)) icon = LoadCursorFile(path);
+  return Drawable(std::move(icon), std::max(facts.mostSteps, 1));
 }
 
 // How many icons the shell says the file has; some systems tell it as it is written in the file.

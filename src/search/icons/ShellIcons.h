@@ -1,6 +1,12 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "base/ByteSource.h"
 #include "platform/Handles.h"
+#include "search/icons/AnimationHeader.h"
 #include "search/icons/CutOffCalls.h"
 #include "search/icons/IconSource.h"
 
@@ -14,6 +20,12 @@ namespace tarvik {
 // blank picture is taken for an icon.
 class ShellIcons final : public IconSource {
  public:
+  // Opens the bytes of a file for a look at them.
+  using OpenBytes = std::function<std::unique_ptr<ByteSource>(const std::string& path)>;
+
+  ShellIcons();
+  explicit ShellIcons(OpenBytes open);
+
   int CountIcons(const std::string& path) override;
   std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override;
 
@@ -28,6 +40,8 @@ class ShellIcons final : public IconSource {
   int ClaimedIcons(const std::string& path);
   int ExtractableIcons(const std::string& path, int claimed);
 
+  OpenBytes open_;
+  AnimationLooks looks_;
   CutOffCalls cutOff_;
 };
 

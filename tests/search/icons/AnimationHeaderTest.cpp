@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <limits>
 #include <string>
 
 namespace tarvik {
@@ -13,7 +12,7 @@ class BytesInMemory : public ByteSource {
  public:
   explicit BytesInMemory(std::string bytes) : bytes_(std::move(bytes)) {}
 
-  std::uint64_t Size() override { return bytes_.size(); }
+  FileStamp Stamp() override { return {.size = bytes_.size(), .written = written}; }
   bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
     ++reads;
     if (offset > bytes_.size() || bytes.size() > bytes_.size() - offset) return false;
@@ -23,6 +22,7 @@ class BytesInMemory : public ByteSource {
   }
 
   int reads = 0;
+  std::uint64_t written = 0;
 
  private:
   std::string bytes_;
@@ -66,7 +66,7 @@ std::string Animation(const std::string& chunks) {
 
 int StepsOf(const std::string& bytes) {
   BytesInMemory file(bytes);
-  return MostAnimationSteps(file);
+  return InspectAnimation(file).mostSteps;
 }
 
 TEST(MostAnimationSteps, CountsTheStepsOfTheHeader) {
@@ -135,23 +135,23 @@ TEST(MostAnimationSteps, ReadsARunOfEmptyChunksInBlocks) {
   std::string chunks;
   for (int i = 0; i < 10000; ++i) chunks += Chunk("icon", "");
   BytesInMemory file(Animation(Header(1, 0xFFFFFFFF) + Chunk("LIST", "fram" + chunks)));
-  EXPECT_EQ(MostAnimationSteps(file), 10000);
+  EXPECT_EQ(InspectAnimation(file).mostSteps, 10000);
   EXPECT_LE(file.reads, 25) << "about 80,000 bytes in blocks of 4,096";
 }
 
 TEST(MostAnimationSteps, FindsNothingInAFileThatCannotBeRead) {
   class Unreadable : public ByteSource {
    public:
-    std::uint64_t Size() override { return 1000; }
+    FileStamp Stamp() override { return {.size = 1000}; }
     bool Read(std::uint64_t, std::span<std::byte>) override { return false; }
   };
   Unreadable file;
-  EXPECT_EQ(MostAnimationSteps(file), 0);
+  EXPECT_EQ(InspectAnimation(file).mostSteps, 0);
 }
 
 bool IsWhole(const std::string& bytes) {
   BytesInMemory file(bytes);
-  return HoldsWhatItSays(file);
+  return InspectAnimation(file).holdsWhatItSays;
 }
 
 TEST(HoldsWhatItSays, IsTrueOfAWholeAnimation) {
@@ -192,6 +192,137 @@ TEST(HoldsWhatItSays, IsFalseOfWhatIsNoAnimation) {
   EXPECT_FALSE(IsWhole(Animation("")));
   EXPECT_FALSE(IsWhole(Animation(Header(0, 0))));
   EXPECT_FALSE(IsWhole(Chunk("RIFF", "WAVE" + Header(2, 2) + Pictures(2))));
+}
+
+bool IsStillCursor(const std::string& bytes) {
+  BytesInMemory file(bytes);
+  return InspectAnimation(file).isStillCursor;
+}
+
+TEST(InspectAnimation, KnowsAStillCursorByItsStart) {
+  EXPECT_TRUE(IsStillCursor(std::string("\0\0\2\0\1\0", 6)));
+  EXPECT_TRUE(IsStillCursor(std::string("\0\0\2\0", 4)));
+  EXPECT_FALSE(IsStillCursor(std::string("\0\0\2", 3) + "x"));
+  EXPECT_FALSE(IsStillCursor(std::string("\0\0\1\0\1\0", 6))) << "an icon";
+  EXPECT_FALSE(IsStillCursor(Animation(Header(2, 2) + Pictures(2))));
+  EXPECT_FALSE(IsStillCursor(""));
+}
+
+// A file of any size that takes no room: zeros, but for what it starts with.
+class LongFile : public ByteSource {
+ public:
+  LongFile(std::uint64_t size, std::string start) : size_(size), start_(std::move(start)) {}
+
+  FileStamp Stamp() override { return {.size = size_}; }
+  bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
+    if (offset > size_ || bytes.size() > size_ - offset) return false;
+    bytesRead += bytes.size();
+    std::ranges::fill(bytes, std::byte{0});
+    if (offset >= start_.size()) return true;
+    const auto count = std::min<std::uint64_t>(start_.size() - offset, bytes.size());
+    std::copy_n(reinterpret_cast<const std::byte*>(start_.data()) + offset, count, bytes.begin());
+    return true;
+  }
+
+  std::uint64_t bytesRead = 0;
+
+ private:
+  std::uint64_t size_;
+  std::string start_;
+};
+
+constexpr std::uint64_t fiveGigabytes = std::uint64_t{5} << 30U;
+
+// Each run of eight zeros is a chunk without data. A file of 512 MB once cost a search 14 seconds, one of 5 GB did not
+// end.
+TEST(InspectAnimation, LooksAtSoManyChunksAndNoMore) {
+  LongFile file(fiveGigabytes, "RIFF" + Number(0xFFFFFFFF) + "ACON" + Header(2, 2) + Pictures(2));
+  const AnimationFacts facts = InspectAnimation(file);
+  EXPECT_EQ(facts.mostSteps, 2);
+  EXPECT_FALSE(facts.holdsWhatItSays) << "it goes on where nobody looked";
+  EXPECT_LE(file.bytesRead, mostAnimationChunks * 8U + 4096);
+}
+
+TEST(InspectAnimation, LooksAtSoManyEntriesOfAnOrderAndNoMore) {
+  const std::string start = Header(2, 0x40000000) + Pictures(2) + "seq " + Number(0xFFFFFFFC);
+  LongFile file(fiveGigabytes, "RIFF" + Number(0xFFFFFFFF) + "ACON" + start);
+  const AnimationFacts facts = InspectAnimation(file);
+  EXPECT_EQ(facts.mostSteps, mostSequenceEntries);
+  EXPECT_FALSE(facts.holdsWhatItSays);
+  EXPECT_LE(file.bytesRead, mostSequenceEntries * 4U + mostAnimationChunks * 8U + 4 * 4096);
+}
+
+// One with its chunks so far apart that each costs a block.
+class FarApart : public LongFile {
+ public:
+  FarApart() : LongFile(fiveGigabytes, "RIFF" + Number(0xFFFFFFFF) + "ACON") {}
+  bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
+    if (!LongFile::Read(offset, bytes)) return false;
+    const std::uint64_t place = span - 1 - (offset + span - 1 - firstChunk) % span;
+    const std::string chunk = "icon" + Number(span - 8);
+    if (place + chunk.size() > bytes.size()) return true;
+    std::copy_n(reinterpret_cast<const std::byte*>(chunk.data()), chunk.size(), &bytes[place]);
+    return true;
+  }
+
+ private:
+  static constexpr std::uint32_t firstChunk = 12;
+  static constexpr std::uint32_t span = 40'960;
+};
+
+TEST(InspectAnimation, ReadsSoManyBytesAndNoMore) {
+  FarApart file;
+  EXPECT_FALSE(InspectAnimation(file).holdsWhatItSays);
+  EXPECT_LE(file.bytesRead, mostAnimationBytes);
+  EXPECT_GT(file.bytesRead, mostAnimationBytes - 8192) << "the chunks are not as far apart as meant";
+}
+
+TEST(InspectAnimation, BelievesAnAnimationWithALongTailBehindItsStatedSize) {
+  LongFile file(fiveGigabytes, Animation(Header(3, 3) + Pictures(3)));
+  const AnimationFacts facts = InspectAnimation(file);
+  EXPECT_EQ(facts.mostSteps, 3);
+  EXPECT_TRUE(facts.holdsWhatItSays);
+}
+
+TEST(InspectAnimation, BelievesAsManyStepsAsASearchLists) {
+  // Pictures far apart: each costs a block.
+  std::string pictures = "fram";
+  for (int i = 0; i < 4000; ++i) pictures += Chunk("icon", std::string(5000, 'p'));
+  EXPECT_TRUE(IsWhole(Animation(Header(4000, 4000) + Chunk("LIST", pictures))));
+}
+
+TEST(AnimationLooks, LookThroughAFileOnceAsLongAsItStaysAsItIs) {
+  AnimationLooks looks;
+  BytesInMemory file(Animation(Header(2, 2) + Pictures(2)));
+  EXPECT_EQ(looks.Of("a.ani", file).mostSteps, 2);
+  const int reads = file.reads;
+  ASSERT_GT(reads, 0);
+  EXPECT_EQ(looks.Of("a.ani", file).mostSteps, 2);
+  EXPECT_TRUE(looks.Of("a.ani", file).holdsWhatItSays);
+  EXPECT_EQ(file.reads, reads);
+}
+
+TEST(AnimationLooks, LookAgainAtAFileOfAnotherSizeOrTime) {
+  AnimationLooks looks;
+  BytesInMemory former(Animation(Header(2, 2) + Pictures(2)));
+  ASSERT_EQ(looks.Of("a.ani", former).mostSteps, 2);
+  BytesInMemory longer(Animation(Header(3, 3) + Pictures(3)));
+  EXPECT_EQ(looks.Of("a.ani", longer).mostSteps, 3);
+  BytesInMemory rewritten(Animation(Header(3, 1) + Pictures(3)));
+  rewritten.written = 1;
+  EXPECT_EQ(looks.Of("a.ani", rewritten).mostSteps, 1);
+  BytesInMemory other(Animation(Header(3, 3) + Pictures(3)));
+  EXPECT_EQ(looks.Of("b.ani", other).mostSteps, 3) << "another file of the same size and time";
+}
+
+TEST(AnimationLooks, ForgetWhatTheyAreToldToForget) {
+  AnimationLooks looks;
+  BytesInMemory file(Animation(Header(2, 2) + Pictures(2)));
+  looks.Of("a.ani", file);
+  const int reads = file.reads;
+  looks.Forget();
+  looks.Of("a.ani", file);
+  EXPECT_GT(file.reads, reads);
 }
 
 }  // namespace

@@ -19,6 +19,7 @@
 #include "platform/Surface.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
+#include "search/icons/FileBytes.h"
 
 namespace tarvik {
 namespace {
@@ -359,6 +360,48 @@ TEST(ShellIcons, SaysThatThereIsNoRoomForAnIconInsteadOfLeavingItOut) {
   }
   EXPECT_NE(icons.Extract(path, 0), nullptr);
   EXPECT_TRUE(icon->Draw(surface, {0, 0}, 32, 0, DrawPart::Normal));
+}
+
+// The bytes of real files, all counted that are read of them.
+class CountedBytes final : public ByteSource {
+ public:
+  CountedBytes(const std::string& path, std::uint64_t& count) : file_(path), count_(count) {}
+  FileStamp Stamp() override { return file_.Stamp(); }
+  bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
+    count_ += bytes.size();
+    return file_.Read(offset, bytes);
+  }
+
+ private:
+  FileBytes file_;
+  std::uint64_t& count_;
+};
+
+constexpr std::uint64_t megabyte = std::uint64_t{1} << 20U;
+
+// A search of such a file of 512 MB once took 14 seconds, and one of 5 GB did not end.
+TEST(ShellIcons, ReadsLittleOfALargeAnimationAndThatOnce) {
+  const TemporaryFolder folder;
+  std::uint64_t bytesRead = 0;
+  ShellIcons icons([&](const std::string& path) { return std::make_unique<CountedBytes>(path, bytesRead); });
+  const Bytes sound = AnimationFile(std::array{red, green, blue});
+  // As long as the file, says its own size.
+  Bytes endless = sound;
+  std::fill_n(endless.begin() + 4, 4, std::byte{0xFF});
+  for (const std::uint64_t size : {512 * megabyte, 5 * 1024 * megabyte}) {
+    const std::string end = std::to_string(size) + ".ani";
+    const std::string tailed = folder.MakeSparseFile("tailed" + end, sound, size);
+    const std::string large = folder.MakeSparseFile("large" + end, endless, size);
+    bytesRead = 0;
+    // As often as a search asks.
+    for (int look = 0; look < 3; ++look) {
+      const auto icon = icons.Extract(tailed, 0);
+      ASSERT_NE(icon, nullptr) << size;
+      EXPECT_EQ(icon->StepBound(), 3) << size;
+      icons.Extract(large, 0);
+    }
+    EXPECT_LE(bytesRead, 2 * megabyte) << size;
+  }
 }
 
 TEST(ShellIcons, KeepsNoHandles) {
