@@ -26,6 +26,26 @@ std::size_t RootLength(std::string_view path) {
   return std::min(path.size(), path.find(separator, share + 1));
 }
 
+bool StartsAtRoot(std::string_view path) {
+  return IsNetworkPath(path) || (HasDrive(path) && path.size() >= driveRootLength && path[2] == separator);
+}
+
+// A path from a root with its names alone: without ".", "..", and empty ones.
+std::string Resolved(const std::string& path) {
+  const std::size_t root = RootLength(path);
+  std::vector<std::string_view> names;
+  for (std::size_t start = root; start < path.size();) {
+    const std::size_t end = std::min(path.size(), path.find(separator, start));
+    const std::string_view name = std::string_view(path).substr(start, end - start);
+    if (name == ".." && !names.empty()) names.pop_back();
+    if (!name.empty() && name != "." && name != "..") names.push_back(name);
+    start = end + 1;
+  }
+  std::string resolved = path.substr(0, root);
+  for (const std::string_view name : names) resolved = JoinPath(resolved, name);
+  return resolved;
+}
+
 }  // namespace
 
 std::string TidyFolderPath(std::string_view path) {
@@ -35,8 +55,16 @@ std::string TidyFolderPath(std::string_view path) {
     tidy[0] = UpperAscii(tidy[0]);
     if (tidy.size() == 2) tidy += separator;
   }
+  if (StartsAtRoot(tidy)) return Resolved(tidy);
   while (tidy.size() > RootLength(tidy) && tidy.ends_with(separator)) tidy.pop_back();
   return tidy;
+}
+
+std::string AbsoluteFolderPath(std::string_view path, const std::string& base) {
+  std::string tidy = TidyFolderPath(path);
+  if (tidy.empty() || HasDrive(tidy) || IsNetworkPath(tidy)) return tidy;
+  const std::string start = tidy.starts_with(separator) ? base.substr(0, RootLength(base)) : base;
+  return TidyFolderPath(start + separator + tidy);
 }
 
 std::vector<std::string> FolderChain(const std::string& path) {

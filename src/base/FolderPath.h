@@ -8,8 +8,14 @@ namespace tarvik {
 
 // Folder paths as folder lists show them: UTF-8, "\" between names, none at the end but a drive root's ("C:\").
 
-// The path in that form: drive letter in upper case, "/" turned into "\", a trailing "\" kept at a drive root alone.
+// The path in that form: drive letter in upper case, "/" turned into "\", a trailing "\" kept at a drive root alone,
+// and in a path from a root no "." or "..": such parts are resolved by the names alone, and ".." at the root stays
+// there.
 std::string TidyFolderPath(std::string_view path);
+
+// The path in that form, from a root: one without is taken to start at `base`, or at its root if it starts with "\".
+// An empty path stays empty.
+std::string AbsoluteFolderPath(std::string_view path, const std::string& base);
 
 // The folders from the root down to `path`, itself included: "C:\", "C:\a", "C:\a\b".
 std::vector<std::string> FolderChain(const std::string& path);

@@ -19,6 +19,34 @@ TEST(TidyFolderPath, KeepsABackslashAtADriveRootAlone) {
   EXPECT_EQ(TidyFolderPath(""), "");
 }
 
+TEST(TidyFolderPath, ResolvesDotsByTheNamesAlone) {
+  EXPECT_EQ(TidyFolderPath("C:\\a\\..\\b"), "C:\\b");
+  EXPECT_EQ(TidyFolderPath("C:\\a\\b\\.."), "C:\\a");
+  EXPECT_EQ(TidyFolderPath("C:\\a\\.\\b\\."), "C:\\a\\b");
+  EXPECT_EQ(TidyFolderPath("c:/a/./../b/"), "C:\\b");
+  EXPECT_EQ(TidyFolderPath("C:\\a\\\\b"), "C:\\a\\b");
+  EXPECT_EQ(TidyFolderPath("C:\\..\\..\\a"), "C:\\a");
+  EXPECT_EQ(TidyFolderPath("C:\\a\\.."), "C:\\");
+  EXPECT_EQ(TidyFolderPath("\\\\server\\share\\a\\..\\..\\b"), "\\\\server\\share\\b");
+  EXPECT_EQ(TidyFolderPath("C:\\...\\..a\\b.."), "C:\\...\\..a\\b..") << "names that have dots";
+}
+
+TEST(AbsoluteFolderPath, LeavesAPathFromARootWhereItIs) {
+  EXPECT_EQ(AbsoluteFolderPath("d:/icons/", "C:\\program"), "D:\\icons");
+  EXPECT_EQ(AbsoluteFolderPath("d:", "C:\\program"), "D:\\");
+  EXPECT_EQ(AbsoluteFolderPath("\\\\server\\share\\x", "C:\\program"), "\\\\server\\share\\x");
+  EXPECT_EQ(AbsoluteFolderPath("", "C:\\program"), "");
+}
+
+TEST(AbsoluteFolderPath, StartsAnyOtherPathAtTheBase) {
+  EXPECT_EQ(AbsoluteFolderPath("..", "C:\\tools\\program"), "C:\\tools");
+  EXPECT_EQ(AbsoluteFolderPath(".", "C:\\tools\\program"), "C:\\tools\\program");
+  EXPECT_EQ(AbsoluteFolderPath("..\\icons", "C:\\tools\\program"), "C:\\tools\\icons");
+  EXPECT_EQ(AbsoluteFolderPath("icons", "C:\\"), "C:\\icons");
+  EXPECT_EQ(AbsoluteFolderPath("\\icons", "D:\\tools\\program"), "D:\\icons");
+  EXPECT_EQ(AbsoluteFolderPath("\\icons", "\\\\server\\share\\program"), "\\\\server\\share\\icons");
+}
+
 TEST(FolderChain, GoesFromTheRootDownToTheFolderItself) {
   EXPECT_EQ(FolderChain("C:\\"), (Chain{"C:\\"}));
   EXPECT_EQ(FolderChain("C:\\a\\b"), (Chain{"C:\\", "C:\\a", "C:\\a\\b"}));

@@ -69,6 +69,27 @@ TEST_F(Settings, SubFoldersAreTickedByTrueInAnyCaseAndByNothingElse) {
   }
 }
 
+TEST_F(Settings, AFolderWithDotsIsTheOneThatItMeans) {
+  tree_.MakeFolder("inner");
+  tree_.MakeFile("out.ico");
+  Start(In("inner\\..\\.\\inner\\.."));
+  EXPECT_THAT(FileNames(), ElementsAre("out.ico"));
+  EXPECT_EQ(ChosenFolder(), FolderName(tree_.Path()));
+  EXPECT_EQ(program_.Close(), 0U);
+  EXPECT_EQ(ReadSetting("Folder"), tree_.Path());
+}
+
+TEST_F(Settings, AFolderWithoutARootStartsAtTheProgramsOwn) {
+  const std::pair<const char*, std::string> rows[] = {
+      {".", home_.Path()}, {"..", ParentFolder(home_.Path())}, {"icons\\", home_.MakeFolder("icons")}};
+  for (const auto& [value, folder] : rows) {
+    Start(value);
+    EXPECT_EQ(ChosenFolder(), FolderName(folder)) << value;
+    EXPECT_EQ(program_.Close(), 0U);
+    EXPECT_EQ(ReadSetting("Folder"), folder) << value;
+  }
+}
+
 TEST_F(Settings, AFolderThatIsGoneFallsBackToTheProgramsOwn) {
   Start(In("gone"));
   EXPECT_EQ(ChosenFolder(), FolderName(home_.Path()));

@@ -148,8 +148,9 @@ void FrmFindIcon::Form_Unload() {
 
 void FrmFindIcon::LoadSettings() {
   Settings& settings = services_.settings;
-  std::string folder = TidyFolderPath(settings.ReadIniSetting(settingsSection, folderKey, services_.programFolder));
-  if (!services_.isReadableFolder(folder)) folder = TidyFolderPath(services_.programFolder);
+  const std::string& ownFolder = services_.programFolder;
+  std::string folder = AbsoluteFolderPath(settings.ReadIniSetting(settingsSection, folderKey, ownFolder), ownFolder);
+  if (!services_.isReadableFolder(folder)) folder = TidyFolderPath(ownFolder);
   dir1_.SetPath(folder);
   drive1_.ChooseDriveOf(folder);
   const std::string subDir = settings.ReadIniSetting(settingsSection, subDirKey, TruthText(false));
