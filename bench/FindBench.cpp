@@ -111,7 +111,8 @@ class SilentWindow final : public SearchWindow, public SearchFolders {
   std::string txtMax() const override { return "4000"; }
   std::string Dir1Path() const override { return folder_; }
   void SetDir1Path(const std::string& folder) override { folder_ = folder; }
-  std::vector<std::string> Dir1SubFolders() override { return folders_.SubFolders(folder_); }
+  std::vector<WalkedFolder> Dir1SubFolders() override { return folders_.WalkedFolders(folder_); }
+  std::string FolderIdentity(const std::string& folder) override { return folders_.Identity(folder); }
   std::string File1Path() const override { return folder_; }
   void SetFile1Path(const std::string& folder) override { folder_ = folder; }
   std::vector<std::string> File1Names() override { return folders_.Files(folder_, scope_.pattern); }

@@ -47,8 +47,6 @@ class DirListBox {
   const std::string& Path() const { return path_; }
   // Points the list at a folder, which need not be readable; then runs `change` where that is another folder.
   void SetPath(const std::string& folder);
-  // The sub-folders of the path as they are on the disk now.
-  std::vector<std::string> SubFolders() const { return list_(path_); }
   // Fills the visible list anew.
   void Refresh() { Show(Rows()); }
   // While held, a changed path leaves the visible list alone; letting go fills it if it shows another folder, or if the

@@ -1,5 +1,6 @@
 #include "search/SearchDriver.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -24,8 +25,10 @@ constexpr std::array<SearchControl, 5> searchControls{SearchControl::CmdFind, Se
 // A folder that a walk has entered and not yet left.
 struct SearchDriver::OpenFolder {
   std::string path;
-  std::vector<std::string> subFolders;
-  std::size_t next = 0;  // the sub-folder to visit next
+  std::vector<WalkedFolder> subFolders;
+  std::size_t next = 0;        // the sub-folder to visit next
+  bool isBeyondMount = false;  // a mounted volume is on the way to it
+  std::string identity;        // asked for when it is first needed
 };
 
 SearchDriver::SearchDriver(const Tools& tools)
@@ -136,6 +139,9 @@ void SearchDriver::RunOverScope(Pass pass) {
 // Visits a folder, then each of its sub-folders in the same way, then leaves it. A folder's sub-folders are
 // read once; for each of them Dir1 is only pointed at their folder again, because the visit of the last one
 // moved it.
+//
+// Folders alone form a tree. Only a volume that is mounted in one can lead back, and it can only lead to itself or to
+// what is below it: so nothing is asked about folders until a mounted one is met.
 void SearchDriver::Walk(const std::string& root, const Enter& enter, const Leave& leave) {
   // Outermost first. A list and not the call stack, because folders can lie in one another deeper than a stack reaches.
   std::vector<OpenFolder> open;
@@ -147,14 +153,29 @@ void SearchDriver::Walk(const std::string& root, const Enter& enter, const Leave
       open.pop_back();
       continue;
     }
+    WalkedFolder subFolder = std::move(folder.subFolders[folder.next++]);
+    const bool isBeyondMount = folder.isBeyondMount || subFolder.isMounted;
+    if (isBeyondMount && LeadsBack(open, subFolder.path)) continue;
     folders_.SetDir1Path(folder.path);
-    std::string subFolder = std::move(folder.subFolders[folder.next++]);
-    open.push_back(Opened(std::move(subFolder), enter));
+    open.push_back(Opened(std::move(subFolder.path), enter));
+    open.back().isBeyondMount = isBeyondMount;
   }
 }
 
+// Whether the walk is in that folder already, by whatever path it got there. One that cannot be opened has nothing to
+// list and is not entered either.
+bool SearchDriver::LeadsBack(std::vector<OpenFolder>& open, const std::string& folder) {
+  const std::string identity = folders_.FolderIdentity(folder);
+  if (identity.empty()) return true;
+  return std::ranges::any_of(open, [&](OpenFolder& entered) {
+    if (entered.identity.empty()) entered.identity = folders_.FolderIdentity(entered.path);
+    return entered.identity == identity;
+  });
+}
+
 SearchDriver::OpenFolder SearchDriver::Opened(std::string path, const Enter& enter) {
-  OpenFolder folder{std::move(path), {}, 0};
+  OpenFolder folder;
+  folder.path = std::move(path);
   enter(folder.path);
   if (!window_.chkSubDir()) return folder;
   folders_.SetDir1Path(folder.path);

@@ -43,7 +43,7 @@ class SearchDriver {
   int CountAnimationFrames(const std::string& path);
 
  private:
-  using Pass = void (SearchDriver::*)(const std::string& folder);
+  using Pass = void (SearchDriver::*)(const std::string& path);
   using Leave = std::function<void()>;
   using Enter = std::function<void(const std::string& folder)>;
   struct OpenFolder;
@@ -55,6 +55,7 @@ class SearchDriver {
 
   void RunOverScope(Pass pass);
   void Walk(const std::string& root, const Enter& enter, const Leave& leave);
+  bool LeadsBack(std::vector<OpenFolder>& open, const std::string& folder);
   OpenFolder Opened(std::string path, const Enter& enter);
 
   void CountIconsInFolder(const std::string& root);

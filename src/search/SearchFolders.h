@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "search/icons/FolderReader.h"
+
 namespace tarvik {
 
 // The main window's folder list Dir1 and file list File1 as a walk moves them. Paths and names are UTF-8.
@@ -13,7 +15,8 @@ class SearchFolders {
   virtual std::string Dir1Path() const = 0;
   // Points File1 at the same folder, as a change of the folder always does.
   virtual void SetDir1Path(const std::string& folder) = 0;
-  virtual std::vector<std::string> Dir1SubFolders() = 0;  // full paths, as they are on the disk now
+  virtual std::vector<WalkedFolder> Dir1SubFolders() = 0;             // those that a walk enters, as they are now
+  virtual std::string FolderIdentity(const std::string& folder) = 0;  // as FolderReader::Identity
   virtual std::string File1Path() const = 0;
   virtual void SetFile1Path(const std::string& folder) = 0;
   virtual std::vector<std::string> File1Names() = 0;  // of the files that match File1's pattern now

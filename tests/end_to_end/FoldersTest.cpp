@@ -7,6 +7,7 @@
 #include "driver/Input.h"
 #include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
+#include "platform/IconFiles.h"
 
 namespace tarvik::end_to_end {
 namespace {
@@ -117,12 +118,29 @@ TEST_F(Folders, HiddenFilesAreNotListedButHiddenFoldersAre) {
   EXPECT_THAT(FolderNames(), Contains("hidden"));
 }
 
-TEST_F(Folders, LinksToFoldersAreNotListed) {
-  tree_.MakeFolder("real");
-  tree_.MakeLink("link", tree_.Path());
-  Start();
-  EXPECT_THAT(FolderNames(), Contains("real"));
-  EXPECT_THAT(FolderNames(), Not(Contains("link")));
+// Under Wine, Desktop and Documents are such links.
+TEST_F(Folders, ALinkToAFolderIsListedAndCanBeOpenedAndSearched) {
+  const testing::TemporaryFolder elsewhere;
+  elsewhere.MakeFile("a.ico", testing::IconFileOf(0xFF));
+  elsewhere.MakeFolder("inner");
+  elsewhere.MakeFile("inner\\b.ico", testing::IconFileOf(0xFF));
+  const std::string link = tree_.MakeLink("link", elsewhere.Path());
+  Start({}, true);
+  DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf("link")));
+  ASSERT_TRUE(Eventually([&] { return ListsFile("a.ico"); }));
+  EXPECT_EQ(FolderNames().back(), "inner");
+  Find();
+  EXPECT_THAT(Entries(), ElementsAre(Entry{JoinPath(link, "a.ico"), 0}, Entry{JoinPath(link, "inner\\b.ico"), 0}));
+  EXPECT_EQ(program_.Close(), 0U);
+  EXPECT_EQ(ReadSetting("Folder"), link);
+}
+
+// As the system below Wine has one for sure.
+TEST_F(Folders, AMountedFolderIsListedAndCanBeOpened) {
+  Start("Z:\\");
+  DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf("proc")));
+  EXPECT_TRUE(Eventually([&] { return std::ranges::count(FolderNames(), "sys") == 1; }))
+      << ::testing::PrintToString(FolderNames());
 }
 
 TEST_F(Folders, ThePatternMatchesLongNamesOnlyAndWithoutRegardToCase) {

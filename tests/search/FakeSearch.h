@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -98,6 +99,8 @@ class FakeIcons : public IconSource {
 struct FakeFolder {
   std::vector<std::string> files;
   std::vector<std::string> subFolders;  // full paths
+  bool isMounted = false;
+  std::string identity;  // another folder's path if this is that one; its own path if empty
 };
 
 class FakeGrid : public GridView {
@@ -146,9 +149,16 @@ class FakeSearchWindow : public SearchWindow, public SearchFolders {
     dir1 = folder;
     file1 = folder;
   }
-  std::vector<std::string> Dir1SubFolders() override {
+  std::vector<WalkedFolder> Dir1SubFolders() override {
     script_.Add("sub-folders of " + dir1);
-    return folders[dir1].subFolders;
+    std::vector<WalkedFolder> walked;
+    for (const std::string& path : folders[dir1].subFolders) walked.push_back({path, folders[path].isMounted});
+    return walked;
+  }
+  std::string FolderIdentity(const std::string& folder) override {
+    script_.Add("identity of " + folder);
+    if (unknown.contains(folder)) return {};
+    return folders[folder].identity.empty() ? folder : folders[folder].identity;
   }
   std::string File1Path() const override { return file1; }
   void SetFile1Path(const std::string& folder) override {
@@ -184,6 +194,7 @@ class FakeSearchWindow : public SearchWindow, public SearchFolders {
             }};
   }
   std::map<std::string, FakeFolder> folders;
+  std::set<std::string> unknown;  // folders that cannot be opened
   std::string dir1;
   std::string file1;
   bool subDir = false;

@@ -118,6 +118,59 @@ TEST_F(SearchWalkTest, GoesDeeperThanACallStackReaches) {
   EXPECT_EQ(list.Item(2).path, "C:\\a\\19999\\last.dll");
 }
 
+TEST_F(SearchWalkTest, AsksForNoFoldersIdentityWhereNoVolumeIsMounted) {
+  Find();
+  EXPECT_THAT(script.Lines("identity"), IsEmpty());
+}
+
+TEST_F(SearchWalkTest, EntersAMountedVolumeAndWhatIsInIt) {
+  window.folders["C:\\a\\b"].isMounted = true;
+  Find();
+  EXPECT_EQ(list.Count(), 10);
+}
+
+TEST_F(SearchWalkTest, EntersNoFolderThatItIsInAlready) {
+  // In b, a volume is mounted whose root is what the walk started at.
+  AddSubFolder("C:\\a\\b", "C:\\a\\b\\again");
+  window.folders["C:\\a\\b\\again"].isMounted = true;
+  window.folders["C:\\a\\b\\again"].identity = "C:\\a";
+  AddFile("C:\\a\\b\\again", "1.dll", {.icons = 1});
+  Find();
+  EXPECT_EQ(list.Count(), 10) << "each icon once";
+  EXPECT_THAT(script.Lines("File1 C:\\a\\b\\again"), IsEmpty());
+}
+
+TEST_F(SearchWalkTest, EntersNoFolderThatItIsInAlreadyBehindAMountedVolumeEither) {
+  // The root of the volume mounted in b is above where the walk started, so that its own start is in it.
+  AddSubFolder("C:\\a\\b", "C:\\a\\b\\root");
+  window.folders["C:\\a\\b\\root"].isMounted = true;
+  window.folders["C:\\a\\b\\root"].identity = "C:\\";
+  AddFile("C:\\a\\b\\root", "5.dll", {.icons = 5});
+  AddSubFolder("C:\\a\\b\\root", "C:\\a\\b\\root\\a");
+  window.folders["C:\\a\\b\\root\\a"].identity = "C:\\a";
+  AddFile("C:\\a\\b\\root\\a", "1.dll", {.icons = 1});
+  AddSubFolder("C:\\a\\b\\root", "C:\\a\\b\\root\\z");
+  AddFile("C:\\a\\b\\root\\z", "6.dll", {.icons = 6});
+  Find();
+  EXPECT_EQ(list.Count(), 10 + 5 + 6);
+  EXPECT_THAT(script.Lines("File1 C:\\a\\b\\root\\a"), IsEmpty());
+}
+
+TEST_F(SearchWalkTest, EntersAVolumeThatIsMountedTwiceSideBySideTwice) {
+  window.folders["C:\\a\\b"].isMounted = true;
+  window.folders["C:\\a\\d"].isMounted = true;
+  window.folders["C:\\a\\d"].identity = "C:\\a\\b";
+  Find();
+  EXPECT_EQ(list.Count(), 10);
+}
+
+TEST_F(SearchWalkTest, EntersNoMountedVolumeThatCannotBeOpened) {
+  window.folders["C:\\a\\b"].isMounted = true;
+  window.unknown.insert("C:\\a\\b");
+  Find();
+  EXPECT_EQ(list.Count(), 5);
+}
+
 TEST_F(SearchWalkTest, NamesTheStartingFolderInTheNoIconsBox) {
   icons.files.clear();
   Find();

@@ -1,6 +1,7 @@
 #include "search/icons/Folders.h"
 
 #include <windows.h>
+#include <winioctl.h>
 #include <winnetwk.h>
 
 #include <algorithm>
@@ -13,6 +14,7 @@
 #include "platform/SystemFunctions.h"
 #include "platform/Text.h"
 #include "search/icons/FilePattern.h"
+#include "search/icons/MountPoint.h"
 
 namespace tarvik {
 namespace {
@@ -47,31 +49,46 @@ FindHandle FirstEntry(std::wstring folder, WIN32_FIND_DATAW& entry) {
                                      FIND_FIRST_EX_LARGE_FETCH));
 }
 
-// Calls visit(entry) for each entry of the folder.
-template <typename Visit>
-void ForEachEntry(const std::string& folder, Visit visit) {
+void ForEachEntry(const std::string& folder, const Folders::System::Visit& visit) {
   if (folder.empty()) return;
   const NoDriveMessages quiet;
   WIN32_FIND_DATAW entry;
   const FindHandle find = FirstEntry(LiteralPath(folder), entry);
   if (!find) return;
-  do visit(entry);
+  do visit({entry.cFileName, entry.dwFileAttributes, entry.dwReserved0});
   while (FindNextFileW(find.get(), &entry) != 0);
 }
 
-// A link could lead back to a folder above. Wine gives no tag for its links; a real reparse point always has one.
-bool IsLink(const WIN32_FIND_DATAW& entry) {
-  if ((entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
-  return entry.dwReserved0 == 0 || (entry.dwReserved0 & nameSurrogateBit) != 0;
+// Opens a folder, or the reparse point in its place, for questions about it alone.
+FileHandle OpenForQuestions(const std::string& path, DWORD flags) {
+  const NoDriveMessages quiet;
+  return FileHandle(CreateFileW(LiteralPath(path).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | flags, nullptr));
 }
 
-bool IsSubFolder(const WIN32_FIND_DATAW& entry) {
-  const std::wstring_view name = entry.cFileName;
-  return (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 && name != L"." && name != L".." && !IsLink(entry);
+std::vector<std::byte> ReparseData(const std::string& path) {
+  const FileHandle point = OpenForQuestions(path, FILE_FLAG_OPEN_REPARSE_POINT);
+  std::vector<std::byte> data(MAXIMUM_REPARSE_DATA_BUFFER_SIZE);
+  DWORD size = 0;
+  const bool read = point && DeviceIoControl(point.get(), FSCTL_GET_REPARSE_POINT, nullptr, 0, data.data(),
+                                             static_cast<DWORD>(data.size()), &size, nullptr) != 0;
+  data.resize(read ? size : 0);
+  return data;
 }
 
-bool IsListedFile(const WIN32_FIND_DATAW& entry) {
-  return (entry.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | unlistedFiles)) == 0;
+// A link leads elsewhere, perhaps back to a folder above; a mounted volume looks like one until its data is read. Wine
+// gives no tag for its links and for mounted disks; a real reparse point always has one.
+bool IsLinkOrMount(const FolderEntry& entry) {
+  if ((entry.attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
+  return entry.reparseTag == 0 || (entry.reparseTag & nameSurrogateBit) != 0;
+}
+
+bool IsSubFolder(const FolderEntry& entry) {
+  return (entry.attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 && entry.name != L"." && entry.name != L"..";
+}
+
+bool IsListedFile(const FolderEntry& entry) {
+  return (entry.attributes & (FILE_ATTRIBUTE_DIRECTORY | unlistedFiles)) == 0;
 }
 
 int CompareNames(const std::wstring& a, const std::wstring& b, bool ignoreCase) {
@@ -107,15 +124,36 @@ std::string LabelOf(const Drive& drive) {
   return ToUtf8(label.data());
 }
 
+// A sub-folder on its way into a list.
+struct FoundFolder {
+  std::wstring name;
+  bool isLinkOrMount = false;
+  bool isMountPoint = false;  // by its tag, which junctions have too
+};
+
+std::vector<FoundFolder> FoundFolders(const Folders::System& system, const std::string& folder) {
+  std::vector<FoundFolder> found;
+  system.forEachEntry(folder, [&](const FolderEntry& entry) {
+    if (!IsSubFolder(entry)) return;
+    found.push_back({std::wstring(entry.name), IsLinkOrMount(entry), entry.reparseTag == IO_REPARSE_TAG_MOUNT_POINT});
+  });
+  std::ranges::sort(found, StandsBefore, &FoundFolder::name);
+  return found;
+}
+
 }  // namespace
+
+Folders::Folders() : Folders({ForEachEntry, ReparseData}) {}
+
+Folders::Folders(System system) : system_(std::move(system)) {}
 
 std::vector<std::string> Folders::Files(const std::string& folder, const std::string& pattern) {
   std::vector<std::pair<std::wstring, std::string>> names;
-  ForEachEntry(folder, [&](const WIN32_FIND_DATAW& entry) {
+  system_.forEachEntry(folder, [&](const FolderEntry& entry) {
     if (!IsListedFile(entry)) return;
-    std::string name = ToUtf8(entry.cFileName);
+    std::string name = ToUtf8(entry.name);
     // The pattern is judged here and not by the system, which would also look at short names.
-    if (MatchesPattern(name, pattern)) names.emplace_back(entry.cFileName, std::move(name));
+    if (MatchesPattern(name, pattern)) names.emplace_back(entry.name, std::move(name));
   });
   std::sort(names.begin(), names.end(), [](const auto& a, const auto& b) { return StandsBefore(a.first, b.first); });
 
@@ -126,16 +164,27 @@ std::vector<std::string> Folders::Files(const std::string& folder, const std::st
 }
 
 std::vector<std::string> Folders::SubFolders(const std::string& folder) {
-  std::vector<std::wstring> names;
-  ForEachEntry(folder, [&](const WIN32_FIND_DATAW& entry) {
-    if (IsSubFolder(entry)) names.emplace_back(entry.cFileName);
-  });
-  std::sort(names.begin(), names.end(), StandsBefore);
-
   std::vector<std::string> paths;
-  paths.reserve(names.size());
-  for (const std::wstring& name : names) paths.push_back(JoinPath(folder, ToUtf8(name)));
+  for (const FoundFolder& found : FoundFolders(system_, folder)) paths.push_back(JoinPath(folder, ToUtf8(found.name)));
   return paths;
+}
+
+std::vector<WalkedFolder> Folders::WalkedFolders(const std::string& folder) {
+  std::vector<WalkedFolder> walked;
+  for (const FoundFolder& found : FoundFolders(system_, folder)) {
+    std::string path = JoinPath(folder, ToUtf8(found.name));
+    const bool isMounted = found.isLinkOrMount && found.isMountPoint && IsVolumeMount(system_.reparseData(path));
+    if (!found.isLinkOrMount || isMounted) walked.push_back({std::move(path), isMounted});
+  }
+  return walked;
+}
+
+std::string Folders::Identity(const std::string& folder) {
+  const FileHandle handle = OpenForQuestions(folder, 0);
+  BY_HANDLE_FILE_INFORMATION information;
+  if (!handle || GetFileInformationByHandle(handle.get(), &information) == 0) return {};
+  return std::to_string(information.dwVolumeSerialNumber) + ' ' + std::to_string(information.nFileIndexHigh) + ' ' +
+         std::to_string(information.nFileIndexLow);
 }
 
 bool IsReadableFolder(const std::string& path) {

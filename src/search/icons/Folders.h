@@ -1,17 +1,44 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "search/icons/FolderReader.h"
 
 namespace tarvik {
 
+// An entry of a folder as the system gives it.
+struct FolderEntry {
+  std::wstring_view name;
+  unsigned long attributes = 0;  // FILE_ATTRIBUTE_...
+  unsigned long reparseTag = 0;  // of a reparse point: IO_REPARSE_TAG_...; 0 if the system gives none
+};
+
 // The folders of this machine. A path may be of any length; one call reads its folder once.
 class Folders final : public FolderReader {
  public:
+  // How folders are read.
+  struct System {
+    using Visit = std::function<void(const FolderEntry& entry)>;
+    // Calls `visit` for each entry of the folder, in any order.
+    std::function<void(const std::string& folder, const Visit& visit)> forEachEntry;
+    // The data of a reparse point; empty if there is none or it cannot be read.
+    std::function<std::vector<std::byte>(const std::string& path)> reparseData;
+  };
+
+  Folders();
+  explicit Folders(System system);
+
   std::vector<std::string> Files(const std::string& folder, const std::string& pattern) override;
   std::vector<std::string> SubFolders(const std::string& folder) override;
+  std::vector<WalkedFolder> WalkedFolders(const std::string& folder) override;
+  std::string Identity(const std::string& folder) override;
+
+ private:
+  System system_;
 };
 
 // True for a folder that exists and whose content this user may see. The path may stand in any form Windows takes.

@@ -126,7 +126,7 @@ class FrmFindIcon final : public Form,
   IconList list_;
   DirListBox dir1_;
   FileListBox file1_;
-  ShownFolders folders_{dir1_, file1_};
+  ShownFolders folders_{dir1_, file1_, services_.folders};
   IconGrid grid_;
   Surface ownSurface_;
   SearchDriver driver_;

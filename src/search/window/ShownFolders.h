@@ -5,17 +5,19 @@
 
 #include "forms/FolderLists.h"
 #include "search/SearchFolders.h"
+#include "search/icons/FolderReader.h"
 
 namespace tarvik {
 
-// The two list boxes of the main window as a search moves them. Both outlive this object.
+// The two list boxes of the main window as a search moves them, and what is on the disk. All three outlive this object.
 class ShownFolders final : public SearchFolders {
  public:
-  ShownFolders(DirListBox& dir1, FileListBox& file1) : dir1_(dir1), file1_(file1) {}
+  ShownFolders(DirListBox& dir1, FileListBox& file1, FolderReader& disk) : dir1_(dir1), file1_(file1), disk_(disk) {}
 
   std::string Dir1Path() const override { return dir1_.Path(); }
   void SetDir1Path(const std::string& folder) override { dir1_.SetPath(folder); }
-  std::vector<std::string> Dir1SubFolders() override { return dir1_.SubFolders(); }
+  std::vector<WalkedFolder> Dir1SubFolders() override { return disk_.WalkedFolders(dir1_.Path()); }
+  std::string FolderIdentity(const std::string& folder) override { return disk_.Identity(folder); }
   std::string File1Path() const override { return file1_.Path(); }
   void SetFile1Path(const std::string& folder) override { file1_.SetPath(folder); }
   std::vector<std::string> File1Names() override { return file1_.Names(); }
@@ -23,6 +25,7 @@ class ShownFolders final : public SearchFolders {
  private:
   DirListBox& dir1_;
   FileListBox& file1_;
+  FolderReader& disk_;
 };
 
 }  // namespace tarvik

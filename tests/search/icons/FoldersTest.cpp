@@ -4,7 +4,10 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
 #include <cctype>
+#include <cstring>
+#include <map>
 
 #include "base/FolderPath.h"
 #include "platform/Paths.h"
@@ -49,6 +52,41 @@ TEST(Folders, SortsByNameWithCaseIgnored) {
   EXPECT_EQ(Files(folder.Path()), (Names{"a.ico", "B.ico", "b1.ico", "Z.ico", "_.ico", "é.ico", "中.ico", "图.ico"}));
 }
 
+// Folders in which the system finds these entries, in this order: Wine's own order would hide that they are not sorted.
+Folders FoldersOf(std::vector<FolderEntry> entries, std::map<std::string, std::vector<std::byte>> reparseData = {}) {
+  return Folders({[entries](const std::string&, const Folders::System::Visit& visit) {
+                    for (const FolderEntry& entry : entries) visit(entry);
+                  },
+                  [reparseData](const std::string& path) {
+                    const auto found = reparseData.find(path);
+                    return found == reparseData.end() ? std::vector<std::byte>() : found->second;
+                  }});
+}
+
+constexpr std::array shuffled{L"图.ico", L"b1.ico", L"é.ico", L"B.ico",  L"a.ico", L"Z.ico",
+                              L"A.ico",  L"_.ico",  L"b.ico", L"中.ico", L"AA.ico"};
+// Names that differ in case alone are in the order of their codes.
+const Names inOrder{"A.ico", "a.ico", "AA.ico", "B.ico",  "b.ico", "b1.ico",
+                    "Z.ico", "_.ico", "é.ico",  "中.ico", "图.ico"};
+
+TEST(Folders, SortsFilesInWhateverOrderTheSystemGivesThem) {
+  std::vector<FolderEntry> entries;
+  for (const wchar_t* name : shuffled) entries.push_back({name, FILE_ATTRIBUTE_ARCHIVE});
+  EXPECT_EQ(FoldersOf(entries).Files("C:\\x", allFiles), inOrder);
+}
+
+TEST(Folders, SortsSubFoldersInWhateverOrderTheSystemGivesThem) {
+  std::vector<FolderEntry> entries;
+  for (const wchar_t* name : shuffled) entries.push_back({name, FILE_ATTRIBUTE_DIRECTORY});
+  Folders folders = FoldersOf(entries);
+  Names paths;
+  for (const std::string& name : inOrder) paths.push_back("C:\\x\\" + name);
+  EXPECT_EQ(folders.SubFolders("C:\\x"), paths);
+  Names walked;
+  for (const WalkedFolder& folder : folders.WalkedFolders("C:\\x")) walked.push_back(folder.path);
+  EXPECT_EQ(walked, paths);
+}
+
 TEST(Folders, SortsSubFoldersAlike) {
   const TemporaryFolder folder;
   for (const char* name : {"b", "C", "a", "图标😀"}) folder.MakeFolder(name);
@@ -72,12 +110,72 @@ TEST(Folders, ListsHiddenSubFolders) {
   EXPECT_EQ(SubFolderNames(folder.Path()), (Names{"hidden", "seen"}));
 }
 
-TEST(Folders, LeavesOutLinksToFolders) {
+TEST(Folders, ListsLinksToFoldersAndWalksNone) {
   TemporaryFolder folder;
   folder.MakeFolder("real");
+  folder.MakeFolder(R"(real\inner)");
   folder.MakeLink(R"(real\back)", folder.Path());
-  EXPECT_EQ(SubFolderNames(folder.Path()), Names{"real"});
-  EXPECT_EQ(SubFolderNames(folder.In("real")), Names{});
+  EXPECT_EQ(SubFolderNames(folder.In("real")), (Names{"back", "inner"}));
+  const auto walked = Folders().WalkedFolders(folder.In("real"));
+  ASSERT_EQ(walked.size(), 1U);
+  EXPECT_EQ(walked[0].path, folder.In(R"(real\inner)"));
+  EXPECT_FALSE(walked[0].isMounted);
+}
+
+TEST(Folders, ReadsThroughALinkThatIsChosen) {
+  TemporaryFolder folder;
+  folder.MakeFolder("real");
+  folder.MakeFolder(R"(real\inner)");
+  folder.MakeFile(R"(real\a.ico)");
+  const std::string link = folder.MakeLink("link", folder.In("real"));
+  EXPECT_EQ(Files(link), Names{"a.ico"});
+  EXPECT_TRUE(IsReadableFolder(link));
+  const auto walked = Folders().WalkedFolders(link);
+  ASSERT_EQ(walked.size(), 1U);
+  EXPECT_EQ(walked[0].path, JoinPath(link, "inner"));
+}
+
+std::vector<std::byte> MountData(std::wstring_view target) {
+  const auto size = static_cast<std::byte>(target.size() * 2);
+  std::vector<std::byte> data(16 + target.size() * 2);
+  data[0] = std::byte{3};
+  data[3] = std::byte{0xA0};
+  data[10] = size;
+  std::memcpy(&data[16], target.data(), target.size() * 2);
+  return data;
+}
+
+TEST(Folders, WalkAMountedVolumeAndNoJunctionOrOtherLink) {
+  constexpr unsigned long point = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+  Folders folders = FoldersOf({{L"junction", point, IO_REPARSE_TAG_MOUNT_POINT},
+                               {L"symbolic", point, IO_REPARSE_TAG_SYMLINK},
+                               {L"unknown", point, 0},
+                               {L"disk", point, IO_REPARSE_TAG_MOUNT_POINT},
+                               {L"cloud", point, 0x9000001A},
+                               {L"plain", FILE_ATTRIBUTE_DIRECTORY, IO_REPARSE_TAG_SYMLINK}},
+                              {{R"(C:\x\junction)", MountData(LR"(\??\C:\Users)")},
+                               {R"(C:\x\disk)", MountData(LR"(\??\Volume{01234567-89ab-cdef-0123-456789abcdef}\)")}});
+  EXPECT_EQ(folders.SubFolders("C:\\x").size(), 6U);
+  const auto walked = folders.WalkedFolders("C:\\x");
+  ASSERT_EQ(walked.size(), 3U);
+  EXPECT_EQ(walked[0].path, R"(C:\x\cloud)");
+  EXPECT_EQ(walked[1].path, R"(C:\x\disk)");
+  EXPECT_EQ(walked[2].path, R"(C:\x\plain)");
+  EXPECT_FALSE(walked[0].isMounted);
+  EXPECT_TRUE(walked[1].isMounted);
+  EXPECT_FALSE(walked[2].isMounted);
+}
+
+TEST(Folders, TellAFolderByWhateverPathLeadsToIt) {
+  TemporaryFolder folder;
+  const std::string real = folder.MakeFolder("real");
+  const std::string other = folder.MakeFolder("other");
+  const std::string link = folder.MakeLink("link", real);
+  Folders folders;
+  EXPECT_NE(folders.Identity(real), "");
+  EXPECT_EQ(folders.Identity(link), folders.Identity(real));
+  EXPECT_NE(folders.Identity(other), folders.Identity(real));
+  EXPECT_EQ(folders.Identity(folder.In("none")), "");
 }
 
 TEST(Folders, ReadsPathsOfAnyLength) {

@@ -57,6 +57,13 @@ class SmallMachine final : public IconSource, public FolderReader {
   }
   std::vector<std::string> SubFolders(const std::string& folder) override { return subFolders[folder]; }
 
+  std::vector<WalkedFolder> WalkedFolders(const std::string& folder) override {
+    std::vector<WalkedFolder> walked;
+    for (const std::string& path : subFolders[folder]) walked.push_back({path});
+    return walked;
+  }
+  std::string Identity(const std::string& folder) override { return folder; }
+
   std::map<std::string, int> icons;  // by path
   std::map<std::string, std::vector<std::string>> files;
   std::map<std::string, std::vector<std::string>> subFolders;  // full paths
