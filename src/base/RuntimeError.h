@@ -7,7 +7,15 @@ namespace tarvik {
 
 // A run-time error: it stops the handler that it happens in, unless a rule says what happens instead. The handler's
 // boundary shows it to the user and leaves the window usable.
-class RuntimeError : public std::exception {};
+class RuntimeError : public std::exception {
+ public:
+  // The path of the file that it happened at, UTF-8; empty if it is about no file.
+  const std::string& File() const { return file_; }
+  void SetFile(const std::string& path) { file_ = path; }
+
+ private:
+  std::string file_;
+};
 
 // A value does not fit the 16-bit number it belongs in.
 class OverflowError : public RuntimeError {

@@ -191,8 +191,18 @@ void SearchDriver::CountIconsInFolder(const std::string& root) {
 void SearchDriver::CountFilesOf(const std::string& folder) {
   if (window_.chkSubDir()) folders_.SetFile1Path(folder);
   for (const std::string& name : folders_.File1Names()) {
-    CountIconsOfFile(PathOf(name));
+    AtFile(PathOf(name), &SearchDriver::CountIconsOfFile);
     UpdateTitle();
+  }
+}
+
+// Takes a step of a pass at one file. An overflow in it says at which file it happened.
+void SearchDriver::AtFile(const std::string& path, Pass step) {
+  try {
+    (this->*step)(path);
+  } catch (OverflowError& error) {
+    error.SetFile(path);
+    throw;
   }
 }
 
@@ -228,7 +238,7 @@ void SearchDriver::ListFilesOf(const std::string& folder) {
     // Asked before each file and never inside one: a file's icons are listed all together.
     if (state_.NextIconNumber > limit) break;
     SetStatus(searchTexts::adding, {std::to_string(state_.NextIconNumber)});
-    ListIconsOfFile(PathOf(name));
+    AtFile(PathOf(name), &SearchDriver::ListIconsOfFile);
   }
 }
 

@@ -60,6 +60,7 @@ class SearchDriver {
 
   void CountIconsInFolder(const std::string& root);
   void CountFilesOf(const std::string& folder);
+  void AtFile(const std::string& path, Pass step);
   void CountIconsOfFile(const std::string& path);
 
   void ListIconsInFolder(const std::string& root);

@@ -15,10 +15,12 @@ const Text& TextOf(const RuntimeError& error) {
   return typeMismatchText;
 }
 
-// What the text does not say by itself.
+// What the text does not say by itself: which function is missing, and the file that the error happened at.
 std::string DetailsOf(const RuntimeError& error) {
-  const auto* missing = dynamic_cast<const MissingFunctionError*>(&error);
-  return missing != nullptr ? "\r\n\r\n" + missing->Name() : std::string();
+  std::string details;
+  if (const auto* missing = dynamic_cast<const MissingFunctionError*>(&error)) details += "\r\n\r\n" + missing->Name();
+  if (!error.File().empty()) details += "\r\n" + error.File();
+  return details;
 }
 
 }  // namespace

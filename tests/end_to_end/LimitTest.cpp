@@ -186,9 +186,9 @@ INSTANTIATE_TEST_SUITE_P(Texts, BadLimit,
                                            BadLimitRow{"abc", "CHT", "型態不符合", "Brindle Tarvik - 錯誤"},
                                            BadLimitRow{"99999", "CHT", "溢位", "Brindle Tarvik - 錯誤"}));
 
-TEST_F(Limit, MoreIconsThanSixteenBitsHoldAreAnOverflow) {
+TEST_F(Limit, MoreIconsThanSixteenBitsHoldAreAnOverflowAtTheFileThatHasOneTooMany) {
   StartWithIcons(34000, Size16);
-  EXPECT_EQ(FindAndReadMessage(), "Overflow");
+  EXPECT_EQ(FindAndReadMessage(), "Overflow\r\n" + In("1017.dll"));
   EXPECT_THAT(Entries(), IsEmpty());
   EXPECT_TRUE(IsEnabled(FrmFindIcon_CmdFind));
 }

@@ -171,6 +171,37 @@ TEST_F(SearchWalkTest, EntersNoMountedVolumeThatCannotBeOpened) {
   EXPECT_EQ(list.Count(), 5);
 }
 
+TEST_F(SearchWalkTest, SaysAtWhichFileTheCountOverflows) {
+  icons.files["C:\\a\\b\\c\\3.dll"].icons = 32767;
+  try {
+    Find();
+    ADD_FAILURE() << "no overflow";
+  } catch (const OverflowError& error) {
+    EXPECT_EQ(error.File(), "C:\\a\\b\\c\\3.dll");
+  }
+}
+
+TEST_F(SearchWalkTest, SaysAtWhichFileTheGridOverflows) {
+  // The last file turned into a larger one after it was counted.
+  window.onEvents = [&] { icons.files["C:\\a\\d\\4.dll"].icons = 13'000; };
+  try {
+    Find();
+    ADD_FAILURE() << "no overflow";
+  } catch (const OverflowError& error) {
+    EXPECT_EQ(error.File(), "C:\\a\\d\\4.dll");
+  }
+}
+
+TEST_F(SearchWalkTest, NamesNoFileWhereTheLimitIsTooLarge) {
+  window.max = "99999";
+  try {
+    Find();
+    ADD_FAILURE() << "no overflow";
+  } catch (const OverflowError& error) {
+    EXPECT_EQ(error.File(), "");
+  }
+}
+
 TEST_F(SearchWalkTest, NamesTheStartingFolderInTheNoIconsBox) {
   icons.files.clear();
   Find();

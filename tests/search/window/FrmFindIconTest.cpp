@@ -293,6 +293,16 @@ TEST_F(FrmFindIconTest, ShowsARunTimeErrorAndStaysUsable) {
   }
 }
 
+TEST_F(FrmFindIconTest, SaysAtWhichFileThereAreTooManyIcons) {
+  const std::pair<const char*, const char*> rows[] = {{"ENG", "Overflow"}, {"CHS", "溢出"}, {"CHT", "溢位"}};
+  for (const auto& [language, text] : rows) {
+    Open(language);
+    Find(32768);
+    ASSERT_FALSE(boxes.Boxes().empty());
+    EXPECT_EQ(boxes.Boxes().back().text, std::string(text) + "\r\nC:\\icons\\some.dll");
+  }
+}
+
 TEST_F(FrmFindIconTest, ShowsTheListInPlaceOfTheGrid) {
   Open();
   Click(FrmFindIcon_mnuViewopt1);
