@@ -3,11 +3,15 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
+#include <filesystem>
+#include <memory>
+
 #include "base/FolderPath.h"
 #include "driver/Input.h"
 #include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
 #include "platform/IconFiles.h"
+#include "platform/Text.h"
 
 namespace tarvik::end_to_end {
 namespace {
@@ -135,11 +139,15 @@ TEST_F(Folders, ALinkToAFolderIsListedAndCanBeOpenedAndSearched) {
   EXPECT_EQ(ReadSetting("Folder"), link);
 }
 
-// As the system below Wine has one for sure.
+// The shared memory of the system below Wine is mounted there.
 TEST_F(Folders, AMountedFolderIsListedAndCanBeOpened) {
-  Start("Z:\\");
-  DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf("proc")));
-  EXPECT_TRUE(Eventually([&] { return std::ranges::count(FolderNames(), "sys") == 1; }))
+  const std::string name = FolderName(tree_.Path());
+  const std::filesystem::path inside = ToWide("Z:\\dev\\shm\\" + name);
+  ASSERT_TRUE(std::filesystem::create_directory(inside));
+  const std::shared_ptr<void> removed(nullptr, [&](void*) { std::filesystem::remove(inside); });
+  Start("Z:\\dev");
+  DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf("shm")));
+  EXPECT_TRUE(Eventually([&] { return std::ranges::count(FolderNames(), name) == 1; }))
       << ::testing::PrintToString(FolderNames());
 }
 
