@@ -9,9 +9,7 @@
 #include <vector>
 
 #include "base/FolderPath.h"
-#include "base/RuntimeError.h"
 #include "damaged_files/Libraries.h"
-#include "driver/UnixProgram.h"
 #include "platform/GdiObjects.h"
 #include "platform/Handles.h"
 #include "platform/IconFiles.h"
@@ -19,7 +17,6 @@
 #include "platform/Surface.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
-#include "search/icons/FileBytes.h"
 
 namespace tarvik {
 namespace {
@@ -306,101 +303,6 @@ TEST(ShellIcons, CountsAHundredIconsOrMoreThatAreThere) {
   for (const int count : {100, 101, 250}) {
     const auto name = std::to_string(count) + ".dll";
     EXPECT_EQ(icons.CountIcons(folder.MakeFile(name, LyingLibrary(count, static_cast<std::uint16_t>(count)))), count);
-  }
-}
-
-// Of each call that is cut off the system keeps what it had made by then.
-TEST(ShellIcons, AsksTheSystemOnceForAnIconThatItBreaksOn) {
-  const TemporaryFolder folder;
-  const IconPicture picture = BitmapPicture(32, 32, red, blue);
-  const std::string path = folder.MakeFile("a.ico", Truncated(OneIcon(picture), 3000));
-  ShellIcons icons;
-  ASSERT_EQ(icons.Extract(path, 0), nullptr);
-  const int before = testing::CountGdiObjects();
-  for (int i = 0; i < 20; ++i) EXPECT_EQ(icons.Extract(path, 0), nullptr);
-  EXPECT_EQ(testing::CountGdiObjects(), before);
-}
-
-TEST(ShellIcons, AsksAgainForAFileThatHasChanged) {
-  const TemporaryFolder folder;
-  const std::string path = folder.MakeFile("a.ico", Truncated(OneIcon(BitmapPicture(32, 32, red, blue)), 3000));
-  ShellIcons icons;
-  ASSERT_EQ(icons.Extract(path, 0), nullptr);
-  // The call that was cut off still holds the file, so that it can only be changed from outside of Wine.
-  const std::string sound = folder.MakeFile("sound.ico", OneIcon(BitmapPicture(32, 32, red, blue)));
-  ASSERT_EQ(
-      end_to_end::RunUnix("cp " + end_to_end::UnixQuoted(ToWide(sound)) + ' ' + end_to_end::UnixQuoted(ToWide(path)))
-          .exitCode,
-      0);
-  EXPECT_NE(icons.Extract(path, 0), nullptr);
-}
-
-// All GDI objects that the process can have, as tiny bitmaps.
-class NoGdiObjects {
- public:
-  NoGdiObjects() {
-    while (const HBITMAP bitmap = CreateBitmap(1, 1, 1, 1, nullptr)) bitmaps_.emplace_back(bitmap);
-  }
-
- private:
-  std::vector<BitmapHandle> bitmaps_;
-};
-
-// A blank picture was saved for a good icon once the damaged ones had used up the process's GDI objects.
-TEST(ShellIcons, SaysThatThereIsNoRoomForAnIconInsteadOfLeavingItOut) {
-  const TemporaryFolder folder;
-  const std::string path = folder.MakeFile("a.ico", IconFileOf(red));
-  ShellIcons icons;
-  Surface surface(32, 32, background);
-  const auto icon = icons.Extract(path, 0);
-  ASSERT_NE(icon, nullptr);
-  {
-    NoGdiObjects none;
-    EXPECT_THROW(icons.Extract(path, 0), OutOfMemoryError);
-  }
-  EXPECT_NE(icons.Extract(path, 0), nullptr);
-  EXPECT_TRUE(icon->Draw(surface, {0, 0}, 32, 0, DrawPart::Normal));
-}
-
-// The bytes of real files, all counted that are read of them.
-class CountedBytes final : public ByteSource {
- public:
-  CountedBytes(const std::string& path, std::uint64_t& count) : file_(path), count_(count) {}
-  FileStamp Stamp() override { return file_.Stamp(); }
-  bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
-    count_ += bytes.size();
-    return file_.Read(offset, bytes);
-  }
-
- private:
-  FileBytes file_;
-  std::uint64_t& count_;
-};
-
-constexpr std::uint64_t megabyte = std::uint64_t{1} << 20U;
-
-// A search of such a file of 512 MB once took 14 seconds, and one of 5 GB did not end.
-TEST(ShellIcons, ReadsLittleOfALargeAnimationAndThatOnce) {
-  const TemporaryFolder folder;
-  std::uint64_t bytesRead = 0;
-  ShellIcons icons([&](const std::string& path) { return std::make_unique<CountedBytes>(path, bytesRead); });
-  const Bytes sound = AnimationFile(std::array{red, green, blue});
-  // As long as the file, says its own size.
-  Bytes endless = sound;
-  std::fill_n(endless.begin() + 4, 4, std::byte{0xFF});
-  for (const std::uint64_t size : {512 * megabyte, 5 * 1024 * megabyte}) {
-    const std::string end = std::to_string(size) + ".ani";
-    const std::string tailed = folder.MakeSparseFile("tailed" + end, sound, size);
-    const std::string large = folder.MakeSparseFile("large" + end, endless, size);
-    bytesRead = 0;
-    // As often as a search asks.
-    for (int look = 0; look < 3; ++look) {
-      const auto icon = icons.Extract(tailed, 0);
-      ASSERT_NE(icon, nullptr) << size;
-      EXPECT_EQ(icon->StepBound(), 3) << size;
-      icons.Extract(large, 0);
-    }
-    EXPECT_LE(bytesRead, 2 * megabyte) << size;
   }
 }
 
