@@ -76,11 +76,11 @@ TEST(FaultGuard, CatchesEachKindOfFaultThatADamagedFileLeadsTo) {
 
 class FaultGuardDeathTest : public ::testing::Test {
  protected:
-  FaultGuardDeathTest() {
+  void SetUp() override {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     SetUnhandledExceptionFilter(EndAtOnce);
   }
-  ~FaultGuardDeathTest() override { SetUnhandledExceptionFilter(nullptr); }
+  void TearDown() override { SetUnhandledExceptionFilter(nullptr); }
 
  private:
   // Without a box of the system, and without a debugger that prints a trace.
