@@ -7,12 +7,14 @@
 #include <future>
 #include <thread>
 
+#include "base/RuntimeError.h"
 #include "encoders/EncodedImages.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
 #include "platform/PastedPicture.h"
 #include "platform/TemporaryFolder.h"
 #include "search/window/FindIconFixture.h"
+#include "startup/MessageTexts.h"
 
 namespace tarvik {
 namespace {
@@ -187,6 +189,35 @@ TEST_F(FrmFindIconExportTest, ShowsThePickerTheCurrentIconMagnified) {
   EXPECT_EQ(shown, SmallMachine::ColorOf(2));
   EXPECT_EQ(margin, white);
   EXPECT_EQ(Byte(ReadAll(folder.In("a.cur")), 2), 2);
+}
+
+// A file of four icons, of which the second breaks on a lack of GDI objects once these run out.
+class ScarceIcons final : public IconSource {
+ public:
+  int CountIcons(const std::string& /*path*/) override { return 4; }
+  std::unique_ptr<ExtractedIcon> Extract(const std::string& /*path*/, int index) override {
+    if (exhausted && index == 1) throw OutOfMemoryError();
+    return std::make_unique<testing::SquareIcon>(SmallMachine::ColorOf(index));
+  }
+  bool exhausted = false;
+};
+
+TEST_F(FrmFindIconExportTest, SaysThatThereIsNoRoomForAnIconInsteadOfSavingABlank) {
+  ScarceIcons icons;
+  OpenOver(icons, machine);
+  Find(4);
+  const std::string status = Status();
+  dialogs.folder = folder.Path();
+  icons.exhausted = true;
+  Click(FrmFindIcon_mnuSaveAll);
+  ASSERT_EQ(boxes.Boxes().size(), 1U);
+  EXPECT_EQ(boxes.Boxes()[0].title, "Brindle Tarvik - Error");
+  EXPECT_EQ(boxes.Boxes()[0].text, outOfMemoryText.eng);
+  EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"Icon 1.ico"});
+  EXPECT_EQ(Status(), status);
+  icons.exhausted = false;
+  Click(FrmFindIcon_mnuSaveAll);
+  EXPECT_EQ(NamesIn(folder.Path()).size(), 4U) << "the window takes commands again";
 }
 
 TEST_F(FrmFindIconExportTest, SavesABlankWhereTheFileYieldsNoIconAnyMore) {
