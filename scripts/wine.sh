@@ -71,7 +71,7 @@ start_wine() {
   # Its services would hold this script's output open, so they get none of it.
   wineserver -p >/dev/null 2>&1 </dev/null 9>&- || true
   wine wineboot >/dev/null 2>&1 </dev/null 9>&- || fail "Wine does not start"
-  [ "$1" = own ] || stay_on_desktop
+  [ "$1" = own ] || { stay_on_desktop && open_desktop; }
 }
 
 # stay_on_desktop: Wine closes its desktop when no program has used it for a second, and whoever started the program that
@@ -87,6 +87,17 @@ stay_on_desktop() {
   done
   [ -s "$said" ] || fail "the desktop cannot be kept open"
   rm -f "$said"
+}
+
+# open_desktop: opens it before the first program does, whose output it would hold open, so that whoever reads that output
+# would wait for the desktop's end.
+open_desktop() {
+  wine explorer "/desktop=Default,$display_size" >/dev/null 2>&1 </dev/null 9>&- &
+  for _ in $(seq 1200); do
+    if xwininfo -root -tree 2>/dev/null 9>&- | grep -qi 'wine desktop'; then return 0; fi
+    sleep 0.1
+  done
+  fail "the desktop does not open"
 }
 
 # choose_desktop DESKTOP: Wine reads the choice only when it starts, so it is made before, and rarely. In what Wine keeps,

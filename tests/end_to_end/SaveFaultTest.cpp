@@ -206,9 +206,9 @@ TEST_F(SaveFault, AnIconThatTheSystemBreaksOnIsAskedForOnce) {
   ASSERT_EQ(List().RowCount(), 25);
   found_ = Now();
   SaveBatch(FrmFindIcon_mnuSaveAll);
-  const int before = program_.Held().gdiObjects;
+  const int before = testing::HeldBy(program_.Process()).gdiObjects;
   for (int i = 0; i < 3; ++i) SaveBatch(FrmFindIcon_mnuSaveAll);
-  EXPECT_LE(program_.Held().gdiObjects, before + 5);
+  EXPECT_LE(testing::HeldBy(program_.Process()).gdiObjects, before + 5);
   EXPECT_EQ(SavedNames().size(), 25U);
 }
 
