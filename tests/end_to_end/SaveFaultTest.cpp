@@ -7,6 +7,7 @@
 
 #include "driver/SeenFiles.h"
 #include "end_to_end/SavingTest.h"
+#include "platform/Holdings.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
