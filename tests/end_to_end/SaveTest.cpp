@@ -45,10 +45,12 @@ class SaveIcons : public Saving {
   }
   // The three areas of a picture, which are plain, away from where they meet: a lossy file keeps them nearly.
   static void ExpectAreas(const Pixels& pixels, int side, int entry) {
-    ASSERT_EQ(pixels.size(), static_cast<std::size_t>(side * side));
+    ASSERT_EQ(pixels.size(), static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
     const Picture& picture = pictures.at(static_cast<std::size_t>(entry));
     const int eighth = side / 8;
-    const auto at = [&](int x, int y) { return Pixels{pixels[static_cast<std::size_t>(y * side + x)]}; };
+    const auto at = [&](int x, int y) {
+      return Pixels{pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(side) + static_cast<std::size_t>(x)]};
+    };
     constexpr int closeEnough = 8;
     EXPECT_LE(FarthestChannel(at(eighth, eighth), {0xFF000000 | picture.left}), closeEnough) << entry;
     EXPECT_LE(FarthestChannel(at(side - eighth, eighth), {0xFF000000 | picture.right}), closeEnough) << entry;
@@ -62,7 +64,10 @@ class SaveIcons : public Saving {
     for (int y = side - 1; y >= 0; --y) {
       std::string row(static_cast<std::size_t>(rowBytes.at(static_cast<std::size_t>(side) / 16 - 1)), '\0');
       for (int x = 0; x < side; ++x) {
-        if (isWhite(x, y)) row[static_cast<std::size_t>(x / 8)] |= static_cast<char>(0x80 >> x % 8);
+        if (!isWhite(x, y)) continue;
+        char& eightPixels = row[static_cast<std::size_t>(x / 8)];
+        eightPixels =
+            static_cast<char>(static_cast<unsigned char>(eightPixels) | 0x80U >> static_cast<unsigned>(x % 8));
       }
       bits += row;
     }

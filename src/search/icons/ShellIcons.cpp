@@ -67,8 +67,12 @@ class PlatformIcon final : public ExtractedIcon {
   int stepBound_;
 };
 
+// Null if there is no icon; throws if that is for lack of GDI objects.
 std::unique_ptr<ExtractedIcon> Drawable(IconHandle icon, int stepBound) {
-  if (!icon) return nullptr;
+  if (!icon) {
+    RequireGdiObjects();
+    return nullptr;
+  }
   return std::make_unique<PlatformIcon>(std::move(icon), stepBound);
 }
 
@@ -145,9 +149,8 @@ int ShellIcons::CountIcons(const std::string& path) {
 }
 
 std::unique_ptr<ExtractedIcon> ShellIcons::Extract(const std::string& path, int index) {
-  auto icon = IsAnimatedCursorName(path) ? ExtractSteps(path, index) : Drawable(ExtractLarge(path, index), 1);
-  if (icon == nullptr) RequireGdiObjects();
-  return icon;
+  if (IsAnimatedCursorName(path)) return ExtractSteps(path, index);
+  return Drawable(ExtractLarge(path, index), 1);
 }
 
 }  // namespace tarvik

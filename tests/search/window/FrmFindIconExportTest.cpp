@@ -34,7 +34,7 @@ class FrmFindIconExportTest : public FindIconFixture {
   }
   void Choose(int number, WPARAM keys) const { ReleaseOnGrid(10 + (number - 1) * 38, 10, keys); }
 
-  std::vector<std::string> NamesIn(const std::string& path) const {
+  static std::vector<std::string> NamesIn(const std::string& path) {
     std::vector<std::string> names;
     WIN32_FIND_DATAW data;
     const FindHandle find(FindFirstFileW(ToWide(path + "\\*").c_str(), &data));
