@@ -234,7 +234,7 @@ TEST_F(SaveIcons, TheHotSpotIsPickedWithTheMouse) {
   RightClick(place);
   PressKey(VK_TAB);
   EXPECT_TRUE(Eventually([&] { return program_.Focus().Window() != focus; }));
-  EXPECT_EQ(picked(), "");
+  EXPECT_EQ(picked(), "0000");
   EXPECT_TRUE(Eventually([&] {
     Click(place);
     return Eventually([&] { return picked() == "0000"; }, lostAfter);

@@ -32,7 +32,13 @@ void Saving::FindAll() {
   Find();
   ASSERT_EQ(List().RowCount(), static_cast<int>(pictures.size()));
   const RECT window = program_.Window().Place();
-  MovePointer({window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2});
+  const POINT place{window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2};
+  // A program shows its pointer once the mouse moves over it, and a desktop on which none did so has none.
+  ASSERT_TRUE(Eventually([&] {
+    MovePointer({place.x + 8, place.y - 8});
+    MovePointer(place);
+    return ShownPointer() != nullptr;
+  }));
   found_ = Now();
 }
 
