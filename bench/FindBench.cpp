@@ -22,6 +22,7 @@
 #include "platform/Text.h"
 #include "search/SearchDriver.h"
 #include "search/icons/Folders.h"
+#include "search/icons/IconsAhead.h"
 #include "search/icons/ShellIcons.h"
 
 namespace tarvik::bench {
@@ -136,11 +137,15 @@ class SilentSearch {
  public:
   explicit SilentSearch(const Scope& scope)
       : window_(scope, folders_), driver_({window_, window_, grid_, ownSurface_, icons_, list_, state_, language_}) {}
-  void Run() { driver_.CmdFind_Click(); }
+  void Run() {
+    const auto inTurn = icons_.InTurn();
+    driver_.CmdFind_Click();
+  }
 
  private:
   Folders folders_;
-  ShellIcons icons_;
+  ShellIcons shellIcons_;
+  IconsAhead icons_{shellIcons_, shellIcons_};
   IconList list_;
   SearchState state_;
   std::string language_ = "ENG";

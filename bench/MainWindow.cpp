@@ -10,6 +10,7 @@
 #include "platform/Paths.h"
 #include "resource.h"
 #include "search/icons/Folders.h"
+#include "search/icons/IconsAhead.h"
 #include "search/icons/ShellIcons.h"
 #include "search/window/FrmFindIcon.h"
 
@@ -67,7 +68,8 @@ struct MainWindow::Parts {
   ProgramState state;
   FixedIni ini;
   Settings settings;
-  ShellIcons icons;
+  ShellIcons shellIcons;
+  IconsAhead icons{shellIcons, shellIcons};
   Folders folders;
   DiskFile files;
   TemporaryBitmap temporaryBitmap{TemporaryBitmapPlaces()};

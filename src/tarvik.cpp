@@ -17,6 +17,7 @@
 #include "platform/Paths.h"
 #include "platform/SafeLoading.h"
 #include "search/icons/Folders.h"
+#include "search/icons/IconsAhead.h"
 #include "search/icons/ShellIcons.h"
 #include "search/window/ExportDialogs.h"
 #include "search/window/FrmFindIcon.h"
@@ -67,7 +68,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
   ProgramState state;
   IniFile iniFile;
   Settings settings(iniFile, ProgramPath());
-  ShellIcons icons;
+  ShellIcons shellIcons;
+  IconsAhead icons(shellIcons, shellIcons);
   Folders folders;
 
   Application application(instance);

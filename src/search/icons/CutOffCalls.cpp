@@ -15,23 +15,23 @@ std::uint64_t Number(DWORD high, DWORD low) {
 
 }  // namespace
 
-FileStamp CutOffCalls::StateOf(const std::string& path) {
+std::optional<FileStamp> StampOf(const std::string& path) {
   WIN32_FILE_ATTRIBUTE_DATA data{};
-  if (GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data) == 0) return {};
-  return {.size = Number(data.nFileSizeHigh, data.nFileSizeLow),
-          .written = Number(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime)};
+  if (GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data) == 0) return std::nullopt;
+  return FileStamp{.size = Number(data.nFileSizeHigh, data.nFileSizeLow),
+                   .written = Number(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime)};
 }
 
 void CutOffCalls::Remember(const std::string& path, int call) {
   Calls& known = files_[path];
-  const FileStamp state = StateOf(path);
-  if (known.state != state) known = {.state = state, .calls = {}};
+  const auto stamp = StampOf(path);
+  if (known.stamp != stamp) known = {.stamp = stamp, .calls = {}};
   known.calls.insert(call);
 }
 
 bool CutOffCalls::Has(const std::string& path, int call) const {
   const auto known = files_.find(path);
-  return known != files_.end() && known->second.calls.contains(call) && known->second.state == StateOf(path);
+  return known != files_.end() && known->second.calls.contains(call) && known->second.stamp == StampOf(path);
 }
 
 }  // namespace tarvik

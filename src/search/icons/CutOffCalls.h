@@ -1,12 +1,16 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 
 #include "base/ByteSource.h"
 
 namespace tarvik {
+
+// What the file at the path (UTF-8) is known by; nothing if there is none.
+std::optional<FileStamp> StampOf(const std::string& path);
 
 // Remembers which system calls on which files had to be cut off (see FaultGuard), so that none is made again: each one
 // leaks what it held, several GDI objects for an icon. A file that was changed since, by its size or the time it was
@@ -19,11 +23,9 @@ class CutOffCalls {
 
  private:
   struct Calls {
-    FileStamp state;
+    std::optional<FileStamp> stamp;
     std::set<int> calls;
   };
-  static FileStamp StateOf(const std::string& path);
-
   std::map<std::string, Calls> files_;
 };
 

@@ -35,6 +35,13 @@ class IconSource {
 
   // The large icon with that zero-based index, or null where the file yields none.
   virtual std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) = 0;
+
+  // While the returned object lives, the icons of a file are mostly asked for one after the other: a search, a batch. A
+  // source may then take more of them than are asked for yet.
+  virtual std::shared_ptr<void> InTurn() { return nullptr; }
+  // Files can change from here on, because messages are served or a box is shown: what was taken but not yet asked for
+  // is dropped.
+  virtual void LetGo() {}
 };
 
 }  // namespace tarvik

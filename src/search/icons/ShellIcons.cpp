@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 #include <climits>
+#include <cstdint>
+#include <span>
 #include <utility>
 
 #include "base/RuntimeError.h"
@@ -27,6 +29,7 @@ constexpr UINT noFile = UINT_MAX;      // what the shell answers for a file it c
 // Numbers of calls to remember besides those that take the icon of an index.
 constexpr int countCall = -1;
 constexpr int cursorCall = -2;
+constexpr int groupCall = -3;  // from any index
 
 // As many icons as one file is believed to hold on its word: a search lists so many at every size. More would have a
 // whole search refused for one file.
@@ -68,6 +71,19 @@ class PlatformIcon final : public ExtractedIcon {
 };
 
 // Null if there is no icon; throws if that is for lack of GDI objects.
+// Takes ownership of what a call for several icons left in `handles`: it may have given fewer than asked, or been cut
+// off in their middle.
+std::vector<IconHandle> Owned(const std::vector<HICON>& handles, bool finished, UINT extracted) {
+  std::vector<IconHandle> icons;
+  const std::size_t given = !finished ? handles.size() : extracted == noFile ? 0 : extracted;
+  for (const HICON handle : std::span(handles).first(std::min(given, handles.size()))) {
+    // Before Wine makes an icon, it keeps the number of its picture in the handle's place.
+    constexpr std::uintptr_t highestNumber = 0xFFFF;
+    if (reinterpret_cast<std::uintptr_t>(handle) > highestNumber) icons.emplace_back(handle);
+  }
+  return icons;
+}
+
 std::unique_ptr<ExtractedIcon> Drawable(IconHandle icon, int stepBound) {
   if (!icon) {
     RequireGdiObjects();
@@ -151,6 +167,28 @@ int ShellIcons::CountIcons(const std::string& path) {
 std::unique_ptr<ExtractedIcon> ShellIcons::Extract(const std::string& path, int index) {
   if (IsAnimatedCursorName(path)) return ExtractSteps(path, index);
   return Drawable(ExtractLarge(path, index), 1);
+}
+
+std::vector<std::unique_ptr<ExtractedIcon>> ShellIcons::ExtractGroup(const std::string& path, int first, int count) {
+  std::vector<HICON> handles(static_cast<std::size_t>(count));
+  UINT extracted = 0;
+  std::vector<UINT> numbers(handles.size());  // of the pictures; filled by the call and not needed
+  // ExtractIconExA takes its large icons the same way, with that size; but of several, Wine's hands over the first
+  // alone.
+  const bool finished = Survives(path, groupCall, [&] {
+    extracted =
+        PrivateExtractIconsA(path.c_str(), first, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON),
+                             handles.data(), numbers.data(), static_cast<UINT>(handles.size()), LR_DEFAULTCOLOR);
+  });
+  std::vector<IconHandle> icons = Owned(handles, finished, extracted);
+  std::vector<std::unique_ptr<ExtractedIcon>> group;
+  if (!finished || icons.size() != handles.size()) return group;
+  for (IconHandle& icon : icons) group.push_back(Drawable(std::move(icon), 1));
+  return group;
+}
+
+std::optional<FileStamp> ShellIcons::StampOf(const std::string& path) {
+  return tarvik::StampOf(path);
 }
 
 }  // namespace tarvik

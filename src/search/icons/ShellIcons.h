@@ -2,13 +2,16 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "base/ByteSource.h"
 #include "platform/Handles.h"
 #include "search/icons/AnimationHeader.h"
 #include "search/icons/CutOffCalls.h"
 #include "search/icons/IconSource.h"
+#include "search/icons/IconsAhead.h"
 
 namespace tarvik {
 
@@ -18,7 +21,7 @@ namespace tarvik {
 //
 // Extract and the icons' Draw throw OutOfMemoryError if they fail because there are no GDI objects left, so that no
 // blank picture is taken for an icon.
-class ShellIcons final : public IconSource {
+class ShellIcons final : public IconSource, public IconGroups {
  public:
   // Opens the bytes of a file for a look at them.
   using OpenBytes = std::function<std::unique_ptr<ByteSource>(const std::string& path)>;
@@ -28,6 +31,9 @@ class ShellIcons final : public IconSource {
 
   int CountIcons(const std::string& path) override;
   std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override;
+
+  std::vector<std::unique_ptr<ExtractedIcon>> ExtractGroup(const std::string& path, int first, int count) override;
+  std::optional<FileStamp> StampOf(const std::string& path) override;
 
  private:
   // Makes the call unless it had to be cut off before, and remembers if it has to be now. `call` is its number there.

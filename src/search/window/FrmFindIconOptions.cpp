@@ -101,6 +101,7 @@ void FrmFindIcon::CmdFind_Click() {
   const FocusKept focus(Window());
   // The last texts show at the end, also where an error ends the search.
   const std::shared_ptr<void> progress(nullptr, [this](void*) { ShowProgress(); });
+  const std::shared_ptr<void> inTurn = services_.icons.InTurn();
   driver_.CmdFind_Click();
 }
 

@@ -74,6 +74,7 @@ void FrmFindIcon::SetInfoText(const std::string& text) {
 }
 
 void FrmFindIcon::ShowInformation(const std::string& text) {
+  services_.icons.LetGo();
   ShowProgress();
   tarvik::ShowMessage(Window(), text, productTitle, MessageSign::Information);
 }
@@ -93,6 +94,7 @@ void FrmFindIcon::ListChanged() {
 }
 
 void FrmFindIcon::DoEvents() {
+  services_.icons.LetGo();
   lv_.GrowTo(list_.Count());
   caption_.ShowIfDue();
   status_.ShowIfDue();

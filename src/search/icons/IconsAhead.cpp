@@ -1,0 +1,86 @@
+#include "search/icons/IconsAhead.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "search/icons/IconList.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int mostHeld = 64;
+constexpr std::size_t mostCounts = 100'000;  // that are remembered
+constexpr std::size_t mostBroken = 10'000;
+
+}  // namespace
+
+int IconsAhead::CountIcons(const std::string& path) {
+  if (users_ == 0) return oneByOne_.CountIcons(path);
+  TurnTo(path, 0);
+  count_ = CountOf(path);
+  return *count_;
+}
+
+std::unique_ptr<ExtractedIcon> IconsAhead::Extract(const std::string& path, int index) {
+  if (users_ == 0 || IsAnimatedCursorName(path)) return oneByOne_.Extract(path, index);
+  const bool goesOn = path == path_ && index == next_;
+  if (!goesOn) TurnTo(path, index);
+  if (goesOn && held_.empty() && !IsBroken(path)) {
+    const int count = count_ ? *count_ : CountOf(path);
+    TakeGroup(index, std::min(mostHeld, count - index));
+  }
+  count_.reset();
+  next_ = index + 1;
+  if (held_.empty()) return oneByOne_.Extract(path, index);
+  auto icon = std::move(held_.back());
+  held_.pop_back();
+  return icon;
+}
+
+std::shared_ptr<void> IconsAhead::InTurn() {
+  ++users_;
+  return {static_cast<void*>(this), [this](void*) {
+            if (--users_ != 0) return;
+            TurnTo({}, 0);
+            counts_.clear();
+          }};
+}
+
+void IconsAhead::LetGo() {
+  held_.clear();
+  count_.reset();
+}
+
+void IconsAhead::TurnTo(const std::string& path, int next) {
+  LetGo();
+  path_ = path;
+  stamp_.reset();
+  next_ = next;
+}
+
+// How many icons the file has: as it was counted before if it is as it was then. The file is asked what it is known by
+// before it is counted, so that a change meanwhile is noticed the next time.
+int IconsAhead::CountOf(const std::string& path) {
+  stamp_ = groups_.StampOf(path);
+  const auto known = counts_.find(path);
+  if (stamp_ && known != counts_.end() && known->second.stamp == *stamp_) return known->second.icons;
+  const int icons = oneByOne_.CountIcons(path);
+  if (stamp_ && counts_.size() < mostCounts) counts_.insert_or_assign(path, Count{*stamp_, icons});
+  return icons;
+}
+
+bool IconsAhead::IsBroken(const std::string& path) const {
+  const auto broken = broken_.find(path);
+  return broken != broken_.end() && stamp_ == broken->second;
+}
+
+void IconsAhead::TakeGroup(int first, int count) {
+  if (count < 2 || IsBroken(path_)) return;
+  held_ = groups_.ExtractGroup(path_, first, count);
+  std::ranges::reverse(held_);
+  if (!held_.empty() || !stamp_) return;
+  if (broken_.size() >= mostBroken) broken_.clear();
+  broken_.insert_or_assign(path_, *stamp_);
+}
+
+}  // namespace tarvik

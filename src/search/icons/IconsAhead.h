@@ -1,0 +1,67 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "base/ByteSource.h"
+#include "search/icons/IconSource.h"
+
+namespace tarvik {
+
+// What reading ahead needs of the machine besides an icon source.
+class IconGroups {
+ public:
+  virtual ~IconGroups() = default;
+
+  // Takes the large icons from `first` on, zero-based, with one call: `count` of them, or none if fewer came out.
+  virtual std::vector<std::unique_ptr<ExtractedIcon>> ExtractGroup(const std::string& path, int first, int count) = 0;
+
+  // What the file is known by; nothing if there is no such file.
+  virtual std::optional<FileStamp> StampOf(const std::string& path) = 0;
+};
+
+// An icon source that takes the icons of a file up to 64 at a time if they are asked for one after the other, because
+// each call opens and reads the file from scratch. Whoever asks gets the same icons as without it.
+//
+// It does so between the start and the end of InTurn alone, and holds at most 64 icons, of one file. They are dropped
+// when another file is asked for, and by LetGo. A file that does not give a whole group is taken one by one as long as
+// it stays as it is, and so are animations. Within InTurn, a file is counted once as long as it stays as it is.
+class IconsAhead final : public IconSource {
+ public:
+  // Both outlive this object.
+  IconsAhead(IconSource& oneByOne, IconGroups& groups) : oneByOne_(oneByOne), groups_(groups) {}
+
+  int CountIcons(const std::string& path) override;
+  std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override;
+  std::shared_ptr<void> InTurn() override;
+  void LetGo() override;
+
+ private:
+  struct Count {
+    FileStamp stamp;
+    int icons = 0;
+  };
+
+  void TurnTo(const std::string& path, int next);
+  int CountOf(const std::string& path);
+  bool IsBroken(const std::string& path) const;
+  void TakeGroup(int first, int count);
+
+  IconSource& oneByOne_;
+  IconGroups& groups_;
+  int users_ = 0;  // of InTurn
+
+  std::string path_;                                  // the file asked for last
+  std::optional<FileStamp> stamp_;                    // of it, when it was counted
+  std::optional<int> count_;                          // of its icons, if nothing happened since it was counted
+  int next_ = 0;                                      // the index that would go on in turn
+  std::vector<std::unique_ptr<ExtractedIcon>> held_;  // icons next_ and after, the nearest last
+
+  std::unordered_map<std::string, Count> counts_;      // by path; of one InTurn
+  std::unordered_map<std::string, FileStamp> broken_;  // files that did not give a group; of the whole run
+};
+
+}  // namespace tarvik

@@ -1,0 +1,121 @@
+// When the main window lets its icons be read ahead, and when it has what was read dropped.
+
+#include <windows.h>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "platform/TemporaryFolder.h"
+#include "search/window/FindIconFixture.h"
+
+namespace tarvik {
+namespace {
+
+using ::testing::ElementsAre;
+using testing::FindIconFixture;
+using testing::SmallMachine;
+using testing::TemporaryFolder;
+
+// The small machine's icons, with all that is asked of them written down.
+class WatchedIcons final : public IconSource {
+ public:
+  explicit WatchedIcons(SmallMachine& machine) : machine_(machine) {}
+
+  int CountIcons(const std::string& path) override {
+    script.emplace_back("count");
+    return machine_.CountIcons(path);
+  }
+  std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override {
+    script.push_back("take " + std::to_string(index));
+    return machine_.Extract(path, index);
+  }
+  std::shared_ptr<void> InTurn() override {
+    script.emplace_back("in turn");
+    return {static_cast<void*>(this), [this](void*) { script.emplace_back("end"); }};
+  }
+  void LetGo() override { script.emplace_back("let go"); }
+
+  std::vector<std::string> script;
+
+ private:
+  SmallMachine& machine_;
+};
+
+class FrmFindIconAheadTest : public FindIconFixture {
+ protected:
+  FrmFindIconAheadTest() { OpenOver(icons, machine); }
+  void StartWatching() { icons.script.clear(); }
+
+  WatchedIcons icons{machine};
+  TemporaryFolder folder;
+};
+
+TEST_F(FrmFindIconAheadTest, ASearchReadsAheadAndLetsGoWhereItYields) {
+  StartWatching();
+  Find(2);
+  EXPECT_THAT(icons.script, ElementsAre("in turn", "count", "let go", "count", "take 0", "take 1", "end"));
+}
+
+TEST_F(FrmFindIconAheadTest, ASearchLetsGoBeforeItsMessage) {
+  StartWatching();
+  Find(0);
+  EXPECT_EQ(boxes.Boxes().size(), 1U);
+  EXPECT_THAT(icons.script, ElementsAre("in turn", "count", "let go", "end"));
+}
+
+TEST_F(FrmFindIconAheadTest, ASearchThatFailsReadsAheadNoLongerWhenItsErrorShows) {
+  SetText(FrmFindIcon_txtMax, "many");
+  StartWatching();
+  Find(2);
+  EXPECT_EQ(boxes.Boxes().size(), 1U);
+  EXPECT_EQ(icons.script.back(), "end");
+}
+
+TEST_F(FrmFindIconAheadTest, ABatchReadsAheadToItsEnd) {
+  Find(3);
+  dialogs.folder = folder.Path();
+  StartWatching();
+  Click(FrmFindIcon_mnuSaveAll);
+  std::vector<std::string> without = icons.script;
+  std::erase(without, "let go");  // as often as it serves messages
+  EXPECT_THAT(without, ElementsAre("in turn", "take 0", "take 1", "take 2", "end"));
+}
+
+TEST_F(FrmFindIconAheadTest, ABatchLetsGoBeforeEachMessage) {
+  Find(3);
+  dialogs.folder = folder.In("none");
+  StartWatching();
+  Click(FrmFindIcon_mnuSaveAll);
+  EXPECT_EQ(boxes.Boxes().size(), 3U);
+  for (const char* taken : {"take 0", "take 1", "take 2"}) {
+    const auto place = std::ranges::find(icons.script, taken);
+    ASSERT_NE(place, icons.script.end()) << taken;
+    EXPECT_EQ(*(place + 1), "let go") << taken;
+  }
+  EXPECT_EQ(icons.script.back(), "end");
+}
+
+TEST_F(FrmFindIconAheadTest, ABatchLetsGoWhereItServesMessages) {
+  Find(30);
+  dialogs.folder = folder.Path();
+  StartWatching();
+  const ULONGLONG start = GetTickCount64();
+  // As often as it takes: messages are served every 40 milliseconds.
+  while (GetTickCount64() - start < 60'000 && std::ranges::count(icons.script, "let go") < 2)
+    Click(FrmFindIcon_mnuSaveAll);
+  EXPECT_GE(std::ranges::count(icons.script, "let go"), 2);
+}
+
+TEST_F(FrmFindIconAheadTest, TheEnhancedViewReadsNothingAhead) {
+  Find(3);
+  StartWatching();
+  window->RenderEntry(1);
+  window->RenderEntry(2);
+  EXPECT_THAT(icons.script, ElementsAre("take 0", "take 1"));
+}
+
+}  // namespace
+}  // namespace tarvik
