@@ -27,18 +27,19 @@ std::unique_ptr<ExtractedIcon> IconsAhead::Extract(const std::string& path, int 
   if (!goesOn) TurnTo(path, index);
   if (goesOn && held_.empty() && !IsBroken(path)) {
     const int count = count_ ? *count_ : CountOf(path);
-    TakeGroup(index, std::min(mostHeld, count - index));
+    TakeGroup(index, std::min(mostTaken_, count - index));
   }
   count_.reset();
   next_ = index + 1;
   if (held_.empty()) return oneByOne_.Extract(path, index);
   auto icon = std::move(held_.back());
   held_.pop_back();
+  if (held_.empty()) mostTaken_ = std::min(mostHeld, mostTaken_ + mostTaken_ / 4 + 1);
   return icon;
 }
 
 std::shared_ptr<void> IconsAhead::InTurn() {
-  ++users_;
+  if (users_++ == 0) mostTaken_ = mostHeld;
   return {static_cast<void*>(this), [this](void*) {
             if (--users_ != 0) return;
             TurnTo({}, 0);
@@ -47,12 +48,17 @@ std::shared_ptr<void> IconsAhead::InTurn() {
 }
 
 void IconsAhead::LetGo() {
+  if (!held_.empty()) mostTaken_ = std::max(2, groupSize_ - static_cast<int>(held_.size()));
+  Drop();
+}
+
+void IconsAhead::Drop() {
   held_.clear();
   count_.reset();
 }
 
 void IconsAhead::TurnTo(const std::string& path, int next) {
-  LetGo();
+  Drop();
   path_ = path;
   stamp_.reset();
   next_ = next;
@@ -78,6 +84,7 @@ void IconsAhead::TakeGroup(int first, int count) {
   if (count < 2 || IsBroken(path_)) return;
   held_ = groups_.ExtractGroup(path_, first, count);
   std::ranges::reverse(held_);
+  groupSize_ = count;
   if (!held_.empty() || !stamp_) return;
   if (broken_.size() >= mostBroken) broken_.clear();
   broken_.insert_or_assign(path_, *stamp_);

@@ -27,8 +27,10 @@ class IconGroups {
 // each call opens and reads the file from scratch. Whoever asks gets the same icons as without it.
 //
 // It does so between the start and the end of InTurn alone, and holds at most 64 icons, of one file. They are dropped
-// when another file is asked for, and by LetGo. A file that does not give a whole group is taken one by one as long as
-// it stays as it is, and so are animations. Within InTurn, a file is counted once as long as it stays as it is.
+// when another file is asked for, and by LetGo; so that little is taken for nothing where that is often, a group is
+// then as large as what was used of the last one, and grows again. A file that does not give a whole group is taken one
+// by one as long as it stays as it is, and so are animations. Within InTurn, a file is counted once as long as it stays
+// as it is.
 class IconsAhead final : public IconSource {
  public:
   // Both outlive this object.
@@ -45,6 +47,7 @@ class IconsAhead final : public IconSource {
     int icons = 0;
   };
 
+  void Drop();
   void TurnTo(const std::string& path, int next);
   int CountOf(const std::string& path);
   bool IsBroken(const std::string& path) const;
@@ -59,6 +62,8 @@ class IconsAhead final : public IconSource {
   std::optional<int> count_;                          // of its icons, if nothing happened since it was counted
   int next_ = 0;                                      // the index that would go on in turn
   std::vector<std::unique_ptr<ExtractedIcon>> held_;  // icons next_ and after, the nearest last
+  int groupSize_ = 0;                                 // of the group that they are from
+  int mostTaken_ = 0;                                 // at a time
 
   std::unordered_map<std::string, Count> counts_;      // by path; of one InTurn
   std::unordered_map<std::string, FileStamp> broken_;  // files that did not give a group; of the whole run

@@ -70,6 +70,7 @@ class CountingShell final : public IconSource, public IconGroups {
   std::map<std::string, ShellFile> files;
   int alive = 0;
   int mostAlive = 0;
+  int taken = 0;
 
  private:
   bool Yields(const std::string& path, int index) {
@@ -79,6 +80,7 @@ class CountingShell final : public IconSource, public IconGroups {
   std::unique_ptr<ExtractedIcon> Take(const std::string& path, int index) {
     auto icon = std::make_unique<NamedIcon>(Name(path, index) + " of " + std::to_string(files[path].written), alive);
     mostAlive = std::max(mostAlive, alive);
+    ++taken;
     return icon;
   }
   static std::string Name(const std::string& path, int index) { return path + "#" + std::to_string(index); }
@@ -202,7 +204,30 @@ TEST_F(IconsAheadTest, ShowsNoIconOfAFileAsItWasBeforeItLetGo) {
   EXPECT_EQ(Icon("a.dll", 1), "a.dll#1 of 2");
   EXPECT_EQ(Icon("a.dll", 2), "a.dll#2 of 2");
   EXPECT_THAT(shell.script.Lines(),
-              ElementsAre("count a.dll", "take a.dll#0 to 63", "count a.dll", "take a.dll#1 to 64"));
+              ElementsAre("count a.dll", "take a.dll#0 to 63", "count a.dll", "take a.dll#1 to 2"));
+}
+
+// A batch that writes slowly serves messages after every few icons.
+TEST_F(IconsAheadTest, TakesLittleMoreThanIsUsedWhereItOftenLetsGo) {
+  shell.files["a.dll"] = {.icons = 2000};
+  const auto batch = icons.InTurn();
+  icons.CountIcons("a.dll");
+  for (int index = 0; index < 2000; ++index) {
+    EXPECT_EQ(Icon("a.dll", index), "a.dll#" + std::to_string(index) + " of 1");
+    if (index % 10 == 9) icons.LetGo();
+  }
+  EXPECT_LE(shell.taken, 2000 * 5 / 4);
+  EXPECT_LE(shell.script.Lines("take").size(), 2000U / 4) << "and yet in groups";
+}
+
+TEST_F(IconsAheadTest, TakesWholeGroupsAgainAfterAWhileWithoutLettingGo) {
+  shell.files["a.dll"] = {.icons = 2000};
+  const auto search = icons.InTurn();
+  icons.CountIcons("a.dll");
+  Icon("a.dll", 0);
+  icons.LetGo();
+  for (int index = 1; index < 2000; ++index) Icon("a.dll", index);
+  EXPECT_LE(shell.script.Lines("take").size(), 2000U / 64 + 20);
 }
 
 TEST_F(IconsAheadTest, AsksForNoIconBeyondWhatTheFileHasByThen) {
