@@ -67,7 +67,8 @@ class FrmSpashTest : public ::testing::Test {
     SendMessageW(spash->Window(), message, wParam, lParam);
   }
   void PressKey(WPARAM key) {
-    const HWND focus = GetFocus() != nullptr ? GetFocus() : spash->Window();
+    // Another program's window can have taken the focus, which then is nowhere here or still with the owner.
+    const HWND focus = IsChild(spash->Window(), GetFocus()) != FALSE ? GetFocus() : spash->Window();
     PostMessageW(focus, WM_KEYDOWN, key, 0);
     application.DoEvents();
   }

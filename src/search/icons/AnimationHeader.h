@@ -31,7 +31,7 @@ inline constexpr std::uint64_t mostAnimationBytes = std::uint64_t{16} * 1024 * 1
 
 // Looks through the file once, within those bounds and whatever sizes are written in it. An animation that goes on
 // beyond them does not hold what it says; what lies behind the size that it states for itself may.
-AnimationFacts InspectAnimation(ByteSource& file);
+AnimationFacts InspectAnimation(ByteSource& source);
 
 // Remembers what files were found to be, so that each is looked through once as long as it stays as it is.
 class AnimationLooks {
