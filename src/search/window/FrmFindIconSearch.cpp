@@ -95,7 +95,8 @@ void FrmFindIcon::ListChanged() {
 
 void FrmFindIcon::DoEvents() {
   services_.icons.LetGo();
-  lv_.GrowTo(list_.Count());
+  // Rows that nobody sees would cost a search of many folders more than the search itself.
+  if ((GetWindowLongW(lv_.Window(), GWL_STYLE) & WS_VISIBLE) != 0) lv_.GrowTo(list_.Count());
   caption_.ShowIfDue();
   status_.ShowIfDue();
   TheApplication().DoEvents();
