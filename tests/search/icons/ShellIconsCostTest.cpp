@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/RuntimeError.h"
+#include "damaged_files/Libraries.h"
 #include "driver/UnixProgram.h"
 #include "platform/GdiObjects.h"
 #include "platform/Handles.h"
@@ -27,9 +28,10 @@ namespace {
 
 using testing::AnimationFile;
 using testing::BitmapPicture;
+using testing::Bitness;
 using testing::Bytes;
-using testing::IconFile;
 using testing::IconFileOf;
+using testing::Library;
 using testing::TemporaryFolder;
 
 constexpr Color red = 0x0000FF;
@@ -37,38 +39,53 @@ constexpr Color green = 0x00FF00;
 constexpr Color blue = 0xFF0000;
 constexpr Color background = 0x808080;
 
-Bytes SoundIcon() {
-  const testing::IconPicture picture = BitmapPicture(32, 32, red, blue);
-  return IconFile(std::span(&picture, 1));
+Bytes IntactLibrary() {
+  const std::array pictures{BitmapPicture(48, 32, red, blue)};
+  return Library(Bitness::Bits32, pictures).bytes;
 }
 
-// An icon file that ends in the middle of its only picture.
-Bytes CutOffIcon() {
-  Bytes file = SoundIcon();
-  file.resize(3000);
+// A library that ends in the middle of its only picture, two pages of memory before the end that its headers tell.
+Bytes CutOffLibrary() {
+  constexpr std::size_t missing = 8192;
+  Bytes file = IntactLibrary();
+  file.resize(file.size() - missing);
   return file;
 }
 
-// Of each call that is cut off the system keeps what it had made by then.
+// How many views of files the process has in its memory.
+int MappedViews() {
+  int views = 0;
+  const std::byte* address = nullptr;
+  MEMORY_BASIC_INFORMATION region;
+  while (VirtualQuery(address, &region, sizeof(region)) != 0) {
+    if (region.Type == MEM_MAPPED && region.BaseAddress == region.AllocationBase) ++views;
+    address = static_cast<const std::byte*>(region.BaseAddress) + region.RegionSize;
+  }
+  return views;
+}
+
+// Of each call that is cut off the system keeps what it had made by then: its view of the file at least.
 TEST(ShellIcons, AsksTheSystemOnceForAnIconThatItBreaksOn) {
   const TemporaryFolder folder;
-  const std::string path = folder.MakeFile("a.ico", CutOffIcon());
+  const std::string path = folder.MakeFile("a.dll", CutOffLibrary());
   ShellIcons icons;
   ASSERT_EQ(icons.Extract(path, 0), nullptr);
-  const int before = testing::CountGdiObjects();
+  const int objects = testing::CountGdiObjects();
+  const int views = MappedViews();
   for (int i = 0; i < 20; ++i) EXPECT_EQ(icons.Extract(path, 0), nullptr);
-  EXPECT_EQ(testing::CountGdiObjects(), before);
+  EXPECT_EQ(testing::CountGdiObjects(), objects);
+  EXPECT_EQ(MappedViews(), views);
 }
 
 TEST(ShellIcons, AsksAgainForAFileThatHasChanged) {
   const TemporaryFolder folder;
-  const std::string path = folder.MakeFile("a.ico", CutOffIcon());
+  const std::string path = folder.MakeFile("a.dll", CutOffLibrary());
   ShellIcons icons;
   ASSERT_EQ(icons.Extract(path, 0), nullptr);
   // The call that was cut off still holds the file, so that it can only be changed from outside of Wine.
-  const std::string sound = folder.MakeFile("sound.ico", SoundIcon());
+  const std::string intact = folder.MakeFile("intact.dll", IntactLibrary());
   ASSERT_EQ(
-      end_to_end::RunUnix("cp " + end_to_end::UnixQuoted(ToWide(sound)) + ' ' + end_to_end::UnixQuoted(ToWide(path)))
+      end_to_end::RunUnix("cp " + end_to_end::UnixQuoted(ToWide(intact)) + ' ' + end_to_end::UnixQuoted(ToWide(path)))
           .exitCode,
       0);
   EXPECT_NE(icons.Extract(path, 0), nullptr);
