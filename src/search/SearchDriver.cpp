@@ -184,8 +184,8 @@ SearchDriver::OpenFolder SearchDriver::Opened(std::string path, const Enter& ent
 }
 
 void SearchDriver::CountIconsInFolder(const std::string& root) {
-  Walk(
-      root, [this](const std::string& folder) { CountFilesOf(folder); }, [] {});
+  const auto count = [this](const std::string& folder) { CountFilesOf(folder); };
+  Walk(root, count, [] {});
 }
 
 void SearchDriver::CountFilesOf(const std::string& folder) {

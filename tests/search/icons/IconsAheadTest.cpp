@@ -133,7 +133,7 @@ TEST_F(IconsAheadTest, TakesASingleIconAsOne) {
 TEST_F(IconsAheadTest, TakesOneByOneOutsideASearchOrBatch) {
   shell.files["a.dll"] = {.icons = 3};
   EXPECT_EQ(List("a.dll"), Expected("a.dll", 3));
-  { const auto search = icons.InTurn(); }
+  static_cast<void>(icons.InTurn());
   EXPECT_EQ(List("a.dll"), Expected("a.dll", 3));
   const Lines oneByOne{"count a.dll", "take a.dll#0", "take a.dll#1", "take a.dll#2"};
   Lines twice = oneByOne;
