@@ -141,6 +141,12 @@ void Drag(POINT from, POINT to) {
   lastPress = {.place = from, .time = std::chrono::steady_clock::now()};
 }
 
+void DragAndHold(POINT from, POINT to) {
+  WaitOutDoubleClick(from);
+  Do(MoveTo(from) + "mousedown 1 " + MoveTo(to));
+  lastPress = {.place = from, .time = std::chrono::steady_clock::now()};
+}
+
 void TurnWheel(POINT place, int notches) {
   Do(MoveTo(place) + "click --repeat " + std::to_string(std::abs(notches)) + " --delay 1 " + (notches > 0 ? "4" : "5"));
 }

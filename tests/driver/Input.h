@@ -24,6 +24,8 @@ void ReleaseLeft(POINT place);
 void RightClick(POINT place);
 // Presses the left button at one place and releases it at the other.
 void Drag(POINT from, POINT to);
+// Presses it at one place and holds it at the other until ReleaseLeft.
+void DragAndHold(POINT from, POINT to);
 // Turns the wheel; positive notches turn it away from the user.
 void TurnWheel(POINT place, int notches);
 POINT MiddleOf(const RECT& place);

@@ -73,13 +73,18 @@ class GridPicture : public EndToEnd {
     return static_cast<int>(place.bottom - place.top);
   }
 
-  // Whether the viewport comes to show that picture, from its row `top` on.
+  // Whether the viewport comes to show that picture, from its row `top` on. Moves the pointer away.
   bool Shows(const Surface& picture, int top) const {
+    MovePointer({0, 0});
+    return ComesToShow(picture, top);
+  }
+
+  // The same, with the pointer left where it is: beside the viewport.
+  bool ComesToShow(const Surface& picture, int top) const {
     Surface visible(viewportWidth, viewportHeight, white);
     BitBlt(visible.Dc(), 0, 0, viewportWidth, viewportHeight, picture.Dc(), 0, top, SRCCOPY);
     GdiFlush();
     const RECT inside = program_.Item(FrmFindIcon_PicFrame).Inside();
-    MovePointer({0, 0});
     int differences = 0;
     const bool same = Eventually(
         [&] {

@@ -117,6 +117,27 @@ TEST_F(GridPicture, TheWheelAndTheScrollBarMoveIt) {
   EXPECT_TRUE(Eventually([&] { return ScrolledPixels() > 0; }));
 }
 
+TEST_F(GridPicture, FollowsTheThumbWhileItIsDragged) {
+  CopyHundredIcons(In("hundred.dll"));
+  Start();
+  Tick({Dll});
+  ChooseSize(Size64);
+  Find();
+  const auto expected = Expected(geometries[Size64]);
+  const int end = expected->Height() - viewportHeight;
+  const RECT bar = program_.Item(FrmFindIcon_Vsb).Place();
+  const int arrow = GetSystemMetrics(SM_CYVSCROLL);
+  const POINT thumb{(bar.left + bar.right) / 2, bar.top + arrow + 3};
+  DragAndHold(thumb, {thumb.x, (bar.top + bar.bottom) / 2});
+  EXPECT_TRUE(Eventually([&] { return ScrolledPixels() > 0 && ScrolledPixels() < end; })) << ScrolledPixels();
+  const int dragged = ScrolledPixels();
+  EXPECT_TRUE(ComesToShow(*expected, dragged));
+  ReleaseLeft({thumb.x, bar.bottom + arrow});
+  EXPECT_TRUE(Eventually([&] { return ScrolledPixels() == end; })) << ScrolledPixels();
+  EXPECT_TRUE(Shows(*expected, end));
+  EXPECT_EQ(program_.Item(FrmFindIcon_Vsb).Scroll().nPos, end);
+}
+
 // A touchpad and a fine wheel send a notch in many small parts; each part alone once counted as none.
 TEST_F(GridPicture, PartsOfANotchAddUpToOne) {
   CopyHundredIcons(In("hundred.dll"));
