@@ -48,7 +48,7 @@ void TellLies(Bytes& bytes, const std::vector<Field>& fields, Chance& chance) {
   }
 }
 
-void MakeLoops(Bytes& bytes, const SoundFile& file, Chance& chance) {
+void MakeLoops(Bytes& bytes, const IntactFile& file, Chance& chance) {
   const std::size_t loops = 1 + chance.Below(2);
   for (std::size_t i = 0; i < loops; ++i)
     Write(bytes, file.branches[chance.Below(file.branches.size())],
@@ -57,11 +57,11 @@ void MakeLoops(Bytes& bytes, const SoundFile& file, Chance& chance) {
 
 }  // namespace
 
-bool CanHave(const SoundFile& file, Damage damage) {
+bool CanHave(const IntactFile& file, Damage damage) {
   return damage != Damage::Loops || !file.branches.empty();
 }
 
-Bytes Damaged(const SoundFile& file, Damage damage, Chance& chance) {
+Bytes Damaged(const IntactFile& file, Damage damage, Chance& chance) {
   Bytes bytes = file.bytes;
   switch (damage) {
     case Damage::FlippedBits:

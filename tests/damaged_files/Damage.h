@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <random>
 
-#include "damaged_files/SoundFile.h"
+#include "damaged_files/IntactFile.h"
 
 namespace tarvik::testing {
 
@@ -40,9 +40,9 @@ inline constexpr std::array damageNames{DamageName{Damage::FlippedBits, "flipped
                                         DamageName{Damage::Loops, "loops"}};
 
 // Whether a file can be damaged that way: without a tree there is no loop in it.
-bool CanHave(const SoundFile& file, Damage damage);
+bool CanHave(const IntactFile& file, Damage damage);
 
 // The bytes of the file, damaged that way.
-Bytes Damaged(const SoundFile& file, Damage damage, Chance& chance);
+Bytes Damaged(const IntactFile& file, Damage damage, Chance& chance);
 
 }  // namespace tarvik::testing

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::uint32_t seed = 19680229;
 constexpr int foldersBelow = 3;  // in each folder
-constexpr int soundInEach = 3;
+constexpr int intactInEach = 3;
 
 constexpr Color red = 0x0000FF;
 constexpr Color blue = 0xFF0000;
@@ -21,7 +21,7 @@ struct Kind {
   const char* name;
   const char* extension;
   int copies;
-  std::vector<SoundFile> files;
+  std::vector<IntactFile> files;
 };
 
 std::vector<IconPicture> EveryPicture() {
@@ -31,28 +31,28 @@ std::vector<IconPicture> EveryPicture() {
   return pictures;
 }
 
-std::vector<SoundFile> IconFiles(IconFileKind kind) {
+std::vector<IntactFile> IconFiles(IconFileKind kind) {
   const std::vector<IconPicture> pictures = EveryPicture();
-  std::vector<SoundFile> files;
-  for (const IconPicture& picture : pictures) files.push_back(SoundIconFile(IconFile(std::span(&picture, 1), kind)));
-  files.push_back(SoundIconFile(IconFile(std::array{pictures[1], pictures[4]}, kind)));
-  files.push_back(SoundIconFile(IconFile(pictures, kind)));
+  std::vector<IntactFile> files;
+  for (const IconPicture& picture : pictures) files.push_back(IntactIconFile(IconFile(std::span(&picture, 1), kind)));
+  files.push_back(IntactIconFile(IconFile(std::array{pictures[1], pictures[4]}, kind)));
+  files.push_back(IntactIconFile(IconFile(pictures, kind)));
   return files;
 }
 
-std::vector<SoundFile> Animations() {
-  std::vector<SoundFile> files;
-  files.push_back(SoundAnimation(AnimationFile(std::array{red})));
-  files.push_back(SoundAnimation(AnimationFile(std::array{red, blue})));
-  files.push_back(SoundAnimation(AnimationFile(std::array{red, blue}, {.sequence = {1, 0, 1}})));
+std::vector<IntactFile> Animations() {
+  std::vector<IntactFile> files;
+  files.push_back(IntactAnimation(AnimationFile(std::array{red})));
+  files.push_back(IntactAnimation(AnimationFile(std::array{red, blue})));
+  files.push_back(IntactAnimation(AnimationFile(std::array{red, blue}, {.sequence = {1, 0, 1}})));
   return files;
 }
 
 // Libraries of one, two and six icons.
 template <typename Make>
-std::vector<SoundFile> LibrariesBy(Make make) {
+std::vector<IntactFile> LibrariesBy(Make make) {
   const std::vector<IconPicture> pictures = EveryPicture();
-  std::vector<SoundFile> files;
+  std::vector<IntactFile> files;
   for (const std::size_t count : {std::size_t{1}, std::size_t{2}, pictures.size()})
     files.push_back(make(std::span(pictures).first(count)));
   return files;
@@ -85,16 +85,16 @@ class FolderMaker {
     DamagedFolder made{kind_.name, damage_.name, folder_.MakeFolder(name_), {}, {}};
     for (int below = 0; below < foldersBelow; ++below) folder_.MakeFolder(Below(below));
     for (int copy = 0; copy < kind_.copies; ++copy) {
-      const SoundFile& file = kind_.files[static_cast<std::size_t>(copy) % kind_.files.size()];
+      const IntactFile& file = kind_.files[static_cast<std::size_t>(copy) % kind_.files.size()];
       made.damaged.push_back(folder_.MakeFile(Below(copy % foldersBelow) + "\\" + Numbered(copy, kind_.extension),
                                               Damaged(file, damage_.damage, chance)));
     }
-    const Bytes sound = IconFileOf(red);
+    const Bytes intact = IconFileOf(red);
     for (int below = 0; below < foldersBelow; ++below) {
       // At the start, in the middle and at the end of what is listed.
-      for (int i = 0; i < soundInEach; ++i) {
-        const std::string name = Numbered(i * (kind_.copies - 1) / (soundInEach - 1), " sound.ico");
-        made.sound.push_back(folder_.MakeFile(Below(below) + "\\" + name, sound));
+      for (int i = 0; i < intactInEach; ++i) {
+        const std::string name = Numbered(i * (kind_.copies - 1) / (intactInEach - 1), " intact.ico");
+        made.intact.push_back(folder_.MakeFile(Below(below) + "\\" + name, intact));
       }
     }
     return made;

@@ -13,7 +13,7 @@ struct DamagedFolder {
   std::string damage;  // "lies" ...
   std::string path;
   std::vector<std::string> damaged;  // paths
-  std::vector<std::string> sound;    // those that are as they should be, strewn among them: one icon each
+  std::vector<std::string> intact;   // those that are as they should be, strewn among them: one icon each
 };
 
 // Makes at least 10,000 damaged files of every kind that holds icons, the same ones each time, each kind of damage of

@@ -10,7 +10,7 @@ constexpr std::uint32_t iconGroupType = 14;
 
 constexpr std::size_t newHeaderPlace = 64;  // right behind the DOS header, which ends in this number
 
-void WriteDosHeader(SoundFileWriter& file) {
+void WriteDosHeader(IntactFileWriter& file) {
   file.Number(0x5A4D, 2);  // "MZ"
   file.PadTo(newHeaderPlace - 4);
   file.Marked(newHeaderPlace, 4);
@@ -26,7 +26,7 @@ std::vector<Bytes> ResourceData(std::span<const IconPicture> pictures) {
   return data;
 }
 
-void WriteGroup(SoundFileWriter& file, const Bytes& group) {
+void WriteGroup(IntactFileWriter& file, const Bytes& group) {
   const auto number = [&group](std::size_t place, std::size_t width) {
     std::uint64_t value = 0;
     for (std::size_t i = 0; i < width; ++i) value |= std::to_integer<std::uint64_t>(group[place + i]) << (8 * i);
@@ -39,7 +39,7 @@ void WriteGroup(SoundFileWriter& file, const Bytes& group) {
   file.Marked(number(18, 2), 2);  // its number
 }
 
-void WriteResourceData(SoundFileWriter& file, const std::vector<Bytes>& data, std::size_t index) {
+void WriteResourceData(IntactFileWriter& file, const std::vector<Bytes>& data, std::size_t index) {
   if (index >= data.size() / 2) return WriteGroup(file, data[index]);
   const std::size_t start = file.Place();
   file.Append(data[index]);
@@ -52,7 +52,7 @@ constexpr std::size_t sectionPlace = 0x200;
 // The resource tree: the types, the names of each type, the one language of each name, the data.
 class ResourceTree {
  public:
-  ResourceTree(SoundFileWriter& file, std::span<const IconPicture> pictures)
+  ResourceTree(IntactFileWriter& file, std::span<const IconPicture> pictures)
       : file_(file), data_(ResourceData(pictures)), names_(static_cast<std::uint32_t>(pictures.size())) {}
 
   void Write() {
@@ -102,12 +102,12 @@ class ResourceTree {
     }
   }
 
-  SoundFileWriter& file_;
+  IntactFileWriter& file_;
   std::vector<Bytes> data_;
   std::uint32_t names_;
 };
 
-void WriteFileHeader(SoundFileWriter& file, bool wide) {
+void WriteFileHeader(IntactFileWriter& file, bool wide) {
   constexpr std::uint32_t machine32 = 0x14C;
   constexpr std::uint32_t machine64 = 0x8664;
   file.Number(0x4550, 4);  // "PE"
@@ -118,7 +118,7 @@ void WriteFileHeader(SoundFileWriter& file, bool wide) {
   file.Number(0x2002 | (wide ? 0 : 0x100), 2);  // a library that can be run, for 32 bits
 }
 
-void WriteOptionalHeader(SoundFileWriter& file, bool wide, std::size_t treeSize) {
+void WriteOptionalHeader(IntactFileWriter& file, bool wide, std::size_t treeSize) {
   const std::size_t word = wide ? 8 : 4;
   constexpr std::uint32_t directories = 16;
   constexpr std::uint32_t resourceDirectory = 2;
@@ -144,7 +144,7 @@ void WriteOptionalHeader(SoundFileWriter& file, bool wide, std::size_t treeSize)
   file.PadTo(start + (wide ? 240 : 224));
 }
 
-void WriteSectionHeader(SoundFileWriter& file, std::size_t size) {
+void WriteSectionHeader(IntactFileWriter& file, std::size_t size) {
   constexpr std::uint64_t name = 0x637273722E;  // ".rsrc"
   constexpr std::uint32_t readableData = 0x40000040;
   file.Number(name, 8);
@@ -157,17 +157,17 @@ void WriteSectionHeader(SoundFileWriter& file, std::size_t size) {
 }
 
 std::size_t TreeSize(std::span<const IconPicture> pictures) {
-  SoundFileWriter alone;
+  IntactFileWriter alone;
   ResourceTree(alone, pictures).Write();
   return alone.Place();
 }
 
 }  // namespace
 
-SoundFile Library(Bitness bitness, std::span<const IconPicture> pictures) {
+IntactFile Library(Bitness bitness, std::span<const IconPicture> pictures) {
   const bool wide = bitness == Bitness::Bits64;
   const std::size_t treeSize = TreeSize(pictures);
-  SoundFileWriter file;
+  IntactFileWriter file;
   WriteDosHeader(file);
   WriteFileHeader(file, wide);
   WriteOptionalHeader(file, wide, treeSize);
@@ -177,7 +177,7 @@ SoundFile Library(Bitness bitness, std::span<const IconPicture> pictures) {
   return file.Take();
 }
 
-SoundFile SixteenBitLibrary(std::span<const IconPicture> pictures) {
+IntactFile SixteenBitLibrary(std::span<const IconPicture> pictures) {
   constexpr std::size_t headerSize = 64;
   constexpr std::size_t typeSize = 8;
   constexpr std::size_t nameSize = 12;
@@ -187,7 +187,7 @@ SoundFile SixteenBitLibrary(std::span<const IconPicture> pictures) {
   const auto names = static_cast<std::uint32_t>(pictures.size());
   const std::size_t tableSize = 2 + 2 * (typeSize + nameSize * names) + 2;
 
-  SoundFileWriter file;
+  IntactFileWriter file;
   WriteDosHeader(file);
   file.Number(0x454E, 2);  // "NE"
   file.PadTo(newHeaderPlace + 0x24);

@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "damaged_files/SoundFile.h"
+#include "damaged_files/IntactFile.h"
 
 namespace tarvik::testing {
 
@@ -11,9 +11,9 @@ namespace tarvik::testing {
 enum class Bitness { Bits32, Bits64 };
 
 // A library as Windows has them since NT ("PE"): headers and one section that holds the resource tree.
-SoundFile Library(Bitness bitness, std::span<const IconPicture> pictures);
+IntactFile Library(Bitness bitness, std::span<const IconPicture> pictures);
 
 // A library as 16-bit Windows had them ("NE"): a resource table of types and names.
-SoundFile SixteenBitLibrary(std::span<const IconPicture> pictures);
+IntactFile SixteenBitLibrary(std::span<const IconPicture> pictures);
 
 }  // namespace tarvik::testing

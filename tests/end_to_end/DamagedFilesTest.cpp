@@ -57,12 +57,12 @@ class DamagedFiles : public EndToEnd {
     return paths;
   }
 
-  // Searches one of the folders and checks what is found: each sound file's one icon, and none of a file that breaks
+  // Searches one of the folders and checks what is found: each intact file's one icon, and none of a file that breaks
   // the system when its icons are counted. How many files break the system.
   int CheckSearch(const DamagedFolder& folder) const {
     SCOPED_TRACE(folder.kind + ", " + folder.damage);
     const Paths found = Search(folder);
-    for (const std::string& path : folder.sound) EXPECT_EQ(std::ranges::count(found, path), 1) << path;
+    for (const std::string& path : folder.intact) EXPECT_EQ(std::ranges::count(found, path), 1) << path;
     int counting = 0;
     int taking = 0;
     for (const std::string& path : folder.damaged) {
@@ -74,12 +74,12 @@ class DamagedFiles : public EndToEnd {
       }
     }
     std::printf("%-20s %-15s %4zu damaged, with %4zu icons; %3d break counting, %3d taking\n", folder.kind.c_str(),
-                folder.damage.c_str(), folder.damaged.size(), found.size() - folder.sound.size(), counting, taking);
+                folder.damage.c_str(), folder.damaged.size(), found.size() - folder.intact.size(), counting, taking);
     return counting + taking;
   }
 };
 
-TEST_F(DamagedFiles, AreSearchedWithoutACrashAMessageOrGrowthAndTheSoundOnesAmongThemFound) {
+TEST_F(DamagedFiles, AreSearchedWithoutACrashAMessageOrGrowthAndTheIntactOnesAmongThemFound) {
   const std::vector<DamagedFolder> folders = testing::MakeDamagedFiles(tree_);
   Start({}, true);
   Tick({Ico, Ani, Icl, Ocx, Dll, Exe, AllFiles});

@@ -26,9 +26,9 @@ std::string PathOf(HMODULE module) {
 class PlantedLibrary {
  public:
   explicit PlantedLibrary(const std::string& name) : name_(name), beside_(ToWide(JoinPath(ProgramFolder(), name))) {
-    const std::wstring sound = ToWide(JoinPath(SystemFolder(), "version.dll"));
-    CopyFileW(sound.c_str(), beside_.c_str(), FALSE);
-    CopyFileW(sound.c_str(), ToWide(folder_.In(name)).c_str(), FALSE);
+    const std::wstring intact = ToWide(JoinPath(SystemFolder(), "version.dll"));
+    CopyFileW(intact.c_str(), beside_.c_str(), FALSE);
+    CopyFileW(intact.c_str(), ToWide(folder_.In(name)).c_str(), FALSE);
     former_.resize(GetCurrentDirectoryW(MAX_PATH, former_.data()));
     SetCurrentDirectoryW(ToWide(folder_.Path()).c_str());
   }

@@ -139,7 +139,7 @@ TEST(ShellIconGroups, ReadAheadAreTheIconsOneByOne) {
   const TemporaryFolder folder;
   const std::pair<std::string, bool> rows[] = {{JoinPath(SystemFolder(), "shell32.dll"), true},
                                                {MakeLibrary(folder, 200, {70, 71, 150}), false}};
-  for (const auto& [path, isSound] : rows) {
+  for (const auto& [path, isIntact] : rows) {
     ShellIcons oneByOne;
     CountedShell shell;
     IconsAhead ahead(shell, shell);
@@ -150,7 +150,7 @@ TEST(ShellIconGroups, ReadAheadAreTheIconsOneByOne) {
     for (int index = 0; index < count; ++index) {
       ASSERT_EQ(Drawn(ahead.Extract(path, index).get()), Drawn(oneByOne.Extract(path, index).get())) << path << index;
     }
-    EXPECT_EQ(shell.calls, isSound ? (count + 63) / 64 : 1 + 1 + (count - 64)) << path << ": a group is 64 icons";
+    EXPECT_EQ(shell.calls, isIntact ? (count + 63) / 64 : 1 + 1 + (count - 64)) << path << ": a group is 64 icons";
   }
 }
 

@@ -140,13 +140,13 @@ TEST(ShellIcons, ReadsLittleOfALargeAnimationAndThatOnce) {
   const TemporaryFolder folder;
   std::uint64_t bytesRead = 0;
   ShellIcons icons([&](const std::string& path) { return std::make_unique<CountedBytes>(path, bytesRead); });
-  const Bytes sound = AnimationFile(std::array{red, green, blue});
+  const Bytes intact = AnimationFile(std::array{red, green, blue});
   // As long as the file, says its own size.
-  Bytes endless = sound;
+  Bytes endless = intact;
   std::fill_n(endless.begin() + 4, 4, std::byte{0xFF});
   for (const std::uint64_t size : {512 * megabyte, 5 * 1024 * megabyte}) {
     const std::string end = std::to_string(size) + ".ani";
-    const std::string tailed = folder.MakeSparseFile("tailed" + end, sound, size);
+    const std::string tailed = folder.MakeSparseFile("tailed" + end, intact, size);
     const std::string large = folder.MakeSparseFile("large" + end, endless, size);
     bytesRead = 0;
     // As often as a search asks.

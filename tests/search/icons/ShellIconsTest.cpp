@@ -260,7 +260,7 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
 Bytes LyingLibrary(std::span<const IconPicture> pictures, std::uint16_t claimed) {
   constexpr std::size_t sectionPlace = 0x200;  // the tree's place in the file
   constexpr std::size_t countPlace = 14;       // in a directory
-  testing::SoundFile library = testing::Library(testing::Bitness::Bits64, pictures);
+  testing::IntactFile library = testing::Library(testing::Bitness::Bits64, pictures);
   const std::size_t groups = library.directories[2] & 0x7FFFFFFF;
   library.bytes[sectionPlace + groups + countPlace] = static_cast<std::byte>(claimed);
   library.bytes[sectionPlace + groups + countPlace + 1] = static_cast<std::byte>(claimed >> 8U);

@@ -1,4 +1,4 @@
-#include "damaged_files/SoundFile.h"
+#include "damaged_files/IntactFile.h"
 
 #include <cstring>
 
@@ -17,7 +17,7 @@ std::uint32_t Number32(const Bytes& file, std::size_t place) {
   return value;
 }
 
-void MarkChunks(SoundFileWriter& writer, std::vector<Field>& fields, const Bytes& file, std::size_t place,
+void MarkChunks(IntactFileWriter& writer, std::vector<Field>& fields, const Bytes& file, std::size_t place,
                 std::size_t end) {
   while (place + chunkStart <= end) {
     const std::size_t size = Number32(file, place + 4);
@@ -36,25 +36,25 @@ void MarkChunks(SoundFileWriter& writer, std::vector<Field>& fields, const Bytes
 
 }  // namespace
 
-void SoundFileWriter::Number(std::uint64_t value, std::size_t width) {
+void IntactFileWriter::Number(std::uint64_t value, std::size_t width) {
   for (std::size_t i = 0; i < width; ++i) file_.bytes.push_back(static_cast<std::byte>(value >> (8 * i)));
 }
 
-void SoundFileWriter::Marked(std::uint64_t value, std::size_t width) {
+void IntactFileWriter::Marked(std::uint64_t value, std::size_t width) {
   Mark(Place(), width);
   Number(value, width);
 }
 
-void SoundFileWriter::Branch(std::uint32_t value) {
+void IntactFileWriter::Branch(std::uint32_t value) {
   file_.branches.push_back({Place(), 4});
   Marked(value, 4);
 }
 
-void SoundFileWriter::Append(const Bytes& bytes) {
+void IntactFileWriter::Append(const Bytes& bytes) {
   file_.bytes.insert(file_.bytes.end(), bytes.begin(), bytes.end());
 }
 
-void SoundFileWriter::MarkIconFile(std::size_t start) {
+void IntactFileWriter::MarkIconFile(std::size_t start) {
   constexpr std::size_t headerSize = 6;
   constexpr std::size_t entrySize = 16;
   Mark(start + 4, 2);
@@ -69,7 +69,7 @@ void SoundFileWriter::MarkIconFile(std::size_t start) {
   }
 }
 
-void SoundFileWriter::MarkPicture(std::size_t start) {
+void IntactFileWriter::MarkPicture(std::size_t start) {
   constexpr std::uint32_t bitmapHeaderSize = 40;
   if (NumberAt(start, 4) == bitmapHeaderSize) {
     for (const std::size_t number : {0U, 4U, 8U, 16U, 20U, 32U, 36U}) Mark(start + number, 4);
@@ -83,27 +83,27 @@ void SoundFileWriter::MarkPicture(std::size_t start) {
   }
 }
 
-std::uint32_t SoundFileWriter::NumberAt(std::size_t place, std::size_t width) const {
+std::uint32_t IntactFileWriter::NumberAt(std::size_t place, std::size_t width) const {
   std::uint32_t value = 0;
   std::memcpy(&value, &file_.bytes[place], width);
   return value;
 }
 
-SoundFile SoundIconFile(const Bytes& file) {
-  SoundFileWriter writer;
+IntactFile IntactIconFile(const Bytes& file) {
+  IntactFileWriter writer;
   writer.Append(file);
   writer.MarkIconFile(0);
   return writer.Take();
 }
 
-SoundFile SoundAnimation(const Bytes& file) {
-  SoundFileWriter writer;
+IntactFile IntactAnimation(const Bytes& file) {
+  IntactFileWriter writer;
   writer.Append(file);
   std::vector<Field> chunkFields;
   MarkChunks(writer, chunkFields, file, 0, file.size());
-  SoundFile sound = writer.Take();
-  sound.fields.insert(sound.fields.end(), chunkFields.begin(), chunkFields.end());
-  return sound;
+  IntactFile intact = writer.Take();
+  intact.fields.insert(intact.fields.end(), chunkFields.begin(), chunkFields.end());
+  return intact;
 }
 
 }  // namespace tarvik::testing

@@ -16,7 +16,7 @@ struct Field {
 };
 
 // A file that is as it should be, and where it can be made to lie.
-struct SoundFile {
+struct IntactFile {
   Bytes bytes;
   std::vector<Field> fields;
   // Of a resource tree: the fields that lead on to a directory, and what each of its directories is led to by.
@@ -25,7 +25,7 @@ struct SoundFile {
 };
 
 // Appends numbers, little-endian, and notes which of them are fields: the marked ones.
-class SoundFileWriter {
+class IntactFileWriter {
  public:
   std::size_t Place() const { return file_.bytes.size(); }
   void Number(std::uint64_t value, std::size_t width);
@@ -38,18 +38,18 @@ class SoundFileWriter {
   // The icons or the cursor that follow in the file as an icon file has them, or a bitmap as an icon resource has it.
   void MarkIconFile(std::size_t start);
   void MarkPicture(std::size_t start);
-  SoundFile Take() { return std::move(file_); }
+  IntactFile Take() { return std::move(file_); }
 
  private:
   std::uint32_t NumberAt(std::size_t place, std::size_t width) const;
   void Mark(std::size_t place, std::size_t width) { file_.fields.push_back({place, width}); }
 
-  SoundFile file_;
+  IntactFile file_;
 };
 
 // An icon file or a cursor file with its fields.
-SoundFile SoundIconFile(const Bytes& file);
+IntactFile IntactIconFile(const Bytes& file);
 // An animated cursor with its fields: the sizes of its chunks, its header, its order, and those of its pictures.
-SoundFile SoundAnimation(const Bytes& file);
+IntactFile IntactAnimation(const Bytes& file);
 
 }  // namespace tarvik::testing
