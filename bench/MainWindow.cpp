@@ -46,16 +46,16 @@ struct MainWindow::Parts {
             application, state,
             {[this] { return window.Window(); }, [this]() -> const Surface& { return window.Surfaces().Composed(); },
              [this]() -> const Surface& { return window.PicMain(); }}),
-        window(application, FrmFindIcon::Services{state,
-                                                  settings,
-                                                  icons,
-                                                  folders,
-                                                  [] { return std::vector<DriveListBox::Drive>{}; },
-                                                  IsReadableFolder,
-                                                  scope.folder,
-                                                  [] {},
-                                                  [] {},
-                                                  {dialogs, files, temporaryBitmap}}) {
+        window(application, FrmFindIcon::Dependencies{state,
+                                                      settings,
+                                                      icons,
+                                                      folders,
+                                                      [] { return std::vector<DriveListBox::Drive>{}; },
+                                                      IsReadableFolder,
+                                                      scope.folder,
+                                                      [] {},
+                                                      [] {},
+                                                      {dialogs, files, temporaryBitmap}}) {
     state.CurrentLanguage = "ENG";
   }
 
@@ -72,7 +72,7 @@ struct MainWindow::Parts {
   IconsAhead icons{shellIcons, shellIcons};
   Folders folders;
   DiskFile files;
-  TemporaryBitmap temporaryBitmap{TemporaryBitmapPlaces()};
+  TemporaryBitmap temporaryBitmap{TemporaryBitmapPaths()};
   testing::AnsweredDialogs dialogs;
   FrmFindIcon window;
 };

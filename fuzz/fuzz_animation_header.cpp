@@ -30,7 +30,7 @@ class FuzzedFile : public ByteSource {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   tarvik::FuzzedFile file(data, size);
-  const int steps = tarvik::InspectAnimation(file).mostSteps;
+  const int steps = tarvik::InspectAnimation(file).maxSteps;
   tarvik::Require(steps >= 0, "steps are counted from zero");
   tarvik::Require(static_cast<std::size_t>(steps) <= size / 4, "each step takes four bytes or more");
   tarvik::Require(file.reads <= size / 4096 + 1, "each block is read once");

@@ -73,7 +73,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
   Folders folders;
 
   Application application(instance);
-  application.OnRuntimeError = [&state](Form& form, const RuntimeError& error) {
+  application.onRuntimeError = [&state](Form& form, const RuntimeError& error) {
     ShowRuntimeError(form.Window(), error, state.CurrentLanguage);
   };
 
@@ -83,7 +83,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
   const auto showAbout = [&] { spash->ShowModal(findIcon->Window()); };
   const auto openGuide = [&] { OpenGuide(findIcon->Window(), ProgramFolder(), state.CurrentLanguage); };
   DiskFile files;
-  TemporaryBitmap temporaryBitmap(TemporaryBitmapPlaces());
+  TemporaryBitmap temporaryBitmap(TemporaryBitmapPaths());
   ExportDialogs exportDialogs(
       application, state,
       {[&] { return findIcon->Window(); }, [&]() -> const Surface& { return findIcon->Surfaces().Composed(); },
@@ -94,16 +94,16 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
 
   const auto showMainWindow = [&] {
     if (!findIcon) {
-      findIcon.emplace(application, FrmFindIcon::Services{state,
-                                                          settings,
-                                                          icons,
-                                                          folders,
-                                                          DriveRows,
-                                                          IsReadableFolder,
-                                                          ProgramFolder(),
-                                                          showAbout,
-                                                          openGuide,
-                                                          {exportDialogs, files, temporaryBitmap}});
+      findIcon.emplace(application, FrmFindIcon::Dependencies{state,
+                                                              settings,
+                                                              icons,
+                                                              folders,
+                                                              DriveRows,
+                                                              IsReadableFolder,
+                                                              ProgramFolder(),
+                                                              showAbout,
+                                                              openGuide,
+                                                              {exportDialogs, files, temporaryBitmap}});
     }
     findIcon->Show();
   };

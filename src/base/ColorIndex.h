@@ -50,9 +50,9 @@ class ColorIndex {
   // The slot that holds `color`, or the free one where it belongs.
   std::size_t SlotOf(Color color) const {
     constexpr std::uint32_t goldenRatio = 2654435769U;  // 2^32 divided by the golden ratio: spreads close colours
-    std::size_t place = (color * goldenRatio) >> (32U - slotBits);
-    while (slots_[place].numberPlusOne != 0 && slots_[place].color != color) place = (place + 1) % slotCount;
-    return place;
+    std::size_t slot = (color * goldenRatio) >> (32U - slotBits);
+    while (slots_[slot].numberPlusOne != 0 && slots_[slot].color != color) slot = (slot + 1) % slotCount;
+    return slot;
   }
 
   std::array<Slot, slotCount> slots_{};

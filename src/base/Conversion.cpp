@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view blanks = " \t";
 
-std::string_view Trimmed(std::string_view text) {
+std::string_view Trim(std::string_view text) {
   const auto first = text.find_first_not_of(blanks);
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(blanks) - first + 1);
@@ -21,7 +21,7 @@ bool IsDigit(char character) {
 }
 
 // The text without the commas that stand between two digits; any other comma stays and makes it no number.
-std::string WithoutThousandsCommas(std::string_view text) {
+std::string RemoveThousandsCommas(std::string_view text) {
   std::string digits;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool separates =
@@ -39,21 +39,21 @@ double ToHexadecimal(std::string_view digits) {
   return static_cast<double>(value);
 }
 
-// Whether a number that no double holds is too large for one, and not too small: by the place of its first digit that
-// is not 0, counted from the decimal point, and its exponent.
+// Whether a number that no double holds is too large for one, and not too small: by the position of its first digit
+// that is not 0, counted from the decimal point, and its exponent.
 bool IsTooLarge(std::string_view number) {
   const auto exponentAt = number.find_first_of("eE");
   const std::string_view digits = number.substr(0, exponentAt);
   const auto point = std::min(digits.find('.'), digits.size());
   const auto first = digits.find_first_of("123456789");
-  const double place = first < point ? static_cast<double>(point - first) : -static_cast<double>(first - point - 1);
-  if (exponentAt == std::string_view::npos) return place > 0;
+  const double magnitude = first < point ? static_cast<double>(point - first) : -static_cast<double>(first - point - 1);
+  if (exponentAt == std::string_view::npos) return magnitude > 0;
   std::string_view exponent = number.substr(exponentAt + 1);
   const bool negative = exponent.starts_with('-');
   if (negative || exponent.starts_with('+')) exponent.remove_prefix(1);
   double size = 0;
   for (const char digit : exponent) size = size * 10 + (digit - '0');
-  return place + (negative ? -size : size) > 0;
+  return magnitude + (negative ? -size : size) > 0;
 }
 
 }  // namespace
@@ -79,12 +79,12 @@ double RoundToEven(double value) {
 }
 
 double ToNumber(std::string_view text) {
-  text = Trimmed(text);
+  text = Trim(text);
   if (text.starts_with("&H") || text.starts_with("&h")) return ToHexadecimal(text.substr(2));
 
   const bool negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
-  const std::string digits = WithoutThousandsCommas(text);
+  const std::string digits = RemoveThousandsCommas(text);
   const auto [value, length] = ReadUnsignedNumber(digits);
   if (length == 0 || length != digits.size()) throw TypeMismatchError();
   if (value == ReadNumber::tooLarge) throw OverflowError();

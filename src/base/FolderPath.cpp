@@ -31,7 +31,7 @@ bool StartsAtRoot(std::string_view path) {
 }
 
 // A path from a root with its names alone: without ".", "..", and empty ones.
-std::string Resolved(const std::string& path) {
+std::string Resolve(const std::string& path) {
   const std::size_t root = RootLength(path);
   std::vector<std::string_view> names;
   for (std::size_t start = root; start < path.size();) {
@@ -55,7 +55,7 @@ std::string TidyFolderPath(std::string_view path) {
     tidy[0] = UpperAscii(tidy[0]);
     if (tidy.size() == 2) tidy += separator;
   }
-  if (StartsAtRoot(tidy)) return Resolved(tidy);
+  if (StartsAtRoot(tidy)) return Resolve(tidy);
   while (tidy.size() > RootLength(tidy) && tidy.ends_with(separator)) tidy.pop_back();
   return tidy;
 }

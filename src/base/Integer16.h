@@ -13,21 +13,21 @@ namespace tarvik {
 class Integer16 {
  public:
   constexpr Integer16() = default;
-  constexpr Integer16(std::int64_t value) : value_(Checked(value)) {}  // NOLINT(google-explicit-constructor)
+  constexpr Integer16(std::int64_t value) : value_(Check(value)) {}  // NOLINT(google-explicit-constructor)
 
   constexpr operator int() const { return value_; }  // NOLINT(google-explicit-constructor)
 
   constexpr Integer16& operator+=(std::int64_t summand) {
-    value_ = Checked(std::int64_t{value_} + summand);
+    value_ = Check(std::int64_t{value_} + summand);
     return *this;
   }
   constexpr Integer16& operator-=(std::int64_t subtrahend) {
-    value_ = Checked(std::int64_t{value_} - subtrahend);
+    value_ = Check(std::int64_t{value_} - subtrahend);
     return *this;
   }
 
  private:
-  static constexpr std::int16_t Checked(std::int64_t value) {
+  static constexpr std::int16_t Check(std::int64_t value) {
     if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max()) {
       throw OverflowError();
     }

@@ -34,9 +34,9 @@ class PixelView {
   // Copies all pixels, row by row from the top, into `pixels`, which holds Width() times Height() colours. A picture in
   // memory hands them out far quicker than pixel by pixel.
   virtual void CopyPixels(std::span<Color> pixels) const {
-    std::size_t place = 0;
+    std::size_t index = 0;
     for (int y = 0; y < Height(); ++y) {
-      for (int x = 0; x < Width(); ++x) pixels[place++] = Pixel(x, y);
+      for (int x = 0; x < Width(); ++x) pixels[index++] = Pixel(x, y);
     }
   }
 };

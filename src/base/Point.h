@@ -2,7 +2,7 @@
 
 namespace tarvik {
 
-// A place in a picture, in pixels from its top-left corner.
+// A position in a picture, in pixels from its top-left corner.
 struct Point {
   int x = 0;
   int y = 0;

@@ -15,11 +15,12 @@
 
 namespace tarvik {
 
-frmDir::frmDir(Application& application, ProgramState& state, Disk disk)
+frmDir::frmDir(Application& application, ProgramState& state, Dependencies dependencies)
     : Form(application, Dialog_frmDir),
       state_(state),
-      disk_(std::move(disk)),
-      create_(application, state, disk_.makeFolder, [this](const std::string& folder) { dirMain_.SetPath(folder); }) {}
+      dependencies_(std::move(dependencies)),
+      create_(application, state, dependencies_.makeFolder,
+              [this](const std::string& folder) { dirMain_.SetPath(folder); }) {}
 
 std::string frmDir::ShowDir(HWND owner) {
   ShowModal(owner);
@@ -33,10 +34,10 @@ void frmDir::Form_Load() {
   if (images) FillFileTypes();
   ShowItem(frmDir_CboFileType, images);
 
-  drvMain_.Attach(Item(frmDir_drvMain), disk_.drives);
+  drvMain_.Attach(Item(frmDir_drvMain), dependencies_.drives);
   dirMain_ = DirListBox();  // of this window's own folder, whatever was chosen the last time
-  dirMain_.Attach(Item(frmDir_dirMain), disk_.subFolders, [this] { dirMain_Change(); });
-  const std::string folder = disk_.firstFolder();
+  dirMain_.Attach(Item(frmDir_dirMain), dependencies_.subFolders, [this] { dirMain_Change(); });
+  const std::string folder = dependencies_.initialFolder();
   dirMain_.SetPath(folder);
   drvMain_.ChooseDriveOf(folder);
   SetTexts(*this, frmDirTexts, state_.CurrentLanguage);

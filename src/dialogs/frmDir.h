@@ -18,15 +18,15 @@ namespace tarvik {
 class frmDir final : public Form {
  public:
   // How the dialog reads the disk, and where it starts.
-  struct Disk {
+  struct Dependencies {
     std::function<std::vector<DriveListBox::Drive>()> drives;
     DirListBox::ListFolders subFolders;
     frmDirCreate::MakeFolder makeFolder;
-    std::function<std::string()> firstFolder;  // the main window's
+    std::function<std::string()> initialFolder;  // the main window's
   };
 
   // `state` outlives the form.
-  frmDir(Application& application, ProgramState& state, Disk disk);
+  frmDir(Application& application, ProgramState& state, Dependencies dependencies);
 
   // Shows the dialog modally over `owner`. The chosen folder; empty where the user cancelled. The close box is no
   // cancel: it gives the folder last shown.
@@ -50,7 +50,7 @@ class frmDir final : public Form {
   void AddFileTypes();
 
   ProgramState& state_;
-  Disk disk_;
+  Dependencies dependencies_;
   std::string SelectedDir;  // the dialog's answer
   DriveListBox drvMain_;
   DirListBox dirMain_;

@@ -43,12 +43,12 @@ struct Sums {
     weight += other.weight;
     for (std::size_t c = 0; c < channels; ++c) sum[c] += other.sum[c];
   }
-  Sums Without(const Sums& part) const {
+  Sums Minus(const Sums& part) const {
     return {weight - part.weight, {sum[0] - part.sum[0], sum[1] - part.sum[1], sum[2] - part.sum[2]}};
   }
   Point Mean() const { return {sum[0] / weight, sum[1] / weight, sum[2] / weight}; }
   // The error of pixels drawn in their mean is the sum of their squares less this.
-  double Saved() const { return (sum[0] * sum[0] + sum[1] * sum[1] + sum[2] * sum[2]) / weight; }
+  double SavedError() const { return (sum[0] * sum[0] + sum[1] * sum[1] + sum[2] * sum[2]) / weight; }
 };
 
 // Where to cut a box in two: colours whose channel is at most `last` go to the first part.
@@ -71,24 +71,24 @@ std::size_t ChannelOf(Color color, std::size_t channel) {
 
 // The best cut across one channel, or one without gain where all colours have the same value there.
 Cut BestCutAcross(const Box& box, std::size_t channel) {
-  std::size_t lowest = 255;
-  std::size_t highest = 0;
+  std::size_t min = 255;
+  std::size_t max = 0;
   for (const CountedColor& counted : box.colors) {
     const std::size_t value = ChannelOf(counted.color, channel);
-    lowest = std::min(lowest, value);
-    highest = std::max(highest, value);
+    min = std::min(min, value);
+    max = std::max(max, value);
   }
   // Most boxes are small: what lies outside their range is neither cleared nor looked at.
   std::array<Sums, 256> levels;  // NOLINT(cppcoreguidelines-pro-type-member-init)
-  std::fill(&levels[lowest], &levels[highest] + 1, Sums{});
+  std::fill(&levels[min], &levels[max] + 1, Sums{});
   for (const CountedColor& counted : box.colors) levels[ChannelOf(counted.color, channel)].Add(counted);
   Cut best{.channel = channel};
   Sums first;
-  const double whole = box.sums.Saved();
-  for (std::size_t level = lowest; level < highest; ++level) {
+  const double whole = box.sums.SavedError();
+  for (std::size_t level = min; level < max; ++level) {
     if (levels[level].weight == 0) continue;
     first.Add(levels[level]);
-    const double gain = first.Saved() + box.sums.Without(first).Saved() - whole;
+    const double gain = first.SavedError() + box.sums.Minus(first).SavedError() - whole;
     if (gain > best.gain) best = {channel, level, gain};
   }
   return best;
@@ -104,12 +104,12 @@ Box MakeBox(std::span<CountedColor> colors) {
   return box;
 }
 
-// Cuts the colours into at most `most` boxes and gives their means. The colours change their order.
-std::vector<Point> CutIntoBoxes(std::span<CountedColor> colors, std::size_t most) {
+// Cuts the colours into at most `maxColors` boxes and gives their means. The colours change their order.
+std::vector<Point> CutIntoBoxes(std::span<CountedColor> colors, std::size_t maxColors) {
   const auto gainsLess = [](const Box& a, const Box& b) { return a.cut.gain < b.cut.gain; };
   // A heap: the box whose cut gains most stands first.
   std::vector<Box> boxes{MakeBox(colors)};
-  while (boxes.size() < most && boxes.front().cut.gain > 0) {
+  while (boxes.size() < maxColors && boxes.front().cut.gain > 0) {
     std::pop_heap(boxes.begin(), boxes.end(), gainsLess);
     const std::span<CountedColor> whole = boxes.back().colors;
     const Cut cut = boxes.back().cut;
@@ -138,11 +138,11 @@ class NearestSearch {
   }
 
   struct Found {
-    std::size_t place = 0;
+    std::size_t index = 0;
     double squareDistance = 0;
   };
 
-  // `guess` is the place of any of the points.
+  // `guess` is the index of any of the points.
   Found Find(const Point& point, std::size_t guess) const {
     const double sum = SumOf(point);
     Found best{guess, SquareDistance(points_[guess], point)};
@@ -151,7 +151,7 @@ class NearestSearch {
       const double apart = entry.sum - sum;
       if (apart * apart >= static_cast<double>(channels) * best.squareDistance) return false;
       const double distance = SquareDistance(entry.point, point);
-      if (distance < best.squareDistance) best = {entry.place, distance};
+      if (distance < best.squareDistance) best = {entry.index, distance};
       return true;
     };
     const auto start = std::ranges::lower_bound(entries_, sum, {}, &Entry::sum);
@@ -164,7 +164,7 @@ class NearestSearch {
   struct Entry {
     double sum = 0;
     Point point{};
-    std::size_t place = 0;
+    std::size_t index = 0;
   };
   static double SumOf(const Point& point) { return point[0] + point[1] + point[2]; }
 
@@ -173,19 +173,19 @@ class NearestSearch {
 };
 
 // Moves each centre to the mean of the colours nearest to it, until the error falls no further to speak of. Sets
-// places to the centre each colour was nearest to last.
-void MoveToMeans(std::span<const CountedColor> colors, std::vector<Point>& centres, std::vector<std::size_t>& places) {
-  constexpr int mostRounds = 4;
+// `nearest` to the index of the centre that each colour was nearest to last.
+void MoveToMeans(std::span<const CountedColor> colors, std::vector<Point>& centres, std::vector<std::size_t>& nearest) {
+  constexpr int maxRounds = 4;
   constexpr double worthwhile = 0.98;
   double error = std::numeric_limits<double>::max();
-  for (int round = 0; round < mostRounds; ++round) {
+  for (int round = 0; round < maxRounds; ++round) {
     const NearestSearch search(centres);
     std::vector<Sums> sums(centres.size());
     double newError = 0;
     for (std::size_t i = 0; i < colors.size(); ++i) {
-      const NearestSearch::Found found = search.Find(PointOf(colors[i].color), places[i]);
-      places[i] = found.place;
-      sums[found.place].Add(colors[i]);
+      const NearestSearch::Found found = search.Find(PointOf(colors[i].color), nearest[i]);
+      nearest[i] = found.index;
+      sums[found.index].Add(colors[i]);
       newError += static_cast<double>(colors[i].count) * found.squareDistance;
     }
     for (std::size_t i = 0; i < centres.size(); ++i)
@@ -197,11 +197,11 @@ void MoveToMeans(std::span<const CountedColor> colors, std::vector<Point>& centr
 
 }  // namespace
 
-Reduction ReduceColors(std::span<const CountedColor> colors, std::size_t most) {
+Reduction ReduceColors(std::span<const CountedColor> colors, std::size_t maxColors) {
   std::vector<CountedColor> sorted(colors.begin(), colors.end());
-  std::vector<Point> centres = CutIntoBoxes(sorted, most);
-  std::vector<std::size_t> places(colors.size(), 0);
-  MoveToMeans(colors, centres, places);
+  std::vector<Point> centres = CutIntoBoxes(sorted, maxColors);
+  std::vector<std::size_t> nearest(colors.size(), 0);
+  MoveToMeans(colors, centres, nearest);
 
   Reduction reduction;
   reduction.palette.reserve(centres.size());
@@ -210,10 +210,10 @@ Reduction ReduceColors(std::span<const CountedColor> colors, std::size_t most) {
     centre = PointOf(reduction.palette.back());
   }
   const NearestSearch search(centres);
-  reduction.places.reserve(colors.size());
+  reduction.indexes.reserve(colors.size());
   for (std::size_t i = 0; i < colors.size(); ++i) {
-    const std::size_t place = search.Find(PointOf(colors[i].color), places[i]).place;
-    reduction.places.push_back(static_cast<std::uint8_t>(place));
+    const std::size_t index = search.Find(PointOf(colors[i].color), nearest[i]).index;
+    reduction.indexes.push_back(static_cast<std::uint8_t>(index));
   }
   return reduction;
 }

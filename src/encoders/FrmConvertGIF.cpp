@@ -21,8 +21,8 @@ constexpr COLORREF convertingColor = RGB(0xC0, 0, 0);
 
 }  // namespace
 
-FrmConvertGIF::FrmConvertGIF(Application& application, const ProgramState& state, HWND owner, Parts parts)
-    : Form(application, Dialog_FrmConvertGIF), state_(state), owner_(owner), parts_(std::move(parts)) {}
+FrmConvertGIF::FrmConvertGIF(Application& application, const ProgramState& state, HWND owner, Dependencies dependencies)
+    : Form(application, Dialog_FrmConvertGIF), state_(state), owner_(owner), dependencies_(std::move(dependencies)) {}
 
 DialogAnswer FrmConvertGIF::ShowFor(DialogMode mode, const std::string& target) {
   mode_ = mode;
@@ -45,7 +45,7 @@ void FrmConvertGIF::FreeGifObj() {
 void FrmConvertGIF::Form_Load() {
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);
-  SetDialogTexts(*this, FrmConvertGIF_Caption, FrmConvertGIF_Texts, state_.CurrentLanguage);
+  SetDialogTexts(*this, convertGifCaption, convertGifTexts, state_.CurrentLanguage);
   SetItemText(FrmConvertGIF_Label1, mode_ == DialogMode::Single ? FolderName(target_) : batchTarget);
   SetChecked(FrmConvertGIF_Option1, true);
 }
@@ -62,11 +62,11 @@ bool FrmConvertGIF::OnCommand(int id, int code) {
 // The label is drawn by the window, so that it can change its colour.
 void FrmConvertGIF::OnDrawItem(const DRAWITEMSTRUCT& item) {
   if (item.CtlID != FrmConvertGIF_Label1) return;
-  RECT place = item.rcItem;
-  FillRect(item.hDC, &place, GetSysColorBrush(COLOR_BTNFACE));
+  RECT bounds = item.rcItem;
+  FillRect(item.hDC, &bounds, GetSysColorBrush(COLOR_BTNFACE));
   SetBkMode(item.hDC, TRANSPARENT);
   SetTextColor(item.hDC, converting_ ? convertingColor : GetSysColor(COLOR_BTNTEXT));
-  DrawTextW(item.hDC, ToWide(ItemText(FrmConvertGIF_Label1)).c_str(), -1, &place,
+  DrawTextW(item.hDC, ToWide(ItemText(FrmConvertGIF_Label1)).c_str(), -1, &bounds,
             DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
@@ -83,7 +83,7 @@ void FrmConvertGIF::ConvertSingle() {
   RedrawWindow(Item(FrmConvertGIF_Label1), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
   EnableItem(FrmConvertGIF_CmdOk, false);
   if (Convert(target_)) {
-    SetCaption(CaptionWithSize(parts_.fileLength(target_)));
+    SetCaption(CaptionWithSize(dependencies_.fileLength(target_)));
   } else {
     answer_ = DialogAnswer::Failed;
   }
@@ -92,7 +92,7 @@ void FrmConvertGIF::ConvertSingle() {
 }
 
 bool FrmConvertGIF::Convert(const std::string& target) {
-  const Surface& icon = parts_.picIcon();
+  const Surface& icon = dependencies_.picIcon();
   if (!picture_) picture_.emplace(icon.Width(), icon.Height(), white);
   picture_->Resize(icon.Width(), icon.Height(), white);
   picture_->Combine(icon, SRCCOPY);
@@ -101,7 +101,7 @@ bool FrmConvertGIF::Convert(const std::string& target) {
       .transparentColor = icon.Pixel(0, 0),
       .palette = IsChecked(FrmConvertGIF_Option1) ? GifPalette::BestQuality : GifPalette::Web,
   };
-  if (!encoder_) encoder_.emplace(parts_.sink);
+  if (!encoder_) encoder_.emplace(dependencies_.sink);
   return encoder_->WriteFile(*picture_, target, settings);
 }
 

@@ -20,14 +20,14 @@ namespace tarvik {
 // for SaveToGIFNoSingle.
 class FrmConvertGIF final : public Form, public GifDialog {
  public:
-  struct Parts {
+  struct Dependencies {
     std::function<const Surface&()> picIcon;  // the main window's
     FileSink& sink;
     std::function<std::uint64_t(const std::string& path)> fileLength;  // in bytes
   };
 
   // Shown over `owner`. Everything outlives the form.
-  FrmConvertGIF(Application& application, const ProgramState& state, HWND owner, Parts parts);
+  FrmConvertGIF(Application& application, const ProgramState& state, HWND owner, Dependencies dependencies);
 
   DialogAnswer ShowFor(DialogMode mode, const std::string& target) override;
   bool SaveToGIFNoSingle(const std::string& target) override;
@@ -46,7 +46,7 @@ class FrmConvertGIF final : public Form, public GifDialog {
 
   const ProgramState& state_;
   HWND owner_;
-  Parts parts_;
+  Dependencies dependencies_;
   std::optional<GifEncoder> encoder_;
   std::optional<Surface> picture_;  // the dialog's own copy of the icon
   DialogMode mode_ = DialogMode::Single;

@@ -18,7 +18,7 @@
 namespace tarvik {
 namespace {
 
-constexpr int longestSide = 65535;
+constexpr int maxSide = 65535;
 constexpr int bitsOfChannel = 8;
 
 // The library's way to write: appends to the vector that the file carries. No exception may pass through it.
@@ -85,7 +85,7 @@ std::optional<std::vector<std::byte>> Encode(IndexedPicture& picture) {
 }
 
 bool FitsHeader(int side) {
-  return side >= 1 && side <= longestSide;
+  return side >= 1 && side <= maxSide;
 }
 
 }  // namespace

@@ -17,8 +17,8 @@ namespace tarvik {
 std::string CaptionWithSize(std::uint64_t bytes);
 
 // The misspelling "Pallate" is the program's own text.
-inline constexpr Text FrmConvertGIF_Caption{"Convert File To Gif", "另存为Gif", "另存為Gif"};
-inline constexpr std::array<DialogText, 6> FrmConvertGIF_Texts{{
+inline constexpr Text convertGifCaption{"Convert File To Gif", "另存为Gif", "另存為Gif"};
+inline constexpr std::array<DialogText, 6> convertGifTexts{{
     {FrmConvertGIF_Check1, {"Save &transparent", "透明", "透明"}},
     {FrmConvertGIF_Option1, {"&Pallate [Best Quality]", "设计 [高质量]", "設計 [高品質]"}},
     {FrmConvertGIF_Option2, {"For &Web [Normal Quality]", "Web [普通]", "Web [普通]"}},

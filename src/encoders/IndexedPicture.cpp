@@ -11,7 +11,7 @@
 namespace tarvik {
 namespace {
 
-constexpr std::size_t mostColors = 256;
+constexpr std::size_t maxColors = 256;
 
 constexpr Color ColorOf(int red, int green, int blue) {
   return static_cast<Color>(red + 256 * green + 65536 * blue);
@@ -63,27 +63,27 @@ std::vector<Color> PixelsOf(const PixelView& picture) {
 Reduction KeepColors(std::span<const CountedColor> colors) {
   Reduction kept;
   for (const CountedColor& counted : colors) {
-    kept.places.push_back(static_cast<std::uint8_t>(kept.palette.size()));
+    kept.indexes.push_back(static_cast<std::uint8_t>(kept.palette.size()));
     kept.palette.push_back(counted.color);
   }
   return kept;
 }
 
-// Reduces the colours but for one, which keeps its colour and takes the palette's last place.
+// Reduces the colours but for one, which keeps its colour and takes the palette's last index.
 Reduction ReduceOtherColors(std::vector<CountedColor> colors, std::size_t kept) {
   const auto at = colors.begin() + static_cast<std::ptrdiff_t>(kept);
   const Color keptColor = at->color;
   colors.erase(at);
-  Reduction reduction = ReduceColors(colors, mostColors - 1);
-  reduction.places.insert(reduction.places.begin() + static_cast<std::ptrdiff_t>(kept),
-                          static_cast<std::uint8_t>(reduction.palette.size()));
+  Reduction reduction = ReduceColors(colors, maxColors - 1);
+  reduction.indexes.insert(reduction.indexes.begin() + static_cast<std::ptrdiff_t>(kept),
+                           static_cast<std::uint8_t>(reduction.palette.size()));
   reduction.palette.push_back(keptColor);
   return reduction;
 }
 
 Reduction BestPalette(const std::vector<CountedColor>& colors, std::optional<std::size_t> kept) {
-  if (colors.size() <= mostColors) return KeepColors(colors);
-  return kept ? ReduceOtherColors(colors, *kept) : ReduceColors(colors, mostColors);
+  if (colors.size() <= maxColors) return KeepColors(colors);
+  return kept ? ReduceOtherColors(colors, *kept) : ReduceColors(colors, maxColors);
 }
 
 // The step of the web palette's six levels, and how many there are of them.
@@ -94,7 +94,7 @@ constexpr int WebLevel(int channel) {
   return (channel + webStep / 2) / webStep;
 }
 
-constexpr int WebPlace(Color color) {
+constexpr int WebIndex(Color color) {
   return (WebLevel(RedOf(color)) * webLevels + WebLevel(GreenOf(color))) * webLevels + WebLevel(BlueOf(color));
 }
 
@@ -125,8 +125,8 @@ IndexedPicture IndexByBestPalette(const PixelView& picture, std::optional<Color>
   Reduction reduction = BestPalette(colors, kept);
   IndexedPicture result{picture.Width(), picture.Height(), std::move(reduction.palette), {}, std::nullopt};
   result.pixels.reserve(pixels.size());
-  for (const std::uint32_t number : pixels) result.pixels.push_back(reduction.places[number]);
-  if (kept) result.transparentIndex = reduction.places[*kept];
+  for (const std::uint32_t number : pixels) result.pixels.push_back(reduction.indexes[number]);
+  if (kept) result.transparentIndex = reduction.indexes[*kept];
   return result;
 }
 
@@ -138,10 +138,10 @@ IndexedPicture IndexByWebPalette(const PixelView& picture, std::optional<Color> 
   for (const Color color : pixels) {
     const bool seeThrough = color == transparent;
     if (seeThrough) result.transparentIndex = extra;
-    result.pixels.push_back(seeThrough ? extra : static_cast<std::uint8_t>(WebPlace(color)));
+    result.pixels.push_back(seeThrough ? extra : static_cast<std::uint8_t>(WebIndex(color)));
   }
   if (result.transparentIndex)
-    result.palette.push_back(result.palette[static_cast<std::size_t>(WebPlace(*transparent))]);
+    result.palette.push_back(result.palette[static_cast<std::size_t>(WebIndex(*transparent))]);
   return result;
 }
 

@@ -8,7 +8,7 @@
 
 namespace tarvik {
 
-// A picture whose pixels are places in a palette of 1 to 256 colours.
+// A picture whose pixels are indexes in a palette of 1 to 256 colours.
 struct IndexedPicture {
   int width = 0;
   int height = 0;
@@ -20,7 +20,7 @@ struct IndexedPicture {
 
 // The picture with a palette of its own: its colours exactly, in the order they first appear, where they are at
 // most 256, else the 256 that come nearest to them. A transparent colour is one of the 256 and always exact; where
-// no pixel has it, it takes no place in the palette and the result has no transparent index.
+// no pixel has it, it takes no index in the palette and the result has no transparent index.
 IndexedPicture IndexByBestPalette(const PixelView& picture, std::optional<Color> transparent);
 
 // The picture in the 216 colours whose channels are multiples of 51, each pixel by its nearest. The palette holds

@@ -17,9 +17,9 @@ namespace {
 
 constexpr int bytesOfPixel = 3;
 // A segment's length is 16 bits wide and counts its own two bytes.
-constexpr std::size_t longestComment = 65533;
+constexpr std::size_t maxComment = 65533;
 // An interleaved scan holds at most this many blocks in each of its units (ITU-T T.81, B.2.3).
-constexpr int mostBlocksInterleaved = 10;
+constexpr int maxBlocksInterleaved = 10;
 constexpr int lastCoefficient = 63;
 
 bool IsPresent(const SamplingFactors& factors) {
@@ -40,13 +40,13 @@ int BlocksInterleaved(const JpegSampling& sampling) {
 
 // The length of the next piece of a comment: as much as one segment holds, without cutting a character of UTF-8.
 std::size_t CommentPiece(std::string_view rest) {
-  if (rest.size() <= longestComment) return rest.size();
+  if (rest.size() <= maxComment) return rest.size();
   const auto continues = [&](std::size_t at) { return (static_cast<unsigned char>(rest[at]) & 0xC0U) == 0x80U; };
-  constexpr std::size_t longestCharacter = 4;
-  std::size_t length = longestComment;
-  while (length > longestComment - longestCharacter && continues(length)) --length;
+  constexpr std::size_t maxCharacter = 4;
+  std::size_t length = maxComment;
+  while (length > maxComment - maxCharacter && continues(length)) --length;
   // Bytes that are no UTF-8 have no boundary to respect.
-  return continues(length) ? longestComment : length;
+  return continues(length) ? maxComment : length;
 }
 
 struct Picture {
@@ -141,7 +141,7 @@ class Compression {
       info_.comp_info[i].h_samp_factor = sampling_[static_cast<std::size_t>(i)].horizontal;
       info_.comp_info[i].v_samp_factor = sampling_[static_cast<std::size_t>(i)].vertical;
     }
-    if (!IsGreyscale(sampling_) && BlocksInterleaved(sampling_) > mostBlocksInterleaved) WriteScansApart();
+    if (!IsGreyscale(sampling_) && BlocksInterleaved(sampling_) > maxBlocksInterleaved) WriteScansApart();
   }
 
   // Each component in a scan of its own, which holds one block at a time whatever the factors are.

@@ -3,8 +3,8 @@
 namespace tarvik {
 namespace {
 
-constexpr int qualityStep = highestQuality / static_cast<int>(qualityPresets.size());
-static_assert(qualityStep * static_cast<int>(qualityPresets.size()) == highestQuality);
+constexpr int qualityStep = maxQuality / static_cast<int>(qualityPresets.size());
+static_assert(qualityStep * static_cast<int>(qualityPresets.size()) == maxQuality);
 
 constexpr int DigitOf(char character) {
   return character - '0';
@@ -17,7 +17,7 @@ int QualityOfPreset(int preset) {
 }
 
 std::optional<int> PresetOfQuality(int quality) {
-  if (quality >= lowestQuality && quality <= qualityStep) return 0;
+  if (quality >= minQuality && quality <= qualityStep) return 0;
   for (int preset = 1; preset < static_cast<int>(qualityPresets.size()); ++preset)
     if (quality == QualityOfPreset(preset - 1) + 1 || quality == QualityOfPreset(preset)) return preset;
   return std::nullopt;

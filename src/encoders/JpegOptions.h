@@ -13,8 +13,8 @@ namespace tarvik {
 
 // What the JPEG options dialog and its comment dialog decide, without their windows.
 
-inline constexpr int lowestQuality = 1;
-inline constexpr int highestQuality = 100;
+inline constexpr int minQuality = 1;
+inline constexpr int maxQuality = 100;
 
 // The presets of CboSize, from the smallest file to the best picture, and the one chosen when the dialog opens.
 inline constexpr std::array<Text, 5> qualityPresets{{
@@ -24,7 +24,7 @@ inline constexpr std::array<Text, 5> qualityPresets{{
     {"High", "高", "高"},
     {"Highest", "最高", "最高"},
 }};
-inline constexpr int firstPreset = 2;
+inline constexpr int initialPreset = 2;
 
 // The items of cboSubSample, the same in every language: the luminance factors across and down. And the item chosen
 // when the dialog opens.
@@ -46,7 +46,7 @@ inline constexpr std::array<std::string_view, 16> subSamplings{
     "4:3",
     "4:4  [Max Compress]",
 };
-inline constexpr int firstSubSampling = 3;
+inline constexpr int initialSubSampling = 3;
 
 // The quality that a preset (0 to 4) stands for: 20, 40, 60, 80 or 100.
 int QualityOfPreset(int preset);
@@ -62,8 +62,8 @@ SamplingFactors LuminanceOf(std::string_view subSampling);
 // the picture is to be greyscale, whatever item is chosen.
 JpegSampling SamplingOf(std::string_view subSampling, bool greyscale);
 
-inline constexpr Text fSaveJPG_Caption{"JPEG Compression Settings", "JPEG 压缩选项", "JPEG 壓縮選項"};
-inline constexpr std::array<DialogText, 8> fSaveJPG_Texts{{
+inline constexpr Text saveJpgCaption{"JPEG Compression Settings", "JPEG 压缩选项", "JPEG 壓縮選項"};
+inline constexpr std::array<DialogText, 8> saveJpgTexts{{
     {fSaveJPG_Label2, {"Small", "小", "小"}},
     {fSaveJPG_Label3, {"Large", "大", "大"}},
     {fSaveJPG_lblQuality, {"Quality:", "品质:", "品質:"}},
@@ -74,8 +74,8 @@ inline constexpr std::array<DialogText, 8> fSaveJPG_Texts{{
     {fSaveJPG_cmdFinish1, {"&OK", "确定(&O)", "確定(&O)"}},
 }};
 
-inline constexpr Text fComment_Caption{"Comment", "内容", "內容"};
-inline constexpr std::array<DialogText, 1> fComment_Texts{{
+inline constexpr Text commentCaption{"Comment", "内容", "內容"};
+inline constexpr std::array<DialogText, 1> commentTexts{{
     {fComment_cmdFinish, {"&OK", "确定(&O)", "確定(&O)"}},
 }};
 

@@ -21,7 +21,7 @@ void fComment::Form_Load() {
   SizeInTwips(*this, formWidth, formHeight);
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);
-  SetDialogTexts(*this, fComment_Caption, fComment_Texts, state_.CurrentLanguage);
+  SetDialogTexts(*this, commentCaption, commentTexts, state_.CurrentLanguage);
 }
 
 std::string fComment::Edit(HWND owner, const std::string& comment) {

@@ -45,13 +45,13 @@ void fSaveJPG::FreeObj() {
 void fSaveJPG::Form_Load() {
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);
-  SetDialogTexts(*this, fSaveJPG_Caption, fSaveJPG_Texts, state_.CurrentLanguage);
+  SetDialogTexts(*this, saveJpgCaption, saveJpgTexts, state_.CurrentLanguage);
   hscQuality_.Attach(Item(fSaveJPG_hscQuality));
-  hscQuality_.SetRange({lowestQuality, highestQuality, 1, qualityPage}, 1);
+  hscQuality_.SetRange({minQuality, maxQuality, 1, qualityPage}, 1);
   FillLists();
-  ComboBox_SetCurSel(Item(fSaveJPG_CboSize), firstPreset);
+  ComboBox_SetCurSel(Item(fSaveJPG_CboSize), initialPreset);
   CboSize_Click();
-  ComboBox_SetCurSel(Item(fSaveJPG_cboSubSample), firstSubSampling);
+  ComboBox_SetCurSel(Item(fSaveJPG_cboSubSample), initialSubSampling);
   cboSubSample_Click();
 }
 

@@ -8,7 +8,7 @@
 #include "export/ModMicroArt.h"
 
 // The numbers of the icon, cursor and bitmap formats: what each file holds besides sizes and pixels.
-namespace tarvik::FileFormats {
+namespace tarvik::fileFormats {
 
 using ModMicroArt::ColorClass;
 
@@ -85,8 +85,8 @@ inline constexpr std::array<BitmapFileSizes, 4> bitmapFileSizes{{
 constexpr std::uint32_t BitmapFileSize(const Depth& depth, int width) {
   const auto* const found = std::ranges::find(bitmapFileSizes, width, &BitmapFileSizes::width);
   if (found == bitmapFileSizes.end()) return 0;
-  const auto* const place = std::ranges::find(depths, depth.colors, &Depth::colors);
-  return found->bytes[static_cast<std::size_t>(place - depths.begin())];
+  const auto* const row = std::ranges::find(depths, depth.colors, &Depth::colors);
+  return found->bytes[static_cast<std::size_t>(row - depths.begin())];
 }
 
-}  // namespace tarvik::FileFormats
+}  // namespace tarvik::fileFormats

@@ -23,11 +23,11 @@ constexpr int leftButton = 1;
 
 // A sunken edge on the form, close around a control.
 void DrawEdgeAround(HDC dc, HWND form, HWND control) {
-  RECT place;
-  GetWindowRect(control, &place);
-  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&place), 2);
+  RECT bounds;
+  GetWindowRect(control, &bounds);
+  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&bounds), 2);
   RECT frame;
-  SetRect(&frame, place.left - edge, place.top - edge, place.right + edge, place.bottom + edge);
+  SetRect(&frame, bounds.left - edge, bounds.top - edge, bounds.right + edge, bounds.bottom + edge);
   DrawEdge(dc, &frame, BDR_SUNKENOUTER, BF_RECT);
 }
 
@@ -38,7 +38,7 @@ FrmHotSpot::FrmHotSpot(Application& application, ProgramState& state, std::funct
 
 void FrmHotSpot::Form_Load() {
   SizeInTwips(*this, formWidth, formHeight);
-  PlacePicture();
+  LayOutPicture();
   picCursor_.emplace(state_.MagnifiedSide, state_.MagnifiedSide, surfaceBackground);
   picCursor_->Combine(picMain_(), SRCCOPY);
   PictureBox(Item(FrmHotSpot_PicCursor)).Show(&*picCursor_);
@@ -53,7 +53,7 @@ void FrmHotSpot::Form_Load() {
 
 // The picture is counted in pixels, whatever the size of the dialog's font; it stands as far from the left as from the
 // top and the bottom.
-void FrmHotSpot::PlacePicture() {
+void FrmHotSpot::LayOutPicture() {
   RECT client;
   GetClientRect(Window(), &client);
   const int side = state_.MagnifiedSide;

@@ -30,7 +30,7 @@ class FrmHotSpot final : public Form {
   void CmdOk_Click();
   void CmdCancel_Click();
 
-  void PlacePicture();
+  void LayOutPicture();
   void ShowHotSpot();
 
   ProgramState& state_;

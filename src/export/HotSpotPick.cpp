@@ -6,12 +6,12 @@
 namespace tarvik {
 namespace {
 
-constexpr int largestIcon = 64;  // pixels on a side
+constexpr int maxIconSize = 64;  // pixels on a side
 
 }  // namespace
 
 int HotSpotScale(int magnifiedSide) {
-  const int scale = (magnifiedSide - 1 + largestIcon / 2) / largestIcon;
+  const int scale = (magnifiedSide - 1 + maxIconSize / 2) / maxIconSize;
   return std::max(scale, 1);
 }
 

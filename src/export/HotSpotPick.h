@@ -10,7 +10,7 @@ namespace tarvik {
 // Screen pixels an icon pixel, from the side of the magnified picture: a 64th of it, to the nearest whole number.
 int HotSpotScale(int magnifiedSide);
 
-// The icon's coordinate at a place of the magnified picture, where it is clicked: never above `bound`.
+// The icon's coordinate at a position of the magnified picture, where it is clicked: never above `bound`.
 int PickedCoordinate(int pointer, int scale, int bound);
 
 // The same where the pointer only passes: never below 0 either.

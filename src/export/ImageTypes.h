@@ -26,11 +26,11 @@ inline constexpr std::array<FileType, 9> imageTypes{{
     {"EMF Files (*.emf)", "*.emf"},
 }};
 
-// The extension of an image type by its place in a list that starts with all of them, ".bmp" for 0; none for a place
+// The extension of an image type by its row in a list that starts with all of them, ".bmp" for 0; none for a row
 // behind them.
-constexpr std::optional<std::string_view> ImageExtension(int place) {
-  if (place < 0 || place >= static_cast<int>(imageTypes.size())) return std::nullopt;
-  return imageTypes[static_cast<std::size_t>(place)].pattern.substr(1);
+constexpr std::optional<std::string_view> ImageExtension(int row) {
+  if (row < 0 || row >= static_cast<int>(imageTypes.size())) return std::nullopt;
+  return imageTypes[static_cast<std::size_t>(row)].pattern.substr(1);
 }
 
 }  // namespace tarvik

@@ -24,10 +24,10 @@ bool IsStandardColor(Color color) {
 bool FitsPalette(std::span<const Color> pixels, BlackAndWhite blackAndWhite) {
   ColorIndex seen;
   const bool fixedSlots = blackAndWhite == BlackAndWhite::InFixedSlots;
-  const int mostColors = fixedSlots ? paletteSize - 2 : paletteSize;
+  const int maxColors = fixedSlots ? paletteSize - 2 : paletteSize;
   return std::ranges::all_of(pixels, [&](Color color) {
     if (!(fixedSlots && IsBlackOrWhite(color))) seen.Insert(color, 0);
-    return seen.Count() <= mostColors;
+    return seen.Count() <= maxColors;
   });
 }
 

@@ -13,7 +13,7 @@
 namespace tarvik::ModMicroArtFileIO {
 namespace {
 
-using FileFormats::Depth;
+using fileFormats::Depth;
 using ModMicroArt::ColorClass;
 using ModPalette::Palette256;
 
@@ -27,41 +27,41 @@ struct DirectoryFields {
 void WriteDirectory(const DirectoryFields& fields, const PixelCopy& image, const Depth& depth, ByteWriter& file) {
   file.U16(0);  // reserved
   file.U16(fields.type);
-  file.U16(FileFormats::imageCount);
+  file.U16(fileFormats::imageCount);
 
   file.U8(static_cast<std::uint8_t>(image.Width()));
   file.U8(static_cast<std::uint8_t>(image.Height()));
-  file.U8(FileFormats::colorCount);
+  file.U8(fileFormats::colorCount);
   file.U8(0);  // reserved
   file.U16(fields.planesOrHotX);
   file.U16(fields.bitsOrHotY);
-  file.U32(FileFormats::infoHeaderBytes + FileFormats::PaletteBytes(depth) +
-           FileFormats::DeclaredImageBytes(depth, image.Width(), image.Height()) +
-           FileFormats::DeclaredMaskBytes(image.Width()));
-  file.U32(FileFormats::directoryHeaderBytes + FileFormats::directoryEntryBytes);  // where the image starts
+  file.U32(fileFormats::infoHeaderBytes + fileFormats::PaletteBytes(depth) +
+           fileFormats::DeclaredImageBytes(depth, image.Width(), image.Height()) +
+           fileFormats::DeclaredMaskBytes(image.Width()));
+  file.U32(fileFormats::directoryHeaderBytes + fileFormats::directoryEntryBytes);  // where the image starts
 }
 
 void WriteBitmapFileHeader(std::uint32_t fileSize, const Depth& depth, ByteWriter& file) {
-  file.U16(FileFormats::bitmapType);
+  file.U16(fileFormats::bitmapType);
   file.U32(fileSize);
   file.U16(0);  // reserved
   file.U16(0);  // reserved
-  file.U32(FileFormats::bitmapFileHeaderBytes + FileFormats::infoHeaderBytes +
-           FileFormats::PaletteBytes(depth));  // where the pixels start
+  file.U32(fileFormats::bitmapFileHeaderBytes + fileFormats::infoHeaderBytes +
+           fileFormats::PaletteBytes(depth));  // where the pixels start
 }
 
 void WriteInfoHeader(int width, int height, const Depth& depth, std::uint32_t imageBytes, ByteWriter& file) {
-  file.U32(FileFormats::infoHeaderBytes);
+  file.U32(fileFormats::infoHeaderBytes);
   file.I32(width);
   file.I32(height);
-  file.U16(FileFormats::planes);
+  file.U16(fileFormats::planes);
   file.U16(depth.bitsPerPixel);
-  file.U32(FileFormats::noCompression);
+  file.U32(fileFormats::noCompression);
   file.U32(imageBytes);
-  file.I32(FileFormats::resolutionNotGiven);  // across
-  file.I32(FileFormats::resolutionNotGiven);  // down
-  file.U32(FileFormats::allColors);           // used
-  file.U32(FileFormats::allColors);           // important
+  file.I32(fileFormats::resolutionNotGiven);  // across
+  file.I32(fileFormats::resolutionNotGiven);  // down
+  file.U32(fileFormats::allColors);           // used
+  file.U32(fileFormats::allColors);           // important
 }
 
 void WritePalette(std::span<const Color> palette, ByteWriter& file) {
@@ -107,7 +107,7 @@ bool WriteIconOrCursor(const PixelView& mask, const PixelView& image, ColorClass
                        const std::string& path, FileSink& sink) {
   const PixelCopy imagePixels(image);
   const PixelCopy maskPixels(mask);
-  const Depth& depth = FileFormats::DepthOf(colors);
+  const Depth& depth = fileFormats::DepthOf(colors);
   constexpr int imageAndMask = 2;
   constexpr std::uint32_t imageBytesNotGiven = 0;
 
@@ -123,34 +123,34 @@ bool WriteIconOrCursor(const PixelView& mask, const PixelView& image, ColorClass
 
 bool WriteIcon(const PixelView& mask, const PixelView& image, ColorClass colors, const std::string& path,
                FileSink& sink) {
-  const DirectoryFields fields{FileFormats::iconType, FileFormats::planes, FileFormats::DepthOf(colors).bitsPerPixel};
+  const DirectoryFields fields{fileFormats::iconType, fileFormats::planes, fileFormats::DepthOf(colors).bitsPerPixel};
   return WriteIconOrCursor(mask, image, colors, fields, path, sink);
 }
 
 bool WriteCursor(const PixelView& mask, const PixelView& image, ColorClass colors, HotSpot hotSpot,
                  const std::string& path, FileSink& sink) {
-  const DirectoryFields fields{FileFormats::cursorType, static_cast<std::uint16_t>(hotSpot.x),
+  const DirectoryFields fields{fileFormats::cursorType, static_cast<std::uint16_t>(hotSpot.x),
                                static_cast<std::uint16_t>(hotSpot.y)};
   return WriteIconOrCursor(mask, image, colors, fields, path, sink);
 }
 
 bool WriteBitmap(const PixelView& composed, ColorClass colors, const std::string& path, FileSink& sink) {
   const PixelCopy pixels(composed);
-  const Depth& depth = FileFormats::DepthOf(colors);
+  const Depth& depth = fileFormats::DepthOf(colors);
   ByteWriter file(SizeBound(pixels));
-  WriteBitmapFileHeader(FileFormats::BitmapFileSize(depth, pixels.Width()), depth, file);
+  WriteBitmapFileHeader(fileFormats::BitmapFileSize(depth, pixels.Width()), depth, file);
   WriteInfoHeader(pixels.Width(), pixels.Height(), depth,
-                  FileFormats::DeclaredImageBytes(depth, pixels.Width(), pixels.Height()), file);
+                  fileFormats::DeclaredImageBytes(depth, pixels.Width(), pixels.Height()), file);
   WritePaletteAndPixels(pixels, colors, ModPalette::BuildBitmapPalette, file);
   return WriteWholeFile(sink, path, file.Bytes(), ReadOnlyFile::Refused);
 }
 
 ByteWriter TrueColorBitmap(const PixelView& composed) {
   const PixelCopy pixels(composed);
-  const Depth& depth = FileFormats::DepthOf(ColorClass::TrueColor);
-  const std::uint32_t imageBytes = FileFormats::DeclaredImageBytes(depth, pixels.Width(), pixels.Height());
+  const Depth& depth = fileFormats::DepthOf(ColorClass::TrueColor);
+  const std::uint32_t imageBytes = fileFormats::DeclaredImageBytes(depth, pixels.Width(), pixels.Height());
   ByteWriter file(SizeBound(pixels));
-  WriteBitmapFileHeader(FileFormats::bitmapFileHeaderBytes + FileFormats::infoHeaderBytes + imageBytes, depth, file);
+  WriteBitmapFileHeader(fileFormats::bitmapFileHeaderBytes + fileFormats::infoHeaderBytes + imageBytes, depth, file);
   WriteInfoHeader(pixels.Width(), pixels.Height(), depth, imageBytes, file);
   WritePadded24Bit(pixels, file);
   return file;

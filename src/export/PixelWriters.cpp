@@ -21,12 +21,12 @@ constexpr int widthWithoutExtraBytes = 32;
 constexpr std::size_t extraRowBytes1Bit = 2;
 
 void FillRow24Bit(std::span<const Color> row, std::span<std::byte> bytes) {
-  std::size_t place = 0;
+  std::size_t offset = 0;
   for (const Color color : row) {
-    bytes[place] = std::byte{BlueOf(color)};
-    bytes[place + 1] = std::byte{GreenOf(color)};
-    bytes[place + 2] = std::byte{RedOf(color)};
-    place += bytesPerPixel24Bit;
+    bytes[offset] = std::byte{BlueOf(color)};
+    bytes[offset + 1] = std::byte{GreenOf(color)};
+    bytes[offset + 2] = std::byte{RedOf(color)};
+    offset += bytesPerPixel24Bit;
   }
 }
 

@@ -19,7 +19,7 @@ std::size_t RowBytes1Bit(int width);
 // where readers expect 8. That is meant.
 void Write1Bit(const PixelCopy& pixels, ByteWriter& file);
 
-// Four bits a pixel, the left of two in the high half: the place of its colour among the sixteen. A colour that is not
+// Four bits a pixel, the left of two in the high half: the index of its colour among the sixteen. A colour that is not
 // among them repeats the value last found for the same half of a byte, wherever in the picture that was, 0 before any;
 // no nearest colour is looked for.
 void Write4Bit(const PixelCopy& pixels, ByteWriter& file);

@@ -80,18 +80,19 @@ bool SaveCommands::RenderCurrent() {
 
 bool SaveCommands::WriteIcon(const std::string& path) {
   const auto colors = Classify(window_.PicImage(), BlackAndWhite::InFixedSlots);
-  return ModMicroArtFileIO::WriteIcon(window_.PicMask(), window_.PicImage(), colors, path, tools_.files);
+  return ModMicroArtFileIO::WriteIcon(window_.PicMask(), window_.PicImage(), colors, path, dependencies_.files);
 }
 
 bool SaveCommands::WriteCursor(const std::string& path) {
   const auto colors = Classify(window_.PicImage(), BlackAndWhite::InFixedSlots);
   const ModMicroArtFileIO::HotSpot hotSpot{state_.HotSpotX, state_.HotSpotY};
-  return ModMicroArtFileIO::WriteCursor(window_.PicMask(), window_.PicImage(), colors, hotSpot, path, tools_.files);
+  return ModMicroArtFileIO::WriteCursor(window_.PicMask(), window_.PicImage(), colors, hotSpot, path,
+                                        dependencies_.files);
 }
 
 bool SaveCommands::WriteBitmap(const std::string& path) {
   const auto colors = Classify(window_.PicIcon(), BlackAndWhite::InOrder);
-  return ModMicroArtFileIO::WriteBitmap(window_.PicIcon(), colors, path, tools_.files);
+  return ModMicroArtFileIO::WriteBitmap(window_.PicIcon(), colors, path, dependencies_.files);
 }
 
 void SaveCommands::mnuSaveAs_Click() {
@@ -101,7 +102,7 @@ void SaveCommands::mnuSaveAs_Click() {
   bool written = false;
   {
     const Saving saving(*this);
-    path = tools_.dialogs.AskForPath(saveAsMode);
+    path = dependencies_.dialogs.AskForPath(saveAsMode);
     if (path.empty()) return;
     written = WriteIcon(path);
   }
@@ -111,7 +112,7 @@ void SaveCommands::mnuSaveAs_Click() {
 void SaveCommands::MnuSaveAsBitmap_Click() {
   const auto held = window_.HoldCommands();
   if (!RenderCurrent()) return;
-  const std::string path = tools_.dialogs.AskForPath(saveAsImageMode);
+  const std::string path = dependencies_.dialogs.AskForPath(saveAsImageMode);
   if (path.empty()) return;
   const std::string extension = UpperExtension(path);
   if (extension == "JPG") return SaveBMPToJPG(path);
@@ -131,10 +132,10 @@ void SaveCommands::SaveBitmapNamed(const std::string& path) {
 void SaveCommands::SaveBMPToJPG(const std::string& path) {
   DialogAnswer answer = DialogAnswer::Failed;
   {
-    TemporaryPictureUse temporary(tools_.temporaryPicture);
+    TemporaryPictureUse temporary(dependencies_.temporaryPicture);
     // A picture that could not be had is not offered to the dialog.
     if (const PixelView* picture = temporary.PassThrough(window_.PicIcon())) {
-      JpegDialog& dialog = tools_.dialogs.NewSaveJPG();
+      JpegDialog& dialog = dependencies_.dialogs.NewSaveJPG();
       dialog.InitJpegExport(*picture, path, DialogMode::Single);
       answer = dialog.ShowFor(DialogMode::Single);
     }
@@ -143,16 +144,16 @@ void SaveCommands::SaveBMPToJPG(const std::string& path) {
 }
 
 void SaveCommands::SaveBMPToGIF(const std::string& path) {
-  const DialogAnswer answer = tools_.dialogs.NewConvertGIF().ShowFor(DialogMode::Single, path);
+  const DialogAnswer answer = dependencies_.dialogs.NewConvertGIF().ShowFor(DialogMode::Single, path);
   if (answer == DialogAnswer::Failed) Tell(saveTexts::imageFailed, MessageKind::Failure);
 }
 
 void SaveCommands::MnuSaveAsCursor_Click() {
   const auto held = window_.HoldCommands();
   if (!RenderCurrent()) return;
-  tools_.dialogs.ShowFrmHotSpot();
+  dependencies_.dialogs.ShowFrmHotSpot();
   if (state_.HotSpotCancelled) return;
-  const std::string path = tools_.dialogs.AskForPath(saveAsCursorMode);
+  const std::string path = dependencies_.dialogs.AskForPath(saveAsCursorMode);
   if (path.empty()) return;
   bool written = false;
   {
@@ -194,7 +195,7 @@ bool SaveCommands::IsAnySelected() {
 
 std::string SaveCommands::AskForFolder(std::string_view saveExtension) {
   state_.SaveExtension = saveExtension;
-  std::string folder = tools_.dialogs.ShowDir();
+  std::string folder = dependencies_.dialogs.ShowDir();
   if (!folder.empty() && !folder.ends_with('\\')) folder += '\\';
   return folder;
 }
@@ -227,8 +228,8 @@ void SaveCommands::SaveImages(Scope scope) {
 }
 
 void SaveCommands::SaveBMPToJPGForNoSingle(Scope scope, const std::string& folder, const BatchKind& kind) {
-  TemporaryPictureUse temporary(tools_.temporaryPicture);
-  JpegDialog& dialog = tools_.dialogs.NewSaveJPG();
+  TemporaryPictureUse temporary(dependencies_.temporaryPicture);
+  JpegDialog& dialog = dependencies_.dialogs.NewSaveJPG();
   const std::shared_ptr<void> freed(nullptr, [&dialog](void*) { dialog.FreeObj(); });
   if (dialog.ShowFor(DialogMode::NoSingle) != DialogAnswer::Ok) return;
   SaveBatch(scope, folder, kind, [&](const std::string& path) {
@@ -240,7 +241,7 @@ void SaveCommands::SaveBMPToJPGForNoSingle(Scope scope, const std::string& folde
 }
 
 void SaveCommands::SaveBMPToGIFForNoSingle(Scope scope, const std::string& folder, const BatchKind& kind) {
-  GifDialog& dialog = tools_.dialogs.NewConvertGIF();
+  GifDialog& dialog = dependencies_.dialogs.NewConvertGIF();
   const std::shared_ptr<void> freed(nullptr, [&dialog](void*) { dialog.FreeGifObj(); });
   if (dialog.ShowFor(DialogMode::NoSingle, {}) != DialogAnswer::Ok) return;
   SaveBatch(scope, folder, kind, [&](const std::string& path) { return dialog.SaveToGIFNoSingle(path); });
@@ -265,8 +266,8 @@ void SaveCommands::mnuCopy_Click() {
 }
 
 void SaveCommands::CleanUp() {
-  tools_.temporaryPicture.Delete();
-  tools_.dialogs.FreeEncoders();
+  dependencies_.temporaryPicture.Delete();
+  dependencies_.dialogs.FreeEncoders();
 }
 
 void SaveCommands::Tell(const Text& text, MessageKind kind, const std::string& path) {

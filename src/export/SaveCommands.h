@@ -18,14 +18,15 @@ namespace tarvik {
 class SaveCommands {
  public:
   // Everything outlives the commands.
-  struct Tools {
+  struct Dependencies {
     SaveDialogs& dialogs;
     FileSink& files;
     TemporaryPicture& temporaryPicture;
   };
 
-  SaveCommands(SaveWindow& window, Tools tools, const IconList& list, const SearchState& search, ProgramState& state)
-      : window_(window), tools_(tools), list_(list), search_(search), state_(state) {}
+  SaveCommands(SaveWindow& window, Dependencies dependencies, const IconList& list, const SearchState& search,
+               ProgramState& state)
+      : window_(window), dependencies_(dependencies), list_(list), search_(search), state_(state) {}
 
   // One icon, the current one, under a name that the user gives. Without a current entry they do nothing.
   void mnuSaveAs_Click();
@@ -81,7 +82,7 @@ class SaveCommands {
   void Tell(const Text& text, MessageKind kind, const std::string& path = {});
 
   SaveWindow& window_;
-  Tools tools_;
+  Dependencies dependencies_;
   const IconList& list_;
   const SearchState& search_;
   ProgramState& state_;

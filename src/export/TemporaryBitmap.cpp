@@ -18,7 +18,7 @@
 namespace tarvik {
 namespace {
 
-constexpr const char* firstPath = "C:\\tmp.bmp";
+constexpr const char* preferredPath = "C:\\tmp.bmp";
 
 // Makes the bytes all that the open file holds.
 bool WriteFromStart(HANDLE file, std::span<const std::byte> bytes) {
@@ -40,7 +40,7 @@ std::vector<std::byte> ReadFromStart(HANDLE file) {
 
 }  // namespace
 
-TemporaryBitmap::TemporaryBitmap(Places places) : places_(std::move(places)) {}
+TemporaryBitmap::TemporaryBitmap(Paths paths) : paths_(std::move(paths)) {}
 
 const PixelView* TemporaryBitmap::PassThrough(const PixelView& picture) {
   if (!file_ && !Make()) return nullptr;
@@ -54,9 +54,9 @@ void TemporaryBitmap::Delete() {
 }
 
 bool TemporaryBitmap::Make() {
-  if (MakeNew(places_.path)) return true;
+  if (MakeNew(paths_.path)) return true;
   constexpr int attempts = 100;
-  const std::string stem = places_.folder + "tarvik" + std::to_string(GetCurrentProcessId()) + "-";
+  const std::string stem = paths_.folder + "tarvik" + std::to_string(GetCurrentProcessId()) + "-";
   for (int attempt = 0; attempt < attempts; ++attempt)
     if (MakeNew(stem + std::to_string(attempt) + ".bmp")) return true;
   return false;
@@ -75,22 +75,22 @@ bool TemporaryBitmap::Write(const PixelView& picture) {
 }
 
 bool TemporaryBitmap::ReadBack() {
-  constexpr std::size_t infoPlace = FileFormats::bitmapFileHeaderBytes;
-  constexpr std::size_t pixelPlace = infoPlace + FileFormats::infoHeaderBytes;
+  constexpr std::size_t infoOffset = fileFormats::bitmapFileHeaderBytes;
+  constexpr std::size_t pixelOffset = infoOffset + fileFormats::infoHeaderBytes;
   const std::vector<std::byte> bytes = ReadFromStart(file_.get());
-  if (bytes.size() <= pixelPlace) return false;
+  if (bytes.size() <= pixelOffset) return false;
   BITMAPINFO info{};
-  std::memcpy(&info.bmiHeader, &bytes[infoPlace], sizeof info.bmiHeader);
+  std::memcpy(&info.bmiHeader, &bytes[infoOffset], sizeof info.bmiHeader);
   const int width = info.bmiHeader.biWidth;
   const int height = info.bmiHeader.biHeight;
   if (!picture_) picture_.emplace(width, height, surfaceBackground);
   picture_->Resize(width, height, surfaceBackground);
   return SetDIBitsToDevice(picture_->Dc(), 0, 0, static_cast<DWORD>(width), static_cast<DWORD>(height), 0, 0, 0,
-                           static_cast<UINT>(height), &bytes[pixelPlace], &info, DIB_RGB_COLORS) == height;
+                           static_cast<UINT>(height), &bytes[pixelOffset], &info, DIB_RGB_COLORS) == height;
 }
 
-TemporaryBitmap::Places TemporaryBitmapPlaces() {
-  return {firstPath, TempFolder()};
+TemporaryBitmap::Paths TemporaryBitmapPaths() {
+  return {preferredPath, TempFolder()};
 }
 
 }  // namespace tarvik

@@ -15,12 +15,12 @@ namespace tarvik {
 class TemporaryBitmap final : public TemporaryPicture {
  public:
   // Where the file is made: the path tried first, and the folder (with a backslash at its end) tried next.
-  struct Places {
+  struct Paths {
     std::string path;
     std::string folder;
   };
 
-  explicit TemporaryBitmap(Places places);
+  explicit TemporaryBitmap(Paths paths);
 
   const PixelView* PassThrough(const PixelView& picture) override;
   void Delete() override;
@@ -34,13 +34,13 @@ class TemporaryBitmap final : public TemporaryPicture {
   bool Write(const PixelView& picture);
   bool ReadBack();
 
-  Places places_;
+  Paths paths_;
   std::string path_;
   FileHandle file_;
   std::optional<Surface> picture_;
 };
 
-// The places that the program uses.
-TemporaryBitmap::Places TemporaryBitmapPlaces();
+// The paths that the program uses.
+TemporaryBitmap::Paths TemporaryBitmapPaths();
 
 }  // namespace tarvik

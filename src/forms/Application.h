@@ -26,7 +26,7 @@ class Application {
   HINSTANCE Instance() const { return instance_; }
 
   // Shows a run-time error that stopped a handler of `form`. Set once, before the first form loads.
-  std::function<void(Form& form, const RuntimeError& error)> OnRuntimeError;
+  std::function<void(Form& form, const RuntimeError& error)> onRuntimeError;
 
   // Serves messages until no form is loaded.
   void Run();

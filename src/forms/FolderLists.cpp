@@ -40,24 +40,24 @@ void AddRow(HWND window, UINT message, const std::string& text) {
 // system's font instead of its own.
 int RowHeight(HWND list) {
   const WindowDc dc(list);
-  const Selected font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(list, WM_GETFONT, 0, 0)));
+  const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(list, WM_GETFONT, 0, 0)));
   TEXTMETRICW metrics{};
   GetTextMetricsW(dc.get(), &metrics);
   return metrics.tmHeight * 5 / 4;
 }
 
 // A folder's pictogram, drawn in the row's own height: the tab, the body, and for an open folder the raised flap.
-void DrawFolder(HDC dc, RECT place, bool open) {
-  const int unit = std::max(1L, (place.bottom - place.top) / 12);
+void DrawFolder(HDC dc, RECT bounds, bool open) {
+  const int unit = std::max(1L, (bounds.bottom - bounds.top) / 12);
   const BrushHandle body(CreateSolidBrush(RGB(255, 214, 102)));
   const BrushHandle flap(CreateSolidBrush(RGB(255, 238, 180)));
   const PenHandle outline(CreatePen(PS_SOLID, 1, RGB(150, 110, 20)));
-  const Selected pen(dc, outline.get());
-  const Selected brush(dc, body.get());
-  const int left = place.left + unit;
-  const int right = place.left + 13 * unit;
-  const int top = place.top + 2 * unit;
-  const int bottom = place.bottom - 2 * unit;
+  const SelectedObject pen(dc, outline.get());
+  const SelectedObject brush(dc, body.get());
+  const int left = bounds.left + unit;
+  const int right = bounds.left + 13 * unit;
+  const int top = bounds.top + 2 * unit;
+  const int bottom = bounds.bottom - 2 * unit;
   const POINT outlinePoints[] = {{left, bottom},
                                  {left, top},
                                  {left + 4 * unit, top},
@@ -66,7 +66,7 @@ void DrawFolder(HDC dc, RECT place, bool open) {
                                  {right - 2 * unit, bottom}};
   Polygon(dc, outlinePoints, static_cast<int>(std::size(outlinePoints)));
   if (!open) return;
-  const Selected light(dc, flap.get());
+  const SelectedObject light(dc, flap.get());
   const POINT flapPoints[] = {
       {left, bottom}, {left + 3 * unit, top + 4 * unit}, {right, top + 4 * unit}, {right - 2 * unit, bottom}};
   Polygon(dc, flapPoints, static_cast<int>(std::size(flapPoints)));
@@ -154,13 +154,13 @@ void DirListBox::Draw(const DRAWITEMSTRUCT& item) const {
   const int row = static_cast<int>(item.itemID);
   if (row >= 0 && static_cast<std::size_t>(row) < shown_.size()) {
     const int height = item.rcItem.bottom - item.rcItem.top;
-    RECT place = item.rcItem;
-    place.left += std::min(row, current_ + 1) * height / 2;
-    DrawFolder(item.hDC, place, row <= current_);
-    place.left += height * 5 / 4;
+    RECT bounds = item.rcItem;
+    bounds.left += std::min(row, current_ + 1) * height / 2;
+    DrawFolder(item.hDC, bounds, row <= current_);
+    bounds.left += height * 5 / 4;
     SetBkMode(item.hDC, TRANSPARENT);
     SetTextColor(item.hDC, GetSysColor(chosen ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-    DrawTextW(item.hDC, ToWide(FolderName(shown_[static_cast<std::size_t>(row)])).c_str(), -1, &place,
+    DrawTextW(item.hDC, ToWide(FolderName(shown_[static_cast<std::size_t>(row)])).c_str(), -1, &bounds,
               DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
   }
   if ((item.itemState & ODS_FOCUS) != 0) DrawFocusRect(item.hDC, &item.rcItem);

@@ -169,9 +169,9 @@ INT_PTR Form::HandleOrTell(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     }
     return Handle(message, wParam, lParam);
   } catch (const RuntimeError& error) {
-    application_.OnRuntimeError(*this, error);
+    application_.onRuntimeError(*this, error);
   } catch (const std::bad_alloc&) {
-    application_.OnRuntimeError(*this, OutOfMemoryError());
+    application_.onRuntimeError(*this, OutOfMemoryError());
   }
   return TRUE;
 }
@@ -196,7 +196,7 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return TRUE;
     case WM_NOTIFY:
       return Answer(OnNotify(*reinterpret_cast<NMHDR*>(lParam)));
-    case PictureBox::EventMessage:
+    case PictureBox::eventMessage:
       OnPicture(*reinterpret_cast<const PictureEvent*>(lParam));
       return TRUE;
     case WM_DRAWITEM:

@@ -10,19 +10,19 @@ namespace tarvik {
 namespace {
 
 // Where an item stands: the system's own look-up by id does not find sub-menus on every Windows.
-struct Place {
+struct ItemPosition {
   HMENU menu;
   UINT position;
 };
 
-std::optional<Place> Find(HMENU menu, int id) {
+std::optional<ItemPosition> Find(HMENU menu, int id) {
   const int count = GetMenuItemCount(menu);
   for (int position = 0; position < count; ++position) {
     MENUITEMINFOW info{};
     info.cbSize = sizeof info;
     info.fMask = MIIM_ID | MIIM_SUBMENU;
     GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &info);
-    if (static_cast<int>(info.wID) == id) return Place{menu, static_cast<UINT>(position)};
+    if (static_cast<int>(info.wID) == id) return ItemPosition{menu, static_cast<UINT>(position)};
     if (info.hSubMenu == nullptr) continue;
     if (const auto found = Find(info.hSubMenu, id)) return found;
   }
@@ -72,12 +72,12 @@ void Menu::SetText(int id, std::string_view text) {
 }
 
 std::string Menu::Text(int id) const {
-  const auto place = Find(menu_, id);
-  if (!place) return {};
-  std::wstring text(
-      static_cast<std::size_t>(GetMenuStringW(place->menu, place->position, nullptr, 0, MF_BYPOSITION)) + 1, L'\0');
+  const auto item = Find(menu_, id);
+  if (!item) return {};
+  std::wstring text(static_cast<std::size_t>(GetMenuStringW(item->menu, item->position, nullptr, 0, MF_BYPOSITION)) + 1,
+                    L'\0');
   const int length =
-      GetMenuStringW(place->menu, place->position, text.data(), static_cast<int>(text.size()), MF_BYPOSITION);
+      GetMenuStringW(item->menu, item->position, text.data(), static_cast<int>(text.size()), MF_BYPOSITION);
   return ToUtf8({text.data(), static_cast<std::size_t>(length)});
 }
 
@@ -103,17 +103,17 @@ bool Menu::IsChecked(int id) const {
 }
 
 void Menu::Change(int id, const MENUITEMINFOW& change) {
-  const auto place = Find(menu_, id);
-  if (!place) return;
-  SetMenuItemInfoW(place->menu, place->position, TRUE, &change);
-  if (place->menu == menu_) DrawMenuBar(window_);
+  const auto item = Find(menu_, id);
+  if (!item) return;
+  SetMenuItemInfoW(item->menu, item->position, TRUE, &change);
+  if (item->menu == menu_) DrawMenuBar(window_);
 }
 
 UINT Menu::State(int id) const {
-  const auto place = Find(menu_, id);
-  if (!place) return MFS_DISABLED;
+  const auto item = Find(menu_, id);
+  if (!item) return MFS_DISABLED;
   MENUITEMINFOW info = ItemInfo(MIIM_STATE);
-  GetMenuItemInfoW(place->menu, place->position, TRUE, &info);
+  GetMenuItemInfoW(item->menu, item->position, TRUE, &info);
   return info.fState;
 }
 

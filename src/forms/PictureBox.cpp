@@ -100,7 +100,7 @@ LRESULT CALLBACK PictureBox::WindowProcedure(HWND window, UINT message, WPARAM w
   if (message == WM_ERASEBKGND) return 1;
   if (const auto event = ToEvent(window, message, wParam, lParam)) {
     Capture(window, *event, wParam);
-    SendMessageW(GetAncestor(window, GA_ROOT), EventMessage, 0, reinterpret_cast<LPARAM>(&*event));
+    SendMessageW(GetAncestor(window, GA_ROOT), eventMessage, 0, reinterpret_cast<LPARAM>(&*event));
     return 0;
   }
   return DefWindowProcW(window, message, wParam, lParam);

@@ -6,22 +6,22 @@
 
 namespace tarvik {
 
-// What the pointer did on a picture box. Places are in the picture's pixels.
+// What the pointer did on a picture box. Its position is in the picture's pixels.
 struct PictureEvent {
   enum class Kind { MouseDown, MouseUp, MouseMove, DblClick };
   Kind kind = Kind::MouseMove;
-  int id = 0;      // the picture box's control id
-  int button = 0;  // 1 left, 2 right, 4 middle; on a move, the sum of those held down
-  int shift = 0;   // keyboard-state mask: 1 Shift, 2 Ctrl, 4 Alt
+  int id = 0;        // the picture box's control id
+  int button = 0;    // 1 left, 2 right, 4 middle; on a move, the sum of those held down
+  int heldKeys = 0;  // mask: 1 Shift, 2 Ctrl, 4 Alt
   int x = 0;
   int y = 0;
 };
 
 // A child window that shows a picture kept in memory, or its background where it has none. In a dialog template its
-// class is "TarvikPicture". It sends EventMessage to its form, lParam pointing at a PictureEvent.
+// class is "TarvikPicture". It sends eventMessage to its form, lParam pointing at a PictureEvent.
 class PictureBox {
  public:
-  static constexpr UINT EventMessage = WM_APP + 1;
+  static constexpr UINT eventMessage = WM_APP + 1;
   static constexpr const wchar_t* className = L"TarvikPicture";
 
   static void Register(HINSTANCE instance);

@@ -97,7 +97,7 @@ void ReportList::Note(bool all) {
   choice_.shift = GetKeyState(VK_SHIFT) < 0;
   choice_.ctrl = GetKeyState(VK_CONTROL) < 0;
   choice_.all = all;
-  PostMessageW(GetParent(window_), ChoiceMessage, 0, 0);
+  PostMessageW(GetParent(window_), choiceMessage, 0, 0);
 }
 
 void ReportList::TellChoice() {
@@ -106,19 +106,19 @@ void ReportList::TellChoice() {
   const bool nothingSelected = ListView_GetSelectedCount(window_) == 0;
   choice_.row = nothingSelected && !choice_.ctrl ? -1 : ListView_GetNextItem(window_, -1, LVNI_FOCUSED);
   choice_.anchor = ListView_GetSelectionMark(window_);
-  Choose(choice_);
+  choose(choice_);
 }
 
 void ReportList::FillCell(NMLVDISPINFOW& info) {
   if ((info.item.mask & LVIF_TEXT) == 0) return;
-  cell_ = ToWide(CellText(info.item.iItem, info.item.iSubItem));
+  cell_ = ToWide(cellText(info.item.iItem, info.item.iSubItem));
   info.item.pszText = cell_.data();
 }
 
 LRESULT ReportList::Draw(NMLVCUSTOMDRAW& draw) {
   if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
   if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
-  const Look look = LookOf(static_cast<int>(draw.nmcd.dwItemSpec));
+  const Look look = lookOf(static_cast<int>(draw.nmcd.dwItemSpec));
   if (!look.bold) return CDRF_DODEFAULT;
   // A bold row is the visible selection; the control's own highlight would hide its colour.
   draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);

@@ -28,19 +28,19 @@ class ReportList {
   };
 
   // What a row shows, UTF-8, and how it is written.
-  std::function<std::string(int row, int column)> CellText;
-  std::function<Look(int row)> LookOf;
+  std::function<std::string(int row, int column)> cellText;
+  std::function<Look(int row)> lookOf;
 
   // What the user chose: a row with its keys, or all rows.
   struct Choice {
-    int row = -1;     // -1 for a place below the last row
+    int row = -1;     // -1 for a point below the last row
     int anchor = -1;  // where a range with Shift began
     bool shift = false;
     bool ctrl = false;
     bool all = false;  // Ctrl+A
   };
   // Runs after the user chose; it decides what is selected and sets it by SetSelection.
-  std::function<void(const Choice& choice)> Choose;
+  std::function<void(const Choice& choice)> choose;
 
   void Attach(HWND listView);
   HWND Window() const { return window_; }
@@ -59,9 +59,9 @@ class ReportList {
 
   // Answers the control's questions for texts and looks, and watches for choices; the notification's result.
   LRESULT Notify(NMHDR& header);
-  // Runs Choose for a choice that Notify saw. The form calls it on ChoiceMessage, which the control's notifications
+  // Runs choose for a choice that Notify saw. The form calls it on choiceMessage, which the control's notifications
   // lead to once for each choice, after the control is done with it.
-  static constexpr UINT ChoiceMessage = WM_APP + 2;
+  static constexpr UINT choiceMessage = WM_APP + 2;
   void TellChoice();
 
  private:

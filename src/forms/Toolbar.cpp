@@ -74,9 +74,9 @@ void Toolbar::Enable(int id, bool enabled) {
 SIZE Toolbar::Extent() const {
   SIZE extent{};
   SendMessageW(window_, TB_GETMAXSIZE, 0, reinterpret_cast<LPARAM>(&extent));
-  RECT place{};
-  GetWindowRect(window_, &place);
-  extent.cy = place.bottom - place.top;
+  RECT bounds{};
+  GetWindowRect(window_, &bounds);
+  extent.cy = bounds.bottom - bounds.top;
   return extent;
 }
 

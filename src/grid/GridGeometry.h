@@ -8,6 +8,7 @@
 namespace tarvik {
 
 // The grid of one icon size: all lengths in pixels.
+// NOLINTBEGIN(readability-identifier-naming): see Names and ids in docs/design.md
 struct GridGeometry {
   std::string_view Caption;  // the choice as the size list shows it
   int IconSize = 0;          // side of a drawn icon
@@ -15,9 +16,10 @@ struct GridGeometry {
   int FrameExtent = 0;       // a selection frame's side, measured from corner to corner
   int FirstFrameExtent = 0;  // the far corner of the frame drawn around the first icon right after a search
   int Columns = 0;           // icons in a row
-  int HighestLimit = 0;      // the most icons a search may be allowed to list
+  int MaxLimit = 0;          // the most icons a search may be allowed to list
   int DefaultLimit = 0;      // how many it lists unless the user says otherwise
 };
+// NOLINTEND(readability-identifier-naming)
 
 // The four sizes, in the order of the size list.
 inline constexpr std::array<GridGeometry, 4> gridGeometries{{

@@ -6,7 +6,7 @@
 
 namespace tarvik {
 
-// The grid's picture as a search draws icons into it and a selection draws frames. Places are in the picture's pixels.
+// The grid's picture as a search draws icons into it and a selection draws frames. Points are in the picture's pixels.
 class GridView {
  public:
   virtual ~GridView() = default;

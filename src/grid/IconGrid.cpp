@@ -9,17 +9,17 @@
 namespace tarvik {
 namespace {
 
-RECT PlaceInParent(HWND window) {
-  RECT place;
-  GetWindowRect(window, &place);
-  MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
-  return place;
+RECT BoundsInParent(HWND window) {
+  RECT bounds;
+  GetWindowRect(window, &bounds);
+  MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
 }
 
 bool IsOver(POINT pointer, HWND window) {
-  RECT place;
-  GetWindowRect(window, &place);
-  return PtInRect(&place, pointer) != FALSE;
+  RECT bounds;
+  GetWindowRect(window, &bounds);
+  return PtInRect(&bounds, pointer) != FALSE;
 }
 
 }  // namespace
@@ -30,23 +30,23 @@ void IconGrid::Attach(HWND frame, HWND bar, int pictureId) {
   frame_ = frame;
   vsb_.Attach(bar);
   extent_.reset();
-  const RECT place = PlaceInParent(frame_);
+  const RECT bounds = BoundsInParent(frame_);
   const int border = 2 * GetSystemMetrics(SM_CXEDGE);
   const int width = WidestGrid() + border;
   const int height = viewportHeight + border;
   constexpr UINT flags = SWP_NOZORDER | SWP_NOACTIVATE;
-  SetWindowPos(frame_, nullptr, place.left, place.top, width, height, flags);
-  SetWindowPos(bar, nullptr, place.left + width, place.top, GetSystemMetrics(SM_CXVSCROLL), height, flags);
+  SetWindowPos(frame_, nullptr, bounds.left, bounds.top, width, height, flags);
+  SetWindowPos(bar, nullptr, bounds.left + width, bounds.top, GetSystemMetrics(SM_CXVSCROLL), height, flags);
   picIcons_ = PictureBox::Create(frame_, pictureId, picture_.Width(), picture_.Height());
   picIcons_.Show(&picture_);
 }
 
-RECT IconGrid::Place() const {
-  RECT place{};
-  const RECT frame = PlaceInParent(frame_);
-  const RECT bar = PlaceInParent(vsb_.Window());
-  UnionRect(&place, &frame, &bar);
-  return place;
+RECT IconGrid::Bounds() const {
+  RECT bounds{};
+  const RECT frame = BoundsInParent(frame_);
+  const RECT bar = BoundsInParent(vsb_.Window());
+  UnionRect(&bounds, &frame, &bar);
+  return bounds;
 }
 
 void IconGrid::Show(bool shown) const {
@@ -83,7 +83,7 @@ bool IconGrid::OnWheel(const MSG& message) {
   return true;
 }
 
-// The one place that sets the bar's value and the picture's place, so that they cannot differ.
+// The one function that sets the bar's value and the picture's position, so that they cannot differ.
 void IconGrid::ScrollTo(int value) {
   vsb_.SetValue(value);
   SetWindowPos(picIcons_.Window(), nullptr, 0, -vsb_.Value(), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -114,12 +114,12 @@ void IconGrid::Keep() {
 }
 
 void IconGrid::DrawFrame(Point corner, Point farCorner, bool shown) {
-  const Selected pen(picture_.Dc(), GetStockObject(shown ? BLACK_PEN : WHITE_PEN));
-  const Selected brush(picture_.Dc(), GetStockObject(NULL_BRUSH));
+  const SelectedObject pen(picture_.Dc(), GetStockObject(shown ? BLACK_PEN : WHITE_PEN));
+  const SelectedObject brush(picture_.Dc(), GetStockObject(NULL_BRUSH));
   // The far corner belongs to the frame; GDI leaves its own last row and column out.
-  const RECT place{corner.x, corner.y, farCorner.x + 1, farCorner.y + 1};
-  Rectangle(picture_.Dc(), place.left, place.top, place.right, place.bottom);
-  InvalidateRect(picIcons_.Window(), &place, FALSE);
+  const RECT bounds{corner.x, corner.y, farCorner.x + 1, farCorner.y + 1};
+  Rectangle(picture_.Dc(), bounds.left, bounds.top, bounds.right, bounds.bottom);
+  InvalidateRect(picIcons_.Window(), &bounds, FALSE);
 }
 
 }  // namespace tarvik

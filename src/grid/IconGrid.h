@@ -23,8 +23,8 @@ class IconGrid final : public GridView {
   // the id `pictureId`. The viewport becomes as many pixels wide and high as the grids need, whatever the size of the
   // dialog's font, and the bar moves to its right edge.
   void Attach(HWND frame, HWND bar, int pictureId);
-  // The place of viewport and bar together, in pixels of their parent window.
-  RECT Place() const;
+  // The rectangle of viewport and bar together, in pixels of their parent window.
+  RECT Bounds() const;
   void Show(bool shown) const;
 
   // Scrolls as the user asks by WM_VSCROLL; nothing if that came from another bar.

@@ -7,7 +7,10 @@
 
 namespace tarvik {
 
-// What a search and the grid share; the main window owns it. A search resets it before it lists the first icon.
+// What a search, the grid and the selection share; the main window owns it. A search starts IconCount anew when
+// it counts, the number and the cell when it lists, and frame and current entry when it has listed; one that is refused
+// goes no further than IconCount. Geometry is the user's choice, which no search changes.
+// NOLINTBEGIN(readability-identifier-naming): see Names and ids in docs/design.md
 struct SearchState {
   Integer16 IconCount;     // icons that the counting pass found
   int NextIconNumber = 1;  // the number that the next entry gets
@@ -21,5 +24,6 @@ struct SearchState {
   GridGeometry Geometry = gridGeometries[1];
   std::string SavedDirPath;  // while a walk moves Dir1: the folder that it is put back to; otherwise empty
 };
+// NOLINTEND(readability-identifier-naming)
 
 }  // namespace tarvik

@@ -14,16 +14,16 @@ Selection::Selection(SelectionView& view, GridView& grid, IconList& list, Search
                      const std::string& language)
     : view_(view), grid_(grid), list_(list), state_(state), language_(language) {}
 
-void Selection::PicIcons_MouseUp(int shift, double x, double y) {
+void Selection::PicIcons_MouseUp(int heldKeys, double x, double y) {
   if (state_.IsSearching) return;
   const auto cell = CellAt(state_.Geometry, x, y, grid_.InnerHeight());
-  if (cell && Answers(cell->index)) Choose(*cell, shift == ctrlShift);
+  if (cell && Answers(cell->index)) Choose(*cell, heldKeys == ctrlAlone);
 }
 
-void Selection::ChooseRow(int number, int shift) {
+void Selection::ChooseRow(int number, int heldKeys) {
   const int index = number - 1;
   if (state_.IsSearching || !Answers(index)) return;
-  Choose({index, FrameCorner(state_.Geometry, index)}, shift == ctrlShift);
+  Choose({index, FrameCorner(state_.Geometry, index)}, heldKeys == ctrlAlone);
 }
 
 void Selection::ChooseRange(int from, int to, bool keepOthers) {

@@ -15,7 +15,7 @@ class SelectionView {
  public:
   virtual ~SelectionView() = default;
 
-  // Whether labels number an icon by its place in its own file (mnuIL2) or by its entry (mnuIL1).
+  // Whether labels number an icon by its index in its own file (mnuIL2) or by its entry (mnuIL1).
   virtual bool NumbersByFile() const = 0;
 
   virtual void SetInfoText(const std::string& text) = 0;
@@ -23,15 +23,14 @@ class SelectionView {
   virtual void ListChanged() = 0;
 };
 
-// The keyboard state that counts as Ctrl: Ctrl alone. With another key beside it a click is a plain one.
-inline constexpr int ctrlShift = 2;
+// The held keys that count as Ctrl (see PictureEvent): Ctrl alone. With another key beside it a click is a plain one.
+inline constexpr int ctrlAlone = 2;
 
-// The number that the label shows for an entry: its own, or with `byFile` its icon's place in its file,
+// The number that the label shows for an entry: its own, or with `byFile` its icon's index in its file,
 // counted from 1.
 int LabelNumber(const IconListEntry& entry, int number, bool byFile);
 
-// Chooses the current entry and the selection, and keeps rows, frames and texts in step. It works on the
-// icon list and the state of the search, and so stands beside them, above the grid's geometry.
+// Chooses the current entry and the selection, and keeps rows, frames and texts in step.
 //
 // Does nothing while a search runs, nor for an entry that the list does not hold, as after a refused search.
 class Selection {
@@ -41,10 +40,10 @@ class Selection {
 
   // A button released on the grid at (x, y), in pixels of PicIcons. Every button acts alike. A plain click
   // leaves the clicked entry selected alone; with Ctrl it adds the entry or takes it out.
-  void PicIcons_MouseUp(int shift, double x, double y);
+  void PicIcons_MouseUp(int heldKeys, double x, double y);
 
   // A row chosen in the list view, by its number: the rule of a click on the entry's cell.
-  void ChooseRow(int number, int shift);
+  void ChooseRow(int number, int heldKeys);
 
   // A range of rows in the list view, from where it was begun to where it now ends, which becomes the current
   // entry. The other rows are deselected unless `keepOthers`. Frames follow, the first cell's too.

@@ -2,7 +2,7 @@
 
 #include "startup/Language.h"
 
-// The texts of the selection. "%1" is a place for a value (see Compose).
+// The texts of the selection. "%1" stands for a value (see Compose).
 namespace tarvik::selectionTexts {
 
 // Label after an entry was chosen: its number. Unlike the text after a search it has a blank before "NO.".

@@ -33,7 +33,7 @@ BitmapHandle ScreenBitmap(const Surface& picture) {
   BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), picture.Width(), picture.Height()));
   const MemoryDc dc(CreateCompatibleDC(screen.get()));
   if (!bitmap || !dc) return {};
-  const Selected selected(dc.get(), bitmap.get());
+  const SelectedObject selected(dc.get(), bitmap.get());
   BitBlt(dc.get(), 0, 0, picture.Width(), picture.Height(), picture.Dc(), 0, 0, SRCCOPY);
   return bitmap;
 }

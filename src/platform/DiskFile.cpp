@@ -133,9 +133,9 @@ bool DiskFile::Close() {
 }
 
 bool DiskFile::WriteThrough(std::span<const std::byte> bytes) {
-  constexpr std::size_t mostAtOnce = std::size_t{1} << 30U;  // the call counts in 32 bits
+  constexpr std::size_t maxAtOnce = std::size_t{1} << 30U;  // the call counts in 32 bits
   while (!bytes.empty()) {
-    const auto part = bytes.first(std::min(bytes.size(), mostAtOnce));
+    const auto part = bytes.first(std::min(bytes.size(), maxAtOnce));
     DWORD written = 0;
     if (WriteFile(file_.get(), part.data(), static_cast<DWORD>(part.size()), &written, nullptr) == 0 || written == 0) {
       complete_ = false;

@@ -111,12 +111,12 @@ class WindowDc {
 };
 
 // An object selected into a device context; the former one is put back when it ends.
-class Selected {
+class SelectedObject {
  public:
-  Selected(HDC dc, HGDIOBJ object) : dc_(dc), former_(SelectObject(dc, object)) {}
-  ~Selected() { SelectObject(dc_, former_); }
-  Selected(const Selected&) = delete;
-  Selected& operator=(const Selected&) = delete;
+  SelectedObject(HDC dc, HGDIOBJ object) : dc_(dc), former_(SelectObject(dc, object)) {}
+  ~SelectedObject() { SelectObject(dc_, former_); }
+  SelectedObject(const SelectedObject&) = delete;
+  SelectedObject& operator=(const SelectedObject&) = delete;
 
  private:
   HDC dc_;

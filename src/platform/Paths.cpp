@@ -11,7 +11,7 @@ namespace tarvik {
 namespace {
 
 constexpr DWORD pathBufferSize = 260;
-constexpr DWORD longestWidePath = 32768;  // no path is longer
+constexpr DWORD maxWidePath = 32768;  // no path is longer
 
 bool StartsAtDriveRoot(std::string_view path) {
   return path.size() >= 3 && path[1] == ':' && path[2] == '\\';
@@ -22,15 +22,15 @@ bool StartsAtShare(std::string_view path) {
 }
 
 // What a call wrote into a buffer: as many characters as it said, never more than there are.
-std::string Written(const std::string& buffer, UINT count) {
+std::string TakeWritten(const std::string& buffer, UINT count) {
   return buffer.substr(0, std::min<std::size_t>(count, buffer.size()));
 }
 
 }  // namespace
 
 std::string ProgramPath() {
-  std::wstring path(longestWidePath, L'\0');
-  path.resize(GetModuleFileNameW(nullptr, path.data(), longestWidePath));
+  std::wstring path(maxWidePath, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), maxWidePath));
   return ToUtf8(path);
 }
 
@@ -41,13 +41,13 @@ std::string ProgramFolder() {
 std::string SystemFolder() {
   std::string buffer(pathBufferSize, ' ');
   const UINT count = GetSystemDirectoryA(buffer.data(), pathBufferSize);
-  return Written(buffer, count);
+  return TakeWritten(buffer, count);
 }
 
 std::string TempFolder() {
   std::string buffer(pathBufferSize, ' ');
   const DWORD count = GetTempPathA(pathBufferSize, buffer.data());
-  return Written(buffer, count);
+  return TakeWritten(buffer, count);
 }
 
 std::wstring LiteralPath(std::string_view path) {

@@ -67,10 +67,10 @@ Color Surface::Pixel(int x, int y) const {
 void Surface::CopyPixels(std::span<Color> pixels) const {
   GdiFlush();
   const std::uint8_t* row = section_->bits;
-  auto place = pixels.begin();
+  auto next = pixels.begin();
   for (int y = 0; y < height_; ++y, row += RowBytes(width_)) {
     const std::uint8_t* pixel = row;
-    for (int x = 0; x < width_; ++x, pixel += bytesPerPixel) *place++ = ColorAt(pixel);
+    for (int x = 0; x < width_; ++x, pixel += bytesPerPixel) *next++ = ColorAt(pixel);
   }
 }
 

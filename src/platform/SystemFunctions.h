@@ -13,6 +13,7 @@
 // The functions of the system that the first window does not need, each under its own name. Call them from here: a call
 // of the function itself would have its DLL loaded at every start, which scripts/check-exe refuses.
 namespace tarvik::late {
+// NOLINTBEGIN(readability-identifier-naming): each has its function's name
 
 inline constinit const LateFunction<decltype(&::GetOpenFileNameA)> GetOpenFileNameA("comdlg32.dll", "GetOpenFileNameA");
 inline constinit const LateFunction<decltype(&::GetSaveFileNameA)> GetSaveFileNameA("comdlg32.dll", "GetSaveFileNameA");
@@ -31,5 +32,5 @@ inline constinit const LateFunction<decltype(&::VariantClear)> VariantClear("ole
 
 inline constinit const LateFunction<decltype(&::ExtractIconExA)> ExtractIconExA("shell32.dll", "ExtractIconExA");
 inline constinit const LateFunction<decltype(&::ShellExecuteW)> ShellExecuteW("shell32.dll", "ShellExecuteW");
-
+// NOLINTEND(readability-identifier-naming)
 }  // namespace tarvik::late

@@ -12,8 +12,6 @@ namespace tarvik {
 namespace {
 
 constexpr int pathCharactersInBox = 20;
-constexpr int firstCell = 3;
-constexpr int firstFrame = 1;
 constexpr Point trialCorner{50, 50};  // where animation steps are tried out
 
 constexpr std::array<SearchControl, 5> searchControls{SearchControl::CmdFind, SearchControl::CmdOk,
@@ -31,15 +29,15 @@ struct SearchDriver::OpenFolder {
   std::string identity;        // asked for when it is first needed
 };
 
-SearchDriver::SearchDriver(const Tools& tools)
-    : window_(tools.window),
-      folders_(tools.folders),
-      grid_(tools.grid),
-      ownSurface_(tools.ownSurface),
-      icons_(tools.icons),
-      list_(tools.list),
-      state_(tools.state),
-      language_(tools.language) {}
+SearchDriver::SearchDriver(const Dependencies& dependencies)
+    : window_(dependencies.window),
+      folders_(dependencies.folders),
+      grid_(dependencies.grid),
+      ownSurface_(dependencies.ownSurface),
+      icons_(dependencies.icons),
+      list_(dependencies.list),
+      state_(dependencies.state),
+      language_(dependencies.language) {}
 
 void SearchDriver::CmdFind_Click() {
   if (state_.IsSearching) return;
@@ -77,28 +75,28 @@ bool SearchDriver::IsRefused() {
   }
   const int limit = ToInteger16(window_.txtMax());
   if (count <= limit) return false;
-  const int highestLimit = state_.Geometry.HighestLimit;
-  if (count < highestLimit) {
+  const int maxLimit = state_.Geometry.MaxLimit;
+  if (count < maxLimit) {
     ShowBox(searchTexts::raiseLimit, {std::to_string(count), std::to_string(limit)});
   } else {
-    ShowBox(searchTexts::narrowFolders, {std::to_string(count), std::to_string(highestLimit)});
+    ShowBox(searchTexts::narrowFolders, {std::to_string(count), std::to_string(maxLimit)});
   }
   return true;
 }
 
 void SearchDriver::ListIcons() {
   state_.NextIconNumber = 1;
-  state_.CellY = firstCell;
-  state_.CellX = firstCell;
+  state_.CellY = gridMargin;
+  state_.CellX = gridMargin;
   grid_.Clear();
   RunOverScope(&SearchDriver::ListIconsInFolder);
   UpdateTitle();
   if (const auto text = Pick(searchTexts::firstSelected, language_)) window_.SetInfoText(std::string(*text));
   grid_.Keep();
-  state_.FrameX = firstFrame;
-  state_.FrameY = firstFrame;
+  state_.FrameX = frameMargin;
+  state_.FrameY = frameMargin;
   const int farCorner = state_.Geometry.FirstFrameExtent;
-  grid_.DrawFrame({firstFrame, firstFrame}, {farCorner, farCorner}, true);
+  grid_.DrawFrame({frameMargin, frameMargin}, {farCorner, farCorner}, true);
   state_.CurrentIndex = 0;
   for (const SearchControl control : searchControls) window_.Enable(control, true);
   state_.IsSearching = false;
@@ -145,7 +143,7 @@ void SearchDriver::RunOverScope(Pass pass) {
 void SearchDriver::Walk(const std::string& root, const Enter& enter, const Leave& leave) {
   // Outermost first. A list and not the call stack, because folders can lie in one another deeper than a stack reaches.
   std::vector<OpenFolder> open;
-  open.push_back(Opened(root, enter));
+  open.push_back(Open(root, enter));
   while (!open.empty()) {
     OpenFolder& folder = open.back();
     if (folder.next == folder.subFolders.size()) {
@@ -157,7 +155,7 @@ void SearchDriver::Walk(const std::string& root, const Enter& enter, const Leave
     const bool isBeyondMount = folder.isBeyondMount || subFolder.isMounted;
     if (isBeyondMount && LeadsBack(open, subFolder.path)) continue;
     folders_.SetDir1Path(folder.path);
-    open.push_back(Opened(std::move(subFolder.path), enter));
+    open.push_back(Open(std::move(subFolder.path), enter));
     open.back().isBeyondMount = isBeyondMount;
   }
 }
@@ -173,7 +171,7 @@ bool SearchDriver::LeadsBack(std::vector<OpenFolder>& open, const std::string& f
   });
 }
 
-SearchDriver::OpenFolder SearchDriver::Opened(std::string path, const Enter& enter) {
+SearchDriver::OpenFolder SearchDriver::Open(std::string path, const Enter& enter) {
   OpenFolder folder;
   folder.path = std::move(path);
   enter(folder.path);
@@ -273,7 +271,7 @@ void SearchDriver::DrawInNextCell(ExtractedIcon* icon, int step) {
   }
   state_.CellX += geometry.CellPitch;
   if (state_.NextIconNumber % geometry.Columns == 0) {
-    state_.CellX = firstCell;
+    state_.CellX = gridMargin;
     state_.CellY += geometry.CellPitch;
   }
   state_.NextIconNumber += 1;

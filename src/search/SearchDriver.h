@@ -20,8 +20,8 @@ namespace tarvik {
 // search over the limit is refused before an icon is drawn; the second lists and draws.
 class SearchDriver {
  public:
-  // What a search works on. All of it outlives the driver.
-  struct Tools {
+  // All of them outlive the driver.
+  struct Dependencies {
     SearchWindow& window;
     SearchFolders& folders;
     GridView& grid;
@@ -32,7 +32,7 @@ class SearchDriver {
     const std::string& language;  // read when a text is chosen
   };
 
-  explicit SearchDriver(const Tools& tools);
+  explicit SearchDriver(const Dependencies& dependencies);
 
   // Runs one search to its end; does nothing while one runs. A run-time error leaves the list empty and takes
   // the failure exit, so that the window stays usable, and is thrown on for the handler's boundary to show.
@@ -56,7 +56,7 @@ class SearchDriver {
   void RunOverScope(Pass pass);
   void Walk(const std::string& root, const Enter& enter, const Leave& leave);
   bool LeadsBack(std::vector<OpenFolder>& open, const std::string& folder);
-  OpenFolder Opened(std::string path, const Enter& enter);
+  OpenFolder Open(std::string path, const Enter& enter);
 
   void CountIconsInFolder(const std::string& root);
   void CountFilesOf(const std::string& folder);

@@ -2,7 +2,7 @@
 
 #include "startup/Language.h"
 
-// The texts of a search. "%1" and "%2" are places for values (see Compose).
+// The texts of a search. "%1" and "%2" stand for values (see Compose).
 namespace tarvik::searchTexts {
 
 // Window title: Dir1's path, the count.

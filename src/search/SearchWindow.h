@@ -33,7 +33,7 @@ class SearchWindow {
   virtual void ClearListView() = 0;  // no rows, then the three columns again
   virtual void ListChanged() = 0;    // entries or selection changed
 
-  virtual void DoEvents() = 0;                        // shows the rows added so far, and serves the messages once
+  virtual void DoEvents() = 0;  // serves the messages once, and first shows the rows added so far if the list is shown
   virtual std::shared_ptr<void> ShowHourglass() = 0;  // puts the former pointer back when released
 };
 

@@ -24,11 +24,11 @@ DotsPerInch ResolutionOf(HWND window) {
 
 void CenterForm(Form& form) {
   const auto [across, down] = ResolutionOf(form.Window());
-  RECT place;
-  GetWindowRect(form.Window(), &place);
+  RECT bounds;
+  GetWindowRect(form.Window(), &bounds);
   const TwipSize screen{ToTwips(GetSystemMetrics(SM_CXSCREEN), across), ToTwips(GetSystemMetrics(SM_CYSCREEN), down)};
-  const TwipSize size{ToTwips(place.right - place.left, across), ToTwips(place.bottom - place.top, down)};
-  const auto [left, top] = CenteredPlace(screen, size);
+  const TwipSize size{ToTwips(bounds.right - bounds.left, across), ToTwips(bounds.bottom - bounds.top, down)};
+  const auto [left, top] = CenteredCorner(screen, size);
   SetWindowPos(form.Window(), nullptr, ToPixels(left, across), ToPixels(top, down), 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

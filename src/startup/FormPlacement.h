@@ -5,7 +5,7 @@
 // What every window asks for when it loads, after its texts are set.
 namespace tarvik::basInitEntry {
 
-// Moves the form to its place on the main screen: centred from left to right, a third of the spare height above it.
+// Moves the form to its position on the main screen: centred from left to right, a third of the spare height above it.
 // Its size is unchanged.
 void CenterForm(Form& form);
 

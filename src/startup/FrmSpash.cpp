@@ -33,7 +33,7 @@ DWORD ChangeStyle(HWND window, int which, LONG_PTR taken, LONG_PTR added) {
 }
 
 void DrawVersion(const Surface& surface, HFONT font) {
-  const Selected selected(surface.Dc(), font);
+  const SelectedObject selected(surface.Dc(), font);
   SetBkMode(surface.Dc(), TRANSPARENT);
   SetTextColor(surface.Dc(), versionColor);
   const std::wstring text = ToWide(TARVIK_VERSION_TEXT);
@@ -84,28 +84,28 @@ void FrmSpash::CmdOk_Click() {
 }
 
 void FrmSpash::RemoveCaption() {
-  RECT place;
-  GetClientRect(Window(), &place);
+  RECT bounds;
+  GetClientRect(Window(), &bounds);
   const DWORD style = ChangeStyle(Window(), GWL_STYLE, WS_CAPTION | WS_SYSMENU, WS_BORDER);
   const DWORD extended = ChangeStyle(Window(), GWL_EXSTYLE, WS_EX_DLGMODALFRAME, 0);
-  AdjustWindowRectEx(&place, style, FALSE, extended);
-  SetWindowPos(Window(), nullptr, 0, 0, place.right - place.left, place.bottom - place.top,
+  AdjustWindowRectEx(&bounds, style, FALSE, extended);
+  SetWindowPos(Window(), nullptr, 0, 0, bounds.right - bounds.left, bounds.bottom - bounds.top,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
 // The picture in the size that its control has at this screen's resolution.
 void FrmSpash::DrawPicture() {
   const HWND item = Item(FrmSpash_Picture);
-  RECT place;
-  GetClientRect(item, &place);
-  picture_.emplace(place.right, place.bottom, black);
+  RECT bounds;
+  GetClientRect(item, &bounds);
+  picture_.emplace(bounds.right, bounds.bottom, black);
 
   const BitmapHandle bitmap(static_cast<HBITMAP>(LoadImageW(
       TheApplication().Instance(), MAKEINTRESOURCEW(Bitmap_FrmSpash), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
   BITMAP size{};
   GetObjectW(bitmap.get(), sizeof size, &size);
   const MemoryDc source(CreateCompatibleDC(picture_->Dc()));
-  const Selected selected(source.get(), bitmap.get());
+  const SelectedObject selected(source.get(), bitmap.get());
   SetStretchBltMode(picture_->Dc(), HALFTONE);
   SetBrushOrgEx(picture_->Dc(), 0, 0, nullptr);
   StretchBlt(picture_->Dc(), 0, 0, picture_->Width(), picture_->Height(), source.get(), 0, 0, size.bmWidth,

@@ -14,7 +14,7 @@ std::string UpperCase(std::string text) {
   return text;
 }
 
-std::string Trimmed(const std::string& text) {
+std::string Trim(const std::string& text) {
   const auto first = text.find_first_not_of(' ');
   if (first == std::string::npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
@@ -36,19 +36,19 @@ std::optional<std::string> Compose(const Text& text, std::string_view code,
   std::string composed;
   for (std::size_t i = 0; i < pattern->size(); ++i) {
     const bool marks = (*pattern)[i] == '%' && i + 1 < pattern->size();
-    const int place = marks ? (*pattern)[i + 1] - '1' : -1;
-    if (place < 0 || static_cast<std::size_t>(place) >= values.size()) {
+    const int index = marks ? (*pattern)[i + 1] - '1' : -1;
+    if (index < 0 || static_cast<std::size_t>(index) >= values.size()) {
       composed += (*pattern)[i];
       continue;
     }
-    composed += *(values.begin() + place);
+    composed += *(values.begin() + index);
     ++i;
   }
   return composed;
 }
 
 std::string ReadLanguageValue(LanguageStore& store, const std::string& name) {
-  return Trimmed(store.ReadBuffer(name));
+  return Trim(store.ReadBuffer(name));
 }
 
 LanguageCode ChooseLanguage(LanguageStore& store) {

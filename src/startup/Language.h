@@ -29,7 +29,7 @@ struct Text {
 // The text in the language of `code`, or nothing where the code is none of the three.
 std::optional<std::string_view> Pick(const Text& text, std::string_view code);
 
-// The same with each "%1" to "%9" of the text replaced by the value at that place of `values`. What a value
+// The same with each "%1" to "%9" of the text replaced by the value of that number in `values`. What a value
 // holds is left as it is, a "%1" in a path included.
 std::optional<std::string> Compose(const Text& text, std::string_view code,
                                    std::initializer_list<std::string_view> values);

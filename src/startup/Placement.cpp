@@ -13,7 +13,7 @@ int Part(double spare, int parts) {
 
 }  // namespace
 
-TwipPlace CenteredPlace(const TwipSize& screen, const TwipSize& form) {
+TwipPoint CenteredCorner(const TwipSize& screen, const TwipSize& form) {
   return {Part(screen.width - form.width, 2), Part(screen.height - form.height, 3)};
 }
 

@@ -8,6 +8,7 @@
 namespace tarvik {
 
 // The values that the whole program shares. Made at start-up, lives for the run, and is handed to every window.
+// NOLINTBEGIN(readability-identifier-naming): see Names and ids in docs/design.md
 struct ProgramState {
   LanguageCode CurrentLanguage;  // "ENG", "CHS" or "CHT"; any other text matches no language
   Integer16 ScreenBitsPerPixel;  // of the screen as first measured
@@ -33,6 +34,7 @@ struct ProgramState {
   // The extension of the files that a batch save is about to write: ".ICO", ".CUR" or that of an image type.
   std::string SaveExtension;
 };
+// NOLINTEND(readability-identifier-naming)
 
 // The product's name: title of the plain message boxes, and the first word of every other title.
 inline constexpr const char* productTitle = "Brindle Tarvik";

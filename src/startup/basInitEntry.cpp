@@ -7,8 +7,8 @@ namespace tarvik::basInitEntry {
 namespace {
 
 constexpr int tooFewBitsPerPixel = 8;  // 256 colours
-constexpr int leastWidth = 800;        // pixels
-constexpr int leastHeight = 600;       // pixels
+constexpr int minWidth = 800;          // pixels
+constexpr int minHeight = 600;         // pixels
 
 constexpr const char* shellLibrary = "\\Shell32.dll";
 constexpr const char* scratchIcon = "Abcdwxyz.ico";
@@ -39,7 +39,7 @@ void Refuse(const Refusal& refusal, const std::string& code, StartUpSystem& syst
 
 // Measures and compares; a measure that does not fit its number stops the check before it can say anything.
 template <typename Check>
-bool Guarded(Check check) {
+bool Succeeds(Check check) {
   try {
     return check();
   } catch (const OverflowError&) {
@@ -59,7 +59,7 @@ void Main(ProgramState& state, LanguageStore& language, Screen& screen, StartUpS
 }
 
 bool CheckColorMode(ProgramState& state, Screen& screen, StartUpSystem& system) {
-  return Guarded([&] {
+  return Succeeds([&] {
     state.ScreenBitsPerPixel = screen.BitsPerPixel();
     const Integer16 bitsPerPixel = screen.BitsPerPixel();
     if (bitsPerPixel > tooFewBitsPerPixel) return true;
@@ -69,10 +69,10 @@ bool CheckColorMode(ProgramState& state, Screen& screen, StartUpSystem& system) 
 }
 
 bool CheckScreenResolution(const ProgramState& state, Screen& screen, StartUpSystem& system) {
-  return Guarded([&] {
+  return Succeeds([&] {
     const Integer16 width = screen.Width();
     const Integer16 height = screen.Height();
-    if (height >= leastHeight && width >= leastWidth) return true;
+    if (height >= minHeight && width >= minWidth) return true;
     Refuse(tooSmall, state.CurrentLanguage, system);
     return false;
   });

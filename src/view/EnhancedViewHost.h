@@ -18,7 +18,7 @@ class EnhancedViewHost {
   // The entry of that number, or null where the list holds none. Lives until the list changes.
   virtual const IconListEntry* Entry(int number) const = 0;
 
-  // The selected entry, counted from 0.
+  // The current entry, counted from 0.
   virtual Integer16 CurrentIndex() const = 0;
 
   // Whether the view is open. The view itself says so, from its load to its unload.

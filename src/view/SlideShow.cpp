@@ -3,7 +3,7 @@
 namespace tarvik {
 
 bool SlideShow::Faster() {
-  if (interval_ < leastForFaster) return false;
+  if (interval_ < minForFaster) return false;
   interval_ -= step;
   return true;
 }

@@ -18,13 +18,13 @@ class SlideShow {
   bool Slower();
 
  private:
-  static constexpr int designInterval = 5000;
+  static constexpr int initialInterval = 5000;
   static constexpr int step = 1000;
-  static constexpr int leastForFaster = 1001;   // a shorter interval is not reduced
+  static constexpr int minForFaster = 1001;     // a shorter interval is not reduced
   static constexpr int boundForSlower = 65000;  // an interval that long is not raised
 
   bool isEnabled_ = false;
-  int interval_ = designInterval;
+  int interval_ = initialInterval;
 };
 
 }  // namespace tarvik

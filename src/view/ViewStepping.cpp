@@ -7,7 +7,7 @@ namespace tarvik {
 namespace {
 
 template <typename Step>
-void SkippingErrors(Step step) {
+void SkipErrors(Step step) {
   try {
     step();
   } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): stepping goes on with the next step
@@ -34,16 +34,16 @@ void ViewStepping::ShowLast() {
 
 void ViewStepping::ShowNext() {
   if (currentEntry_ == host_.EntryCount()) currentEntry_ = 1;
-  SkippingErrors([this] { currentEntry_ += 1; });
-  ShowEntrySkippingErrors();
+  SkipErrors([this] { currentEntry_ += 1; });
+  ShowEntryAndSkipErrors();
 }
 
 void ViewStepping::ShowPrevious() {
-  SkippingErrors([this] {
+  SkipErrors([this] {
     if (currentEntry_ == 1) currentEntry_ = host_.EntryCount();
   });
-  SkippingErrors([this] { currentEntry_ -= 1; });
-  ShowEntrySkippingErrors();
+  SkipErrors([this] { currentEntry_ -= 1; });
+  ShowEntryAndSkipErrors();
 }
 
 void ViewStepping::UpdateStatus(int number) {
@@ -60,9 +60,9 @@ void ViewStepping::ShowEntry() {
   UpdateStatus(currentEntry_);
 }
 
-void ViewStepping::ShowEntrySkippingErrors() {
-  SkippingErrors([this] { Render(); });
-  SkippingErrors([this] { UpdateStatus(currentEntry_); });
+void ViewStepping::ShowEntryAndSkipErrors() {
+  SkipErrors([this] { Render(); });
+  SkipErrors([this] { UpdateStatus(currentEntry_); });
 }
 
 }  // namespace tarvik

@@ -27,7 +27,7 @@ class ViewStepping {
   ViewStepping(EnhancedViewHost& host, ViewDisplay& display);
 
   // Starts at the host's selection, which is counted from 0, and takes that number as it is: one below the entry on
-  // screen. The first Next so shows the same entry again, and the first Previous the one two places back. That is
+  // screen. The first Next so shows the same entry again, and the first Previous the one two entries back. That is
   // meant.
   void Begin();
 
@@ -51,7 +51,7 @@ class ViewStepping {
  private:
   void Render();
   void ShowEntry();
-  void ShowEntrySkippingErrors();
+  void ShowEntryAndSkipErrors();
 
   EnhancedViewHost& host_;
   ViewDisplay& display_;

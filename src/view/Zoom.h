@@ -5,8 +5,8 @@
 namespace tarvik {
 
 // How the enhanced view enlarges: by whole factors, so that every pixel of an icon becomes a square of that side.
-inline constexpr int leastZoom = 1;
-inline constexpr int mostZoom = 10;
+inline constexpr int minZoom = 1;
+inline constexpr int maxZoom = 10;
 // The factor that the view opens with, although its zoom list then shows no choice.
 inline constexpr int openingZoom = 5;
 
@@ -21,7 +21,7 @@ inline std::string ZoomText(int factor) {
 
 // The factor of the zoom list's row, counted from 0.
 constexpr int ZoomOfRow(int row) {
-  return row + leastZoom;
+  return row + minZoom;
 }
 
 }  // namespace tarvik

@@ -36,9 +36,9 @@ constexpr auto buttons = std::to_array<Toolbar::Button>({
 });
 
 // The buttons' pictures grow with the display's dots an inch, but toolbar and zoom list together stay above the
-// picture's fixed place.
+// picture's fixed position.
 struct ButtonPicture {
-  int leastDotsPerInch;
+  int minDotsPerInch;
   int side;  // pixels
 };
 constexpr auto buttonPictures = std::to_array<ButtonPicture>({{168, 40}, {120, 32}, {0, 24}});
@@ -52,18 +52,17 @@ int DotsPerInch() {
 
 int ButtonPictureSide() {
   const int dotsPerInch = DotsPerInch();
-  return std::ranges::find_if(buttonPictures, [=](const auto& row) { return dotsPerInch >= row.leastDotsPerInch; })
-      ->side;
+  return std::ranges::find_if(buttonPictures, [=](const auto& row) { return dotsPerInch >= row.minDotsPerInch; })->side;
 }
 
-SIZE SizeOf(const RECT& place) {
-  return {place.right - place.left, place.bottom - place.top};
+SIZE SizeOf(const RECT& bounds) {
+  return {bounds.right - bounds.left, bounds.bottom - bounds.top};
 }
 
 SIZE WindowSize(HWND window) {
-  RECT place{};
-  GetWindowRect(window, &place);
-  return SizeOf(place);
+  RECT bounds{};
+  GetWindowRect(window, &bounds);
+  return SizeOf(bounds);
 }
 
 // The part of the main screen that no taskbar covers.
@@ -91,7 +90,7 @@ void frmBit::ShowSelectedEntry(HWND owner) {
   Load(owner);
   ShowPicture();
   stepping_.UpdateStatus(number);
-  UpdateCaption();  // with the place that the picture took while the view loaded
+  UpdateCaption();  // with the position that the picture took while the view loaded
   ShowModal(owner);
 }
 
@@ -105,7 +104,7 @@ void frmBit::Form_Load() {
   stepping_.Begin();
   show_ = SlideShow();
   StopSlideShow();
-  for (int factor = leastZoom; factor <= mostZoom; ++factor) {
+  for (int factor = minZoom; factor <= maxZoom; ++factor) {
     ComboBox_AddString(Item(frmBit_CboZoom), ToWide(ZoomText(factor)).c_str());
   }
   Zoom(openingZoom);
@@ -225,10 +224,10 @@ void frmBit::AttachControls() {
   img_.Show(&enlarged_);
 
   const HWND zoomList = Item(frmBit_CboZoom);
-  RECT place{};
-  GetWindowRect(zoomList, &place);
-  MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&place), 2);
-  SetWindowPos(zoomList, nullptr, place.left, toolbar_.Extent().cy + zoomListGap, 0, 0,
+  RECT bounds{};
+  GetWindowRect(zoomList, &bounds);
+  MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&bounds), 2);
+  SetWindowPos(zoomList, nullptr, bounds.left, toolbar_.Extent().cy + zoomListGap, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -249,17 +248,17 @@ void frmBit::LoadViewSize() {
   SetWindowPos(Window(), nullptr, 0, 0, NearestPixels(size.width, dotsPerInch), NearestPixels(size.height, dotsPerInch),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   basInitEntry::CenterForm(*this);
-  PlaceOnScreen();
+  MoveOntoScreen();
 }
 
 // A large window, centred, could reach under the taskbar.
-void frmBit::PlaceOnScreen() {
+void frmBit::MoveOntoScreen() {
   const RECT area = WorkArea();
-  RECT place{};
-  GetWindowRect(Window(), &place);
-  const SIZE size = SizeOf(place);
-  SetWindowPos(Window(), nullptr, std::max(area.left, std::min(place.left, area.right - size.cx)),
-               std::max(area.top, std::min(place.top, area.bottom - size.cy)), 0, 0,
+  RECT bounds{};
+  GetWindowRect(Window(), &bounds);
+  const SIZE size = SizeOf(bounds);
+  SetWindowPos(Window(), nullptr, std::max(area.left, std::min(bounds.left, area.right - size.cx)),
+               std::max(area.top, std::min(bounds.top, area.bottom - size.cy)), 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

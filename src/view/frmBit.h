@@ -33,7 +33,7 @@ class frmBit final : public Form, private ViewDisplay {
   // What the main window calls on a double click; returns when the view is closed. Does nothing where the list is
   // empty or the view is open. In this order: the selected entry is rendered, its picture is taken over (which loads
   // the view: from here on the host's ViewOpen is set), its source goes to the status bar, and the view is shown,
-  // modal to `owner`. The view opens at 500 % with the slide show off and its first interval, whatever it was left
+  // modal to `owner`. The view opens at 500 % with the slide show off and its initial interval, whatever it was left
   // with.
   void ShowSelectedEntry(HWND owner);
 
@@ -78,7 +78,7 @@ class frmBit final : public Form, private ViewDisplay {
   void ApplyViewLanguage();
   void LoadViewSize();
   void SaveViewSize();
-  void PlaceOnScreen();
+  void MoveOntoScreen();
   void UpdateCaption();
   void RestartTimer();
   void Zoom(int factor);

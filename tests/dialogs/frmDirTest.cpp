@@ -23,7 +23,7 @@ class frmDirTest : public ::testing::Test {
   frmDirTest() {
     state.CurrentLanguage = "ENG";
     state.SaveExtension = ".ICO";
-    application.OnRuntimeError = [](Form& /*form*/, const RuntimeError& /*error*/) { ADD_FAILURE(); };
+    application.onRuntimeError = [](Form& /*form*/, const RuntimeError& /*error*/) { ADD_FAILURE(); };
     owner = CreateWindowW(L"Static", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr,
                           nullptr);
     subFolders["C:\\work"] = {"C:\\work\\a", "C:\\work\\b"};

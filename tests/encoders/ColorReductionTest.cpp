@@ -56,11 +56,11 @@ TEST(ColorReduction, GivesEachColourThePlaceOfTheNearest) {
   for (const std::size_t most : {1U, 2U, 3U, 17U, 255U, 256U}) {
     const Reduction reduction = ReduceColors(colors, most);
     ASSERT_EQ(reduction.palette.size(), most);
-    ASSERT_EQ(reduction.places.size(), colors.size());
+    ASSERT_EQ(reduction.indexes.size(), colors.size());
     for (std::size_t i = 0; i < colors.size(); ++i) {
       int nearest = std::numeric_limits<int>::max();
       for (const Color color : reduction.palette) nearest = std::min(nearest, distance(color, colors[i].color));
-      ASSERT_EQ(distance(reduction.palette.at(reduction.places[i]), colors[i].color), nearest) << most << ", " << i;
+      ASSERT_EQ(distance(reduction.palette.at(reduction.indexes[i]), colors[i].color), nearest) << most << ", " << i;
     }
   }
 }

@@ -66,8 +66,8 @@ TEST_F(FrmConvertGIFTest, ShowsItsTextsInEachLanguage) {
   for (const std::string language : {"ENG", "CHS", "CHT"}) {
     state.CurrentLanguage = language;
     form.Load();
-    EXPECT_EQ(TextOf(form.Window()), *Pick(FrmConvertGIF_Caption, language));
-    for (const DialogText& row : FrmConvertGIF_Texts) EXPECT_EQ(form.ItemText(row.control), *Pick(row.text, language));
+    EXPECT_EQ(TextOf(form.Window()), *Pick(convertGifCaption, language));
+    for (const DialogText& row : convertGifTexts) EXPECT_EQ(form.ItemText(row.control), *Pick(row.text, language));
     form.Unload();
   }
 }

@@ -37,11 +37,11 @@ void ExpectText(const Text& text, std::string_view eng, std::string_view chs, st
 }
 
 const Text& TextOf(int control) {
-  return std::ranges::find(FrmConvertGIF_Texts, control, &DialogText::control)->text;
+  return std::ranges::find(convertGifTexts, control, &DialogText::control)->text;
 }
 
 TEST(GifOptions, NamesTheControlsInThreeLanguages) {
-  ExpectText(FrmConvertGIF_Caption, "Convert File To Gif", "另存为Gif", "另存為Gif");
+  ExpectText(convertGifCaption, "Convert File To Gif", "另存为Gif", "另存為Gif");
   ExpectText(TextOf(FrmConvertGIF_Check1), "Save &transparent", "透明", "透明");
   ExpectText(TextOf(FrmConvertGIF_Option1), "&Pallate [Best Quality]", "设计 [高质量]", "設計 [高品質]");
   ExpectText(TextOf(FrmConvertGIF_Option2), "For &Web [Normal Quality]", "Web [普通]", "Web [普通]");

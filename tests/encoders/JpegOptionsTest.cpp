@@ -21,9 +21,9 @@ TEST(JpegOptions, GivesEachPresetItsQuality) {
 }
 
 TEST(JpegOptions, OpensWithMediumQualityAndTheDefaultSubSampling) {
-  EXPECT_EQ(qualityPresets[firstPreset].eng, "Medium");
-  EXPECT_EQ(QualityOfPreset(firstPreset), 60);
-  EXPECT_EQ(subSamplings[firstSubSampling], "2:2  [Default]");
+  EXPECT_EQ(qualityPresets[initialPreset].eng, "Medium");
+  EXPECT_EQ(QualityOfPreset(initialPreset), 60);
+  EXPECT_EQ(subSamplings[initialSubSampling], "2:2  [Default]");
 }
 
 TEST(JpegOptions, ShowsTheLowestPresetForEveryQualityUpTo20) {
@@ -88,17 +88,17 @@ TEST(JpegOptions, NamesThePresetsInThreeLanguages) {
 }
 
 TEST(JpegOptions, NamesTheControlsInThreeLanguages) {
-  ExpectText(fSaveJPG_Caption, "JPEG Compression Settings", "JPEG 压缩选项", "JPEG 壓縮選項");
-  ExpectText(TextOf(fSaveJPG_Texts, fSaveJPG_Label2), "Small", "小", "小");
-  ExpectText(TextOf(fSaveJPG_Texts, fSaveJPG_Label3), "Large", "大", "大");
-  ExpectText(TextOf(fSaveJPG_Texts, fSaveJPG_lblQuality), "Quality:", "品质:", "品質:");
-  ExpectText(TextOf(fSaveJPG_Texts, fSaveJPG_lblSubSample), "Sub Sampling:", "取样比例:", "取樣比例:");
-  ExpectText(TextOf(fSaveJPG_Texts, fSaveJPG_chkGreyscale), "Greyscale", "灰度", "灰度");
-  ExpectText(TextOf(fSaveJPG_Texts, fSaveJPG_cmdComment), "Co&mment", "内容", "內容");
-  ExpectText(TextOf(fSaveJPG_Texts, fSaveJPG_cmdFinish0), "&Cancel", "取消(&C)", "取消(&C)");
-  ExpectText(TextOf(fSaveJPG_Texts, fSaveJPG_cmdFinish1), "&OK", "确定(&O)", "確定(&O)");
-  ExpectText(fComment_Caption, "Comment", "内容", "內容");
-  ExpectText(TextOf(fComment_Texts, fComment_cmdFinish), "&OK", "确定(&O)", "確定(&O)");
+  ExpectText(saveJpgCaption, "JPEG Compression Settings", "JPEG 压缩选项", "JPEG 壓縮選項");
+  ExpectText(TextOf(saveJpgTexts, fSaveJPG_Label2), "Small", "小", "小");
+  ExpectText(TextOf(saveJpgTexts, fSaveJPG_Label3), "Large", "大", "大");
+  ExpectText(TextOf(saveJpgTexts, fSaveJPG_lblQuality), "Quality:", "品质:", "品質:");
+  ExpectText(TextOf(saveJpgTexts, fSaveJPG_lblSubSample), "Sub Sampling:", "取样比例:", "取樣比例:");
+  ExpectText(TextOf(saveJpgTexts, fSaveJPG_chkGreyscale), "Greyscale", "灰度", "灰度");
+  ExpectText(TextOf(saveJpgTexts, fSaveJPG_cmdComment), "Co&mment", "内容", "內容");
+  ExpectText(TextOf(saveJpgTexts, fSaveJPG_cmdFinish0), "&Cancel", "取消(&C)", "取消(&C)");
+  ExpectText(TextOf(saveJpgTexts, fSaveJPG_cmdFinish1), "&OK", "确定(&O)", "確定(&O)");
+  ExpectText(commentCaption, "Comment", "内容", "內容");
+  ExpectText(TextOf(commentTexts, fComment_cmdFinish), "&OK", "确定(&O)", "確定(&O)");
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ class fSaveJPGTest : public ::testing::Test {
  protected:
   fSaveJPGTest() {
     state.CurrentLanguage = "ENG";
-    application.OnRuntimeError = [](Form& /*form*/, const RuntimeError& /*error*/) { ADD_FAILURE(); };
+    application.onRuntimeError = [](Form& /*form*/, const RuntimeError& /*error*/) { ADD_FAILURE(); };
   }
 
   // Shows the dialog for one file; `work` works it.
@@ -67,8 +67,8 @@ TEST_F(fSaveJPGTest, ShowsItsTextsInEachLanguage) {
   for (const std::string language : {"ENG", "CHS", "CHT"}) {
     state.CurrentLanguage = language;
     form.Load();
-    EXPECT_EQ(TextOf(form.Window()), *Pick(fSaveJPG_Caption, language));
-    for (const DialogText& row : fSaveJPG_Texts) EXPECT_EQ(form.ItemText(row.control), *Pick(row.text, language));
+    EXPECT_EQ(TextOf(form.Window()), *Pick(saveJpgCaption, language));
+    for (const DialogText& row : saveJpgTexts) EXPECT_EQ(form.ItemText(row.control), *Pick(row.text, language));
     for (int preset = 0; preset < 5; ++preset)
       EXPECT_EQ(testing::RowText(form.Window(), fSaveJPG_CboSize, preset),
                 *Pick(qualityPresets.at(static_cast<std::size_t>(preset)), language));

@@ -62,14 +62,14 @@ void WriteJpegs(const std::string& start, const PixelView& picture) {
     const std::string path = start + ',' + name + ".jpg";
     Expect(encoder.WriteFile(path), path);
   };
-  encoder.SetQuality(highestQuality);
+  encoder.SetQuality(maxQuality);
   for (const std::string_view item : subSamplings) {
     encoder.SetSampling(SamplingOf(item, false));
     write(std::string("sampling,") + item[0] + ',' + item[2]);
   }
   encoder.SetSampling(SamplingOf(subSamplings.front(), true));
   write("grey");
-  encoder.SetSampling(SamplingOf(subSamplings[firstSubSampling], false));
+  encoder.SetSampling(SamplingOf(subSamplings[initialSubSampling], false));
   encoder.SetComment("Brindle 图标 圖示");
   for (const int quality : {1, 20, 40, 60, 80, 100}) {
     encoder.SetQuality(quality);

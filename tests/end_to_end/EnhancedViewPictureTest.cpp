@@ -45,7 +45,7 @@ TEST_P(EnhancedViewTexts, AreThoseOfTheLanguageAtEveryFactor) {
   SaveViewPicture(view, "opened");
   ASSERT_EQ(view.ZoomList().ComboItems(), (std::vector<std::string>{"100%", "200%", "300%", "400%", "500%", "600%",
                                                                     "700%", "800%", "900%", "1000%"}));
-  for (int factor = leastZoom; factor <= mostZoom; ++factor) {
+  for (int factor = minZoom; factor <= maxZoom; ++factor) {
     view.ChooseFactor(factor);
     EXPECT_EQ(view.Caption(), CaptionAt(factor));
     const RECT place = view.PicturePlaceInWindow();
@@ -56,7 +56,7 @@ TEST_P(EnhancedViewTexts, AreThoseOfTheLanguageAtEveryFactor) {
   }
   SaveViewPicture(view, "1000");
   view.Ask(SC_MAXIMIZE);
-  EXPECT_EQ(view.Caption(), CaptionAt(mostZoom));
+  EXPECT_EQ(view.Caption(), CaptionAt(maxZoom));
   SaveViewPicture(view, "maximised");
   for (std::size_t i = 0; i < GetParam().tooltips.size(); ++i) {
     const int button = frmBit_tlb_control_MoveFirst + static_cast<int>(i);

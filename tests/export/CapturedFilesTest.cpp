@@ -31,7 +31,7 @@ using testing::TemporaryFolder;
 constexpr std::array sizes{16, 32, 48, 64};
 
 int BitsOf(ColorClass colors) {
-  return FileFormats::DepthOf(colors).bitsPerPixel;
+  return fileFormats::DepthOf(colors).bitsPerPixel;
 }
 
 std::vector<Color> PixelsOf(const Surface& surface) {

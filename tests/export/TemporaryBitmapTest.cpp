@@ -88,8 +88,8 @@ TEST_F(TemporaryBitmapTest, GivesTwoProgramsOneFileEach) {
   EXPECT_NE(bitmap.Path(), other.Path());
 }
 
-TEST(TemporaryBitmapPlaces, AreTheDriveRootAndTheUsersFolder) {
-  const TemporaryBitmap::Places places = TemporaryBitmapPlaces();
+TEST(TemporaryBitmapPaths, AreTheDriveRootAndTheUsersFolder) {
+  const TemporaryBitmap::Places places = TemporaryBitmapPaths();
   EXPECT_EQ(places.path, "C:\\tmp.bmp");
   EXPECT_TRUE(places.folder.ends_with('\\'));
 }

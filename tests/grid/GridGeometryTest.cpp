@@ -12,8 +12,8 @@ constexpr GridGeometry size64 = gridGeometries[3];
 
 TEST(GridGeometries, HoldTheFourSizes) {
   const auto numbers = [](const GridGeometry& geometry) {
-    return std::array{geometry.IconSize, geometry.CellPitch,    geometry.FrameExtent, geometry.FirstFrameExtent,
-                      geometry.Columns,  geometry.HighestLimit, geometry.DefaultLimit};
+    return std::array{geometry.IconSize, geometry.CellPitch, geometry.FrameExtent, geometry.FirstFrameExtent,
+                      geometry.Columns,  geometry.MaxLimit,  geometry.DefaultLimit};
   };
   EXPECT_EQ(size16.Caption, "16 x 16");
   EXPECT_EQ(size32.Caption, "32 x 32");

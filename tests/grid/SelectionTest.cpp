@@ -84,7 +84,7 @@ TEST_F(SelectionTest, SelectsTheClickedEntryAloneInThisOrder) {
 }
 
 TEST_F(SelectionTest, AddsAnEntryWithCtrl) {
-  Click(17, ctrlShift);
+  Click(17, ctrlAlone);
   EXPECT_THAT(script.Lines(), ElementsAre("label Icon No 17 Selected.", "show frame (39,39)(75,75)", "list changed",
                                           "status C:\\two.dll"));
   EXPECT_THAT(Selected(), ElementsAre(1, 17));
@@ -95,10 +95,10 @@ TEST_F(SelectionTest, AddsAnEntryWithCtrl) {
 
 TEST_F(SelectionTest, TakesASelectedEntryOutWithCtrlAndMakesItCurrent) {
   Click(5);
-  Click(3, ctrlShift);
-  Click(4, ctrlShift);
+  Click(3, ctrlAlone);
+  Click(4, ctrlAlone);
   script.Clear();
-  Click(3, ctrlShift);
+  Click(3, ctrlAlone);
   EXPECT_THAT(script.Lines("erase frame"), ElementsAre("erase frame (77,1)(113,37)"));
   EXPECT_THAT(script.Lines("show frame"), IsEmpty());
   EXPECT_THAT(Selected(), ElementsAre(4, 5));
@@ -123,7 +123,7 @@ TEST_F(SelectionTest, SelectsAgainWhatIsSelectedWithAPlainClick) {
 
 TEST_F(SelectionTest, LeavesTheFirstCellsFrameWhenOthersWereAddedToIt) {
   Click(1);
-  Click(2, ctrlShift);
+  Click(2, ctrlAlone);
   script.Clear();
   Click(3);
   EXPECT_THAT(script.Lines("erase frame (1,1)"), IsEmpty());
@@ -132,7 +132,7 @@ TEST_F(SelectionTest, LeavesTheFirstCellsFrameWhenOthersWereAddedToIt) {
 
 TEST_F(SelectionTest, ErasesTheFirstCellsFrameWhenItIsTheCurrentOne) {
   Click(2);
-  Click(1, ctrlShift);
+  Click(1, ctrlAlone);
   script.Clear();
   Click(3);
   EXPECT_THAT(script.Lines("erase frame (1,1)"), ElementsAre("erase frame (1,1)(37,37)"));
@@ -151,7 +151,7 @@ TEST_F(SelectionTest, ErasesFromTheSecondCellToOnePastTheLast) {
 
 TEST_F(SelectionTest, UsesTheFrameOfTheChosenSize) {
   state.Geometry = gridGeometries[3];
-  Click(10, ctrlShift);
+  Click(10, ctrlAlone);
   EXPECT_THAT(script.Lines("show frame"), ElementsAre("show frame (71,71)(139,139)"));
 }
 
@@ -164,7 +164,7 @@ TEST_F(SelectionTest, RoundsThePointToWholePixels) {
 
 // At 32 pixels a row ends at 570, and the bound lies beyond.
 TEST_F(SelectionTest, TakesAPointPastARowsEndForTheNextRowsFirstEntry) {
-  selection.PicIcons_MouseUp(ctrlShift, 572, 10);
+  selection.PicIcons_MouseUp(ctrlAlone, 572, 10);
   EXPECT_EQ(state.CurrentIndex, 15);
   EXPECT_THAT(script.Lines("show frame"), ElementsAre("show frame (571,1)(607,37)"));
   EXPECT_THAT(Selected(), ElementsAre(1, 16));
@@ -186,10 +186,10 @@ TEST_F(SelectionTest, DoesNothingOutsideThePartThatTakesClicks) {
 TEST_F(SelectionTest, NeverReachesTheLastColumnsAtTheSmallestSize) {
   state.Geometry = gridGeometries[0];
   Fill(31);
-  Click(26, ctrlShift);
+  Click(26, ctrlAlone);
   EXPECT_THAT(Selected(), ElementsAre(1, 26));
   script.Clear();
-  for (const int number : {28, 29, 30, 31}) Click(number, ctrlShift);
+  for (const int number : {28, 29, 30, 31}) Click(number, ctrlAlone);
   EXPECT_THAT(script.Lines(), IsEmpty());
 }
 
@@ -286,9 +286,9 @@ TEST_F(SelectionTest, ChoosesARowAsAClickOnItsCellDoes) {
 }
 
 TEST_F(SelectionTest, AddsAndRemovesRowsWithCtrl) {
-  selection.ChooseRow(3, ctrlShift);
+  selection.ChooseRow(3, ctrlAlone);
   EXPECT_THAT(Selected(), ElementsAre(1, 3));
-  selection.ChooseRow(1, ctrlShift);
+  selection.ChooseRow(1, ctrlAlone);
   EXPECT_THAT(Selected(), ElementsAre(3));
   EXPECT_EQ(state.CurrentIndex, 0);
 }
@@ -356,7 +356,7 @@ TEST_F(SelectionTest, ChoosesAllAndKeepsTheCurrentEntry) {
 
 TEST_F(SelectionTest, InvertsEveryEntryWithItsFrame) {
   Fill(3);
-  Click(2, ctrlShift);
+  Click(2, ctrlAlone);
   script.Clear();
   selection.mnuRem_Click();
   EXPECT_THAT(script.Lines(), ElementsAre("erase frame (1,1)(37,37)", "erase frame (39,1)(75,37)",
@@ -368,7 +368,7 @@ TEST_F(SelectionTest, InvertsEveryEntryWithItsFrame) {
 
 TEST_F(SelectionTest, IsAsItWasAfterInvertingTwice) {
   Click(9);
-  Click(11, ctrlShift);
+  Click(11, ctrlAlone);
   selection.mnuRem_Click();
   selection.mnuRem_Click();
   EXPECT_THAT(Selected(), ElementsAre(9, 11));

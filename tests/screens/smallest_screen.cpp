@@ -35,7 +35,7 @@ TEST_F(SmallestScreen, AMaximisedViewShowsTheLargestPictureAtItsPlace) {
   FindPictures(Size64);
   const EnhancedView view = OpenOn(1);
   ExpectOnScreen(view.Window().Place());
-  view.ChooseFactor(mostZoom);
+  view.ChooseFactor(maxZoom);
   view.Ask(SC_MAXIMIZE);
   const RECT inside = view.Window().Inside();
   EXPECT_EQ(inside.left, screen_.left);
@@ -44,8 +44,8 @@ TEST_F(SmallestScreen, AMaximisedViewShowsTheLargestPictureAtItsPlace) {
   const RECT picture = view.PicturePlaceInWindow();
   EXPECT_EQ(picture.left, 100);
   EXPECT_EQ(picture.top, 100);
-  EXPECT_EQ(picture.right - picture.left, 64 * mostZoom);
-  EXPECT_EQ(picture.bottom - picture.top, 64 * mostZoom);
+  EXPECT_EQ(picture.right - picture.left, 64 * maxZoom);
+  EXPECT_EQ(picture.bottom - picture.top, 64 * maxZoom);
   // Its whole width is to be seen, and of its height what the screen leaves.
   EXPECT_LE(view.PicturePlace().right, screen_.right);
   SavePicture(screen_, BuiltFile("../../../run/smallest-screen-view.png"));

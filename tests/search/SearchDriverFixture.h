@@ -55,7 +55,7 @@ class SearchDriverTest : public ::testing::Test {
   FakeGrid grid{script};
   FakeSurface ownSurface{"window"};
   // The same with another machine.
-  SearchDriver::Tools ToolsOver(IconSource& machine) {
+  SearchDriver::Dependencies ToolsOver(IconSource& machine) {
     return {window, window, grid, ownSurface, machine, list, state, language};
   }
   SearchDriver driver{ToolsOver(icons)};

@@ -313,7 +313,7 @@ TEST_F(SearchDriverTest, AsksForNoLimitWhereThereAreNoIcons) {
 TEST_F(SearchDriverTest, OverflowsWhenTheGridGrowsBeyondItsCoordinates) {
   state.Geometry = gridGeometries[3];
   window.max = "32767";
-  state.Geometry.HighestLimit = 32767;
+  state.Geometry.MaxLimit = 32767;
   AddFile("C:\\a", "x.dll", {.icons = 4000});
   EXPECT_THROW(Find(), OverflowError);
   EXPECT_EQ(list.Count(), 0);

@@ -117,7 +117,7 @@ TEST_P(RefusedSearchTest, RunsItsStepsInOrder) {
   const RefusedCase& refused = GetParam();
   language = refused.language;
   window.max = "400";
-  state.Geometry.HighestLimit = 4000;
+  state.Geometry.MaxLimit = 4000;
   AddFile("C:\\a", "x.dll", {.icons = refused.icons});
 
   Find();

@@ -16,9 +16,9 @@ inline void ExpectCentered(HWND window) {
   const WindowDc dc(window);
   const int across = GetDeviceCaps(dc.get(), LOGPIXELSX);
   const int down = GetDeviceCaps(dc.get(), LOGPIXELSY);
-  const TwipPlace expected =
-      CenteredPlace({ToTwips(GetSystemMetrics(SM_CXSCREEN), across), ToTwips(GetSystemMetrics(SM_CYSCREEN), down)},
-                    {ToTwips(place.right - place.left, across), ToTwips(place.bottom - place.top, down)});
+  const TwipPoint expected =
+      CenteredCorner({ToTwips(GetSystemMetrics(SM_CXSCREEN), across), ToTwips(GetSystemMetrics(SM_CYSCREEN), down)},
+                     {ToTwips(place.right - place.left, across), ToTwips(place.bottom - place.top, down)});
   EXPECT_EQ(place.left, ToPixels(expected.left, across));
   EXPECT_EQ(place.top, ToPixels(expected.top, down));
 }

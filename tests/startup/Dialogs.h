@@ -31,9 +31,9 @@ class Dialogs {
   std::unique_ptr<Form> FolderChooser() {
     return std::make_unique<frmDir>(
         application, state,
-        frmDir::Disk{[this] { return drives; }, [](const std::string&) { return std::vector<std::string>(); },
-                     [](const std::string&) -> std::optional<std::string> { return {}; },
-                     [] { return std::string("C:\\"); }});
+        frmDir::Dependencies{[this] { return drives; }, [](const std::string&) { return std::vector<std::string>(); },
+                             [](const std::string&) -> std::optional<std::string> { return {}; },
+                             [] { return std::string("C:\\"); }});
   }
   std::unique_ptr<Form> NewFolder() {
     return std::make_unique<frmDirCreate>(
@@ -46,9 +46,10 @@ class Dialogs {
   std::unique_ptr<Form> JpegOptions() { return std::make_unique<fSaveJPG>(application, state, nullptr, files); }
   std::unique_ptr<Form> JpegComment() { return std::make_unique<fComment>(application, state); }
   std::unique_ptr<Form> GifOptions() {
-    return std::make_unique<FrmConvertGIF>(application, state, nullptr,
-                                           FrmConvertGIF::Parts{[this]() -> const Surface& { return picture; }, files,
-                                                                [](const std::string&) { return std::uint64_t{0}; }});
+    return std::make_unique<FrmConvertGIF>(
+        application, state, nullptr,
+        FrmConvertGIF::Dependencies{[this]() -> const Surface& { return picture; }, files,
+                                    [](const std::string&) { return std::uint64_t{0}; }});
   }
 
   Application application{GetModuleHandleW(nullptr)};

@@ -12,17 +12,17 @@ struct Row {
   int top;
 };
 
-class CenteredPlaceTest : public ::testing::TestWithParam<Row> {};
+class CenteredCornerTest : public ::testing::TestWithParam<Row> {};
 
-TEST_P(CenteredPlaceTest, HalvesTheSpareWidthAndTakesAThirdOfTheSpareHeight) {
+TEST_P(CenteredCornerTest, HalvesTheSpareWidthAndTakesAThirdOfTheSpareHeight) {
   const Row& row = GetParam();
-  const auto [left, top] = CenteredPlace(row.screen, row.form);
+  const auto [left, top] = CenteredCorner(row.screen, row.form);
   EXPECT_EQ(left, row.left);
   EXPECT_EQ(top, row.top);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Sizes, CenteredPlaceTest,
+    Sizes, CenteredCornerTest,
     ::testing::Values(Row{{15360, 11520}, {9000, 9000}, 3180, 840},      // the example of a screen of 1024 x 768
                       Row{{100, 100}, {100, 100}, 0, 0},                 // exactly full
                       Row{{101, 102}, {100, 100}, 0, 0},                 // the remainders are dropped

@@ -104,7 +104,7 @@ bool HasRoom(HWND control, const std::wstring& text) {
   const bool isGroup = IsOfClass(control, L"Button") && (StyleOf(control) & BS_TYPEMASK) == BS_GROUPBOX;
 
   const WindowDc dc(control);
-  const Selected font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
+  const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
   RECT needed{0, 0, room.right, 0};
   const UINT format =
       DT_CALCRECT | (wraps ? DT_WORDBREAK : DT_SINGLELINE) | (IsLabelWithoutPrefix(control) ? DT_NOPREFIX : 0U);

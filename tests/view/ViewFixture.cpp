@@ -25,7 +25,7 @@ ViewFixture::ViewFixture()
     : owner(CreateWindowExW(0, L"STATIC", L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40, 40, 400, 300, nullptr,
                             nullptr, GetModuleHandleW(nullptr), nullptr)) {
   state.CurrentLanguage = "ENG";
-  application.OnRuntimeError = [this](Form&, const RuntimeError&) { ++errors; };
+  application.onRuntimeError = [this](Form&, const RuntimeError&) { ++errors; };
   MakeList(5);
 }
 

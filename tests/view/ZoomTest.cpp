@@ -11,7 +11,7 @@ namespace {
 
 TEST(Zoom, OffersTenWholeFactors) {
   std::vector<std::string> texts;
-  for (int factor = leastZoom; factor <= mostZoom; ++factor) texts.push_back(ZoomText(factor));
+  for (int factor = minZoom; factor <= maxZoom; ++factor) texts.push_back(ZoomText(factor));
   EXPECT_THAT(texts,
               ::testing::ElementsAre("100%", "200%", "300%", "400%", "500%", "600%", "700%", "800%", "900%", "1000%"));
 }

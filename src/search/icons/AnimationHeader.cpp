@@ -14,7 +14,7 @@ constexpr std::uint64_t pictureCountOffset = 4;  // in the data of "anih", after
 constexpr std::uint64_t stepCountOffset = 8;     // after the picture count
 constexpr std::uint64_t sequenceEntrySize = 4;
 constexpr std::uint32_t stillCursorStart = 0x20000;  // of 16 bits each: a zero, and 2 for a cursor
-constexpr std::size_t mostLooks = 10'000;            // that are remembered
+constexpr std::size_t maxLooks = 10'000;             // that are remembered
 
 // A type of four characters as the number that stands for it in a file.
 consteval std::uint32_t TypeNumber(std::string_view type) {
@@ -37,8 +37,8 @@ class BlockReader {
   explicit BlockReader(ByteSource& file) : file_(file), size_(file.Stamp().size) {}
 
   std::uint64_t Size() const { return size_; }
-  // The first place that was not looked at because of the bounds; past every file if there is none.
-  std::uint64_t GivenUpAt() const { return givenUpAt_; }
+  // The first offset that was not looked at because of the bounds; past every file if there is none.
+  std::uint64_t StopOffset() const { return stopOffset_; }
 
   // A little-endian number. Its bytes are read upwards, as all of the file is: going back would load blocks twice.
   std::uint32_t Number(std::uint64_t offset) {
@@ -47,7 +47,7 @@ class BlockReader {
     return number;
   }
 
-  // Whether one more chunk, or entry of an order, may be looked at: the one at that place.
+  // Whether one more chunk, or entry of an order, may be looked at: the one at that offset.
   bool MayTakeChunk(std::uint64_t offset) { return MayTake(chunksLeft_, offset); }
   bool MayTakeEntry(std::uint64_t offset) { return MayTake(entriesLeft_, offset); }
 
@@ -56,7 +56,7 @@ class BlockReader {
     if (left == 0 || bytesLeft_ == 0) GiveUp(offset);
     return left != 0 && bytesLeft_ != 0 && left-- != 0;
   }
-  void GiveUp(std::uint64_t offset) { givenUpAt_ = std::min(givenUpAt_, offset); }
+  void GiveUp(std::uint64_t offset) { stopOffset_ = std::min(stopOffset_, offset); }
 
   std::uint32_t Byte(std::uint64_t offset) {
     if (offset >= size_) return 0;
@@ -79,10 +79,10 @@ class BlockReader {
   std::uint64_t size_;
   std::uint64_t start_ = 0;
   std::uint64_t held_ = 0;
-  std::uint64_t bytesLeft_ = mostAnimationBytes;
-  int chunksLeft_ = mostAnimationChunks;
-  int entriesLeft_ = mostSequenceEntries;
-  std::uint64_t givenUpAt_ = std::numeric_limits<std::uint64_t>::max();
+  std::uint64_t bytesLeft_ = maxAnimationBytes;
+  int chunksLeft_ = maxAnimationChunks;
+  int entriesLeft_ = maxSequenceEntries;
+  std::uint64_t stopOffset_ = std::numeric_limits<std::uint64_t>::max();
   std::array<std::byte, 4096> block_{};
 };
 
@@ -93,7 +93,7 @@ struct Chunk {
   std::uint64_t size;  // of the data that is there
 };
 
-// Calls `visit` for each chunk between two places, as far as the bounds allow.
+// Calls `visit` for each chunk between two offsets, as far as the bounds allow.
 template <typename Visit>
 void ForEachChunk(BlockReader& file, std::uint64_t from, std::uint64_t end, const Visit& visit) {
   while (from < end && end - from >= chunkHeaderSize && file.MayTakeChunk(from)) {
@@ -101,7 +101,7 @@ void ForEachChunk(BlockReader& file, std::uint64_t from, std::uint64_t end, cons
     const std::uint64_t written = file.Number(from + 4);
     const std::uint64_t data = from + chunkHeaderSize;
     visit(Chunk{type, data, std::min(written, end - data)});
-    from = data + written + written % 2;  // chunks start at even places
+    from = data + written + written % 2;  // chunks start at even offsets
   }
 }
 
@@ -111,12 +111,12 @@ struct Findings {
   std::uint64_t headerPictures = 0;
   std::uint64_t headerSteps = 0;
   std::uint64_t sequenceEntries = 0;
-  std::uint64_t highestEntry = 0;  // of the order: the number of a picture, from 0
+  std::uint64_t maxEntry = 0;  // of the order: the number of a picture, from 0
   std::uint64_t pictures = 0;
   int headers = 0;
   int sequences = 0;
 
-  std::uint64_t HeldSteps() const { return sequences > 0 ? sequenceEntries : pictures; }
+  std::uint64_t StepCount() const { return sequences > 0 ? sequenceEntries : pictures; }
 };
 
 void CountPictures(BlockReader& file, const Chunk& list, Findings& findings) {
@@ -131,9 +131,9 @@ void NoteSequence(BlockReader& file, const Chunk& chunk, Findings& findings) {
   const std::uint64_t entries = chunk.size / sequenceEntrySize;
   std::uint64_t entry = 0;
   for (; entry < entries; ++entry) {
-    const std::uint64_t place = chunk.data + entry * sequenceEntrySize;
-    if (!file.MayTakeEntry(place)) break;
-    findings.highestEntry = std::max<std::uint64_t>(findings.highestEntry, file.Number(place));
+    const std::uint64_t offset = chunk.data + entry * sequenceEntrySize;
+    if (!file.MayTakeEntry(offset)) break;
+    findings.maxEntry = std::max<std::uint64_t>(findings.maxEntry, file.Number(offset));
   }
   findings.sequenceEntries = std::max(findings.sequenceEntries, entry);
 }
@@ -155,8 +155,8 @@ bool HoldsWhatItSays(const Findings& findings) {
   // Of two headers or orders, it is unknown which the platform takes.
   const bool plain = findings.headers == 1 && findings.sequences <= 1;
   return plain && findings.headerPictures > 0 && findings.headerPictures <= findings.pictures &&
-         findings.headerSteps > 0 && findings.headerSteps <= findings.HeldSteps() &&
-         findings.highestEntry < findings.headerPictures;
+         findings.headerSteps > 0 && findings.headerSteps <= findings.StepCount() &&
+         findings.maxEntry < findings.headerPictures;
 }
 
 }  // namespace
@@ -172,16 +172,16 @@ AnimationFacts InspectAnimation(ByteSource& source) {
   // The size that the file states for itself is often wrong, so that what lies behind it is looked at too.
   ForEachChunk(file, chunkHeaderSize + listTypeSize, file.Size(),
                [&](const Chunk& chunk) { Note(file, chunk, findings); });
-  const std::uint64_t steps = std::min(findings.headerSteps, findings.HeldSteps());
-  const bool seen = file.GivenUpAt() >= std::min(statedEnd, file.Size());
-  return {.mostSteps = static_cast<int>(steps), .holdsWhatItSays = seen && HoldsWhatItSays(findings)};
+  const std::uint64_t steps = std::min(findings.headerSteps, findings.StepCount());
+  const bool seen = file.StopOffset() >= std::min(statedEnd, file.Size());
+  return {.maxSteps = static_cast<int>(steps), .holdsWhatItSays = seen && HoldsWhatItSays(findings)};
 }
 
 AnimationFacts AnimationLooks::Of(const std::string& path, ByteSource& file) {
   const FileStamp stamp = file.Stamp();
   const auto known = looks_.find(path);
   if (known != looks_.end() && known->second.stamp == stamp) return known->second.facts;
-  if (looks_.size() >= mostLooks) looks_.clear();
+  if (looks_.size() >= maxLooks) looks_.clear();
   const AnimationFacts facts = InspectAnimation(file);
   looks_.insert_or_assign(path, Look{stamp, facts});
   return facts;

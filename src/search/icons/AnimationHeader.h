@@ -14,7 +14,7 @@ namespace tarvik {
 struct AnimationFacts {
   // The most steps that it can have; 0 if it is no animation. The header's count is believed only as far as the file
   // bears it out: by the entries of its order, or by its pictures if it has none.
-  int mostSteps = 0;
+  int maxSteps = 0;
   // True for an animation with one header and at least as many pictures and steps as that says, whose order names no
   // picture beyond them. The platform takes memory by those counts before it looks at the pictures, and wrong ones have
   // it write where it must not: a file that holds less than it says is damaged and must not be handed to it.
@@ -25,9 +25,9 @@ struct AnimationFacts {
 
 // The most that is looked at in one file. A search lists 4,000 icons at most, so no animation that it could list needs
 // more, however far apart its pictures are.
-inline constexpr int mostAnimationChunks = 65'536;
-inline constexpr int mostSequenceEntries = 65'536;
-inline constexpr std::uint64_t mostAnimationBytes = std::uint64_t{16} * 1024 * 1024;
+inline constexpr int maxAnimationChunks = 65'536;
+inline constexpr int maxSequenceEntries = 65'536;
+inline constexpr std::uint64_t maxAnimationBytes = std::uint64_t{16} * 1024 * 1024;
 
 // Looks through the file once, within those bounds and whatever sizes are written in it. An animation that goes on
 // beyond them does not hold what it says; what lies behind the size that it states for itself may.

@@ -8,12 +8,12 @@ namespace tarvik {
 namespace {
 
 // Where the guarded call of this thread was made; null while there is none.
-thread_local jmp_buf* returnPlace = nullptr;
+thread_local jmp_buf* returnPoint = nullptr;
 
 [[noreturn]] void LeaveCall() {
-  jmp_buf* const place = returnPlace;
-  returnPlace = nullptr;
-  std::longjmp(*place, 1);
+  jmp_buf* const point = returnPoint;
+  returnPoint = nullptr;
+  std::longjmp(*point, 1);
 }
 
 // What a damaged file can lead to: an offset or a count beyond it, the file gone from under its mapping, a size of 0
@@ -47,7 +47,7 @@ bool IsOfProgram(PVOID instruction) {
 // Lets the thread go on in LeaveCall instead of where it faulted. It leaves from there and not from here, so that
 // the system ends its own work on the exception first.
 LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
-  if (returnPlace == nullptr) return EXCEPTION_CONTINUE_SEARCH;
+  if (returnPoint == nullptr) return EXCEPTION_CONTINUE_SEARCH;
   const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
   if (!IsFaultOfReading(record) || IsOfProgram(record.ExceptionAddress)) return EXCEPTION_CONTINUE_SEARCH;
 
@@ -66,13 +66,13 @@ bool CallSurvivesFault(void (*call)(void* context), void* context) {
   // First in line and for the whole run; without a guarded call it passes every exception on.
   [[maybe_unused]] static void* const handler = AddVectoredExceptionHandler(1, OnException);
 
-  jmp_buf place;
+  jmp_buf point;
   // No frame is given, so that the jump restores the registers and unwinds nothing: frames of the system that were
   // cut off need not be unwindable.
-  if (_setjmp(place, nullptr) != 0) return false;
-  returnPlace = &place;
+  if (_setjmp(point, nullptr) != 0) return false;
+  returnPoint = &point;
   call(context);
-  returnPlace = nullptr;
+  returnPoint = nullptr;
   return true;
 }
 

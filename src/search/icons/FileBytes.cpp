@@ -25,11 +25,11 @@ FileStamp FileBytes::Stamp() {
 
 bool FileBytes::Read(std::uint64_t offset, std::span<std::byte> bytes) {
   if (!file_ || bytes.size() > std::numeric_limits<DWORD>::max()) return false;
-  OVERLAPPED place{};
-  place.Offset = static_cast<DWORD>(offset);
-  place.OffsetHigh = static_cast<DWORD>(offset >> 32U);
+  OVERLAPPED position{};
+  position.Offset = static_cast<DWORD>(offset);
+  position.OffsetHigh = static_cast<DWORD>(offset >> 32U);
   DWORD count = 0;
-  return ReadFile(file_.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, &place) != 0 &&
+  return ReadFile(file_.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, &position) != 0 &&
          count == bytes.size();
 }
 

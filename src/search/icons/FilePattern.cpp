@@ -8,7 +8,7 @@
 namespace tarvik {
 namespace {
 
-// A place in a text that moves on by whole characters.
+// A position in a text that moves on by whole characters.
 class Cursor {
  public:
   explicit Cursor(std::string_view text) : rest_(text) {}

@@ -49,7 +49,7 @@ FindHandle FirstEntry(std::wstring folder, WIN32_FIND_DATAW& entry) {
                                      FIND_FIRST_EX_LARGE_FETCH));
 }
 
-void ForEachEntry(const std::string& folder, const Folders::System::Visit& visit) {
+void ForEachEntry(const std::string& folder, const Folders::Dependencies::Visit& visit) {
   if (folder.empty()) return;
   const NoDriveMessages quiet;
   WIN32_FIND_DATAW entry;
@@ -131,9 +131,9 @@ struct FoundFolder {
   bool isMountPoint = false;  // by its tag, which junctions have too
 };
 
-std::vector<FoundFolder> FoundFolders(const Folders::System& system, const std::string& folder) {
+std::vector<FoundFolder> FoundFolders(const Folders::Dependencies& dependencies, const std::string& folder) {
   std::vector<FoundFolder> found;
-  system.forEachEntry(folder, [&](const FolderEntry& entry) {
+  dependencies.forEachEntry(folder, [&](const FolderEntry& entry) {
     if (!IsSubFolder(entry)) return;
     found.push_back({std::wstring(entry.name), IsLinkOrMount(entry), entry.reparseTag == IO_REPARSE_TAG_MOUNT_POINT});
   });
@@ -145,11 +145,11 @@ std::vector<FoundFolder> FoundFolders(const Folders::System& system, const std::
 
 Folders::Folders() : Folders({ForEachEntry, ReparseData}) {}
 
-Folders::Folders(System system) : system_(std::move(system)) {}
+Folders::Folders(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
 
 std::vector<std::string> Folders::Files(const std::string& folder, const std::string& pattern) {
   std::vector<std::pair<std::wstring, std::string>> names;
-  system_.forEachEntry(folder, [&](const FolderEntry& entry) {
+  dependencies_.forEachEntry(folder, [&](const FolderEntry& entry) {
     if (!IsListedFile(entry)) return;
     std::string name = ToUtf8(entry.name);
     // The pattern is judged here and not by the system, which would also look at short names.
@@ -165,15 +165,16 @@ std::vector<std::string> Folders::Files(const std::string& folder, const std::st
 
 std::vector<std::string> Folders::SubFolders(const std::string& folder) {
   std::vector<std::string> paths;
-  for (const FoundFolder& found : FoundFolders(system_, folder)) paths.push_back(JoinPath(folder, ToUtf8(found.name)));
+  for (const FoundFolder& found : FoundFolders(dependencies_, folder))
+    paths.push_back(JoinPath(folder, ToUtf8(found.name)));
   return paths;
 }
 
 std::vector<WalkedFolder> Folders::WalkedFolders(const std::string& folder) {
   std::vector<WalkedFolder> walked;
-  for (const FoundFolder& found : FoundFolders(system_, folder)) {
+  for (const FoundFolder& found : FoundFolders(dependencies_, folder)) {
     std::string path = JoinPath(folder, ToUtf8(found.name));
-    const bool isMounted = found.isLinkOrMount && found.isMountPoint && IsVolumeMount(system_.reparseData(path));
+    const bool isMounted = found.isLinkOrMount && found.isMountPoint && IsVolumeMount(dependencies_.reparseData(path));
     if (!found.isLinkOrMount || isMounted) walked.push_back({std::move(path), isMounted});
   }
   return walked;

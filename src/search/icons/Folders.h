@@ -21,7 +21,7 @@ struct FolderEntry {
 class Folders final : public FolderReader {
  public:
   // How folders are read.
-  struct System {
+  struct Dependencies {
     using Visit = std::function<void(const FolderEntry& entry)>;
     // Calls `visit` for each entry of the folder, in any order.
     std::function<void(const std::string& folder, const Visit& visit)> forEachEntry;
@@ -30,7 +30,7 @@ class Folders final : public FolderReader {
   };
 
   Folders();
-  explicit Folders(System system);
+  explicit Folders(Dependencies dependencies);
 
   std::vector<std::string> Files(const std::string& folder, const std::string& pattern) override;
   std::vector<std::string> SubFolders(const std::string& folder) override;
@@ -38,7 +38,7 @@ class Folders final : public FolderReader {
   std::string Identity(const std::string& folder) override;
 
  private:
-  System system_;
+  Dependencies dependencies_;
 };
 
 // True for a folder that exists and whose content this user may see. The path may stand in any form Windows takes.

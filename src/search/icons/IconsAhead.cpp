@@ -8,9 +8,9 @@
 namespace tarvik {
 namespace {
 
-constexpr int mostHeld = 64;
-constexpr std::size_t mostCounts = 100'000;  // that are remembered
-constexpr std::size_t mostBroken = 10'000;
+constexpr int maxHeld = 64;
+constexpr std::size_t maxCounts = 100'000;  // that are remembered
+constexpr std::size_t maxBroken = 10'000;
 
 }  // namespace
 
@@ -27,19 +27,19 @@ std::unique_ptr<ExtractedIcon> IconsAhead::Extract(const std::string& path, int 
   if (!goesOn) TurnTo(path, index);
   if (goesOn && held_.empty() && !IsBroken(path)) {
     const int count = count_ ? *count_ : CountOf(path);
-    TakeGroup(index, std::min(mostTaken_, count - index));
+    TakeGroup(index, std::min(maxTaken_, count - index));
   }
   count_.reset();
   next_ = index + 1;
   if (held_.empty()) return oneByOne_.Extract(path, index);
   auto icon = std::move(held_.back());
   held_.pop_back();
-  if (held_.empty()) mostTaken_ = std::min(mostHeld, mostTaken_ + mostTaken_ / 4 + 1);
+  if (held_.empty()) maxTaken_ = std::min(maxHeld, maxTaken_ + maxTaken_ / 4 + 1);
   return icon;
 }
 
 std::shared_ptr<void> IconsAhead::InTurn() {
-  if (users_++ == 0) mostTaken_ = mostHeld;
+  if (users_++ == 0) maxTaken_ = maxHeld;
   return {static_cast<void*>(this), [this](void*) {
             if (--users_ != 0) return;
             TurnTo({}, 0);
@@ -48,7 +48,7 @@ std::shared_ptr<void> IconsAhead::InTurn() {
 }
 
 void IconsAhead::LetGo() {
-  if (!held_.empty()) mostTaken_ = std::max(2, groupSize_ - static_cast<int>(held_.size()));
+  if (!held_.empty()) maxTaken_ = std::max(2, groupSize_ - static_cast<int>(held_.size()));
   Drop();
 }
 
@@ -71,7 +71,7 @@ int IconsAhead::CountOf(const std::string& path) {
   const auto known = counts_.find(path);
   if (stamp_ && known != counts_.end() && known->second.stamp == *stamp_) return known->second.icons;
   const int icons = oneByOne_.CountIcons(path);
-  if (stamp_ && counts_.size() < mostCounts) counts_.insert_or_assign(path, Count{*stamp_, icons});
+  if (stamp_ && counts_.size() < maxCounts) counts_.insert_or_assign(path, Count{*stamp_, icons});
   return icons;
 }
 
@@ -86,7 +86,7 @@ void IconsAhead::TakeGroup(int first, int count) {
   std::ranges::reverse(held_);
   groupSize_ = count;
   if (!held_.empty() || !stamp_) return;
-  if (broken_.size() >= mostBroken) broken_.clear();
+  if (broken_.size() >= maxBroken) broken_.clear();
   broken_.insert_or_assign(path_, *stamp_);
 }
 

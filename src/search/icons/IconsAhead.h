@@ -63,7 +63,7 @@ class IconsAhead final : public IconSource {
   int next_ = 0;                                      // the index that would go on in turn
   std::vector<std::unique_ptr<ExtractedIcon>> held_;  // icons next_ and after, the nearest last
   int groupSize_ = 0;                                 // of the group that they are from
-  int mostTaken_ = 0;                                 // at a time
+  int maxTaken_ = 0;                                  // at a time
 
   std::unordered_map<std::string, Count> counts_;      // by path; of one InTurn
   std::unordered_map<std::string, FileStamp> broken_;  // files that did not give a group; of the whole run

@@ -8,9 +8,9 @@ namespace tarvik {
 namespace {
 
 constexpr std::uint32_t mountPointTag = 0xA0000003;
-constexpr std::size_t targetOffsetPlace = 8;  // of two bytes, counted from the start of the names
-constexpr std::size_t targetLengthPlace = 10;
-constexpr std::size_t namesPlace = 16;
+constexpr std::size_t targetOffsetField = 8;  // of two bytes, counted from the start of the names
+constexpr std::size_t targetLengthField = 10;
+constexpr std::size_t namesOffset = 16;
 
 constexpr std::string_view volumeStart = R"(\??\Volume{)";
 constexpr std::string_view volumeEnd = R"(}\)";
@@ -34,9 +34,9 @@ bool Are(std::span<const std::byte> characters, std::string_view text) {
 
 bool IsVolumeMount(std::span<const std::byte> reparseData) {
   constexpr std::size_t targetSize = 2 * (volumeStart.size() + guidLength + volumeEnd.size());
-  if (reparseData.size() < namesPlace + targetSize || Number(reparseData.first(4)) != mountPointTag) return false;
-  const std::size_t offset = namesPlace + Number(reparseData.subspan(targetOffsetPlace, 2));
-  const std::size_t length = Number(reparseData.subspan(targetLengthPlace, 2));
+  if (reparseData.size() < namesOffset + targetSize || Number(reparseData.first(4)) != mountPointTag) return false;
+  const std::size_t offset = namesOffset + Number(reparseData.subspan(targetOffsetField, 2));
+  const std::size_t length = Number(reparseData.subspan(targetLengthField, 2));
   if (length != targetSize || offset > reparseData.size() - targetSize) return false;
   const auto target = reparseData.subspan(offset, targetSize);
   return Are(target, volumeStart) && Are(target.last(2 * volumeEnd.size()), volumeEnd);

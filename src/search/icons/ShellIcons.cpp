@@ -70,21 +70,21 @@ class PlatformIcon final : public ExtractedIcon {
   int stepBound_;
 };
 
-// Null if there is no icon; throws if that is for lack of GDI objects.
 // Takes ownership of what a call for several icons left in `handles`: it may have given fewer than asked, or been cut
 // off in their middle.
-std::vector<IconHandle> Owned(const std::vector<HICON>& handles, bool finished, UINT extracted) {
+std::vector<IconHandle> TakeOwnership(const std::vector<HICON>& handles, bool finished, UINT extracted) {
   std::vector<IconHandle> icons;
   const std::size_t given = !finished ? handles.size() : extracted == noFile ? 0 : extracted;
   for (const HICON handle : std::span(handles).first(std::min(given, handles.size()))) {
     // Before Wine makes an icon, it keeps the number of its picture in the handle's place.
-    constexpr std::uintptr_t highestNumber = 0xFFFF;
-    if (reinterpret_cast<std::uintptr_t>(handle) > highestNumber) icons.emplace_back(handle);
+    constexpr std::uintptr_t maxNumber = 0xFFFF;
+    if (reinterpret_cast<std::uintptr_t>(handle) > maxNumber) icons.emplace_back(handle);
   }
   return icons;
 }
 
-std::unique_ptr<ExtractedIcon> Drawable(IconHandle icon, int stepBound) {
+// Null if there is no icon; throws if that is for lack of GDI objects.
+std::unique_ptr<ExtractedIcon> MakeDrawable(IconHandle icon, int stepBound) {
   if (!icon) {
     RequireGdiObjects();
     return nullptr;
@@ -132,11 +132,11 @@ std::unique_ptr<ExtractedIcon> ShellIcons::ExtractSteps(const std::string& path,
   const AnimationFacts facts = looks_.Of(path, *open_(path));
   IconHandle icon = ExtractLarge(path, index);
   if (!icon && (facts.holdsWhatItSays || facts.isStillCursor)) icon = LoadCursorFile(path);
-  return Drawable(std::move(icon), std::max(facts.mostSteps, 1));
+  return MakeDrawable(std::move(icon), std::max(facts.maxSteps, 1));
 }
 
 // How many icons the shell says the file has; some systems tell it as it is written in the file.
-int ShellIcons::ClaimedIcons(const std::string& path) {
+int ShellIcons::CountClaimedIcons(const std::string& path) {
   UINT count = 0;
   const auto extract = late::ExtractIconExA.Get();  // as above
   const bool finished = Survives(
@@ -146,27 +146,27 @@ int ShellIcons::ClaimedIcons(const std::string& path) {
 
 // How many icons can be had of a file that claims more. From the end, it is looked for one that can be had in growing
 // steps, and from there upwards for the last one: only a hundred broken ones in a row hide those behind them.
-int ShellIcons::ExtractableIcons(const std::string& path, int claimed) {
+int ShellIcons::CountExtractableIcons(const std::string& path, int claimed) {
   int had = 0;
-  for (int step = 1, place = claimed - 1; place > 0 && had == 0; step *= 2) {
-    place = std::max(place - step, 0);
-    if (ExtractLarge(path, place)) had = place + 1;
+  for (int step = 1, index = claimed - 1; index > 0 && had == 0; step *= 2) {
+    index = std::max(index - step, 0);
+    if (ExtractLarge(path, index)) had = index + 1;
   }
-  for (int place = had; place < claimed && place < had + believedCount; ++place) {
-    if (ExtractLarge(path, place)) had = place + 1;
+  for (int index = had; index < claimed && index < had + believedCount; ++index) {
+    if (ExtractLarge(path, index)) had = index + 1;
   }
   return had;
 }
 
 int ShellIcons::CountIcons(const std::string& path) {
-  const int claimed = ClaimedIcons(path);
+  const int claimed = CountClaimedIcons(path);
   if (claimed <= believedCount || ExtractLarge(path, claimed - 1)) return claimed;
-  return ExtractableIcons(path, claimed);
+  return CountExtractableIcons(path, claimed);
 }
 
 std::unique_ptr<ExtractedIcon> ShellIcons::Extract(const std::string& path, int index) {
   if (IsAnimatedCursorName(path)) return ExtractSteps(path, index);
-  return Drawable(ExtractLarge(path, index), 1);
+  return MakeDrawable(ExtractLarge(path, index), 1);
 }
 
 std::vector<std::unique_ptr<ExtractedIcon>> ShellIcons::ExtractGroup(const std::string& path, int first, int count) {
@@ -180,10 +180,10 @@ std::vector<std::unique_ptr<ExtractedIcon>> ShellIcons::ExtractGroup(const std::
         PrivateExtractIconsA(path.c_str(), first, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON),
                              handles.data(), numbers.data(), static_cast<UINT>(handles.size()), LR_DEFAULTCOLOR);
   });
-  std::vector<IconHandle> icons = Owned(handles, finished, extracted);
+  std::vector<IconHandle> icons = TakeOwnership(handles, finished, extracted);
   std::vector<std::unique_ptr<ExtractedIcon>> group;
   if (!finished || icons.size() != handles.size()) return group;
-  for (IconHandle& icon : icons) group.push_back(Drawable(std::move(icon), 1));
+  for (IconHandle& icon : icons) group.push_back(MakeDrawable(std::move(icon), 1));
   return group;
 }
 

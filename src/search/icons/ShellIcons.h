@@ -43,8 +43,8 @@ class ShellIcons final : public IconSource, public IconGroups {
   IconHandle ExtractLarge(const std::string& path, int index);
   IconHandle LoadCursorFile(const std::string& path);
   std::unique_ptr<ExtractedIcon> ExtractSteps(const std::string& path, int index);
-  int ClaimedIcons(const std::string& path);
-  int ExtractableIcons(const std::string& path, int claimed);
+  int CountClaimedIcons(const std::string& path);
+  int CountExtractableIcons(const std::string& path, int claimed);
 
   OpenBytes open_;
   AnimationLooks looks_;

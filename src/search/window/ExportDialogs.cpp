@@ -7,8 +7,8 @@
 
 namespace tarvik {
 
-ExportDialogs::ExportDialogs(Application& application, ProgramState& state, MainWindow mainWindow, frmDir::Disk disk,
-                             FileSink& sink)
+ExportDialogs::ExportDialogs(Application& application, ProgramState& state, MainWindow mainWindow,
+                             frmDir::Dependencies disk, FileSink& sink)
     : application_(application),
       state_(state),
       mainWindow_(std::move(mainWindow)),
@@ -34,7 +34,7 @@ JpegDialog& ExportDialogs::NewSaveJPG() {
 
 GifDialog& ExportDialogs::NewConvertGIF() {
   return convertGif_.emplace(application_, state_, mainWindow_.window(),
-                             FrmConvertGIF::Parts{mainWindow_.picIcon, sink_, FileLength});
+                             FrmConvertGIF::Dependencies{mainWindow_.picIcon, sink_, FileLength});
 }
 
 // The dialogs themselves stay: one of them may be the caller's caller, where the session ends while it is open.

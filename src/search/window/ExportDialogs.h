@@ -28,7 +28,7 @@ class ExportDialogs final : public SaveDialogs {
   };
 
   // Everything outlives the dialogs.
-  ExportDialogs(Application& application, ProgramState& state, MainWindow mainWindow, frmDir::Disk disk,
+  ExportDialogs(Application& application, ProgramState& state, MainWindow mainWindow, frmDir::Dependencies disk,
                 FileSink& sink);
 
   std::string AskForPath(const FileDialogMode& mode) override;

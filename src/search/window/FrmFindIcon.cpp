@@ -18,9 +18,9 @@
 namespace tarvik {
 namespace {
 
-constexpr int firstSize = 1;  // "32 x 32"
-constexpr const char* firstPattern = "*.ico";
-constexpr const char* firstStatus = "Click the Start button to start search";
+constexpr int initialSize = 1;  // "32 x 32"
+constexpr const char* initialPattern = "*.ico";
+constexpr const char* initialStatus = "Click the Start button to start search";
 
 // The section and keys of the settings file.
 constexpr const char* settingsSection = "FindIcon";
@@ -30,11 +30,11 @@ constexpr const char* subDirKey = "Subdir";
 // A step of an animation is tried out at (50, 50) of the window's own surface, at the grid's icon size.
 constexpr int ownSurfaceSide = 50 + 64;
 
-RECT PlaceOf(HWND form, HWND item) {
-  RECT place;
-  GetWindowRect(item, &place);
-  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&place), 2);
-  return place;
+RECT BoundsOf(HWND form, HWND item) {
+  RECT bounds;
+  GetWindowRect(item, &bounds);
+  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
 }
 
 void Move(HWND item, int left, int top, int width, int height) {
@@ -51,80 +51,81 @@ int TextWidth(HWND item) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)) + 1, L'\0');
   text.resize(static_cast<std::size_t>(GetWindowTextW(item, text.data(), static_cast<int>(text.size()))));
   const WindowDc dc(item);
-  const Selected font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(item, WM_GETFONT, 0, 0)));
-  RECT place{};
-  DrawTextW(dc.get(), text.c_str(), -1, &place, DT_CALCRECT | DT_SINGLELINE);
-  return place.right;
+  const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(item, WM_GETFONT, 0, 0)));
+  RECT bounds{};
+  DrawTextW(dc.get(), text.c_str(), -1, &bounds, DT_CALCRECT | DT_SINGLELINE);
+  return bounds.right;
 }
 
 }  // namespace
 
-FrmFindIcon::FrmFindIcon(Application& application, Services services)
+FrmFindIcon::FrmFindIcon(Application& application, Dependencies dependencies)
     : Form(application, Dialog_FrmFindIcon),
-      services_(std::move(services)),
+      dependencies_(std::move(dependencies)),
       ownSurface_(ownSurfaceSide, ownSurfaceSide, white),
-      driver_({*this, folders_, grid_, ownSurface_, services_.icons, list_, state_, services_.state.CurrentLanguage}),
-      selection_(*this, grid_, list_, state_, services_.state.CurrentLanguage),
+      driver_({*this, folders_, grid_, ownSurface_, dependencies_.icons, list_, state_,
+               dependencies_.state.CurrentLanguage}),
+      selection_(*this, grid_, list_, state_, dependencies_.state.CurrentLanguage),
       surfaces_(state_.Geometry.IconSize),
-      commands_(*this, services_.saving, list_, state_, services_.state),
+      commands_(*this, dependencies_.saving, list_, state_, dependencies_.state),
       caption_([this](const std::string& text) { Form::SetCaption(text); }),
       status_([this](const std::string& text) {
         SendMessageW(Item(FrmFindIcon_sbMain), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
       }) {}
 
 void FrmFindIcon::Form_Load() {
-  SetTexts(*this, findIconTexts, services_.state.CurrentLanguage);
+  SetTexts(*this, findIconTexts, dependencies_.state.CurrentLanguage);
   AttachControls();
-  PlaceLimit();
+  LayOutLimit();
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);
 
   EnableItem(FrmFindIcon_CmdOk, false);
   const HWND sizes = Item(FrmFindIcon_CboIconSize);
   for (const GridGeometry& geometry : gridGeometries) ComboBox_AddString(sizes, ToWide(geometry.Caption).c_str());
-  ComboBox_SetCurSel(sizes, firstSize);
+  ComboBox_SetCurSel(sizes, initialSize);
   CboIconSize_Click();
   SetChecked(FrmFindIcon_ChkFileType0, true);
-  file1_.SetPattern(firstPattern);
-  SetStatusText(firstStatus);
+  file1_.SetPattern(initialPattern);
+  SetStatusText(initialStatus);
   OptView_Click(0);
   LoadSettings();
   UpdateSaveMenus();
 }
 
 void FrmFindIcon::AttachControls() {
-  drive1_.Attach(Item(FrmFindIcon_Drive1), services_.drives);
+  drive1_.Attach(Item(FrmFindIcon_Drive1), dependencies_.drives);
   dir1_.Attach(
-      Item(FrmFindIcon_Dir1), [this](const std::string& folder) { return services_.folders.SubFolders(folder); },
+      Item(FrmFindIcon_Dir1), [this](const std::string& folder) { return dependencies_.folders.SubFolders(folder); },
       [this] { Dir1_Change(); });
   file1_.Attach(Item(FrmFindIcon_File1), [this](const std::string& folder, const std::string& pattern) {
-    return services_.folders.Files(folder, pattern);
+    return dependencies_.folders.Files(folder, pattern);
   });
   udMain_.Attach(Item(FrmFindIcon_udMain));
   grid_.Attach(Item(FrmFindIcon_PicFrame), Item(FrmFindIcon_Vsb), FrmFindIcon_PicIcons);
   lv_.Attach(Item(FrmFindIcon_Lv));
-  const RECT place = grid_.Place();  // the list takes the grid's place
-  Move(lv_.Window(), place.left, place.top, place.right - place.left, place.bottom - place.top);
-  lv_.CellText = [this](int row, int column) {
+  const RECT bounds = grid_.Bounds();  // the list takes the grid's place
+  Move(lv_.Window(), bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top);
+  lv_.cellText = [this](int row, int column) {
     return list_.Has(row + 1) ? IconListCell(list_, row + 1, static_cast<std::size_t>(column)) : std::string();
   };
-  lv_.LookOf = [this](int row) {
+  lv_.lookOf = [this](int row) {
     const RowMarking marking = list_.Has(row + 1) ? MarkingOf(list_.Item(row + 1)) : RowMarking();
     return ReportList::Look{marking.bold, marking.color};
   };
-  lv_.Choose = [this](const ReportList::Choice& choice) { Lv_Choose(choice); };
+  lv_.choose = [this](const ReportList::Choice& choice) { Lv_Choose(choice); };
 }
 
 // The limit's box stands right behind its label, and the rest of the row behind the box, in every language. Both labels
 // are as wide as their texts: a label that reached under the box would wipe it when it is drawn alone.
-void FrmFindIcon::PlaceLimit() {
+void FrmFindIcon::LayOutLimit() {
   const HWND label = Item(FrmFindIcon_SkinLabel1);
-  const RECT place = PlaceOf(Window(), label);
-  const int space = place.bottom - place.top;
-  Move(label, place.left, place.top, TextWidth(label), place.bottom - place.top);
-  const int shift = place.left + TextWidth(label) + space / 2 - PlaceOf(Window(), Item(FrmFindIcon_txtMax)).left;
+  const RECT bounds = BoundsOf(Window(), label);
+  const int space = bounds.bottom - bounds.top;
+  Move(label, bounds.left, bounds.top, TextWidth(label), bounds.bottom - bounds.top);
+  const int shift = bounds.left + TextWidth(label) + space / 2 - BoundsOf(Window(), Item(FrmFindIcon_txtMax)).left;
   for (const int id : {FrmFindIcon_txtMax, FrmFindIcon_udMain, FrmFindIcon_SkinLabel2}) {
-    const RECT former = PlaceOf(Window(), Item(id));
+    const RECT former = BoundsOf(Window(), Item(id));
     const int width = id == FrmFindIcon_SkinLabel2 ? TextWidth(Item(id)) : former.right - former.left;
     Move(Item(id), former.left + shift, former.top, width, former.bottom - former.top);
   }
@@ -147,10 +148,10 @@ void FrmFindIcon::Form_Unload() {
 }
 
 void FrmFindIcon::LoadSettings() {
-  Settings& settings = services_.settings;
-  const std::string& ownFolder = services_.programFolder;
+  Settings& settings = dependencies_.settings;
+  const std::string& ownFolder = dependencies_.programFolder;
   std::string folder = AbsoluteFolderPath(settings.ReadIniSetting(settingsSection, folderKey, ownFolder), ownFolder);
-  if (!services_.isReadableFolder(folder)) folder = TidyFolderPath(ownFolder);
+  if (!dependencies_.isReadableFolder(folder)) folder = TidyFolderPath(ownFolder);
   dir1_.SetPath(folder);
   drive1_.ChooseDriveOf(folder);
   const std::string subDir = settings.ReadIniSetting(settingsSection, subDirKey, TruthText(false));
@@ -160,8 +161,8 @@ void FrmFindIcon::LoadSettings() {
 void FrmFindIcon::SaveSettings() {
   // A walk that the end of the session stops has moved Dir1.
   const std::string& folder = state_.SavedDirPath.empty() ? dir1_.Path() : state_.SavedDirPath;
-  services_.settings.WriteIniSetting(settingsSection, folderKey, folder);
-  services_.settings.WriteIniSetting(settingsSection, subDirKey, TruthText(chkSubDir()));
+  dependencies_.settings.WriteIniSetting(settingsSection, folderKey, folder);
+  dependencies_.settings.WriteIniSetting(settingsSection, subDirKey, TruthText(chkSubDir()));
 }
 
 bool FrmFindIcon::OnCommand(int id, int code) {
@@ -223,7 +224,7 @@ LRESULT FrmFindIcon::OnNotify(NMHDR& header) {
 }
 
 void FrmFindIcon::OnMessage(UINT message) {
-  if (message == ReportList::ChoiceMessage) lv_.TellChoice();
+  if (message == ReportList::choiceMessage) lv_.TellChoice();
 }
 
 void FrmFindIcon::OnDrawItem(const DRAWITEMSTRUCT& item) {

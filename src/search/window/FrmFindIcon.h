@@ -15,7 +15,7 @@
 #include "platform/Surface.h"
 #include "search/SearchDriver.h"
 #include "search/icons/IconList.h"
-#include "search/window/FindIconServices.h"
+#include "search/window/FindIconDependencies.h"
 #include "search/window/ShownFolders.h"
 #include "view/frmBit.h"
 
@@ -28,9 +28,9 @@ class FrmFindIcon final : public Form,
                           private SaveWindow,
                           private EnhancedViewOwner {
  public:
-  using Services = FindIconServices;
+  using Dependencies = FindIconDependencies;
 
-  FrmFindIcon(Application& application, Services services);
+  FrmFindIcon(Application& application, Dependencies dependencies);
 
   // Takes the icon of entry `number`, counted from 1, into the three surfaces, at the grid's icon size. False for a
   // number outside the list, which leaves the surfaces alone, and for a file that yields no icon any more, which leaves
@@ -114,19 +114,19 @@ class FrmFindIcon final : public Form,
   bool CopyPicClip() override;
 
   void AttachControls();
-  void PlaceLimit();
+  void LayOutLimit();
   void LoadSettings();
   void SaveSettings();
   void UpdateSaveMenus();
   void ShowSelectionInList();
   void ShowProgress();
 
-  Services services_;
+  Dependencies dependencies_;
   SearchState state_;
   IconList list_;
   DirListBox dir1_;
   FileListBox file1_;
-  ShownFolders folders_{dir1_, file1_, services_.folders};
+  ShownFolders folders_{dir1_, file1_, dependencies_.folders};
   IconGrid grid_;
   Surface ownSurface_;
   SearchDriver driver_;

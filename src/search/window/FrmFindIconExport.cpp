@@ -30,21 +30,21 @@ std::string FrmFindIcon::StatusText() const {
 }
 
 void FrmFindIcon::ShowMessage(const std::string& text, MessageKind kind) {
-  services_.icons.LetGo();
-  tarvik::ShowMessage(Window(), text, FailureTitle(services_.state.CurrentLanguage),
+  dependencies_.icons.LetGo();
+  tarvik::ShowMessage(Window(), text, FailureTitle(dependencies_.state.CurrentLanguage),
                       kind == MessageKind::Failure ? MessageSign::Exclamation : MessageSign::Information);
 }
 
 std::shared_ptr<void> FrmFindIcon::HoldCommands() {
   isSaving_ = true;
-  return {static_cast<void*>(this), [this, inTurn = services_.icons.InTurn()](void*) { isSaving_ = false; }};
+  return {static_cast<void*>(this), [this, inTurn = dependencies_.icons.InTurn()](void*) { isSaving_ = false; }};
 }
 
 // Serving all messages and not the painting alone keeps the system from taking the window for one that hangs; input is
 // taken out before it reaches anything.
 void FrmFindIcon::ServePainting() {
   if (GetTickCount64() - servedAt_ < paintPeriod) return;
-  services_.icons.LetGo();
+  dependencies_.icons.LetGo();
   TheApplication().DoEvents();
   if (!IsLoaded()) throw GivenUp();
   servedAt_ = GetTickCount64();
@@ -59,8 +59,8 @@ bool FrmFindIcon::CopyPicClip() {
 }
 
 const Surface& FrmFindIcon::PicMain() {
-  const int side = services_.state.MagnifiedSide;
-  const int magnified = state_.Geometry.IconSize * services_.state.Magnification;
+  const int side = dependencies_.state.MagnifiedSide;
+  const int magnified = state_.Geometry.IconSize * dependencies_.state.Magnification;
   if (!picMain_) picMain_.emplace(side, side, surfaceBackground);
   const Surface& icon = surfaces_.Composed();
   SetStretchBltMode(picMain_->Dc(), COLORONCOLOR);

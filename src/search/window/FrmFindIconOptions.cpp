@@ -19,7 +19,7 @@ namespace tarvik {
 namespace {
 
 // The limit's spinner: from 1 up to the highest limit of the chosen size.
-constexpr int lowestLimit = 1;
+constexpr int minLimit = 1;
 constexpr int limitStep = 10;
 constexpr int limitPage = 100;
 
@@ -40,8 +40,8 @@ void FrmFindIcon::Drive1_Change() {
   ShowItem(FrmFindIcon_Dir1, true);
   ShowItem(FrmFindIcon_File1, true);
   const std::string root = drive1_.Root();
-  if (!services_.isReadableFolder(root)) {
-    const std::string& language = services_.state.CurrentLanguage;
+  if (!dependencies_.isReadableFolder(root)) {
+    const std::string& language = dependencies_.state.CurrentLanguage;
     const auto text = Pick(driveNotReady, language);
     if (text) tarvik::ShowMessage(Window(), *text, FailureTitle(language), MessageSign::Information);
     return;
@@ -70,24 +70,24 @@ void FrmFindIcon::CboIconSize_Click() {
   const int chosen = ComboBox_GetCurSel(Item(FrmFindIcon_CboIconSize));
   if (chosen < 0) return;
   state_.Geometry = gridGeometries.at(static_cast<std::size_t>(chosen));
-  services_.state.Magnification = (services_.state.MagnifiedSide - 1) / state_.Geometry.IconSize;
+  dependencies_.state.Magnification = (dependencies_.state.MagnifiedSide - 1) / state_.Geometry.IconSize;
   surfaces_.Resize(state_.Geometry.IconSize);
-  udMain_.SetRange({0, state_.Geometry.HighestLimit - lowestLimit, limitStep, limitPage});
+  udMain_.SetRange({0, state_.Geometry.MaxLimit - minLimit, limitStep, limitPage});
   // The upper end is the bar's upper end, so that the up arrow raises the limit.
-  udMain_.SetValue(state_.Geometry.HighestLimit - state_.Geometry.DefaultLimit);
+  udMain_.SetValue(state_.Geometry.MaxLimit - state_.Geometry.DefaultLimit);
   SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.DefaultLimit));
 }
 
 void FrmFindIcon::udMain_Change() {
-  SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.HighestLimit - udMain_.Value()));
+  SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.MaxLimit - udMain_.Value()));
 }
 
 // The spinner goes on from a limit that was typed, or from its nearer end; a text that is no number leaves it alone.
 void FrmFindIcon::txtMax_Change() {
-  const int highest = state_.Geometry.HighestLimit;
+  const int max = state_.Geometry.MaxLimit;
   try {
-    const double limit = std::clamp<double>(RoundToEven(ToNumber(txtMax())), lowestLimit, highest);
-    udMain_.SetValue(highest - static_cast<int>(limit));
+    const double limit = std::clamp<double>(RoundToEven(ToNumber(txtMax())), minLimit, max);
+    udMain_.SetValue(max - static_cast<int>(limit));
   } catch (const RuntimeError&) {
     return;
   }
@@ -101,7 +101,7 @@ void FrmFindIcon::CmdFind_Click() {
   const FocusKept focus(Window());
   // The last texts show at the end, also where an error ends the search.
   const std::shared_ptr<void> progress(nullptr, [this](void*) { ShowProgress(); });
-  const std::shared_ptr<void> inTurn = services_.icons.InTurn();
+  const std::shared_ptr<void> inTurn = dependencies_.icons.InTurn();
   driver_.CmdFind_Click();
 }
 
@@ -113,9 +113,9 @@ void FrmFindIcon::CmdOk_Click() {
   // A disabled button sends nothing, but its command can come from elsewhere.
   if (state_.IsSearching || !list_.Has(state_.CurrentIndex + 1)) return;
   const IconListEntry& entry = list_.Item(state_.CurrentIndex + 1);
-  services_.state.ChosenIconPath = entry.path;
-  services_.state.ChosenIconIndex = entry.index;
-  services_.state.ChoiceCancelled = false;
+  dependencies_.state.ChosenIconPath = entry.path;
+  dependencies_.state.ChosenIconIndex = entry.index;
+  dependencies_.state.ChoiceCancelled = false;
   Unload();
 }
 
@@ -143,12 +143,12 @@ void FrmFindIcon::mnuViewopt_Click(int index) {
 
 // A handler like the others, whatever it leaves alone. NOLINTNEXTLINE(readability-make-member-function-const)
 void FrmFindIcon::MnuContent_Click() {
-  services_.openGuide();
+  dependencies_.openGuide();
 }
 
 void FrmFindIcon::MnuAbout_Click() {
-  services_.state.ShowAsAbout = true;
-  services_.showAbout();
+  dependencies_.state.ShowAsAbout = true;
+  dependencies_.showAbout();
 }
 
 }  // namespace tarvik

@@ -74,7 +74,7 @@ void FrmFindIcon::SetInfoText(const std::string& text) {
 }
 
 void FrmFindIcon::ShowInformation(const std::string& text) {
-  services_.icons.LetGo();
+  dependencies_.icons.LetGo();
   ShowProgress();
   tarvik::ShowMessage(Window(), text, productTitle, MessageSign::Information);
 }
@@ -82,7 +82,7 @@ void FrmFindIcon::ShowInformation(const std::string& text) {
 void FrmFindIcon::ClearListView() {
   std::vector<ReportList::Column> columns;
   columns.reserve(iconListColumns.size());
-  for (const IconListColumn& column : iconListColumns) columns.push_back({column.Header, column.Width});
+  for (const IconListColumn& column : iconListColumns) columns.push_back({column.header, column.width});
   lv_.Clear(columns);
   UpdateSaveMenus();
 }
@@ -94,7 +94,7 @@ void FrmFindIcon::ListChanged() {
 }
 
 void FrmFindIcon::DoEvents() {
-  services_.icons.LetGo();
+  dependencies_.icons.LetGo();
   // Rows that nobody sees would cost a search of many folders more than the search itself.
   if ((GetWindowLongW(lv_.Window(), GWL_STYLE) & WS_VISIBLE) != 0) lv_.GrowTo(list_.Count());
   caption_.ShowIfDue();

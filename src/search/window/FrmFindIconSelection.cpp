@@ -1,4 +1,4 @@
-// The main window's grid and list as places to choose icons in, and what the menus do with the choice.
+// The main window's grid and list, in which icons are chosen, and what the menus do with the choice.
 
 #include <windows.h>
 
@@ -16,7 +16,8 @@ void FrmFindIcon::OnPicture(const PictureEvent& event) {
       releaseBelongsToDblClick_ = false;
       break;
     case PictureEvent::Kind::MouseUp:
-      if (!std::exchange(releaseBelongsToDblClick_, false)) selection_.PicIcons_MouseUp(event.shift, event.x, event.y);
+      if (!std::exchange(releaseBelongsToDblClick_, false))
+        selection_.PicIcons_MouseUp(event.heldKeys, event.x, event.y);
       break;
     case PictureEvent::Kind::DblClick:
       // The view opens between the second press and its release. The release is the end of the double click and no
@@ -45,7 +46,7 @@ void FrmFindIcon::Lv_Choose(const ReportList::Choice& choice) {
   } else if (choice.shift) {
     selection_.ChooseRange(choice.anchor + 1, number, choice.ctrl);
   } else {
-    selection_.ChooseRow(number, choice.ctrl ? ctrlShift : 0);
+    selection_.ChooseRow(number, choice.ctrl ? ctrlAlone : 0);
   }
   ShowSelectionInList();
 }
@@ -68,7 +69,7 @@ void FrmFindIcon::mnuIL_Click(int index) {
 
 bool FrmFindIcon::RenderEntry(int number) {
   if (!list_.Has(number)) return false;
-  ModMicroArt::CaptureEntry(services_.icons, list_.Item(number), state_.Geometry.IconSize, surfaces_);
+  ModMicroArt::CaptureEntry(dependencies_.icons, list_.Item(number), state_.Geometry.IconSize, surfaces_);
   return true;
 }
 

@@ -10,7 +10,7 @@ namespace tarvik {
 void FrmFindIcon::PicIcons_DblClick() {
   if (state_.IsSearching) return;
   EnhancedViewOwner& owner = *this;
-  if (!view_) view_.emplace(TheApplication(), owner, services_.state, services_.settings);
+  if (!view_) view_.emplace(TheApplication(), owner, dependencies_.state, dependencies_.settings);
   view_->ShowSelectedEntry(Window());
 }
 

@@ -11,8 +11,8 @@ namespace tarvik {
 
 // A column of the icon list in its report view. The headers are Chinese in every interface language.
 struct IconListColumn {
-  std::string_view Header;
-  int Width = 0;  // in pixels
+  std::string_view header;
+  int width = 0;  // in pixels
 };
 
 inline constexpr std::array<IconListColumn, 3> iconListColumns{{

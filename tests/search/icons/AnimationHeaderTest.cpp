@@ -66,37 +66,37 @@ std::string Animation(const std::string& chunks) {
 
 int StepsOf(const std::string& bytes) {
   BytesInMemory file(bytes);
-  return InspectAnimation(file).mostSteps;
+  return InspectAnimation(file).maxSteps;
 }
 
-TEST(MostAnimationSteps, CountsTheStepsOfTheHeader) {
+TEST(MaxAnimationSteps, CountsTheStepsOfTheHeader) {
   EXPECT_EQ(StepsOf(Animation(Header(8, 8) + Pictures(8))), 8);
   EXPECT_EQ(StepsOf(Animation(Header(8, 5) + Pictures(8))), 5);
 }
 
-TEST(MostAnimationSteps, BelievesTheHeaderOnlyAsFarAsThereArePictures) {
+TEST(MaxAnimationSteps, BelievesTheHeaderOnlyAsFarAsThereArePictures) {
   EXPECT_EQ(StepsOf(Animation(Header(8, 0xFFFFFFFF) + Pictures(3))), 3);
   EXPECT_EQ(StepsOf(Animation(Header(8, 8))), 0);
 }
 
-TEST(MostAnimationSteps, LetsAnOrderRepeatPictures) {
+TEST(MaxAnimationSteps, LetsAnOrderRepeatPictures) {
   EXPECT_EQ(StepsOf(Animation(Header(2, 6) + Sequence(6) + Pictures(2))), 6);
   EXPECT_EQ(StepsOf(Animation(Header(2, 6) + Sequence(4) + Pictures(2))), 4);
   EXPECT_EQ(StepsOf(Animation(Header(9, 9) + Sequence(4) + Pictures(9))), 4);
 }
 
-TEST(MostAnimationSteps, PassesOverOtherChunksAndTheirPadding) {
+TEST(MaxAnimationSteps, PassesOverOtherChunksAndTheirPadding) {
   const std::string info = Chunk("LIST", "INFO" + Chunk("icon", "x") + Chunk("IART", "me!"));
   EXPECT_EQ(StepsOf(Animation(info + Header(2, 7) + Chunk("rate", Number(6) + "x") + Pictures(2))), 2);
 }
 
-TEST(MostAnimationSteps, FindsChunksAcrossTheBlocksThatAreRead) {
+TEST(MaxAnimationSteps, FindsChunksAcrossTheBlocksThatAreRead) {
   for (std::size_t size = 4060; size < 4110; ++size) {
     EXPECT_EQ(StepsOf(Animation(Chunk("junk", std::string(size, 'j')) + Header(2, 2) + Pictures(2))), 2) << size;
   }
 }
 
-TEST(MostAnimationSteps, IsNoneForAFileThatIsNoAnimation) {
+TEST(MaxAnimationSteps, IsNoneForAFileThatIsNoAnimation) {
   EXPECT_EQ(StepsOf(""), 0);
   EXPECT_EQ(StepsOf("RIFF"), 0);
   EXPECT_EQ(StepsOf(Chunk("RIFF", "WAVE" + Header(2, 2) + Pictures(2))), 0);
@@ -105,7 +105,7 @@ TEST(MostAnimationSteps, IsNoneForAFileThatIsNoAnimation) {
   EXPECT_EQ(StepsOf(Animation("")), 0);
 }
 
-TEST(MostAnimationSteps, CountsWhatIsLeftOfAFileThatIsCutShort) {
+TEST(MaxAnimationSteps, CountsWhatIsLeftOfAFileThatIsCutShort) {
   const std::string whole = Animation(Header(4, 4) + Pictures(4));
   const std::size_t pictureSize = 8 + 4;
   EXPECT_EQ(StepsOf(whole.substr(0, whole.size() - pictureSize)), 3);
@@ -115,7 +115,7 @@ TEST(MostAnimationSteps, CountsWhatIsLeftOfAFileThatIsCutShort) {
   for (std::size_t size = 0; size <= whole.size(); ++size) EXPECT_LE(StepsOf(whole.substr(0, size)), 4);
 }
 
-TEST(MostAnimationSteps, TrustsNoSizeThatTheFileStates) {
+TEST(MaxAnimationSteps, TrustsNoSizeThatTheFileStates) {
   const std::string header = Header(2, 2);
   EXPECT_EQ(StepsOf(Chunk("RIFF", "ACON" + header + Pictures(2), 0)), 2);
   EXPECT_EQ(StepsOf(Chunk("RIFF", "ACON" + header + Pictures(2), 0xFFFFFFFF)), 2);
@@ -126,27 +126,27 @@ TEST(MostAnimationSteps, TrustsNoSizeThatTheFileStates) {
   EXPECT_EQ(StepsOf(Animation(Chunk("anih", Number(36)) + Pictures(2))), 0) << "a header without its step count";
 }
 
-TEST(MostAnimationSteps, TakesTheLargestWhereAChunkStandsTwice) {
+TEST(MaxAnimationSteps, TakesTheLargestWhereAChunkStandsTwice) {
   EXPECT_EQ(StepsOf(Animation(Header(3, 1) + Header(3, 3) + Pictures(1) + Pictures(2))), 3);
   EXPECT_EQ(StepsOf(Animation(Header(3, 9) + Sequence(5) + Sequence(2) + Pictures(1))), 5);
 }
 
-TEST(MostAnimationSteps, ReadsARunOfEmptyChunksInBlocks) {
+TEST(MaxAnimationSteps, ReadsARunOfEmptyChunksInBlocks) {
   std::string chunks;
   for (int i = 0; i < 10000; ++i) chunks += Chunk("icon", "");
   BytesInMemory file(Animation(Header(1, 0xFFFFFFFF) + Chunk("LIST", "fram" + chunks)));
-  EXPECT_EQ(InspectAnimation(file).mostSteps, 10000);
+  EXPECT_EQ(InspectAnimation(file).maxSteps, 10000);
   EXPECT_LE(file.reads, 25) << "about 80,000 bytes in blocks of 4,096";
 }
 
-TEST(MostAnimationSteps, FindsNothingInAFileThatCannotBeRead) {
+TEST(MaxAnimationSteps, FindsNothingInAFileThatCannotBeRead) {
   class Unreadable : public ByteSource {
    public:
     FileStamp Stamp() override { return {.size = 1000}; }
     bool Read(std::uint64_t, std::span<std::byte>) override { return false; }
   };
   Unreadable file;
-  EXPECT_EQ(InspectAnimation(file).mostSteps, 0);
+  EXPECT_EQ(InspectAnimation(file).maxSteps, 0);
 }
 
 bool IsWhole(const std::string& bytes) {
@@ -238,18 +238,18 @@ constexpr std::uint64_t fiveGigabytes = std::uint64_t{5} << 30U;
 TEST(InspectAnimation, LooksAtSoManyChunksAndNoMore) {
   LongFile file(fiveGigabytes, "RIFF" + Number(0xFFFFFFFF) + "ACON" + Header(2, 2) + Pictures(2));
   const AnimationFacts facts = InspectAnimation(file);
-  EXPECT_EQ(facts.mostSteps, 2);
+  EXPECT_EQ(facts.maxSteps, 2);
   EXPECT_FALSE(facts.holdsWhatItSays) << "it goes on where nobody looked";
-  EXPECT_LE(file.bytesRead, mostAnimationChunks * 8U + 4096);
+  EXPECT_LE(file.bytesRead, maxAnimationChunks * 8U + 4096);
 }
 
 TEST(InspectAnimation, LooksAtSoManyEntriesOfAnOrderAndNoMore) {
   const std::string start = Header(2, 0x40000000) + Pictures(2) + "seq " + Number(0xFFFFFFFC);
   LongFile file(fiveGigabytes, "RIFF" + Number(0xFFFFFFFF) + "ACON" + start);
   const AnimationFacts facts = InspectAnimation(file);
-  EXPECT_EQ(facts.mostSteps, mostSequenceEntries);
+  EXPECT_EQ(facts.maxSteps, maxSequenceEntries);
   EXPECT_FALSE(facts.holdsWhatItSays);
-  EXPECT_LE(file.bytesRead, mostSequenceEntries * 4U + mostAnimationChunks * 8U + 4 * 4096);
+  EXPECT_LE(file.bytesRead, maxSequenceEntries * 4U + maxAnimationChunks * 8U + 4 * 4096);
 }
 
 // One with its chunks so far apart that each costs a block.
@@ -273,14 +273,14 @@ class FarApart : public LongFile {
 TEST(InspectAnimation, ReadsSoManyBytesAndNoMore) {
   FarApart file;
   EXPECT_FALSE(InspectAnimation(file).holdsWhatItSays);
-  EXPECT_LE(file.bytesRead, mostAnimationBytes);
-  EXPECT_GT(file.bytesRead, mostAnimationBytes - 8192) << "the chunks are not as far apart as meant";
+  EXPECT_LE(file.bytesRead, maxAnimationBytes);
+  EXPECT_GT(file.bytesRead, maxAnimationBytes - 8192) << "the chunks are not as far apart as meant";
 }
 
 TEST(InspectAnimation, BelievesAnAnimationWithALongTailBehindItsStatedSize) {
   LongFile file(fiveGigabytes, Animation(Header(3, 3) + Pictures(3)));
   const AnimationFacts facts = InspectAnimation(file);
-  EXPECT_EQ(facts.mostSteps, 3);
+  EXPECT_EQ(facts.maxSteps, 3);
   EXPECT_TRUE(facts.holdsWhatItSays);
 }
 
@@ -294,10 +294,10 @@ TEST(InspectAnimation, BelievesAsManyStepsAsASearchLists) {
 TEST(AnimationLooks, LookThroughAFileOnceAsLongAsItStaysAsItIs) {
   AnimationLooks looks;
   BytesInMemory file(Animation(Header(2, 2) + Pictures(2)));
-  EXPECT_EQ(looks.Of("a.ani", file).mostSteps, 2);
+  EXPECT_EQ(looks.Of("a.ani", file).maxSteps, 2);
   const int reads = file.reads;
   ASSERT_GT(reads, 0);
-  EXPECT_EQ(looks.Of("a.ani", file).mostSteps, 2);
+  EXPECT_EQ(looks.Of("a.ani", file).maxSteps, 2);
   EXPECT_TRUE(looks.Of("a.ani", file).holdsWhatItSays);
   EXPECT_EQ(file.reads, reads);
 }
@@ -305,14 +305,14 @@ TEST(AnimationLooks, LookThroughAFileOnceAsLongAsItStaysAsItIs) {
 TEST(AnimationLooks, LookAgainAtAFileOfAnotherSizeOrTime) {
   AnimationLooks looks;
   BytesInMemory former(Animation(Header(2, 2) + Pictures(2)));
-  ASSERT_EQ(looks.Of("a.ani", former).mostSteps, 2);
+  ASSERT_EQ(looks.Of("a.ani", former).maxSteps, 2);
   BytesInMemory longer(Animation(Header(3, 3) + Pictures(3)));
-  EXPECT_EQ(looks.Of("a.ani", longer).mostSteps, 3);
+  EXPECT_EQ(looks.Of("a.ani", longer).maxSteps, 3);
   BytesInMemory rewritten(Animation(Header(3, 1) + Pictures(3)));
   rewritten.written = 1;
-  EXPECT_EQ(looks.Of("a.ani", rewritten).mostSteps, 1);
+  EXPECT_EQ(looks.Of("a.ani", rewritten).maxSteps, 1);
   BytesInMemory other(Animation(Header(3, 3) + Pictures(3)));
-  EXPECT_EQ(looks.Of("b.ani", other).mostSteps, 3) << "another file of the same size and time";
+  EXPECT_EQ(looks.Of("b.ani", other).maxSteps, 3) << "another file of the same size and time";
 }
 
 TEST(AnimationLooks, ForgetWhatTheyAreToldToForget) {

@@ -54,7 +54,7 @@ TEST(Folders, SortsByNameWithCaseIgnored) {
 
 // Folders in which the system finds these entries, in this order: Wine's own order would hide that they are not sorted.
 Folders FoldersOf(std::vector<FolderEntry> entries, std::map<std::string, std::vector<std::byte>> reparseData = {}) {
-  return Folders({[entries](const std::string&, const Folders::System::Visit& visit) {
+  return Folders({[entries](const std::string&, const Folders::Dependencies::Visit& visit) {
                     for (const FolderEntry& entry : entries) visit(entry);
                   },
                   [reparseData](const std::string& path) {

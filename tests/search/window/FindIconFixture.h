@@ -75,7 +75,7 @@ class FindIconFixture : public ::testing::Test {
  protected:
   FindIconFixture() {
     state.CurrentLanguage = "ENG";
-    application.OnRuntimeError = [this](Form& form, const RuntimeError& error) {
+    application.onRuntimeError = [this](Form& form, const RuntimeError& error) {
       ShowRuntimeError(form.Window(), error, state.CurrentLanguage);
     };
     ini.values["FindIcon/Folder"] = "C:\\icons";
@@ -87,16 +87,16 @@ class FindIconFixture : public ::testing::Test {
   void OpenOver(IconSource& icons, FolderReader& folders, const std::string& language = "ENG") {
     state.CurrentLanguage = language;
     window = std::make_unique<FrmFindIcon>(
-        application, FrmFindIcon::Services{state,
-                                           settings,
-                                           icons,
-                                           folders,
-                                           [this] { return drives; },
-                                           [](const std::string& folder) { return !folder.starts_with("D:"); },
-                                           "C:\\program",
-                                           [this] { ++aboutShown; },
-                                           [this] { ++guideShown; },
-                                           {dialogs, files, temporaryBitmap}});
+        application, FrmFindIcon::Dependencies{state,
+                                               settings,
+                                               icons,
+                                               folders,
+                                               [this] { return drives; },
+                                               [](const std::string& folder) { return !folder.starts_with("D:"); },
+                                               "C:\\program",
+                                               [this] { ++aboutShown; },
+                                               [this] { ++guideShown; },
+                                               {dialogs, files, temporaryBitmap}});
     window->Show();
     application.DoEvents();
   }
@@ -145,7 +145,7 @@ class FindIconFixture : public ::testing::Test {
   Application application{GetModuleHandleW(nullptr)};
   Application& application_ = application;
   DiskFile files;
-  TemporaryBitmap temporaryBitmap{TemporaryBitmapPlaces()};
+  TemporaryBitmap temporaryBitmap{TemporaryBitmapPaths()};
   AnsweredDialogs dialogs{
       application,
       state,

@@ -174,7 +174,7 @@ TEST_F(FrmFindIconSearchTest, SizesTheGridAgainAfterItCouldNot) {
   Find(20);
   std::optional<AllDeviceContexts> hoard;
   watched.onCount = [&] { hoard.emplace(); };
-  application.OnRuntimeError = [&](Form& /*form*/, const RuntimeError& /*error*/) { hoard.reset(); };
+  application.onRuntimeError = [&](Form& /*form*/, const RuntimeError& /*error*/) { hoard.reset(); };
   Find(90);
   EXPECT_EQ(RowCount(), 0) << "there was memory";
   EXPECT_FALSE(hoard);

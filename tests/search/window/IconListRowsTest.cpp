@@ -7,12 +7,12 @@ namespace {
 
 TEST(IconListColumns, HaveTheirHeadersAndWidthsInOrder) {
   ASSERT_EQ(iconListColumns.size(), 3U);
-  EXPECT_EQ(iconListColumns[0].Header, "序号");
-  EXPECT_EQ(iconListColumns[0].Width, 40);
-  EXPECT_EQ(iconListColumns[1].Header, "文件路径");
-  EXPECT_EQ(iconListColumns[1].Width, 460);
-  EXPECT_EQ(iconListColumns[2].Header, "图标索引");
-  EXPECT_EQ(iconListColumns[2].Width, 80);
+  EXPECT_EQ(iconListColumns[0].header, "序号");
+  EXPECT_EQ(iconListColumns[0].width, 40);
+  EXPECT_EQ(iconListColumns[1].header, "文件路径");
+  EXPECT_EQ(iconListColumns[1].width, 460);
+  EXPECT_EQ(iconListColumns[2].header, "图标索引");
+  EXPECT_EQ(iconListColumns[2].width, 80);
 }
 
 TEST(IconListCell, ShowsNumberPathAndIndex) {

@@ -13,8 +13,8 @@
 
 namespace tarvik {
 
-// What the main window stands on. All of it outlives the window.
-struct FindIconServices {
+// What the main window is constructed from. All of it outlives the window.
+struct FindIconDependencies {
   ProgramState& state;
   Settings& settings;
   IconSource& icons;
@@ -24,7 +24,7 @@ struct FindIconServices {
   std::string programFolder;
   std::function<void()> showAbout;  // returns when the About box is closed
   std::function<void()> openGuide;
-  SaveCommands::Tools saving;
+  SaveCommands::Dependencies saving;
 };
 
 }  // namespace tarvik
