@@ -89,9 +89,9 @@ TEST_F(TemporaryBitmapTest, GivesTwoProgramsOneFileEach) {
 }
 
 TEST(TemporaryBitmapPaths, AreTheDriveRootAndTheUsersFolder) {
-  const TemporaryBitmap::Places places = TemporaryBitmapPaths();
-  EXPECT_EQ(places.path, "C:\\tmp.bmp");
-  EXPECT_TRUE(places.folder.ends_with('\\'));
+  const TemporaryBitmap::Paths paths = TemporaryBitmapPaths();
+  EXPECT_EQ(paths.path, "C:\\tmp.bmp");
+  EXPECT_TRUE(paths.folder.ends_with('\\'));
 }
 
 }  // namespace
