@@ -18,6 +18,7 @@ struct SpashRow {
   const char* name;                  // of the pictures
   const char* caption;
   const char* notice;
+  const char* contact;
   const char* ok;
 };
 
@@ -35,7 +36,7 @@ class StartUpTexts : public EndToEnd, public ::testing::WithParamInterface<Spash
   static void ExpectTexts(const Control& window) {
     EXPECT_EQ(window.Text(), GetParam().caption);
     EXPECT_EQ(Control(GetDlgItem(window.Window(), FrmSpash_lblDescription)).Text(), GetParam().notice);
-    EXPECT_EQ(Control(GetDlgItem(window.Window(), FrmSpash_LblEmail)).Text(), "support@brindle-tarvik.example");
+    EXPECT_EQ(Control(GetDlgItem(window.Window(), FrmSpash_LblEmail)).Text(), GetParam().contact);
     EXPECT_EQ(Control(GetDlgItem(window.Window(), FrmSpash_CmdOk)).Text(), GetParam().ok);
   }
 };
@@ -55,13 +56,17 @@ TEST_P(StartUpTexts, AreThoseOfTheLanguageAtStartUpAndInTheAboutBox) {
   EXPECT_TRUE(Eventually([&] { return IsWindow(about.Window()) == 0; }));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Languages, StartUpTexts,
-    ::testing::Values(SpashRow{std::nullopt, "ENG", "Brindle Tarvik",
-                               "Finds the icons stored in your files and saves them.", "&OK"},
-                      SpashRow{"CHS", "CHS", "布林德图标搜索", "查找并保存文件中的图标。", "确定(&O)"},
-                      SpashRow{"CHT", "CHT", "布林德圖示搜尋", "尋找並儲存檔案中的圖示。", "確定(&O)"},
-                      SpashRow{"Chinese", "unknown", "Brindle Tarvik", "Finds icons and saves them.", "&OK"}));
+INSTANTIATE_TEST_SUITE_P(Languages, StartUpTexts,
+                         ::testing::Values(SpashRow{std::nullopt, "ENG", "Brindle Tarvik",
+                                                    "Finds the icons stored in your files and saves them.",
+                                                    "Questions? Ask on the project's page.", "&OK"},
+                                           SpashRow{"CHS", "CHS", "布林德图标搜索", "查找并保存文件中的图标。",
+                                                    "如有疑问，请到项目主页提问。", "确定(&O)"},
+                                           SpashRow{"CHT", "CHT", "布林德圖示搜尋", "尋找並儲存檔案中的圖示。",
+                                                    "如有疑問，請到專案首頁提問。", "確定(&O)"},
+                                           SpashRow{"Chinese", "unknown", "Brindle Tarvik",
+                                                    "Finds icons and saves them.",
+                                                    "Questions? Ask on the project's page.", "&OK"}));
 
 class StartUpRights : public EndToEnd {};
 

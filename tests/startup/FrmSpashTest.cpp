@@ -115,10 +115,14 @@ TEST_F(FrmSpashTest, KeepsItsDesignTextsForAnUnknownCode) {
   EXPECT_EQ(spash->ItemText(FrmSpash_lblDescription), "Finds icons and saves them.");
 }
 
-TEST_F(FrmSpashTest, ShowsTheContactAddressInEveryLanguage) {
-  for (const char* language : languages) {
+TEST_F(FrmSpashTest, SendsQuestionsToTheProjectsPageInEachLanguage) {
+  const std::pair<const char*, const char*> rows[] = {{"ENG", "Questions? Ask on the project's page."},
+                                                      {"CHS", "如有疑问，请到项目主页提问。"},
+                                                      {"CHT", "如有疑問，請到專案首頁提問。"},
+                                                      {"CHI", "Questions? Ask on the project's page."}};
+  for (const auto& [language, contact] : rows) {
     Open(language);
-    EXPECT_EQ(spash->ItemText(FrmSpash_LblEmail), "support@brindle-tarvik.example");
+    EXPECT_EQ(spash->ItemText(FrmSpash_LblEmail), contact);
   }
 }
 
