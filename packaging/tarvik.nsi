@@ -1,5 +1,5 @@
 ; The installer. scripts/package compiles it:
-;   makensis -DVERSION=1.0.0 -DFILES=FOLDER -DOUTPUT=FILE packaging/tarvik.nsi
+;   makensis -DVERSION=X.Y.Z -DFILES=FOLDER -DOUTPUT=FILE packaging/tarvik.nsi
 ; FILES holds tarvik.exe, LICENSE.txt, third-party-notices.txt and guide\.
 ;
 ; It asks for the language, which is the installer's own and the program's. Without questions: /S, with the language in

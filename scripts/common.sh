@@ -5,6 +5,14 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 say() { printf '==> %s\n' "$*"; }
 fail() { printf 'error: %s\n' "$*" >&2; exit 1; }
 
+# program_version: the version that CMakeLists.txt states, as in 1.0.0.
+program_version() {
+  local version
+  version=$(sed -nE 's/^project\(Tarvik VERSION ([0-9]+\.[0-9]+\.[0-9]+) .*/\1/p' "$root/CMakeLists.txt")
+  [ -n "$version" ] || fail "CMakeLists.txt states no version"
+  printf '%s\n' "$version"
+}
+
 # as_root COMMAND...: runs it as root, through sudo where needed.
 as_root() {
   if [ "$(id -u)" = 0 ]; then "$@"
