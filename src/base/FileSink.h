@@ -7,6 +7,7 @@
 namespace tarvik {
 
 // What happens to a read-only file at the path of a file to be written.
+// Only JPEG and GIF files replace a read-only one (deliberate: oddities 38).
 enum class ReadOnlyFile { Refused, Replaced };
 
 // A file being written. Each step returns whether it worked; a writer stops at the first that did not. The file is

@@ -22,6 +22,7 @@ frmDir::frmDir(Application& application, ProgramState& state, Dependencies depen
       create_(application, state, dependencies_.makeFolder,
               [this](const std::string& folder) { dirMain_.SetPath(folder); }) {}
 
+// The close box leaves SelectedDir as it is, so it does not cancel (deliberate: oddities 44).
 std::string frmDir::ShowDir(HWND owner) {
   ShowModal(owner);
   return SelectedDir;
@@ -73,7 +74,8 @@ void frmDir::OnDrawItem(const DRAWITEMSTRUCT& item) {
   if (item.CtlID == frmDir_dirMain) dirMain_.Draw(item);
 }
 
-// Each choice adds all types to the list once more, and that is meant. Only the first of each names an extension.
+// Each choice adds all types to the list once more (deliberate: oddities 43). Only the first of each names an
+// extension.
 void frmDir::CboFileType_Click() {
   AddFileTypes();
   if (const auto extension = ImageExtension(ComboBox_GetCurSel(Item(frmDir_CboFileType))))

@@ -14,9 +14,10 @@ namespace tarvik {
 
 // The dialog's caption once a file of that many bytes is written, the same in every language: the size in thousands
 // of bytes, with as many decimals as it has ("Convert File To Gif  ( Its size is 1.078K)"; 999 bytes are 0.999).
+// All of it is deliberate: oddities 47.
 std::string CaptionWithSize(std::uint64_t bytes);
 
-// The misspelling "Pallate" is the program's own text.
+// The spelling of "Pallate" is deliberate: oddities 46.
 inline constexpr Text convertGifCaption{"Convert File To Gif", "另存为Gif", "另存為Gif"};
 inline constexpr std::array<DialogText, 6> convertGifTexts{{
     {FrmConvertGIF_Check1, {"Save &transparent", "透明", "透明"}},

@@ -51,8 +51,8 @@ inline constexpr int initialSubSampling = 3;
 // The quality that a preset (0 to 4) stands for: 20, 40, 60, 80 or 100.
 int QualityOfPreset(int preset);
 
-// The preset to show for a quality, or nothing where the list stays as it is. Every quality up to 20 shows the
-// first; of the others only the two ends of each step show one (21 and 40, 41 and 60, ...), and that is meant.
+// The preset to show for a quality, or nothing if the list stays as it is. Every quality up to 20 shows the first; of
+// the others only the two ends of each step show one: 21 and 40, 41 and 60, ... (deliberate: oddities 45).
 std::optional<int> PresetOfQuality(int quality);
 
 // The luminance factors of an item of cboSubSample: its first and third characters as numbers.

@@ -23,6 +23,7 @@ inline constexpr std::array<FileType, 1> cursorFilters{{{"Windows Cursor (*.cur)
 inline constexpr FileDialogMode saveAsMode{{" - Save As", " - 另存为", " - 另存為"}, ".ico", iconFilters};
 inline constexpr FileDialogMode saveAsImageMode{
     {" - Save As Image", " - 另存为图像", " - 另存為圖像"}, ".bmp", imageTypes};
+// In Chinese it says "icon" (deliberate: oddities 41).
 inline constexpr FileDialogMode saveAsCursorMode{
     {" - Save As Cursor", " - 另存为图标", " - 另存為圖示"}, ".cur", cursorFilters};
 

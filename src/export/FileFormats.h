@@ -23,7 +23,7 @@ inline constexpr std::uint16_t iconType = 1;
 inline constexpr std::uint16_t cursorType = 2;
 inline constexpr std::uint16_t bitmapType = 19778;  // the characters "BM"
 inline constexpr std::uint16_t imageCount = 1;      // a file holds one image
-inline constexpr std::uint8_t colorCount = 0;  // of a directory entry: 0 at every depth, also where it could be 2 or 16
+inline constexpr std::uint8_t colorCount = 0;       // of a directory entry, at every depth (deliberate: oddities 32)
 inline constexpr std::uint16_t planes = 1;
 inline constexpr std::uint32_t noCompression = 0;
 inline constexpr std::int32_t resolutionNotGiven = 0;
@@ -70,7 +70,7 @@ constexpr std::uint32_t DeclaredMaskBytes(int width) {
 }
 
 // The size field of a bitmap file, by width and colour class in the order of `depths`. The row for 64 pixels repeats
-// that of 48, though the file is larger; any other width has 0.
+// that of 48, though the file is larger; any other width has 0 (deliberate: oddities 33).
 struct BitmapFileSizes {
   int width = 0;
   std::array<std::uint32_t, depths.size()> bytes{};

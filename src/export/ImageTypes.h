@@ -13,7 +13,8 @@ struct FileType {
   std::string_view pattern;
 };
 
-// The image types in the order in which every dialog offers them. All but GIF and JPG are written as Windows bitmaps.
+// The image types in the order in which every dialog offers them. All but GIF and JPG are written as Windows bitmaps
+// (deliberate: oddities 40).
 inline constexpr std::array<FileType, 9> imageTypes{{
     {"Windows Bitmap (*.bmp)", "*.bmp"},
     {"GIF Files (*.gif)", "*.gif"},

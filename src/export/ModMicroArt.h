@@ -34,8 +34,8 @@ class CaptureSurfaces {
 
 // Takes the entry's icon out of its file again and draws its mask, its image and the composed icon, `size` pixels on a
 // side, at the top-left corner of the three cleared surfaces. An entry of an animated cursor is that step of the file's
-// first icon. False when the file yields no icon any more: the surfaces then stay cleared. A part that cannot be drawn
-// is left out, and the others are drawn all the same.
+// first icon. False if the file yields no icon any more: the surfaces then stay cleared, and a blank is saved
+// (deliberate: oddities 31). A part that cannot be drawn is left out, and the others are drawn all the same.
 bool CaptureEntry(IconSource& icons, const IconListEntry& entry, int size, CaptureSurfaces& surfaces);
 
 }  // namespace tarvik::ModMicroArt

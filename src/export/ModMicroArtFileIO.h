@@ -9,8 +9,8 @@
 #include "export/ModMicroArt.h"
 
 // Writes one captured icon as a file: icon, cursor or Windows bitmap, at the size of its surfaces and the depth of its
-// colour class. The layouts are those of Windows icon resources and device-independent bitmaps, with a few fixed
-// oddities that are kept where they stand. Each writer refuses to replace a read-only file,
+// colour class. The layouts are those of Windows icon resources and device-independent bitmaps, with a few
+// deliberate differences, named below. Each writer refuses to replace a read-only file,
 // and returns false if a step of the sink fails; the file may then be there in part. None shows a message.
 namespace tarvik::ModMicroArtFileIO {
 
@@ -31,9 +31,10 @@ bool WriteCursor(const PixelView& mask, const PixelView& image, ModMicroArt::Col
                  const std::string& path, FileSink& sink);
 
 // Writes a bitmap file (.bmp) of the composed icon. `colors` is its class with black and white in order. The file is
-// not always what readers expect, and that is meant: at 64 pixels its size field is that of 48 pixels and its 1-bit
-// rows are two bytes longer than they should be, and in 256 colours black and white are written as the values 0 and
-// 255 wherever the palette has them.
+// not always what readers expect:
+//  - at 64 pixels its size field is that of 48 pixels (deliberate: oddities 33);
+//  - at 64 pixels its 1-bit rows are two bytes longer than they should be (deliberate: oddities 34);
+//  - in 256 colours black is written as 0 and white as 255, wherever the palette has them (deliberate: oddities 37).
 bool WriteBitmap(const PixelView& composed, ModMicroArt::ColorClass colors, const std::string& path, FileSink& sink);
 
 // The bytes of a true-colour bitmap (.bmp) that reads back as exactly the same pixels, whatever the size: what is

@@ -14,7 +14,7 @@ namespace {
 using ModMicroArt::BlackAndWhite;
 using ModMicroArt::Classify;
 
-// The three prefixes of batch names. The last is spelled that way on purpose.
+// The three prefixes of batch names. The spelling of the last is deliberate: oddities 39.
 constexpr std::string_view iconPrefix = "Icon ";
 constexpr std::string_view imagePrefix = "Images ";
 constexpr std::string_view cursorPrefix = "Curor ";

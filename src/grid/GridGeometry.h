@@ -61,6 +61,7 @@ struct GridExtent {
   friend bool operator==(const GridExtent&, const GridExtent&) = default;
 };
 
+// From six rows on the scroll range follows the rows, also below 0 (deliberate: oddities 25).
 constexpr GridExtent ExtentOf(const GridGeometry& geometry, int iconCount) {
   const int rows = GridRows(geometry, iconCount);
   if (rows <= rowsWithoutScrolling) return {};

@@ -5,7 +5,7 @@
 namespace tarvik {
 namespace {
 
-constexpr double rightBound = 580;
+constexpr double rightBound = 580;  // pixels, at every icon size (deliberate: oddities 26)
 
 }  // namespace
 

@@ -14,6 +14,7 @@ Selection::Selection(SelectionView& view, GridView& grid, IconList& list, Search
                      const std::string& language)
     : view_(view), grid_(grid), list_(list), state_(state), language_(language) {}
 
+// Any button will do, and only Ctrl alone is Ctrl (deliberate: oddities 28).
 void Selection::PicIcons_MouseUp(int heldKeys, double x, double y) {
   if (state_.IsSearching) return;
   const auto cell = CellAt(state_.Geometry, x, y, grid_.InnerHeight());
@@ -80,9 +81,9 @@ void Selection::ShowCurrentLabel() {
   if (text) view_.SetInfoText(*text);
 }
 
-// Entry k is deselected beside the frame of cell k, which is the cell of the next entry. So the first cell
-// keeps its frame here, unless it is the current one, and one cell past the last entry is erased; both are
-// meant.
+// k counts entries from 1 and cells from 0, so the loop deselects entry k but erases the frame of entry k + 1. The
+// first cell keeps its frame here, unless it is the current one, and one cell past the last entry is erased
+// (deliberate: oddities 29).
 void Selection::ClearSelection() {
   for (int k = 1; k < state_.NextIconNumber; ++k) {
     DrawFrameAt(FrameCorner(state_.Geometry, k), false);

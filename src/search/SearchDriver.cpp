@@ -11,8 +11,8 @@
 namespace tarvik {
 namespace {
 
-constexpr int pathCharactersInBox = 20;
-constexpr Point trialCorner{50, 50};  // where animation steps are tried out
+constexpr int pathCharactersInBox = 20;  // of the folder, in the no-icons message (deliberate: oddities 18)
+constexpr Point trialCorner{50, 50};     // where animation steps are tried out
 
 constexpr std::array<SearchControl, 5> searchControls{SearchControl::CmdFind, SearchControl::CmdOk,
                                                       SearchControl::CmdClose, SearchControl::mnuFile,
@@ -66,7 +66,8 @@ void SearchDriver::Search() {
   }
 }
 
-// Says in a box why there is nothing to list.
+// Says in a box why there is nothing to list. From the highest limit on, the advice is to choose fewer folders, even if
+// raising the limit would do (deliberate: oddities 17).
 bool SearchDriver::IsRefused() {
   const int count = state_.IconCount;
   if (count == 0) {
@@ -233,7 +234,7 @@ void SearchDriver::ListFilesOf(const std::string& folder) {
   const int limit = ToInteger16(window_.txtMax());
   SetStatus(searchTexts::searching, {folders_.Dir1Path()});
   for (const std::string& name : folders_.File1Names()) {
-    // Asked before each file and never inside one: a file's icons are listed all together.
+    // Checked before each file and never inside one: a file's icons are listed all together (deliberate: oddities 20).
     if (state_.NextIconNumber > limit) break;
     SetStatus(searchTexts::adding, {std::to_string(state_.NextIconNumber)});
     AtFile(PathOf(name), &SearchDriver::ListIconsOfFile);
@@ -277,7 +278,7 @@ void SearchDriver::DrawInNextCell(ExtractedIcon* icon, int step) {
   state_.NextIconNumber += 1;
 }
 
-// The root of a drive keeps the backslash that it ends in and gets another one.
+// The root of a drive keeps the backslash that it ends in and gets another one (deliberate: oddities 19).
 std::string SearchDriver::PathOf(const std::string& name) const {
   return folders_.File1Path() + "\\" + name;
 }

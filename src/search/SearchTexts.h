@@ -9,8 +9,9 @@ namespace tarvik::searchTexts {
 inline constexpr Text title{"Brindle Tarvik - %1 - %2 Icons", "Brindle Tarvik - %1 - %2 个图标",
                             "Brindle Tarvik - %1 - %2 個圖示"};
 
-// Status panel: a folder; the number of the entry about to be added; the count after a folder. The traditional
-// texts of the first two are the simplified ones, and that is meant.
+// Status panel: a folder; the number of the entry about to be added; the count after a folder. The Traditional
+// Chinese texts of the first two are the simplified ones (deliberate: oddities 22), and "th" follows every number
+// (deliberate: oddities 21).
 inline constexpr Text searching{"Wait..., Searching %1", "请稍候..., 正在查找中 %1", "请稍候..., 正在查找中 %1"};
 inline constexpr Text adding{"Adding %1th icon to list", "正添加No.%1到列表中", "正添加No.%1到列表中"};
 inline constexpr Text added{"%1 Icons Added. Double click an icon for enhanced view.",
@@ -19,7 +20,8 @@ inline constexpr Text added{"%1 Icons Added. Double click an icon for enhanced v
 // Label after a search.
 inline constexpr Text firstSelected{"Icon No 1 Selected.", "选中NO.1 图标.", "選中NO.1 圖示."};
 
-// Message boxes: the start of the folder's path; the count and the limit; the count and the highest limit.
+// Message boxes: the start of the folder's path; the count and the limit; the count and the highest limit. Their
+// wording and the two blanks are deliberate: oddities 23.
 inline constexpr Text noIcons{"%1 ... contains no icons.", "%1中没有图标.", "%1中沒有圖示."};
 inline constexpr Text raiseLimit{
     "Found %1 icons.\r\nOnce search only support Maximum %2 icons!\r\n"

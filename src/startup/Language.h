@@ -45,12 +45,12 @@ class LanguageStore {
 };
 
 // The named value without the spaces at its two ends; empty where there is none. The terminating zero of a
-// value that exists is part of it, so a value that exists is never empty.
+// value that exists is part of it, so a value that exists is never empty (deliberate: oddities 8).
 std::string ReadLanguageValue(LanguageStore& store, const std::string& name);
 
 // The code that the stored value "Language" gives: "ENG" where there is none, else its first three characters
-// in upper case. Whether there is one is asked of the trimmed value, the characters are taken of the value as
-// it stands: a value with leading blanks matches no language, and that is meant.
+// in upper case. Whether there is one is decided by the trimmed value, but the characters are taken from the
+// untrimmed one, so a value with leading blanks matches no language (deliberate: oddities 7).
 LanguageCode ChooseLanguage(LanguageStore& store);
 
 }  // namespace tarvik

@@ -11,7 +11,7 @@ namespace tarvik {
 // What follows the product's name in the title of every failure.
 inline constexpr Text failureSuffix{" - Error", " - 错误", " - 錯誤"};
 
-// For a second copy of the program, if it were refused. It is not: these are never shown.
+// For a second copy of the program, if it were refused. It is not, so these are never shown (deliberate: oddities 5).
 inline constexpr Text alreadyRunningTitle{"error!", "错误!", "錯誤!"};
 inline constexpr Text alreadyRunningText{"Program is running !", "请不要重复运行程序！", "請不要重複運行程式！"};
 

@@ -12,11 +12,13 @@ namespace tarvik {
 struct ProgramState {
   LanguageCode CurrentLanguage;  // "ENG", "CHS" or "CHT"; any other text matches no language
   Integer16 ScreenBitsPerPixel;  // of the screen as first measured
-  std::string Shell32Path;       // the shell library in the system folder
-  std::string TempIconPath;      // a scratch icon file in the user's temporary folder
-  bool ShowAsAbout = false;      // the start-up window opens as an About box; never set back
+  // The shell library in the system folder, and a scratch icon file in the user's temporary folder. Nothing reads them
+  // (deliberate: oddities 4).
+  std::string Shell32Path;
+  std::string TempIconPath;
+  bool ShowAsAbout = false;  // the start-up window opens as an About box; never cleared (deliberate: oddities 6)
 
-  // The entry that the main window's OK hands over.
+  // The entry that the main window's OK hands over. Nothing reads it (deliberate: oddities 14).
   std::string ChosenIconPath;
   Integer16 ChosenIconIndex;
   bool ChoiceCancelled = true;
@@ -29,7 +31,7 @@ struct ProgramState {
   Integer16 HotSpotX;
   Integer16 HotSpotY;
   bool HotSpotCancelled = true;  // whether the picker was left without OK
-  Integer16 HotSpotBound;        // no coordinate passes it; nothing ever raises it from 0, and that is meant
+  Integer16 HotSpotBound;        // no coordinate passes it, and nothing raises it from 0 (deliberate: oddities 42)
 
   // The extension of the files that a batch save is about to write: ".ICO", ".CUR" or that of an image type.
   std::string SaveExtension;

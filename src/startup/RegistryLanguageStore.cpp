@@ -8,7 +8,8 @@ namespace tarvik {
 namespace {
 
 // Read control and the rights to query and set values, to create and list sub-keys, to be notified and to create
-// links: an account that may not write to the key does not open it, and the program is then in English.
+// links: an account that may not write to the key does not open it, and the program is then in English (deliberate:
+// oddities 9).
 constexpr REGSAM accessRights = READ_CONTROL | KEY_QUERY_VALUE | KEY_SET_VALUE | KEY_CREATE_SUB_KEY |
                                 KEY_ENUMERATE_SUB_KEYS | KEY_NOTIFY | KEY_CREATE_LINK;
 static_assert(accessRights == 0x2003F);

@@ -40,8 +40,8 @@ class Settings {
   std::string ReadIniSetting(const std::string& section, const std::string& key, const std::string& defaultValue,
                              const std::string& file = {});
 
-  // Writes a setting; with an empty value deletes the key, with an empty key the whole section. An empty file
-  // name means the program's own file. Non-zero on success.
+  // Writes a setting; with an empty value deletes the key (deliberate: oddities 10), with an empty key the whole
+  // section. An empty file name means the program's own file. Non-zero on success.
   int WriteIniSetting(const std::string& section, const std::string& key, const std::string& value,
                       const std::string& file = {});
 

@@ -29,6 +29,7 @@ constexpr Refusal tooSmall{{" requires a screen resolution of at least 800 x 600
                            {"Please adjust your screen resolution and try again.", "请在调整分辨率后重新运行程序.",
                             "請在調整解析度後重新運行程式."}};
 
+// In an unknown language the start ends without a message (deliberate: oddities 3).
 void Refuse(const Refusal& refusal, const std::string& code, StartUpSystem& system) {
   const auto first = Pick(refusal.first, code);
   const auto second = Pick(refusal.second, code);
@@ -60,6 +61,7 @@ void Main(ProgramState& state, LanguageStore& language, Screen& screen, StartUpS
 
 bool CheckColorMode(ProgramState& state, Screen& screen, StartUpSystem& system) {
   return Succeeds([&] {
+    // The first answer is stored, the second decides (deliberate: oddities 2).
     state.ScreenBitsPerPixel = screen.BitsPerPixel();
     const Integer16 bitsPerPixel = screen.BitsPerPixel();
     if (bitsPerPixel > tooFewBitsPerPixel) return true;

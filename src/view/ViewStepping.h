@@ -26,9 +26,8 @@ class ViewStepping {
   // Both outlive the stepping.
   ViewStepping(EnhancedViewHost& host, ViewDisplay& display);
 
-  // Starts at the host's selection, which is counted from 0, and takes that number as it is: one below the entry on
-  // screen. The first Next so shows the same entry again, and the first Previous the one two entries back. That is
-  // meant.
+  // Starts at the host's selection, which is counted from 0: one below the entry on screen. So the first Next shows the
+  // same entry again, and the first Previous goes two back (deliberate: oddities 48).
   void Begin();
 
   // The number that the last step arrived at. It may lie outside the list, and never outside 16 bits: a step there
@@ -40,8 +39,9 @@ class ViewStepping {
   void ShowLast();
 
   // One entry on or back. From the last entry Next goes to entry 2, from entry 1 Previous goes to the last but one:
-  // the number wraps first and then moves, and that is meant. A run-time error in one step of it is skipped; the next
-  // step follows.
+  // the number wraps first and then moves (deliberate: oddities 49). It can leave the list at both ends, and the
+  // picture then stays as it is (deliberate: oddities 50). A run-time error in one step of it is skipped; the next step
+  // follows.
   void ShowNext();
   void ShowPrevious();
 

@@ -23,8 +23,8 @@ inline constexpr auto viewTooltips = std::to_array<FormText>({
     {frmBit_tlb_control_Faster, {"Faster", "加快", "加快"}},
 });
 
-// The window's caption for an enlarged picture of that size in pixels; nothing where `code` is no language. The
-// Traditional Chinese title begins with 流, and that is meant.
+// The window's caption for an enlarged picture of that size in pixels; nothing if `code` is no language. The
+// Traditional Chinese title begins with 流 (deliberate: oddities 52).
 std::optional<std::string> ViewCaption(int height, int width, std::string_view code);
 
 // Where an entry comes from, for the status bar: its path, " - " and its index.

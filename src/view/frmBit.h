@@ -33,8 +33,8 @@ class frmBit final : public Form, private ViewDisplay {
   // What the main window calls on a double click; returns when the view is closed. Does nothing where the list is
   // empty or the view is open. In this order: the selected entry is rendered, its picture is taken over (which loads
   // the view: from here on the host's ViewOpen is set), its source goes to the status bar, and the view is shown,
-  // modal to `owner`. The view opens at 500 % with the slide show off and its initial interval, whatever it was left
-  // with.
+  // modal to `owner`. The view opens with the slide show off and its initial interval, whatever it was left with, and
+  // at 500 % with no zoom chosen (deliberate: oddities 51).
   void ShowSelectedEntry(HWND owner);
 
   // Sets all texts of the loaded view in the current language: the buttons' tooltips and the caption.

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include "platform/Handles.h"
+
 namespace tarvik {
 namespace {
 
@@ -20,6 +22,17 @@ TEST(DesktopScreen, KnowsTheColorDepth) {
   mode.dmSize = sizeof mode;
   ASSERT_NE(EnumDisplaySettingsW(nullptr, ENUM_CURRENT_SETTINGS, &mode), 0);
   EXPECT_EQ(DesktopScreen().BitsPerPixel(), static_cast<int>(mode.dmBitsPerPel));
+}
+
+// A device context that was released is the next one to be given out; one that is kept is not.
+TEST(DesktopScreen, KeepsTheDeviceContextOfEachMeasurement) {
+  const auto nextContext = [] {
+    const WindowDc dc(nullptr);
+    return dc.get();
+  };
+  const HDC next = nextContext();
+  DesktopScreen().BitsPerPixel();
+  EXPECT_NE(nextContext(), next);
 }
 
 }  // namespace

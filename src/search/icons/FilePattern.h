@@ -12,12 +12,13 @@ inline constexpr std::array<std::string_view, 6> fileTypeParts{"*.ico;", "*.ani;
                                                                "*.ocx;", "*.dll;", "*.exe;"};
 inline constexpr std::size_t allFilesBox = fileTypeParts.size();
 inline constexpr std::string_view allFilesPattern = "*.*";
-inline constexpr std::string_view noFilesPattern = "aaa.aaa";  // matches no usual file
+inline constexpr std::string_view noFilesPattern = "aaa.aaa";  // matches one name (deliberate: oddities 15)
 
 // Which boxes are ticked, in their order.
 using FileTypeChecks = std::array<bool, fileTypeParts.size() + 1>;
 
-// The boxes as they stand after one of them was clicked: "all files" ticks the others too.
+// The boxes as they stand after one of them was clicked: "all files" ticks the others too, so none of them
+// can be unticked meanwhile (deliberate: oddities 16).
 FileTypeChecks WithAllFilesRule(FileTypeChecks checked);
 
 // The pattern of the ticked boxes: "*.*" with "all files", the parts one after the other otherwise

@@ -108,6 +108,7 @@ bool ShellIcons::Survives(const std::string& path, int call, Call&& make) {
   return false;
 }
 
+// The system's large size, which larger cells stretch (deliberate: oddities 30).
 IconHandle ShellIcons::ExtractLarge(const std::string& path, int index) {
   HICON large = nullptr;
   UINT extracted = 0;

@@ -27,6 +27,7 @@ constexpr int FileTypeId(std::size_t box) {
   return FrmFindIcon_ChkFileType0 + static_cast<int>(box);
 }
 
+// "Driver" is deliberate: oddities 11.
 constexpr Text driveNotReady{"Driver Not Ready!", "路径无效!", "路徑無效!"};
 
 }  // namespace
@@ -66,6 +67,7 @@ void FrmFindIcon::ChkFileType_Click() {
   file1_.SetPattern(BuildPattern(checks));
 }
 
+// The grid is not redrawn, although clicks already follow the new size (deliberate: oddities 13).
 void FrmFindIcon::CboIconSize_Click() {
   const int chosen = ComboBox_GetCurSel(Item(FrmFindIcon_CboIconSize));
   if (chosen < 0) return;
@@ -78,6 +80,7 @@ void FrmFindIcon::CboIconSize_Click() {
   SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.DefaultLimit));
 }
 
+// The bar's values are upside down (deliberate: oddities 12).
 void FrmFindIcon::udMain_Change() {
   SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.MaxLimit - udMain_.Value()));
 }
@@ -109,6 +112,7 @@ void FrmFindIcon::mnuStart_Click() {
   CmdFind_Click();
 }
 
+// Stores the entry for a caller, which there is not, and closes the program (deliberate: oddities 14).
 void FrmFindIcon::CmdOk_Click() {
   // A disabled button sends nothing, but its command can come from elsewhere.
   if (state_.IsSearching || !list_.Has(state_.CurrentIndex + 1)) return;

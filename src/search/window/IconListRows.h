@@ -9,7 +9,8 @@
 
 namespace tarvik {
 
-// A column of the icon list in its report view. The headers are Chinese in every interface language.
+// A column of the icon list in its report view. The headers are Chinese in every interface language (deliberate:
+// oddities 24).
 struct IconListColumn {
   std::string_view header;
   int width = 0;  // in pixels
