@@ -1,6 +1,7 @@
 # A Wine of the project's own: its prefix, its settings, its virtual display. Source it after common.sh.
 export WINEPREFIX=${TARVIK_WINEPREFIX:-$root/build/wine}
-export WINEDEBUG=-all
+# Silent, unless the caller asks for something.
+export WINEDEBUG=${WINEDEBUG:--all}
 # Without the menu builder nothing that is installed in it gets into the menus and file types of the user's own desktop.
 export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
 # The text of this variable decides how Wine names files; it must be a UTF-8 locale that every machine has.
