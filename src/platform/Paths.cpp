@@ -21,6 +21,13 @@ bool StartsAtShare(std::string_view path) {
   return path.starts_with(R"(\\)") && !path.starts_with(R"(\\?\)") && !path.starts_with(R"(\\.\)");
 }
 
+// Each run of backslashes as one.
+std::wstring WithSingleBackslashes(std::wstring path) {
+  const auto isRepeated = [](wchar_t previous, wchar_t letter) { return previous == L'\\' && letter == L'\\'; };
+  path.erase(std::unique(path.begin(), path.end(), isRepeated), path.end());
+  return path;
+}
+
 // What a call wrote into a buffer: as many characters as it said, never more than there are.
 std::string TakeWritten(const std::string& buffer, UINT count) {
   return buffer.substr(0, std::min<std::size_t>(count, buffer.size()));
@@ -52,8 +59,8 @@ std::string TempFolder() {
 
 std::wstring LiteralPath(std::string_view path) {
   if (path.find('/') != std::string_view::npos) return ToWide(path);
-  if (StartsAtDriveRoot(path)) return LR"(\\?\)" + ToWide(path);
-  if (StartsAtShare(path)) return LR"(\\?\UNC\)" + ToWide(path.substr(2));
+  if (StartsAtDriveRoot(path)) return LR"(\\?\)" + WithSingleBackslashes(ToWide(path));
+  if (StartsAtShare(path)) return LR"(\\?\UNC\)" + WithSingleBackslashes(ToWide(path.substr(2)));
   return ToWide(path);
 }
 

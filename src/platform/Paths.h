@@ -14,8 +14,8 @@ std::string SystemFolder();   // "C:\Windows\System32" on most machines
 std::string TempFolder();     // the user's folder for temporary files, with a backslash at its end
 
 // The path in the form that the W functions take to the letter: of any length, and with names that Windows would
-// otherwise trim or take for a device. A path that is neither on a drive nor on a share, or that has slashes in place
-// of backslashes, stays as it is.
+// otherwise trim or take for a device. Repeated backslashes, which such a call would not forgive, become one. A path
+// that is neither on a drive nor on a share, or that has slashes in place of backslashes, stays as it is.
 std::wstring LiteralPath(std::string_view path);
 
 // The path as it is while it is of common length, so that names of devices are known for what they are; a longer one in

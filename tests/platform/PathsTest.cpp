@@ -11,6 +11,9 @@ namespace {
 
 TEST(Paths, MakesLiteralPathsOfDrivesAndShares) {
   EXPECT_EQ(LiteralPath(R"(C:\a)"), LR"(\\?\C:\a)");
+  // A file at a drive's root, as a search names it.
+  EXPECT_EQ(LiteralPath(R"(C:\\a.ani)"), LR"(\\?\C:\a.ani)");
+  EXPECT_EQ(LiteralPath(R"(\\server\share\\a)"), LR"(\\?\UNC\server\share\a)");
   EXPECT_EQ(LiteralPath(R"(\\server\share\a)"), LR"(\\?\UNC\server\share\a)");
   EXPECT_EQ(LiteralPath(R"(\\?\C:\a)"), LR"(\\?\C:\a)");
   EXPECT_EQ(LiteralPath("C:/a"), L"C:/a");
