@@ -60,7 +60,7 @@ bool IsTooLarge(std::string_view number) {
 
 ReadNumber ReadUnsignedNumber(std::string_view text) {
   // The library would read "inf", "nan" and a sign as numbers.
-  if (text.empty() || !(IsDigit(text[0]) || text[0] == '.')) return {};
+  if (text.empty() || (!IsDigit(text[0]) && text[0] != '.')) return {};
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   const auto length = static_cast<std::size_t>(end - text.data());

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <optional>
 
@@ -110,16 +111,15 @@ std::vector<Point> CutIntoBoxes(std::span<CountedColor> colors, std::size_t maxC
   // A heap: the box whose cut gains most stands first.
   std::vector<Box> boxes{MakeBox(colors)};
   while (boxes.size() < maxColors && boxes.front().cut.gain > 0) {
-    std::pop_heap(boxes.begin(), boxes.end(), gainsLess);
+    std::ranges::pop_heap(boxes, gainsLess);
     const std::span<CountedColor> whole = boxes.back().colors;
     const Cut cut = boxes.back().cut;
-    const auto second = std::partition(whole.begin(), whole.end(), [&](const CountedColor& counted) {
-      return ChannelOf(counted.color, cut.channel) <= cut.last;
-    });
+    const auto isFirst = [&](const CountedColor& counted) { return ChannelOf(counted.color, cut.channel) <= cut.last; };
+    const auto second = std::ranges::partition(whole, isFirst).begin();
     boxes.back() = MakeBox({whole.begin(), second});
-    std::push_heap(boxes.begin(), boxes.end(), gainsLess);
+    std::ranges::push_heap(boxes, gainsLess);
     boxes.push_back(MakeBox({second, whole.end()}));
-    std::push_heap(boxes.begin(), boxes.end(), gainsLess);
+    std::ranges::push_heap(boxes, gainsLess);
   }
   std::vector<Point> means;
   means.reserve(boxes.size());
@@ -156,7 +156,7 @@ class NearestSearch {
     };
     const auto start = std::ranges::lower_bound(entries_, sum, {}, &Entry::sum);
     for (auto above = start; above != entries_.end() && look(*above);) ++above;
-    for (auto below = start; below != entries_.begin() && look(*--below);) continue;
+    for (auto below = start; below != entries_.begin() && look(*std::prev(below));) --below;
     return best;
   }
 

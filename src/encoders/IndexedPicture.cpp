@@ -1,7 +1,6 @@
 #include "encoders/IndexedPicture.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstddef>
 #include <span>
 #include <utility>
@@ -40,18 +39,20 @@ class ColorNumbers {
   // The slot that holds the colour's number, or the free one where it belongs.
   std::size_t SlotOf(Color color) const {
     constexpr std::uint32_t goldenRatio = 0x9E3779B9;  // 2^32 divided by it: spreads near colours over all slots
-    std::size_t at = (color * goldenRatio) >> (32 - std::countr_zero(slots_.size()));
+    std::size_t at = (color * goldenRatio) >> shift_;
     while (slots_[at] != empty && colors_[slots_[at]].color != color) at = (at + 1) % slots_.size();
     return at;
   }
 
   void Grow() {
     slots_.assign(slots_.size() * 2, empty);
+    --shift_;
     for (std::uint32_t i = 0; i < colors_.size(); ++i) slots_[SlotOf(colors_[i].color)] = i;
   }
 
   std::vector<CountedColor> colors_;
-  std::vector<std::uint32_t> slots_ = std::vector<std::uint32_t>(1024, empty);  // a power of two
+  std::vector<std::uint32_t> slots_ = std::vector<std::uint32_t>(1024, empty);  // always 2^(32 - shift_) of them
+  unsigned shift_ = 22;
 };
 
 std::vector<Color> PixelsOf(const PixelView& picture) {
@@ -140,7 +141,7 @@ IndexedPicture IndexByWebPalette(const PixelView& picture, std::optional<Color> 
     if (seeThrough) result.transparentIndex = extra;
     result.pixels.push_back(seeThrough ? extra : static_cast<std::uint8_t>(WebIndex(color)));
   }
-  if (result.transparentIndex)
+  if (transparent && result.transparentIndex)
     result.palette.push_back(result.palette[static_cast<std::size_t>(WebIndex(*transparent))]);
   return result;
 }

@@ -218,7 +218,7 @@ void SaveCommands::SaveCursors(Scope scope) {
 
 void SaveCommands::SaveImages(Scope scope) {
   const auto held = window_.HoldCommands();
-  const std::string folder = AskForFolder(*ImageExtension(0));
+  const std::string folder = AskForFolder(ImageExtension(0).value_or(std::string_view()));
   if (folder.empty()) return;
   const BatchKind kind{imagePrefix, state_.SaveExtension, saveTexts::imageFailed};
   const std::string extension = UpperExtension(kind.extension);

@@ -44,7 +44,8 @@ TemporaryBitmap::TemporaryBitmap(Paths paths) : paths_(std::move(paths)) {}
 
 const PixelView* TemporaryBitmap::PassThrough(const PixelView& picture) {
   if (!file_ && !Make()) return nullptr;
-  return Write(picture) && ReadBack() ? &*picture_ : nullptr;
+  if (!Write(picture) || !ReadBack() || !picture_) return nullptr;
+  return &*picture_;
 }
 
 void TemporaryBitmap::Delete() {

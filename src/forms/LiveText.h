@@ -28,7 +28,8 @@ class LiveText {
   // Shows a text that waits, now.
   void Flush() {
     if (!waiting_) return;
-    const std::string text = *std::exchange(waiting_, std::nullopt);
+    const std::string text = std::move(*waiting_);
+    waiting_.reset();
     shownAt_ = GetTickCount64();
     show_(text);
   }

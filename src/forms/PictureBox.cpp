@@ -47,7 +47,7 @@ void Paint(HWND window) {
   PAINTSTRUCT paint;
   const HDC dc = BeginPaint(window, &paint);
   const auto* picture = reinterpret_cast<const Surface*>(GetWindowLongPtrW(window, 0));
-  RECT rest = paint.rcPaint;
+  const RECT rest = paint.rcPaint;
   if (picture != nullptr) {
     const RECT& part = paint.rcPaint;
     BitBlt(dc, part.left, part.top, part.right - part.left, part.bottom - part.top, picture->Dc(), part.left, part.top,

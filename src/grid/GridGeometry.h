@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -42,9 +43,7 @@ constexpr int GridWidth(const GridGeometry& geometry) {
 // The width of the widest of the four grids.
 constexpr int WidestGrid() {
   int widest = 0;
-  for (const GridGeometry& geometry : gridGeometries) {
-    if (GridWidth(geometry) > widest) widest = GridWidth(geometry);
-  }
+  for (const GridGeometry& geometry : gridGeometries) widest = std::max(widest, GridWidth(geometry));
   return widest;
 }
 

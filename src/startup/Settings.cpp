@@ -37,13 +37,13 @@ std::string Settings::ReadIniSetting(const std::string& section, const std::stri
 
 int Settings::WriteIniSetting(const std::string& section, const std::string& key, const std::string& value,
                               const std::string& file) {
-  const std::string& target = Resolve(file);
+  const std::string target = Resolve(file);
   if (key.empty()) return store_.DeleteSection(section, target);
   if (value.empty()) return store_.DeleteKey(section, key, target);
   return store_.Write(section, key, value, target);
 }
 
-const std::string& Settings::Resolve(const std::string& file) {
+std::string Settings::Resolve(const std::string& file) {
   if (!file.empty()) return file;
   if (path_.empty()) path_ = SettingsPath(programPath_);
   return path_;

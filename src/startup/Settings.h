@@ -46,7 +46,7 @@ class Settings {
                       const std::string& file = {});
 
  private:
-  const std::string& Resolve(const std::string& file);
+  std::string Resolve(const std::string& file);
 
   IniStore& store_;
   std::string programPath_;

@@ -101,8 +101,9 @@ bool Skin::Apply(Form& form) {
 
 bool Skin::Paint(Form& form) {
   const ComUse use;
-  if (!Class()) return false;
-  auto component = std::make_shared<Component>(*Class());
+  const std::optional<CLSID>& id = Class();
+  if (!id) return false;
+  auto component = std::make_shared<Component>(*id);
   if (!component->Call(L"LoadSkin", Argument(path_)) || !component->Call(L"ApplySkin", Argument(form.Window()))) {
     return false;
   }

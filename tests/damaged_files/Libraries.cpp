@@ -223,4 +223,18 @@ IntactFile SixteenBitLibrary(std::span<const IconPicture> pictures) {
   return file.Take();
 }
 
+Bytes LibraryOfOneIcon() {
+  constexpr Color left = 0x0000FF;
+  constexpr Color right = 0xFF0000;
+  const std::array pictures{BitmapPicture(48, 32, left, right)};
+  return Library(Bitness::Bits32, pictures).bytes;
+}
+
+Bytes CutOffLibrary() {
+  constexpr std::size_t missing = 8192;
+  Bytes file = LibraryOfOneIcon();
+  file.resize(file.size() - missing);
+  return file;
+}
+
 }  // namespace tarvik::testing

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "damaged_files/Libraries.h"
 #include "driver/SeenFiles.h"
 #include "end_to_end/SavingTest.h"
 #include "platform/Holdings.h"
@@ -198,11 +199,9 @@ TEST_F(SaveFault, TheIconOfAFileThatIsGoneIsSavedBlank) {
 // Each look at such an icon costs the system some GDI objects, which it never gets back.
 TEST_F(SaveFault, AnIconThatTheSystemBreaksOnIsAskedForOnce) {
   MakePictures();
-  const std::array icon{testing::BitmapPicture(32, 32, black, white)};
-  testing::Bytes cut = testing::IconFile(icon);
-  cut.resize(3000);
-  for (int i = 0; i < 20; ++i) tree_.MakeFile("broken" + std::to_string(i) + ".ico", cut);
+  for (int i = 0; i < 20; ++i) tree_.MakeFile("broken" + std::to_string(i) + ".dll", testing::CutOffLibrary());
   Start();
+  Tick({Ico, Dll});
   Find();
   ASSERT_EQ(List().RowCount(), 25);
   found_ = Now();

@@ -53,8 +53,12 @@ class BlockReader {
 
  private:
   bool MayTake(int& left, std::uint64_t offset) {
-    if (left == 0 || bytesLeft_ == 0) GiveUp(offset);
-    return left != 0 && bytesLeft_ != 0 && left-- != 0;
+    if (left == 0 || bytesLeft_ == 0) {
+      GiveUp(offset);
+      return false;
+    }
+    --left;
+    return true;
   }
   void GiveUp(std::uint64_t offset) { stopOffset_ = std::min(stopOffset_, offset); }
 

@@ -155,7 +155,7 @@ std::vector<std::string> Folders::Files(const std::string& folder, const std::st
     // The pattern is judged here and not by the system, which would also look at short names.
     if (MatchesPattern(name, pattern)) names.emplace_back(entry.name, std::move(name));
   });
-  std::sort(names.begin(), names.end(), [](const auto& a, const auto& b) { return StandsBefore(a.first, b.first); });
+  std::ranges::sort(names, [](const auto& a, const auto& b) { return StandsBefore(a.first, b.first); });
 
   std::vector<std::string> files;
   files.reserve(names.size());

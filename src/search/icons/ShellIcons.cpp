@@ -74,7 +74,8 @@ class PlatformIcon final : public ExtractedIcon {
 // off in their middle.
 std::vector<IconHandle> TakeOwnership(const std::vector<HICON>& handles, bool finished, UINT extracted) {
   std::vector<IconHandle> icons;
-  const std::size_t given = !finished ? handles.size() : extracted == noFile ? 0 : extracted;
+  std::size_t given = extracted == noFile ? 0 : extracted;
+  if (!finished) given = handles.size();
   for (const HICON handle : std::span(handles).first(std::min(given, handles.size()))) {
     // Before Wine makes an icon, it keeps the number of its picture in the handle's place.
     constexpr std::uintptr_t maxNumber = 0xFFFF;

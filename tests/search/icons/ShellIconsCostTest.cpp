@@ -27,30 +27,16 @@ namespace tarvik {
 namespace {
 
 using testing::AnimationFile;
-using testing::BitmapPicture;
-using testing::Bitness;
 using testing::Bytes;
+using testing::CutOffLibrary;
 using testing::IconFileOf;
-using testing::Library;
+using testing::LibraryOfOneIcon;
 using testing::TemporaryFolder;
 
 constexpr Color red = 0x0000FF;
 constexpr Color green = 0x00FF00;
 constexpr Color blue = 0xFF0000;
 constexpr Color background = 0x808080;
-
-Bytes IntactLibrary() {
-  const std::array pictures{BitmapPicture(48, 32, red, blue)};
-  return Library(Bitness::Bits32, pictures).bytes;
-}
-
-// A library that ends in the middle of its only picture, two pages of memory before the end that its headers tell.
-Bytes CutOffLibrary() {
-  constexpr std::size_t missing = 8192;
-  Bytes file = IntactLibrary();
-  file.resize(file.size() - missing);
-  return file;
-}
 
 // How many views of files the process has in its memory.
 int MappedViews() {
@@ -83,7 +69,7 @@ TEST(ShellIcons, AsksAgainForAFileThatHasChanged) {
   ShellIcons icons;
   ASSERT_EQ(icons.Extract(path, 0), nullptr);
   // The call that was cut off still holds the file, so that it can only be changed from outside of Wine.
-  const std::string intact = folder.MakeFile("intact.dll", IntactLibrary());
+  const std::string intact = folder.MakeFile("intact.dll", LibraryOfOneIcon());
   ASSERT_EQ(
       end_to_end::RunUnix("cp " + end_to_end::UnixQuoted(ToWide(intact)) + ' ' + end_to_end::UnixQuoted(ToWide(path)))
           .exitCode,
