@@ -96,17 +96,22 @@ void IconGrid::Clear() {
 
 void IconGrid::Size(const GridGeometry& geometry, int iconCount) {
   const GridExtent extent = ExtentOf(geometry, iconCount);
-  // A search asks once for each folder, and nearly always for the same.
-  if (extent_ != extent || vsb_.SmallStep() != geometry.CellPitch) {
-    extent_.reset();
-    picture_.Resize(picture_.Width(), extent.height, white);
-    SetWindowPos(picIcons_.Window(), nullptr, 0, 0, picture_.Width(), picture_.Height(),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    vsb_.SetRange({0, extent.scrollMaximum, geometry.CellPitch, viewportHeight}, viewportHeight);
-    EnableWindow(vsb_.Window(), extent.scrolls ? TRUE : FALSE);
-    extent_ = extent;
-  }
+  const bool isSized = extent_ == extent && vsb_.SmallStep() == geometry.CellPitch;
+  // A search asks once for each folder, and nearly always for the same. A scroll bar that is given its value is drawn
+  // again even if the value stays, which would cost more than the folder's icons.
+  if (isSized && vsb_.Value() == 0) return;
+  if (!isSized) Fit(geometry, extent);
   ScrollTo(0);
+}
+
+void IconGrid::Fit(const GridGeometry& geometry, const GridExtent& extent) {
+  extent_.reset();
+  picture_.Resize(picture_.Width(), extent.height, white);
+  SetWindowPos(picIcons_.Window(), nullptr, 0, 0, picture_.Width(), picture_.Height(),
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  vsb_.SetRange({0, extent.scrollMaximum, geometry.CellPitch, viewportHeight}, viewportHeight);
+  EnableWindow(vsb_.Window(), extent.scrolls ? TRUE : FALSE);
+  extent_ = extent;
 }
 
 void IconGrid::Keep() {

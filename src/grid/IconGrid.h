@@ -42,6 +42,7 @@ class IconGrid final : public GridView {
  private:
   void Vsb_Change();
   void Vsb_Scroll();
+  void Fit(const GridGeometry& geometry, const GridExtent& extent);
   void ScrollTo(int value);
 
   HWND frame_ = nullptr;

@@ -94,6 +94,7 @@ void FrmFindIcon::Form_Load() {
 }
 
 void FrmFindIcon::AttachControls() {
+  chkSubDir_ = Item(FrmFindIcon_chkSubDir);
   drive1_.Attach(Item(FrmFindIcon_Drive1), dependencies_.drives);
   dir1_.Attach(
       Item(FrmFindIcon_Dir1), [this](const std::string& folder) { return dependencies_.folders.SubFolders(folder); },

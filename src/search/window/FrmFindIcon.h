@@ -124,6 +124,7 @@ class FrmFindIcon final : public Form,
   Dependencies dependencies_;
   SearchState state_;
   IconList list_;
+  HWND chkSubDir_ = nullptr;
   DirListBox dir1_;
   FileListBox file1_;
   ShownFolders folders_{dir1_, file1_, dependencies_.folders};

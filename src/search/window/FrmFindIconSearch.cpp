@@ -46,8 +46,9 @@ void FrmFindIcon::Enable(SearchControl control, bool enabled) {
   EnableItem(IdOf(control), enabled);
 }
 
+// A search asks several times for each folder, and Wine looks for a control by its id among all of them.
 bool FrmFindIcon::chkSubDir() const {
-  return IsChecked(FrmFindIcon_chkSubDir);
+  return SendMessageW(chkSubDir_, BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
 
 std::string FrmFindIcon::txtMax() const {

@@ -1,0 +1,87 @@
+// What a search asks of the main window's controls for each folder.
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "search/window/FindIconFixture.h"
+
+namespace tarvik {
+namespace {
+
+// Counts what tells a scroll bar its state, and what moves a window.
+class ChangeCounter {
+ public:
+  explicit ChangeCounter(HWND window) : window_(window) {
+    SetWindowSubclass(window_, Procedure, 0, reinterpret_cast<DWORD_PTR>(&count_));
+  }
+  ~ChangeCounter() { RemoveWindowSubclass(window_, Procedure, 0); }
+  ChangeCounter(const ChangeCounter&) = delete;
+  ChangeCounter& operator=(const ChangeCounter&) = delete;
+
+  int Count() const { return count_; }
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                                    DWORD_PTR count) {
+    if (message == SBM_SETSCROLLINFO || message == SBM_SETPOS || message == WM_WINDOWPOSCHANGING)
+      ++*reinterpret_cast<int*>(count);
+    return DefSubclassProc(window, message, wParam, lParam);
+  }
+
+  HWND window_;
+  int count_ = 0;
+};
+
+class FrmFindIconCostTest : public testing::FindIconFixture {
+ protected:
+  // So many folders of one file each, below the one that the search starts in.
+  void OpenOverFolders(int count) {
+    for (int i = 0; i < count; ++i) {
+      const std::string folder = "C:\\icons\\" + std::to_string(i);
+      machine.subFolders["C:\\icons"].push_back(folder);
+      machine.files[folder] = {"more.dll"};
+      machine.icons[folder + "\\more.dll"] = 100;
+    }
+    Open();
+    window->SetChecked(FrmFindIcon_chkSubDir, true);
+  }
+  void PostScroll(int request) const {
+    PostMessageW(window->Window(), WM_VSCROLL, static_cast<WPARAM>(request),
+                 reinterpret_cast<LPARAM>(Item(FrmFindIcon_Vsb)));
+  }
+  int GridTop() const {
+    POINT corner{0, 0};
+    MapWindowPoints(Grid(), Item(FrmFindIcon_PicFrame), &corner, 1);
+    return corner.y;
+  }
+};
+
+// The scroll bar was drawn once for each folder, which took longer than the folder's icons.
+TEST_F(FrmFindIconCostTest, AFolderLeavesAGridAloneThatIsSizedAndAtItsTop) {
+  OpenOverFolders(5);
+  Find(30);
+  const ChangeCounter bar(Item(FrmFindIcon_Vsb));
+  const ChangeCounter picture(Grid());
+  Find(30);
+  EXPECT_EQ(bar.Count(), 0);
+  EXPECT_EQ(picture.Count(), 0);
+}
+
+TEST_F(FrmFindIconCostTest, AFolderScrollsAGridToItsTopThatWasScrolledWhileTheSearchYielded) {
+  OpenOverFolders(1);
+  Find(30);
+  const ChangeCounter picture(Grid());
+  PostScroll(SB_BOTTOM);  // served in the first of two folders
+  Click(FrmFindIcon_CmdFind);
+  EXPECT_EQ(picture.Count(), 2) << "down and up";
+  EXPECT_EQ(GridTop(), 0);
+  EXPECT_EQ(GetScrollPos(Item(FrmFindIcon_Vsb), SB_CTL), 0);
+}
+
+}  // namespace
+}  // namespace tarvik
