@@ -41,6 +41,10 @@ void Application::RunWhile(const std::function<bool()>& condition) {
   }
 }
 
+bool Application::HasMessages() {
+  return HIWORD(GetQueueStatus(QS_ALLINPUT)) != 0;
+}
+
 void Application::DoEvents() {
   MSG message;
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {

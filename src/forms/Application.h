@@ -32,6 +32,8 @@ class Application {
   void Run();
   // Serves messages while `condition` holds; waits for the next one.
   void RunWhile(const std::function<bool()>& condition);
+  // Whether anything waits to be served: a message, one that another thread sent, a timer, a part to paint.
+  static bool HasMessages();
   // Serves the messages that wait now and returns.
   void DoEvents();
 

@@ -42,6 +42,9 @@ class IconSource {
   // Files can change from here on, because messages are served or a box is shown: what was taken but not yet asked for
   // is dropped.
   virtual void LetGo() {}
+  // Drops it only if the file has changed since it was taken. For a moment at which nothing of this program could have
+  // changed a file, but others could.
+  virtual void LetGoIfChanged() {}
 };
 
 }  // namespace tarvik

@@ -52,6 +52,11 @@ void IconsAhead::LetGo() {
   Drop();
 }
 
+void IconsAhead::LetGoIfChanged() {
+  if (held_.empty()) return;
+  if (!stamp_ || groups_.StampOf(path_) != stamp_) Drop();
+}
+
 void IconsAhead::Drop() {
   held_.clear();
   count_.reset();

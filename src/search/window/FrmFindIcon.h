@@ -137,7 +137,8 @@ class FrmFindIcon final : public Form,
   IconSurfaces surfaces_;  // PicIcon, PicMask and PicImage
   SaveCommands commands_;
   bool isSaving_ = false;   // a save or copy command runs, and the window takes no other
-  ULONGLONG servedAt_ = 0;  // when such a command last served messages
+  ULONGLONG lookedAt_ = 0;  // when such a command last looked for messages
+  ULONGLONG servedAt_ = 0;  // when it last served them
   std::optional<Surface> picMain_;
 
   LiveText caption_;

@@ -17,7 +17,8 @@
 namespace tarvik {
 namespace {
 
-constexpr ULONGLONG paintPeriod = 40;  // milliseconds between two looks at the waiting messages
+constexpr ULONGLONG paintPeriod = 40;     // milliseconds between two looks at the waiting messages
+constexpr ULONGLONG servePeriod = 1'000;  // milliseconds after which they are served even if none is seen
 
 }  // namespace
 
@@ -41,13 +42,20 @@ std::shared_ptr<void> FrmFindIcon::HoldCommands() {
 }
 
 // Serving all messages and not the painting alone keeps the system from taking the window for one that hangs; input is
-// taken out before it reaches anything.
+// taken out before it reaches anything. If nothing waits, icons that were taken ahead are kept: a batch would throw
+// away about as many as it uses.
 void FrmFindIcon::ServePainting() {
-  if (GetTickCount64() - servedAt_ < paintPeriod) return;
+  const ULONGLONG now = GetTickCount64();
+  if (now - lookedAt_ < paintPeriod) return;
+  lookedAt_ = now;
+  if (now - servedAt_ < servePeriod && !Application::HasMessages()) {
+    dependencies_.icons.LetGoIfChanged();
+    return;
+  }
   dependencies_.icons.LetGo();
   TheApplication().DoEvents();
   if (!IsLoaded()) throw GivenUp();
-  servedAt_ = GetTickCount64();
+  lookedAt_ = servedAt_ = GetTickCount64();
 }
 
 bool FrmFindIcon::CopyPicClip() {

@@ -207,6 +207,31 @@ TEST_F(IconsAheadTest, ShowsNoIconOfAFileAsItWasBeforeItLetGo) {
               ElementsAre("count a.dll", "take a.dll#0 to 63", "count a.dll", "take a.dll#1 to 2"));
 }
 
+TEST_F(IconsAheadTest, KeepsWhatItHoldsIfTheFileIsAsItWas) {
+  shell.files["a.dll"] = {.icons = 64};
+  const auto batch = icons.InTurn();
+  icons.CountIcons("a.dll");
+  for (int index = 0; index < 64; ++index) {
+    EXPECT_EQ(Icon("a.dll", index), "a.dll#" + std::to_string(index) + " of 1");
+    icons.LetGoIfChanged();
+  }
+  EXPECT_THAT(shell.script.Lines(), ElementsAre("count a.dll", "take a.dll#0 to 63"));
+}
+
+TEST_F(IconsAheadTest, DropsWhatItHoldsIfTheFileIsNotAsItWas) {
+  const auto batch = icons.InTurn();
+  for (const ShellFile& changed : {ShellFile{.icons = 100, .written = 2}, ShellFile{.isThere = false}}) {
+    shell.files["a.dll"] = {.icons = 100};
+    icons.CountIcons("a.dll");
+    EXPECT_EQ(Icon("a.dll", 0), "a.dll#0 of 1");
+    ASSERT_EQ(shell.alive, 63);
+    shell.files["a.dll"] = changed;
+    icons.LetGoIfChanged();
+    EXPECT_EQ(shell.alive, 0);
+    EXPECT_EQ(Icon("a.dll", 1), changed.isThere ? "a.dll#1 of 2" : "none");
+  }
+}
+
 // A batch that writes slowly serves messages after every few icons.
 TEST_F(IconsAheadTest, TakesLittleMoreThanIsUsedWhereItOftenLetsGo) {
   shell.files["a.dll"] = {.icons = 2000};
