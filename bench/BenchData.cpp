@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <array>
 #include <vector>
 
 #include "base/FolderPath.h"
@@ -16,6 +17,17 @@ namespace {
 testing::IconPicture Picture(int number) {
   return testing::BitmapPicture(32, 24, 0x010305U * static_cast<Color>(number % 80),
                                 0x030201U * static_cast<Color>(number % 80));
+}
+
+void Copy(const std::string& from, const std::string& to) {
+  CopyFileW(ToWide(from).c_str(), ToWide(to).c_str(), FALSE);
+}
+
+void MakeLibrary(const std::string& path, int icons) {
+  Copy(JoinPath(SystemFolder(), "version.dll"), path);
+  std::vector<testing::IconPicture> pictures;
+  for (int i = 0; i < icons; ++i) pictures.push_back(Picture(i));
+  testing::AddIcons(path, pictures);
 }
 
 }  // namespace
@@ -34,14 +46,40 @@ std::string MakeIconFiles(const testing::TemporaryFolder& folder, int folders, i
   return folder.In(root);
 }
 
-std::string MakeIconLibrary(const testing::TemporaryFolder& folder, int icons) {
-  folder.MakeFolder("library");
-  const std::string path = folder.In("library\\icons.dll");
-  CopyFileW(ToWide(JoinPath(SystemFolder(), "version.dll")).c_str(), ToWide(path).c_str(), FALSE);
-  std::vector<testing::IconPicture> pictures;
-  for (int i = 0; i < icons; ++i) pictures.push_back(Picture(i));
-  testing::AddIcons(path, pictures);
-  return folder.In("library");
+std::string MakeIconLibrary(const testing::TemporaryFolder& folder, int icons, int libraries) {
+  const std::string name = "library" + std::to_string(icons) + "x" + std::to_string(libraries);
+  folder.MakeFolder(name);
+  const std::string path = folder.In(JoinPath(name, "icons.dll"));
+  MakeLibrary(path, icons);
+  for (int i = 1; i < libraries; ++i) {
+    Copy(path, folder.In(JoinPath(name, "icons" + std::to_string(i) + ".dll")));
+  }
+  return folder.In(name);
+}
+
+std::string MakeAllKinds(const testing::TemporaryFolder& folder, int folders) {
+  constexpr std::array others{"a.txt", "b.html", "c.cpp", "d.dat", "e.log", "f.png"};
+  constexpr std::array<Color, 2> colors{0x0000FF, 0x00FF00};
+  const std::string library = JoinPath(MakeIconLibrary(folder, 5, 1), "icons.dll");
+  const testing::Bytes text(3000, std::byte{'a'});
+  const testing::Bytes animation = testing::AnimationFile(colors);
+  folder.MakeFolder("all kinds");
+  for (int i = 0; i < folders; ++i) {
+    const std::string sub = JoinPath("all kinds", std::to_string(i));
+    folder.MakeFolder(sub);
+    const testing::IconPicture picture = Picture(i);
+    const auto icon = testing::IconFile({&picture, 1});
+    folder.MakeFile(JoinPath(sub, "a.ico"), icon);
+    folder.MakeFile(JoinPath(sub, "b.cur"), i % 4 == 0 ? icon : text);
+    for (const char* other : others) folder.MakeFile(JoinPath(sub, other), text);
+    if (i % 10 == 0) {
+      Copy(library, folder.In(JoinPath(sub, "g.dll")));
+    } else {
+      folder.MakeFile(JoinPath(sub, "g.json"), text);
+    }
+    folder.MakeFile(JoinPath(sub, i % 16 == 0 ? "h.ani" : "h.xml"), i % 16 == 0 ? animation : text);
+  }
+  return folder.In("all kinds");
 }
 
 std::string MakeEmptyFolders(const std::string& root, int count) {

@@ -137,7 +137,7 @@ int main() {
   using namespace tarvik;
   using namespace tarvik::bench;
   const testing::TemporaryFolder folder;
-  const std::string library = JoinPath(MakeIconLibrary(folder, libraryIcons), "icons.dll");
+  const std::string library = JoinPath(MakeIconLibrary(folder, libraryIcons, 1), "icons.dll");
   CompareFormat(folder, library, "icon", WriteIcon);
   CompareFormat(folder, library, "cursor", WriteCursor);
   CompareFormat(folder, library, "bitmap", WriteBitmap);

@@ -82,8 +82,9 @@ MainWindow::MainWindow(Application& application, const Scope& scope)
   FrmFindIcon& window = parts_->window;
   window.Show();
   window.SetItemText(FrmFindIcon_txtMax, "4000");
-  const int type = scope.pattern == "*.dll" ? 4 : 0;
-  for (int box = 0; box < 7; ++box) {
+  constexpr int allFiles = 6;
+  const int type = scope.pattern == "*.dll" ? 4 : scope.pattern == "*.*" ? allFiles : 0;
+  for (int box = 0; box <= allFiles; ++box) {
     CheckDlgButton(window.Window(), FrmFindIcon_ChkFileType0 + box, box == type ? BST_CHECKED : BST_UNCHECKED);
   }
   parts_->Choose(FrmFindIcon_ChkFileType0 + type);

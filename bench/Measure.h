@@ -29,8 +29,9 @@ inline double Median(std::vector<double> values) {
 }
 
 // Runs the ways in turn, so that the machine's mood falls on all of them alike, and prints each one's median time and
-// the median of its ratio to the bare way of the same round.
-inline void Compare(const std::string& title, const std::vector<Way>& ways, int rounds) {
+// the median of its ratio to the bare way of the same round. Returns the median times in milliseconds, one for each
+// way.
+inline std::vector<double> Compare(const std::string& title, const std::vector<Way>& ways, int rounds) {
   std::vector<std::vector<double>> times(ways.size());
   std::vector<std::vector<double>> ratios(ways.size());
   for (const Way& way : ways) Milliseconds(way);  // a warm-up that is not counted
@@ -45,6 +46,9 @@ inline void Compare(const std::string& title, const std::vector<Way>& ways, int 
                 Median(ratios[i]));
   }
   std::fflush(stdout);
+  std::vector<double> medians;
+  for (const std::vector<double>& time : times) medians.push_back(Median(time));
+  return medians;
 }
 
 }  // namespace tarvik::bench

@@ -1,8 +1,9 @@
-// What it costs to save every icon of a search from the main window's menu, held against the bare platform calls that
+// What it costs to save every icon of a search from the main window's menu, against the bare platform calls that
 // cannot be spared: taking each icon out of its file, drawing its three pictures, and writing as many bytes.
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <filesystem>
 #include <span>
@@ -11,6 +12,7 @@
 
 #include "BareIcon.h"
 #include "BenchData.h"
+#include "Held.h"
 #include "MainWindow.h"
 #include "Measure.h"
 #include "OutputFolder.h"
@@ -21,23 +23,29 @@
 namespace tarvik::bench {
 namespace {
 
-constexpr int libraries = 8;
-constexpr int iconsInEach = 500;  // in a larger library the platform takes longer to find one
 constexpr int iconSize = 32;
 constexpr int rounds = 5;
 
+// Libraries of icons.
+struct Libraries {
+  std::string folder;
+  std::vector<std::string> paths;
+  int iconsInEach = 0;
+};
+
 class BareCalls {
  public:
-  // Writes as many bytes for each icon as stand in the files of `saved`.
-  BareCalls(std::vector<std::string> paths, const OutputFolder& saved)
-      : paths_(std::move(paths)), bytes_(AverageSize(saved.Path())) {}
+  // Takes so many icons with one call, and writes as many bytes for each as the files of `saved` have on average.
+  BareCalls(Libraries libraries, const OutputFolder& saved, int groupSize)
+      : libraries_(std::move(libraries)), groupSize_(groupSize), bytes_(AverageSize(saved.Path())) {}
 
   void Run(const OutputFolder& output) {
     int number = 0;
-    for (const std::string& path : paths_) {
-      for (int index = 0; index < iconsInEach; ++index) {
-        DrawBareIcon(path, index, iconSize, surfaces_);
-        OutputFolder::Write(output.File(++number), bytes_);
+    for (const std::string& path : libraries_.paths) {
+      for (int index = 0; index < libraries_.iconsInEach; index += groupSize_) {
+        DrawGroup(path, index);
+        const int count = std::min(groupSize_, libraries_.iconsInEach - index);
+        for (int i = 0; i < count; ++i) OutputFolder::Write(output.File(++number), bytes_);
       }
     }
   }
@@ -53,22 +61,52 @@ class BareCalls {
     return files == 0 ? 0 : bytes / files;
   }
 
-  std::vector<std::string> paths_;
+  void DrawGroup(const std::string& path, int first) const {
+    if (groupSize_ == 1) return DrawBareIcon(path, first, iconSize, surfaces_);
+    const int count = std::min(groupSize_, libraries_.iconsInEach - first);
+    for (const IconHandle& icon : TakeBareIcons(path, first, count)) DrawPictures(icon.get(), iconSize, surfaces_);
+  }
+
+  Libraries libraries_;
+  int groupSize_;
   std::vector<std::byte> bytes_;
   IconSurfaces surfaces_{iconSize};
 };
 
-void CompareFormat(MainWindow& window, const testing::TemporaryFolder& folder, const std::vector<std::string>& paths,
-                   const std::string& format, int command) {
-  const OutputFolder saved(folder, "saved " + format);
-  const OutputFolder bareOutput(folder, "bare " + format);
-  window.SaveAll(command, saved.Path());
-  BareCalls bare(paths, saved);
-  Compare(
-      "4,000 icons saved by the menu as " + format,
-      {{.name = "bare calls", .run = [&] { bare.Run(bareOutput); }, .prepare = [&] { bareOutput.Empty(); }},
-       {.name = "save all", .run = [&] { window.SaveAll(command, saved.Path()); }, .prepare = [&] { saved.Empty(); }}},
-      rounds);
+Libraries MakeLibraries(const testing::TemporaryFolder& folder, int libraries, int iconsInEach) {
+  Libraries made{MakeIconLibrary(folder, iconsInEach, libraries), {}, iconsInEach};
+  for (const auto& file : std::filesystem::directory_iterator(ToWide(made.folder))) {
+    made.paths.push_back(ToUtf8(file.path().wstring()));
+  }
+  return made;
+}
+
+struct Format {
+  const char* name;
+  int command;  // of the menu
+};
+
+void CompareFormats(Application& application, const testing::TemporaryFolder& folder, const std::string& title,
+                    const Libraries& libraries, const std::vector<Format>& formats) {
+  MainWindow window(application, {libraries.folder, "*.dll", false});
+  window.Find();
+  for (const Format& format : formats) {
+    const std::string row = title + " as " + format.name;
+    const OutputFolder saved(folder, row + ", saved");
+    const OutputFolder bareOutput(folder, row + ", bare");
+    window.SaveAll(format.command, saved.Path());
+    BareCalls oneByOne(libraries, saved, 1);
+    BareCalls sixtyFour(libraries, saved, 64);
+    const auto emptyBare = [&] { bareOutput.Empty(); };
+    Compare(row,
+            {{.name = "one by one", .run = [&] { oneByOne.Run(bareOutput); }, .prepare = emptyBare},
+             {.name = "64 at a time", .run = [&] { sixtyFour.Run(bareOutput); }, .prepare = emptyBare},
+             {.name = "save all",
+              .run = [&] { window.SaveAll(format.command, saved.Path()); },
+              .prepare = [&] { saved.Empty(); }}},
+            rounds);
+    PrintHeld(row, libraries.iconsInEach * static_cast<int>(libraries.paths.size()));
+  }
 }
 
 }  // namespace
@@ -79,16 +117,10 @@ int main() {
   using namespace tarvik::bench;
   Application application(GetModuleHandleW(nullptr));
   const testing::TemporaryFolder folder;
-  const std::string first = MakeIconLibrary(folder, iconsInEach);
-  std::vector<std::string> paths{JoinPath(first, "icons.dll")};
-  while (static_cast<int>(paths.size()) < libraries) {
-    paths.push_back(JoinPath(first, "icons" + std::to_string(paths.size()) + ".dll"));
-    CopyFileW(ToWide(paths.front()).c_str(), ToWide(paths.back()).c_str(), TRUE);
-  }
-  MainWindow window(application, {first, "*.dll", false});
-  window.Find();
-  CompareFormat(window, folder, paths, "icon", FrmFindIcon_mnuSaveAll);
-  CompareFormat(window, folder, paths, "cursor", FrmFindIcon_mnuSaveAll3);
-  CompareFormat(window, folder, paths, "bitmap", FrmFindIcon_mnuSaveAll2);
+  CompareFormats(application, folder, "2,000 icons of one DLL", MakeLibraries(folder, 1, 2000),
+                 {{"icon", FrmFindIcon_mnuSaveAll}});
+  CompareFormats(
+      application, folder, "4,000 icons of eight DLLs", MakeLibraries(folder, 8, 500),
+      {{"icon", FrmFindIcon_mnuSaveAll}, {"cursor", FrmFindIcon_mnuSaveAll3}, {"bitmap", FrmFindIcon_mnuSaveAll2}});
   return 0;
 }

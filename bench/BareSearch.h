@@ -1,0 +1,42 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "MainWindow.h"
+#include "platform/Surface.h"
+
+namespace tarvik::bench {
+
+// What a program would do that only wants the icons drawn: list folders twice, count, take, draw and release each icon.
+class BareSearch {
+ public:
+  // How it takes icons: each file counted in both passes and each icon with a call of its own; or each file counted
+  // once and 64 icons with a call, which is the least that the system lets one do.
+  enum class Taking { OneByOne, SixtyFour };
+
+  BareSearch(Scope scope, Taking taking);
+
+  void Run();
+  // How many icons the last run drew.
+  int Icons() const { return number_; }
+
+ private:
+  void Visit(const std::wstring& folder);
+  void TakeFile(const std::string& path);
+  int CountOf(const std::string& path);
+  void DrawGroup(const std::string& path, int first, int count);
+  void DrawNext(HICON icon);
+
+  Scope scope_;
+  Taking taking_;
+  Surface grid_;
+  bool drawing_ = false;
+  int number_ = 0;
+  std::unordered_map<std::string, int> counts_;
+};
+
+}  // namespace tarvik::bench

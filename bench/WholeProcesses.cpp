@@ -1,0 +1,80 @@
+#include "WholeProcesses.h"
+
+#include <windows.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+#include "Measure.h"
+#include "driver/UnixProgram.h"
+#include "platform/Handles.h"
+#include "platform/Paths.h"
+#include "platform/Text.h"
+
+namespace tarvik::bench {
+namespace {
+
+constexpr const char* title = "whole processes, DLLs of the system folder";
+constexpr int rounds = 7;
+
+double Number(const std::string& text) {
+  try {
+    return std::stod(text);
+  } catch (const std::invalid_argument&) {
+    return 0;
+  }
+}
+
+// Milliseconds that a command of the system below Wine takes, by that system's own clock: how it is started from here
+// does not count.
+double UnixMilliseconds(const std::string& command) {
+  const end_to_end::UnixAnswer answer = end_to_end::RunUnix(
+      "start=$(date +%s%N); { " + command + "; } >/dev/null 2>&1; echo $((($(date +%s%N) - start) / 1000))");
+  return Number(answer.output) / 1000.0;
+}
+
+double OwnMilliseconds() {
+  std::array<wchar_t, MAX_PATH> own{};
+  GetModuleFileNameW(nullptr, own.data(), MAX_PATH);
+  std::wstring commandLine = L'"' + std::wstring(own.data()) + L"\" " + ToWide(searchOnce);
+  return Milliseconds({"", [&] {
+                         STARTUPINFOW startup{};
+                         startup.cb = sizeof startup;
+                         PROCESS_INFORMATION process{};
+                         if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                                            &startup, &process) == FALSE)
+                           throw std::runtime_error("the search cannot be started");
+                         const FileHandle thread(process.hThread);
+                         const FileHandle owner(process.hProcess);
+                         WaitForSingleObject(owner.get(), INFINITE);
+                       }});
+}
+
+}  // namespace
+
+void CompareWholeProcesses(const testing::TemporaryFolder& folder) {
+  if (end_to_end::RunUnix("command -v wrestool").exitCode != 0) {
+    std::printf("%-44s skipped: there is no wrestool (Debian: icoutils)\n", title);
+    return;
+  }
+  const std::string extracted = end_to_end::UnixQuoted(ToWide(folder.MakeFolder("wrestool")));
+  const std::string command =
+      "cd " + end_to_end::UnixQuoted(ToWide(SystemFolder())) + " && wrestool -x --type=14 -o " + extracted + " *.dll";
+  std::vector<double> theirs;
+  std::vector<double> ratios;
+  std::vector<double> own;
+  UnixMilliseconds(command);
+  OwnMilliseconds();
+  for (int round = 0; round < rounds; ++round) {
+    theirs.push_back(UnixMilliseconds(command));
+    own.push_back(OwnMilliseconds());
+    ratios.push_back(own.back() / theirs.back());
+  }
+  std::printf("%-44s %-24s %9.1f ms  ratio %.3f\n", title, "wrestool", Median(theirs), 1.0);
+  std::printf("%-44s %-24s %9.1f ms  ratio %.3f\n", title, "search, real window", Median(own), Median(ratios));
+}
+
+}  // namespace tarvik::bench
