@@ -1,5 +1,5 @@
-// How long the program takes from the start of its process to its first window on the screen, held against a program
-// of one empty window; and how large it is.
+// How long the program takes from the start of its process to its first window on the screen, against a program of one
+// empty window and against one that only shows the dialog of the same window; and how large it is.
 
 #include <windows.h>
 
@@ -72,10 +72,13 @@ int main() {
   using namespace tarvik::bench;
   const fs::path program = Built(TARVIK_PROGRAM);
   const fs::path emptyWindow = Built(L"empty_window.exe");
+  const fs::path dialogWindow = Built(L"dialog_window.exe");
   Started started;
+  const auto way = [&](const char* name, const fs::path& file) {
+    return Way{.name = name, .run = [&] { started.Start(file); }, .prepare = [&] { started.End(); }};
+  };
   Compare("from the start to the first window",
-          {{.name = "one empty window", .run = [&] { started.Start(emptyWindow); }, .prepare = [&] { started.End(); }},
-           {.name = "Tarvik", .run = [&] { started.Start(program); }, .prepare = [&] { started.End(); }}},
+          {way("one empty window", emptyWindow), way("the dialog alone", dialogWindow), way("Tarvik", program)},
           rounds);
   started.End();
   std::printf("tarvik.exe: %.2f MB\n", static_cast<double>(fs::file_size(program)) / (1024.0 * 1024.0));
