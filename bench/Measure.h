@@ -1,26 +1,66 @@
 #pragma once
 
+#include <windows.h>
+
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "platform/Handles.h"
+
 namespace tarvik::bench {
 
-// One way of doing the work; the first of a comparison is the bare one that the others are held against.
+// One way of doing the work. The first of a comparison is the one that the others are compared with.
 struct Way {
   std::string name;
   std::function<void()> run;
   std::function<void()> prepare = {};  // before each run, and not counted
 };
 
-inline double Milliseconds(const Way& way) {
+// What one run took, in milliseconds.
+struct Cost {
+  double wall = 0;
+  double processor = 0;  // of this process and of Wine's server: other programs disturb it less
+};
+
+inline double OwnProcessorTime() {
+  FILETIME created{};
+  FILETIME ended{};
+  FILETIME kernel{};
+  FILETIME user{};
+  GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
+  const auto milliseconds = [](const FILETIME& time) {
+    return (static_cast<double>(time.dwHighDateTime) * 4294967296.0 + time.dwLowDateTime) / 1e4;
+  };
+  return milliseconds(kernel) + milliseconds(user);
+}
+
+// Wine opens files in its server, so "self" is the server there. 0 on Windows, which has none.
+inline double ServerProcessorTime() {
+  const FileHandle file(CreateFileW(LR"(\\?\unix\proc\self\schedstat)", GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, 0, nullptr));
+  std::array<char, 128> text{};
+  DWORD length = 0;
+  if (!file || ReadFile(file.get(), text.data(), text.size() - 1, &length, nullptr) == FALSE) return 0;
+  return std::strtod(text.data(), nullptr) / 1e6;  // from nanoseconds
+}
+
+inline Cost CostOf(const Way& way) {
   if (way.prepare) way.prepare();
+  const double processor = OwnProcessorTime() + ServerProcessorTime();
   const auto start = std::chrono::steady_clock::now();
   way.run();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+  const std::chrono::duration<double, std::milli> wall = std::chrono::steady_clock::now() - start;
+  return {wall.count(), OwnProcessorTime() + ServerProcessorTime() - processor};
+}
+
+inline double Milliseconds(const Way& way) {
+  return CostOf(way).wall;
 }
 
 inline double Median(std::vector<double> values) {
@@ -28,26 +68,41 @@ inline double Median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
-// Runs the ways in turn, so that the machine's mood falls on all of them alike, and prints each one's median time and
-// the median of its ratio to the bare way of the same round. Returns the median times in milliseconds, one for each
-// way.
-inline std::vector<double> Compare(const std::string& title, const std::vector<Way>& ways, int rounds) {
-  std::vector<std::vector<double>> times(ways.size());
-  std::vector<std::vector<double>> ratios(ways.size());
-  for (const Way& way : ways) Milliseconds(way);  // a warm-up that is not counted
-  for (int round = 0; round < rounds; ++round) {
-    for (std::size_t i = 0; i < ways.size(); ++i) {
-      times[i].push_back(Milliseconds(ways[i]));
-      ratios[i].push_back(times[i].back() / times[0].back());
-    }
+// The median of a part of the costs, divided by those of `others` of the same round if there are any.
+inline double MedianOf(double Cost::*part, const std::vector<Cost>& costs, const std::vector<Cost>* others = nullptr) {
+  std::vector<double> values;
+  for (std::size_t i = 0; i < costs.size(); ++i) {
+    const double divisor = others != nullptr ? std::max((*others)[i].*part, 1e-9) : 1;
+    values.push_back(costs[i].*part / divisor);
   }
+  return Median(std::move(values));
+}
+
+// Which times a comparison prints. The processor time says nothing about work that other processes do.
+enum class Times { Clock, ClockAndProcessor };
+
+// Runs the ways in turn, so that the machine's mood falls on all of them alike, and prints each one's median time and
+// the median of its ratio to the first way of the same round. Returns the median times by the clock in milliseconds, one
+// for each way.
+inline std::vector<double> Compare(const std::string& title, const std::vector<Way>& ways, int rounds,
+                                   Times times = Times::ClockAndProcessor) {
+  std::vector<std::vector<Cost>> costs(ways.size());
+  for (const Way& way : ways) CostOf(way);  // a warm-up that is not counted
+  for (int round = 0; round < rounds; ++round) {
+    for (std::size_t i = 0; i < ways.size(); ++i) costs[i].push_back(CostOf(ways[i]));
+  }
+  std::vector<double> medians;
   for (std::size_t i = 0; i < ways.size(); ++i) {
-    std::printf("%-44s %-24s %9.1f ms  ratio %.3f\n", title.c_str(), ways[i].name.c_str(), Median(times[i]),
-                Median(ratios[i]));
+    medians.push_back(MedianOf(&Cost::wall, costs[i]));
+    std::printf("%-44s %-22s %9.1f ms, ratio %.3f", title.c_str(), ways[i].name.c_str(), medians.back(),
+                MedianOf(&Cost::wall, costs[i], costs.data()));
+    if (times == Times::ClockAndProcessor) {
+      std::printf("; processor %9.1f ms, ratio %.3f", MedianOf(&Cost::processor, costs[i]),
+                  MedianOf(&Cost::processor, costs[i], costs.data()));
+    }
+    std::printf("\n");
   }
   std::fflush(stdout);
-  std::vector<double> medians;
-  for (const std::vector<double>& time : times) medians.push_back(Median(time));
   return medians;
 }
 

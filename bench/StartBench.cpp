@@ -78,8 +78,8 @@ int main() {
     return Way{.name = name, .run = [&] { started.Start(file); }, .prepare = [&] { started.End(); }};
   };
   Compare("from the start to the first window",
-          {way("one empty window", emptyWindow), way("the dialog alone", dialogWindow), way("Tarvik", program)},
-          rounds);
+          {way("one empty window", emptyWindow), way("the dialog alone", dialogWindow), way("Tarvik", program)}, rounds,
+          Times::Clock);
   started.End();
   std::printf("tarvik.exe: %.2f MB\n", static_cast<double>(fs::file_size(program)) / (1024.0 * 1024.0));
   return 0;
