@@ -4,6 +4,7 @@
 #include <winternl.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <vector>
 
 #include "platform/GdiObjects.h"
@@ -73,6 +74,17 @@ Holdings HeldBy(HANDLE process) {
           .kernelHandles = CountKernelHandles(process),
           .userHandles = CountUserHandles(process),
           .bytes = UsedBytes(process)};
+}
+
+int CountMappedViews(HANDLE process) {
+  int views = 0;
+  const std::byte* address = nullptr;
+  MEMORY_BASIC_INFORMATION region;
+  while (VirtualQueryEx(process, address, &region, sizeof(region)) != 0) {
+    if (region.Type == MEM_MAPPED && region.BaseAddress == region.AllocationBase) ++views;
+    address = static_cast<const std::byte*>(region.BaseAddress) + region.RegionSize;
+  }
+  return views;
 }
 
 }  // namespace tarvik::testing

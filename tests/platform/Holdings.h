@@ -17,4 +17,7 @@ struct Holdings {
 // `process` needs the rights to be asked and to be read.
 Holdings HeldBy(HANDLE process);
 
+// How many views of files and of shared memory the process has in its memory. The same rights.
+int CountMappedViews(HANDLE process);
+
 }  // namespace tarvik::testing

@@ -16,6 +16,7 @@
 #include "driver/UnixProgram.h"
 #include "platform/GdiObjects.h"
 #include "platform/Handles.h"
+#include "platform/Holdings.h"
 #include "platform/IconFiles.h"
 #include "platform/Surface.h"
 #include "platform/TemporaryFolder.h"
@@ -38,18 +39,6 @@ constexpr Color green = 0x00FF00;
 constexpr Color blue = 0xFF0000;
 constexpr Color background = 0x808080;
 
-// How many views of files the process has in its memory.
-int MappedViews() {
-  int views = 0;
-  const std::byte* address = nullptr;
-  MEMORY_BASIC_INFORMATION region;
-  while (VirtualQuery(address, &region, sizeof(region)) != 0) {
-    if (region.Type == MEM_MAPPED && region.BaseAddress == region.AllocationBase) ++views;
-    address = static_cast<const std::byte*>(region.BaseAddress) + region.RegionSize;
-  }
-  return views;
-}
-
 // Of each call that is cut off the system keeps what it had made by then: its view of the file at least.
 TEST(ShellIcons, AsksTheSystemOnceForAnIconThatItBreaksOn) {
   const TemporaryFolder folder;
@@ -57,10 +46,10 @@ TEST(ShellIcons, AsksTheSystemOnceForAnIconThatItBreaksOn) {
   ShellIcons icons;
   ASSERT_EQ(icons.Extract(path, 0), nullptr);
   const int objects = testing::CountGdiObjects();
-  const int views = MappedViews();
+  const int views = testing::CountMappedViews(GetCurrentProcess());
   for (int i = 0; i < 20; ++i) EXPECT_EQ(icons.Extract(path, 0), nullptr);
   EXPECT_EQ(testing::CountGdiObjects(), objects);
-  EXPECT_EQ(MappedViews(), views);
+  EXPECT_EQ(testing::CountMappedViews(GetCurrentProcess()), views);
 }
 
 TEST(ShellIcons, AsksAgainForAFileThatHasChanged) {
