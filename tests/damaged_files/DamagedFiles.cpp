@@ -22,6 +22,9 @@ struct Kind {
   const char* extension;
   int copies;
   std::vector<IntactFile> files;
+  // What the intact ones among them are: of one icon, with that extension.
+  Bytes intact = IconFileOf(red);
+  const char* intactExtension = ".ico";
 };
 
 std::vector<IconPicture> EveryPicture() {
@@ -70,6 +73,16 @@ std::vector<Kind> Kinds() {
           {"64-bit library", ".dll", 270, LibrariesBy(wide)}};
 }
 
+// 16-bit modules alone, and intact ones among them.
+std::vector<Kind> ModuleKinds() {
+  const std::array one{BitmapPicture(32, 4, red, blue)};
+  const Bytes intact = SixteenBitLibrary(one).bytes;
+  const std::vector<IntactFile> files = LibrariesBy(SixteenBitLibrary);
+  return {{"module, library", ".icl", 400, files, intact, ".icl"},
+          {"module, program", ".exe", 300, files, intact, ".icl"},
+          {"module, DLL", ".dll", 300, files, intact, ".icl"}};
+}
+
 std::string Numbered(int number, const char* extension) {
   std::array<char, 16> text{};
   std::snprintf(text.data(), text.size(), "%04d", number);
@@ -89,12 +102,12 @@ class FolderMaker {
       made.damaged.push_back(folder_.MakeFile(Below(copy % foldersBelow) + "\\" + Numbered(copy, kind_.extension),
                                               Damaged(file, damage_.damage, chance)));
     }
-    const Bytes intact = IconFileOf(red);
     for (int below = 0; below < foldersBelow; ++below) {
       // At the start, in the middle and at the end of what is listed.
       for (int i = 0; i < intactInEach; ++i) {
-        const std::string name = Numbered(i * (kind_.copies - 1) / (intactInEach - 1), " intact.ico");
-        made.intact.push_back(folder_.MakeFile(Below(below) + "\\" + name, intact));
+        const std::string name =
+            Numbered(i * (kind_.copies - 1) / (intactInEach - 1), " intact") + kind_.intactExtension;
+        made.intact.push_back(folder_.MakeFile(Below(below) + "\\" + name, kind_.intact));
       }
     }
     return made;
@@ -109,17 +122,25 @@ class FolderMaker {
   std::string name_;
 };
 
-}  // namespace
-
-std::vector<DamagedFolder> MakeDamagedFiles(const TemporaryFolder& folder) {
+std::vector<DamagedFolder> MakeFolders(const TemporaryFolder& folder, const std::vector<Kind>& kinds) {
   Chance chance(seed);
   std::vector<DamagedFolder> made;
-  for (const Kind& kind : Kinds()) {
+  for (const Kind& kind : kinds) {
     for (const DamageName& damage : damageNames) {
       if (CanHave(kind.files.front(), damage.damage)) made.push_back(FolderMaker(folder, kind, damage).Make(chance));
     }
   }
   return made;
+}
+
+}  // namespace
+
+std::vector<DamagedFolder> MakeDamagedFiles(const TemporaryFolder& folder) {
+  return MakeFolders(folder, Kinds());
+}
+
+std::vector<DamagedFolder> MakeDamagedModules(const TemporaryFolder& folder) {
+  return MakeFolders(folder, ModuleKinds());
 }
 
 }  // namespace tarvik::testing

@@ -19,5 +19,7 @@ struct DamagedFolder {
 // Makes at least 10,000 damaged files of every kind that holds icons, the same ones each time, each kind of damage of
 // each kind of file in a folder of its own in `folder`.
 std::vector<DamagedFolder> MakeDamagedFiles(const TemporaryFolder& folder);
+// The same of 5,000 damaged 16-bit modules, with intact modules among them.
+std::vector<DamagedFolder> MakeDamagedModules(const TemporaryFolder& folder);
 
 }  // namespace tarvik::testing

@@ -1,4 +1,4 @@
-// Ten thousand files that are not what they say.
+// Fifteen thousand files that are not what they say.
 
 #include <windows.h>
 
@@ -11,6 +11,7 @@
 #include "base/FolderPath.h"
 #include "damaged_files/DamagedFiles.h"
 #include "end_to_end/EndToEndTest.h"
+#include "end_to_end/TodaysProgram.h"
 #include "platform/Handles.h"
 #include "platform/Holdings.h"
 #include "search/icons/FaultGuard.h"
@@ -100,6 +101,37 @@ TEST_F(DamagedFiles, AreSearchedWithoutACrashAMessageOrGrowthAndTheIntactOnesAmo
   EXPECT_LT(after.gdiObjects - before.gdiObjects, files / 20);
   EXPECT_LT(after.kernelHandles - before.kernelHandles, files / 1000);
   EXPECT_LT((after.bytes - before.bytes) / files, 8 * 1024) << "not 8 KB a file";
+}
+
+// The program reads 16-bit modules itself where the shell finds no icon in them, as on today's Windows.
+TEST_F(DamagedFiles, AreReadAsModulesWithoutACrashAMessageOrGrowthAndTheIntactOnesAmongThemFound) {
+  const std::vector<DamagedFolder> folders = testing::MakeDamagedModules(tree_);
+  TakeTodaysShell(program_);
+  Start({}, true);
+  Tick({Icl, Exe, Dll, Ocx});
+  ChooseSize(Size16);
+  SetLimit("4000");
+  Search(folders.front());
+  const Holdings before = testing::HeldBy(program_.Process());
+  int files = 0;
+  int icons = 0;
+  for (const DamagedFolder& folder : folders) {
+    const Paths found = Search(folder);
+    for (const std::string& path : folder.intact) EXPECT_EQ(std::ranges::count(found, path), 1) << path;
+    files += static_cast<int>(folder.damaged.size());
+    icons += static_cast<int>(found.size() - folder.intact.size());
+    std::printf("%-20s %-15s %4zu damaged, with %4zu icons\n", folder.kind.c_str(), folder.damage.c_str(),
+                folder.damaged.size(), found.size() - folder.intact.size());
+  }
+  const Holdings after = testing::HeldBy(program_.Process());
+  std::printf("%d damaged modules; %+d GDI objects, %+d handles, %+lld bytes\n", files,
+              after.gdiObjects - before.gdiObjects, after.kernelHandles - before.kernelHandles,
+              static_cast<long long>(after.bytes - before.bytes));
+  EXPECT_GE(files, 5000);
+  EXPECT_GT(icons, files) << "most have icons left";
+  EXPECT_LT(after.gdiObjects - before.gdiObjects, files / 500);
+  EXPECT_LT(after.kernelHandles - before.kernelHandles, files / 1000);
+  EXPECT_LT((after.bytes - before.bytes) / files, 1024) << "not 1 KB a file";
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <shellapi.h>
-
 #include <algorithm>
 #include <array>
 #include <climits>
@@ -14,7 +12,6 @@
 #include "base/RuntimeError.h"
 #include "platform/Handles.h"
 #include "platform/Surface.h"
-#include "platform/SystemFunctions.h"
 #include "search/icons/AnimationHeader.h"
 #include "search/icons/FaultGuard.h"
 #include "search/icons/FileBytes.h"
@@ -29,7 +26,8 @@ constexpr UINT noFile = UINT_MAX;      // what the shell answers for a file it c
 // Numbers of calls to remember besides those that take the icon of an index.
 constexpr int countCall = -1;
 constexpr int cursorCall = -2;
-constexpr int groupCall = -3;  // from any index
+constexpr int groupCall = -3;      // from any index
+constexpr int firstMakeCall = -4;  // that makes icon 0 of a picture; those of the next icons go on downwards
 
 // As many icons as one file is believed to hold on its word: a search lists so many at every size. More would have a
 // whole search refused for one file.
@@ -84,6 +82,14 @@ std::vector<IconHandle> TakeOwnership(const std::vector<HICON>& handles, bool fi
   return icons;
 }
 
+// What the shell asks the pictures of an icon for.
+IconWish WishForLargeIcon() {
+  const WindowDc screen(nullptr);
+  return {.width = GetSystemMetrics(SM_CXICON),
+          .height = GetSystemMetrics(SM_CYICON),
+          .bits = GetDeviceCaps(screen.get(), BITSPIXEL) * GetDeviceCaps(screen.get(), PLANES)};
+}
+
 // Null if there is no icon; throws if that is for lack of GDI objects.
 std::unique_ptr<ExtractedIcon> MakeDrawable(IconHandle icon, int stepBound) {
   if (!icon) {
@@ -95,9 +101,10 @@ std::unique_ptr<ExtractedIcon> MakeDrawable(IconHandle icon, int stepBound) {
 
 }  // namespace
 
-ShellIcons::ShellIcons() : ShellIcons([](const std::string& path) { return std::make_unique<FileBytes>(path); }) {}
+ShellIcons::ShellIcons()
+    : ShellIcons([](const std::string& path) { return std::make_unique<FileBytes>(path); }, SystemShell) {}
 
-ShellIcons::ShellIcons(OpenBytes open) : open_(std::move(open)) {}
+ShellIcons::ShellIcons(OpenBytes open, ShellFunctions (*shell)()) : open_(std::move(open)), shell_(shell) {}
 
 template <typename Call>
 bool ShellIcons::Survives(const std::string& path, int call, Call&& make) {
@@ -110,14 +117,20 @@ bool ShellIcons::Survives(const std::string& path, int call, Call&& make) {
 }
 
 // The system's large size, which larger cells stretch (deliberate: oddities 30).
-IconHandle ShellIcons::ExtractLarge(const std::string& path, int index) {
+IconHandle ShellIcons::ExtractByShell(const std::string& path, int index) {
   HICON large = nullptr;
   UINT extracted = 0;
-  const auto extract = late::ExtractIconExA.Get();  // the guarded call must not load anything
+  const auto extract = shell_().extractIconEx;  // the guarded call must not load anything
   // The small icon is not asked for: it is never drawn, and its handle would have to be destroyed too.
   const bool finished = Survives(path, index, [&] { extracted = extract(path.c_str(), index, &large, nullptr, 1); });
   // Only a success says that the handle means something: Wine leaves other values in it than it found.
   return finished && extracted != 0 && extracted != noFile ? IconHandle(large) : IconHandle();
+}
+
+IconHandle ShellIcons::ExtractLarge(const std::string& path, int index) {
+  if (IconHandle icon = ExtractByShell(path, index)) return icon;
+  auto icons = ExtractGroupFromModule(path, index, 1);
+  return icons.empty() ? IconHandle() : std::move(icons.front());
 }
 
 IconHandle ShellIcons::LoadCursorFile(const std::string& path) {
@@ -137,13 +150,22 @@ std::unique_ptr<ExtractedIcon> ShellIcons::ExtractSteps(const std::string& path,
   return MakeDrawable(std::move(icon), std::max(facts.maxSteps, 1));
 }
 
-// How many icons the shell says the file has; some systems tell it as it is written in the file.
-int ShellIcons::CountClaimedIcons(const std::string& path) {
+// How many icons the shell says the file has; some systems tell it as it is written in the file. Nothing if the system
+// breaks on the file.
+std::optional<int> ShellIcons::CountByShell(const std::string& path) {
   UINT count = 0;
-  const auto extract = late::ExtractIconExA.Get();  // as above
-  const bool finished = Survives(
-      path, countCall, [&] { count = extract(path.c_str(), static_cast<int>(countIndex), nullptr, nullptr, 0); });
-  return finished && count <= INT_MAX ? static_cast<int>(count) : 0;
+  const auto extract = shell_().extractIconEx;  // as above
+  if (!Survives(path, countCall,
+                [&] { count = extract(path.c_str(), static_cast<int>(countIndex), nullptr, nullptr, 0); })) {
+    return std::nullopt;
+  }
+  return count <= INT_MAX ? static_cast<int>(count) : 0;
+}
+
+int ShellIcons::CountClaimedIcons(const std::string& path) {
+  const std::optional<int> claimed = CountByShell(path);
+  if (claimed != 0) return claimed.value_or(0);
+  return FindModule(path).IconCount();
 }
 
 // How many icons can be had of a file that claims more. From the end, it is looked for one that can be had in growing
@@ -171,20 +193,60 @@ std::unique_ptr<ExtractedIcon> ShellIcons::Extract(const std::string& path, int 
   return MakeDrawable(ExtractLarge(path, index), 1);
 }
 
-std::vector<std::unique_ptr<ExtractedIcon>> ShellIcons::ExtractGroup(const std::string& path, int first, int count) {
+std::vector<IconHandle> ShellIcons::ExtractGroupByShell(const std::string& path, int first, int count) {
   std::vector<HICON> handles(static_cast<std::size_t>(count));
   UINT extracted = 0;
   std::vector<UINT> numbers(handles.size());  // of the pictures; filled by the call and not needed
   // ExtractIconExA takes its large icons the same way, with that size; but of several, Wine's hands over the first
   // alone.
+  const auto extract = shell_().privateExtractIcons;
   const bool finished = Survives(path, groupCall, [&] {
-    extracted =
-        PrivateExtractIconsA(path.c_str(), first, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON),
-                             handles.data(), numbers.data(), static_cast<UINT>(handles.size()), LR_DEFAULTCOLOR);
+    extracted = extract(path.c_str(), first, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), handles.data(),
+                        numbers.data(), static_cast<UINT>(handles.size()), LR_DEFAULTCOLOR);
   });
   std::vector<IconHandle> icons = TakeOwnership(handles, finished, extracted);
+  if (!finished || icons.size() != handles.size()) icons.clear();
+  return icons;
+}
+
+// The 16-bit module at a path; one without icons if there is none.
+const NewExecutable& ShellIcons::FindModule(const std::string& path) {
+  static const NewExecutable none;
+  if (!IsModuleName(path)) return none;
+  const std::optional<FileStamp> stamp = StampOf(path);
+  return stamp ? modules_.Of(path, *stamp, open_) : none;
+}
+
+std::vector<IconHandle> ShellIcons::ExtractGroupFromModule(const std::string& path, int first, int count) {
+  std::vector<IconHandle> icons;
+  const NewExecutable& module = FindModule(path);
+  if (module.IconCount() == 0 || CountByShell(path) != 0) return icons;
+  const std::unique_ptr<ByteSource> file = open_(path);
+  const IconWish wish = WishForLargeIcon();
+  for (int index = first; index < first + count; ++index) {
+    IconHandle icon = MakeIcon(path, index, module.Picture(*file, index, wish));
+    if (!icon) return {};
+    icons.push_back(std::move(icon));
+  }
+  return icons;
+}
+
+IconHandle ShellIcons::MakeIcon(const std::string& path, int index, std::vector<std::byte> picture) {
+  if (picture.empty()) return {};
+  constexpr DWORD iconVersion = 0x00030000;
+  HICON icon = nullptr;
+  const bool finished = Survives(path, firstMakeCall - index, [&] {
+    icon = CreateIconFromResourceEx(reinterpret_cast<PBYTE>(picture.data()), static_cast<DWORD>(picture.size()), TRUE,
+                                    iconVersion, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON),
+                                    LR_DEFAULTCOLOR);
+  });
+  return finished ? IconHandle(icon) : IconHandle();
+}
+
+std::vector<std::unique_ptr<ExtractedIcon>> ShellIcons::ExtractGroup(const std::string& path, int first, int count) {
+  std::vector<IconHandle> icons = ExtractGroupByShell(path, first, count);
+  if (icons.empty()) icons = ExtractGroupFromModule(path, first, count);
   std::vector<std::unique_ptr<ExtractedIcon>> group;
-  if (!finished || icons.size() != handles.size()) return group;
   for (IconHandle& icon : icons) group.push_back(MakeDrawable(std::move(icon), 1));
   return group;
 }

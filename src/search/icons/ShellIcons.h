@@ -12,12 +12,17 @@
 #include "search/icons/CutOffCalls.h"
 #include "search/icons/IconSource.h"
 #include "search/icons/IconsAhead.h"
+#include "search/icons/NewExecutable.h"
+#include "search/icons/ShellFunctions.h"
 
 namespace tarvik {
 
 // The icons in the files of this machine, as the shell takes them out; animated cursors, where the shell will not,
 // as the system loads cursors. A damaged file holds none, whatever the system makes of it; an icon on which the system
 // breaks is asked for once in a run. Icons draw on any DcSurface.
+//
+// In a library, program or control of 16-bit Windows, in which the shell finds no icon, this program finds them itself
+// (NewExecutable). What the shell finds is left to it alone.
 //
 // Extract and the icons' Draw throw OutOfMemoryError if they fail because there are no GDI objects left, so that no
 // blank picture is taken for an icon.
@@ -27,7 +32,8 @@ class ShellIcons final : public IconSource, public IconGroups {
   using OpenBytes = std::function<std::unique_ptr<ByteSource>(const std::string& path)>;
 
   ShellIcons();
-  explicit ShellIcons(OpenBytes open);
+  // `shell` is asked for the functions to call before each use.
+  explicit ShellIcons(OpenBytes open, ShellFunctions (*shell)() = SystemShell);
 
   int CountIcons(const std::string& path) override;
   std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override;
@@ -41,13 +47,22 @@ class ShellIcons final : public IconSource, public IconGroups {
   bool Survives(const std::string& path, int call, Call&& make);
 
   IconHandle ExtractLarge(const std::string& path, int index);
+  IconHandle ExtractByShell(const std::string& path, int index);
+  std::vector<IconHandle> ExtractGroupByShell(const std::string& path, int first, int count);
+  // Takes icons of a 16-bit module in which the shell finds none: all that are asked for, or none at all.
+  std::vector<IconHandle> ExtractGroupFromModule(const std::string& path, int first, int count);
+  const NewExecutable& FindModule(const std::string& path);
+  IconHandle MakeIcon(const std::string& path, int index, std::vector<std::byte> picture);
   IconHandle LoadCursorFile(const std::string& path);
   std::unique_ptr<ExtractedIcon> ExtractSteps(const std::string& path, int index);
+  std::optional<int> CountByShell(const std::string& path);
   int CountClaimedIcons(const std::string& path);
   int CountExtractableIcons(const std::string& path, int claimed);
 
   OpenBytes open_;
+  ShellFunctions (*shell_)();
   AnimationLooks looks_;
+  ModuleLooks modules_;
   CutOffCalls cutOff_;
 };
 

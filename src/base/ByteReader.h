@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace tarvik {
+
+// Numbers in the bytes of a file, the low byte of each first; BigU32At reads the high byte first. The caller has made
+// sure that all bytes of the number are there.
+
+inline std::uint32_t U8At(std::span<const std::byte> bytes, std::size_t place) {
+  return std::to_integer<std::uint32_t>(bytes[place]);
+}
+
+inline std::uint32_t U16At(std::span<const std::byte> bytes, std::size_t place) {
+  return U8At(bytes, place) | U8At(bytes, place + 1) << 8U;
+}
+
+inline std::uint32_t U32At(std::span<const std::byte> bytes, std::size_t place) {
+  return U16At(bytes, place) | U16At(bytes, place + 2) << 16U;
+}
+
+inline std::uint32_t BigU32At(std::span<const std::byte> bytes, std::size_t place) {
+  return U8At(bytes, place) << 24U | U8At(bytes, place + 1) << 16U | U8At(bytes, place + 2) << 8U |
+         U8At(bytes, place + 3);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,135 @@
+#include "search/icons/NewExecutable.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+#include "base/AsciiCase.h"
+#include "base/ByteReader.h"
+
+namespace tarvik {
+namespace {
+
+// The two headers, as far as they are read, and where their fields are.
+constexpr std::uint64_t firstBlockSize = 512;
+constexpr std::size_t dosHeaderSize = 64;
+constexpr std::uint32_t dosSignature = 0x5A4D;  // "MZ"
+constexpr std::size_t newHeaderPlace = 0x3C;
+constexpr std::uint64_t newHeaderSize = 64;
+constexpr std::uint32_t newSignature = 0x454E;  // "NE"
+constexpr std::size_t resourceTablePlace = 0x24;
+constexpr std::size_t residentNamesPlace = 0x26;
+
+// The table of resources.
+constexpr std::size_t tableStartSize = 2;
+constexpr std::size_t typeSize = 8;
+constexpr std::size_t resourceSize = 12;
+constexpr std::size_t resourceIdPlace = 6;
+constexpr std::uint32_t maxShift = 15;
+constexpr std::uint32_t numberBit = 0x8000;
+constexpr std::uint32_t pictureType = numberBit | 3;
+constexpr std::uint32_t groupType = numberBit | 14;
+
+constexpr std::size_t maxRemembered = 100'000;  // files without icons
+
+// Bytes of the file from a place on; empty if it will not give them.
+std::vector<std::byte> BytesAt(ByteSource& file, std::uint64_t place, std::uint64_t size) {
+  std::vector<std::byte> bytes(static_cast<std::size_t>(size));
+  if (!file.Read(place, bytes)) bytes.clear();
+  return bytes;
+}
+
+// The new header; empty if the file has none. In most files both headers are in the first block, and reading a file
+// once is what costs.
+std::vector<std::byte> NewHeader(ByteSource& file, std::uint64_t fileSize, std::uint64_t& place) {
+  const auto block = BytesAt(file, 0, std::min(fileSize, firstBlockSize));
+  if (block.size() < dosHeaderSize || U16At(block, 0) != dosSignature) return {};
+  place = U32At(block, newHeaderPlace);
+  if (place + newHeaderSize > fileSize) return {};
+  if (place + newHeaderSize > block.size()) return BytesAt(file, place, newHeaderSize);
+  const auto start = block.begin() + static_cast<std::ptrdiff_t>(place);
+  return {start, start + std::ptrdiff_t{newHeaderSize}};
+}
+
+// The table of resources as far as it lies in the file; empty if the file is no such module or has no table.
+std::vector<std::byte> ResourceTable(ByteSource& file, std::uint64_t fileSize) {
+  std::uint64_t start = 0;
+  const auto header = NewHeader(file, fileSize, start);
+  if (header.empty() || U16At(header, 0) != newSignature) return {};
+  const std::uint64_t table = start + U16At(header, resourceTablePlace);
+  const std::uint64_t end = std::min<std::uint64_t>(start + U16At(header, residentNamesPlace), fileSize);
+  return table < end ? BytesAt(file, table, end - table) : std::vector<std::byte>();
+}
+
+}  // namespace
+
+NewExecutable::NewExecutable(ByteSource& file, std::uint64_t fileSize) {
+  ReadTable(ResourceTable(file, fileSize), fileSize);
+}
+
+void NewExecutable::ReadTable(const std::vector<std::byte>& table, std::uint64_t fileSize) {
+  const auto has = [&table](std::size_t place, std::size_t size) { return place + size <= table.size(); };
+  if (!has(0, tableStartSize) || U16At(table, 0) > maxShift) return;
+  const std::uint32_t shift = U16At(table, 0);
+  for (std::size_t place = tableStartSize; has(place, typeSize) && U16At(table, place) != 0;) {
+    const std::uint32_t type = U16At(table, place);
+    std::uint32_t left = U16At(table, place + 2);
+    for (place += typeSize; left != 0 && has(place, resourceSize); --left, place += resourceSize) {
+      const std::uint64_t start = std::uint64_t{U16At(table, place)} << shift;
+      const std::uint64_t size = std::uint64_t{U16At(table, place + 2)} << shift;
+      if (start >= fileSize) {
+        // Whoever is asked for an icon finds it by its place, so that no group can be left out alone.
+        hasAllGroups_ = hasAllGroups_ && type != groupType;
+        continue;
+      }
+      // The last resource of a file may lack the zeros that fill it up to a whole unit.
+      Note(type, U16At(table, place + resourceIdPlace), {start, std::min(size, fileSize - start)});
+    }
+  }
+}
+
+void NewExecutable::Note(std::uint32_t type, std::uint32_t id, const Extent& extent) {
+  if (type == groupType && hasAllGroups_) groups_.push_back(extent);
+  if (type == pictureType) pictures_.emplace(id, extent);
+}
+
+std::vector<std::byte> NewExecutable::Picture(ByteSource& file, int index, const IconWish& wish) const {
+  if (index < 0 || index >= IconCount()) return {};
+  const Extent& group = groups_[static_cast<std::size_t>(index)];
+  const auto start = BytesAt(file, group.place, std::min<std::uint64_t>(group.size, iconGroupStartSize));
+  const auto directory = BytesAt(file, group.place, std::min<std::uint64_t>(group.size, IconGroupSize(start)));
+  const auto number = ChoosePicture(directory, wish);
+  const auto picture = number ? pictures_.find(numberBit | *number) : pictures_.end();
+  if (picture == pictures_.end()) return {};
+  auto bytes = BytesAt(file, picture->second.place, std::min<std::uint64_t>(picture->second.size, maxPictureBytes));
+  if (!HoldsPicture(bytes)) bytes.clear();
+  return bytes;
+}
+
+bool IsModuleName(std::string_view path) {
+  constexpr std::array<std::string_view, 4> endings{".icl", ".exe", ".dll", ".ocx"};
+  return std::ranges::any_of(endings, [path](std::string_view ending) {
+    return path.size() >= ending.size() &&
+           std::ranges::equal(path.substr(path.size() - ending.size()), ending, {}, LowerAscii);
+  });
+}
+
+const NewExecutable& ModuleLooks::Of(const std::string& path, const FileStamp& stamp, const Open& open) {
+  static const NewExecutable none;
+  if (path == path_ && stamp == stamp_) return module_;
+  const auto known = without_.find(path);
+  if (known != without_.end() && known->second == stamp) return none;
+  const std::unique_ptr<ByteSource> file = open(path);
+  const FileStamp opened = file->Stamp();
+  module_ = NewExecutable(*file, opened.size);
+  path_ = path;
+  stamp_ = stamp;
+  // What a link is known by says nothing of the file that it leads to.
+  if (module_.IconCount() == 0 && opened == stamp) {
+    if (without_.size() >= maxRemembered) without_.clear();
+    without_.insert_or_assign(path, stamp);
+  }
+  return module_;
+}
+
+}  // namespace tarvik

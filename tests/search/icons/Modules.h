@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tarvik::testing {
+
+// Modules of 16-bit Windows ("NE") that hold icons and nothing else, written byte by byte: no linker makes them any
+// more. The modules that the tests of damaged files start from are in damaged_files/Libraries.h.
+
+using ModuleBytes = std::vector<std::byte>;
+
+// A picture as a group describes it, and its data.
+struct ModulePicture {
+  int width = 32;  // 256 is written as 0
+  int height = 32;
+  int bits = 4;
+  ModuleBytes data;
+};
+
+struct ModuleIcon {
+  std::vector<ModulePicture> pictures;
+  std::string name = {};  // none: it has a number
+};
+
+struct ModuleLayout {
+  unsigned shift = 4;
+  bool groupsFirst = false;      // in the table; otherwise the pictures
+  bool otherResources = false;   // of other types, with numbers and names, before, between and behind them
+  bool sharedData = false;       // equal pictures lie in one place of the file
+  bool overlappingData = false;  // each length reaches into what follows
+  std::string residentName = "ICONS";
+};
+
+// The bytes of such a module. Pictures are numbered from 1 in the order of the icons.
+ModuleBytes MakeModule(std::span<const ModuleIcon> icons, const ModuleLayout& layout = {});
+
+// A bitmap as an icon has it, all zeros but its header and `mark`, which is its first colour or pixel byte.
+ModuleBytes PlainBitmap(int width, int height, int bits, std::uint8_t mark = 0);
+
+// Where the new header of a made module is, and its table of resources.
+inline constexpr std::size_t newHeaderOfModule = 0x80;
+inline constexpr std::size_t tableOfModule = newHeaderOfModule + 0x40;
+
+}  // namespace tarvik::testing

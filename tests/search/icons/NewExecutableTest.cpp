@@ -1,0 +1,451 @@
+#include "search/icons/NewExecutable.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "search/icons/BytesInMemory.h"
+#include "search/icons/Modules.h"
+
+namespace tarvik {
+namespace {
+
+using testing::BytesInMemory;
+using testing::MakeModule;
+using testing::ModuleIcon;
+using testing::ModuleLayout;
+using testing::ModulePicture;
+using testing::PlainBitmap;
+using Bytes = std::vector<std::byte>;
+
+constexpr std::size_t offsetPlace = 0x3C;
+constexpr std::size_t table = testing::tableOfModule;
+constexpr std::size_t header = testing::newHeaderOfModule;
+// In a plain module, the entries of pictures and groups: behind the shift and the start of the first type.
+constexpr std::size_t firstPicture = table + 2 + 8;
+constexpr std::size_t entrySize = 12;
+
+std::size_t FirstGroup(std::size_t pictures) {
+  return firstPicture + entrySize * pictures + 8;
+}
+
+Bytes With(Bytes bytes, std::size_t place, std::uint32_t number, std::size_t width = 2) {
+  for (std::size_t i = 0; i < width; ++i) bytes[place + i] = static_cast<std::byte>(number >> (8 * i));
+  return bytes;
+}
+
+std::uint32_t U16(const Bytes& bytes, std::size_t place) {
+  return std::to_integer<std::uint32_t>(bytes[place]) | std::to_integer<std::uint32_t>(bytes[place + 1]) << 8U;
+}
+
+Bytes Cut(Bytes bytes, std::size_t size) {
+  bytes.resize(size);
+  return bytes;
+}
+
+ModulePicture Picture(int size, int bits, std::uint8_t mark) {
+  return {size, size, bits, PlainBitmap(size, size, bits, mark)};
+}
+
+// Icons of one picture of 16 pixels each, which can be told apart by their marks: 1, 2, 3 ...
+std::vector<ModuleIcon> Icons(int count) {
+  std::vector<ModuleIcon> icons;
+  for (int i = 1; i <= count; ++i) icons.push_back({.pictures = {Picture(16, 1, static_cast<std::uint8_t>(i))}});
+  return icons;
+}
+
+int CountOf(const Bytes& bytes) {
+  BytesInMemory file(bytes);
+  return NewExecutable(file, bytes.size()).IconCount();
+}
+
+Bytes PictureOf(const Bytes& bytes, int index, const IconWish& wish = {}) {
+  BytesInMemory file(bytes);
+  return NewExecutable(file, bytes.size()).Picture(file, index, wish);
+}
+
+// The mark of the picture that is found for an icon; -1 if there is none.
+int MarkOf(const Bytes& bytes, int index, const IconWish& wish = {}) {
+  const Bytes picture = PictureOf(bytes, index, wish);
+  return picture.empty() ? -1 : std::to_integer<int>(picture.at(40));
+}
+
+std::vector<int> Marks(const Bytes& bytes) {
+  std::vector<int> marks;
+  for (int index = 0; index < CountOf(bytes); ++index) marks.push_back(MarkOf(bytes, index));
+  return marks;
+}
+
+TEST(NewExecutable, HasItsGroupsInTheOrderOfTheTable) {
+  EXPECT_EQ(Marks(MakeModule(Icons(1))), (std::vector{1}));
+  EXPECT_EQ(Marks(MakeModule(Icons(5))), (std::vector{1, 2, 3, 4, 5}));
+  EXPECT_EQ(CountOf(MakeModule(Icons(200))), 200);
+}
+
+TEST(NewExecutable, HasItsTypesInAnyOrderAmongOthers) {
+  for (const bool groupsFirst : {false, true}) {
+    const ModuleLayout layout{.groupsFirst = groupsFirst, .otherResources = true};
+    EXPECT_EQ(Marks(MakeModule(Icons(3), layout)), (std::vector{1, 2, 3})) << groupsFirst;
+  }
+}
+
+TEST(NewExecutable, HasNamedGroupsToo) {
+  std::vector<ModuleIcon> icons = Icons(3);
+  icons[1].name = "A NAME";
+  EXPECT_EQ(Marks(MakeModule(icons)), (std::vector{1, 2, 3}));
+}
+
+TEST(NewExecutable, FindsResourcesAtEveryAlignment) {
+  for (unsigned shift = 0; shift <= 15; ++shift) {
+    EXPECT_EQ(Marks(MakeModule(Icons(3), {.shift = shift})), (std::vector{1, 2, 3})) << shift;
+  }
+  // Places that more than 16 bits are needed for.
+  std::vector<ModuleIcon> icons = Icons(2);
+  icons.insert(icons.begin() + 1, {.pictures = {{255, 255, 32, Bytes(70'000)}}});
+  EXPECT_EQ(Marks(MakeModule(icons, {.shift = 9})), (std::vector{1, -1, 2}));
+}
+
+TEST(NewExecutable, HasNoIconsAtAnAlignmentThatIsNone) {
+  const Bytes module = MakeModule(Icons(1), {.shift = 15});
+  EXPECT_EQ(CountOf(module), 1);
+  EXPECT_EQ(CountOf(MakeModule(Icons(1), {.shift = 16})), 0);
+  for (const std::uint32_t shift : {16U, 32U, 64U, 0x100U, 0xFFFFU}) EXPECT_EQ(CountOf(With(module, table, shift)), 0);
+}
+
+TEST(NewExecutable, GivesThePictureThatSuitsBest) {
+  const std::vector<ModuleIcon> icons{
+      {.pictures = {Picture(16, 4, 1), Picture(32, 1, 2), Picture(32, 4, 3), Picture(48, 8, 4)}},
+      {.pictures = {Picture(40, 4, 5), Picture(16, 8, 6)}}};
+  const Bytes module = MakeModule(icons);
+  EXPECT_EQ(MarkOf(module, 0), 3);
+  EXPECT_EQ(MarkOf(module, 0, {.width = 32, .height = 32, .bits = 1}), 2);
+  EXPECT_EQ(MarkOf(module, 0, {.width = 48, .height = 48, .bits = 32}), 4);
+  EXPECT_EQ(MarkOf(module, 1), 5);
+  EXPECT_EQ(MarkOf(module, 1, {.width = 16, .height = 16, .bits = 32}), 6);
+}
+
+TEST(NewExecutable, GivesTheWholePicture) {
+  const Bytes bitmap = PlainBitmap(32, 32, 8, 77);
+  Bytes found = PictureOf(MakeModule(std::vector<ModuleIcon>{{.pictures = {{32, 32, 8, bitmap}}}}, {.shift = 0}), 0);
+  EXPECT_EQ(found, bitmap);
+}
+
+TEST(NewExecutable, FindsResourcesThatShareTheirBytesOrOverlap) {
+  std::vector<ModuleIcon> icons = Icons(3);
+  icons.push_back(icons[0]);
+  EXPECT_EQ(Marks(MakeModule(icons, {.sharedData = true})), (std::vector{1, 2, 3, 1}));
+  EXPECT_EQ(Marks(MakeModule(icons, {.overlappingData = true})), (std::vector{1, 2, 3, 1}));
+  // Two groups at one place.
+  const Bytes module = MakeModule(Icons(2));
+  const std::size_t group = FirstGroup(2);
+  EXPECT_EQ(Marks(With(module, group + entrySize, U16(module, group))), (std::vector{1, 1}));
+}
+
+TEST(NewExecutable, IsNoneWithoutItsTwoHeaders) {
+  const Bytes module = MakeModule(Icons(2));
+  EXPECT_EQ(CountOf({}), 0);
+  EXPECT_EQ(CountOf(With(module, 0, 0x4D5A)), 0) << "ZM";
+  EXPECT_EQ(CountOf(With(module, header, 0x4550)), 0) << "PE";
+  EXPECT_EQ(CountOf(With(module, header, 0x454C)), 0) << "LE";
+  EXPECT_EQ(CountOf(With(module, offsetPlace, 0, 4)), 0);
+  EXPECT_EQ(CountOf(With(module, offsetPlace, 0xFFFFFFFF, 4)), 0);
+  EXPECT_EQ(CountOf(With(module, offsetPlace, header + 0x10000, 4)), 0);
+  EXPECT_EQ(CountOf(With(module, offsetPlace, header + 0x1000000, 4)), 0);
+  const auto size = static_cast<std::uint32_t>(module.size());
+  for (const std::uint32_t place : {size, size - 1, size - 63}) {
+    EXPECT_EQ(CountOf(With(module, offsetPlace, place, 4)), 0) << place;
+  }
+}
+
+// The new header may be anywhere, even at the very end or inside the other one.
+TEST(NewExecutable, IsFoundWhereTheFirstHeaderSays) {
+  const Bytes module = MakeModule(Icons(2));
+  Bytes moved = module;
+  const std::size_t place = moved.size();
+  moved.insert(moved.end(), module.begin() + header, module.begin() + header + 64);
+  moved = With(moved, offsetPlace, static_cast<std::uint32_t>(place), 4);
+  EXPECT_EQ(CountOf(moved), 0) << "its table would be behind the end";
+  const Bytes tableBytes(module.begin() + table, module.end());
+  moved.insert(moved.end(), tableBytes.begin(), tableBytes.end());
+  EXPECT_EQ(Marks(moved), (std::vector{1, 2}));
+}
+
+TEST(NewExecutable, HasNoIconsWithoutATable) {
+  const Bytes module = MakeModule(Icons(2));
+  EXPECT_EQ(CountOf(With(module, header + 0x24, 0xFFFF)), 0);
+  EXPECT_EQ(CountOf(With(module, header + 0x26, 0x40)), 0) << "the names are where the table is";
+  EXPECT_EQ(CountOf(With(module, header + 0x26, 0x39)), 0);
+  EXPECT_EQ(CountOf(With(module, header + 0x26, 0x41)), 0) << "a table of one byte";
+  EXPECT_EQ(CountOf(With(module, header + 0x26, 0x42)), 0);
+  EXPECT_EQ(CountOf(MakeModule({})), 0);
+}
+
+TEST(NewExecutable, TakesNothingBehindTheEndOfItsTable) {
+  const Bytes module = MakeModule(Icons(3));
+  const auto ending = [&](std::size_t place) {
+    return CountOf(With(module, header + 0x26, static_cast<std::uint32_t>(place - header)));
+  };
+  const std::size_t groups = FirstGroup(3);
+  EXPECT_EQ(ending(groups + 3 * entrySize), 3);
+  EXPECT_EQ(ending(groups + 3 * entrySize - 1), 2);
+  EXPECT_EQ(ending(groups + entrySize), 1);
+  EXPECT_EQ(ending(groups), 0);
+  EXPECT_EQ(ending(groups - 1), 0);
+  // A table that claims to be longer than its file.
+  EXPECT_EQ(CountOf(With(Cut(module, groups + 2 * entrySize), header + 0x26, 0xFFFF)), 0) << "its data is gone";
+}
+
+TEST(NewExecutable, EndsItsTableAtATypeOfZero) {
+  const Bytes module = MakeModule(Icons(3));
+  EXPECT_EQ(CountOf(With(module, FirstGroup(3) - 8, 0)), 0);
+  EXPECT_EQ(CountOf(With(module, firstPicture - 8, 0)), 0);
+  // The groups are behind it: of two other resources, then the pictures, and a type between.
+  const Bytes mixed = MakeModule(Icons(3), {.otherResources = true});
+  const std::size_t between = table + 2 + 8 + 2 * entrySize + 8 + 3 * entrySize;
+  ASSERT_EQ(U16(mixed, between) & 0x8000U, 0U) << "a type with a name";
+  EXPECT_EQ(CountOf(mixed), 3);
+  EXPECT_EQ(CountOf(With(mixed, between, 0)), 0);
+  EXPECT_EQ(CountOf(With(mixed, between, 1)), 3);
+}
+
+TEST(NewExecutable, HasNoMoreIconsThanThereIsRoomForInItsTable) {
+  const Bytes module = MakeModule(Icons(3));
+  const std::size_t count = FirstGroup(3) - 6;
+  EXPECT_EQ(CountOf(With(module, count, 2)), 2);
+  EXPECT_EQ(CountOf(With(module, count, 0)), 0);
+  // The names behind the table are read as entries by then, as far as they fill one.
+  const Bytes exact = With(module, header + 0x26, static_cast<std::uint32_t>(FirstGroup(3) + 3 * entrySize - header));
+  EXPECT_EQ(CountOf(With(exact, count, 0xFFFF)), 3);
+}
+
+TEST(NewExecutable, HasNoIconsWithoutPictures) {
+  const Bytes module = MakeModule(Icons(3));
+  EXPECT_EQ(CountOf(With(module, firstPicture - 8, 0x8002)), 0);
+  EXPECT_EQ(CountOf(With(module, firstPicture - 8, 3)), 0) << "the place of a name, not a number";
+  EXPECT_EQ(CountOf(With(module, FirstGroup(3) - 8, 14)), 0);
+}
+
+TEST(NewExecutable, HasTheIconsBeforeAGroupBehindItsEnd) {
+  const Bytes module = MakeModule(Icons(4));
+  const auto units = static_cast<std::uint32_t>(module.size() / 16);
+  ASSERT_EQ(module.size() % 16, 0U);
+  EXPECT_EQ(Marks(With(module, FirstGroup(4) + 2 * entrySize, units)), (std::vector{1, 2}));
+  EXPECT_EQ(CountOf(With(module, FirstGroup(4) + 2 * entrySize, units - 1)), 4) << "the last unit is there";
+  EXPECT_EQ(CountOf(With(module, FirstGroup(4), 0xFFFF)), 0);
+  // With the groups in front, the pictures are found all the same.
+  const Bytes turned = MakeModule(Icons(4), {.groupsFirst = true});
+  EXPECT_EQ(Marks(With(turned, firstPicture + entrySize, 0xFFFF)), (std::vector{1}));
+}
+
+TEST(NewExecutable, LacksAPictureBehindItsEndAndNoOther) {
+  const Bytes module = MakeModule(Icons(4));
+  EXPECT_EQ(Marks(With(module, firstPicture + entrySize, 0xFFFF)), (std::vector{1, -1, 3, 4}));
+}
+
+TEST(NewExecutable, TakesALastPictureThatIsNotFilledUp) {
+  const ModuleLayout layout{.shift = 9, .groupsFirst = true};
+  const std::size_t size = PlainBitmap(16, 16, 1).size();
+  const Bytes module = MakeModule(Icons(2), layout);
+  const std::size_t end = module.size() - 512 + size;
+  EXPECT_EQ(Marks(Cut(module, end)), (std::vector{1, 2}));
+  EXPECT_EQ(PictureOf(Cut(module, end), 1).size(), size);
+  EXPECT_EQ(Marks(Cut(module, end - 1)), (std::vector{1, -1}));
+}
+
+TEST(NewExecutable, HasNoIconOfAnotherIndex) {
+  const Bytes module = MakeModule(Icons(2));
+  EXPECT_EQ(MarkOf(module, -1), -1);
+  EXPECT_EQ(MarkOf(module, 2), -1);
+  EXPECT_EQ(MarkOf(module, 1'000'000), -1);
+}
+
+TEST(NewExecutable, FindsAPictureByItsNumber) {
+  const Bytes module = MakeModule(Icons(3));
+  const auto numbered = [&](std::size_t picture, std::uint32_t id) {
+    return Marks(With(module, firstPicture + entrySize * picture + 6, id));
+  };
+  EXPECT_EQ(numbered(0, 0x8009), (std::vector{-1, 2, 3}));
+  EXPECT_EQ(numbered(1, 2), (std::vector{1, -1, 3})) << "the place of a name, not a number";
+  EXPECT_EQ(numbered(1, 0x8001), (std::vector{1, -1, 3})) << "the first of two";
+}
+
+TEST(NewExecutable, GivesNothingForAGroupThatIsNone) {
+  const Bytes module = MakeModule(Icons(2));
+  const std::size_t group = FirstGroup(2);
+  EXPECT_EQ(Marks(With(module, group, 0)), (std::vector{-1, 2})) << "the DOS header";
+  EXPECT_EQ(Marks(With(module, group + 2, 0)), (std::vector{-1, 2})) << "of no length";
+  EXPECT_EQ(Marks(With(module, group + 2, 1)), (std::vector{-1, 2})) << "its only entry is cut off";
+}
+
+TEST(NewExecutable, GivesNothingForAPictureThatIsNone) {
+  std::vector<ModuleIcon> icons = Icons(3);
+  icons[0].pictures[0].data.assign(5000, std::byte{0x55});
+  icons[1].pictures[0].data.resize(60);
+  EXPECT_EQ(Marks(MakeModule(icons, {.shift = 0})), (std::vector{-1, -1, 3}));
+}
+
+TEST(NewExecutable, ReadsItsHeadersAndItsTableOnce) {
+  const Bytes module = MakeModule(Icons(20), {.otherResources = true});
+  BytesInMemory file(module);
+  const NewExecutable executable(file, module.size());
+  const std::size_t tableSize = U16(module, header + 0x26) - 0x40U;
+  EXPECT_EQ(file.bytesRead, 512 + tableSize);
+  // Of an icon its group, whose start is read first, and its picture.
+  file.bytesRead = 0;
+  const std::size_t picture = executable.Picture(file, 7, {}).size();
+  EXPECT_EQ(file.bytesRead, 6 + 20 + picture);
+}
+
+TEST(NewExecutable, ReadsTheHeadersAloneOfAFileThatIsNoModule) {
+  const auto readOf = [](const Bytes& bytes) {
+    BytesInMemory file(bytes);
+    EXPECT_EQ(NewExecutable(file, bytes.size()).IconCount(), 0);
+    return file.bytesRead;
+  };
+  EXPECT_EQ(readOf({}), 0U);
+  EXPECT_EQ(readOf(Bytes(5000, std::byte{'x'})), 512U);
+  EXPECT_EQ(readOf(Bytes(100, std::byte{'x'})), 100U);
+  EXPECT_EQ(readOf(With(MakeModule(Icons(20)), header, 0x4550)), 512U);
+  // The new header is in the first block, or is read by itself.
+  const Bytes library = With(Bytes(5000), 0, 0x5A4D);
+  EXPECT_EQ(readOf(With(library, offsetPlace, 512 - 64, 4)), 512U);
+  EXPECT_EQ(readOf(With(library, offsetPlace, 512 - 63, 4)), 512U + 64U);
+  EXPECT_EQ(readOf(With(library, offsetPlace, 5000 - 64, 4)), 512U + 64U);
+  EXPECT_EQ(readOf(With(library, offsetPlace, 5000 - 63, 4)), 512U);
+}
+
+TEST(NewExecutable, ReadsNoMoreOfAPictureThanAnyHas) {
+  std::vector<ModuleIcon> icons = Icons(1);
+  icons[0].pictures[0].data.resize(3'000'000);
+  const Bytes module = MakeModule(icons, {.shift = 9});
+  BytesInMemory file(module);
+  const NewExecutable executable(file, module.size());
+  file.bytesRead = 0;
+  EXPECT_EQ(executable.Picture(file, 0, {}).size(), maxPictureBytes);
+  EXPECT_EQ(file.bytesRead, 6 + 20 + maxPictureBytes);
+}
+
+TEST(NewExecutable, HasNoIconsWhereTheFileCannotBeRead) {
+  const Bytes module = MakeModule(Icons(2));
+  for (int reads = 0; reads < 2; ++reads) {
+    BytesInMemory file(module);
+    file.readsBeforeItFails = reads;
+    EXPECT_EQ(NewExecutable(file, module.size()).IconCount(), 0) << reads;
+  }
+  for (int reads = 0; reads < 3; ++reads) {
+    BytesInMemory file(module);
+    const NewExecutable executable(file, module.size());
+    file.readsBeforeItFails = reads;
+    EXPECT_TRUE(executable.Picture(file, 0, {}).empty()) << reads;
+  }
+}
+
+TEST(NewExecutable, HasTheIconsThatAreLeftWhereTheFileIsCutOff) {
+  const Bytes module = MakeModule(Icons(5), {.shift = 2, .otherResources = true});
+  int before = 0;
+  for (std::size_t size = 0; size <= module.size(); ++size) {
+    const Bytes part = Cut(module, size);
+    const int count = CountOf(part);
+    EXPECT_GE(count, before) << size;
+    // The last one's own group may be cut off.
+    for (int index = 0; index < count - 1; ++index) EXPECT_EQ(MarkOf(part, index), index + 1);
+    before = count;
+  }
+  EXPECT_EQ(before, 5);
+}
+
+TEST(IsModuleName, IsTrueForFourEndingsInAnyCase) {
+  for (const char* name : {"a.icl", "C:\\B\\A.EXE", "a.Dll", "a.ocX", ".icl"}) EXPECT_TRUE(IsModuleName(name)) << name;
+  for (const char* name : {"", "icl", "a.ico", "a.icl.ico", "a.icll", "a.fon", "aicl", "dll", "a.exe "}) {
+    EXPECT_FALSE(IsModuleName(name)) << name;
+  }
+}
+
+// Files by path, of which it is counted how often one is opened.
+class OpenedFiles {
+ public:
+  void Put(const std::string& path, Bytes bytes, std::uint64_t written = 0) {
+    files_[path] = {std::move(bytes), written};
+  }
+  FileStamp StampOf(const std::string& path) { return {files_[path].bytes.size(), files_[path].written}; }
+  ModuleLooks::Open Opener() {
+    return [this](const std::string& path) {
+      ++opened;
+      auto file = std::make_unique<BytesInMemory>(files_[path].bytes);
+      file->written = files_[path].written;
+      return file;
+    };
+  }
+  int CountBy(ModuleLooks& looks, const std::string& path) {
+    return looks.Of(path, StampOf(path), Opener()).IconCount();
+  }
+
+  int opened = 0;
+
+ private:
+  struct File {
+    Bytes bytes;
+    std::uint64_t written = 0;
+  };
+  std::map<std::string, File> files_;
+};
+
+TEST(ModuleLooks, OpenAFileOnceAsLongAsItStaysAsItIs) {
+  OpenedFiles files;
+  ModuleLooks looks;
+  files.Put("a.icl", MakeModule(Icons(3)));
+  EXPECT_EQ(files.CountBy(looks, "a.icl"), 3);
+  EXPECT_EQ(files.CountBy(looks, "a.icl"), 3);
+  EXPECT_EQ(files.opened, 1);
+  files.Put("a.icl", MakeModule(Icons(3)), 1);
+  EXPECT_EQ(files.CountBy(looks, "a.icl"), 3);
+  EXPECT_EQ(files.opened, 2) << "of another time";
+  files.Put("a.icl", MakeModule(Icons(9)), 1);
+  EXPECT_EQ(files.CountBy(looks, "a.icl"), 9);
+  EXPECT_EQ(files.opened, 3) << "of another size";
+}
+
+TEST(ModuleLooks, RememberAllFilesWithoutIcons) {
+  OpenedFiles files;
+  ModuleLooks looks;
+  for (const char* path : {"a.dll", "b.dll", "c.dll"}) files.Put(path, Bytes(100));
+  files.Put("icons.icl", MakeModule(Icons(2)));
+  for (int round = 0; round < 3; ++round) {
+    for (const char* path : {"a.dll", "b.dll", "c.dll"}) EXPECT_EQ(files.CountBy(looks, path), 0);
+    EXPECT_EQ(files.CountBy(looks, "icons.icl"), 2);
+  }
+  EXPECT_EQ(files.opened, 3 + 1) << "the last one with icons is kept while others are known to have none";
+  files.Put("b.dll", MakeModule(Icons(4)));
+  EXPECT_EQ(files.CountBy(looks, "b.dll"), 4);
+  EXPECT_EQ(files.CountBy(looks, "icons.icl"), 2);
+  EXPECT_EQ(files.CountBy(looks, "b.dll"), 4);
+}
+
+TEST(ModuleLooks, AreNotRememberedWhereALinkLeadsElsewhere) {
+  OpenedFiles files;
+  ModuleLooks looks;
+  const FileStamp link{.size = 0, .written = 5};
+  files.Put("link.dll", Bytes(100));
+  files.Put("other.dll", Bytes(100));
+  EXPECT_EQ(looks.Of("link.dll", link, files.Opener()).IconCount(), 0);
+  EXPECT_EQ(files.CountBy(looks, "other.dll"), 0);
+  files.Put("link.dll", MakeModule(Icons(1)));
+  EXPECT_EQ(looks.Of("link.dll", link, files.Opener()).IconCount(), 1);
+}
+
+TEST(ModuleLooks, AreOfTheFileThatIsAskedFor) {
+  OpenedFiles files;
+  ModuleLooks looks;
+  files.Put("one.icl", MakeModule(Icons(1)));
+  files.Put("three.icl", MakeModule(Icons(3)));
+  EXPECT_EQ(files.CountBy(looks, "one.icl"), 1);
+  EXPECT_EQ(files.CountBy(looks, "three.icl"), 3);
+  EXPECT_EQ(files.CountBy(looks, "one.icl"), 1);
+}
+
+}  // namespace
+}  // namespace tarvik

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+
+#include "search/icons/Modules.h"
+
+namespace tarvik::testing {
+
+struct RandomModule {
+  ModuleBytes bytes;
+  int icons = 0;
+};
+
+// A module that differs from number to number, always the same for one: one to five icons, with a number or a name, of
+// one to five pictures each, of 16 to 64 pixels and 1, 4, 8, 24 or 32 bits, all pixels by chance; every layout that
+// ModuleLayout has, with shifts from 0 to 9.
+RandomModule MakeRandomModule(std::uint32_t number);
+
+// One picture by chance.
+ModuleBytes RandomBitmap(int width, int height, int bits, std::uint32_t seed);
+
+}  // namespace tarvik::testing

@@ -1,0 +1,376 @@
+// Icons of 16-bit modules, read by this program itself where the shell finds none. The shell of Wine reads such modules
+// too: what it finds must be found without it.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <memory>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "base/FolderPath.h"
+#include "base/PixelCopy.h"
+#include "base/RuntimeError.h"
+#include "driver/UnixProgram.h"
+#include "platform/GdiObjects.h"
+#include "platform/Handles.h"
+#include "platform/IconFiles.h"
+#include "platform/Paths.h"
+#include "platform/Surface.h"
+#include "platform/TemporaryFolder.h"
+#include "platform/Text.h"
+#include "search/icons/FileBytes.h"
+#include "search/icons/Folders.h"
+#include "search/icons/IconsAhead.h"
+#include "search/icons/Modules.h"
+#include "search/icons/RandomModules.h"
+#include "search/icons/ShellIcons.h"
+#include "search/icons/ShellWithoutModules.h"
+
+namespace tarvik {
+namespace {
+
+using testing::MakeModule;
+using testing::ModuleBytes;
+using testing::ModuleIcon;
+using testing::RandomBitmap;
+using testing::ShellWithoutModules;
+using testing::TemporaryFolder;
+using Pixels = std::vector<Color>;
+
+constexpr Color background = 0x808080;
+
+std::unique_ptr<ByteSource> Open(const std::string& path) {
+  return std::make_unique<FileBytes>(path);
+}
+
+// What an icon looks like at each size, and each half of it alone; empty if there is none.
+std::vector<Pixels> Looks(ExtractedIcon* icon) {
+  std::vector<Pixels> looks;
+  if (icon == nullptr) return looks;
+  const auto draw = [&](int size, DrawPart part) {
+    Surface surface(size, size, background);
+    EXPECT_TRUE(icon->Draw(surface, {0, 0}, size, 0, part));
+    const PixelCopy copy(surface);
+    looks.emplace_back(copy.Pixels().begin(), copy.Pixels().end());
+  };
+  for (const int size : {16, 32, 48, 64}) draw(size, DrawPart::Normal);
+  draw(32, DrawPart::Mask);
+  draw(32, DrawPart::Image);
+  return looks;
+}
+
+// Icons of one picture of 32 pixels each, all by chance.
+std::vector<ModuleIcon> Icons(int count) {
+  std::vector<ModuleIcon> icons;
+  for (int i = 0; i < count; ++i) {
+    const int bits = i % 2 == 0 ? 4 : 8;
+    icons.push_back({.pictures = {{32, 32, bits, RandomBitmap(32, 32, bits, static_cast<std::uint32_t>(i) + 1)}}});
+  }
+  return icons;
+}
+
+// Both ways to take icons: by the shell of this machine, and without it.
+struct BothWays {
+  ShellIcons byShell{Open};
+  ShellIcons withoutShell{Open, ShellWithoutModules};
+
+  // Compares all icons of a file; how many there are.
+  int Compare(const std::string& path) {
+    const int count = byShell.CountIcons(path);
+    EXPECT_EQ(withoutShell.CountIcons(path), count) << path;
+    for (int index = 0; index <= count; ++index) {
+      const auto expected = Looks(byShell.Extract(path, index).get());
+      EXPECT_EQ(expected.empty(), index == count) << path << ' ' << index;
+      EXPECT_TRUE(Looks(withoutShell.Extract(path, index).get()) == expected) << path << ' ' << index;
+    }
+    return count;
+  }
+};
+
+TEST(ShellIconModules, AreReadAsTheShellOfWineReadsThem) {
+  constexpr std::uint32_t modules = 500;
+  const TemporaryFolder folder;
+  BothWays ways;
+  int icons = 0;
+  for (std::uint32_t number = 0; number < modules && !HasFailure(); ++number) {
+    const testing::RandomModule module = testing::MakeRandomModule(number);
+    const std::string path = folder.MakeFile(std::to_string(number) + ".icl", module.bytes);
+    EXPECT_EQ(ways.Compare(path), module.icons) << path;
+    icons += module.icons;
+  }
+  std::printf("%d icons of %u modules\n", icons, modules);
+}
+
+// The fonts of Wine are modules that were made by a linker of today, of a format from then: none has icons.
+TEST(ShellIconModules, AreReadAmongTheModulesOfThisMachine) {
+  const TemporaryFolder folder;
+  const std::string fonts = JoinPath(ParentFolder(SystemFolder()), "Fonts");
+  Folders folders;
+  BothWays ways;
+  int modules = 0;
+  for (const std::string& name : folders.Files(fonts, "*.fon")) {
+    const std::string path = folder.In(name + ".dll");
+    ASSERT_NE(CopyFileW(ToWide(JoinPath(fonts, name)).c_str(), ToWide(path).c_str(), TRUE), 0);
+    EXPECT_EQ(ways.Compare(path), 0) << name;
+    ++modules;
+  }
+  EXPECT_GE(modules, 20);
+}
+
+// A second opinion: wrestool and the shell, which draws the icon file that wrestool makes of a group.
+TEST(ShellIconModules, AreReadAsAProgramFromElsewhereReadsThem) {
+  const TemporaryFolder folder;
+  ShellIcons icons(Open, ShellWithoutModules);
+  ShellIcons byShell;
+  for (std::uint32_t number = 0; number < 20; ++number) {
+    const ModuleBytes module =
+        MakeModule(Icons(static_cast<int>(number) % 4 + 1),
+                   {.shift = number % 10, .groupsFirst = number % 2 == 0, .otherResources = true});
+    const std::string path = folder.MakeFile("a" + std::to_string(number) + ".icl", module);
+    const auto answer = end_to_end::RunUnix(
+        "cd " + end_to_end::UnixQuoted(ToWide(folder.Path())) + " && wrestool -x -t14 -o . a" + std::to_string(number) +
+        ".icl 2>/dev/null && ls a" + std::to_string(number) + ".icl_14_*.ico | wc -l");
+    ASSERT_EQ(answer.exitCode, 0) << answer.output;
+    const int count = icons.CountIcons(path);
+    ASSERT_EQ(std::atoi(answer.output.c_str()), count) << answer.output;
+    for (int index = 0; index < count; ++index) {
+      const auto expected = Looks(byShell.Extract(path + "_14_" + std::to_string(index + 1) + ".ico", 0).get());
+      ASSERT_FALSE(expected.empty());
+      EXPECT_TRUE(Looks(icons.Extract(path, index).get()) == expected) << path << ' ' << index;
+    }
+  }
+}
+
+TEST(ShellIconModules, HaveThePictureThatTheSystemWouldChoose) {
+  std::mt19937 chance(17);
+  const auto below = [&chance](unsigned end) { return static_cast<int>(static_cast<unsigned>(chance()) % end); };
+  const WindowDc screen(nullptr);
+  const int screenBits = GetDeviceCaps(screen.get(), BITSPIXEL);
+  constexpr int sides[] = {0, 8, 16, 20, 24, 32, 40, 48, 64, 96, 128};
+  constexpr int depths[] = {0, 1, 4, 8, 16, 24, 32};
+  for (int round = 0; round < 5000; ++round) {
+    ModuleIcon icon;
+    std::vector<std::byte> group(6 + 14 * (1 + static_cast<std::size_t>(below(8))));
+    group[2] = std::byte{1};
+    group[4] = static_cast<std::byte>((group.size() - 6) / 14);
+    for (std::size_t place = 6; place < group.size(); place += 14) {
+      const int width = sides[below(std::size(sides))];
+      group[place] = static_cast<std::byte>(width);
+      // Hardly any picture is not as wide as it is high, and one side of 0 alone means nothing.
+      group[place + 1] = static_cast<std::byte>(width != 0 && below(5) == 0 ? 1 + below(64) : width);
+      group[place + 6] = static_cast<std::byte>(depths[below(std::size(depths))]);
+      group[place + 12] = static_cast<std::byte>(place / 14 + 1);
+    }
+    const int side = sides[1 + below(std::size(sides) - 1)];
+    const int expected =
+        LookupIconIdFromDirectoryEx(reinterpret_cast<PBYTE>(group.data()), TRUE, side, side, LR_DEFAULTCOLOR);
+    ASSERT_EQ(ChoosePicture(group, {.width = side, .height = side, .bits = screenBits}).value_or(0), expected) << round;
+  }
+}
+
+TEST(ShellIconModules, AreTakenInGroupsToo) {
+  const TemporaryFolder folder;
+  const std::string path = folder.MakeFile("a.icl", MakeModule(Icons(70)));
+  ShellIcons icons(Open, ShellWithoutModules);
+  const auto group = icons.ExtractGroup(path, 3, 64);
+  ASSERT_EQ(group.size(), 64U);
+  for (int i = 0; i < 64; ++i) {
+    ASSERT_TRUE(Looks(group[static_cast<std::size_t>(i)].get()) == Looks(icons.Extract(path, i + 3).get())) << i;
+  }
+  EXPECT_TRUE(icons.ExtractGroup(path, 60, 11).empty());
+  std::vector<ModuleIcon> broken = Icons(10);
+  broken[4].pictures[0].data.resize(100);
+  EXPECT_TRUE(icons.ExtractGroup(folder.MakeFile("b.icl", MakeModule(broken)), 0, 10).empty());
+}
+
+TEST(ShellIconModules, AreTheSameWhereTheyAreReadAhead) {
+  const TemporaryFolder folder;
+  std::vector<ModuleIcon> all = Icons(90);
+  all[70].pictures[0].data.resize(100);
+  const std::string path = folder.MakeFile("a.icl", MakeModule(all));
+  ShellIcons oneByOne(Open, ShellWithoutModules);
+  ShellIcons icons(Open, ShellWithoutModules);
+  IconsAhead ahead(icons, icons);
+  const auto search = ahead.InTurn();
+  ASSERT_EQ(ahead.CountIcons(path), 90);
+  for (int index = 0; index < 90; ++index) {
+    const auto expected = Looks(oneByOne.Extract(path, index).get());
+    EXPECT_EQ(expected.empty(), index == 70);
+    ASSERT_TRUE(Looks(ahead.Extract(path, index).get()) == expected) << index;
+  }
+}
+
+TEST(ShellIconModules, AreOfFourKindsOfFile) {
+  const TemporaryFolder folder;
+  ShellIcons icons(Open, ShellWithoutModules);
+  const ModuleBytes module = MakeModule(Icons(2));
+  for (const char* name : {"a.icl", "b.EXE", "c.dll", "d.ocx"}) {
+    const std::string path = folder.MakeFile(name, module);
+    EXPECT_EQ(icons.CountIcons(path), 2) << name;
+    EXPECT_NE(icons.Extract(path, 1), nullptr) << name;
+    EXPECT_EQ(icons.ExtractGroup(path, 0, 2).size(), 2U) << name;
+  }
+  for (const char* name : {"a.ico", "b.fon", "c", "d.ani"}) {
+    const std::string path = folder.MakeFile(name, module);
+    EXPECT_EQ(icons.CountIcons(path), 0) << name;
+    EXPECT_EQ(icons.Extract(path, 1), nullptr) << name;
+    EXPECT_TRUE(icons.ExtractGroup(path, 0, 2).empty()) << name;
+  }
+}
+
+// A table that claims thousands of icons would end every search of its folder.
+TEST(ShellIconModules, AreNotBelievedWhereTheyClaimMoreThanAHundred) {
+  const TemporaryFolder folder;
+  ShellIcons icons(Open, ShellWithoutModules);
+  EXPECT_EQ(icons.CountIcons(folder.MakeFile("intact.icl", MakeModule(Icons(150)))), 150);
+  std::vector<ModuleIcon> broken = Icons(1000);
+  for (std::size_t i = 30; i < broken.size(); ++i) broken[i].pictures[0].data.resize(50);
+  EXPECT_EQ(icons.CountIcons(folder.MakeFile("broken.icl", MakeModule(broken, {.shift = 5}))), 30);
+}
+
+TEST(ShellIconModules, AreReadAgainWhereTheFileChanged) {
+  const TemporaryFolder folder;
+  ShellIcons icons(Open, ShellWithoutModules);
+  const std::string path = folder.MakeFile("a.icl", MakeModule(Icons(3)));
+  EXPECT_EQ(icons.CountIcons(path), 3);
+  const auto replace = [&](std::span<const std::byte> bytes) {
+    ASSERT_NE(DeleteFileW(ToWide(path).c_str()), 0) << "a file that is kept open cannot be replaced";
+    folder.MakeFile("a.icl", bytes);
+  };
+  replace(MakeModule(Icons(1)));
+  EXPECT_EQ(icons.Extract(path, 2), nullptr);
+  EXPECT_NE(icons.Extract(path, 0), nullptr);
+  EXPECT_EQ(icons.CountIcons(path), 1);
+  replace(ModuleBytes(3000));
+  EXPECT_EQ(icons.CountIcons(path), 0);
+  EXPECT_EQ(icons.Extract(path, 0), nullptr);
+  ASSERT_NE(DeleteFileW(ToWide(path).c_str()), 0);
+  EXPECT_EQ(icons.CountIcons(path), 0);
+  EXPECT_EQ(icons.Extract(path, 0), nullptr);
+}
+
+// All GDI objects that the process can have, as tiny bitmaps.
+class NoGdiObjects {
+ public:
+  NoGdiObjects() {
+    while (const HBITMAP bitmap = CreateBitmap(1, 1, 1, 1, nullptr)) bitmaps_.emplace_back(bitmap);
+  }
+
+ private:
+  std::vector<BitmapHandle> bitmaps_;
+};
+
+TEST(ShellIconModules, AreNotLeftOutForLackOfGdiObjects) {
+  const TemporaryFolder folder;
+  const std::string path = folder.MakeFile("a.icl", MakeModule(Icons(1)));
+  ShellIcons icons(Open, ShellWithoutModules);
+  {
+    NoGdiObjects none;
+    EXPECT_THROW(icons.Extract(path, 0), OutOfMemoryError);
+  }
+  EXPECT_NE(icons.Extract(path, 0), nullptr);
+}
+
+TEST(ShellIconModules, KeepNoHandlesAndNoFileOpen) {
+  const TemporaryFolder folder;
+  const std::string path = folder.MakeFile("a.icl", MakeModule(Icons(4)));
+  std::vector<ModuleIcon> broken = Icons(4);
+  broken[3].pictures[0].data.resize(100);
+  const std::string other = folder.MakeFile("b.icl", MakeModule(broken));
+  ShellIcons icons(Open, ShellWithoutModules);
+  const auto round = [&] {
+    ASSERT_EQ(icons.CountIcons(path), 4);
+    ASSERT_NE(icons.Extract(path, 3), nullptr);
+    ASSERT_EQ(icons.ExtractGroup(path, 0, 4).size(), 4U);
+    ASSERT_TRUE(icons.ExtractGroup(other, 0, 4).empty());
+  };
+  round();
+  const int before = testing::CountGdiObjects();
+  for (int i = 0; i < 50; ++i) round();
+  EXPECT_EQ(testing::CountGdiObjects(), before);
+  EXPECT_NE(DeleteFileW(ToWide(path).c_str()), 0);
+}
+
+// Real files, of which it is counted how often one is opened and how much is read.
+class Counted {
+ public:
+  ShellIcons::OpenBytes Opener() {
+    return [this](const std::string& path) {
+      ++opened;
+      return std::make_unique<Bytes>(path, read);
+    };
+  }
+
+  int opened = 0;
+  std::uint64_t read = 0;
+
+ private:
+  class Bytes final : public ByteSource {
+   public:
+    Bytes(const std::string& path, std::uint64_t& read) : file_(path), read_(read) {}
+    FileStamp Stamp() override { return file_.Stamp(); }
+    bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
+      read_ += bytes.size();
+      return file_.Read(offset, bytes);
+    }
+
+   private:
+    FileBytes file_;
+    std::uint64_t& read_;
+  };
+};
+
+TEST(ShellIconModules, AreLeftToTheShellWhereItReadsThem) {
+  const TemporaryFolder folder;
+  const std::string path = folder.MakeFile("a.icl", MakeModule(Icons(3)));
+  Counted files;
+  ShellIcons icons(files.Opener());
+  ASSERT_EQ(icons.CountIcons(path), 3) << "this machine's shell reads no 16-bit modules";
+  ASSERT_NE(icons.Extract(path, 2), nullptr);
+  EXPECT_EQ(icons.ExtractGroup(path, 0, 3).size(), 3U);
+  EXPECT_EQ(files.opened, 0);
+  // An icon that the shell cannot take is none, whatever could be read.
+  std::vector<ModuleIcon> broken = Icons(3);
+  broken[1].pictures[0].data.resize(2);
+  const std::string other = folder.MakeFile("b.icl", MakeModule(broken));
+  ASSERT_EQ(icons.CountIcons(other), 3);
+  EXPECT_EQ(icons.Extract(other, 1), nullptr);
+}
+
+TEST(ShellIconModules, AreLookedForInNoFileMoreThanOnceAPass) {
+  const TemporaryFolder folder;
+  Counted files;
+  ShellIcons icons(files.Opener(), ShellWithoutModules);
+  IconsAhead ahead(icons, icons);
+  const auto search = ahead.InTurn();
+  // A library of today without icons: its first block, which both headers are in.
+  const std::string library = JoinPath(SystemFolder(), "version.dll");
+  EXPECT_EQ(ahead.CountIcons(library), 0);
+  EXPECT_EQ(ahead.CountIcons(library), 0);
+  EXPECT_EQ(files.opened, 1);
+  EXPECT_EQ(files.read, 512U);
+  // One with icons, and a file of another type: not even opened.
+  files = {};
+  EXPECT_GT(ahead.CountIcons(JoinPath(SystemFolder(), "shell32.dll")), 0);
+  EXPECT_EQ(ahead.CountIcons(folder.MakeFile("a.txt", "text")), 0);
+  EXPECT_EQ(files.opened, 0);
+}
+
+TEST(ShellIconModules, HaveTheirTableReadOnceForAllTheirIcons) {
+  const TemporaryFolder folder;
+  const ModuleBytes module = MakeModule(Icons(60));
+  const std::string path = folder.MakeFile("a.icl", module);
+  Counted files;
+  ShellIcons icons(files.Opener(), ShellWithoutModules);
+  for (int index = 0; index < 60; ++index) ASSERT_NE(icons.Extract(path, index), nullptr);
+  EXPECT_LE(files.read, 512 + module.size() + 60 * 6) << "the start of each group is read twice";
+}
+
+}  // namespace
+}  // namespace tarvik
