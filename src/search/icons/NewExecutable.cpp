@@ -4,7 +4,6 @@
 #include <array>
 #include <span>
 
-#include "base/AsciiCase.h"
 #include "base/ByteReader.h"
 
 namespace tarvik {
@@ -29,8 +28,6 @@ constexpr std::uint32_t maxShift = 15;
 constexpr std::uint32_t numberBit = 0x8000;
 constexpr std::uint32_t pictureType = numberBit | 3;
 constexpr std::uint32_t groupType = numberBit | 14;
-
-constexpr std::size_t maxRemembered = 100'000;  // files without icons
 
 // Bytes of the file from a place on; empty if it will not give them.
 std::vector<std::byte> BytesAt(ByteSource& file, std::uint64_t place, std::uint64_t size) {
@@ -104,32 +101,6 @@ std::vector<std::byte> NewExecutable::Picture(ByteSource& file, int index, const
   auto bytes = BytesAt(file, picture->second.place, std::min<std::uint64_t>(picture->second.size, maxPictureBytes));
   if (!HoldsPicture(bytes)) bytes.clear();
   return bytes;
-}
-
-bool IsModuleName(std::string_view path) {
-  constexpr std::array<std::string_view, 4> endings{".icl", ".exe", ".dll", ".ocx"};
-  return std::ranges::any_of(endings, [path](std::string_view ending) {
-    return path.size() >= ending.size() &&
-           std::ranges::equal(path.substr(path.size() - ending.size()), ending, {}, LowerAscii);
-  });
-}
-
-const NewExecutable& ModuleLooks::Of(const std::string& path, const FileStamp& stamp, const Open& open) {
-  static const NewExecutable none;
-  if (path == path_ && stamp == stamp_) return module_;
-  const auto known = without_.find(path);
-  if (known != without_.end() && known->second == stamp) return none;
-  const std::unique_ptr<ByteSource> file = open(path);
-  const FileStamp opened = file->Stamp();
-  module_ = NewExecutable(*file, opened.size);
-  path_ = path;
-  stamp_ = stamp;
-  // What a link is known by says nothing of the file that it leads to.
-  if (module_.IconCount() == 0 && opened == stamp) {
-    if (without_.size() >= maxRemembered) without_.clear();
-    without_.insert_or_assign(path, stamp);
-  }
-  return module_;
 }
 
 }  // namespace tarvik

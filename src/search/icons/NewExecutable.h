@@ -2,10 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
-#include <memory>
-#include <string>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -19,13 +15,12 @@ namespace tarvik {
 //
 // The format, as Microsoft's "Executable-File Header Format" (Windows 3.1) describes it. All numbers are little-endian:
 //   - the DOS header: "MZ"; at 0x3C, in four bytes, where the new header is;
-//   - the new header: "NE"; at 0x24 and 0x26 where, from its own start, the table of resources and the table of
-//   resident
-//     names are. The second follows the first, so that no table of resources has more than 64 KB;
-//   - the table of resources: a shift, by which places and lengths in it are to be multiplied by two; then, for each
-//     type, its number (0 ends the table), how many resources there are, and four bytes that mean nothing in a file;
-//     and for each of them its place in the file, its length, flags, its number, and again four bytes. Types and
-//     resources that have a number have the highest bit set in it; without that bit, it says where the name is.
+//   - the new header: "NE"; at 0x24 and 0x26 where, from its own start, the tables of resources and of resident names
+//     are. The second follows the first, so no table of resources has more than 64 KB;
+//   - the table of resources: a shift, by which places and lengths in it are moved to the left; then, for each type, its
+//     number (0 ends the table), how many resources there are, and four bytes that mean nothing in a file; and for each
+//     of them its place in the file, its length, flags, its number, and again four bytes. Types and resources that have
+//     a number have the highest bit set in it; without that bit, it says where the name is.
 // A group of icons (type 14) names its pictures (type 3) by number.
 //
 // Whatever the file says, nothing is read beyond its end or beyond what the table names. Where the table is damaged, it
@@ -57,27 +52,6 @@ class NewExecutable {
   std::vector<Extent> groups_;
   bool hasAllGroups_ = true;                            // that the table has so far
   std::unordered_map<std::uint32_t, Extent> pictures_;  // by number, with the bit that says so
-};
-
-// True for the names of files that may be such modules and hold icons: .icl, .exe, .dll and .ocx, in any case.
-bool IsModuleName(std::string_view path);
-
-// Reads such modules and remembers what it found, because opening a file costs a search much of the time that it needs
-// for one without icons: the last module, so that its table is read once for all its icons; and for the whole run which
-// files are none or have no icons. Both hold as long as a file stays as it is.
-class ModuleLooks {
- public:
-  // Opens the bytes of a file.
-  using Open = std::function<std::unique_ptr<ByteSource>(const std::string& path)>;
-
-  // The module at a path that is known by `stamp` now, as its folder has it. It stays until the next call.
-  const NewExecutable& Of(const std::string& path, const FileStamp& stamp, const Open& open);
-
- private:
-  std::string path_;  // of the last one
-  FileStamp stamp_;
-  NewExecutable module_;
-  std::unordered_map<std::string, FileStamp> without_;  // files without icons, by path
 };
 
 }  // namespace tarvik

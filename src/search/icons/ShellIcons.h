@@ -12,6 +12,7 @@
 #include "search/icons/CutOffCalls.h"
 #include "search/icons/IconSource.h"
 #include "search/icons/IconsAhead.h"
+#include "search/icons/ModuleLooks.h"
 #include "search/icons/NewExecutable.h"
 #include "search/icons/ShellFunctions.h"
 

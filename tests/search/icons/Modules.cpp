@@ -175,4 +175,11 @@ ModuleBytes PlainBitmap(int width, int height, int bits, std::uint8_t mark) {
   return bytes;
 }
 
+std::vector<ModuleIcon> PlainIcons(int count) {
+  std::vector<ModuleIcon> icons;
+  for (int mark = 1; mark <= count; ++mark)
+    icons.push_back({.pictures = {{16, 16, 1, PlainBitmap(16, 16, 1, static_cast<std::uint8_t>(mark))}}});
+  return icons;
+}
+
 }  // namespace tarvik::testing

@@ -41,6 +41,9 @@ ModuleBytes MakeModule(std::span<const ModuleIcon> icons, const ModuleLayout& la
 // A bitmap as an icon has it, all zeros but its header and `mark`, which is its first colour or pixel byte.
 ModuleBytes PlainBitmap(int width, int height, int bits, std::uint8_t mark = 0);
 
+// Icons of one picture of 16 pixels each, marked 1, 2, 3 ...
+std::vector<ModuleIcon> PlainIcons(int count);
+
 // Where the new header of a made module is, and its table of resources.
 inline constexpr std::size_t newHeaderOfModule = 0x80;
 inline constexpr std::size_t tableOfModule = newHeaderOfModule + 0x40;

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -20,6 +18,7 @@ using testing::ModuleIcon;
 using testing::ModuleLayout;
 using testing::ModulePicture;
 using testing::PlainBitmap;
+using testing::PlainIcons;
 using Bytes = std::vector<std::byte>;
 
 constexpr std::size_t offsetPlace = 0x3C;
@@ -51,13 +50,6 @@ ModulePicture Picture(int size, int bits, std::uint8_t mark) {
   return {size, size, bits, PlainBitmap(size, size, bits, mark)};
 }
 
-// Icons of one picture of 16 pixels each, which can be told apart by their marks: 1, 2, 3 ...
-std::vector<ModuleIcon> Icons(int count) {
-  std::vector<ModuleIcon> icons;
-  for (int i = 1; i <= count; ++i) icons.push_back({.pictures = {Picture(16, 1, static_cast<std::uint8_t>(i))}});
-  return icons;
-}
-
 int CountOf(const Bytes& bytes) {
   BytesInMemory file(bytes);
   return NewExecutable(file, bytes.size()).IconCount();
@@ -81,38 +73,38 @@ std::vector<int> Marks(const Bytes& bytes) {
 }
 
 TEST(NewExecutable, HasItsGroupsInTheOrderOfTheTable) {
-  EXPECT_EQ(Marks(MakeModule(Icons(1))), (std::vector{1}));
-  EXPECT_EQ(Marks(MakeModule(Icons(5))), (std::vector{1, 2, 3, 4, 5}));
-  EXPECT_EQ(CountOf(MakeModule(Icons(200))), 200);
+  EXPECT_EQ(Marks(MakeModule(PlainIcons(1))), (std::vector{1}));
+  EXPECT_EQ(Marks(MakeModule(PlainIcons(5))), (std::vector{1, 2, 3, 4, 5}));
+  EXPECT_EQ(CountOf(MakeModule(PlainIcons(200))), 200);
 }
 
 TEST(NewExecutable, HasItsTypesInAnyOrderAmongOthers) {
   for (const bool groupsFirst : {false, true}) {
     const ModuleLayout layout{.groupsFirst = groupsFirst, .otherResources = true};
-    EXPECT_EQ(Marks(MakeModule(Icons(3), layout)), (std::vector{1, 2, 3})) << groupsFirst;
+    EXPECT_EQ(Marks(MakeModule(PlainIcons(3), layout)), (std::vector{1, 2, 3})) << groupsFirst;
   }
 }
 
 TEST(NewExecutable, HasNamedGroupsToo) {
-  std::vector<ModuleIcon> icons = Icons(3);
+  std::vector<ModuleIcon> icons = PlainIcons(3);
   icons[1].name = "A NAME";
   EXPECT_EQ(Marks(MakeModule(icons)), (std::vector{1, 2, 3}));
 }
 
 TEST(NewExecutable, FindsResourcesAtEveryAlignment) {
   for (unsigned shift = 0; shift <= 15; ++shift) {
-    EXPECT_EQ(Marks(MakeModule(Icons(3), {.shift = shift})), (std::vector{1, 2, 3})) << shift;
+    EXPECT_EQ(Marks(MakeModule(PlainIcons(3), {.shift = shift})), (std::vector{1, 2, 3})) << shift;
   }
   // Places that more than 16 bits are needed for.
-  std::vector<ModuleIcon> icons = Icons(2);
+  std::vector<ModuleIcon> icons = PlainIcons(2);
   icons.insert(icons.begin() + 1, {.pictures = {{255, 255, 32, Bytes(70'000)}}});
   EXPECT_EQ(Marks(MakeModule(icons, {.shift = 9})), (std::vector{1, -1, 2}));
 }
 
 TEST(NewExecutable, HasNoIconsAtAnAlignmentThatIsNone) {
-  const Bytes module = MakeModule(Icons(1), {.shift = 15});
+  const Bytes module = MakeModule(PlainIcons(1), {.shift = 15});
   EXPECT_EQ(CountOf(module), 1);
-  EXPECT_EQ(CountOf(MakeModule(Icons(1), {.shift = 16})), 0);
+  EXPECT_EQ(CountOf(MakeModule(PlainIcons(1), {.shift = 16})), 0);
   for (const std::uint32_t shift : {16U, 32U, 64U, 0x100U, 0xFFFFU}) EXPECT_EQ(CountOf(With(module, table, shift)), 0);
 }
 
@@ -135,18 +127,18 @@ TEST(NewExecutable, GivesTheWholePicture) {
 }
 
 TEST(NewExecutable, FindsResourcesThatShareTheirBytesOrOverlap) {
-  std::vector<ModuleIcon> icons = Icons(3);
+  std::vector<ModuleIcon> icons = PlainIcons(3);
   icons.push_back(icons[0]);
   EXPECT_EQ(Marks(MakeModule(icons, {.sharedData = true})), (std::vector{1, 2, 3, 1}));
   EXPECT_EQ(Marks(MakeModule(icons, {.overlappingData = true})), (std::vector{1, 2, 3, 1}));
   // Two groups at one place.
-  const Bytes module = MakeModule(Icons(2));
+  const Bytes module = MakeModule(PlainIcons(2));
   const std::size_t group = FirstGroup(2);
   EXPECT_EQ(Marks(With(module, group + entrySize, U16(module, group))), (std::vector{1, 1}));
 }
 
 TEST(NewExecutable, IsNoneWithoutItsTwoHeaders) {
-  const Bytes module = MakeModule(Icons(2));
+  const Bytes module = MakeModule(PlainIcons(2));
   EXPECT_EQ(CountOf({}), 0);
   EXPECT_EQ(CountOf(With(module, 0, 0x4D5A)), 0) << "ZM";
   EXPECT_EQ(CountOf(With(module, header, 0x4550)), 0) << "PE";
@@ -163,7 +155,7 @@ TEST(NewExecutable, IsNoneWithoutItsTwoHeaders) {
 
 // The new header may be anywhere, even at the very end or inside the other one.
 TEST(NewExecutable, IsFoundWhereTheFirstHeaderSays) {
-  const Bytes module = MakeModule(Icons(2));
+  const Bytes module = MakeModule(PlainIcons(2));
   Bytes moved = module;
   const std::size_t place = moved.size();
   moved.insert(moved.end(), module.begin() + header, module.begin() + header + 64);
@@ -175,7 +167,7 @@ TEST(NewExecutable, IsFoundWhereTheFirstHeaderSays) {
 }
 
 TEST(NewExecutable, HasNoIconsWithoutATable) {
-  const Bytes module = MakeModule(Icons(2));
+  const Bytes module = MakeModule(PlainIcons(2));
   EXPECT_EQ(CountOf(With(module, header + 0x24, 0xFFFF)), 0);
   EXPECT_EQ(CountOf(With(module, header + 0x26, 0x40)), 0) << "the names are where the table is";
   EXPECT_EQ(CountOf(With(module, header + 0x26, 0x39)), 0);
@@ -185,7 +177,7 @@ TEST(NewExecutable, HasNoIconsWithoutATable) {
 }
 
 TEST(NewExecutable, TakesNothingBehindTheEndOfItsTable) {
-  const Bytes module = MakeModule(Icons(3));
+  const Bytes module = MakeModule(PlainIcons(3));
   const auto ending = [&](std::size_t place) {
     return CountOf(With(module, header + 0x26, static_cast<std::uint32_t>(place - header)));
   };
@@ -200,11 +192,11 @@ TEST(NewExecutable, TakesNothingBehindTheEndOfItsTable) {
 }
 
 TEST(NewExecutable, EndsItsTableAtATypeOfZero) {
-  const Bytes module = MakeModule(Icons(3));
+  const Bytes module = MakeModule(PlainIcons(3));
   EXPECT_EQ(CountOf(With(module, FirstGroup(3) - 8, 0)), 0);
   EXPECT_EQ(CountOf(With(module, firstPicture - 8, 0)), 0);
   // The groups are behind it: of two other resources, then the pictures, and a type between.
-  const Bytes mixed = MakeModule(Icons(3), {.otherResources = true});
+  const Bytes mixed = MakeModule(PlainIcons(3), {.otherResources = true});
   const std::size_t between = table + 2 + 8 + 2 * entrySize + 8 + 3 * entrySize;
   ASSERT_EQ(U16(mixed, between) & 0x8000U, 0U) << "a type with a name";
   EXPECT_EQ(CountOf(mixed), 3);
@@ -213,7 +205,7 @@ TEST(NewExecutable, EndsItsTableAtATypeOfZero) {
 }
 
 TEST(NewExecutable, HasNoMoreIconsThanThereIsRoomForInItsTable) {
-  const Bytes module = MakeModule(Icons(3));
+  const Bytes module = MakeModule(PlainIcons(3));
   const std::size_t count = FirstGroup(3) - 6;
   EXPECT_EQ(CountOf(With(module, count, 2)), 2);
   EXPECT_EQ(CountOf(With(module, count, 0)), 0);
@@ -223,33 +215,33 @@ TEST(NewExecutable, HasNoMoreIconsThanThereIsRoomForInItsTable) {
 }
 
 TEST(NewExecutable, HasNoIconsWithoutPictures) {
-  const Bytes module = MakeModule(Icons(3));
+  const Bytes module = MakeModule(PlainIcons(3));
   EXPECT_EQ(CountOf(With(module, firstPicture - 8, 0x8002)), 0);
   EXPECT_EQ(CountOf(With(module, firstPicture - 8, 3)), 0) << "the place of a name, not a number";
   EXPECT_EQ(CountOf(With(module, FirstGroup(3) - 8, 14)), 0);
 }
 
 TEST(NewExecutable, HasTheIconsBeforeAGroupBehindItsEnd) {
-  const Bytes module = MakeModule(Icons(4));
+  const Bytes module = MakeModule(PlainIcons(4));
   const auto units = static_cast<std::uint32_t>(module.size() / 16);
   ASSERT_EQ(module.size() % 16, 0U);
   EXPECT_EQ(Marks(With(module, FirstGroup(4) + 2 * entrySize, units)), (std::vector{1, 2}));
   EXPECT_EQ(CountOf(With(module, FirstGroup(4) + 2 * entrySize, units - 1)), 4) << "the last unit is there";
   EXPECT_EQ(CountOf(With(module, FirstGroup(4), 0xFFFF)), 0);
   // With the groups in front, the pictures are found all the same.
-  const Bytes turned = MakeModule(Icons(4), {.groupsFirst = true});
+  const Bytes turned = MakeModule(PlainIcons(4), {.groupsFirst = true});
   EXPECT_EQ(Marks(With(turned, firstPicture + entrySize, 0xFFFF)), (std::vector{1}));
 }
 
 TEST(NewExecutable, LacksAPictureBehindItsEndAndNoOther) {
-  const Bytes module = MakeModule(Icons(4));
+  const Bytes module = MakeModule(PlainIcons(4));
   EXPECT_EQ(Marks(With(module, firstPicture + entrySize, 0xFFFF)), (std::vector{1, -1, 3, 4}));
 }
 
 TEST(NewExecutable, TakesALastPictureThatIsNotFilledUp) {
   const ModuleLayout layout{.shift = 9, .groupsFirst = true};
   const std::size_t size = PlainBitmap(16, 16, 1).size();
-  const Bytes module = MakeModule(Icons(2), layout);
+  const Bytes module = MakeModule(PlainIcons(2), layout);
   const std::size_t end = module.size() - 512 + size;
   EXPECT_EQ(Marks(Cut(module, end)), (std::vector{1, 2}));
   EXPECT_EQ(PictureOf(Cut(module, end), 1).size(), size);
@@ -257,14 +249,14 @@ TEST(NewExecutable, TakesALastPictureThatIsNotFilledUp) {
 }
 
 TEST(NewExecutable, HasNoIconOfAnotherIndex) {
-  const Bytes module = MakeModule(Icons(2));
+  const Bytes module = MakeModule(PlainIcons(2));
   EXPECT_EQ(MarkOf(module, -1), -1);
   EXPECT_EQ(MarkOf(module, 2), -1);
   EXPECT_EQ(MarkOf(module, 1'000'000), -1);
 }
 
 TEST(NewExecutable, FindsAPictureByItsNumber) {
-  const Bytes module = MakeModule(Icons(3));
+  const Bytes module = MakeModule(PlainIcons(3));
   const auto numbered = [&](std::size_t picture, std::uint32_t id) {
     return Marks(With(module, firstPicture + entrySize * picture + 6, id));
   };
@@ -274,7 +266,7 @@ TEST(NewExecutable, FindsAPictureByItsNumber) {
 }
 
 TEST(NewExecutable, GivesNothingForAGroupThatIsNone) {
-  const Bytes module = MakeModule(Icons(2));
+  const Bytes module = MakeModule(PlainIcons(2));
   const std::size_t group = FirstGroup(2);
   EXPECT_EQ(Marks(With(module, group, 0)), (std::vector{-1, 2})) << "the DOS header";
   EXPECT_EQ(Marks(With(module, group + 2, 0)), (std::vector{-1, 2})) << "of no length";
@@ -282,14 +274,14 @@ TEST(NewExecutable, GivesNothingForAGroupThatIsNone) {
 }
 
 TEST(NewExecutable, GivesNothingForAPictureThatIsNone) {
-  std::vector<ModuleIcon> icons = Icons(3);
+  std::vector<ModuleIcon> icons = PlainIcons(3);
   icons[0].pictures[0].data.assign(5000, std::byte{0x55});
   icons[1].pictures[0].data.resize(60);
   EXPECT_EQ(Marks(MakeModule(icons, {.shift = 0})), (std::vector{-1, -1, 3}));
 }
 
 TEST(NewExecutable, ReadsItsHeadersAndItsTableOnce) {
-  const Bytes module = MakeModule(Icons(20), {.otherResources = true});
+  const Bytes module = MakeModule(PlainIcons(20), {.otherResources = true});
   BytesInMemory file(module);
   const NewExecutable executable(file, module.size());
   const std::size_t tableSize = U16(module, header + 0x26) - 0x40U;
@@ -309,7 +301,7 @@ TEST(NewExecutable, ReadsTheHeadersAloneOfAFileThatIsNoModule) {
   EXPECT_EQ(readOf({}), 0U);
   EXPECT_EQ(readOf(Bytes(5000, std::byte{'x'})), 512U);
   EXPECT_EQ(readOf(Bytes(100, std::byte{'x'})), 100U);
-  EXPECT_EQ(readOf(With(MakeModule(Icons(20)), header, 0x4550)), 512U);
+  EXPECT_EQ(readOf(With(MakeModule(PlainIcons(20)), header, 0x4550)), 512U);
   // The new header is in the first block, or is read by itself.
   const Bytes library = With(Bytes(5000), 0, 0x5A4D);
   EXPECT_EQ(readOf(With(library, offsetPlace, 512 - 64, 4)), 512U);
@@ -319,7 +311,7 @@ TEST(NewExecutable, ReadsTheHeadersAloneOfAFileThatIsNoModule) {
 }
 
 TEST(NewExecutable, ReadsNoMoreOfAPictureThanAnyHas) {
-  std::vector<ModuleIcon> icons = Icons(1);
+  std::vector<ModuleIcon> icons = PlainIcons(1);
   icons[0].pictures[0].data.resize(3'000'000);
   const Bytes module = MakeModule(icons, {.shift = 9});
   BytesInMemory file(module);
@@ -330,7 +322,7 @@ TEST(NewExecutable, ReadsNoMoreOfAPictureThanAnyHas) {
 }
 
 TEST(NewExecutable, HasNoIconsWhereTheFileCannotBeRead) {
-  const Bytes module = MakeModule(Icons(2));
+  const Bytes module = MakeModule(PlainIcons(2));
   for (int reads = 0; reads < 2; ++reads) {
     BytesInMemory file(module);
     file.readsBeforeItFails = reads;
@@ -345,7 +337,7 @@ TEST(NewExecutable, HasNoIconsWhereTheFileCannotBeRead) {
 }
 
 TEST(NewExecutable, HasTheIconsThatAreLeftWhereTheFileIsCutOff) {
-  const Bytes module = MakeModule(Icons(5), {.shift = 2, .otherResources = true});
+  const Bytes module = MakeModule(PlainIcons(5), {.shift = 2, .otherResources = true});
   int before = 0;
   for (std::size_t size = 0; size <= module.size(); ++size) {
     const Bytes part = Cut(module, size);
@@ -356,95 +348,6 @@ TEST(NewExecutable, HasTheIconsThatAreLeftWhereTheFileIsCutOff) {
     before = count;
   }
   EXPECT_EQ(before, 5);
-}
-
-TEST(IsModuleName, IsTrueForFourEndingsInAnyCase) {
-  for (const char* name : {"a.icl", "C:\\B\\A.EXE", "a.Dll", "a.ocX", ".icl"}) EXPECT_TRUE(IsModuleName(name)) << name;
-  for (const char* name : {"", "icl", "a.ico", "a.icl.ico", "a.icll", "a.fon", "aicl", "dll", "a.exe "}) {
-    EXPECT_FALSE(IsModuleName(name)) << name;
-  }
-}
-
-// Files by path, of which it is counted how often one is opened.
-class OpenedFiles {
- public:
-  void Put(const std::string& path, Bytes bytes, std::uint64_t written = 0) {
-    files_[path] = {std::move(bytes), written};
-  }
-  FileStamp StampOf(const std::string& path) { return {files_[path].bytes.size(), files_[path].written}; }
-  ModuleLooks::Open Opener() {
-    return [this](const std::string& path) {
-      ++opened;
-      auto file = std::make_unique<BytesInMemory>(files_[path].bytes);
-      file->written = files_[path].written;
-      return file;
-    };
-  }
-  int CountBy(ModuleLooks& looks, const std::string& path) {
-    return looks.Of(path, StampOf(path), Opener()).IconCount();
-  }
-
-  int opened = 0;
-
- private:
-  struct File {
-    Bytes bytes;
-    std::uint64_t written = 0;
-  };
-  std::map<std::string, File> files_;
-};
-
-TEST(ModuleLooks, OpenAFileOnceAsLongAsItStaysAsItIs) {
-  OpenedFiles files;
-  ModuleLooks looks;
-  files.Put("a.icl", MakeModule(Icons(3)));
-  EXPECT_EQ(files.CountBy(looks, "a.icl"), 3);
-  EXPECT_EQ(files.CountBy(looks, "a.icl"), 3);
-  EXPECT_EQ(files.opened, 1);
-  files.Put("a.icl", MakeModule(Icons(3)), 1);
-  EXPECT_EQ(files.CountBy(looks, "a.icl"), 3);
-  EXPECT_EQ(files.opened, 2) << "of another time";
-  files.Put("a.icl", MakeModule(Icons(9)), 1);
-  EXPECT_EQ(files.CountBy(looks, "a.icl"), 9);
-  EXPECT_EQ(files.opened, 3) << "of another size";
-}
-
-TEST(ModuleLooks, RememberAllFilesWithoutIcons) {
-  OpenedFiles files;
-  ModuleLooks looks;
-  for (const char* path : {"a.dll", "b.dll", "c.dll"}) files.Put(path, Bytes(100));
-  files.Put("icons.icl", MakeModule(Icons(2)));
-  for (int round = 0; round < 3; ++round) {
-    for (const char* path : {"a.dll", "b.dll", "c.dll"}) EXPECT_EQ(files.CountBy(looks, path), 0);
-    EXPECT_EQ(files.CountBy(looks, "icons.icl"), 2);
-  }
-  EXPECT_EQ(files.opened, 3 + 1) << "the last one with icons is kept while others are known to have none";
-  files.Put("b.dll", MakeModule(Icons(4)));
-  EXPECT_EQ(files.CountBy(looks, "b.dll"), 4);
-  EXPECT_EQ(files.CountBy(looks, "icons.icl"), 2);
-  EXPECT_EQ(files.CountBy(looks, "b.dll"), 4);
-}
-
-TEST(ModuleLooks, AreNotRememberedWhereALinkLeadsElsewhere) {
-  OpenedFiles files;
-  ModuleLooks looks;
-  const FileStamp link{.size = 0, .written = 5};
-  files.Put("link.dll", Bytes(100));
-  files.Put("other.dll", Bytes(100));
-  EXPECT_EQ(looks.Of("link.dll", link, files.Opener()).IconCount(), 0);
-  EXPECT_EQ(files.CountBy(looks, "other.dll"), 0);
-  files.Put("link.dll", MakeModule(Icons(1)));
-  EXPECT_EQ(looks.Of("link.dll", link, files.Opener()).IconCount(), 1);
-}
-
-TEST(ModuleLooks, AreOfTheFileThatIsAskedFor) {
-  OpenedFiles files;
-  ModuleLooks looks;
-  files.Put("one.icl", MakeModule(Icons(1)));
-  files.Put("three.icl", MakeModule(Icons(3)));
-  EXPECT_EQ(files.CountBy(looks, "one.icl"), 1);
-  EXPECT_EQ(files.CountBy(looks, "three.icl"), 3);
-  EXPECT_EQ(files.CountBy(looks, "one.icl"), 1);
 }
 
 }  // namespace
