@@ -17,10 +17,10 @@ namespace tarvik {
 //   - the DOS header: "MZ"; at 0x3C, in four bytes, where the new header is;
 //   - the new header: "NE"; at 0x24 and 0x26 where, from its own start, the tables of resources and of resident names
 //     are. The second follows the first, so no table of resources has more than 64 KB;
-//   - the table of resources: a shift, by which places and lengths in it are moved to the left; then, for each type, its
-//     number (0 ends the table), how many resources there are, and four bytes that mean nothing in a file; and for each
-//     of them its place in the file, its length, flags, its number, and again four bytes. Types and resources that have
-//     a number have the highest bit set in it; without that bit, it says where the name is.
+//   - the table of resources: a shift, by which places and lengths in it are moved to the left; then, for each type,
+//     its number (0 ends the table), how many resources there are, and four bytes that mean nothing in a file; and for
+//     each of them its place in the file, its length, flags, its number, and again four bytes. Types and resources that
+//     have a number have the highest bit set in it; without that bit, it says where the name is.
 // A group of icons (type 14) names its pictures (type 3) by number.
 //
 // Whatever the file says, nothing is read beyond its end or beyond what the table names. Where the table is damaged, it
