@@ -4,8 +4,12 @@
 
 #include <windows.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <memory>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,6 +43,28 @@ void CompareSearches(Application& application, const std::string& title, const S
            {"search, real window", [&] { window.Find(); }}},
           times);
   PrintHeld(title, oneByOne.Icons());
+}
+
+// A file that nobody looks at: no 16-bit module is read out of it.
+class NoBytes final : public ByteSource {
+ public:
+  FileStamp Stamp() override { return {}; }
+  bool Read(std::uint64_t, std::span<std::byte>) override { return false; }
+};
+
+// What it costs to look for 16-bit modules among files in which the shell finds no icon, none of which is one: in the
+// first search of a run, and in a later one, for which the files are known.
+void CompareModuleLooks(const std::string& title, const Scope& scope) {
+  const ShellIcons::OpenBytes openNone = [](const std::string&) { return std::make_unique<NoBytes>(); };
+  std::optional<SilentSearch> search;
+  const auto run = [&] { search->Run(); };
+  Compare(title + ", first search",
+          {{"no look", run, [&] { search.emplace(scope, openNone); }}, {"search", run, [&] { search.emplace(scope); }}},
+          2 * rounds);
+  SilentSearch without(scope, openNone);
+  SilentSearch silent(scope);
+  Compare(title + ", later search", {{"no look", [&] { without.Run(); }}, {"search", [&] { silent.Run(); }}},
+          2 * rounds);
 }
 
 // One icon, and more and more empty folders next to it: the cost of a folder must not grow with their number, beyond
@@ -84,10 +110,12 @@ void Measure(Application& application, std::string_view wanted) {
   const testing::TemporaryFolder folder;
   const auto isWanted = [wanted](std::string_view title) { return title.find(wanted) != std::string_view::npos; };
   constexpr const char* system = "the DLLs of the system folder";
+  constexpr const char* modules = "16-bit modules looked for";
   constexpr const char* iconFiles = "2,000 icon files in 500 folders";
   constexpr const char* library = "one DLL of 2,000 icons";
   constexpr const char* allKinds = "20,000 files of all kinds in 2,000 folders";
   if (isWanted(system)) CompareSearches(application, system, {SystemFolder(), "*.dll", false});
+  if (isWanted(modules)) CompareModuleLooks(modules, {SystemFolder(), "*.dll", false});
   if (isWanted(iconFiles)) CompareSearches(application, iconFiles, {MakeIconFiles(folder, 500, 4), "*.ico", true});
   if (isWanted(library)) CompareSearches(application, library, {MakeIconLibrary(folder, 2000, 1), "*.dll", false});
   if (isWanted(allKinds)) CompareSearches(application, allKinds, {MakeAllKinds(folder, 2000), "*.*", true}, 3);

@@ -3,11 +3,13 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "MainWindow.h"
 #include "platform/Surface.h"
 #include "search/SearchDriver.h"
+#include "search/icons/FileBytes.h"
 #include "search/icons/Folders.h"
 #include "search/icons/IconsAhead.h"
 #include "search/icons/ShellIcons.h"
@@ -63,7 +65,12 @@ class SilentWindow final : public SearchWindow, public SearchFolders {
 class SilentSearch {
  public:
   explicit SilentSearch(const Scope& scope)
-      : window_(scope, folders_), driver_({window_, window_, grid_, ownSurface_, icons_, list_, state_, language_}) {}
+      : SilentSearch(scope, [](const std::string& path) { return std::make_unique<FileBytes>(path); }) {}
+  // With `open` for the bytes of files that the program reads itself.
+  SilentSearch(const Scope& scope, ShellIcons::OpenBytes open)
+      : shellIcons_(std::move(open)),
+        window_(scope, folders_),
+        driver_({window_, window_, grid_, ownSurface_, icons_, list_, state_, language_}) {}
   void Run() {
     const auto inTurn = icons_.InTurn();
     driver_.CmdFind_Click();
