@@ -80,6 +80,9 @@
 #define FrmFindIcon_MnuHelp 1150
 #define FrmFindIcon_MnuContent 1151
 #define FrmFindIcon_MnuAbout 1152
+// Commands that keys alone give.
+#define FrmFindIcon_keyRefresh 1160
+#define FrmFindIcon_keySelectAll 1161
 
 // FrmSpash, the start-up window and About box: 1200 to 1299.
 #define FrmSpash_Timer1 1200
@@ -124,6 +127,7 @@
 #define frmDir_CmdOk 1505
 #define frmDir_CmdCancel 1506
 #define frmDir_cmdCreate 1507
+#define frmDir_keyRefresh 1508
 
 // frmDirCreate, the new-folder dialog: 1600 to 1699.
 #define frmDirCreate_lblCaption 1600

@@ -81,7 +81,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
   std::optional<FrmSpash> spash;
   std::optional<FrmFindIcon> findIcon;
   const auto showAbout = [&] { spash->ShowModal(findIcon->Window()); };
-  const auto openGuide = [&] { OpenGuide(findIcon->Window(), ProgramFolder(), state.CurrentLanguage); };
+  application.onHelp = [&](Form& form) { OpenGuide(form.Window(), ProgramFolder(), state.CurrentLanguage); };
+  const auto openGuide = [&] { application.onHelp(*findIcon); };
   DiskFile files;
   TemporaryBitmap temporaryBitmap(TemporaryBitmapPaths());
   ExportDialogs exportDialogs(

@@ -56,6 +56,13 @@ void frmDir::AddFileTypes() {
     ComboBox_AddString(Item(frmDir_CboFileType), ToWide(type.description).c_str());
 }
 
+// F5 reads drives and folders again, as in the main window.
+bool frmDir::PreviewMessage(const MSG& message) {
+  if (message.message != WM_KEYDOWN || message.wParam != VK_F5 || HeldKeys() != 0) return false;
+  SendMessageW(Window(), WM_COMMAND, frmDir_keyRefresh, 0);
+  return true;
+}
+
 bool frmDir::OnCommand(int id, int code) {
   static constexpr Event<frmDir> events[] = {
       {frmDir_CboFileType, frmDir_CboFileType, CBN_SELCHANGE, Call<&frmDir::CboFileType_Click>},
@@ -66,6 +73,7 @@ bool frmDir::OnCommand(int id, int code) {
       {frmDir_CmdCancel, frmDir_CmdCancel, BN_CLICKED, Call<&frmDir::CmdCancel_Click>},
       {frmDir_cmdCreate, frmDir_cmdCreate, BN_CLICKED, Call<&frmDir::cmdCreate_Click>},
       {IDCANCEL, IDCANCEL, BN_CLICKED, Call<&frmDir::CmdCancel_Click>},  // Esc
+      {frmDir_keyRefresh, frmDir_keyRefresh, 0, Call<&frmDir::Reread>},
   };
   return Dispatch<frmDir>(*this, events, id, code);
 }
@@ -112,6 +120,11 @@ void frmDir::CmdCancel_Click() {
 void frmDir::cmdCreate_Click() {
   create_.CreateDir(Window(), dirMain_.Path());
   dirMain_.Refresh();
+}
+
+void frmDir::Reread() {
+  drvMain_.Refresh();
+  dirMain_.Reread();
 }
 
 }  // namespace tarvik

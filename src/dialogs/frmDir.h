@@ -34,6 +34,7 @@ class frmDir final : public Form {
 
  private:
   void Form_Load() override;
+  bool PreviewMessage(const MSG& message) override;
   bool OnCommand(int id, int code) override;
   void OnDrawItem(const DRAWITEMSTRUCT& item) override;
 
@@ -45,6 +46,7 @@ class frmDir final : public Form {
   void CmdOk_Click();
   void CmdCancel_Click();
   void cmdCreate_Click();
+  void Reread();
 
   void FillFileTypes();
   void AddFileTypes();

@@ -27,6 +27,8 @@ class Application {
 
   // Shows a run-time error that stopped a handler of `form`. Set once, before the first form loads.
   std::function<void(Form& form, const RuntimeError& error)> onRuntimeError;
+  // Opens the user's guide for a form in which F1 was pressed, if it is set. Set once, before the first form loads.
+  std::function<void(Form& form)> onHelp;
 
   // Serves messages until no form is loaded.
   void Run();

@@ -32,6 +32,33 @@ LRESULT Send(HWND window, UINT message, std::size_t wParam = 0, LPARAM lParam = 
   return SendMessageW(window, message, wParam, lParam);
 }
 
+// Where a list stands: its first visible row and the chosen one, each by what it shows.
+class ListPosition {
+ public:
+  ListPosition(HWND list, const std::vector<std::string>& rows)
+      : list_(list), top_(Row(rows, LB_GETTOPINDEX)), chosen_(Row(rows, LB_GETCURSEL)) {}
+
+  // Has the list, filled with these rows, stand there again as far as they are still there.
+  void Restore(const std::vector<std::string>& rows) const {
+    Find(rows, chosen_, LB_SETCURSEL);
+    Find(rows, top_, LB_SETTOPINDEX);
+  }
+
+ private:
+  std::string Row(const std::vector<std::string>& rows, UINT message) const {
+    const auto row = static_cast<std::size_t>(Send(list_, message));
+    return row < rows.size() ? rows[row] : std::string();
+  }
+  void Find(const std::vector<std::string>& rows, const std::string& row, UINT message) const {
+    const auto found = std::ranges::find(rows, row);
+    if (found != rows.end()) Send(list_, message, static_cast<std::size_t>(found - rows.begin()));
+  }
+
+  HWND list_;
+  std::string top_;
+  std::string chosen_;
+};
+
 void AddRow(HWND window, UINT message, const std::string& text) {
   Send(window, message, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
 }
@@ -136,10 +163,16 @@ void DirListBox::Show(std::vector<std::string> rows) {
 
 void DirListBox::Hold(bool held) {
   held_ = held;
-  // Rows that are right already keep their place and choice.
-  if (held_) return;
+  if (!held_) Reread();
+}
+
+void DirListBox::Reread() {
   std::vector<std::string> rows = Rows();
-  if (shownPath_ != path_ || shown_ != rows) Show(std::move(rows));
+  if (shownPath_ == path_ && shown_ == rows) return;
+  const ListPosition position(window_, shown_);
+  const bool isSame = shownPath_ == path_;
+  Show(std::move(rows));
+  if (isSame) position.Restore(shown_);
 }
 
 void DirListBox::OpenChosen() {
@@ -199,9 +232,16 @@ void FileListBox::SetPattern(const std::string& pattern) {
 
 void FileListBox::Hold(bool held) {
   held_ = held;
-  if (held_) return;
+  if (!held_) Reread();
+}
+
+void FileListBox::Reread() {
   std::vector<std::string> names = Names();
-  if (shownPath_ != path_ || shownPattern_ != pattern_ || shown_ != names) Show(std::move(names));
+  const bool isSame = shownPath_ == path_ && shownPattern_ == pattern_;
+  if (isSame && shown_ == names) return;
+  const ListPosition position(window_, shown_);
+  Show(std::move(names));
+  if (isSame) position.Restore(shown_);
 }
 
 void FileListBox::Update() {

@@ -49,8 +49,10 @@ class DirListBox {
   void SetPath(const std::string& folder);
   // Fills the visible list anew.
   void Refresh() { Show(Rows()); }
-  // While held, a changed path leaves the visible list alone; letting go fills it if it shows another folder, or if the
-  // folder has changed on the disk.
+  // Reads the folder again. Rows that are right already keep their place and choice; if others came or went, the chosen
+  // one stays chosen if it is still there.
+  void Reread();
+  // While held, a changed path leaves the visible list alone; letting go reads the folder again.
   void Hold(bool held);
 
   // Opens the chosen folder.
@@ -88,6 +90,7 @@ class FileListBox {
   std::vector<std::string> Names() const { return list_(path_, pattern_); }
   void Refresh() { Show(Names()); }
   // As DirListBox does.
+  void Reread();
   void Hold(bool held);
 
  private:

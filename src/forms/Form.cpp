@@ -1,5 +1,9 @@
 #include "forms/Form.h"
 
+#include <windows.h>
+
+#include <windowsx.h>
+
 #include <new>
 #include <utility>
 
@@ -8,6 +12,15 @@
 #include "resource.h"
 
 namespace tarvik {
+namespace {
+
+// Where a context menu was asked for; a key asks with no point.
+std::optional<POINT> PointOf(LPARAM request) {
+  if (request == -1) return std::nullopt;
+  return POINT{GET_X_LPARAM(request), GET_Y_LPARAM(request)};
+}
+
+}  // namespace
 
 Form::Form(Application& application, int dialogId) : application_(application), dialogId_(dialogId) {}
 
@@ -149,6 +162,12 @@ LRESULT Form::OnNotify(NMHDR& /*header*/) {
 void Form::OnMessage(UINT /*message*/) {}
 void Form::OnPicture(const PictureEvent& /*event*/) {}
 void Form::OnDrawItem(const DRAWITEMSTRUCT& /*item*/) {}
+void Form::OnHelp() {
+  if (application_.onHelp) application_.onHelp(*this);
+}
+bool Form::OnContextMenu(HWND /*control*/, std::optional<POINT> /*point*/) {
+  return false;
+}
 
 INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_INITDIALOG) SetWindowLongPtrW(window, DWLP_USER, lParam);
@@ -202,6 +221,11 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DRAWITEM:
       OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
       return TRUE;
+    case WM_HELP:
+      OnHelp();
+      return Answer(TRUE);
+    case WM_CONTEXTMENU:
+      return OnContextMenu(reinterpret_cast<HWND>(wParam), PointOf(lParam)) ? Answer(0) : FALSE;
     case WM_SETCURSOR:
       return Hourglass::Maintain() ? Answer(TRUE) : FALSE;
     case WM_PAINT:

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -116,6 +117,11 @@ class Form {
   virtual void OnMessage(UINT message);
   virtual void OnPicture(const PictureEvent& event);
   virtual void OnDrawItem(const DRAWITEMSTRUCT& item);
+  // F1, wherever the focus is in the window, in one of its menus or in a message box over it. Opens the user's guide.
+  virtual void OnHelp();
+  // A right click on a control, Shift+F10 or the menu key, at a point of the screen; none if a key asked. False leaves
+  // it to the system.
+  virtual bool OnContextMenu(HWND control, std::optional<POINT> point);
 
   template <typename Window>
   static bool Dispatch(Window& window, std::span<const Event<Window>> events, int id, int code) {

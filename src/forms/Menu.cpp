@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "platform/Handles.h"
 #include "platform/Text.h"
 
 namespace tarvik {
@@ -41,7 +42,42 @@ MENUITEMINFOW ItemInfo(UINT mask) {
   return info;
 }
 
+void AppendLine(HMENU menu) {
+  AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+}
+
+// Appends a copy of an item, and of all items of a sub-menu.
+void AppendCopy(HMENU target, const ItemPosition& source) {
+  std::array<wchar_t, 128> text{};
+  MENUITEMINFOW item = ItemInfo(MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_STRING | MIIM_SUBMENU);
+  item.dwTypeData = text.data();
+  item.cch = static_cast<UINT>(text.size());
+  GetMenuItemInfoW(source.menu, source.position, TRUE, &item);
+  MenuHandle subMenu;
+  if (item.hSubMenu != nullptr) {
+    subMenu.reset(CreatePopupMenu());
+    const int count = GetMenuItemCount(item.hSubMenu);
+    for (int position = 0; position < count; ++position)
+      AppendCopy(subMenu.get(), {item.hSubMenu, static_cast<UINT>(position)});
+    item.hSubMenu = subMenu.get();
+  }
+  const auto end = static_cast<UINT>(GetMenuItemCount(target));
+  if (InsertMenuItemW(target, end, TRUE, &item) != FALSE) subMenu.release();
+}
+
 }  // namespace
+
+int Menu::Choose(std::span<const int> ids, POINT corner) const {
+  const MenuHandle menu(CreatePopupMenu());
+  for (const int id : ids) {
+    if (const auto source = Find(menu_, id)) {
+      AppendCopy(menu.get(), *source);
+    } else {
+      AppendLine(menu.get());
+    }
+  }
+  return TrackPopupMenuEx(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, corner.x, corner.y, window_, nullptr);
+}
 
 bool Menu::OpensBy(wchar_t letter) const {
   const int count = GetMenuItemCount(menu_);

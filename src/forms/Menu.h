@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,9 @@ class Menu {
   bool IsEnabled(int id) const;
   void SetChecked(int id, bool checked);
   bool IsChecked(int id) const;
+  // Shows a menu of its own with copies of these items and sub-menus, in that order, 0 for a line, and its top left
+  // corner at that point of the screen. Returns the id of the item that the user chose, 0 if none.
+  int Choose(std::span<const int> ids, POINT corner) const;
   // Whether the bar has a menu that can be opened and underlines that letter, in either case.
   bool OpensBy(wchar_t letter) const;
 

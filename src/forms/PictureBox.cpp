@@ -66,6 +66,11 @@ void Capture(HWND window, const PictureEvent& event, WPARAM keys) {
 
 }  // namespace
 
+int HeldKeys() {
+  return (GetKeyState(VK_SHIFT) < 0 ? shiftMask : 0) | (GetKeyState(VK_CONTROL) < 0 ? controlMask : 0) |
+         (GetKeyState(VK_MENU) < 0 ? altMask : 0);
+}
+
 void PictureBox::Register(HINSTANCE instance) {
   WNDCLASSW definition{};
   definition.style = CS_DBLCLKS;

@@ -17,6 +17,9 @@ struct PictureEvent {
   int y = 0;
 };
 
+// The keys held at the key press or pointer message that is being served, as a mask (see PictureEvent).
+int HeldKeys();
+
 // A child window that shows a picture kept in memory, or its background where it has none. In a dialog template its
 // class is "TarvikPicture". It sends eventMessage to its form, lParam pointing at a PictureEvent.
 class PictureBox {

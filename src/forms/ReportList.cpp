@@ -19,6 +19,16 @@ void ReportList::Attach(HWND listView) {
   columns_ = 0;
   bold_ = BoldFontOf(window_);
   ListView_SetExtendedListViewStyle(window_, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+  SetWindowSubclass(window_, Procedure, 0, 0);
+}
+
+LRESULT CALLBACK ReportList::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                                       DWORD_PTR /*data*/) {
+  const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, Procedure, 0);
+  if (message != WM_GETDLGCODE || lParam == 0) return answer;
+  const MSG& key = *reinterpret_cast<const MSG*>(lParam);
+  return key.message == WM_KEYDOWN && key.wParam == VK_RETURN ? answer | DLGC_WANTMESSAGE : answer;
 }
 
 void ReportList::Clear(std::span<const Column> columns) {
@@ -59,6 +69,34 @@ void ReportList::SetSelection(const std::function<bool(int row)>& isSelected) {
   Refresh();
 }
 
+int ReportList::FocusedRow() const {
+  return ListView_GetNextItem(window_, -1, LVNI_FOCUSED);
+}
+
+void ReportList::SetFocusedRow(int row) {
+  if (row == FocusedRow()) return;
+  settingSelection_ = true;
+  ListView_SetItemState(window_, row, LVIS_FOCUSED, LVIS_FOCUSED);
+  ListView_SetSelectionMark(window_, row);
+  settingSelection_ = false;
+}
+
+int ReportList::RowAt(POINT point) const {
+  LVHITTESTINFO hit{};
+  hit.pt = point;
+  ScreenToClient(window_, &hit.pt);
+  return ListView_HitTest(window_, &hit);
+}
+
+POINT ReportList::MenuCorner(int row) const {
+  ListView_EnsureVisible(window_, row, FALSE);
+  RECT bounds{};
+  ListView_GetItemRect(window_, row, &bounds, LVIR_LABEL);
+  POINT corner{bounds.left, bounds.bottom};
+  ClientToScreen(window_, &corner);
+  return corner;
+}
+
 LRESULT ReportList::Notify(NMHDR& header) {
   if (header.code == LVN_GETDISPINFOW) FillCell(reinterpret_cast<NMLVDISPINFOW&>(header));
   if (header.code == NM_CUSTOMDRAW) return Draw(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
@@ -70,20 +108,18 @@ void ReportList::Watch(const NMHDR& header) {
   switch (header.code) {
     case LVN_ITEMCHANGED: {
       const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
-      if (((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0) Note(false);
+      if (((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0) Note();
       break;
     }
     case LVN_ODSTATECHANGED:
-      Note(false);
+      Note();
       break;
     case NM_CLICK:
     case NM_RCLICK:
       // A plain click on the one selected row changes nothing that the control would tell. With a key held it does,
       // and must not count twice.
-      if (GetKeyState(VK_CONTROL) >= 0 && GetKeyState(VK_SHIFT) >= 0) Note(false);
-      break;
-    case LVN_KEYDOWN:
-      if (reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey == 'A' && GetKeyState(VK_CONTROL) < 0) Note(true);
+      if (GetKeyState(VK_CONTROL) >= 0 && GetKeyState(VK_SHIFT) >= 0) Note();
+      choice_.asked = header.code == NM_RCLICK && ListView_GetSelectedCount(window_) > 1;
       break;
     default:
       break;
@@ -91,12 +127,12 @@ void ReportList::Watch(const NMHDR& header) {
 }
 
 // One choice can bring many notifications; it is told once, with the keys of the first.
-void ReportList::Note(bool all) {
+void ReportList::Note() {
   if (choicePending_) return;
   choicePending_ = true;
   choice_.shift = GetKeyState(VK_SHIFT) < 0;
   choice_.ctrl = GetKeyState(VK_CONTROL) < 0;
-  choice_.all = all;
+  choice_.asked = false;
   PostMessageW(GetParent(window_), choiceMessage, 0, 0);
 }
 

@@ -13,7 +13,8 @@
 
 namespace tarvik {
 
-// A report list that holds nothing itself: it asks for each cell when it draws it. Rows are counted from 0.
+// A report list that holds nothing itself: it asks for each cell when it draws it. Rows are counted from 0. Enter on a
+// row does not press the window's default button but sends NM_RETURN.
 class ReportList {
  public:
   struct Column {
@@ -31,13 +32,13 @@ class ReportList {
   std::function<std::string(int row, int column)> cellText;
   std::function<Look(int row)> lookOf;
 
-  // What the user chose: a row with its keys, or all rows.
+  // What the user chose: a row with its keys.
   struct Choice {
     int row = -1;     // -1 for a point below the last row
     int anchor = -1;  // where a range with Shift began
     bool shift = false;
     bool ctrl = false;
-    bool all = false;  // Ctrl+A
+    bool asked = false;  // a right click on one of several selected rows, which stay selected
   };
   // Runs after the user chose; it decides what is selected and sets it by SetSelection.
   std::function<void(const Choice& choice)> choose;
@@ -57,6 +58,14 @@ class ReportList {
   // Selects the rows that `isSelected` names, and no other.
   void SetSelection(const std::function<bool(int row)>& isSelected);
 
+  // The row that the keys act on, -1 for none; SetFocusedRow has ranges with Shift begin there.
+  int FocusedRow() const;
+  void SetFocusedRow(int row);
+  // The row at a point of the screen, -1 for none.
+  int RowAt(POINT point) const;
+  // Where a menu for that row opens, on the screen. The row is scrolled into sight.
+  POINT MenuCorner(int row) const;
+
   // Answers the control's questions for texts and looks, and watches for choices; the notification's result.
   LRESULT Notify(NMHDR& header);
   // Runs choose for a choice that Notify saw. The form calls it on choiceMessage, which the control's notifications
@@ -65,9 +74,12 @@ class ReportList {
   void TellChoice();
 
  private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                    DWORD_PTR data);
+
   LRESULT Draw(NMLVCUSTOMDRAW& draw);
   void Watch(const NMHDR& header);
-  void Note(bool all);
+  void Note();
   void FillCell(NMLVDISPINFOW& info);
 
   HWND window_ = nullptr;

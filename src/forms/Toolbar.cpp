@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include "forms/ToolbarKeys.h"
 #include "platform/Text.h"
 
 namespace tarvik {
@@ -25,6 +26,7 @@ ImageListHandle Pictures(HINSTANCE instance, int side, std::span<const Toolbar::
 
 void Toolbar::Attach(HWND toolbar, int side, std::span<const Button> buttons) {
   window_ = toolbar;
+  AddToolbarKeys(window_);
   // The pictures outlive the control: they are the same for the next one.
   if (!pictures_) {
     const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(window_, GWLP_HINSTANCE));

@@ -11,7 +11,8 @@
 namespace tarvik {
 
 // A toolbar of picture buttons. A button's command id is also the id of the icon resource that it shows. Its text does
-// not show: it is its tooltip, and its name for whoever reads the screen aloud.
+// not show: it is its tooltip, and its name for whoever reads the screen aloud. The keyboard works it as AddToolbarKeys
+// says.
 class Toolbar {
  public:
   struct Button {

@@ -74,6 +74,14 @@ struct ImageListPolicy {
 };
 using ImageListHandle = Owner<ImageListPolicy>;
 
+struct MenuPolicy {
+  using Type = HMENU;
+  static Type None() { return nullptr; }
+  static void Close(Type handle) { DestroyMenu(handle); }
+};
+// A menu that belongs to no window; its sub-menus go with it.
+using MenuHandle = Owner<MenuPolicy>;
+
 struct FilePolicy {
   using Type = HANDLE;
   static Type None() { return INVALID_HANDLE_VALUE; }

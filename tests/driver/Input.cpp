@@ -42,6 +42,7 @@ std::string KeyName(WORD key) {
                                                  {VK_ADD, "KP_Add"},
                                                  {VK_SUBTRACT, "KP_Subtract"},
                                                  {VK_INSERT, "Insert"},
+                                                 {VK_APPS, "Menu"},
                                                  {VK_OEM_PLUS, "equal"},
                                                  {VK_OEM_MINUS, "minus"}};
   if (const auto name = names.find(key); name != names.end()) return name->second;

@@ -21,6 +21,7 @@ class AnsweredDialogs final : public SaveDialogs {
     return path;
   }
   std::string ShowDir() override {
+    onShowDir();
     asked.push_back(state_.SaveExtension);
     if (!extension.empty()) state_.SaveExtension = extension;
     return folder;
@@ -32,8 +33,9 @@ class AnsweredDialogs final : public SaveDialogs {
 
   std::string path;  // the answers
   std::string folder;
-  std::string extension;           // chosen with the folder; empty leaves it
-  std::vector<std::string> asked;  // titles of the Save dialog, and what the folder chooser was for
+  std::string extension;                    // chosen with the folder; empty leaves it
+  std::function<void()> onShowDir = [] {};  // what happens meanwhile
+  std::vector<std::string> asked;           // titles of the Save dialog, and what the folder chooser was for
 
  private:
   ProgramState& state_;

@@ -41,11 +41,6 @@ void Move(HWND item, int left, int top, int width, int height) {
   SetWindowPos(item, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-bool IsInput(UINT message) {
-  return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) ||
-         (message >= WM_NCMOUSEMOVE && message <= WM_NCXBUTTONDBLCLK);
-}
-
 // The width of a control's text in its own font, in pixels.
 int TextWidth(HWND item) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)) + 1, L'\0');
@@ -205,6 +200,8 @@ bool FrmFindIcon::OnCommand(int id, int code) {
       {FrmFindIcon_mnuViewopt0, FrmFindIcon_mnuViewopt1, 0, Call<&FrmFindIcon::mnuViewopt_Click>},
       {FrmFindIcon_MnuContent, FrmFindIcon_MnuContent, 0, Call<&FrmFindIcon::MnuContent_Click>},
       {FrmFindIcon_MnuAbout, FrmFindIcon_MnuAbout, 0, Call<&FrmFindIcon::MnuAbout_Click>},
+      {FrmFindIcon_keyRefresh, FrmFindIcon_keyRefresh, 0, Call<&FrmFindIcon::Reread>},
+      {FrmFindIcon_keySelectAll, FrmFindIcon_keySelectAll, 0, Call<&FrmFindIcon::SelectAll>},
   };
   return !isSaving_ && Dispatch<FrmFindIcon>(*this, events, id, code);
 }
@@ -221,6 +218,7 @@ LRESULT FrmFindIcon::OnNotify(NMHDR& header) {
   if (header.hwndFrom != lv_.Window()) return 0;
   const LRESULT answer = lv_.Notify(header);
   if (header.code == static_cast<UINT>(NM_DBLCLK)) PicIcons_DblClick();
+  if (header.code == static_cast<UINT>(NM_RETURN)) OpenFocusedRow();
   return answer;
 }
 
@@ -230,12 +228,6 @@ void FrmFindIcon::OnMessage(UINT message) {
 
 void FrmFindIcon::OnDrawItem(const DRAWITEMSTRUCT& item) {
   if (item.CtlID == FrmFindIcon_Dir1) dir1_.Draw(item);
-}
-
-bool FrmFindIcon::PreviewMessage(const MSG& message) {
-  if (isSaving_ && IsInput(message.message)) return true;
-  // The wheel turns what lies under the pointer, wherever the focus is.
-  return grid_.OnWheel(message);
 }
 
 }  // namespace tarvik

@@ -55,6 +55,8 @@ class FrmFindIcon final : public Form,
   void OnMessage(UINT message) override;
   void OnPicture(const PictureEvent& event) override;
   void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+  void OnHelp() override;
+  bool OnContextMenu(HWND control, std::optional<POINT> point) override;
 
   // Handlers
   void Drive1_Change();
@@ -76,6 +78,10 @@ class FrmFindIcon final : public Form,
   void MnuAbout_Click();
   void PicIcons_DblClick();
   void Lv_Choose(const ReportList::Choice& choice);
+  void OpenFocusedRow();
+  void Reread();
+  void SelectAll();
+  bool Form_KeyDown(const MSG& message);  // true for one of the window's own keys
   void mnuShowLabel_Click();
   void mnuIL_Click(int index);
 
@@ -119,6 +125,7 @@ class FrmFindIcon final : public Form,
   void SaveSettings();
   void UpdateSaveMenus();
   void ShowSelectionInList();
+  void ChooseIfNotCurrent(int row);  // counted from 0
   void ShowProgress();
 
   Dependencies dependencies_;

@@ -39,10 +39,10 @@ bool FrmFindIcon::NumbersByFile() const {
 // set to what the rule made of it.
 void FrmFindIcon::Lv_Choose(const ReportList::Choice& choice) {
   const int number = choice.row + 1;
-  if (choice.all) {
-    selection_.ChooseAll();
-  } else if (!list_.Has(number)) {
+  if (!list_.Has(number)) {
     ListChanged();
+  } else if (choice.asked) {
+    selection_.ChooseRange(number, number, true);
   } else if (choice.shift) {
     selection_.ChooseRange(choice.anchor + 1, number, choice.ctrl);
   } else {
@@ -53,6 +53,8 @@ void FrmFindIcon::Lv_Choose(const ReportList::Choice& choice) {
 
 void FrmFindIcon::ShowSelectionInList() {
   lv_.SetSelection([this](int row) { return list_.Has(row + 1) && list_.Item(row + 1).selected; });
+  // So that the keys go on from the icon that was chosen last, here or in the grid.
+  if (list_.Has(state_.CurrentIndex + 1)) lv_.SetFocusedRow(state_.CurrentIndex);
 }
 
 void FrmFindIcon::mnuShowLabel_Click() {
