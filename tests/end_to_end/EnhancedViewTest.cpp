@@ -264,7 +264,7 @@ TEST_F(EnhancedViewKeys, DoNothingWhereTheyAreNotTheViews) {
   view.Press(frmBit_tlb_control_Slower, 60);  // so that no tick of its own comes in between
   view.Press(frmBit_tlb_control_Start);
   for (const WORD key : {WORD{'A'}, WORD{'5'}, WORD{VK_ESCAPE}, WORD{VK_RETURN}, WORD{VK_TAB}, WORD{VK_LEFT},
-                         WORD{VK_HOME}, WORD{VK_DELETE}, WORD{VK_F2}, WORD{VK_F5}, WORD{VK_INSERT}})
+                         WORD{VK_HOME}, WORD{VK_DELETE}, WORD{VK_F2}, WORD{VK_F5}, WORD{VK_INSERT}, WORD{VK_TAB}})
     PressKey(key);
   WaitForKeys(view);
   ExpectEntry(view, 2);
