@@ -50,6 +50,15 @@
 #define FrmFindIcon_OptView1 1045
 #define FrmFindIcon_lblInfo 1046
 #define FrmFindIcon_sbMain 1047
+// Names of the controls behind them.
+#define FrmFindIcon_lblDrive1 1050
+#define FrmFindIcon_lblDir1 1051
+#define FrmFindIcon_lblFile1 1052
+#define FrmFindIcon_lblIconSize 1053
+#define FrmFindIcon_lblMax 1054
+#define FrmFindIcon_lblVsb 1055
+#define FrmFindIcon_lblLv 1056
+#define FrmFindIcon_lblMain 1057
 
 #define FrmFindIcon_mnuFile 1100
 #define FrmFindIcon_mnuStart 1101
@@ -90,6 +99,9 @@
 #define FrmSpash_lblDescription 1202
 #define FrmSpash_LblEmail 1203
 #define FrmSpash_Picture 1204
+#define FrmSpash_lblVersion 1205
+#define FrmSpash_lblCopyright 1206
+#define FrmSpash_lblLicence 1207
 
 // frmBit, the enhanced view: 1300 to 1399. A button's id is also its picture's.
 #define frmBit_img 1300
@@ -97,6 +109,9 @@
 #define frmBit_tlb_control 1302
 #define frmBit_tim_nextpic 1303
 #define frmBit_sbMain 1304
+#define frmBit_lblZoom 1305
+#define frmBit_lblControl 1306
+#define frmBit_lblMain 1307
 #define frmBit_tlb_control_MoveFirst 1310
 #define frmBit_tlb_control_MovePrev 1311
 #define frmBit_tlb_control_MoveNext 1312
@@ -117,6 +132,7 @@
 #define FrmHotSpot_lblxy 1406
 #define FrmHotSpot_CmdOk 1407
 #define FrmHotSpot_CmdCancel 1408
+#define FrmHotSpot_lblPointer 1409
 
 // frmDir, the folder chooser: 1500 to 1599.
 #define frmDir_drvMain 1500
@@ -128,6 +144,9 @@
 #define frmDir_CmdCancel 1506
 #define frmDir_cmdCreate 1507
 #define frmDir_keyRefresh 1508
+#define frmDir_lblDrive 1509
+#define frmDir_lblFolder 1510
+#define frmDir_lblFileType 1511
 
 // frmDirCreate, the new-folder dialog: 1600 to 1699.
 #define frmDirCreate_lblCaption 1600
@@ -148,10 +167,13 @@
 #define fSaveJPG_lblSubSample 1709
 #define fSaveJPG_Label2 1710
 #define fSaveJPG_Label3 1711
+#define fSaveJPG_lblSize 1712
+#define fSaveJPG_lblBar 1713
 
 // fComment, the JPEG comment: 1800 to 1899.
 #define fComment_txtComment 1800
 #define fComment_cmdFinish 1801
+#define fComment_lblComment 1802
 
 // FrmConvertGIF, the GIF options: 1900 to 1999.
 #define FrmConvertGIF_Check1 1900

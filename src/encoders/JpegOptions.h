@@ -63,10 +63,12 @@ SamplingFactors LuminanceOf(std::string_view subSampling);
 JpegSampling SamplingOf(std::string_view subSampling, bool greyscale);
 
 inline constexpr Text saveJpgCaption{"JPEG Compression Settings", "JPEG 压缩选项", "JPEG 壓縮選項"};
-inline constexpr std::array<DialogText, 8> saveJpgTexts{{
+inline constexpr std::array<DialogText, 10> saveJpgTexts{{
     {fSaveJPG_Label2, {"Small", "小", "小"}},
     {fSaveJPG_Label3, {"Large", "大", "大"}},
     {fSaveJPG_lblQuality, {"Quality:", "品质:", "品質:"}},
+    {fSaveJPG_lblSize, {"Quality step", "品质等级", "品質等級"}},
+    {fSaveJPG_lblBar, {"Quality", "品质", "品質"}},
     {fSaveJPG_lblSubSample, {"Sub Sampling:", "取样比例:", "取樣比例:"}},
     {fSaveJPG_chkGreyscale, {"Greyscale", "灰度", "灰度"}},
     {fSaveJPG_cmdComment, {"Co&mment", "内容", "內容"}},
@@ -75,7 +77,8 @@ inline constexpr std::array<DialogText, 8> saveJpgTexts{{
 }};
 
 inline constexpr Text commentCaption{"Comment", "内容", "內容"};
-inline constexpr std::array<DialogText, 1> commentTexts{{
+inline constexpr std::array<DialogText, 2> commentTexts{{
+    {fComment_lblComment, {"Comment", "内容", "內容"}},
     {fComment_cmdFinish, {"&OK", "确定(&O)", "確定(&O)"}},
 }};
 

@@ -10,6 +10,8 @@ inline constexpr FormText hotSpotTexts[] = {
     {FrmHotSpot_CmdOk, {"&OK", "确定(&O)", "確定(&O)"}},
     {FrmHotSpot_CmdCancel, {"&Cancel", "取消(&C)", "取消(&C)"}},
     {FrmHotSpot_lblHotX1, {"Hot X:", "热区 X:", "熱區 X:"}},
+    {FrmHotSpot_PicCursor, {"Enlarged icon", "放大的图标", "放大的圖示"}},
+    {FrmHotSpot_lblPointer, {"Pointer", "指针", "指標"}},
     {FrmHotSpot_lblHotY1, {"Hot Y:", "热区 Y:", "熱區 Y:"}},
 };
 

@@ -7,6 +7,7 @@
 #include <new>
 #include <utility>
 
+#include "forms/ControlNames.h"
 #include "forms/MousePointer.h"
 #include "platform/Text.h"
 #include "resource.h"
@@ -199,6 +200,7 @@ void Form::Initialise(HWND window) {
   window_ = window;
   application_.Add(*this);
   menu_.Attach(window);
+  NameControls(window);
   Form_Load();
 }
 

@@ -43,10 +43,18 @@ std::optional<PictureEvent> ToEvent(HWND window, UINT message, WPARAM wParam, LP
                       HeldKeys(wParam), GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
 }
 
+// The box's own memory: its picture and its content.
+constexpr int pictureAt = 0;
+constexpr int contentAt = sizeof(LONG_PTR);
+
+const PictureContent* ContentOf(HWND window) {
+  return reinterpret_cast<const PictureContent*>(GetWindowLongPtrW(window, contentAt));
+}
+
 void Paint(HWND window) {
   PAINTSTRUCT paint;
   const HDC dc = BeginPaint(window, &paint);
-  const auto* picture = reinterpret_cast<const Surface*>(GetWindowLongPtrW(window, 0));
+  const auto* picture = reinterpret_cast<const Surface*>(GetWindowLongPtrW(window, pictureAt));
   const RECT rest = paint.rcPaint;
   if (picture != nullptr) {
     const RECT& part = paint.rcPaint;
@@ -75,7 +83,7 @@ void PictureBox::Register(HINSTANCE instance) {
   WNDCLASSW definition{};
   definition.style = CS_DBLCLKS;
   definition.lpfnWndProc = WindowProcedure;
-  definition.cbWndExtra = sizeof(LONG_PTR);  // the picture
+  definition.cbWndExtra = 2 * sizeof(LONG_PTR);
   definition.hInstance = instance;
   definition.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
   definition.lpszClassName = className;
@@ -89,8 +97,12 @@ PictureBox PictureBox::Create(HWND parent, int id, int width, int height) {
 }
 
 void PictureBox::Show(const Surface* picture) {
-  SetWindowLongPtrW(window_, 0, reinterpret_cast<LONG_PTR>(picture));
+  SetWindowLongPtrW(window_, pictureAt, reinterpret_cast<LONG_PTR>(picture));
   InvalidateRect(window_, nullptr, FALSE);
+}
+
+void PictureBox::Describe(const PictureContent* content) {
+  SetWindowLongPtrW(window_, contentAt, reinterpret_cast<LONG_PTR>(content));
 }
 
 void PictureBox::Refresh() {
@@ -103,6 +115,10 @@ LRESULT CALLBACK PictureBox::WindowProcedure(HWND window, UINT message, WPARAM w
     return 0;
   }
   if (message == WM_ERASEBKGND) return 1;
+  // The number of the object has 32 bits, whatever the parameter has.
+  if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == OBJID_CLIENT && ContentOf(window) != nullptr) {
+    if (const LRESULT answer = AnswerForPicture(window, wParam, ContentOf); answer != 0) return answer;
+  }
   if (const auto event = ToEvent(window, message, wParam, lParam)) {
     Capture(window, *event, wParam);
     SendMessageW(GetAncestor(window, GA_ROOT), eventMessage, 0, reinterpret_cast<LPARAM>(&*event));

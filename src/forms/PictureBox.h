@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "forms/AccessiblePicture.h"
 #include "platform/Surface.h"
 
 namespace tarvik {
@@ -39,6 +40,8 @@ class PictureBox {
   // Shows `picture` from now on, with its top-left corner in the window's; null for none. The picture belongs to the
   // caller and must outlive the window or be replaced.
   void Show(const Surface* picture);
+  // Has the picture read aloud as this list. The content outlives the window.
+  void Describe(const PictureContent* content);
   // Repaints from the picture, now.
   void Refresh();
 

@@ -23,6 +23,10 @@ class IconGrid final : public GridView {
   // the id `pictureId`. The viewport becomes as many pixels wide and high as the grids need, whatever the size of the
   // dialog's font, and the bar moves to its right edge.
   void Attach(HWND frame, HWND bar, int pictureId);
+  // Has the picture read aloud as this list, and tells who listens that another of its items is chosen. The content
+  // outlives the windows.
+  void Describe(const PictureContent* content) { picIcons_.Describe(content); }
+  void TellChosenItem() const { tarvik::TellChosenItem(picIcons_.Window()); }
   // The rectangle of viewport and bar together, in pixels of their parent window.
   RECT Bounds() const;
   void Show(bool shown) const;

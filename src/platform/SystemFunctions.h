@@ -4,6 +4,7 @@
 
 #include <commdlg.h>
 #include <objbase.h>
+#include <oleacc.h>
 #include <oleauto.h>
 #include <shellapi.h>
 #include <winnetwk.h>
@@ -20,6 +21,11 @@ inline constinit const LateFunction<decltype(&::GetSaveFileNameA)> GetSaveFileNa
 
 inline constinit const LateFunction<decltype(&::WNetGetConnectionW)> WNetGetConnectionW("mpr.dll",
                                                                                         "WNetGetConnectionW");
+
+inline constinit const LateFunction<decltype(&::CreateStdAccessibleObject)> CreateStdAccessibleObject(
+    "oleacc.dll", "CreateStdAccessibleObject");
+inline constinit const LateFunction<decltype(&::LresultFromObject)> LresultFromObject("oleacc.dll",
+                                                                                      "LresultFromObject");
 
 inline constinit const LateFunction<decltype(&::CLSIDFromProgID)> CLSIDFromProgID("ole32.dll", "CLSIDFromProgID");
 inline constinit const LateFunction<decltype(&::CoCreateInstance)> CoCreateInstance("ole32.dll", "CoCreateInstance");

@@ -15,6 +15,7 @@ namespace tarvik {
 namespace {
 
 constexpr UINT startUpTime = 3000;  // milliseconds
+constexpr int aboutLines = 37;      // how much higher the About box is, in dialog units
 
 // Where the version stands in the picture, below the product's name; in parts of a thousand of its sides.
 constexpr int versionLeft = 53;
@@ -48,11 +49,18 @@ FrmSpash::FrmSpash(Application& application, const ProgramState& state, std::fun
 
 void FrmSpash::Form_Load() {
   picture_.reset();
-  if (!state_.ShowAsAbout) RemoveCaption();
+  if (state_.ShowAsAbout) {
+    MakeRoomForAbout();
+  } else {
+    RemoveCaption();
+  }
   basInitEntry::CenterForm(*this);
   SetTexts(*this, spashTexts, state_.CurrentLanguage);
   basInitEntry::CenterForm(*this);
-  ShowItem(FrmSpash_CmdOk, state_.ShowAsAbout);
+  const auto version = Compose(versionLine, state_.CurrentLanguage, {TARVIK_VERSION_TEXT});
+  SetItemText(FrmSpash_lblVersion, version.value_or(TARVIK_VERSION_TEXT));
+  for (const int id : {FrmSpash_CmdOk, FrmSpash_lblVersion, FrmSpash_lblCopyright, FrmSpash_lblLicence})
+    ShowItem(id, state_.ShowAsAbout);
   if (!state_.ShowAsAbout) SetTimer(Window(), FrmSpash_Timer1, startUpTime, nullptr);
 }
 
@@ -81,6 +89,16 @@ void FrmSpash::Timer1_Timer() {
 void FrmSpash::CmdOk_Click() {
   // Enter and Esc come here too, and the button is hidden while the program starts.
   if (state_.ShowAsAbout) Unload();
+}
+
+// The lines that the start-up window does not show reach below it.
+void FrmSpash::MakeRoomForAbout() {
+  RECT bounds;
+  GetWindowRect(Window(), &bounds);
+  RECT more{0, 0, 0, aboutLines};
+  MapDialogRect(Window(), &more);
+  SetWindowPos(Window(), nullptr, 0, 0, bounds.right - bounds.left, bounds.bottom - bounds.top + more.bottom,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void FrmSpash::RemoveCaption() {

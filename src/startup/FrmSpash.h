@@ -25,6 +25,7 @@ class FrmSpash final : public Form {
   void Timer1_Timer();
   void CmdOk_Click();
 
+  void MakeRoomForAbout();
   void RemoveCaption();
   void DrawPicture();
 

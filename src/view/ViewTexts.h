@@ -23,6 +23,14 @@ inline constexpr auto viewTooltips = std::to_array<FormText>({
     {frmBit_tlb_control_Faster, {"Faster", "加快", "加快"}},
 });
 
+// What its controls are called by whoever reads the screen aloud.
+inline constexpr auto viewNames = std::to_array<FormText>({
+    {frmBit_lblZoom, {"Enlargement", "放大倍数", "放大倍率"}},
+    {frmBit_lblControl, {"Buttons", "按钮", "按鈕"}},
+    {frmBit_lblMain, {"Status", "状态", "狀態"}},
+    {frmBit_img, {"Enlarged icon", "放大的图标", "放大的圖示"}},
+});
+
 // The window's caption for an enlarged picture of that size in pixels; nothing if `code` is no language. The
 // Traditional Chinese title begins with 流 (deliberate: oddities 52).
 std::optional<std::string> ViewCaption(int height, int width, std::string_view code);

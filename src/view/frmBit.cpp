@@ -233,6 +233,7 @@ void frmBit::AttachControls() {
 
 void frmBit::SetLanguageOfForm() {
   ApplyViewLanguage();
+  SetTexts(*this, viewNames, state_.CurrentLanguage);
   UpdateCaption();
 }
 

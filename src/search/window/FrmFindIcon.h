@@ -26,7 +26,8 @@ class FrmFindIcon final : public Form,
                           private SearchWindow,
                           private SelectionView,
                           private SaveWindow,
-                          private EnhancedViewOwner {
+                          private EnhancedViewOwner,
+                          private PictureContent {
  public:
   using Dependencies = FindIconDependencies;
 
@@ -106,6 +107,10 @@ class FrmFindIcon final : public Form,
   bool ViewOpen() const override;
   void SetViewOpen(bool open) override;
   const Surface& PicIcon() const override;
+
+  // PictureContent: the grid read aloud
+  std::string Name() const override;
+  std::optional<ChosenPart> ChosenItem() const override;
 
   // SelectionView, where it asks for more than a search does
   bool NumbersByFile() const override;

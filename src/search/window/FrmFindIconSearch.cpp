@@ -91,6 +91,7 @@ void FrmFindIcon::ClearListView() {
 void FrmFindIcon::ListChanged() {
   lv_.SetRowCount(list_.Count());
   ShowSelectionInList();
+  grid_.TellChosenItem();
   UpdateSaveMenus();
 }
 

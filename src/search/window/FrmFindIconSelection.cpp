@@ -6,6 +6,7 @@
 
 #include "resource.h"
 #include "search/window/FrmFindIcon.h"
+#include "search/window/FrmFindIconTexts.h"
 
 namespace tarvik {
 
@@ -73,6 +74,22 @@ bool FrmFindIcon::RenderEntry(int number) {
   if (!list_.Has(number)) return false;
   ModMicroArt::CaptureEntry(dependencies_.icons, list_.Item(number), state_.Geometry.IconSize, surfaces_);
   return true;
+}
+
+std::string FrmFindIcon::Name() const {
+  return Form::ItemText(FrmFindIcon_PicFrame);
+}
+
+// The entry in the current frame.
+std::optional<PictureContent::ChosenPart> FrmFindIcon::ChosenItem() const {
+  const int number = state_.CurrentIndex + 1;
+  if (!list_.Has(number)) return std::nullopt;
+  const IconListEntry& entry = list_.Item(number);
+  const auto name = Compose(gridItemName, dependencies_.state.CurrentLanguage,
+                            {std::to_string(number), entry.path, std::to_string(entry.index)});
+  const int end = state_.Geometry.FrameExtent + 1;
+  return ChosenPart{name.value_or(entry.path),
+                    {state_.FrameX, state_.FrameY, state_.FrameX + end, state_.FrameY + end}};
 }
 
 }  // namespace tarvik

@@ -12,6 +12,17 @@ inline constexpr FormText findIconTexts[] = {
     {FrmFindIcon_CmdFind, {"&Find", "查找(&F)", "查找(&F)"}},
     {FrmFindIcon_CmdClose, {"&Close", "关闭(&C)", "關閉(&C)"}},
     {FrmFindIcon_CmdOk, {"&OK", "确定(&O)", "確定(&O)"}},
+    {FrmFindIcon_lblDrive1, {"Drive", "驱动器", "磁碟機"}},
+    {FrmFindIcon_lblDir1, {"Folder", "文件夹", "資料夾"}},
+    {FrmFindIcon_lblFile1, {"Files to search", "要查找的文件", "要查找的檔案"}},
+    {FrmFindIcon_lblIconSize, {"Icon Size:", "图标大小:", "圖示大小:"}},
+    {FrmFindIcon_lblMax, {"Most icons in the list", "列表中的最大图标数", "清單中的最大圖示數"}},
+    {FrmFindIcon_PicFrame, {"Icons found", "找到的图标", "找到的圖示"}},
+    {FrmFindIcon_lblVsb, {"Scroll the icons", "滚动图标", "捲動圖示"}},
+    {FrmFindIcon_lblLv,
+     {"Icons found: number, file, index", "找到的图标：序号、文件路径、图标索引",
+      "找到的圖示：序號、檔案路徑、圖示索引"}},
+    {FrmFindIcon_lblMain, {"Status", "状态", "狀態"}},
     {FrmFindIcon_Label3, {"File Type:", "文件类型:", "文件類型:"}},
     {FrmFindIcon_lblInfo, {"Icon No 1 Selected.", "选中NO.1 图标.", "選中NO.1 圖示."}},
     {FrmFindIcon_SkinLabel1, {"&Automatically stop after listing", "每次允许最大", "每次允許最大"}},
@@ -48,5 +59,8 @@ inline constexpr FormText findIconTexts[] = {
     {FrmFindIcon_MnuContent, {"&Contents", "主题", "主題"}},
     {FrmFindIcon_MnuAbout, {"&About...", "关于...", "關於..."}},
 };
+
+// The current icon as it is read aloud in the grid: its number, its file, its index there.
+inline constexpr Text gridItemName{"Icon %1, %2, index %3", "图标 %1，%2，索引 %3", "圖示 %1，%2，索引 %3"};
 
 }  // namespace tarvik

@@ -1,0 +1,247 @@
+// What a screen reader finds in each window, read from a second process: no control is without a name.
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <gmock/gmock.h>
+#include <oleacc.h>
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "driver/Dialogs.h"
+#include "driver/SaveDialog.h"
+#include "end_to_end/ViewByHand.h"
+#include "platform/Text.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+// IID_IAccessible, which no library at hand defines.
+constexpr GUID accessibleInterface{0x618736E0, 0x3C3D, 0x11CF, {0x81, 0x0C, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}};
+
+// What a window answers who asks for its content.
+class Accessible {
+ public:
+  explicit Accessible(const Control& control) {
+    void* object = nullptr;
+    if (SUCCEEDED(AccessibleObjectFromWindow(control.Window(), static_cast<DWORD>(OBJID_CLIENT), accessibleInterface,
+                                             &object)))
+      object_ = static_cast<IAccessible*>(object);
+  }
+  ~Accessible() {
+    if (object_ != nullptr) object_->Release();
+  }
+  Accessible(const Accessible&) = delete;
+  Accessible& operator=(const Accessible&) = delete;
+
+  std::string Name(LONG child = CHILDID_SELF) const {
+    BSTR name = nullptr;
+    if (object_ == nullptr || object_->get_accName(Number(child), &name) != S_OK) return {};
+    std::string text = ToUtf8({name, SysStringLen(name)});
+    SysFreeString(name);
+    return text;
+  }
+  LONG Role(LONG child = CHILDID_SELF) const {
+    VARIANT role{};
+    return object_ != nullptr && object_->get_accRole(Number(child), &role) == S_OK ? role.lVal : 0;
+  }
+  LONG State(LONG child) const {
+    VARIANT state{};
+    return object_ != nullptr && object_->get_accState(Number(child), &state) == S_OK ? state.lVal : 0;
+  }
+  LONG ChildCount() const {
+    LONG count = -1;
+    if (object_ != nullptr) object_->get_accChildCount(&count);
+    return count;
+  }
+  LONG Selection() const {
+    VARIANT selection{};
+    return object_ != nullptr && object_->get_accSelection(&selection) == S_OK ? selection.lVal : 0;
+  }
+  RECT Place(LONG child) const {
+    RECT place{};
+    LONG width = 0;
+    LONG height = 0;
+    if (object_ != nullptr) object_->accLocation(&place.left, &place.top, &width, &height, Number(child));
+    place.right = place.left + width;
+    place.bottom = place.top + height;
+    return place;
+  }
+
+ private:
+  static VARIANT Number(LONG value) {
+    VARIANT variant{};
+    variant.vt = VT_I4;
+    variant.lVal = value;
+    return variant;
+  }
+
+  IAccessible* object_ = nullptr;
+};
+
+std::string ClassOf(HWND window) {
+  std::array<wchar_t, 64> name{};
+  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  std::string text = ToUtf8(name.data());
+  std::ranges::transform(text, text.begin(), [](char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+  });
+  return text;
+}
+
+std::string WithoutMark(std::string text) {
+  std::erase(text, '&');
+  return text;
+}
+
+// What a screen reader calls a control. Those with a text of their own are called by it; others by the static text
+// before them, visible or not, as the system has it. Wine knows that for text boxes alone.
+std::string NameOf(HWND window) {
+  const std::string kind = ClassOf(window);
+  if (kind == "button" || kind == "static") return WithoutMark(Control(window).Text());
+  if (kind == "tarvikpicture") return Accessible(Control(window)).Name();
+  const HWND label = GetWindow(window, GW_HWNDPREV);
+  return label != nullptr && ClassOf(label) == "static" ? WithoutMark(Control(label).Text()) : std::string();
+}
+
+class Names : public ViewByHand, public ::testing::WithParamInterface<const char*> {
+ protected:
+  void SetUp() override { CoInitialize(nullptr); }
+  void TearDown() override {
+    ViewByHand::TearDown();
+    CoUninitialize();
+  }
+
+  // The visible controls of a window by their ids, with their names; the parts that a control is made of are left out.
+  static std::map<int, std::string> NamesIn(const Control& window) {
+    std::map<int, std::string> names;
+    EnumChildWindows(
+        window.Window(),
+        [](HWND child, LPARAM found) -> BOOL {
+          const std::string kind = ClassOf(GetParent(child));
+          if (IsWindowVisible(child) == 0 || (kind != "#32770" && kind != "tarvikpicture")) return TRUE;
+          (*reinterpret_cast<std::map<int, std::string>*>(found))[GetDlgCtrlID(child)] = NameOf(child);
+          return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&names));
+    return names;
+  }
+  static void ExpectNames(const Control& window, const std::string& where) {
+    const auto names = NamesIn(window);
+    EXPECT_GE(names.size(), 2U) << where;
+    std::map<std::string, int> seen;
+    for (const auto& [id, name] : names) {
+      EXPECT_NE(name, "") << where << ", control " << id;
+      if (id != FrmFindIcon_PicIcons && ClassOf(window.Child(id).Window()) != "static") ++seen[name];
+    }
+    for (const auto& [name, count] : seen) EXPECT_EQ(count, 1) << where << ", " << name;
+  }
+};
+
+TEST_P(Names, AreGivenToEveryControlOfTheMainWindowAndTheView) {
+  const LanguageValue language(GetParam());
+  CopyHundredIcons(In("hundred.dll"));
+  Start();
+  Tick({Dll});
+  ExpectNames(program_.Window(), "main window");
+  Find();
+  ExpectNames(program_.Window(), "grid");
+  program_.Item(FrmFindIcon_OptView1).Send(BM_CLICK);
+  ExpectNames(program_.Window(), "list");
+  program_.Item(FrmFindIcon_OptView0).Send(BM_CLICK);
+  const EnhancedView view = OpenOn(1);
+  ExpectNames(view.Window(), "enhanced view");
+  for (int button = frmBit_tlb_control_MoveFirst; button <= frmBit_tlb_control_Exit; ++button)
+    EXPECT_NE(view.Toolbar().ButtonText(button), "") << button;
+  view.Close();
+}
+
+TEST_P(Names, AreGivenToEveryControlOfTheDialogs) {
+  const LanguageValue language(GetParam());
+  FindFiles(2);
+  program_.Command(FrmFindIcon_mnuSaveAll2);
+  const FolderChooser chooser(program_);
+  ExpectNames(chooser.Window(), "folder chooser");
+  EXPECT_NE(NamesIn(chooser.Window())[frmDir_CboFileType], chooser.Path());
+  const NewFolderDialog newFolder(program_, chooser);
+  ExpectNames(newFolder.Window(), "new folder");
+  newFolder.End(frmDirCreate_CmdCancel);
+  chooser.Cancel();
+  program_.Command(FrmFindIcon_MnuSaveAsBitmap);
+  SaveDialog(program_).SaveAs(home_.In("a.jpg"));
+  const Dialog jpeg(program_, fSaveJPG_CboSize);
+  ExpectNames(jpeg.Window(), "JPEG");
+  jpeg.Press(fSaveJPG_cmdComment);
+  const Dialog comment(program_, fComment_txtComment);
+  ExpectNames(comment.Window(), "comment");
+  comment.End(fComment_cmdFinish);
+  jpeg.End(fSaveJPG_cmdFinish0);
+  program_.Command(FrmFindIcon_MnuSaveAsBitmap);
+  SaveDialog(program_).SaveAs(home_.In("a.gif"));
+  const Dialog gif(program_, FrmConvertGIF_Option1);
+  ExpectNames(gif.Window(), "GIF");
+  gif.End(FrmConvertGIF_CmdCancel);
+  program_.Command(FrmFindIcon_MnuSaveAsCursor);
+  const Dialog hotSpot(program_, FrmHotSpot_PicCursor);
+  MovePointer(MiddleOf(hotSpot.Item(FrmHotSpot_PicCursor).Place()));
+  ExpectNames(hotSpot.Window(), "hot spot");
+  hotSpot.End(FrmHotSpot_CmdCancel);
+}
+
+TEST_P(Names, OfTheGridsIconSayNumberFileAndIndex) {
+  const LanguageValue language(GetParam());
+  FindFiles(5);
+  const Control grid = program_.Item(FrmFindIcon_PicIcons);
+  const std::string word = std::string(GetParam()) == "ENG"   ? "Icon "
+                           : std::string(GetParam()) == "CHS" ? "图标 "
+                                                              : "圖示 ";
+  for (const int entry : {0, 3}) {
+    ClickCell(entry);
+    ExpectRows({entry});
+    const Accessible icons(grid);
+    EXPECT_EQ(icons.Role(), ROLE_SYSTEM_LIST);
+    EXPECT_EQ(icons.Name(), Control(program_.Item(FrmFindIcon_PicFrame)).Text());
+    ASSERT_EQ(icons.ChildCount(), 1);
+    EXPECT_EQ(icons.Selection(), 1);
+    EXPECT_EQ(icons.Role(1), ROLE_SYSTEM_LISTITEM);
+    EXPECT_NE(icons.State(1) & STATE_SYSTEM_SELECTED, 0);
+    EXPECT_THAT(icons.Name(1), ::testing::StartsWith(word + std::to_string(entry + 1)));
+    EXPECT_THAT(icons.Name(1), ::testing::HasSubstr(In(FileName(entry + 1))));
+    EXPECT_THAT(icons.Name(1), ::testing::EndsWith(" 0"));
+    const RECT place = icons.Place(1);
+    EXPECT_TRUE(PtInRect(&place, CellMiddle(entry)));
+    EXPECT_EQ(place.right - place.left, geometry_->FrameExtent + 1);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, Names, ::testing::Values("ENG", "CHS", "CHT"),
+                         [](const auto& row) { return std::string(row.param); });
+
+class AboutBox : public EndToEnd, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(AboutBox, ShowsVersionCopyrightAndLicenceToRead) {
+  const LanguageValue language(GetParam());
+  Start();
+  program_.Command(FrmFindIcon_MnuAbout);
+  const Control about = program_.WaitForStartUpWindow();
+  for (const int id : {FrmSpash_lblVersion, FrmSpash_lblCopyright, FrmSpash_lblLicence}) {
+    EXPECT_TRUE(about.Child(id).IsVisible()) << id;
+    const RECT place = about.Child(id).Place();
+    EXPECT_LE(place.bottom, about.Inside().bottom) << id;
+  }
+  EXPECT_THAT(about.Child(FrmSpash_lblVersion).Text(), ::testing::EndsWith(TARVIK_VERSION));
+  EXPECT_EQ(about.Child(FrmSpash_lblCopyright).Text(), "Copyright 2026 The Brindle Tarvik developers");
+  EXPECT_THAT(about.Child(FrmSpash_lblLicence).Text(), ::testing::HasSubstr("MIT"));
+  about.Child(FrmSpash_CmdOk).Press();
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, AboutBox, ::testing::Values("ENG", "CHS", "CHT"),
+                         [](const auto& row) { return std::string(row.param); });
+
+}  // namespace
+}  // namespace tarvik::end_to_end
