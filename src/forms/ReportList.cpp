@@ -116,9 +116,9 @@ void ReportList::Watch(const NMHDR& header) {
       break;
     case NM_CLICK:
     case NM_RCLICK:
-      // A plain click on the one selected row changes nothing that the control would tell. With a key held it does,
-      // and must not count twice.
-      if (GetKeyState(VK_CONTROL) >= 0 && GetKeyState(VK_SHIFT) >= 0) Note();
+      // A plain click on the one selected row changes nothing that the control would tell, and Wine's control keeps a
+      // range of one row to itself. With Ctrl alone it always tells, and a row must not be turned round twice.
+      if (GetKeyState(VK_CONTROL) >= 0 || GetKeyState(VK_SHIFT) < 0) Note();
       choice_.asked = header.code == NM_RCLICK && ListView_GetSelectedCount(window_) > 1;
       break;
     default:

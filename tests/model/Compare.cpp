@@ -1,0 +1,198 @@
+// The main window compared with the model.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <string>
+
+#include "model/Driver.h"
+#include "model/Seen.h"
+#include "resource.h"
+
+namespace tarvik::model {
+namespace {
+
+constexpr int rowsLookedAt = 5;
+
+class Differences {
+ public:
+  void Expect(const std::string& what, const std::string& expected, const std::string& seen) {
+    if (expected != seen) found_ += what + ": \"" + seen + "\" and not \"" + expected + "\"\n";
+  }
+  void Expect(const std::string& what, int expected, int seen) {
+    if (expected != seen) Expect(what, std::to_string(expected), std::to_string(seen));
+  }
+  void Expect(const std::string& what, bool expected, bool seen) {
+    if (expected != seen) Expect(what, std::string(expected ? "yes" : "no"), std::string(seen ? "yes" : "no"));
+  }
+  void Add(const std::string& text) { found_ += text; }
+  const std::string& Found() const { return found_; }
+
+ private:
+  std::string found_;
+};
+
+void CompareTexts(Differences& all, const Model& model, HWND window) {
+  all.Expect("title", model.title, seen::Text(window));
+  all.Expect("status", model.status, seen::Status(GetDlgItem(window, FrmFindIcon_sbMain)));
+  all.Expect("label", model.label, seen::Text(window, FrmFindIcon_lblInfo));
+  all.Expect("label shown", model.labelShown, seen::IsShown(GetDlgItem(window, FrmFindIcon_lblInfo)));
+  all.Expect("limit", model.limitText, seen::Text(window, FrmFindIcon_txtMax));
+}
+
+void CompareOptions(Differences& all, const Model& model, HWND window) {
+  for (int i = 0; i < 7; ++i) {
+    const bool ticked = IsDlgButtonChecked(window, FrmFindIcon_ChkFileType0 + i) == BST_CHECKED;
+    all.Expect("file type " + std::to_string(i), model.types.at(static_cast<std::size_t>(i)), ticked);
+  }
+  all.Expect("sub-folders", model.subDir, IsDlgButtonChecked(window, FrmFindIcon_chkSubDir) == BST_CHECKED);
+  const int sizeRow = static_cast<int>(SendMessageW(GetDlgItem(window, FrmFindIcon_CboIconSize), CB_GETCURSEL, 0, 0));
+  all.Expect("size", model.sizeRow, sizeRow);
+  const auto drive = std::ranges::find(Disk::Drives(), model.drive, &Disk::Drive::root);
+  all.Expect("drive", drive->text, seen::ChosenComboRow(GetDlgItem(window, FrmFindIcon_Drive1)));
+}
+
+void CompareLists(Differences& all, const Model& model, HWND window) {
+  if (model.listsAreStale || model.isSearching) return;
+  std::string folders;
+  for (const std::string& path : model.folderRows) folders += LastName(path) + "|";
+  std::string shownFolders;
+  for (const std::string& row : seen::ListRows(GetDlgItem(window, FrmFindIcon_Dir1))) shownFolders += row + "|";
+  all.Expect("folders", folders, shownFolders);
+  all.Expect("chosen folder", model.folderRow,
+             static_cast<int>(SendMessageW(GetDlgItem(window, FrmFindIcon_Dir1), LB_GETCURSEL, 0, 0)));
+  std::string files;
+  for (const std::string& name : model.files) files += name + "|";
+  std::string shownFiles;
+  for (const std::string& row : seen::ListRows(GetDlgItem(window, FrmFindIcon_File1))) shownFiles += row + "|";
+  all.Expect("files", files, shownFiles);
+}
+
+void CompareEnabled(Differences& all, const Model& model, HWND window) {
+  const auto isEnabled = [window](int id) { return IsWindowEnabled(GetDlgItem(window, id)) != FALSE; };
+  all.Expect("Find enabled", model.findEnabled, isEnabled(FrmFindIcon_CmdFind));
+  all.Expect("OK enabled", model.okEnabled, isEnabled(FrmFindIcon_CmdOk));
+  all.Expect("Close enabled", model.closeEnabled, isEnabled(FrmFindIcon_CmdClose));
+  all.Expect("File enabled", model.fileEnabled, seen::IsBarMenuEnabled(window, 0));
+  all.Expect("Edit enabled", model.editEnabled, seen::IsBarMenuEnabled(window, 1));
+  for (const int id : {FrmFindIcon_mnuSaveAs, FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsCursor,
+                       FrmFindIcon_mnuSaveSel, FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveSel2, FrmFindIcon_mnuSaveAll2,
+                       FrmFindIcon_mnuSaveSel3, FrmFindIcon_mnuSaveAll3, FrmFindIcon_mnuCopy, FrmFindIcon_mnuRem})
+    all.Expect("menu item " + std::to_string(id) + " enabled", !model.entries.empty(), seen::IsMenuEnabled(window, id));
+  all.Expect("window enabled", model.Depth() == 0, IsWindowEnabled(window) != FALSE);
+}
+
+void CompareView(Differences& all, const Model& model, HWND window) {
+  const HWND frame = GetDlgItem(window, FrmFindIcon_PicFrame);
+  all.Expect("grid shown", !model.listShown, seen::IsShown(frame));
+  all.Expect("bar shown", !model.listShown, seen::IsShown(GetDlgItem(window, FrmFindIcon_Vsb)));
+  all.Expect("list shown", model.listShown, seen::IsShown(GetDlgItem(window, FrmFindIcon_Lv)));
+  for (int i = 0; i < 2; ++i) {
+    const bool chosen = (i == 1) == model.listShown;
+    all.Expect("view button", chosen, IsDlgButtonChecked(window, FrmFindIcon_OptView0 + i) == BST_CHECKED);
+    all.Expect("view item", chosen, seen::IsMenuChecked(window, FrmFindIcon_mnuViewopt0 + i));
+    all.Expect("numbering", (i == 1) == model.byFile, seen::IsMenuChecked(window, FrmFindIcon_mnuIL1 + i));
+  }
+  all.Expect("label item", model.labelShown, seen::IsMenuChecked(window, FrmFindIcon_mnuShowLabel));
+}
+
+// The grid as it is seen through the viewport, every pixel.
+void CompareGrid(Differences& all, const Model& model, HWND window) {
+  const HWND frame = GetDlgItem(window, FrmFindIcon_PicFrame);
+  const HWND picture = GetDlgItem(frame, FrmFindIcon_PicIcons);
+  const HWND bar = GetDlgItem(window, FrmFindIcon_Vsb);
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_POS;
+  GetScrollInfo(bar, SB_CTL, &info);
+  all.Expect("scroll bar", model.grid.Scroll(), info.nPos);
+  all.Expect("bar enabled", model.grid.Scrolls(), IsWindowEnabled(bar) != FALSE);
+  RECT place{};
+  GetWindowRect(picture, &place);
+  MapWindowPoints(nullptr, frame, reinterpret_cast<POINT*>(&place), 2);
+  all.Expect("picture's top", -model.grid.Scroll(), static_cast<int>(place.top));
+  all.Expect("picture's height", model.grid.InnerHeight(), static_cast<int>(place.bottom - place.top));
+  if (model.listShown) return;
+
+  const int height = std::min(viewportHeight, model.grid.InnerHeight() - model.grid.Scroll());
+  const Picture& shown = seen::Pixels(frame, gridWidth, height);
+  const Picture& expected = model.grid.Shown();
+  const auto width = static_cast<std::ptrdiff_t>(gridWidth);
+  const auto from = expected.pixels.begin() + model.grid.Scroll() * width;
+  const auto differs = std::mismatch(shown.pixels.begin(), shown.pixels.end(), from);
+  if (differs.first == shown.pixels.end()) return;
+  const auto at = differs.first - shown.pixels.begin();
+  all.Add("grid pixel (" + std::to_string(at % width) + ", " + std::to_string(at / width) + " of the viewport): " +
+          std::to_string(*differs.first) + " and not " + std::to_string(*differs.second) + "\n");
+}
+
+struct Look {
+  bool bold;
+  COLORREF color;
+};
+
+// How the list draws a row: what it is told before it does.
+Look LookOfRow(HWND window, int row) {
+  const HWND list = GetDlgItem(window, FrmFindIcon_Lv);
+  const HDC dc = CreateCompatibleDC(nullptr);
+  SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
+  NMLVCUSTOMDRAW draw{};
+  draw.nmcd.hdr = {list, static_cast<UINT_PTR>(FrmFindIcon_Lv), static_cast<UINT>(NM_CUSTOMDRAW)};
+  draw.nmcd.dwDrawStage = CDDS_ITEMPREPAINT;
+  draw.nmcd.hdc = dc;
+  draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(row);
+  SendMessageW(window, WM_NOTIFY, static_cast<WPARAM>(FrmFindIcon_Lv), reinterpret_cast<LPARAM>(&draw));
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(dc, &metrics);
+  DeleteDC(dc);
+  return {metrics.tmWeight >= FW_BOLD, draw.clrText};
+}
+
+void CompareRow(Differences& all, const Model& model, HWND window, int row) {
+  const HWND list = GetDlgItem(window, FrmFindIcon_Lv);
+  const Entry& entry = model.entries.at(static_cast<std::size_t>(row));
+  const std::string name = "row " + std::to_string(row + 1);
+  all.Expect(name, std::to_string(row + 1), seen::Cell(list, row, 0));
+  all.Expect(name, entry.path, seen::Cell(list, row, 1));
+  all.Expect(name, std::to_string(entry.index), seen::Cell(list, row, 2));
+  const Look look = LookOfRow(window, row);
+  all.Expect(name + " bold", entry.selected, look.bold);
+  all.Expect(name + " colour", entry.selected ? 255 : 0, static_cast<int>(look.color));
+}
+
+void CompareRows(Differences& all, const Model& model, HWND window, bool everything) {
+  const HWND list = GetDlgItem(window, FrmFindIcon_Lv);
+  const int count = static_cast<int>(model.entries.size());
+  const int rows = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+  all.Expect("rows", count, rows);
+  static const std::string headers[] = {"序号", "文件路径", "图标索引", ""};
+  for (int column = 0; column < 4; ++column)
+    all.Expect("header", model.hasColumns ? headers[column] : std::string(), seen::Header(list, column));
+  if (rows != count) return;
+  for (int row = 0; row < count; ++row) {
+    const bool selected = SendMessageW(list, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0;
+    all.Expect("row " + std::to_string(row + 1) + " selected", model.entries[static_cast<std::size_t>(row)].selected,
+               selected);
+  }
+  if (count == 0) return;
+  const int step = everything ? 1 : std::max(1, count / rowsLookedAt);
+  for (int row = 0; row < count; row += step) CompareRow(all, model, window, row);
+  CompareRow(all, model, window, std::min(model.current, count - 1));
+}
+
+}  // namespace
+
+std::string MainDifference(const Model& model, HWND window, bool everything) {
+  Differences all;
+  CompareTexts(all, model, window);
+  CompareOptions(all, model, window);
+  CompareLists(all, model, window);
+  CompareEnabled(all, model, window);
+  CompareView(all, model, window);
+  CompareGrid(all, model, window);
+  CompareRows(all, model, window, everything);
+  return all.Found();
+}
+
+}  // namespace tarvik::model

@@ -1,0 +1,176 @@
+// The windows over the main one compared with the model, and the files that were written.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <string>
+
+#include "model/Driver.h"
+#include "model/Seen.h"
+#include "resource.h"
+
+namespace tarvik::model {
+namespace {
+
+constexpr POINT pictureCorner{100, 100};
+
+std::string Compared(const std::string& what, const std::string& expected, const std::string& seen) {
+  return expected == seen ? std::string() : what + ": \"" + seen + "\" and not \"" + expected + "\"\n";
+}
+
+std::string Compared(const std::string& what, int expected, int seen) {
+  return Compared(what, std::to_string(expected), std::to_string(seen));
+}
+
+// Line ends of a static control are not told apart.
+std::string Lines(std::string text) {
+  std::erase(text, '\r');
+  return text;
+}
+
+std::string BoxDifference(const Model& model) {
+  const HWND box = seen::MessageBoxInSight();
+  if (box == nullptr) return "no box, where one should say: " + model.box.text + "\n";
+  return Compared("box's title", model.box.title, seen::Text(box)) +
+         Compared("box's text", Lines(model.box.text), Lines(seen::BoxText(box)));
+}
+
+// Every pixel of the enlarged icon that lies in the window above the status bar.
+std::string PictureDifference(const ViewShown& view, HWND window) {
+  const HWND picture = GetDlgItem(window, frmBit_img);
+  const int side = view.zoom * view.picture.width;
+  RECT place{};
+  GetWindowRect(picture, &place);
+  MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+  std::string all = Compared("picture's left", pictureCorner.x, place.left) +
+                    Compared("picture's top", pictureCorner.y, place.top) +
+                    Compared("picture's width", side, place.right - place.left) +
+                    Compared("picture's height", side, place.bottom - place.top);
+  if (!all.empty()) return all;
+  RECT inner{};
+  GetClientRect(window, &inner);
+  RECT bar{};
+  GetWindowRect(GetDlgItem(window, frmBit_sbMain), &bar);
+  const int width = std::min<int>(side, inner.right - pictureCorner.x);
+  const int height = std::min<int>(side, inner.bottom - (bar.bottom - bar.top) - pictureCorner.y);
+  if (width <= 0 || height <= 0) return {};
+  const Picture& shown = seen::Pixels(picture, width, height);
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      if (shown.At(x, y) == view.picture.At(x / view.zoom, y / view.zoom)) continue;
+      return "view's pixel (" + std::to_string(x) + ", " + std::to_string(y) + "): " + std::to_string(shown.At(x, y)) +
+             " and not " + std::to_string(view.picture.At(x / view.zoom, y / view.zoom)) + "\n";
+    }
+  }
+  return {};
+}
+
+std::string ViewDifference(const Model& model) {
+  const HWND window = seen::WindowWith(frmBit_img);
+  if (window == nullptr) return "no enhanced view\n";
+  const ViewShown& view = model.view;
+  const HWND bar = GetDlgItem(window, frmBit_tlb_control);
+  const auto canPress = [bar](int id) { return SendMessageW(bar, TB_ISBUTTONENABLED, static_cast<WPARAM>(id), 0) != 0; };
+  RECT place{};
+  GetWindowRect(window, &place);
+  return Compared("view's title", view.title, seen::Text(window)) +
+         Compared("view's status", view.status, seen::Status(GetDlgItem(window, frmBit_sbMain))) +
+         Compared("view's zoom row", view.zoomRow,
+                  static_cast<int>(SendMessageW(GetDlgItem(window, frmBit_CboZoom), CB_GETCURSEL, 0, 0))) +
+         Compared("Start enabled", view.showRuns ? 0 : 1, canPress(frmBit_tlb_control_Start) ? 1 : 0) +
+         Compared("Stop enabled", view.showRuns ? 1 : 0, canPress(frmBit_tlb_control_Stop) ? 1 : 0) +
+         Compared("view's width", view.width, place.right - place.left) +
+         Compared("view's height", view.height, place.bottom - place.top) + PictureDifference(view, window);
+}
+
+std::string HotSpotDifference() {
+  const HWND window = seen::WindowWith(FrmHotSpot_PicCursor);
+  if (window == nullptr) return "no hot-spot picker\n";
+  return Compared("hot x", "00", seen::Text(window, FrmHotSpot_LblHotX)) +
+         Compared("hot y", "00", seen::Text(window, FrmHotSpot_LblHotY));
+}
+
+std::string ChooserDifference(const Model& model) {
+  const HWND window = seen::WindowWith(frmDir_dirMain);
+  if (window == nullptr) return "no folder chooser\n";
+  const ChooserShown& chooser = model.chooser;
+  const HWND types = GetDlgItem(window, frmDir_CboFileType);
+  std::string all = Compared("chosen path", chooser.answer, seen::Text(window, frmDir_lblDir));
+  all += Compared("types offered", chooser.offersTypes ? 1 : 0, seen::IsShown(types) ? 1 : 0);
+  if (chooser.offersTypes) {
+    all += Compared("types", chooser.types, static_cast<int>(SendMessageW(types, CB_GETCOUNT, 0, 0)));
+    all += Compared("type", chooser.type, static_cast<int>(SendMessageW(types, CB_GETCURSEL, 0, 0)));
+  }
+  const std::vector<std::string> rows = seen::ListRows(GetDlgItem(window, frmDir_dirMain));
+  std::string chain;
+  for (const std::string& path : Chain(chooser.folder)) chain += LastName(path) + "|";
+  std::string shown;
+  for (std::size_t i = 0; i < Chain(chooser.folder).size() && i < rows.size(); ++i) shown += rows[i] + "|";
+  return all + Compared("chooser's folders", chain, shown);
+}
+
+std::string NewFolderDifference(const Model& model) {
+  const HWND window = seen::WindowWith(frmDirCreate_txt);
+  if (window == nullptr) return "no dialog for a new folder\n";
+  return Compared("new folder's title", words::createIn.In(model.Language(), model.newFolderParent),
+                  seen::Text(window)) +
+         Compared("new folder's name", model.newFolderName, seen::Text(window, frmDirCreate_txt));
+}
+
+std::string Named(const char* name, bool expected, int id) {
+  const bool isThere = seen::WindowWith(id) != nullptr;
+  if (isThere == expected) return {};
+  return std::string(name) + (isThere ? " is open\n" : " is not open\n");
+}
+
+std::string WrittenDifference(const Model& model, const std::map<std::string, Bytes>& files) {
+  std::string all;
+  for (const auto& [path, expected] : model.written) {
+    const auto found = files.find(path);
+    if (found == files.end()) {
+      all += "not written: " + path + "\n";
+      continue;
+    }
+    const bool isRight = expected.isBeginning ? std::ranges::equal(expected.bytes.begin(), expected.bytes.end(),
+                                                                   found->second.begin(),
+                                                                   found->second.begin() +
+                                                                       std::min<std::ptrdiff_t>(
+                                                                           std::ssize(expected.bytes),
+                                                                           std::ssize(found->second)))
+                                              : expected.bytes == found->second;
+    if (!isRight) all += "wrong bytes: " + path + " of " + std::to_string(found->second.size()) + "\n";
+  }
+  for (const auto& [path, bytes] : files) {
+    if (!model.written.contains(path)) all += "written for nothing: " + path + "\n";
+  }
+  return all;
+}
+
+}  // namespace
+
+std::string DialogDifference(const Model& model) {
+  std::string all = Named("the enhanced view", model.Has(Front::View), frmBit_img) +
+                    Named("the hot-spot picker", model.Has(Front::HotSpot), FrmHotSpot_PicCursor) +
+                    Named("the folder chooser", model.Has(Front::Chooser), frmDir_dirMain) +
+                    Named("the dialog for a new folder", model.Has(Front::NewFolder), frmDirCreate_txt) +
+                    Named("the About box", model.Has(Front::About), FrmSpash_LblEmail) +
+                    Named("the JPEG options", model.Has(Front::JpegOptions), fSaveJPG_txtQual) +
+                    Named("the GIF options", model.Has(Front::GifOptions), FrmConvertGIF_Option1);
+  if (!all.empty()) return all;
+  if (model.Has(Front::Box)) all += BoxDifference(model);
+  if (model.Has(Front::View)) all += ViewDifference(model);
+  if (model.Has(Front::HotSpot)) all += HotSpotDifference();
+  if (model.Has(Front::Chooser)) all += ChooserDifference(model);
+  if (model.Has(Front::NewFolder)) all += NewFolderDifference(model);
+  return all;
+}
+
+std::string Difference(const Model& model, RealProgram& program, bool everything) {
+  const HWND window = program.Main();
+  if (window == nullptr || IsWindowVisible(window) == FALSE) return "the main window is gone\n";
+  return MainDifference(model, window, everything) + DialogDifference(model) +
+         WrittenDifference(model, program.Files().written);
+}
+
+}  // namespace tarvik::model

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/Picture.h"
+
+namespace tarvik::model {
+
+// A file of the made machine: what it holds is settled by its id, and its icons can be told from those of every other.
+struct MadeFile {
+  int id = 0;
+  int icons = 0;  // of an .ani file: its frames
+};
+
+// One icon of a made file, of which every pixel is known.
+struct IconLook {
+  int id = 0;
+  int index = 0;
+};
+
+// Whether the pixel of an icon drawn at that size is transparent: the top left sixteenth is.
+bool IsTransparent(int size, int x, int y);
+// The colour of a pixel that is not.
+Pixel ColorAt(const IconLook& look, int size, int x, int y);
+
+// The folders and files that the test makes. Paths are those of the system: "C:\", "C:\icons".
+class Disk {
+ public:
+  Disk();
+
+  struct Drive {
+    std::string root;
+    std::string text;
+    bool isReady = true;
+  };
+  static const std::vector<Drive>& Drives();
+
+  bool IsReadable(const std::string& folder) const;
+  // Names of the files that have one of the pattern's extensions ("*.ico;*.dll;"), or all ("*.*"), in order.
+  std::vector<std::string> Files(const std::string& folder, const std::string& pattern) const;
+  // Full paths, in order.
+  std::vector<std::string> SubFolders(const std::string& folder) const;
+  // Nothing if there is no such file. A doubled backslash counts as one.
+  std::optional<MadeFile> Find(const std::string& path) const;
+  int IconsOf(const std::string& path) const;
+
+  void Put(const std::string& folder, const std::string& name, int icons);
+  void Remove(const std::string& folder, const std::string& name);
+  bool CanMakeFolder(const std::string& path) const;
+  bool MakeFolder(const std::string& path);
+  void RemoveFolder(const std::string& path) { folders_.erase(path); }
+
+ private:
+  using Folder = std::map<std::string, MadeFile>;
+
+  std::map<std::string, Folder> folders_;
+  int nextId_ = 1;
+};
+
+// "C:\icons" and "a.ico" make "C:\icons\a.ico"; a root keeps its backslash and gets no second one.
+std::string Joined(const std::string& folder, const std::string& name);
+// The folder above; a root has none and gives itself.
+std::string Above(const std::string& folder);
+// From the root down to the folder itself.
+std::vector<std::string> Chain(const std::string& folder);
+std::string LastName(const std::string& folder);
+bool IsAnimation(const std::string& path);
+
+}  // namespace tarvik::model

@@ -1,0 +1,262 @@
+// How the steps come one after the other, also within the program's own loops.
+#include "model/Driver.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iostream>
+#include <iterator>
+
+#include "model/Seen.h"
+#include "resource.h"
+
+namespace tarvik::model {
+namespace {
+
+constexpr UINT tick = WM_APP + 1;
+constexpr UINT_PTR watchTimer = 1;
+constexpr UINT_PTR retryTimer = 2;
+constexpr UINT watchPeriod = 1000;     // ms
+constexpr UINT retryPeriod = 20;       // ms
+constexpr ULONGLONG patience = 30000;  // ms in which nothing moves
+constexpr int everythingEach = 16;     // steps between two comparisons of all there is
+
+constexpr const char* firstFolder = "C:\\icons";
+constexpr const wchar_t* className = L"TarvikModelDriver";
+
+}  // namespace
+
+Driver::Driver(Tongue tongue, std::vector<Action> actions)
+    : model_(disk_, tongue), actions_(std::move(actions)), movedAt_(GetTickCount64()) {
+  WNDCLASSW definition{};
+  definition.lpfnWndProc = Procedure;
+  definition.cbWndExtra = sizeof(LONG_PTR);
+  definition.hInstance = GetModuleHandleW(nullptr);
+  definition.lpszClassName = className;
+  RegisterClassW(&definition);
+  window_ = CreateWindowExW(0, className, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, definition.hInstance, nullptr);
+  SetWindowLongPtrW(window_, 0, reinterpret_cast<LONG_PTR>(this));
+  SetTimer(window_, watchTimer, watchPeriod, nullptr);
+  settings_["FindIcon/Folder"] = firstFolder;
+  model_.kept.folder = firstFolder;
+}
+
+Driver::~Driver() {
+  program_.reset();
+  DestroyWindow(window_);
+  HoldKeys(false, false);
+}
+
+LRESULT CALLBACK Driver::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* driver = reinterpret_cast<Driver*>(GetWindowLongPtrW(window, 0));
+  if (driver != nullptr && message == tick) driver->OnTick();
+  if (driver != nullptr && message == WM_TIMER && wParam == watchTimer) driver->Watch();
+  if (driver != nullptr && message == WM_TIMER && wParam == retryTimer) {
+    KillTimer(window, retryTimer);
+    driver->OnTick();
+  }
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+void Driver::PostTick() {
+  PostMessageW(window_, tick, 0, 0);
+}
+
+void Driver::Watch() {
+  if (isDone_ || GetTickCount64() - movedAt_ < patience) return;
+  const HWND box = seen::MessageBoxInSight();
+  Stop("nothing moves" + (box != nullptr ? ", and there is a box: " + seen::BoxText(box) : std::string()) + "\n");
+}
+
+void Driver::Stop(const std::string& difference) {
+  difference_ = difference;
+  isDone_ = true;
+  program_->End();
+  PostQuitMessage(0);  // for a box's own loop
+}
+
+std::string Driver::Run() {
+  while (!isDone_) RunOnce();
+  return difference_;
+}
+
+// From one start of the program to its end.
+void Driver::RunOnce() {
+  program_.reset();
+  program_ = std::make_unique<RealProgram>(disk_, settings_, model_.Language());
+  model_.Start(RealProgram::ownFolder);
+  PostTick();
+  program_->Serve([this] { return isDone_ || !model_.IsRunning(); });
+  if (isDone_) return;
+  MSG message;
+  while (PeekMessageW(&message, window_, tick, tick, PM_REMOVE)) continue;
+  tickOwed_ = false;
+  const std::string difference = Ended();
+  if (!difference.empty()) Stop(difference);
+  if (next_ == actions_.size()) isDone_ = true;
+}
+
+// What must be so after the main window is gone.
+std::string Driver::Ended() {
+  std::string all;
+  if (IsWindow(Main()) != FALSE) all += "the main window is still there\n";
+  if (all.empty() && !program_->WouldEnd()) all += "the program does not end\n";
+  const auto kept = [this](const char* key) { return settings_.contains(key) ? settings_.at(key) : std::string("none"); };
+  const auto expect = [&all](const char* what, const std::string& expected, const std::string& seen) {
+    if (expected != seen) all += std::string(what) + ": \"" + seen + "\" and not \"" + expected + "\"\n";
+  };
+  expect("kept folder", *model_.kept.folder, kept("FindIcon/Folder"));
+  expect("kept sub-folders", *model_.kept.subDir, kept("FindIcon/Subdir"));
+  if (settings_.contains("Bitmapview/Width")) {
+    constexpr int twipsOfPixel = 15;
+    expect("kept width", std::to_string(model_.kept.viewWidth * twipsOfPixel), kept("Bitmapview/Width"));
+    expect("kept height", std::to_string(model_.kept.viewHeight * twipsOfPixel), kept("Bitmapview/Height"));
+  }
+  expect("handed path", model_.handedPath, program_->HandedPath());
+  expect("handed index", std::to_string(model_.handedIndex), std::to_string(program_->HandedIndex()));
+  return all;
+}
+
+// Whether the program has nothing left to do: neither messages nor painting. Input and timers wait behind posted
+// messages, these steps among them.
+bool Driver::IsSettled() {
+  const auto isEmpty = [] {
+    MSG message;
+    constexpr UINT peek = PM_NOREMOVE | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE;
+    return PeekMessageW(&message, nullptr, 0, 0, peek) == FALSE || message.message == WM_TIMER;
+  };
+  if (!isEmpty()) return false;
+  if ((HIWORD(GetQueueStatus(QS_PAINT)) & QS_PAINT) == 0) return true;
+  seen::PaintAll();
+  return isEmpty();
+}
+
+void Driver::OnTick() {
+  if (isDone_ || !model_.IsRunning()) return;
+  // The program is still at work, in a loop of a search or a batch.
+  if (depth_ > model_.Depth()) {
+    tickOwed_ = true;
+    return;
+  }
+  if (model_.Foremost() == Front::Box && depth_ > 0 && seen::MessageBoxInSight() == nullptr) {
+    SetTimer(window_, retryTimer, retryPeriod, nullptr);
+    return;
+  }
+  if (!IsSettled()) return PostTick();
+  movedAt_ = GetTickCount64();
+  if (!rest_.empty()) {
+    const std::function<void()> part = std::move(rest_.front());
+    rest_.pop_front();
+    return part();
+  }
+  Next();
+}
+
+void Driver::Next() {
+  const bool isLast = next_ == actions_.size();
+  const bool everything = isLast || next_ % everythingEach == 0;
+  const std::string difference = Difference(model_, *program_, everything);
+  if (!difference.empty()) return Stop(difference);
+  model_.written.clear();
+  program_->Files().written.clear();
+  if (isLast) return Stop({});
+  Do(actions_[next_++]);
+}
+
+void Driver::Perform(const std::function<void()>& act) {
+  PostTick();
+  ++depth_;
+  act();
+  --depth_;
+  if (!tickOwed_) return;
+  tickOwed_ = false;
+  PostTick();
+}
+
+template <std::size_t count>
+void Driver::DoOneOf(const Choice (&choices)[count], const Action& action) {
+  int total = 0;
+  for (const Choice& choice : choices) total += choice.weight;
+  int rest = action.what % total;
+  const Choice* chosen = std::begin(choices);
+  while (rest >= chosen->weight) rest -= (chosen++)->weight;
+  log_.push_back(chosen->name);
+  if (std::getenv("TARVIK_MODEL_TALK") != nullptr) std::cerr << GetTickCount64() << " " << chosen->name << "\n";
+  const std::size_t line = log_.size() - 1;
+  if ((this->*chosen->act)(action)) return;
+  log_[line] += " (cannot be done now)";
+  PostTick();
+}
+
+void Driver::Do(const Action& action) {
+  static constexpr Choice main[] = {
+      {10, "Find", &Driver::FindByButton},
+      {2, "Find by menu", &Driver::FindByMenu},
+      {2, "Find by Enter", &Driver::FindByEnter},
+      {2, "Find with clicks waiting", &Driver::FindWithClicksWaiting},
+      {30, "Click the grid", &Driver::ClickGrid},
+      {5, "Double-click the grid", &Driver::DoubleClickGrid},
+      {8, "Scroll", &Driver::Scroll},
+      {4, "Turn the wheel", &Driver::TurnWheel},
+      {4, "Tick a file type", &Driver::TickType},
+      {3, "Tick sub-folders", &Driver::TickSubDir},
+      {4, "Choose a size", &Driver::ChooseSize},
+      {4, "Type a limit", &Driver::TypeLimit},
+      {3, "Press the spinner", &Driver::Spin},
+      {7, "Open a folder", &Driver::OpenFolder},
+      {2, "Choose a drive", &Driver::ChooseDrive},
+      {4, "Switch grid and list", &Driver::SwitchView},
+      {10, "Click the list", &Driver::ClickList},
+      {2, "Double-click the list", &Driver::DoubleClickList},
+      {1, "Select all rows", &Driver::SelectAll},
+      {3, "Invert the selection", &Driver::Invert},
+      {3, "Change the labels", &Driver::Labels},
+      {4, "Save one", &Driver::SaveOne},
+      {3, "Save many", &Driver::SaveMany},
+      {1, "Open the About box", &Driver::OpenAbout},
+      {6, "Change the disk", &Driver::ChangeDisk},
+      {1, "Close", &Driver::Close},
+  };
+  static constexpr Choice box[] = {{30, "Answer the box", &Driver::AnswerBox},
+                                   {1, "Close the main window below the box", &Driver::CloseMainBelow}};
+  static constexpr Choice view[] = {{20, "Step", &Driver::StepView},     {8, "Slide show", &Driver::ShowInView},
+                                    {8, "Zoom", &Driver::ZoomView},      {3, "Resize the view", &Driver::ResizeView},
+                                    {3, "Change the disk", &Driver::ChangeDisk}, {10, "Close the view", &Driver::CloseView},
+                                    {1, "Close the main window below the view", &Driver::CloseMainBelow}};
+  static constexpr Choice hotSpot[] = {{2, "Pick a hot spot", &Driver::PickHotSpot},
+                                       {4, "End the hot-spot picker", &Driver::EndHotSpot},
+                                       {1, "Close the main window below the picker", &Driver::CloseMainBelow}};
+  static constexpr Choice chooser[] = {{5, "Open a folder in the chooser", &Driver::OpenChooserRow},
+                                       {2, "Choose a drive in the chooser", &Driver::ChooseChooserDrive},
+                                       {4, "Choose a type", &Driver::ChooseChooserType},
+                                       {2, "Open the dialog for a new folder", &Driver::OpenNewFolder},
+                                       {8, "End the chooser", &Driver::EndChooser},
+                                       {1, "Close the main window below the chooser", &Driver::CloseMainBelow}};
+  static constexpr Choice newFolder[] = {{2, "Name the folder", &Driver::NameFolder},
+                                         {4, "End the dialog for a new folder", &Driver::EndNewFolder},
+                                         {1, "Close the main window below the dialog", &Driver::CloseMainBelow}};
+  static constexpr Choice options[] = {{6, "End the options", &Driver::EndOptions},
+                                       {1, "Close the main window below the options", &Driver::CloseMainBelow}};
+  static constexpr Choice about[] = {{4, "Close the About box", &Driver::EndAbout},
+                                     {1, "Close the main window below the About box", &Driver::CloseMainBelow}};
+  switch (model_.Foremost()) {
+    case Front::Main:
+      return DoOneOf(main, action);
+    case Front::Box:
+      return DoOneOf(box, action);
+    case Front::View:
+      return DoOneOf(view, action);
+    case Front::HotSpot:
+      return DoOneOf(hotSpot, action);
+    case Front::Chooser:
+      return DoOneOf(chooser, action);
+    case Front::NewFolder:
+      return DoOneOf(newFolder, action);
+    case Front::JpegOptions:
+    case Front::GifOptions:
+      return DoOneOf(options, action);
+    case Front::About:
+      return DoOneOf(about, action);
+  }
+}
+
+}  // namespace tarvik::model

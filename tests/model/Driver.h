@@ -1,0 +1,145 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdlib>
+#include <deque>
+#include <iostream>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/Disk.h"
+#include "model/Model.h"
+#include "model/RealProgram.h"
+
+namespace tarvik::model {
+
+// A step of a sequence, as numbers: which of the things that can be done then, and how. Any numbers make a step.
+struct Action {
+  int what = 0;
+  int a = 0;
+  int b = 0;
+  int c = 0;
+};
+
+// Does what a sequence says to the real windows, one step after the other, also while one of them keeps the program
+// waiting; and compares the windows with the model before each step and at the end.
+class Driver {
+ public:
+  Driver(Tongue tongue, std::vector<Action> actions);
+  ~Driver();
+  Driver(const Driver&) = delete;
+  Driver& operator=(const Driver&) = delete;
+
+  // The first difference; empty if there is none.
+  std::string Run();
+  // What was done, one line a step.
+  const std::vector<std::string>& Log() const { return log_; }
+
+ private:
+  // Something that can be done; false if it cannot be done just then.
+  struct Choice {
+    int weight;
+    const char* name;
+    bool (Driver::*act)(const Action& action);
+  };
+  template <std::size_t count>
+  void DoOneOf(const Choice (&choices)[count], const Action& action);
+
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void OnTick();
+  void Watch();
+  void PostTick();
+  void Stop(const std::string& difference);
+  void RunOnce();
+  std::string Ended();
+  bool IsSettled();
+  void Next();
+  void Do(const Action& action);
+  // Runs what may keep the program waiting in a window of its own; the next step comes in there.
+  void Perform(const std::function<void()>& act);
+  void Note(const std::string& detail) { log_.back() += ": " + detail; if (std::getenv("TARVIK_MODEL_TALK") != nullptr) std::cerr << detail << "\n"; }
+
+  // The main window.
+  bool FindByButton(const Action& action);
+  bool FindByMenu(const Action& action);
+  bool FindByEnter(const Action& action);
+  bool FindWithClicksWaiting(const Action& action);
+  bool ClickGrid(const Action& action);
+  bool DoubleClickGrid(const Action& action);
+  bool Scroll(const Action& action);
+  bool TurnWheel(const Action& action);
+  bool TickType(const Action& action);
+  bool TickSubDir(const Action& action);
+  bool ChooseSize(const Action& action);
+  bool TypeLimit(const Action& action);
+  bool Spin(const Action& action);
+  bool OpenFolder(const Action& action);
+  bool ChooseDrive(const Action& action);
+  bool SwitchView(const Action& action);
+  bool ClickList(const Action& action);
+  bool DoubleClickList(const Action& action);
+  bool SelectAll(const Action& action);
+  bool Invert(const Action& action);
+  bool Labels(const Action& action);
+  bool SaveOne(const Action& action);
+  bool SaveMany(const Action& action);
+  bool OpenAbout(const Action& action);
+  bool ChangeDisk(const Action& action);
+  bool Close(const Action& action);
+
+  // Windows over it.
+  bool AnswerBox(const Action& action);
+  bool CloseMainBelow(const Action& action);
+  bool StepView(const Action& action);
+  bool ShowInView(const Action& action);
+  bool ZoomView(const Action& action);
+  bool ResizeView(const Action& action);
+  bool CloseView(const Action& action);
+  bool PickHotSpot(const Action& action);
+  bool EndHotSpot(const Action& action);
+  bool OpenChooserRow(const Action& action);
+  bool ChooseChooserDrive(const Action& action);
+  bool ChooseChooserType(const Action& action);
+  bool OpenNewFolder(const Action& action);
+  bool EndChooser(const Action& action);
+  bool NameFolder(const Action& action);
+  bool EndNewFolder(const Action& action);
+  bool EndOptions(const Action& action);
+  bool EndAbout(const Action& action);
+
+  void Find(const std::function<void()>& press);
+  void Command(HWND window, int id, int code = 0) const;
+  HWND Main() const { return program_->Main(); }
+  HWND Item(int id) const { return GetDlgItem(Main(), id); }
+  HWND Grid() const;
+  void CloseAsked(int way);
+  POINT PointOnGrid(const Action& action) const;
+  // Has the keyboard say that these keys are held, until the next call.
+  static void HoldKeys(bool ctrl, bool shift, bool leftButton = false);
+
+  Disk disk_;
+  Model model_;
+  std::map<std::string, std::string> settings_;
+  std::unique_ptr<RealProgram> program_;
+  std::vector<Action> actions_;
+  std::size_t next_ = 0;
+  std::deque<std::function<void()>> rest_;  // of a step that the program's own messages come into
+  HWND window_ = nullptr;
+  int depth_ = 0;  // how many of Perform wait
+  bool tickOwed_ = false;
+  bool isDone_ = false;
+  ULONGLONG movedAt_ = 0;
+  std::string difference_;
+  std::vector<std::string> log_;
+};
+
+// What differs between the model and the windows; empty if nothing does. `everything` takes in what costs most.
+std::string Difference(const Model& model, RealProgram& program, bool everything);
+std::string MainDifference(const Model& model, HWND window, bool everything);
+std::string DialogDifference(const Model& model);
+
+}  // namespace tarvik::model

@@ -1,0 +1,402 @@
+// What is done to the main window.
+#include <windows.h>
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <algorithm>
+#include <array>
+
+#include "model/Driver.h"
+#include "model/Seen.h"
+#include "resource.h"
+
+namespace tarvik::model {
+namespace {
+
+constexpr std::array<int, 12> iconCounts{0, 1, 2, 5, 15, 16, 20, 45, 61, 76, 91, 130};
+
+std::string NumberText(int number) {
+  return std::to_string(number);
+}
+
+}  // namespace
+
+HWND Driver::Grid() const {
+  return GetDlgItem(Item(FrmFindIcon_PicFrame), FrmFindIcon_PicIcons);
+}
+
+void Driver::Command(HWND window, int id, int code) const {
+  SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(GetDlgItem(window, id)));
+}
+
+void Driver::HoldKeys(bool ctrl, bool shift, bool leftButton) {
+  std::array<BYTE, 256> keys{};
+  constexpr BYTE down = 0x80;
+  keys[VK_CONTROL] = keys[VK_LCONTROL] = ctrl ? down : BYTE{0};
+  keys[VK_SHIFT] = keys[VK_LSHIFT] = shift ? down : BYTE{0};
+  keys[VK_LBUTTON] = leftButton ? down : BYTE{0};
+  SetKeyboardState(keys.data());
+}
+
+void Driver::Find(const std::function<void()>& press) {
+  model_.Find();
+  Perform(press);
+}
+
+bool Driver::FindByButton(const Action& /*action*/) {
+  Find([this] { Command(Main(), FrmFindIcon_CmdFind); });
+  return true;
+}
+
+bool Driver::FindByMenu(const Action& /*action*/) {
+  if (!model_.fileEnabled) return false;
+  Find([this] { Command(Main(), FrmFindIcon_mnuStart); });
+  return true;
+}
+
+// Enter presses the default button, wherever the focus is.
+bool Driver::FindByEnter(const Action& /*action*/) {
+  Find([this] {
+    SetFocus(Item(FrmFindIcon_txtMax));
+    PostMessageW(Item(FrmFindIcon_txtMax), WM_KEYDOWN, VK_RETURN, 0);
+    program_->ServeWaiting();
+  });
+  return true;
+}
+
+// The search serves what waits: clicks and a second search do nothing then.
+bool Driver::FindWithClicksWaiting(const Action& action) {
+  const POINT point = PointOnGrid(action);
+  PostMessageW(Grid(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+  PostMessageW(Grid(), WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+  PostMessageW(Main(), WM_COMMAND, FrmFindIcon_mnuRem, 0);
+  PostMessageW(Main(), WM_COMMAND, FrmFindIcon_mnuSaveAs, 0);
+  PostMessageW(Main(), WM_CLOSE, 0, 0);
+  Find([this] { Command(Main(), FrmFindIcon_CmdFind); });
+  return true;
+}
+
+// A place in the part of the picture that the viewport shows, mostly on an icon.
+POINT Driver::PointOnGrid(const Action& action) const {
+  const int top = model_.grid.Scroll();
+  const int x = action.a % gridWidth;
+  const int y = top + action.b % viewportHeight;
+  const int count = static_cast<int>(model_.entries.size());
+  if (count == 0 || action.c % 4 == 0) return {x, y};
+  const Geometry& size = model_.Size();
+  const int index = action.a % count;
+  const POINT onIcon{index % size.columns * size.pitch + 1 + action.b % (size.pitch - 1),
+                     index / size.columns * size.pitch + 1 + action.c % (size.pitch - 1)};
+  const bool inSight = onIcon.y >= top && onIcon.y < top + viewportHeight;
+  return inSight ? onIcon : POINT{x, y};
+}
+
+bool Driver::ClickGrid(const Action& action) {
+  if (model_.listShown) return false;
+  struct Button {
+    UINT down;
+    UINT up;
+    WPARAM held;
+  };
+  static constexpr Button buttons[] = {{WM_LBUTTONDOWN, WM_LBUTTONUP, MK_LBUTTON},
+                                       {WM_RBUTTONDOWN, WM_RBUTTONUP, MK_RBUTTON},
+                                       {WM_MBUTTONDOWN, WM_MBUTTONUP, MK_MBUTTON}};
+  const POINT point = PointOnGrid(action);
+  const int way = action.what / 128;
+  const bool ctrl = way % 2 == 1;
+  const bool shift = way % 9 == 0;
+  const Button& button = buttons[way % 7 == 0 ? 1 + way / 7 % 2 : 0];
+  Note("(" + NumberText(point.x) + ", " + NumberText(point.y) + ")" + (ctrl ? " Ctrl" : "") + (shift ? " Shift" : ""));
+  const WPARAM keys = (ctrl ? MK_CONTROL : 0U) | (shift ? MK_SHIFT : 0U);
+  model_.ClickGrid(point.x, point.y, ctrl && !shift);
+  Perform([&] {
+    SendMessageW(Grid(), button.down, keys | button.held, MAKELPARAM(point.x, point.y));
+    SendMessageW(Grid(), button.up, keys, MAKELPARAM(point.x, point.y));
+  });
+  return true;
+}
+
+// The second release comes while the view is open, to whatever holds the mouse; or only after it is closed.
+bool Driver::DoubleClickGrid(const Action& action) {
+  if (model_.listShown) return false;
+  const POINT point = PointOnGrid(action);
+  const bool ctrl = action.what / 128 % 4 == 1;
+  const bool later = action.what / 512 % 4 == 1;
+  Note("(" + NumberText(point.x) + ", " + NumberText(point.y) + ")" + (ctrl ? " Ctrl" : "") +
+       (later ? ", held until the view is closed" : ""));
+  const WPARAM keys = ctrl ? MK_CONTROL : 0U;
+  const LPARAM place = MAKELPARAM(point.x, point.y);
+  const LPARAM further = MAKELPARAM(point.x + 2 * model_.Size().pitch, point.y);
+  model_.ClickGrid(point.x, point.y, ctrl);
+  model_.OpenView();
+  const bool opens = model_.Foremost() == Front::View;
+  if (opens && !later) {
+    rest_.push_back([this, keys, further] {
+      if (GetCapture() == Grid()) SendMessageW(Grid(), WM_LBUTTONUP, keys, further);
+      PostTick();
+    });
+  }
+  Perform([&] {
+    SendMessageW(Grid(), WM_LBUTTONDOWN, keys | MK_LBUTTON, place);
+    SendMessageW(Grid(), WM_LBUTTONUP, keys, place);
+    HoldKeys(ctrl, false, later);
+    SendMessageW(Grid(), WM_LBUTTONDBLCLK, keys | MK_LBUTTON, place);
+    HoldKeys(false, false);
+    if (IsWindow(Grid()) != FALSE && (later || !opens)) SendMessageW(Grid(), WM_LBUTTONUP, keys, opens ? further : place);
+  });
+  return true;
+}
+
+bool Driver::Scroll(const Action& action) {
+  if (model_.listShown || !model_.grid.Scrolls()) return false;
+  static constexpr int requests[] = {SB_LINEDOWN, SB_LINEUP, SB_PAGEDOWN, SB_PAGEUP, SB_BOTTOM, SB_TOP, SB_THUMBPOSITION,
+                                     SB_THUMBTRACK};
+  const int request = requests[action.a % 8];
+  const int thumb = action.b % (std::max(0, model_.grid.InnerHeight() - viewportHeight) + 1);
+  const HWND bar = Item(FrmFindIcon_Vsb);
+  const int steps[] = {model_.grid.LineStep(), -model_.grid.LineStep(), viewportHeight, -viewportHeight};
+  if (request == SB_BOTTOM) {
+    model_.grid.ScrollToEnd();
+  } else if (request == SB_TOP) {
+    model_.grid.ScrollTo(0);
+  } else if (request == SB_THUMBPOSITION || request == SB_THUMBTRACK) {
+    model_.grid.ScrollTo(thumb);
+  } else {
+    model_.grid.ScrollBy(steps[action.a % 8]);
+  }
+  Note("request " + NumberText(request) + " to " + NumberText(model_.grid.Scroll()));
+  Perform([&] {
+    if (request == SB_THUMBPOSITION || request == SB_THUMBTRACK) SetScrollPos(bar, SB_CTL, thumb, FALSE);
+    SendMessageW(Main(), WM_VSCROLL, MAKEWPARAM(request, thumb), reinterpret_cast<LPARAM>(bar));
+  });
+  return true;
+}
+
+bool Driver::TurnWheel(const Action& action) {
+  static constexpr int deltas[] = {-120, 120, -240, -30, 40, -7, 360};
+  const int delta = deltas[action.a % 7];
+  Note(NumberText(delta));
+  UINT lines = 0;
+  SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+  if (!model_.listShown && model_.grid.Scrolls()) model_.grid.Turn(delta, static_cast<int>(lines));
+  RECT place{};
+  GetWindowRect(Item(FrmFindIcon_PicFrame), &place);
+  const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+  if (model_.listShown) return false;
+  PostMessageW(Item(FrmFindIcon_CmdFind), WM_MOUSEWHEEL, MAKEWPARAM(0, delta), MAKELPARAM(middle.x, middle.y));
+  PostTick();
+  return true;
+}
+
+bool Driver::TickType(const Action& action) {
+  const int box = action.a % 7;
+  Note(NumberText(box));
+  model_.TickType(box);
+  Perform([&] { SendMessageW(Item(FrmFindIcon_ChkFileType0 + box), BM_CLICK, 0, 0); });
+  return true;
+}
+
+bool Driver::TickSubDir(const Action& /*action*/) {
+  model_.TickSubDir();
+  Perform([&] { SendMessageW(Item(FrmFindIcon_chkSubDir), BM_CLICK, 0, 0); });
+  return true;
+}
+
+bool Driver::ChooseSize(const Action& action) {
+  const int row = action.a % 4;
+  Note(NumberText(geometries.at(static_cast<std::size_t>(row)).size));
+  model_.ChooseSize(row);
+  Perform([&] {
+    SendMessageW(Item(FrmFindIcon_CboIconSize), CB_SETCURSEL, static_cast<WPARAM>(row), 0);
+    Command(Main(), FrmFindIcon_CboIconSize, CBN_SELCHANGE);
+  });
+  return true;
+}
+
+bool Driver::TypeLimit(const Action& action) {
+  const LimitText& text = limitTexts.at(static_cast<std::size_t>(action.a) % limitTexts.size());
+  Note(text.text);
+  model_.TypeLimit(text);
+  Perform([&] { SetWindowTextA(Item(FrmFindIcon_txtMax), text.text); });
+  return true;
+}
+
+bool Driver::Spin(const Action& action) {
+  const bool up = action.a % 2 == 0;
+  Note(up ? "up" : "down");
+  model_.Spin(up);
+  Perform([&] {
+    SendMessageW(Main(), WM_VSCROLL, up ? SB_LINEUP : SB_LINEDOWN, reinterpret_cast<LPARAM>(Item(FrmFindIcon_udMain)));
+  });
+  return true;
+}
+
+bool Driver::OpenFolder(const Action& action) {
+  const int row = action.a % static_cast<int>(model_.folderRows.size());
+  Note(model_.folderRows.at(static_cast<std::size_t>(row)));
+  const bool byKey = action.b % 3 == 0;
+  model_.OpenFolderRow(row);
+  Perform([&] {
+    SendMessageW(Item(FrmFindIcon_Dir1), LB_SETCURSEL, static_cast<WPARAM>(row), 0);
+    if (byKey) {
+      SendMessageW(Item(FrmFindIcon_Dir1), WM_KEYDOWN, VK_RETURN, 0);
+    } else {
+      Command(Main(), FrmFindIcon_Dir1, LBN_DBLCLK);
+    }
+  });
+  return true;
+}
+
+bool Driver::ChooseDrive(const Action& action) {
+  const int row = action.a % 3;
+  Note(Disk::Drives().at(static_cast<std::size_t>(row)).root);
+  model_.ChooseDrive(row);
+  Perform([&] {
+    SendMessageW(Item(FrmFindIcon_Drive1), CB_SETCURSEL, static_cast<WPARAM>(row), 0);
+    Command(Main(), FrmFindIcon_Drive1, CBN_SELCHANGE);
+  });
+  return true;
+}
+
+bool Driver::SwitchView(const Action& action) {
+  const bool list = action.a % 2 == 1;
+  const int id = (action.b % 2 == 0 ? FrmFindIcon_OptView0 : FrmFindIcon_mnuViewopt0) + (list ? 1 : 0);
+  Note(list ? "list" : "grid");
+  model_.ShowList(list);
+  Perform([&] { Command(Main(), id); });
+  return true;
+}
+
+bool Driver::ClickList(const Action& action) {
+  if (!model_.listShown || model_.entries.empty()) return false;
+  const int count = static_cast<int>(model_.entries.size());
+  const int row = action.a % count;
+  const bool ctrl = action.b % 3 == 1;
+  const bool shift = action.c % 3 == 1 && model_.anchor.has_value();
+  Note("row " + NumberText(row + 1) + (ctrl ? " Ctrl" : "") + (shift ? " Shift" : ""));
+  const HWND list = Item(FrmFindIcon_Lv);
+  model_.ClickRow(row, ctrl, shift);
+  Perform([&] {
+    SendMessageW(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+    RECT place{};
+    place.left = LVIR_LABEL;
+    SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
+    const LPARAM point = MAKELPARAM(place.left + 3, (place.top + place.bottom) / 2);
+    const WPARAM keys = (ctrl ? MK_CONTROL : 0U) | (shift ? MK_SHIFT : 0U);
+    HoldKeys(ctrl, shift);
+    SendMessageW(list, WM_LBUTTONDOWN, keys | MK_LBUTTON, point);
+    SendMessageW(list, WM_LBUTTONUP, keys, point);
+    HoldKeys(false, false);
+  });
+  return true;
+}
+
+bool Driver::DoubleClickList(const Action& action) {
+  if (!model_.listShown || model_.entries.empty()) return false;
+  const Action plain{action.what, action.a, 0, 0};
+  ClickList(plain);
+  const int row = action.a % static_cast<int>(model_.entries.size());
+  rest_.push_back([this, row] {
+    model_.OpenView();
+    Perform([&] {
+      const HWND list = Item(FrmFindIcon_Lv);
+      RECT place{};
+      place.left = LVIR_LABEL;
+      SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
+      const LPARAM point = MAKELPARAM(place.left + 3, (place.top + place.bottom) / 2);
+      SendMessageW(list, WM_LBUTTONDBLCLK, MK_LBUTTON, point);
+    });
+  });
+  return true;
+}
+
+bool Driver::SelectAll(const Action& /*action*/) {
+  if (!model_.listShown || model_.entries.empty()) return false;
+  model_.SelectAllRows();
+  Perform([&] {
+    HoldKeys(true, false);
+    SendMessageW(Item(FrmFindIcon_Lv), WM_KEYDOWN, 'A', 0);
+    HoldKeys(false, false);
+  });
+  return true;
+}
+
+bool Driver::Invert(const Action& /*action*/) {
+  if (model_.entries.empty()) return false;
+  model_.Invert();
+  Perform([&] { Command(Main(), FrmFindIcon_mnuRem); });
+  return true;
+}
+
+bool Driver::Labels(const Action& action) {
+  const int which = action.a % 3;
+  Note(which == 0 ? "shown or not" : which == 1 ? "in all" : "by file");
+  if (which == 0) {
+    model_.ToggleLabel();
+  } else {
+    model_.NumberByFile(which == 2);
+  }
+  static constexpr int items[] = {FrmFindIcon_mnuShowLabel, FrmFindIcon_mnuIL1, FrmFindIcon_mnuIL2};
+  Perform([&] { Command(Main(), items[which]); });
+  return true;
+}
+
+bool Driver::SaveOne(const Action& action) {
+  if (model_.entries.empty()) return false;
+  static constexpr const char* paths[] = {"C:\\out.bmp", "C:\\out", "", "D:\\refused.ico", "C:\\a\\out.Jpg", "C:\\b.gif",
+                                          "C:\\out.png"};
+  static constexpr int items[] = {FrmFindIcon_mnuSaveAs, FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsCursor};
+  const int kind = action.a % 3;
+  const std::string path = paths[action.b % 7];
+  Note(NumberText(kind) + " as \"" + path + "\"");
+  program_->AnswerPath(path);
+  model_.SaveOne(static_cast<Kind>(kind), path);
+  Perform([&] { Command(Main(), items[kind]); });
+  return true;
+}
+
+bool Driver::SaveMany(const Action& action) {
+  if (model_.entries.empty()) return false;
+  static constexpr int items[2][3] = {{FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveAll2, FrmFindIcon_mnuSaveAll3},
+                                      {FrmFindIcon_mnuSaveSel, FrmFindIcon_mnuSaveSel2, FrmFindIcon_mnuSaveSel3}};
+  const int kind = action.a % 3;
+  const int scope = action.b % 2;
+  Note(NumberText(kind) + (scope == 0 ? ", all" : ", the selected"));
+  model_.SaveMany(static_cast<Kind>(kind), static_cast<Scope>(scope));
+  Perform([&] { Command(Main(), items[scope][kind]); });
+  return true;
+}
+
+bool Driver::OpenAbout(const Action& action) {
+  if (action.a % 4 == 0) {
+    Note("no, the contents");
+    Perform([&] { Command(Main(), FrmFindIcon_MnuContent); });
+    return true;
+  }
+  model_.OpenAbout();
+  Perform([&] { Command(Main(), FrmFindIcon_MnuAbout); });
+  return true;
+}
+
+// Files come, change and go; the program is not told.
+bool Driver::ChangeDisk(const Action& action) {
+  static constexpr const char* folders[] = {"C:\\", "C:\\icons", "C:\\icons\\deep", "C:\\icons\\deep\\deeper",
+                                            "C:\\icons\\many", "C:\\program", "D:\\", "D:\\a"};
+  static constexpr const char* names[] = {"a.ico", "b.dll", "c.ani", "d.ico", "e.exe", "g.ico", "h.ocx", "z.ico"};
+  const std::string folder = folders[action.a % 8];
+  const std::string name = names[action.b % 8];
+  const int icons = iconCounts.at(static_cast<std::size_t>(action.c) % iconCounts.size());
+  const bool goes = action.c / 16 % 3 == 0;
+  Note((goes ? "no " : "") + Joined(folder, name) + (goes ? "" : " with " + NumberText(icons)));
+  if (goes) {
+    disk_.Remove(folder, name);
+  } else {
+    disk_.Put(folder, name, icons);
+  }
+  model_.listsAreStale = true;
+  PostTick();
+  return true;
+}
+
+}  // namespace tarvik::model

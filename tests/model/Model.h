@@ -1,0 +1,257 @@
+#pragma once
+
+#include <array>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/Disk.h"
+#include "model/ExpectedFiles.h"
+#include "model/Grid.h"
+#include "model/Texts.h"
+
+namespace tarvik::model {
+
+// Which window takes what the user does.
+enum class Front { Main, Box, View, HotSpot, Chooser, NewFolder, About, JpegOptions, GifOptions };
+
+struct Entry {
+  std::string path;
+  int index = 0;
+  bool selected = false;
+};
+
+struct Box {
+  std::string title;
+  std::string text;
+};
+
+// What the program keeps for its next start; nothing: it never wrote that.
+struct Kept {
+  std::optional<std::string> folder;
+  std::optional<std::string> subDir;
+  int viewWidth = 443;  // pixels
+  int viewHeight = 354;
+};
+
+struct ViewShown {
+  int entry = 0;
+  Picture picture;
+  int zoom = 5;
+  int zoomRow = -1;
+  std::string title;
+  std::string status;
+  bool showRuns = false;
+  int width = 0;
+  int height = 0;
+};
+
+struct ChooserShown {
+  std::string folder;
+  std::string answer;
+  std::string drive;
+  bool offersTypes = false;
+  int types = 0;
+  int type = -1;
+  std::string extension;
+};
+
+enum class Kind { Icon, Image, Cursor };
+enum class Scope { All, Selected };
+
+// What a save must have written: bytes, or for the encoders' formats the bytes that such a file begins with.
+struct Written {
+  Bytes bytes;
+  bool isBeginning = false;
+};
+
+// A text in the limit's box and the number that it is read as; below zero, it is none.
+struct LimitText {
+  const char* text;
+  int value;
+};
+inline constexpr std::array<LimitText, 15> limitTexts{{{"300", 300},
+                                                       {"1", 1},
+                                                       {"20", 20},
+                                                       {"75", 75},
+                                                       {"90", 90},
+                                                       {"150", 150},
+                                                       {"1000", 1000},
+                                                       {"5000", 5000},
+                                                       {"0", 0},
+                                                       {"2.5", 2},
+                                                       {" 40 ", 40},
+                                                       {"1e2", 100},
+                                                       {"99999", 99999},
+                                                       {"abc", -1},
+                                                       {"", -1}}};
+inline constexpr int highestNumber = 32767;  // of the limit; above, the search fails
+
+// What the user must see, and how each thing that the user does changes it. It is written from what the program
+// promises and knows nothing of the program's code.
+class Model {
+ public:
+  Model(Disk& disk, Tongue tongue) : disk_(&disk), tongue_(tongue) {}
+
+  // --- windows
+  void Start(const std::string& programFolder);
+  bool IsRunning() const { return !fronts.empty(); }
+  Front Foremost() const { return fronts.back(); }
+  // How many windows wait for one above them.
+  int Depth() const { return static_cast<int>(fronts.size()) - 1; }
+  bool Has(Front front) const;
+  // The main window is asked to close, from wherever. It refuses while a search or a save is under way.
+  void CloseMain();
+  void EndSession();
+  void AnswerBox();
+  void OpenAbout() { fronts.push_back(Front::About); }
+  void CloseAbout() { fronts.pop_back(); }
+
+  // --- options
+  void ChooseDrive(int row);
+  void OpenFolderRow(int row);
+  void TickType(int box);
+  void TickSubDir() { subDir = !subDir; }
+  void ChooseSize(int row);
+  void TypeLimit(const LimitText& text);
+  void Spin(bool up);
+  void ShowList(bool list) { listShown = list; }
+  void ToggleLabel() { labelShown = !labelShown; }
+  void NumberByFile(bool yes);
+
+  // --- search
+  void Find();
+
+  // --- selection
+  void ClickGrid(int x, int y, bool ctrlAlone);
+  void ClickRow(int row, bool ctrl, bool shift);
+  void SelectAllRows();
+  void Invert();
+
+  // --- the enhanced view
+  void OpenView();
+  void CloseView();
+  void Step(int by);
+  void First();
+  void Last();
+  void RunShow(bool run) { view.showRuns = run; }
+  void Tick();
+  void Zoom(int row);
+  void ResizeView(int width, int height);
+
+  // --- saves; `path` is the answer of the Save dialog, empty: cancelled
+  void SaveOne(Kind kind, const std::string& path);
+  void SaveMany(Kind kind, Scope scope);
+  void EndHotSpot(bool ok);
+  void EndEncoderOptions(bool ok);
+
+  // --- the folder chooser
+  void OpenChooserRow(int row);
+  void ChooseChooserDrive(int row);
+  void ChooseChooserType(int row);
+  void EndChooser(bool ok);
+  void CloseChooserByBox();
+  void OpenNewFolder();
+  void MakeFolder(const std::string& name);
+  void CancelNewFolder() { fronts.pop_back(); }
+
+  bool Answers(int row) const { return row >= 0 && row < static_cast<int>(entries.size()); }
+  bool IsBusy() const { return isSearching || isSaving; }
+  const Geometry& Size() const { return geometries[static_cast<std::size_t>(sizeRow)]; }
+  Tongue Language() const { return tongue_; }
+  static std::vector<std::string> FolderRows(const Disk& disk, const std::string& folder);
+
+  // --- what is there to be seen
+  std::vector<Front> fronts;
+  Kept kept;
+
+  std::string title;
+  std::string status;
+  std::string label;
+  std::string drive;
+  std::string folder;
+  std::vector<std::string> folderRows;  // full paths
+  int folderRow = 0;
+  std::vector<std::string> files;
+  bool listsAreStale = false;  // files changed on the disk since both lists were filled
+  std::array<bool, 7> types{};
+  std::string pattern;
+  bool subDir = false;
+  int sizeRow = 0;
+  std::string limitText;
+  int spinner = 0;
+  bool listShown = false;
+  bool labelShown = true;
+  bool byFile = false;
+  bool isSearching = false;
+  bool isSaving = false;
+  bool findEnabled = true;
+  bool okEnabled = false;
+  bool closeEnabled = true;
+  bool fileEnabled = true;
+  bool editEnabled = true;
+
+  Grid grid;
+  std::vector<Entry> entries;
+  bool hasColumns = false;
+  int iconCount = 0;
+  int nextNumber = 0;
+  int current = 0;
+  int frameX = 0;
+  int frameY = 0;
+  std::optional<int> anchor;  // the row that Shift goes on from
+
+  Box box;
+  ViewShown view;
+  ChooserShown chooser;
+  std::string newFolderParent;
+  std::string newFolderName;
+  Spot hotSpot;
+  std::map<std::string, Written> written;  // since it was last looked at
+  std::string handedPath;                  // by OK
+  int handedIndex = 0;
+
+ private:
+  enum class After { Nothing, FailureExit, Saving };
+
+  void SetFolder(const std::string& path);
+  void FillLists();
+  void SetEnabled(bool enabled);
+  void FailureExit();
+  void Count(const std::string& root, std::string& dirAt);
+  void List(const std::string& root);
+  bool IsRefused();
+  void ShowBox(const std::string& boxTitle, const std::string& text, After after);
+
+  void ShowCurrentLabel();
+  void Choose(int index, int x, int y, bool ctrl);
+  void SetSelected(int row, bool selected);
+  int CornerX(int index) const { return index % Size().columns * Size().pitch + 1; }
+  int CornerY(int index) const { return index / Size().columns * Size().pitch + 1; }
+
+  Capture Rendered(int row) const;
+  void ShowEntry();
+
+  void FinishOne(const std::string& path);
+  void WriteMany();
+  void Write(const std::string& path, const Capture& icon);
+  void EndSaving() { isSaving = false; }
+
+  Disk* disk_;
+  Tongue tongue_;
+  After afterBox_ = After::Nothing;
+  Kind kind_ = Kind::Icon;
+  Scope scope_ = Scope::All;
+  bool many_ = false;
+  std::string path_;        // of a single save
+  std::string saveFolder_;  // of a batch
+  std::string statusBefore_;
+  std::size_t nextToWrite_ = 0;
+  int savedFiles_ = 0;
+};
+
+// Whether the made machine refuses to write there.
+bool IsRefusedPath(const std::string& path);
+
+}  // namespace tarvik::model

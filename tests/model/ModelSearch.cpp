@@ -1,0 +1,107 @@
+// A search: counting, refusing, listing.
+#include <string>
+
+#include "model/Model.h"
+
+namespace tarvik::model {
+namespace {
+
+constexpr std::size_t charactersInBox = 20;
+
+// Below zero for a text that is no number.
+int ReadLimit(const std::string& text) {
+  for (const LimitText& known : limitTexts) {
+    if (text == known.text) return known.value;
+  }
+  return std::stoi(text);
+}
+
+}  // namespace
+
+void Model::SetEnabled(bool enabled) {
+  findEnabled = okEnabled = closeEnabled = fileEnabled = editEnabled = enabled;
+}
+
+void Model::FailureExit() {
+  findEnabled = true;
+  closeEnabled = true;
+  isSearching = false;
+  grid.Blank();
+  FillLists();
+}
+
+// `dirAt` is the folder that the title names: the one that the walk stands in while it looks at the files.
+void Model::Count(const std::string& root, std::string& dirAt) {
+  for (const std::string& name : disk_->Files(root, pattern)) {
+    iconCount += disk_->IconsOf(root + "\\" + name);
+    title = words::title.In(tongue_, dirAt, std::to_string(iconCount));
+  }
+  if (!subDir) return;
+  for (const std::string& path : disk_->SubFolders(root)) {
+    dirAt = root;
+    Count(path, dirAt);
+  }
+}
+
+void Model::List(const std::string& root) {
+  for (const std::string& name : disk_->Files(root, pattern)) {
+    const std::string path = root + "\\" + name;
+    const auto file = disk_->Find(path);
+    for (int index = 0; index < disk_->IconsOf(path); ++index) {
+      entries.push_back({path, index, false});
+      grid.DrawIcon(Size(), nextNumber - 1, {file->id, index});
+      ++nextNumber;
+    }
+  }
+  if (!subDir) return;
+  for (const std::string& path : disk_->SubFolders(root)) List(path);
+}
+
+bool Model::IsRefused() {
+  const std::string count = std::to_string(iconCount);
+  if (iconCount == 0) {
+    ShowBox("Brindle Tarvik", words::noIcons.In(tongue_, folder.substr(0, charactersInBox)), After::FailureExit);
+    return true;
+  }
+  const int limit = ReadLimit(limitText);
+  if (limit < 0 || limit > highestNumber) {
+    FailureExit();
+    const Words& text = limit < 0 ? words::mismatch : words::overflow;
+    ShowBox(words::errorTitle.In(tongue_), text.In(tongue_), After::Nothing);
+    return true;
+  }
+  if (iconCount <= limit) return false;
+  const bool canRaise = iconCount < Size().highestLimit;
+  const std::string bound = std::to_string(canRaise ? limit : Size().highestLimit);
+  ShowBox("Brindle Tarvik", (canRaise ? words::raiseLimit : words::narrowFolders).In(tongue_, count, bound),
+          After::FailureExit);
+  return true;
+}
+
+void Model::Find() {
+  isSearching = true;
+  SetEnabled(false);
+  iconCount = 0;
+  std::string dirAt = folder;
+  Count(folder, dirAt);
+  entries.clear();
+  hasColumns = true;
+  anchor.reset();
+  if (IsRefused()) return;
+  nextNumber = 1;
+  grid.Blank();
+  grid.SizeFor(Size(), iconCount);
+  List(folder);
+  title = words::title.In(tongue_, folder, std::to_string(iconCount));
+  status = words::added.In(tongue_, std::to_string(entries.size()));
+  label = words::firstSelected.In(tongue_);
+  frameX = frameY = 1;
+  grid.Frame(1, 1, Size().firstFrame - 1, true);
+  current = 0;
+  SetEnabled(true);
+  isSearching = false;
+  entries.front().selected = true;
+  FillLists();
+}
+
+}  // namespace tarvik::model

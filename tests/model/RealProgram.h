@@ -1,0 +1,48 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "model/MadeMachine.h"
+#include "model/Model.h"
+
+namespace tarvik::model {
+
+// The program's real windows over a made machine, from one start to its end.
+class RealProgram {
+ public:
+  // `disk` and `settings` outlive it; settings are by "Section/Key", and written as the program writes them.
+  RealProgram(Disk& disk, std::map<std::string, std::string>& settings, Tongue tongue);
+  ~RealProgram();
+  RealProgram(const RealProgram&) = delete;
+  RealProgram& operator=(const RealProgram&) = delete;
+
+  // The main window; null when it is gone.
+  HWND Main() const;
+  // Serves messages until `isDone`.
+  void Serve(const std::function<bool()>& isDone);
+  void ServeWaiting();
+  // Ends all windows as the end of a session does.
+  void End();
+  // Whether the program would end now: no window of its is left.
+  bool WouldEnd();
+
+  // What the Save dialog answers from now on.
+  void AnswerPath(const std::string& path);
+  MadeFiles& Files();
+  std::string HandedPath() const;
+  int HandedIndex() const;
+  Spot HotSpot() const;
+
+  static constexpr const char* ownFolder = "C:\\program";
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace tarvik::model

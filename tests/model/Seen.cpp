@@ -1,0 +1,195 @@
+#include "model/Seen.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <array>
+#include <cwchar>
+
+#include "platform/Handles.h"
+
+namespace tarvik::model::seen {
+namespace {
+
+constexpr int boxText = 0xFFFF;  // the static control of a message box
+constexpr std::size_t longest = 1024;
+
+std::string Utf8(const wchar_t* text) {
+  const int length = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+  std::string bytes(static_cast<std::size_t>(std::max(length, 1)), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, text, -1, bytes.data(), length, nullptr, nullptr);
+  bytes.pop_back();
+  return bytes;
+}
+
+template <typename Wanted>
+HWND FirstInSight(Wanted wanted) {
+  struct Search {
+    Wanted& isWanted;
+    HWND found;
+  } search{wanted, nullptr};
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM parameter) -> BOOL {
+        auto& looked = *reinterpret_cast<Search*>(parameter);
+        if (IsWindowVisible(window) == FALSE || !looked.isWanted(window)) return TRUE;
+        looked.found = window;
+        return FALSE;
+      },
+      reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+UINT MenuState(HWND window, int item, UINT by) {
+  return GetMenuState(GetMenu(window), static_cast<UINT>(item), by);
+}
+
+// A picture in memory that windows are copied into.
+class Copy {
+ public:
+  Copy() : dc_(CreateCompatibleDC(nullptr)) {}
+
+  const Picture& Of(HWND window, int width, int height) {
+    Grow(width, height);
+    const WindowDc source(window);
+    BitBlt(dc_.get(), 0, 0, width, height, source.get(), 0, 0, SRCCOPY);
+    GdiFlush();
+    picture_.width = width;
+    picture_.height = height;
+    picture_.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    Pixel* out = picture_.pixels.data();
+    for (int y = 0; y < height; ++y) {
+      const Pixel* row = bits_ + static_cast<std::ptrdiff_t>(y) * width_;
+      for (int x = 0; x < width; ++x) {
+        const Pixel color = row[x];
+        *out++ = (color & 0xFFU) << 16 | (color & 0xFF00U) | (color >> 16 & 0xFFU);
+      }
+    }
+    return picture_;
+  }
+
+ private:
+  void Grow(int width, int height) {
+    if (width <= width_ && height <= height_) return;
+    width_ = std::max(width, width_);
+    height_ = std::max(height, height_);
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width_;
+    info.bmiHeader.biHeight = -height_;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* bits = nullptr;
+    BitmapHandle bitmap(CreateDIBSection(dc_.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    SelectObject(dc_.get(), bitmap.get());
+    bitmap_ = std::move(bitmap);
+    bits_ = static_cast<const Pixel*>(bits);
+  }
+
+  MemoryDc dc_;
+  BitmapHandle bitmap_;
+  const Pixel* bits_ = nullptr;
+  int width_ = 0;
+  int height_ = 0;
+  Picture picture_;
+};
+
+}  // namespace
+
+std::string Text(HWND window) {
+  std::array<wchar_t, longest> text{};
+  SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+  return Utf8(text.data());
+}
+
+std::string Status(HWND bar) {
+  std::array<wchar_t, longest> text{};
+  SendMessageW(bar, SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(text.data()));
+  return Utf8(text.data());
+}
+
+std::vector<std::string> ListRows(HWND listBox) {
+  std::vector<std::string> rows;
+  const LRESULT count = SendMessageW(listBox, LB_GETCOUNT, 0, 0);
+  for (LRESULT row = 0; row < count; ++row) {
+    std::array<wchar_t, longest> text{};
+    SendMessageW(listBox, LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+    rows.push_back(Utf8(text.data()));
+  }
+  return rows;
+}
+
+std::string ChosenComboRow(HWND comboBox) {
+  const LRESULT row = SendMessageW(comboBox, CB_GETCURSEL, 0, 0);
+  std::array<wchar_t, longest> text{};
+  if (row != CB_ERR)
+    SendMessageW(comboBox, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+  return Utf8(text.data());
+}
+
+std::string Cell(HWND listView, int row, int column) {
+  std::array<wchar_t, longest> text{};
+  LVITEMW item{};
+  item.iSubItem = column;
+  item.pszText = text.data();
+  item.cchTextMax = static_cast<int>(text.size());
+  SendMessageW(listView, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  return Utf8(text.data());
+}
+
+std::string Header(HWND listView, int column) {
+  std::array<wchar_t, longest> text{};
+  LVCOLUMNW definition{};
+  definition.mask = LVCF_TEXT;
+  definition.pszText = text.data();
+  definition.cchTextMax = static_cast<int>(text.size());
+  const bool isThere = SendMessageW(listView, LVM_GETCOLUMNW, static_cast<WPARAM>(column),
+                                    reinterpret_cast<LPARAM>(&definition)) != 0;
+  return isThere ? Utf8(text.data()) : std::string();
+}
+
+bool IsMenuEnabled(HWND window, int id) {
+  return (MenuState(window, id, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+bool IsBarMenuEnabled(HWND window, int place) {
+  return (MenuState(window, place, MF_BYPOSITION) & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+bool IsMenuChecked(HWND window, int id) {
+  return (MenuState(window, id, MF_BYCOMMAND) & MF_CHECKED) != 0;
+}
+
+bool IsShown(HWND control) {
+  return (GetWindowLongW(control, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+const Picture& Pixels(HWND window, int width, int height) {
+  static Copy copy;
+  return copy.Of(window, width, height);
+}
+
+HWND WindowWith(int id) {
+  return FirstInSight([id](HWND window) { return GetDlgItem(window, id) != nullptr; });
+}
+
+HWND MessageBoxInSight() {
+  return WindowWith(boxText);
+}
+
+std::string BoxText(HWND box) {
+  return Text(GetDlgItem(box, boxText));
+}
+
+void PaintAll() {
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM /*parameter*/) -> BOOL {
+        if (IsWindowVisible(window) != FALSE)
+          RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_ERASENOW);
+        return TRUE;
+      },
+      0);
+}
+
+}  // namespace tarvik::model::seen
