@@ -65,15 +65,19 @@ bool Driver::FindByEnter(const Action& /*action*/) {
   return true;
 }
 
-// The search serves what waits: clicks and a second search do nothing then.
+// The search serves what waits: clicks, commands and a wish to close do nothing then. A search that an error ended is
+// over when its box comes.
 bool Driver::FindWithClicksWaiting(const Action& action) {
   const POINT point = PointOnGrid(action);
-  PostMessageW(Grid(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
-  PostMessageW(Grid(), WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
-  PostMessageW(Main(), WM_COMMAND, FrmFindIcon_mnuRem, 0);
-  PostMessageW(Main(), WM_COMMAND, FrmFindIcon_mnuSaveAs, 0);
-  PostMessageW(Main(), WM_CLOSE, 0, 0);
-  Find([this] { Command(Main(), FrmFindIcon_CmdFind); });
+  Find([this, point] {
+    PostMessageW(Grid(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    PostMessageW(Grid(), WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+    PostMessageW(Main(), WM_COMMAND, FrmFindIcon_mnuRem, 0);
+    PostMessageW(Main(), WM_COMMAND, FrmFindIcon_mnuSaveAs, 0);
+    const bool isOver = model_.Foremost() == Front::Box && !model_.IsBusy();
+    if (!isOver) PostMessageW(Main(), WM_CLOSE, 0, 0);
+    Command(Main(), FrmFindIcon_CmdFind);
+  });
   return true;
 }
 
