@@ -13,7 +13,7 @@
 namespace tarvik::model {
 namespace {
 
-constexpr int rowsLookedAt = 5;
+constexpr int rowsLookedAt = 3;
 
 class Differences {
  public:
@@ -33,75 +33,75 @@ class Differences {
   std::string found_;
 };
 
-void CompareTexts(Differences& all, const Model& model, HWND window) {
-  all.Expect("title", model.title, seen::Text(window));
-  all.Expect("status", model.status, seen::Status(GetDlgItem(window, FrmFindIcon_sbMain)));
-  all.Expect("label", model.label, seen::Text(window, FrmFindIcon_lblInfo));
-  all.Expect("label shown", model.labelShown, seen::IsShown(GetDlgItem(window, FrmFindIcon_lblInfo)));
-  all.Expect("limit", model.limitText, seen::Text(window, FrmFindIcon_txtMax));
+void CompareTexts(Differences& all, const Model& model, const seen::Controls& at) {
+  all.Expect("title", model.title, seen::Text(at.Window()));
+  all.Expect("status", model.status, seen::Status(at.Of(FrmFindIcon_sbMain)));
+  all.Expect("label", model.label, seen::Text(at.Of(FrmFindIcon_lblInfo)));
+  all.Expect("label shown", model.labelShown, seen::IsShown(at.Of(FrmFindIcon_lblInfo)));
+  all.Expect("limit", model.limitText, seen::Text(at.Of(FrmFindIcon_txtMax)));
 }
 
-void CompareOptions(Differences& all, const Model& model, HWND window) {
+void CompareOptions(Differences& all, const Model& model, const seen::Controls& at) {
   for (int i = 0; i < 7; ++i) {
-    const bool ticked = IsDlgButtonChecked(window, FrmFindIcon_ChkFileType0 + i) == BST_CHECKED;
+    const bool ticked = seen::IsTicked(at.Of(FrmFindIcon_ChkFileType0 + i));
     all.Expect("file type " + std::to_string(i), model.types.at(static_cast<std::size_t>(i)), ticked);
   }
-  all.Expect("sub-folders", model.subDir, IsDlgButtonChecked(window, FrmFindIcon_chkSubDir) == BST_CHECKED);
-  const int sizeRow = static_cast<int>(SendMessageW(GetDlgItem(window, FrmFindIcon_CboIconSize), CB_GETCURSEL, 0, 0));
+  all.Expect("sub-folders", model.subDir, seen::IsTicked(at.Of(FrmFindIcon_chkSubDir)));
+  const int sizeRow = static_cast<int>(SendMessageW(at.Of(FrmFindIcon_CboIconSize), CB_GETCURSEL, 0, 0));
   all.Expect("size", model.sizeRow, sizeRow);
   const auto drive = std::ranges::find(Disk::Drives(), model.drive, &Disk::Drive::root);
-  all.Expect("drive", drive->text, seen::ChosenComboRow(GetDlgItem(window, FrmFindIcon_Drive1)));
+  all.Expect("drive", drive->text, seen::ChosenComboRow(at.Of(FrmFindIcon_Drive1)));
 }
 
-void CompareLists(Differences& all, const Model& model, HWND window) {
+void CompareLists(Differences& all, const Model& model, const seen::Controls& at) {
   if (model.listsAreStale || model.isSearching) return;
   std::string folders;
   for (const std::string& path : model.folderRows) folders += LastName(path) + "|";
   std::string shownFolders;
-  for (const std::string& row : seen::ListRows(GetDlgItem(window, FrmFindIcon_Dir1))) shownFolders += row + "|";
+  for (const std::string& row : seen::ListRows(at.Of(FrmFindIcon_Dir1))) shownFolders += row + "|";
   all.Expect("folders", folders, shownFolders);
   all.Expect("chosen folder", model.folderRow,
-             static_cast<int>(SendMessageW(GetDlgItem(window, FrmFindIcon_Dir1), LB_GETCURSEL, 0, 0)));
+             static_cast<int>(SendMessageW(at.Of(FrmFindIcon_Dir1), LB_GETCURSEL, 0, 0)));
   std::string files;
   for (const std::string& name : model.files) files += name + "|";
   std::string shownFiles;
-  for (const std::string& row : seen::ListRows(GetDlgItem(window, FrmFindIcon_File1))) shownFiles += row + "|";
+  for (const std::string& row : seen::ListRows(at.Of(FrmFindIcon_File1))) shownFiles += row + "|";
   all.Expect("files", files, shownFiles);
 }
 
-void CompareEnabled(Differences& all, const Model& model, HWND window) {
-  const auto isEnabled = [window](int id) { return IsWindowEnabled(GetDlgItem(window, id)) != FALSE; };
+void CompareEnabled(Differences& all, const Model& model, const seen::Controls& at) {
+  const auto isEnabled = [&at](int id) { return IsWindowEnabled(at.Of(id)) != FALSE; };
   all.Expect("Find enabled", model.findEnabled, isEnabled(FrmFindIcon_CmdFind));
   all.Expect("OK enabled", model.okEnabled, isEnabled(FrmFindIcon_CmdOk));
   all.Expect("Close enabled", model.closeEnabled, isEnabled(FrmFindIcon_CmdClose));
-  all.Expect("File enabled", model.fileEnabled, seen::IsBarMenuEnabled(window, 0));
-  all.Expect("Edit enabled", model.editEnabled, seen::IsBarMenuEnabled(window, 1));
+  all.Expect("File enabled", model.fileEnabled, seen::IsBarMenuEnabled(at.Window(), 0));
+  all.Expect("Edit enabled", model.editEnabled, seen::IsBarMenuEnabled(at.Window(), 1));
   for (const int id : {FrmFindIcon_mnuSaveAs, FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsCursor,
                        FrmFindIcon_mnuSaveSel, FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveSel2, FrmFindIcon_mnuSaveAll2,
                        FrmFindIcon_mnuSaveSel3, FrmFindIcon_mnuSaveAll3, FrmFindIcon_mnuCopy, FrmFindIcon_mnuRem})
-    all.Expect("menu item " + std::to_string(id) + " enabled", !model.entries.empty(), seen::IsMenuEnabled(window, id));
-  all.Expect("window enabled", model.Depth() == 0, IsWindowEnabled(window) != FALSE);
+    all.Expect("menu item " + std::to_string(id) + " enabled", !model.entries.empty(), seen::IsMenuEnabled(at.Window(), id));
+  all.Expect("window enabled", model.Depth() == 0, IsWindowEnabled(at.Window()) != FALSE);
 }
 
-void CompareView(Differences& all, const Model& model, HWND window) {
-  const HWND frame = GetDlgItem(window, FrmFindIcon_PicFrame);
+void CompareView(Differences& all, const Model& model, const seen::Controls& at) {
+  const HWND frame = at.Of(FrmFindIcon_PicFrame);
   all.Expect("grid shown", !model.listShown, seen::IsShown(frame));
-  all.Expect("bar shown", !model.listShown, seen::IsShown(GetDlgItem(window, FrmFindIcon_Vsb)));
-  all.Expect("list shown", model.listShown, seen::IsShown(GetDlgItem(window, FrmFindIcon_Lv)));
+  all.Expect("bar shown", !model.listShown, seen::IsShown(at.Of(FrmFindIcon_Vsb)));
+  all.Expect("list shown", model.listShown, seen::IsShown(at.Of(FrmFindIcon_Lv)));
   for (int i = 0; i < 2; ++i) {
     const bool chosen = (i == 1) == model.listShown;
-    all.Expect("view button", chosen, IsDlgButtonChecked(window, FrmFindIcon_OptView0 + i) == BST_CHECKED);
-    all.Expect("view item", chosen, seen::IsMenuChecked(window, FrmFindIcon_mnuViewopt0 + i));
-    all.Expect("numbering", (i == 1) == model.byFile, seen::IsMenuChecked(window, FrmFindIcon_mnuIL1 + i));
+    all.Expect("view button", chosen, seen::IsTicked(at.Of(FrmFindIcon_OptView0 + i)));
+    all.Expect("view item", chosen, seen::IsMenuChecked(at.Window(), FrmFindIcon_mnuViewopt0 + i));
+    all.Expect("numbering", (i == 1) == model.byFile, seen::IsMenuChecked(at.Window(), FrmFindIcon_mnuIL1 + i));
   }
-  all.Expect("label item", model.labelShown, seen::IsMenuChecked(window, FrmFindIcon_mnuShowLabel));
+  all.Expect("label item", model.labelShown, seen::IsMenuChecked(at.Window(), FrmFindIcon_mnuShowLabel));
 }
 
 // The grid as it is seen through the viewport, every pixel.
-void CompareGrid(Differences& all, const Model& model, HWND window) {
-  const HWND frame = GetDlgItem(window, FrmFindIcon_PicFrame);
-  const HWND picture = GetDlgItem(frame, FrmFindIcon_PicIcons);
-  const HWND bar = GetDlgItem(window, FrmFindIcon_Vsb);
+void CompareGrid(Differences& all, const Model& model, const seen::Controls& at) {
+  const HWND frame = at.Of(FrmFindIcon_PicFrame);
+  const HWND picture = at.Of(FrmFindIcon_PicIcons);
+  const HWND bar = at.Of(FrmFindIcon_Vsb);
   SCROLLINFO info{};
   info.cbSize = sizeof info;
   info.fMask = SIF_POS;
@@ -122,8 +122,8 @@ void CompareGrid(Differences& all, const Model& model, HWND window) {
   const auto from = expected.pixels.begin() + model.grid.Scroll() * width;
   const auto differs = std::mismatch(shown.pixels.begin(), shown.pixels.end(), from);
   if (differs.first == shown.pixels.end()) return;
-  const auto at = differs.first - shown.pixels.begin();
-  all.Add("grid pixel (" + std::to_string(at % width) + ", " + std::to_string(at / width) + " of the viewport): " +
+  const auto wrong = differs.first - shown.pixels.begin();
+  all.Add("grid pixel (" + std::to_string(wrong % width) + ", " + std::to_string(wrong / width) + " of the viewport): " +
           std::to_string(*differs.first) + " and not " + std::to_string(*differs.second) + "\n");
 }
 
@@ -133,8 +133,8 @@ struct Look {
 };
 
 // How the list draws a row: what it is told before it does.
-Look LookOfRow(HWND window, int row) {
-  const HWND list = GetDlgItem(window, FrmFindIcon_Lv);
+Look LookOfRow(const seen::Controls& at, int row) {
+  const HWND list = at.Of(FrmFindIcon_Lv);
   const HDC dc = CreateCompatibleDC(nullptr);
   SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
   NMLVCUSTOMDRAW draw{};
@@ -142,27 +142,27 @@ Look LookOfRow(HWND window, int row) {
   draw.nmcd.dwDrawStage = CDDS_ITEMPREPAINT;
   draw.nmcd.hdc = dc;
   draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(row);
-  SendMessageW(window, WM_NOTIFY, static_cast<WPARAM>(FrmFindIcon_Lv), reinterpret_cast<LPARAM>(&draw));
+  SendMessageW(at.Window(), WM_NOTIFY, static_cast<WPARAM>(FrmFindIcon_Lv), reinterpret_cast<LPARAM>(&draw));
   TEXTMETRICW metrics{};
   GetTextMetricsW(dc, &metrics);
   DeleteDC(dc);
   return {metrics.tmWeight >= FW_BOLD, draw.clrText};
 }
 
-void CompareRow(Differences& all, const Model& model, HWND window, int row) {
-  const HWND list = GetDlgItem(window, FrmFindIcon_Lv);
+void CompareRow(Differences& all, const Model& model, const seen::Controls& at, int row) {
+  const HWND list = at.Of(FrmFindIcon_Lv);
   const Entry& entry = model.entries.at(static_cast<std::size_t>(row));
   const std::string name = "row " + std::to_string(row + 1);
   all.Expect(name, std::to_string(row + 1), seen::Cell(list, row, 0));
   all.Expect(name, entry.path, seen::Cell(list, row, 1));
   all.Expect(name, std::to_string(entry.index), seen::Cell(list, row, 2));
-  const Look look = LookOfRow(window, row);
+  const Look look = LookOfRow(at, row);
   all.Expect(name + " bold", entry.selected, look.bold);
   all.Expect(name + " colour", entry.selected ? 255 : 0, static_cast<int>(look.color));
 }
 
-void CompareRows(Differences& all, const Model& model, HWND window, bool everything) {
-  const HWND list = GetDlgItem(window, FrmFindIcon_Lv);
+void CompareRows(Differences& all, const Model& model, const seen::Controls& at, bool everything) {
+  const HWND list = at.Of(FrmFindIcon_Lv);
   const int count = static_cast<int>(model.entries.size());
   const int rows = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
   all.Expect("rows", count, rows);
@@ -177,21 +177,21 @@ void CompareRows(Differences& all, const Model& model, HWND window, bool everyth
   }
   if (count == 0) return;
   const int step = everything ? 1 : std::max(1, count / rowsLookedAt);
-  for (int row = 0; row < count; row += step) CompareRow(all, model, window, row);
-  CompareRow(all, model, window, std::min(model.current, count - 1));
+  for (int row = 0; row < count; row += step) CompareRow(all, model, at, row);
+  CompareRow(all, model, at, std::min(model.current, count - 1));
 }
 
 }  // namespace
 
-std::string MainDifference(const Model& model, HWND window, bool everything) {
+std::string MainDifference(const Model& model, const seen::Controls& at, bool everything) {
   Differences all;
-  CompareTexts(all, model, window);
-  CompareOptions(all, model, window);
-  CompareLists(all, model, window);
-  CompareEnabled(all, model, window);
-  CompareView(all, model, window);
-  CompareGrid(all, model, window);
-  CompareRows(all, model, window, everything);
+  CompareTexts(all, model, at);
+  CompareOptions(all, model, at);
+  CompareLists(all, model, at);
+  CompareEnabled(all, model, at);
+  CompareView(all, model, at);
+  CompareGrid(all, model, at);
+  CompareRows(all, model, at, everything);
   return all.Found();
 }
 

@@ -118,10 +118,28 @@ std::string NewFolderDifference(const Model& model) {
          Compared("new folder's name", model.newFolderName, seen::Text(window, frmDirCreate_txt));
 }
 
-std::string Named(const char* name, bool expected, int id) {
-  const bool isThere = seen::WindowWith(id) != nullptr;
-  if (isThere == expected) return {};
-  return std::string(name) + (isThere ? " is open\n" : " is not open\n");
+// Whether each of the windows over the main one is open that should be, and no other.
+std::string OpenDifference(const Model& model) {
+  struct Known {
+    Front front;
+    const char* name;
+    int control;
+  };
+  static constexpr Known all[] = {{Front::View, "the enhanced view", frmBit_img},
+                                  {Front::HotSpot, "the hot-spot picker", FrmHotSpot_PicCursor},
+                                  {Front::Chooser, "the folder chooser", frmDir_dirMain},
+                                  {Front::NewFolder, "the dialog for a new folder", frmDirCreate_txt},
+                                  {Front::About, "the About box", FrmSpash_LblEmail},
+                                  {Front::JpegOptions, "the JPEG options", fSaveJPG_txtQual},
+                                  {Front::GifOptions, "the GIF options", FrmConvertGIF_Option1}};
+  const std::vector<HWND> windows = seen::WindowsInSight();
+  std::string difference;
+  for (const Known& known : all) {
+    const bool isOpen = seen::WindowWith(known.control, windows) != nullptr;
+    if (isOpen != model.Has(known.front)) difference += std::string(known.name) + (isOpen ? " is open\n" : " is not open\n");
+  }
+  const auto count = static_cast<int>(windows.size());
+  return difference + Compared("windows in sight", model.Depth() + 1, count);
 }
 
 std::string WrittenDifference(const Model& model, const std::map<std::string, Bytes>& files) {
@@ -150,13 +168,7 @@ std::string WrittenDifference(const Model& model, const std::map<std::string, By
 }  // namespace
 
 std::string DialogDifference(const Model& model) {
-  std::string all = Named("the enhanced view", model.Has(Front::View), frmBit_img) +
-                    Named("the hot-spot picker", model.Has(Front::HotSpot), FrmHotSpot_PicCursor) +
-                    Named("the folder chooser", model.Has(Front::Chooser), frmDir_dirMain) +
-                    Named("the dialog for a new folder", model.Has(Front::NewFolder), frmDirCreate_txt) +
-                    Named("the About box", model.Has(Front::About), FrmSpash_LblEmail) +
-                    Named("the JPEG options", model.Has(Front::JpegOptions), fSaveJPG_txtQual) +
-                    Named("the GIF options", model.Has(Front::GifOptions), FrmConvertGIF_Option1);
+  std::string all = OpenDifference(model);
   if (!all.empty()) return all;
   if (model.Has(Front::Box)) all += BoxDifference(model);
   if (model.Has(Front::View)) all += ViewDifference(model);
@@ -166,10 +178,10 @@ std::string DialogDifference(const Model& model) {
   return all;
 }
 
-std::string Difference(const Model& model, RealProgram& program, bool everything) {
+std::string Difference(const Model& model, RealProgram& program, const seen::Controls& controls, bool everything) {
   const HWND window = program.Main();
   if (window == nullptr || IsWindowVisible(window) == FALSE) return "the main window is gone\n";
-  return MainDifference(model, window, everything) + DialogDifference(model) +
+  return MainDifference(model, controls, everything) + DialogDifference(model) +
          WrittenDifference(model, program.Files().written);
 }
 

@@ -6,8 +6,6 @@
 #include <iostream>
 #include <iterator>
 
-#include "model/Seen.h"
-#include "resource.h"
 
 namespace tarvik::model {
 namespace {
@@ -83,6 +81,7 @@ std::string Driver::Run() {
 void Driver::RunOnce() {
   program_.reset();
   program_ = std::make_unique<RealProgram>(disk_, settings_, model_.Language());
+  controls_.emplace(Main());
   model_.Start(RealProgram::ownFolder);
   PostTick();
   program_->Serve([this] { return isDone_ || !model_.IsRunning(); });
@@ -154,7 +153,7 @@ void Driver::OnTick() {
 void Driver::Next() {
   const bool isLast = next_ == actions_.size();
   const bool everything = isLast || next_ % everythingEach == 0;
-  const std::string difference = Difference(model_, *program_, everything);
+  const std::string difference = Difference(model_, *program_, *controls_, everything);
   if (!difference.empty()) return Stop(difference);
   model_.written.clear();
   program_->Files().written.clear();
@@ -180,7 +179,7 @@ void Driver::DoOneOf(const Choice (&choices)[count], const Action& action) {
   const Choice* chosen = std::begin(choices);
   while (rest >= chosen->weight) rest -= (chosen++)->weight;
   log_.push_back(chosen->name);
-  if (std::getenv("TARVIK_MODEL_TALK") != nullptr) std::cerr << GetTickCount64() << " " << chosen->name << "\n";
+  if (std::getenv("TARVIK_MODEL_TALK") != nullptr) std::cerr << log_.size() << "  " << chosen->name << "\n";
   const std::size_t line = log_.size() - 1;
   if ((this->*chosen->act)(action)) return;
   log_[line] += " (cannot be done now)";

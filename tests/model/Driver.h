@@ -2,18 +2,19 @@
 
 #include <windows.h>
 
-#include <cstdlib>
 #include <deque>
-#include <iostream>
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "model/Disk.h"
 #include "model/Model.h"
 #include "model/RealProgram.h"
+#include "model/Seen.h"
+#include "resource.h"
 
 namespace tarvik::model {
 
@@ -36,7 +37,7 @@ class Driver {
 
   // The first difference; empty if there is none.
   std::string Run();
-  // What was done, one line a step.
+  // What was done, one line a step. With TARVIK_MODEL_TALK set it is also said as it is done.
   const std::vector<std::string>& Log() const { return log_; }
 
  private:
@@ -61,7 +62,7 @@ class Driver {
   void Do(const Action& action);
   // Runs what may keep the program waiting in a window of its own; the next step comes in there.
   void Perform(const std::function<void()>& act);
-  void Note(const std::string& detail) { log_.back() += ": " + detail; if (std::getenv("TARVIK_MODEL_TALK") != nullptr) std::cerr << detail << "\n"; }
+  void Note(const std::string& detail) { log_.back() += ": " + detail; }
 
   // The main window.
   bool FindByButton(const Action& action);
@@ -114,8 +115,8 @@ class Driver {
   void Find(const std::function<void()>& press);
   void Command(HWND window, int id, int code = 0) const;
   HWND Main() const { return program_->Main(); }
-  HWND Item(int id) const { return GetDlgItem(Main(), id); }
-  HWND Grid() const;
+  HWND Item(int id) const { return controls_->Of(id); }
+  HWND Grid() const { return Item(FrmFindIcon_PicIcons); }
   void CloseAsked(int way);
   POINT PointOnGrid(const Action& action) const;
   // Has the keyboard say that these keys are held, until the next call.
@@ -125,6 +126,7 @@ class Driver {
   Model model_;
   std::map<std::string, std::string> settings_;
   std::unique_ptr<RealProgram> program_;
+  std::optional<seen::Controls> controls_;  // of the main window
   std::vector<Action> actions_;
   std::size_t next_ = 0;
   std::deque<std::function<void()>> rest_;  // of a step that the program's own messages come into
@@ -138,8 +140,8 @@ class Driver {
 };
 
 // What differs between the model and the windows; empty if nothing does. `everything` takes in what costs most.
-std::string Difference(const Model& model, RealProgram& program, bool everything);
-std::string MainDifference(const Model& model, HWND window, bool everything);
+std::string Difference(const Model& model, RealProgram& program, const seen::Controls& controls, bool everything);
+std::string MainDifference(const Model& model, const seen::Controls& at, bool everything);
 std::string DialogDifference(const Model& model);
 
 }  // namespace tarvik::model

@@ -22,10 +22,6 @@ std::string NumberText(int number) {
 
 }  // namespace
 
-HWND Driver::Grid() const {
-  return GetDlgItem(Item(FrmFindIcon_PicFrame), FrmFindIcon_PicIcons);
-}
-
 void Driver::Command(HWND window, int id, int code) const {
   SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(GetDlgItem(window, id)));
 }

@@ -4,9 +4,10 @@
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 
-#include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <iostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -37,46 +38,57 @@ struct Arbitrary<tarvik::model::Action> {
 namespace tarvik::model {
 namespace {
 
-// Steps in one run of the tests, and the most in one sequence. TARVIK_MODEL_STEPS asks for another number of them.
+// Steps in one run of the tests, in all parts together, and the most in one sequence. TARVIK_MODEL_STEPS asks for
+// another number of them.
 constexpr int usualSteps = 50000;
+constexpr int parts = 4;
 constexpr int longestSequence = 300;
-constexpr std::uint64_t usualSeed = 20240611;
+constexpr std::uint64_t firstSeed = 1;
 
 int WantedSteps() {
   const char* wanted = std::getenv("TARVIK_MODEL_STEPS");
   return wanted != nullptr ? std::atoi(wanted) : usualSteps;
 }
 
-std::string LastSteps(const std::vector<std::string>& log) {
+std::string Numbered(const std::vector<std::string>& log) {
   std::string lines;
   for (std::size_t i = 0; i < log.size(); ++i) lines += std::to_string(i + 1) + "  " + log[i] + "\n";
   return lines;
 }
 
-TEST(Model, TheWindowsShowWhatTheModelKnowsAfterEachStep) {
+// A sequence has half of the longest one's steps, taken over all of them.
+rc::detail::TestParams ParametersOf(int part) {
+  rc::detail::TestParams parameters = rc::detail::configuration().testParams;
+  if (std::getenv("RC_PARAMS") != nullptr) return parameters;
+  parameters.seed = firstSeed + static_cast<std::uint64_t>(part);
+  parameters.maxSize = longestSequence;
+  parameters.maxSuccess = WantedSteps() / parts * 2 / longestSequence + 1;
+  return parameters;
+}
+
+class ModelTest : public ::testing::TestWithParam<int> {};
+
+TEST_P(ModelTest, TheWindowsShowWhatTheModelKnowsAfterEachStep) {
   std::size_t steps = 0;
-  const auto sequences = rc::gen::container<std::vector<Action>>(rc::gen::arbitrary<Action>());
-  const auto isAsTheModel = [&] {
-    const int language = *rc::gen::inRange(0, 3);
-    const std::vector<Action> actions = *sequences;
-    Driver driver(static_cast<Tongue>(language), actions);
+  const auto isAsTheModel = [&steps] {
+    const int tongue = *rc::gen::inRange(0, 3);
+    const auto actions = *rc::gen::container<std::vector<Action>>(rc::gen::arbitrary<Action>());
+    Driver driver(static_cast<Tongue>(tongue), actions);
     const std::string difference = driver.Run();
     steps += driver.Log().size();
-    if (getenv("TARVIK_MODEL_TALK")) { FILETIME a,b,c,d; GetProcessTimes(GetCurrentProcess(),&a,&b,&c,&d);
-  std::cerr<<"steps "<<steps<<" user "<<d.dwLowDateTime/10000<<" kernel "<<c.dwLowDateTime/10000<<" at "<<GetTickCount64()<<"\n";}
-    if (!difference.empty()) RC_FAIL(difference + LastSteps(driver.Log()));
+    if (!difference.empty()) RC_FAIL(difference + Numbered(driver.Log()));
   };
-  rc::detail::TestParams params = rc::detail::configuration().testParams;
-  if (std::getenv("RC_PARAMS") == nullptr) {
-    params.seed = usualSeed;
-    params.maxSize = longestSequence;
-    params.maxSuccess = std::max(1, WantedSteps() * 2 / longestSequence + 1);
-  }
-  const auto result = rc::detail::checkTestable(isAsTheModel, rc::detail::TestMetadata{}, params);
-  rc::detail::printResultMessage(result, std::cerr);
-  EXPECT_TRUE(result.template is<rc::detail::SuccessResult>());
+  const rc::detail::TestParams parameters = ParametersOf(GetParam());
+  const auto result = rc::detail::checkTestable(isAsTheModel, rc::detail::TestMetadata{}, parameters);
+  std::ostringstream told;
+  rc::detail::printResultMessage(result, told);
+  EXPECT_TRUE(result.template is<rc::detail::SuccessResult>())
+      << told.str() << "\nagain with RC_PARAMS=\"seed=" << parameters.seed << " max_size=" << parameters.maxSize
+      << " max_success=" << parameters.maxSuccess << "\"";
   std::cout << steps << " steps\n";
 }
+
+INSTANTIATE_TEST_SUITE_P(Part, ModelTest, ::testing::Range(1, parts + 1));
 
 }  // namespace
 }  // namespace tarvik::model

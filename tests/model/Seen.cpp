@@ -22,24 +22,6 @@ std::string Utf8(const wchar_t* text) {
   return bytes;
 }
 
-template <typename Wanted>
-HWND FirstInSight(Wanted wanted) {
-  struct Search {
-    Wanted& isWanted;
-    HWND found;
-  } search{wanted, nullptr};
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM parameter) -> BOOL {
-        auto& looked = *reinterpret_cast<Search*>(parameter);
-        if (IsWindowVisible(window) == FALSE || !looked.isWanted(window)) return TRUE;
-        looked.found = window;
-        return FALSE;
-      },
-      reinterpret_cast<LPARAM>(&search));
-  return search.found;
-}
-
 UINT MenuState(HWND window, int item, UINT by) {
   return GetMenuState(GetMenu(window), static_cast<UINT>(item), by);
 }
@@ -95,6 +77,20 @@ class Copy {
 };
 
 }  // namespace
+
+Controls::Controls(HWND window) : window_(window) {
+  EnumChildWindows(
+      window,
+      [](HWND control, LPARAM all) -> BOOL {
+        reinterpret_cast<std::unordered_map<int, HWND>*>(all)->emplace(GetDlgCtrlID(control), control);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&all_));
+}
+
+bool IsTicked(HWND button) {
+  return SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
 
 std::string Text(HWND window) {
   std::array<wchar_t, longest> text{};
@@ -169,8 +165,21 @@ const Picture& Pixels(HWND window, int width, int height) {
   return copy.Of(window, width, height);
 }
 
-HWND WindowWith(int id) {
-  return FirstInSight([id](HWND window) { return GetDlgItem(window, id) != nullptr; });
+std::vector<HWND> WindowsInSight() {
+  std::vector<HWND> windows;
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM list) -> BOOL {
+        if (IsWindowVisible(window) != FALSE) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
+
+HWND WindowWith(int id, const std::vector<HWND>& windows) {
+  const auto found = std::ranges::find_if(windows, [id](HWND window) { return GetDlgItem(window, id) != nullptr; });
+  return found == windows.end() ? nullptr : *found;
 }
 
 HWND MessageBoxInSight() {
@@ -182,14 +191,8 @@ std::string BoxText(HWND box) {
 }
 
 void PaintAll() {
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM /*parameter*/) -> BOOL {
-        if (IsWindowVisible(window) != FALSE)
-          RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_ERASENOW);
-        return TRUE;
-      },
-      0);
+  for (const HWND window : WindowsInSight())
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_ERASENOW);
 }
 
 }  // namespace tarvik::model::seen

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "model/Picture.h"
@@ -10,10 +11,26 @@
 // What the windows of this thread show, read as anyone could read it. Texts are UTF-8.
 namespace tarvik::model::seen {
 
+// A window's controls by their ids, found once: the system asks its server each time.
+class Controls {
+ public:
+  explicit Controls(HWND window);
+  HWND Window() const { return window_; }
+  HWND Of(int id) const {
+    const auto found = all_.find(id);
+    return found == all_.end() ? nullptr : found->second;
+  }
+
+ private:
+  HWND window_;
+  std::unordered_map<int, HWND> all_;
+};
+
 std::string Text(HWND window);
 inline std::string Text(HWND window, int id) {
   return Text(GetDlgItem(window, id));
 }
+bool IsTicked(HWND button);
 // The first panel of a status bar.
 std::string Status(HWND bar);
 std::vector<std::string> ListRows(HWND listBox);
@@ -29,8 +46,10 @@ bool IsShown(HWND control);
 // The pixels of a window from its top left corner on, as they are painted. They last until the next call.
 const Picture& Pixels(HWND window, int width, int height);
 
-// The window of this thread in sight that has the control; null without one.
-HWND WindowWith(int id);
+// The top windows of this thread that are in sight.
+std::vector<HWND> WindowsInSight();
+// The one of them that has the control; null without one.
+HWND WindowWith(int id, const std::vector<HWND>& windows = WindowsInSight());
 // The message box in sight, and its text.
 HWND MessageBoxInSight();
 std::string BoxText(HWND box);
