@@ -79,7 +79,8 @@ void CompareEnabled(Differences& all, const Model& model, const seen::Controls& 
   for (const int id : {FrmFindIcon_mnuSaveAs, FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsCursor,
                        FrmFindIcon_mnuSaveSel, FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveSel2, FrmFindIcon_mnuSaveAll2,
                        FrmFindIcon_mnuSaveSel3, FrmFindIcon_mnuSaveAll3, FrmFindIcon_mnuCopy, FrmFindIcon_mnuRem})
-    all.Expect("menu item " + std::to_string(id) + " enabled", !model.entries.empty(), seen::IsMenuEnabled(at.Window(), id));
+    all.Expect("menu item " + std::to_string(id) + " enabled", !model.entries.empty(),
+               seen::IsMenuEnabled(at.Window(), id));
   all.Expect("window enabled", model.Depth() == 0, IsWindowEnabled(at.Window()) != FALSE);
 }
 
@@ -123,8 +124,9 @@ void CompareGrid(Differences& all, const Model& model, const seen::Controls& at)
   const auto differs = std::mismatch(shown.pixels.begin(), shown.pixels.end(), from);
   if (differs.first == shown.pixels.end()) return;
   const auto wrong = differs.first - shown.pixels.begin();
-  all.Add("grid pixel (" + std::to_string(wrong % width) + ", " + std::to_string(wrong / width) + " of the viewport): " +
-          std::to_string(*differs.first) + " and not " + std::to_string(*differs.second) + "\n");
+  all.Add("grid pixel (" + std::to_string(wrong % width) + ", " + std::to_string(wrong / width) +
+          " of the viewport): " + std::to_string(*differs.first) + " and not " + std::to_string(*differs.second) +
+          "\n");
 }
 
 struct Look {

@@ -71,7 +71,9 @@ std::string ViewDifference(const Model& model) {
   if (window == nullptr) return "no enhanced view\n";
   const ViewShown& view = model.view;
   const HWND bar = GetDlgItem(window, frmBit_tlb_control);
-  const auto canPress = [bar](int id) { return SendMessageW(bar, TB_ISBUTTONENABLED, static_cast<WPARAM>(id), 0) != 0; };
+  const auto canPress = [bar](int id) {
+    return SendMessageW(bar, TB_ISBUTTONENABLED, static_cast<WPARAM>(id), 0) != 0;
+  };
   RECT place{};
   GetWindowRect(window, &place);
   return Compared("view's title", view.title, seen::Text(window)) +
@@ -136,7 +138,8 @@ std::string OpenDifference(const Model& model) {
   std::string difference;
   for (const Known& known : all) {
     const bool isOpen = seen::WindowWith(known.control, windows) != nullptr;
-    if (isOpen != model.Has(known.front)) difference += std::string(known.name) + (isOpen ? " is open\n" : " is not open\n");
+    if (isOpen != model.Has(known.front))
+      difference += std::string(known.name) + (isOpen ? " is open\n" : " is not open\n");
   }
   const auto count = static_cast<int>(windows.size());
   return difference + Compared("windows in sight", model.Depth() + 1, count);
@@ -150,13 +153,12 @@ std::string WrittenDifference(const Model& model, const std::map<std::string, By
       all += "not written: " + path + "\n";
       continue;
     }
-    const bool isRight = expected.isBeginning ? std::ranges::equal(expected.bytes.begin(), expected.bytes.end(),
-                                                                   found->second.begin(),
-                                                                   found->second.begin() +
-                                                                       std::min<std::ptrdiff_t>(
-                                                                           std::ssize(expected.bytes),
-                                                                           std::ssize(found->second)))
-                                              : expected.bytes == found->second;
+    const bool isRight =
+        expected.isBeginning
+            ? std::ranges::equal(expected.bytes.begin(), expected.bytes.end(), found->second.begin(),
+                                 found->second.begin() +
+                                     std::min<std::ptrdiff_t>(std::ssize(expected.bytes), std::ssize(found->second)))
+            : expected.bytes == found->second;
     if (!isRight) all += "wrong bytes: " + path + " of " + std::to_string(found->second.size()) + "\n";
   }
   for (const auto& [path, bytes] : files) {

@@ -6,7 +6,6 @@
 #include <iostream>
 #include <iterator>
 
-
 namespace tarvik::model {
 namespace {
 
@@ -99,7 +98,9 @@ std::string Driver::Ended() {
   std::string all;
   if (IsWindow(Main()) != FALSE) all += "the main window is still there\n";
   if (all.empty() && !program_->WouldEnd()) all += "the program does not end\n";
-  const auto kept = [this](const char* key) { return settings_.contains(key) ? settings_.at(key) : std::string("none"); };
+  const auto kept = [this](const char* key) {
+    return settings_.contains(key) ? settings_.at(key) : std::string("none");
+  };
   const auto expect = [&all](const char* what, const std::string& expected, const std::string& seen) {
     if (expected != seen) all += std::string(what) + ": \"" + seen + "\" and not \"" + expected + "\"\n";
   };
@@ -217,9 +218,12 @@ void Driver::Do(const Action& action) {
   };
   static constexpr Choice box[] = {{30, "Answer the box", &Driver::AnswerBox},
                                    {1, "Close the main window below the box", &Driver::CloseMainBelow}};
-  static constexpr Choice view[] = {{20, "Step", &Driver::StepView},     {8, "Slide show", &Driver::ShowInView},
-                                    {8, "Zoom", &Driver::ZoomView},      {3, "Resize the view", &Driver::ResizeView},
-                                    {3, "Change the disk", &Driver::ChangeDisk}, {10, "Close the view", &Driver::CloseView},
+  static constexpr Choice view[] = {{20, "Step", &Driver::StepView},
+                                    {8, "Slide show", &Driver::ShowInView},
+                                    {8, "Zoom", &Driver::ZoomView},
+                                    {3, "Resize the view", &Driver::ResizeView},
+                                    {3, "Change the disk", &Driver::ChangeDisk},
+                                    {10, "Close the view", &Driver::CloseView},
                                     {1, "Close the main window below the view", &Driver::CloseMainBelow}};
   static constexpr Choice hotSpot[] = {{2, "Pick a hot spot", &Driver::PickHotSpot},
                                        {4, "End the hot-spot picker", &Driver::EndHotSpot},

@@ -75,8 +75,8 @@ bool Driver::AnswerBox(const Action& /*action*/) {
 }
 
 bool Driver::StepView(const Action& action) {
-  static constexpr int buttons[] = {frmBit_tlb_control_MoveNext, frmBit_tlb_control_MovePrev, frmBit_tlb_control_MoveFirst,
-                                    frmBit_tlb_control_MoveLast};
+  static constexpr int buttons[] = {frmBit_tlb_control_MoveNext, frmBit_tlb_control_MovePrev,
+                                    frmBit_tlb_control_MoveFirst, frmBit_tlb_control_MoveLast};
   static constexpr const char* names[] = {"next", "previous", "first", "last"};
   static constexpr WPARAM keys[] = {VK_NEXT, VK_PRIOR};
   const int way = action.a % 4;
@@ -102,7 +102,8 @@ bool Driver::StepView(const Action& action) {
 bool Driver::ShowInView(const Action& action) {
   const HWND view = seen::WindowWith(frmBit_img);
   const int way = action.a % 6;
-  static constexpr const char* names[] = {"start", "stop", "the clock strikes", "slower", "faster", "the clock strikes"};
+  static constexpr const char* names[] = {"start",  "stop",   "the clock strikes",
+                                          "slower", "faster", "the clock strikes"};
   Note(names[way]);
   if (way == 0 || way == 1) model_.RunShow(way == 0);
   if (way == 2 || way == 5) model_.Tick();

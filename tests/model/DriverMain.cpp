@@ -143,15 +143,16 @@ bool Driver::DoubleClickGrid(const Action& action) {
     HoldKeys(ctrl, false, later);
     SendMessageW(Grid(), WM_LBUTTONDBLCLK, keys | MK_LBUTTON, place);
     HoldKeys(false, false);
-    if (IsWindow(Grid()) != FALSE && (later || !opens)) SendMessageW(Grid(), WM_LBUTTONUP, keys, opens ? further : place);
+    if (IsWindow(Grid()) != FALSE && (later || !opens))
+      SendMessageW(Grid(), WM_LBUTTONUP, keys, opens ? further : place);
   });
   return true;
 }
 
 bool Driver::Scroll(const Action& action) {
   if (model_.listShown || !model_.grid.Scrolls()) return false;
-  static constexpr int requests[] = {SB_LINEDOWN, SB_LINEUP, SB_PAGEDOWN, SB_PAGEUP, SB_BOTTOM, SB_TOP, SB_THUMBPOSITION,
-                                     SB_THUMBTRACK};
+  static constexpr int requests[] = {SB_LINEDOWN, SB_LINEUP, SB_PAGEDOWN,      SB_PAGEUP,
+                                     SB_BOTTOM,   SB_TOP,    SB_THUMBPOSITION, SB_THUMBTRACK};
   const int request = requests[action.a % 8];
   const int thumb = action.b % (std::max(0, model_.grid.InnerHeight() - viewportHeight) + 1);
   const HWND bar = Item(FrmFindIcon_Vsb);
@@ -259,130 +260,11 @@ bool Driver::ChooseDrive(const Action& action) {
   return true;
 }
 
-bool Driver::SwitchView(const Action& action) {
-  const bool list = action.a % 2 == 1;
-  const int id = (action.b % 2 == 0 ? FrmFindIcon_OptView0 : FrmFindIcon_mnuViewopt0) + (list ? 1 : 0);
-  Note(list ? "list" : "grid");
-  model_.ShowList(list);
-  Perform([&] { Command(Main(), id); });
-  return true;
-}
-
-bool Driver::ClickList(const Action& action) {
-  if (!model_.listShown || model_.entries.empty()) return false;
-  const int count = static_cast<int>(model_.entries.size());
-  const int row = action.a % count;
-  const bool ctrl = action.b % 3 == 1;
-  const bool shift = action.c % 3 == 1 && model_.anchor.has_value();
-  Note("row " + NumberText(row + 1) + (ctrl ? " Ctrl" : "") + (shift ? " Shift" : ""));
-  const HWND list = Item(FrmFindIcon_Lv);
-  model_.ClickRow(row, ctrl, shift);
-  Perform([&] {
-    SendMessageW(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
-    RECT place{};
-    place.left = LVIR_LABEL;
-    SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
-    const LPARAM point = MAKELPARAM(place.left + 3, (place.top + place.bottom) / 2);
-    const WPARAM keys = (ctrl ? MK_CONTROL : 0U) | (shift ? MK_SHIFT : 0U);
-    HoldKeys(ctrl, shift);
-    SendMessageW(list, WM_LBUTTONDOWN, keys | MK_LBUTTON, point);
-    SendMessageW(list, WM_LBUTTONUP, keys, point);
-    HoldKeys(false, false);
-  });
-  return true;
-}
-
-bool Driver::DoubleClickList(const Action& action) {
-  if (!model_.listShown || model_.entries.empty()) return false;
-  const Action plain{action.what, action.a, 0, 0};
-  ClickList(plain);
-  const int row = action.a % static_cast<int>(model_.entries.size());
-  rest_.push_back([this, row] {
-    model_.OpenView();
-    Perform([&] {
-      const HWND list = Item(FrmFindIcon_Lv);
-      RECT place{};
-      place.left = LVIR_LABEL;
-      SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
-      const LPARAM point = MAKELPARAM(place.left + 3, (place.top + place.bottom) / 2);
-      SendMessageW(list, WM_LBUTTONDBLCLK, MK_LBUTTON, point);
-    });
-  });
-  return true;
-}
-
-bool Driver::SelectAll(const Action& /*action*/) {
-  if (!model_.listShown || model_.entries.empty()) return false;
-  model_.SelectAllRows();
-  Perform([&] {
-    HoldKeys(true, false);
-    SendMessageW(Item(FrmFindIcon_Lv), WM_KEYDOWN, 'A', 0);
-    HoldKeys(false, false);
-  });
-  return true;
-}
-
-bool Driver::Invert(const Action& /*action*/) {
-  if (model_.entries.empty()) return false;
-  model_.Invert();
-  Perform([&] { Command(Main(), FrmFindIcon_mnuRem); });
-  return true;
-}
-
-bool Driver::Labels(const Action& action) {
-  const int which = action.a % 3;
-  Note(which == 0 ? "shown or not" : which == 1 ? "in all" : "by file");
-  if (which == 0) {
-    model_.ToggleLabel();
-  } else {
-    model_.NumberByFile(which == 2);
-  }
-  static constexpr int items[] = {FrmFindIcon_mnuShowLabel, FrmFindIcon_mnuIL1, FrmFindIcon_mnuIL2};
-  Perform([&] { Command(Main(), items[which]); });
-  return true;
-}
-
-bool Driver::SaveOne(const Action& action) {
-  if (model_.entries.empty()) return false;
-  static constexpr const char* paths[] = {"C:\\out.bmp", "C:\\out", "", "D:\\refused.ico", "C:\\a\\out.Jpg", "C:\\b.gif",
-                                          "C:\\out.png"};
-  static constexpr int items[] = {FrmFindIcon_mnuSaveAs, FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsCursor};
-  const int kind = action.a % 3;
-  const std::string path = paths[action.b % 7];
-  Note(NumberText(kind) + " as \"" + path + "\"");
-  program_->AnswerPath(path);
-  model_.SaveOne(static_cast<Kind>(kind), path);
-  Perform([&] { Command(Main(), items[kind]); });
-  return true;
-}
-
-bool Driver::SaveMany(const Action& action) {
-  if (model_.entries.empty()) return false;
-  static constexpr int items[2][3] = {{FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveAll2, FrmFindIcon_mnuSaveAll3},
-                                      {FrmFindIcon_mnuSaveSel, FrmFindIcon_mnuSaveSel2, FrmFindIcon_mnuSaveSel3}};
-  const int kind = action.a % 3;
-  const int scope = action.b % 2;
-  Note(NumberText(kind) + (scope == 0 ? ", all" : ", the selected"));
-  model_.SaveMany(static_cast<Kind>(kind), static_cast<Scope>(scope));
-  Perform([&] { Command(Main(), items[scope][kind]); });
-  return true;
-}
-
-bool Driver::OpenAbout(const Action& action) {
-  if (action.a % 4 == 0) {
-    Note("no, the contents");
-    Perform([&] { Command(Main(), FrmFindIcon_MnuContent); });
-    return true;
-  }
-  model_.OpenAbout();
-  Perform([&] { Command(Main(), FrmFindIcon_MnuAbout); });
-  return true;
-}
-
 // Files come, change and go; the program is not told.
 bool Driver::ChangeDisk(const Action& action) {
-  static constexpr const char* folders[] = {"C:\\", "C:\\icons", "C:\\icons\\deep", "C:\\icons\\deep\\deeper",
-                                            "C:\\icons\\many", "C:\\program", "D:\\", "D:\\a"};
+  static constexpr const char* folders[] = {
+      "C:\\", "C:\\icons", "C:\\icons\\deep", "C:\\icons\\deep\\deeper", "C:\\icons\\many", "C:\\program",
+      "D:\\", "D:\\a"};
   static constexpr const char* names[] = {"a.ico", "b.dll", "c.ani", "d.ico", "e.exe", "g.ico", "h.ocx", "z.ico"};
   const std::string folder = folders[action.a % 8];
   const std::string name = names[action.b % 8];

@@ -25,8 +25,7 @@ void Grid::DrawIcon(const Geometry& geometry, int place, const IconLook& look) {
   const int top = margin + place / geometry.columns * geometry.pitch;
   for (int y = 0; y < geometry.size; ++y) {
     for (int x = 0; x < geometry.size; ++x) {
-      if (!IsTransparent(geometry.size, x, y))
-        picture_.Set(left + x, top + y, ColorAt(look, geometry.size, x, y));
+      if (!IsTransparent(geometry.size, x, y)) picture_.Set(left + x, top + y, ColorAt(look, geometry.size, x, y));
     }
   }
 }

@@ -19,7 +19,8 @@ class MadeIcon final : public ExtractedIcon {
     const int edge = size / 4;
     if (part != DrawPart::Normal) {
       const RECT transparent{corner.x, corner.y, corner.x + edge, corner.y + edge};
-      FillRect(dc, &transparent, static_cast<HBRUSH>(GetStockObject(part == DrawPart::Mask ? WHITE_BRUSH : BLACK_BRUSH)));
+      FillRect(dc, &transparent,
+               static_cast<HBRUSH>(GetStockObject(part == DrawPart::Mask ? WHITE_BRUSH : BLACK_BRUSH)));
     }
     const IconLook look{file_.id, isAnimation_ ? step : index_};
     DrawPixels(dc, corner, {edge, 0, size, edge}, size, look, part);

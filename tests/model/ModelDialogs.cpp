@@ -8,7 +8,7 @@ namespace tarvik::model {
 namespace {
 
 constexpr int typesAdded = 9;
-constexpr std::array<const char*, typesAdded> extensions{".bmp", ".gif", ".jpg",  ".png", ".wbmp",
+constexpr std::array<const char*, typesAdded> extensions{".bmp", ".gif", ".jpg", ".png", ".wbmp",
                                                          ".tif", ".tga", ".wmf", ".emf"};
 
 }  // namespace

@@ -24,9 +24,8 @@ const Format& FormatOf(Kind kind) {
 std::string UpperExtension(const std::string& path) {
   const auto dot = path.rfind('.');
   std::string extension = dot == std::string::npos ? std::string() : path.substr(dot);
-  std::ranges::transform(extension, extension.begin(), [](unsigned char letter) {
-    return static_cast<char>(std::toupper(letter));
-  });
+  std::ranges::transform(extension, extension.begin(),
+                         [](unsigned char letter) { return static_cast<char>(std::toupper(letter)); });
   return extension;
 }
 
@@ -37,7 +36,8 @@ bool IsEncoders(const std::string& path) {
 }  // namespace
 
 bool IsRefusedPath(const std::string& path) {
-  return path.starts_with("D:\\") && (path.find("refused") != std::string::npos || path.find(" 2.") != std::string::npos);
+  return path.starts_with("D:\\") &&
+         (path.find("refused") != std::string::npos || path.find(" 2.") != std::string::npos);
 }
 
 void Model::Write(const std::string& path, const Capture& icon) {

@@ -99,21 +99,21 @@ RealProgram::RealProgram(Disk& disk, std::map<std::string, std::string>& setting
     : parts_(std::make_unique<Parts>(disk, settings)) {
   Parts& parts = *parts_;
   parts.state.CurrentLanguage = CodeOf(tongue);
-  parts.application.OnRuntimeError = [&parts](Form& form, const RuntimeError& error) {
+  parts.application.onRuntimeError = [&parts](Form& form, const RuntimeError& error) {
     ShowRuntimeError(form.Window(), error, parts.state.CurrentLanguage);
   };
   parts.window = std::make_unique<FrmFindIcon>(
       parts.application,
-      FrmFindIcon::Services{parts.state,
-                            parts.settings,
-                            parts.folders,
-                            parts.folders,
-                            DriveRows,
-                            [&parts](const std::string& folder) { return parts.disk.IsReadable(folder); },
-                            ownFolder,
-                            [&parts] { parts.spash.ShowModal(parts.window->Window()); },
-                            [] {},
-                            {parts.dialogs, parts.files, parts.temporary}});
+      FindIconDependencies{parts.state,
+                           parts.settings,
+                           parts.folders,
+                           parts.folders,
+                           DriveRows,
+                           [&parts](const std::string& folder) { return parts.disk.IsReadable(folder); },
+                           ownFolder,
+                           [&parts] { parts.spash.ShowModal(parts.window->Window()); },
+                           [] {},
+                           {parts.dialogs, parts.files, parts.temporary}});
   parts.window->Show();
 }
 

@@ -139,8 +139,8 @@ std::string Header(HWND listView, int column) {
   definition.mask = LVCF_TEXT;
   definition.pszText = text.data();
   definition.cchTextMax = static_cast<int>(text.size());
-  const bool isThere = SendMessageW(listView, LVM_GETCOLUMNW, static_cast<WPARAM>(column),
-                                    reinterpret_cast<LPARAM>(&definition)) != 0;
+  const bool isThere =
+      SendMessageW(listView, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&definition)) != 0;
   return isThere ? Utf8(text.data()) : std::string();
 }
 

@@ -131,6 +131,47 @@ TEST_F(FrmFindIconSelectionTest, FollowsAChoiceInTheList) {
   EXPECT_TRUE(IsFramed(17));
 }
 
+// The keyboard says that Ctrl or Shift is held for as long as this object lives.
+class HeldKey {
+ public:
+  explicit HeldKey(int key) {
+    std::array<BYTE, 256> keys{};
+    keys.at(static_cast<std::size_t>(key)) = 0x80;
+    SetKeyboardState(keys.data());
+  }
+  ~HeldKey() {
+    std::array<BYTE, 256> keys{};
+    SetKeyboardState(keys.data());
+  }
+  HeldKey(const HeldKey&) = delete;
+  HeldKey& operator=(const HeldKey&) = delete;
+};
+
+TEST_F(FrmFindIconSelectionTest, SelectsARangeOfOneRowInTheList) {
+  Open20();
+  Click(FrmFindIcon_OptView1);
+  const auto click = [this](WPARAM keys) {
+    RECT row{};
+    ListView_GetItemRect(Item(FrmFindIcon_Lv), 2, &row, LVIR_LABEL);
+    const LPARAM point = MAKELPARAM(row.left + 3, (row.top + row.bottom) / 2);
+    SendMessageW(Item(FrmFindIcon_Lv), WM_LBUTTONDOWN, keys | MK_LBUTTON, point);
+    SendMessageW(Item(FrmFindIcon_Lv), WM_LBUTTONUP, keys, point);
+    application.DoEvents();
+  };
+  click(0);
+  {
+    const HeldKey ctrl(VK_CONTROL);
+    click(MK_CONTROL);
+  }
+  {
+    const HeldKey shift(VK_SHIFT);
+    click(MK_SHIFT);
+  }
+  EXPECT_EQ(SelectedRows(), Rows{3});
+  Click(FrmFindIcon_OptView0);
+  EXPECT_TRUE(IsFramed(3));
+}
+
 TEST_F(FrmFindIconSelectionTest, NumbersTheLabelByTheFileOnDemand) {
   machine.files["C:\\icons"] = {"a.dll", "some.dll"};
   machine.icons["C:\\icons\\a.dll"] = 4;
