@@ -29,7 +29,10 @@ Pixel ColorAt(const IconLook& look, int size, int x, int y);
 // The folders and files that the test makes. Paths are those of the system: "C:\", "C:\icons".
 class Disk {
  public:
+  // With folders and files of many kinds.
   Disk();
+  // With that folder alone, which is empty.
+  explicit Disk(const std::string& folder) { folders_[folder]; }
 
   struct Drive {
     std::string root;
@@ -47,6 +50,7 @@ class Disk {
   std::optional<MadeFile> Find(const std::string& path) const;
   int IconsOf(const std::string& path) const;
 
+  void AddFolder(const std::string& path) { folders_[path]; }
   void Put(const std::string& folder, const std::string& name, int icons);
   void Remove(const std::string& folder, const std::string& name);
   bool CanMakeFolder(const std::string& path) const;

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "model/Action.h"
 #include "model/Disk.h"
 #include "model/Model.h"
 #include "model/RealProgram.h"
@@ -17,14 +18,6 @@
 #include "resource.h"
 
 namespace tarvik::model {
-
-// A step of a sequence, as numbers: which of the things that can be done then, and how. Any numbers make a step.
-struct Action {
-  int what = 0;
-  int a = 0;
-  int b = 0;
-  int c = 0;
-};
 
 // Does what a sequence says to the real windows, one step after the other, also while one of them keeps the program
 // waiting; and compares the windows with the model before each step and at the end.

@@ -2,7 +2,6 @@
 #include <windows.h>
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -12,28 +11,7 @@
 #include <vector>
 
 #include "model/Driver.h"
-
-namespace tarvik::model {
-
-void showValue(const Action& action, std::ostream& out) {
-  out << "{" << action.what << ", " << action.a << ", " << action.b << ", " << action.c << "}";
-}
-
-}  // namespace tarvik::model
-
-namespace rc {
-
-template <>
-struct Arbitrary<tarvik::model::Action> {
-  static Gen<tarvik::model::Action> arbitrary() {
-    using tarvik::model::Action;
-    const auto number = gen::inRange(0, 1 << 15);
-    return gen::build<Action>(gen::set(&Action::what, number), gen::set(&Action::a, number),
-                              gen::set(&Action::b, number), gen::set(&Action::c, number));
-  }
-};
-
-}  // namespace rc
+#include "model/Sequences.h"
 
 namespace tarvik::model {
 namespace {
@@ -48,12 +26,6 @@ constexpr std::uint64_t firstSeed = 1;
 int WantedSteps() {
   const char* wanted = std::getenv("TARVIK_MODEL_STEPS");
   return wanted != nullptr ? std::atoi(wanted) : usualSteps;
-}
-
-std::string Numbered(const std::vector<std::string>& log) {
-  std::string lines;
-  for (std::size_t i = 0; i < log.size(); ++i) lines += std::to_string(i + 1) + "  " + log[i] + "\n";
-  return lines;
 }
 
 // A sequence has half of the longest one's steps, taken over all of them.
