@@ -2,12 +2,14 @@
 
 #include <windows.h>
 
+#include <exception>
 #include <functional>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "base/RuntimeError.h"
 #include "export/TemporaryBitmap.h"
 #include "forms/Application.h"
 #include "forms/Form.h"
@@ -55,17 +57,7 @@ class StartUp final : public basInitEntry::StartUpSystem {
   std::function<void()> showFrmSpash_;
 };
 
-}  // namespace
-}  // namespace tarvik
-
-int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*commandLine*/, int /*show*/) {
-  using namespace tarvik;
-  LoadLibrariesFromSystemFolderOnly();
-  // The system would cover a window that serves no messages for some seconds with a picture of it, and a long count
-  // could not show how far it is.
-  DisableProcessWindowsGhosting();
-
-  ProgramState state;
+void Run(HINSTANCE instance, ProgramState& state) {
   IniFile iniFile;
   Settings settings(iniFile, ProgramPath());
   ShellIcons shellIcons;
@@ -117,5 +109,25 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
   DesktopScreen screen;
   basInitEntry::Main(state, language, screen, startUp);
   application.Run();
-  return 0;
+}
+
+}  // namespace
+}  // namespace tarvik
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*commandLine*/, int /*show*/) {
+  using namespace tarvik;
+  LoadLibrariesFromSystemFolderOnly();
+  // The system would cover a window that serves no messages for some seconds with a picture of it, and a long count
+  // could not show how far it is.
+  DisableProcessWindowsGhosting();
+
+  ProgramState state;
+  try {
+    Run(instance, state);
+    return 0;
+  } catch (const std::exception& error) {
+    // No handler was there to stop: the start failed.
+    ShowRuntimeError(nullptr, AsRuntimeError(error), state.CurrentLanguage);
+    return 1;
+  }
 }

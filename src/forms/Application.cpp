@@ -65,7 +65,7 @@ void Application::EndSession() {
 
 void Application::Serve(MSG& message) {
   if (Form* form = FormOf(message.hwnd)) {
-    if (form->PreviewMessage(message)) return;
+    if (form->TakesMessage(message)) return;
     // A letter that a menu and a control both underline is the menu's; the system would look for controls first.
     if (message.message == WM_SYSCHAR && form->TheMenu().OpensBy(static_cast<wchar_t>(message.wParam))) {
       SendMessageW(form->Window(), WM_SYSCOMMAND, SC_KEYMENU, static_cast<LPARAM>(message.wParam));

@@ -4,7 +4,7 @@
 
 #include <windowsx.h>
 
-#include <new>
+#include <exception>
 #include <utility>
 
 #include "forms/ControlNames.h"
@@ -32,8 +32,14 @@ Form::~Form() {
 
 void Form::Load(HWND owner) {
   if (IsLoaded()) return;
-  CreateDialogParamW(application_.Instance(), MAKEINTRESOURCEW(dialogId_), owner, DialogProcedure,
-                     reinterpret_cast<LPARAM>(this));
+  loadFailure_ = nullptr;
+  const HWND window = CreateDialogParamW(application_.Instance(), MAKEINTRESOURCEW(dialogId_), owner, DialogProcedure,
+                                         reinterpret_cast<LPARAM>(this));
+  if (loadFailure_) {
+    if (IsLoaded()) Close();
+    std::rethrow_exception(std::exchange(loadFailure_, nullptr));
+  }
+  if (window == nullptr) throw NoWindowError();
 }
 
 void Form::Show(HWND owner) {
@@ -170,38 +176,49 @@ bool Form::OnContextMenu(HWND /*control*/, std::optional<POINT> /*point*/) {
   return false;
 }
 
-INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) SetWindowLongPtrW(window, DWLP_USER, lParam);
-  auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, DWLP_USER));
-  if (form == nullptr) return FALSE;
+// The boundary of every handler: what it throws goes no further, neither through the system nor out of the message
+// loop. An exception of the processor, as for memory that is not there, is no std::exception and ends the program.
+template <typename Handler>
+INT_PTR Form::Guard(Handler handler) {
   try {
-    return form->HandleOrTell(window, message, wParam, lParam);
-  } catch (const GivenUp&) {
-    return TRUE;
-  }
-}
-
-INT_PTR Form::HandleOrTell(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  try {
-    if (message == WM_INITDIALOG) {
-      Initialise(window);
-      return FALSE;  // the first control gets the focus when the form is shown
+    try {
+      return handler();
+    } catch (const std::exception& error) {
+      application_.onRuntimeError(*this, AsRuntimeError(error));
     }
-    return Handle(message, wParam, lParam);
-  } catch (const RuntimeError& error) {
-    application_.onRuntimeError(*this, error);
-  } catch (const std::bad_alloc&) {
-    application_.onRuntimeError(*this, OutOfMemoryError());
+  } catch (const GivenUp&) {  // NOLINT(bugprone-empty-catch): it is no error
+  } catch (const std::exception&) {
+    MessageBeep(MB_ICONEXCLAMATION);  // there is not even the memory for a message
   }
   return TRUE;
 }
 
+INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) SetWindowLongPtrW(window, DWLP_USER, lParam);
+  auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, DWLP_USER));
+  if (form == nullptr) return FALSE;
+  if (message == WM_INITDIALOG) {
+    form->Initialise(window);
+    return FALSE;  // the first control gets the focus when the form is shown
+  }
+  return form->Guard([&] { return form->Handle(message, wParam, lParam); });
+}
+
+// Nothing may be thrown through the system, so Load throws it on.
 void Form::Initialise(HWND window) {
   window_ = window;
-  application_.Add(*this);
-  menu_.Attach(window);
-  NameControls(window);
-  Form_Load();
+  try {
+    application_.Add(*this);
+    menu_.Attach(window);
+    NameControls(window);
+    Form_Load();
+  } catch (...) {
+    loadFailure_ = std::current_exception();
+  }
+}
+
+bool Form::TakesMessage(const MSG& message) {
+  return Guard([&] { return PreviewMessage(message) ? TRUE : FALSE; }) != FALSE;
 }
 
 INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

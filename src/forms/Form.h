@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <exception>
 #include <memory>
 #include <optional>
 #include <span>
@@ -55,8 +56,8 @@ void CallOn(typename detail::OwnerOf<decltype(Part)>::Type& window, int /*index*
 }
 
 // A window made from a dialog template. It is loaded (the window exists, hidden, and Form_Load has run), shown modeless
-// or modal, hidden, and unloaded. A run-time error thrown by a handler is shown by the application and leaves the
-// window as it is.
+// or modal, hidden, and unloaded. A std::exception thrown by a handler is shown by the application as a run-time error
+// and leaves the window as it is.
 class Form {
  public:
   Form(Application& application, int dialogId);
@@ -64,7 +65,9 @@ class Form {
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
-  // Makes the window, hidden, owned by `owner` or by none, and runs Form_Load. Does nothing where it is loaded.
+  // Makes the window, hidden, owned by `owner` or by none, and runs Form_Load. Does nothing where it is loaded. Throws
+  // NoWindowError if the system makes no window, and what Form_Load throws; the form is then not loaded, and
+  // Form_Unload does not run.
   void Load(HWND owner = nullptr);
   // Loads the form where it is not loaded, and shows it.
   void Show(HWND owner = nullptr);
@@ -135,11 +138,14 @@ class Form {
   }
 
  private:
+  friend class Application;  // hands over messages
   static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  INT_PTR HandleOrTell(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  template <typename Handler>
+  INT_PTR Guard(Handler handler);
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR Answer(LRESULT result);
   void Initialise(HWND window);
+  bool TakesMessage(const MSG& message);
   void SetIcons();
   void FocusFirst();
   INT_PTR Paint();
@@ -152,6 +158,7 @@ class Form {
   HWND window_ = nullptr;
   HWND modalOwner_ = nullptr;  // the window that takes no input while this one is shown modally
   bool wentWithOwner_ = false;
+  std::exception_ptr loadFailure_;  // what Form_Load threw, while the system makes the window
   Menu menu_;
 };
 

@@ -6,6 +6,7 @@
 
 #include "base/Characters.h"
 #include "base/Conversion.h"
+#include "base/Finally.h"
 #include "search/SearchTexts.h"
 
 namespace tarvik {
@@ -47,9 +48,10 @@ void SearchDriver::CmdFind_Click() {
   try {
     Search();
   } catch (...) {
+    // Also if clearing fails: a window that took itself for searching could not even be closed.
+    const Finally exits([this] { FailureExit(); });
     list_.Clear();
     window_.ClearListView();
-    FailureExit();
     throw;
   }
 }

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstddef>
 
+#include "base/Finally.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 #include "resource.h"
@@ -88,6 +89,7 @@ void frmBit::ShowSelectedEntry(HWND owner) {
   const int number = host_.CurrentIndex() + 1;
   host_.RenderEntry(number);
   Load(owner);
+  const Finally unloads([this] { Unload(); });  // a view without its picture would count as open and never be seen
   ShowPicture();
   stepping_.UpdateStatus(number);
   UpdateCaption();  // with the position that the picture took while the view loaded
@@ -98,7 +100,6 @@ void frmBit::Form_Load() {
   AttachControls();
   SetLanguageOfForm();
   basInitEntry::ApplySkinToForm(*this);
-  host_.SetViewOpen(true);
   LoadViewSize();
   Form_Resize();
   stepping_.Begin();
@@ -108,6 +109,7 @@ void frmBit::Form_Load() {
     ComboBox_AddString(Item(frmBit_CboZoom), ToWide(ZoomText(factor)).c_str());
   }
   Zoom(openingZoom);
+  host_.SetViewOpen(true);  // last: a view that cannot be loaded does not unload either
 }
 
 void frmBit::Form_Unload() {

@@ -4,9 +4,14 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
 
+#include "base/AsciiCase.h"
 #include "base/FolderPath.h"
 #include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
@@ -185,6 +190,64 @@ TEST_F(Faults, AClipboardThatAnotherProgramHoldsOpenIsReportedAndLeftAsItIs) {
   EXPECT_THAT(testing::Paste().pixels, IsEmpty());
   EXPECT_THAT(Copy(), ShowsColor(red));
   ExpectUsable();
+}
+
+// A window for which the program's own file names a kind of control that there is not, so that the system refuses it.
+class MissingWindow : public Faults {
+ protected:
+  // Makes the copy's file name another class at the start of `text`, which is found as the dialogs' texts lie in it, in
+  // any case.
+  void Spoil(std::u16string_view text) const {
+    const std::string sought(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t));
+    std::fstream file(damaged_.Path(), std::ios::binary | std::ios::in | std::ios::out);
+    const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    const auto same = [](char a, char b) { return UpperAscii(a) == UpperAscii(b); };
+    const auto found = std::ranges::search(bytes, sought, same);
+    ASSERT_FALSE(found.empty());
+    file.seekp(found.begin() - bytes.begin());
+    ASSERT_TRUE(file.put('?').flush());
+  }
+  // The message, after which the program ends; its exit code.
+  DWORD ExpectMessageAndEnd() {
+    const Box box = damaged_.WaitForBox();
+    EXPECT_EQ(box.Title(), "Brindle Tarvik - Error");
+    EXPECT_EQ(box.Text(), "Windows could not create the window");
+    EXPECT_TRUE(ShowsSign(box, IDI_EXCLAMATION));
+    box.Press(IDOK);
+    return damaged_.WaitForEnd();
+  }
+
+  Program damaged_{home_.Path(), "damaged.exe"};
+};
+
+TEST_F(MissingWindow, IsSaidWhereItIsTheStartUpWindow) {
+  using namespace std::string_view_literals;
+  Spoil(u"TarvikPicture\0Brindle Tarvik"sv);
+  damaged_.Launch();
+  EXPECT_EQ(ExpectMessageAndEnd(), 1U);
+}
+
+TEST_F(MissingWindow, IsSaidWhereItIsTheMainWindow) {
+  Spoil(u"SysListView32");
+  damaged_.Launch();
+  damaged_.WaitForStartUpWindow().Post(WM_TIMER, FrmSpash_Timer1);
+  EXPECT_EQ(ExpectMessageAndEnd(), 0U);
+}
+
+TEST_F(MissingWindow, LeavesTheMainWindowUsableWhereItIsTheView) {
+  Spoil(u"ToolbarWindow32");
+  tree_.MakeFile("a.ico", IconFileOf(red));
+  std::ofstream(damaged_.SettingsFile()) << "[FindIcon]\nFolder=" << tree_.Path() << "\n";
+  damaged_.Start();
+  damaged_.Item(FrmFindIcon_CmdFind).Send(BM_CLICK);
+  for (int time = 0; time < 2; ++time) {
+    Control(GetDlgItem(damaged_.Item(FrmFindIcon_PicFrame).Window(), FrmFindIcon_PicIcons))
+        .Post(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(10, 10));
+    const Box box = damaged_.WaitForBox();
+    EXPECT_EQ(box.Text(), "Windows could not create the window");
+    box.Press(IDOK);
+  }
+  EXPECT_EQ(damaged_.Close(), 0U);
 }
 
 class SettingsFaults : public Faults {

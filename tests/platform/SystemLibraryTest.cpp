@@ -88,21 +88,21 @@ TEST(LateFunction, LoadsItsLibraryWithTheFirstCall) {
   EXPECT_NE(GetModuleHandleW(L"avifil32.dll"), nullptr);
 }
 
-// The text of the error that a call ends with.
+// What the error that a call ends with says besides its kind.
 std::string ErrorOf(const char* library, const char* name) {
   const LateFunction<int(WINAPI*)()> function(library, name);
   EXPECT_EQ(function.Find(), nullptr);
   try {
     function();
   } catch (const MissingFunctionError& error) {
-    return error.what();
+    return error.Detail();
   }
   return "no error";
 }
 
 TEST(LateFunction, SaysWhichFunctionOfWhichLibraryIsMissing) {
-  EXPECT_EQ(ErrorOf("kernel32.dll", "NoSuchFunction"), "Missing function: NoSuchFunction (kernel32.dll)");
-  EXPECT_EQ(ErrorOf("nosuch.dll", "MulDiv"), "Missing function: MulDiv (nosuch.dll)");
+  EXPECT_EQ(ErrorOf("kernel32.dll", "NoSuchFunction"), "NoSuchFunction (kernel32.dll)");
+  EXPECT_EQ(ErrorOf("nosuch.dll", "MulDiv"), "MulDiv (nosuch.dll)");
 }
 
 }  // namespace

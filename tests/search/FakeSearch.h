@@ -175,7 +175,10 @@ class FakeSearchWindow : public SearchWindow, public SearchFolders {
   void SetInfoText(const std::string& text) override { script_.Add("label " + text); }
   void ShowInformation(const std::string& text) override { script_.Add("box " + text); }
 
-  void ClearListView() override { script_.Add("clear list view"); }
+  void ClearListView() override {
+    script_.Add("clear list view");
+    if (onClearListView) onClearListView();
+  }
   void ListChanged() override {
     script_.Add("list changed");
     if (onListChanged) onListChanged();
@@ -201,6 +204,7 @@ class FakeSearchWindow : public SearchWindow, public SearchFolders {
   std::string max = "300";
   std::function<void()> onEvents;
   std::function<void()> onListChanged;
+  std::function<void()> onClearListView;
 
  private:
   Script& script_;

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <new>
 #include <string>
 #include <vector>
 
@@ -301,6 +302,16 @@ TEST_F(SearchDriverTest, TakesTheFailureExitWhenTheLimitIsTooLarge) {
   window.max = "32768";
   AddFile("C:\\a", "1.dll", {.icons = 1});
   EXPECT_THROW(Find(), OverflowError);
+  EXPECT_FALSE(state.IsSearching);
+}
+
+// The window took itself for searching ever after, and could not even be closed.
+TEST_F(SearchDriverTest, TakesTheFailureExitAlsoWhenTheListCannotBeCleared) {
+  window.max = "many";
+  window.onClearListView = [] { throw std::bad_alloc(); };
+  AddFile("C:\\a", "1.dll", {.icons = 1});
+  EXPECT_THROW(Find(), std::bad_alloc);
+  EXPECT_EQ(script.Lines().back(), "clear grid");
   EXPECT_FALSE(state.IsSearching);
 }
 

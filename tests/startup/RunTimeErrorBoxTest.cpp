@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "forms/BoxWatcher.h"
 
 namespace tarvik {
 namespace {
 
-// What a test could not bring about on a system that has all the functions: the others show in the main window.
+// What a test can hardly bring about on a system that works: the others show in the main window.
 TEST(RunTimeErrorBox, NamesAMissingFunctionAndItsLibraryInEachLanguage) {
   struct Row {
     const char* code;
@@ -24,6 +26,17 @@ TEST(RunTimeErrorBox, NamesAMissingFunctionAndItsLibraryInEachLanguage) {
     ASSERT_EQ(boxes.Boxes().size(), 1U) << row.code;
     EXPECT_EQ(boxes.Boxes()[0].title, row.title);
     EXPECT_EQ(boxes.Boxes()[0].text, std::string(row.text) + "\r\n\r\nExtractIconExA (shell32.dll)");
+  }
+}
+
+TEST(RunTimeErrorBox, SaysThatThereIsNoWindowInEachLanguage) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"ENG", "Windows could not create the window"}, {"CHS", "Windows 无法创建窗口"}, {"CHT", "Windows 無法建立視窗"}};
+  for (const auto& [code, text] : rows) {
+    const testing::BoxWatcher boxes;
+    ShowRuntimeError(nullptr, NoWindowError(), code);
+    ASSERT_EQ(boxes.Boxes().size(), 1U) << code;
+    EXPECT_EQ(boxes.Boxes()[0].text, text);
   }
 }
 

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,13 +27,17 @@ class PictureHost final : public FakeHost<EnhancedViewOwner> {
  public:
   PictureHost(int count, Integer16 selection, int size) : FakeHost(count, selection), picIcon_(size, size, white) {}
 
-  const Surface& PicIcon() const override { return picIcon_; }
+  const Surface& PicIcon() const override {
+    if (picturesLeft && (*picturesLeft)-- == 0) throw OutOfMemoryError();
+    return picIcon_;
+  }
   static Color ColorOf(int number, int x, int y) {
     return static_cast<Color>(number * 37 % 256) * 0x10000U + static_cast<Color>(x * 4) * 0x100U +
            static_cast<Color>(y * 4);
   }
 
   std::function<void()> onDraw = [] {};
+  mutable std::optional<int> picturesLeft;  // how often PicIcon gives the picture before memory is out
 
  protected:
   bool Draw(int number) override {

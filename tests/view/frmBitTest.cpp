@@ -367,6 +367,19 @@ TEST_F(frmBitTest, ShowsARunTimeErrorOnceAndStaysUsable) {
   });
 }
 
+// The picture is asked for twice while the view loads and again for what it shows first.
+TEST_F(frmBitTest, OpensAfterThereWasNoMemoryForItsPicture) {
+  for (int pictures = 0; pictures < 3; ++pictures) {
+    host->picturesLeft = pictures;
+    EXPECT_THROW(view->ShowSelectedEntry(owner), OutOfMemoryError);
+    EXPECT_FALSE(view->IsLoaded());
+    EXPECT_FALSE(host->ViewOpen());
+    EXPECT_TRUE(IsWindowEnabled(owner));
+  }
+  host->picturesLeft.reset();
+  WhileOpen([this] { EXPECT_TRUE(IsWindowVisible(view->Window())); });
+}
+
 TEST_F(frmBitTest, HasItsToolbarOnTopTheZoomListUnderItAndTheStatusBarBelow) {
   WhileOpen([this] {
     for (const bool maximised : {false, true}) {

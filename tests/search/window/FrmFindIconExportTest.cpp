@@ -212,7 +212,7 @@ TEST_F(FrmFindIconExportTest, SaysThatThereIsNoRoomForAnIconInsteadOfSavingABlan
   Click(FrmFindIcon_mnuSaveAll);
   ASSERT_EQ(boxes.Boxes().size(), 1U);
   EXPECT_EQ(boxes.Boxes()[0].title, "Brindle Tarvik - Error");
-  EXPECT_EQ(boxes.Boxes()[0].text, outOfMemoryText.eng);
+  EXPECT_EQ(boxes.Boxes()[0].text, RuntimeErrorTextOf(RuntimeErrorKind::OutOfMemory).eng);
   EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"Icon 1.ico"});
   EXPECT_EQ(Status(), status);
   icons.exhausted = false;

@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <functional>
 #include <new>
+#include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "search/window/FindIconFixture.h"
@@ -67,6 +70,36 @@ TEST_F(FrmFindIconTest, ShowsThatMemoryIsOutAndStaysUsable) {
     ASSERT_FALSE(boxes.Boxes().empty());
     EXPECT_EQ(boxes.Boxes().back().text, text);
     EXPECT_TRUE(IsEnabled(FrmFindIcon_CmdFind));
+  }
+}
+
+TEST_F(FrmFindIconTest, ShowsAnyExceptionAndStaysUsable) {
+  class Failing final : public IconSource {
+   public:
+    int CountIcons(const std::string& /*path*/) override {
+      if (failure) failure();
+      return 1;
+    }
+    std::unique_ptr<ExtractedIcon> Extract(const std::string& /*path*/, int /*index*/) override { return nullptr; }
+    std::function<void()> failure;
+  } icons;
+  const auto tooLong = [] { throw std::length_error("too long"); };
+  const auto broken = [] { throw std::runtime_error("no thread"); };
+  const std::tuple<const char*, std::function<void()>, const char*> rows[] = {
+      {"ENG", tooLong, "Out of memory"},
+      {"ENG", broken, "Unexpected error:\r\n\r\nno thread"},
+      {"CHS", broken, "意外错误：\r\n\r\nno thread"},
+      {"CHT", broken, "未預期的錯誤：\r\n\r\nno thread"}};
+  for (const auto& [language, failure, text] : rows) {
+    icons.failure = failure;
+    OpenOver(icons, machine, language);
+    Find(1);
+    ASSERT_FALSE(boxes.Boxes().empty());
+    EXPECT_EQ(boxes.Boxes().back().text, text);
+    EXPECT_TRUE(IsEnabled(FrmFindIcon_CmdFind) && IsEnabled(FrmFindIcon_CmdClose));
+    icons.failure = nullptr;
+    Find(1);
+    EXPECT_EQ(ListView_GetItemCount(Item(FrmFindIcon_Lv)), 1) << "the next search works";
   }
 }
 
