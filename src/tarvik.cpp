@@ -3,10 +3,8 @@
 #include <windows.h>
 
 #include <exception>
-#include <functional>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "base/RuntimeError.h"
@@ -42,19 +40,69 @@ std::vector<DriveListBox::Drive> DriveRows() {
   return rows;
 }
 
+// The program's windows. The start-up window opens the main one, and that one opens it again as About box. Each is made
+// when first shown. They are declared so that none outlives what it uses: the dialogs ask the main window when a
+// command of it opens them, and not after it.
+class Windows {
+ public:
+  // Everything outlives the windows.
+  Windows(Application& application, ProgramState& state, Settings& settings, IconSource& icons, Folders& folders)
+      : application_(application), state_(state), settings_(settings), icons_(icons), folders_(folders) {}
+
+  void ShowFrmSpash() {
+    if (!spash_) spash_.emplace(application_, state_, [this] { ShowFrmFindIcon(); });
+    spash_->Show();
+  }
+
+ private:
+  void ShowFrmFindIcon() {
+    if (!findIcon_) {
+      findIcon_.emplace(application_, FrmFindIcon::Dependencies{state_,
+                                                                settings_,
+                                                                icons_,
+                                                                folders_,
+                                                                DriveRows,
+                                                                IsReadableFolder,
+                                                                ProgramFolder(),
+                                                                [this] { spash_->ShowModal(findIcon_->Window()); },
+                                                                [this] { application_.onHelp(*findIcon_); },
+                                                                {exportDialogs_, files_, temporaryBitmap_}});
+    }
+    findIcon_->Show();
+  }
+
+  Application& application_;
+  ProgramState& state_;
+  Settings& settings_;
+  IconSource& icons_;
+  Folders& folders_;
+  DiskFile files_;
+  TemporaryBitmap temporaryBitmap_{TemporaryBitmapPaths()};
+  ExportDialogs exportDialogs_{
+      application_,
+      state_,
+      {[this] { return findIcon_->Window(); }, [this]() -> const Surface& { return findIcon_->Surfaces().Composed(); },
+       [this]() -> const Surface& { return findIcon_->PicMain(); }},
+      {DriveRows, [this](const std::string& folder) { return folders_.SubFolders(folder); }, CreateFolder,
+       [this] { return findIcon_->Dir1Path(); }},
+      files_};
+  std::optional<FrmSpash> spash_;
+  std::optional<FrmFindIcon> findIcon_;
+};
+
 class StartUp final : public basInitEntry::StartUpSystem {
  public:
-  explicit StartUp(std::function<void()> showFrmSpash) : showFrmSpash_(std::move(showFrmSpash)) {}
+  explicit StartUp(Windows& windows) : windows_(windows) {}
 
   void ShowCriticalMessage(const std::string& text, const std::string& title) override {
     ShowMessage(nullptr, text, title, MessageSign::Critical);
   }
   std::string SystemFolder() override { return tarvik::SystemFolder(); }
   std::string TempFolder() override { return tarvik::TempFolder(); }
-  void ShowFrmSpash() override { showFrmSpash_(); }
+  void ShowFrmSpash() override { windows_.ShowFrmSpash(); }
 
  private:
-  std::function<void()> showFrmSpash_;
+  Windows& windows_;
 };
 
 void Run(HINSTANCE instance, ProgramState& state) {
@@ -68,43 +116,9 @@ void Run(HINSTANCE instance, ProgramState& state) {
   application.onRuntimeError = [&state](Form& form, const RuntimeError& error) {
     ShowRuntimeError(form.Window(), error, state.CurrentLanguage);
   };
-
-  // The start-up window opens the main one, and that one opens it again as About box. Each is made when first shown.
-  std::optional<FrmSpash> spash;
-  std::optional<FrmFindIcon> findIcon;
-  const auto showAbout = [&] { spash->ShowModal(findIcon->Window()); };
-  application.onHelp = [&](Form& form) { OpenGuide(form.Window(), ProgramFolder(), state.CurrentLanguage); };
-  const auto openGuide = [&] { application.onHelp(*findIcon); };
-  DiskFile files;
-  TemporaryBitmap temporaryBitmap(TemporaryBitmapPaths());
-  ExportDialogs exportDialogs(
-      application, state,
-      {[&] { return findIcon->Window(); }, [&]() -> const Surface& { return findIcon->Surfaces().Composed(); },
-       [&]() -> const Surface& { return findIcon->PicMain(); }},
-      {DriveRows, [&](const std::string& folder) { return folders.SubFolders(folder); }, CreateFolder,
-       [&] { return findIcon->Dir1Path(); }},
-      files);
-
-  const auto showMainWindow = [&] {
-    if (!findIcon) {
-      findIcon.emplace(application, FrmFindIcon::Dependencies{state,
-                                                              settings,
-                                                              icons,
-                                                              folders,
-                                                              DriveRows,
-                                                              IsReadableFolder,
-                                                              ProgramFolder(),
-                                                              showAbout,
-                                                              openGuide,
-                                                              {exportDialogs, files, temporaryBitmap}});
-    }
-    findIcon->Show();
-  };
-  StartUp startUp([&] {
-    if (!spash) spash.emplace(application, state, showMainWindow);
-    spash->Show();
-  });
-
+  application.onHelp = [&state](Form& form) { OpenGuide(form.Window(), ProgramFolder(), state.CurrentLanguage); };
+  Windows windows(application, state, settings, icons, folders);
+  StartUp startUp(windows);
   RegistryLanguageStore language;
   DesktopScreen screen;
   basInitEntry::Main(state, language, screen, startUp);

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 
+#include "base/Finally.h"
 #include "forms/Application.h"
 #include "platform/SystemFunctions.h"
 
@@ -26,19 +27,11 @@ static_assert(saveFlags == 2054 && openFlags == 4100);
 constexpr DWORD recordSize = offsetof(OPENFILENAMEA, lpTemplateName) + sizeof(OPENFILENAMEA::lpTemplateName);
 static_assert(recordSize == (sizeof(void*) == 4 ? 76 : 136));
 
-// The dialogs move the program to the folder that was chosen; this moves it back.
-class CurrentFolderKept {
- public:
-  CurrentFolderKept() : folder_(GetCurrentDirectoryW(0, nullptr), L'\0') {
-    folder_.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder_.size()), folder_.data()));
-  }
-  ~CurrentFolderKept() { SetCurrentDirectoryW(folder_.c_str()); }
-  CurrentFolderKept(const CurrentFolderKept&) = delete;
-  CurrentFolderKept& operator=(const CurrentFolderKept&) = delete;
-
- private:
-  std::wstring folder_;
-};
+std::wstring CurrentFolder() {
+  std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
+  folder.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data()));
+  return folder;
+}
 
 std::string Ask(BOOL(WINAPI* show)(OPENFILENAMEA*), DWORD flags, HWND owner, const FileDialogMode& mode,
                 std::string_view code) {
@@ -60,7 +53,9 @@ std::string Ask(BOOL(WINAPI* show)(OPENFILENAMEA*), DWORD flags, HWND owner, con
   record.lpstrTitle = title.c_str();
   record.Flags = flags;
   record.lpstrDefExt = extension.c_str();
-  const CurrentFolderKept folder;
+  // The dialogs move the program to the folder that was chosen.
+  const std::wstring folder = CurrentFolder();
+  const Finally movesBack([&folder] { SetCurrentDirectoryW(folder.c_str()); });
   const bool chosen = show(&record) != 0;
   if (owner != nullptr && IsWindow(owner) == FALSE) throw GivenUp();
   return chosen ? std::string(file.data()) : std::string();

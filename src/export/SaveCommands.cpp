@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/AsciiCase.h"
+#include "base/Finally.h"
 #include "export/ModMicroArt.h"
 #include "export/ModMicroArtFileIO.h"
 #include "export/SaveTexts.h"
@@ -32,22 +33,6 @@ std::string UpperExtension(std::string_view path) {
   std::ranges::transform(extension, extension.begin(), UpperAscii);
   return extension;
 }
-
-// Deletes the temporary bitmap when it ends, however that comes about.
-class TemporaryPictureUse {
- public:
-  explicit TemporaryPictureUse(TemporaryPicture& picture) : picture_(picture) {}
-  ~TemporaryPictureUse() { picture_.Delete(); }
-  TemporaryPictureUse(const TemporaryPictureUse&) = delete;
-  TemporaryPictureUse& operator=(const TemporaryPictureUse&) = delete;
-  TemporaryPictureUse(TemporaryPictureUse&&) = delete;
-  TemporaryPictureUse& operator=(TemporaryPictureUse&&) = delete;
-
-  const PixelView* PassThrough(const PixelView& picture) { return picture_.PassThrough(picture); }
-
- private:
-  TemporaryPicture& picture_;
-};
 
 }  // namespace
 
@@ -132,9 +117,9 @@ void SaveCommands::SaveBitmapNamed(const std::string& path) {
 void SaveCommands::SaveBMPToJPG(const std::string& path) {
   DialogAnswer answer = DialogAnswer::Failed;
   {
-    TemporaryPictureUse temporary(dependencies_.temporaryPicture);
+    const Finally deletes([this] { dependencies_.temporaryPicture.Delete(); });
     // A picture that could not be had is not offered to the dialog.
-    if (const PixelView* picture = temporary.PassThrough(window_.PicIcon())) {
+    if (const PixelView* picture = dependencies_.temporaryPicture.PassThrough(window_.PicIcon())) {
       JpegDialog& dialog = dependencies_.dialogs.NewSaveJPG();
       dialog.InitJpegExport(*picture, path, DialogMode::Single);
       answer = dialog.ShowFor(DialogMode::Single);
@@ -228,12 +213,12 @@ void SaveCommands::SaveImages(Scope scope) {
 }
 
 void SaveCommands::SaveBMPToJPGForNoSingle(Scope scope, const std::string& folder, const BatchKind& kind) {
-  TemporaryPictureUse temporary(dependencies_.temporaryPicture);
+  const Finally deletes([this] { dependencies_.temporaryPicture.Delete(); });
   JpegDialog& dialog = dependencies_.dialogs.NewSaveJPG();
-  const std::shared_ptr<void> freed(nullptr, [&dialog](void*) { dialog.FreeObj(); });
+  const Finally freed([&dialog] { dialog.FreeObj(); });
   if (dialog.ShowFor(DialogMode::NoSingle) != DialogAnswer::Ok) return;
   SaveBatch(scope, folder, kind, [&](const std::string& path) {
-    const PixelView* picture = temporary.PassThrough(window_.PicIcon());
+    const PixelView* picture = dependencies_.temporaryPicture.PassThrough(window_.PicIcon());
     if (picture == nullptr) return false;
     dialog.InitJpegExport(*picture, path, DialogMode::NoSingle);
     return dialog.SaveToJPGForNoSingle(path);
@@ -242,7 +227,7 @@ void SaveCommands::SaveBMPToJPGForNoSingle(Scope scope, const std::string& folde
 
 void SaveCommands::SaveBMPToGIFForNoSingle(Scope scope, const std::string& folder, const BatchKind& kind) {
   GifDialog& dialog = dependencies_.dialogs.NewConvertGIF();
-  const std::shared_ptr<void> freed(nullptr, [&dialog](void*) { dialog.FreeGifObj(); });
+  const Finally freed([&dialog] { dialog.FreeGifObj(); });
   if (dialog.ShowFor(DialogMode::NoSingle, {}) != DialogAnswer::Ok) return;
   SaveBatch(scope, folder, kind, [&](const std::string& path) { return dialog.SaveToGIFNoSingle(path); });
 }

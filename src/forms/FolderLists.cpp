@@ -6,27 +6,13 @@
 
 #include <algorithm>
 
+#include "base/Finally.h"
 #include "base/FolderPath.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 
 namespace tarvik {
 namespace {
-
-// Filling a long list without painting each row.
-class WithoutRedraw {
- public:
-  explicit WithoutRedraw(HWND window) : window_(window) { SendMessageW(window_, WM_SETREDRAW, FALSE, 0); }
-  ~WithoutRedraw() {
-    SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
-    InvalidateRect(window_, nullptr, TRUE);
-  }
-  WithoutRedraw(const WithoutRedraw&) = delete;
-  WithoutRedraw& operator=(const WithoutRedraw&) = delete;
-
- private:
-  HWND window_;
-};
 
 LRESULT Send(HWND window, UINT message, std::size_t wParam = 0, LPARAM lParam = 0) {
   return SendMessageW(window, message, wParam, lParam);
@@ -58,6 +44,15 @@ class ListPosition {
   std::string top_;
   std::string chosen_;
 };
+
+// Lets a long list be filled without painting each row, until what this returns ends.
+Finally StopRedraw(HWND window) {
+  Send(window, WM_SETREDRAW, FALSE);
+  return Finally([window] {
+    Send(window, WM_SETREDRAW, TRUE);
+    InvalidateRect(window, nullptr, TRUE);
+  });
+}
 
 void AddRow(HWND window, UINT message, const std::string& text) {
   Send(window, message, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
@@ -153,7 +148,7 @@ void DirListBox::Show(std::vector<std::string> rows) {
   current_ = static_cast<int>(FolderChain(path_).size()) - 1;
   shownPath_ = path_;
 
-  const WithoutRedraw guard(window_);
+  const Finally redraws = StopRedraw(window_);
   Send(window_, LB_RESETCONTENT);
   for (const std::string& folder : shown_) AddRow(window_, LB_ADDSTRING, FolderName(folder));
   Send(window_, LB_SETCURSEL, static_cast<std::size_t>(current_));
@@ -251,7 +246,7 @@ void FileListBox::Update() {
 void FileListBox::Show(std::vector<std::string> names) {
   shownPath_ = path_;
   shownPattern_ = pattern_;
-  const WithoutRedraw guard(window_);
+  const Finally redraws = StopRedraw(window_);
   Send(window_, LB_RESETCONTENT);
   shown_ = std::move(names);
   for (const std::string& name : shown_) AddRow(window_, LB_ADDSTRING, name);

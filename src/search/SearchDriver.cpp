@@ -127,14 +127,8 @@ void SearchDriver::RunOverScope(Pass pass) {
     return;
   }
   state_.SavedDirPath = folders_.Dir1Path();
-  const auto putBack = [this] { folders_.SetDir1Path(std::exchange(state_.SavedDirPath, {})); };
-  try {
-    (this->*pass)(state_.SavedDirPath);
-  } catch (...) {
-    putBack();
-    throw;
-  }
-  putBack();
+  const Finally putsBack([this] { folders_.SetDir1Path(std::exchange(state_.SavedDirPath, {})); });
+  (this->*pass)(state_.SavedDirPath);
 }
 
 // Visits a folder, then each of its sub-folders in the same way, then leaves it. A folder's sub-folders are

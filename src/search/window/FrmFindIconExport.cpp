@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "forms/MessageBox.h"
 #include "platform/Clipboard.h"
@@ -37,8 +38,10 @@ void FrmFindIcon::ShowMessage(const std::string& text, MessageKind kind) {
 }
 
 std::shared_ptr<void> FrmFindIcon::HoldCommands() {
+  // First, because it can fail, and a window that took itself for saving would take no input ever after.
+  auto inTurn = dependencies_.icons.InTurn();
   isSaving_ = true;
-  return {static_cast<void*>(this), [this, inTurn = dependencies_.icons.InTurn()](void*) { isSaving_ = false; }};
+  return {static_cast<void*>(this), [this, inTurn = std::move(inTurn)](void*) { isSaving_ = false; }};
 }
 
 // Serving all messages and not the painting alone keeps the system from taking the window for one that hangs; input is

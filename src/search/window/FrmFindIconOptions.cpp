@@ -8,6 +8,7 @@
 #include <string>
 
 #include "base/Conversion.h"
+#include "base/Finally.h"
 #include "forms/FocusKept.h"
 #include "forms/MessageBox.h"
 #include "resource.h"
@@ -103,7 +104,7 @@ void FrmFindIcon::CmdFind_Click() {
   // The button is disabled meanwhile, and a disabled control that has the focus would swallow every key.
   const FocusKept focus(Window());
   // The last texts show at the end, also where an error ends the search.
-  const std::shared_ptr<void> progress(nullptr, [this](void*) { ShowProgress(); });
+  const Finally progress([this] { ShowProgress(); });
   const std::shared_ptr<void> inTurn = dependencies_.icons.InTurn();
   driver_.CmdFind_Click();
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -35,12 +36,14 @@ class WatchedIcons final : public IconSource {
   }
   std::shared_ptr<void> InTurn() override {
     script.emplace_back("in turn");
+    if (noMemory) throw std::bad_alloc();
     return {static_cast<void*>(this), [this](void*) { script.emplace_back("end"); }};
   }
   void LetGo() override { script.emplace_back("let go"); }
   void LetGoIfChanged() override { script.emplace_back("look"); }
 
   std::vector<std::string> script;
+  bool noMemory = false;  // to read ahead
 
  private:
   SmallMachine& machine_;
@@ -96,6 +99,22 @@ TEST_F(FrmFindIconAheadTest, ABatchReadsAheadToItsEnd) {
   std::erase(without, "let go");  // as often as it serves messages
   std::erase(without, "look");    // as often as there are none
   EXPECT_THAT(without, ElementsAre("in turn", "take 0", "take 1", "take 2", "end"));
+}
+
+// The window took itself for saving ever after: no command, no key, and it could not even be closed.
+TEST_F(FrmFindIconAheadTest, ABatchWithoutTheMemoryForItLeavesTheWindowUsable) {
+  Find(3);
+  dialogs.folder = folder.Path();
+  icons.noMemory = true;
+  Click(FrmFindIcon_mnuSaveAll);
+  ASSERT_EQ(boxes.Boxes().size(), 1U);
+  EXPECT_EQ(boxes.Boxes()[0].text, "Out of memory");
+  icons.noMemory = false;
+  StartWatching();
+  Click(FrmFindIcon_mnuSaveAll);
+  EXPECT_THAT(icons.script, ::testing::Contains("end"));
+  Click(FrmFindIcon_CmdClose);
+  EXPECT_FALSE(window->IsLoaded());
 }
 
 TEST_F(FrmFindIconAheadTest, ABatchLetsGoBeforeEachMessage) {
