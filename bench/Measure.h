@@ -82,8 +82,8 @@ inline double MedianOf(double Cost::*part, const std::vector<Cost>& costs, const
 enum class Times { Clock, ClockAndProcessor };
 
 // Runs the ways in turn, so that the machine's mood falls on all of them alike, and prints each one's median time and
-// the median of its ratio to the first way of the same round. Returns the median times by the clock in milliseconds, one
-// for each way.
+// the median of its ratio to the first way of the same round. Returns the median times by the clock in milliseconds,
+// one for each way.
 inline std::vector<double> Compare(const std::string& title, const std::vector<Way>& ways, int rounds,
                                    Times times = Times::ClockAndProcessor) {
   std::vector<std::vector<Cost>> costs(ways.size());

@@ -27,10 +27,10 @@ class IconGroups {
 // each call opens and reads the file from scratch. Whoever asks gets the same icons as without it.
 //
 // It does so between the start and the end of InTurn alone, and holds at most 64 icons, of one file. They are dropped
-// when another file is asked for, by LetGo, and by LetGoIfChanged if the file is not as it was. So that little is taken for nothing where that is often, a group is
-// then as large as what was used of the last one, and grows again. A file that does not give a whole group is taken one
-// by one as long as it stays as it is, and so are animations. Within InTurn, a file is counted once as long as it stays
-// as it is.
+// when another file is asked for, by LetGo, and by LetGoIfChanged if the file is not as it was. So that little is taken
+// for nothing where that is often, a group is then as large as what was used of the last one, and grows again. A file
+// that does not give a whole group is taken one by one as long as it stays as it is, and so are animations. Within
+// InTurn, a file is counted once as long as it stays as it is.
 class IconsAhead final : public IconSource {
  public:
   // Both outlive this object.
