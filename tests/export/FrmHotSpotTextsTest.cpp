@@ -14,6 +14,10 @@ TEST(HotSpotTexts, AreTheseInThreeLanguages) {
                                         {FrmHotSpot_CmdCancel, {"&Cancel", "取消(&C)", "取消(&C)"}},
                                         {FrmHotSpot_lblHotX1, {"Hot X:", "热区 X:", "熱區 X:"}},
                                         {FrmHotSpot_lblHotY1, {"Hot Y:", "热区 Y:", "熱區 Y:"}},
+
+                                        // The names of the controls for whoever has the screen read aloud.
+                                        {FrmHotSpot_PicCursor, {"Enlarged icon", "放大的图标", "放大的圖示"}},
+                                        {FrmHotSpot_lblPointer, {"Pointer", "指针", "指標"}},
                                     });
 }
 

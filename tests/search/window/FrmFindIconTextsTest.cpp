@@ -58,6 +58,19 @@ TEST(FindIconTexts, AreTheseInThreeLanguages) {
                  {FrmFindIcon_MnuHelp, {"&Help", "(&H)帮助", "(&H)説明"}},
                  {FrmFindIcon_MnuContent, {"&Contents", "主题", "主題"}},
                  {FrmFindIcon_MnuAbout, {"&About...", "关于...", "關於..."}},
+
+                 // The names of the controls for whoever has the screen read aloud.
+                 {FrmFindIcon_lblDrive1, {"Drive", "驱动器", "磁碟機"}},
+                 {FrmFindIcon_lblDir1, {"Folder", "文件夹", "資料夾"}},
+                 {FrmFindIcon_lblFile1, {"Files to search", "要查找的文件", "要查找的檔案"}},
+                 {FrmFindIcon_lblIconSize, {"Icon Size:", "图标大小:", "圖示大小:"}},
+                 {FrmFindIcon_lblMax, {"Most icons in the list", "列表中的最大图标数", "清單中的最大圖示數"}},
+                 {FrmFindIcon_PicFrame, {"Icons found", "找到的图标", "找到的圖示"}},
+                 {FrmFindIcon_lblVsb, {"Scroll the icons", "滚动图标", "捲動圖示"}},
+                 {FrmFindIcon_lblLv,
+                  {"Icons found: number, file, index", "找到的图标：序号、文件路径、图标索引",
+                   "找到的圖示：序號、檔案路徑、圖示索引"}},
+                 {FrmFindIcon_lblMain, {"Status", "状态", "狀態"}},
              });
 }
 
