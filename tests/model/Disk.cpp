@@ -69,7 +69,7 @@ Disk::Disk() {
                              "C:\\icons\\many", "C:\\program", "D:\\", "D:\\a"})
     folders_[folder];
   Put("C:\\", "root.ico", 1);
-  Put("C:\\icons", "a.ico", 20);
+  Put("C:\\icons", "a.ico", 80);
   Put("C:\\icons", "b.dll", 75);
   Put("C:\\icons", "c.ani", 8);
   Put("C:\\icons\\deep", "d.ico", 3);

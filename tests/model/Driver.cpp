@@ -196,7 +196,7 @@ void Driver::Do(const Action& action) {
       {30, "Click the grid", &Driver::ClickGrid},
       {5, "Double-click the grid", &Driver::DoubleClickGrid},
       {8, "Scroll", &Driver::Scroll},
-      {4, "Turn the wheel", &Driver::TurnWheel},
+      {6, "Turn the wheel", &Driver::TurnWheel},
       {4, "Tick a file type", &Driver::TickType},
       {3, "Tick sub-folders", &Driver::TickSubDir},
       {4, "Choose a size", &Driver::ChooseSize},
@@ -212,7 +212,7 @@ void Driver::Do(const Action& action) {
       {3, "Change the labels", &Driver::Labels},
       {4, "Save one", &Driver::SaveOne},
       {3, "Save many", &Driver::SaveMany},
-      {1, "Open the About box", &Driver::OpenAbout},
+      {2, "Open the About box", &Driver::OpenAbout},
       {6, "Change the disk", &Driver::ChangeDisk},
       {1, "Close", &Driver::Close},
   };
@@ -239,7 +239,7 @@ void Driver::Do(const Action& action) {
                                          {1, "Close the main window below the dialog", &Driver::CloseMainBelow}};
   static constexpr Choice options[] = {{6, "End the options", &Driver::EndOptions},
                                        {1, "Close the main window below the options", &Driver::CloseMainBelow}};
-  static constexpr Choice about[] = {{4, "Close the About box", &Driver::EndAbout},
+  static constexpr Choice about[] = {{2, "Close the About box", &Driver::EndAbout},
                                      {1, "Close the main window below the About box", &Driver::CloseMainBelow}};
   switch (model_.Foremost()) {
     case Front::Main:

@@ -266,7 +266,7 @@ bool Driver::ChangeDisk(const Action& action) {
       "C:\\", "C:\\icons", "C:\\icons\\deep", "C:\\icons\\deep\\deeper", "C:\\icons\\many", "C:\\program",
       "D:\\", "D:\\a"};
   static constexpr const char* names[] = {"a.ico", "b.dll", "c.ani", "d.ico", "e.exe", "g.ico", "h.ocx", "z.ico"};
-  const std::string folder = folders[action.a % 8];
+  const std::string folder = action.c % 2 == 0 ? model_.folder : folders[action.a % 8];
   const std::string name = names[action.b % 8];
   const int icons = iconCounts.at(static_cast<std::size_t>(action.c) % iconCounts.size());
   const bool goes = action.c / 16 % 3 == 0;

@@ -66,7 +66,8 @@ bool Driver::SelectAll(const Action& /*action*/) {
   model_.SelectAllRows();
   Perform([&] {
     HoldKeys(true, false);
-    SendMessageW(Item(FrmFindIcon_Lv), WM_KEYDOWN, 'A', 0);
+    PostMessageW(Item(FrmFindIcon_Lv), WM_KEYDOWN, 'A', 0);
+    program_->ServeWaiting();
     HoldKeys(false, false);
   });
   return true;

@@ -3,22 +3,16 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cstdint>
 #include <cstdlib>
+#include <iostream>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "model/Sequences.h"
+
 namespace tarvik::end_to_end {
-
-std::string FinishedProgram::KeptDifference() const {
-  const std::string file = ToUtf8(program_.SettingsFile().wstring());
-  std::array<char, 1024> value{};
-  GetPrivateProfileStringA("FindIcon", "Folder", "", value.data(), static_cast<DWORD>(value.size()), file.c_str());
-  return Compared("kept folder", *model_.kept.folder, value.data());
-}
-
 namespace {
 
 constexpr int sequences = 12;

@@ -6,8 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,8 +16,8 @@
 #include "driver/Screen.h"
 #include "driver/Waiting.h"
 #include "end_to_end/EndToEndTest.h"
+#include "model/Action.h"
 #include "model/Model.h"
-#include "model/Sequences.h"
 #include "platform/IconFiles.h"
 #include "platform/Text.h"
 
@@ -31,10 +29,11 @@ using model::Kind;
 using model::Model;
 using model::Scope;
 
-class FinishedProgram {  // over folders of its own, step by step
- public:
-  static constexpr int pictureEach = 40;  // steps between two pictures of the screen
+inline constexpr int pictureEach = 40;  // steps between two pictures of the screen
 
+// The program over folders of its own, step by step.
+class FinishedProgram {
+ public:
   explicit FinishedProgram(std::vector<Action> actions) : actions_(std::move(actions)) {
     for (const char* name : {"deep", "deep\\deeper", "many", "out"}) {
       disk_.AddFolder(tree_.MakeFolder(name));
@@ -180,7 +179,7 @@ class FinishedProgram {  // over folders of its own, step by step
     model_.Spin(action.a % 2 == 0);
     SendScroll(action.a % 2 == 0 ? SB_LINEUP : SB_LINEDOWN, FrmFindIcon_udMain);
   }
-  // One of the folders that the test made: the list shows those above them, too.
+  // A folder that the test made.
   void Open(const Action& action) {
     const auto first = static_cast<int>(model::Chain(tree_.Path()).size()) - 1;
     const int row = first + action.a % (static_cast<int>(model_.folderRows.size()) - first);
@@ -208,7 +207,6 @@ class FinishedProgram {  // over folders of its own, step by step
     if (which != 0) model_.NumberByFile(which == 2);
     SendCommand(FrmFindIcon_mnuShowLabel + (which == 0 ? 0 : which + 1));
   }
-  // Opens the view on the current entry, steps in it, and closes it.
   void View(const Action& action) {
     if (model_.entries.empty() || model_.listShown) return;
     model_.OpenView();
@@ -231,7 +229,6 @@ class FinishedProgram {  // over folders of its own, step by step
     view.Close();
     Eventually([this] { return program_.Window().IsEnabled(); });
   }
-  // A few icons at most, so that it takes no minutes.
   void Save(const Action& action) {
     const auto selected =
         std::ranges::count_if(model_.entries, [](const model::Entry& entry) { return entry.selected; });
@@ -269,7 +266,6 @@ class FinishedProgram {  // over folders of its own, step by step
     model_.listsAreStale = true;
   }
 
-  // Makes a file of that kind, or removes it if it is there.
   void Put(const std::string& folder, int kind) {
     static constexpr const char* names[] = {"a.ico", "b.dll", "c.ico", "d.ocx", "e.dll", "f.exe"};
     static constexpr int icons[] = {1, 3, 1, 3, 100, 3};
@@ -375,7 +371,6 @@ class FinishedProgram {  // over folders of its own, step by step
     }
     return {};
   }
-  // Where the size was changed since the search, any place may have an icon.
   bool IsOnIcon(int x, int y) const {
     const int pitch = model_.grid.LineStep() == 0 ? model_.Size().pitch : model_.grid.LineStep();
     if (pitch != model_.Size().pitch) return true;
@@ -384,7 +379,12 @@ class FinishedProgram {  // over folders of its own, step by step
     return inX >= 3 && inX < pitch - 3 && inY >= 3 && inY < pitch - 3;
   }
 
-  std::string KeptDifference() const;
+  std::string KeptDifference() const {
+    const std::string file = ToUtf8(program_.SettingsFile().wstring());
+    std::array<char, 1024> value{};
+    GetPrivateProfileStringA("FindIcon", "Folder", "", value.data(), static_cast<DWORD>(value.size()), file.c_str());
+    return Compared("kept folder", *model_.kept.folder, value.data());
+  }
 
   testing::TemporaryFolder home_;
   testing::TemporaryFolder tree_;
