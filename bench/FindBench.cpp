@@ -21,8 +21,11 @@
 #include "Measure.h"
 #include "SilentSearch.h"
 #include "WholeProcesses.h"
+#include "base/FolderPath.h"
 #include "forms/Application.h"
 #include "platform/Paths.h"
+#include "platform/Text.h"
+#include "search/icons/Folders.h"
 
 namespace tarvik::bench {
 namespace {
@@ -65,6 +68,14 @@ void CompareModuleLooks(const std::string& title, const Scope& scope) {
   SilentSearch silent(scope);
   Compare(title + ", later search", {{"no look", [&] { without.Run(); }}, {"search", [&] { silent.Run(); }}},
           2 * rounds);
+}
+
+// The libraries of the system under the same names in another folder.
+std::string LinkSystemLibraries(const std::string& folder) {
+  Folders folders;
+  for (const std::string& name : folders.Files(SystemFolder(), "*.dll"))
+    CreateHardLinkW(ToWide(JoinPath(folder, name)).c_str(), ToWide(JoinPath(SystemFolder(), name)).c_str(), nullptr);
+  return folder;
 }
 
 // One icon, and more and more empty folders next to it: the cost of a folder must not grow with their number, beyond
@@ -115,7 +126,11 @@ void Measure(Application& application, std::string_view wanted) {
   constexpr const char* library = "one DLL of 2,000 icons";
   constexpr const char* allKinds = "20,000 files of all kinds in 2,000 folders";
   if (isWanted(system)) CompareSearches(application, system, {SystemFolder(), "*.dll", false});
-  if (isWanted(modules)) CompareModuleLooks(modules, {SystemFolder(), "*.dll", false});
+  if (isWanted(modules)) {
+    CompareModuleLooks(modules, {SystemFolder(), "*.dll", false});
+    const std::string elsewhere = LinkSystemLibraries(folder.MakeFolder("libraries"));
+    CompareModuleLooks(modules + std::string(" elsewhere"), {elsewhere, "*.dll", false});
+  }
   if (isWanted(iconFiles)) CompareSearches(application, iconFiles, {MakeIconFiles(folder, 500, 4), "*.ico", true});
   if (isWanted(library)) CompareSearches(application, library, {MakeIconLibrary(folder, 2000, 1), "*.dll", false});
   if (isWanted(allKinds)) CompareSearches(application, allKinds, {MakeAllKinds(folder, 2000), "*.*", true}, 3);

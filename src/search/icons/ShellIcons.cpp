@@ -7,10 +7,13 @@
 #include <climits>
 #include <cstdint>
 #include <span>
+#include <string_view>
 #include <utility>
 
+#include "base/AsciiCase.h"
 #include "base/RuntimeError.h"
 #include "platform/Handles.h"
+#include "platform/Paths.h"
 #include "platform/Surface.h"
 #include "search/icons/AnimationHeader.h"
 #include "search/icons/FaultGuard.h"
@@ -88,6 +91,14 @@ IconWish WishForLargeIcon() {
   return {.width = GetSystemMetrics(SM_CXICON),
           .height = GetSystemMetrics(SM_CYICON),
           .bits = GetDeviceCaps(screen.get(), BITSPIXEL) * GetDeviceCaps(screen.get(), PLANES)};
+}
+
+// The folder of a 64-bit system holds thousands of libraries without icons and no 16-bit module, and opening each of
+// them to see that would make a first search of it a quarter longer.
+bool IsInSystemFolder(std::string_view path) {
+  static const std::string folder = SystemFolder() + '\\';
+  return path.size() > folder.size() &&
+         std::ranges::equal(path.substr(0, folder.size()), folder, {}, LowerAscii, LowerAscii);
 }
 
 // Null if there is no icon; throws if that is for lack of GDI objects.
@@ -212,7 +223,7 @@ std::vector<IconHandle> ShellIcons::ExtractGroupByShell(const std::string& path,
 // The 16-bit module at a path; one without icons if there is none.
 const NewExecutable& ShellIcons::FindModule(const std::string& path) {
   static const NewExecutable none;
-  if (!IsModuleName(path)) return none;
+  if (!IsModuleName(path) || IsInSystemFolder(path)) return none;
   const std::optional<FileStamp> stamp = StampOf(path);
   return stamp ? modules_.Of(path, *stamp, open_) : none;
 }

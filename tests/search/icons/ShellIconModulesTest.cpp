@@ -350,7 +350,8 @@ TEST(ShellIconModules, AreLookedForInNoFileMoreThanOnceAPass) {
   IconsAhead ahead(icons, icons);
   const auto search = ahead.InTurn();
   // A library of today without icons: its first block, which both headers are in.
-  const std::string library = JoinPath(SystemFolder(), "version.dll");
+  const std::string library = folder.In("version.dll");
+  ASSERT_NE(CopyFileW(ToWide(JoinPath(SystemFolder(), "version.dll")).c_str(), ToWide(library).c_str(), TRUE), 0);
   EXPECT_EQ(ahead.CountIcons(library), 0);
   EXPECT_EQ(ahead.CountIcons(library), 0);
   EXPECT_EQ(files.opened, 1);
@@ -360,6 +361,18 @@ TEST(ShellIconModules, AreLookedForInNoFileMoreThanOnceAPass) {
   EXPECT_GT(ahead.CountIcons(JoinPath(SystemFolder(), "shell32.dll")), 0);
   EXPECT_EQ(ahead.CountIcons(folder.MakeFile("a.txt", "text")), 0);
   EXPECT_EQ(files.opened, 0);
+}
+
+TEST(ShellIconModules, AreNotLookedForInTheSystemsOwnFolder) {
+  const TemporaryFolder folder;
+  Counted files;
+  ShellIcons icons(files.Opener(), ShellWithoutModules);
+  for (const char* name : {"version.dll", "VERSION.DLL", "drivers\\none.dll"}) {
+    EXPECT_EQ(icons.CountIcons(JoinPath(SystemFolder(), name)), 0);
+    EXPECT_EQ(icons.Extract(JoinPath(SystemFolder(), name), 0), nullptr);
+  }
+  EXPECT_EQ(files.opened, 0);
+  EXPECT_EQ(icons.CountIcons(folder.MakeFile("a.dll", MakeModule(Icons(2)))), 2);
 }
 
 TEST(ShellIconModules, HaveTheirTableReadOnceForAllTheirIcons) {
