@@ -115,7 +115,7 @@ std::vector<Point> CutIntoBoxes(std::span<CountedColor> colors, std::size_t maxC
     const std::span<CountedColor> whole = boxes.back().colors;
     const Cut cut = boxes.back().cut;
     const auto isFirst = [&](const CountedColor& counted) { return ChannelOf(counted.color, cut.channel) <= cut.last; };
-    const auto second = std::ranges::partition(whole, isFirst).begin();
+    const auto second = std::partition(whole.begin(), whole.end(), isFirst);
     boxes.back() = MakeBox({whole.begin(), second});
     std::ranges::push_heap(boxes, gainsLess);
     boxes.push_back(MakeBox({second, whole.end()}));

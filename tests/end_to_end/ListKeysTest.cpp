@@ -43,18 +43,6 @@ TEST_F(ListKeys, BeginAtTheFirstIconAfterASearch) {
   ExpectRows({1});
 }
 
-TEST_F(ListKeys, GoOnFromTheIconThatWasChosenInTheGrid) {
-  FindFiles(5);
-  ClickCell(2);
-  ExpectCurrent(2);
-  program_.Item(FrmFindIcon_OptView1).Press();
-  ASSERT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Lv).IsVisible(); }));
-  GoTo(FrmFindIcon_Lv);
-  PressKey(VK_DOWN, {VK_SHIFT});
-  ExpectCurrent(3);
-  ExpectRows({2, 3});
-}
-
 TEST_F(ListKeys, EnterOpensTheViewOfItsRow) {
   FindInList(5);
   PressKey(VK_DOWN, {}, 2);

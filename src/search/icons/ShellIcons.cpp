@@ -93,12 +93,17 @@ IconWish WishForLargeIcon() {
           .bits = GetDeviceCaps(screen.get(), BITSPIXEL) * GetDeviceCaps(screen.get(), PLANES)};
 }
 
-// The folder of a 64-bit system holds thousands of libraries without icons and no 16-bit module, and opening each of
-// them to see that would make a first search of it a quarter longer.
-bool IsInSystemFolder(std::string_view path) {
+bool AreAlike(std::string_view one, std::string_view other) {
+  return std::ranges::equal(one, other, {}, LowerAscii, LowerAscii);
+}
+
+// The folder of a 64-bit system holds thousands of libraries without icons and no 16-bit module of its own, and opening
+// each of them to see that would make a first search of it a quarter longer. A library of icons that is there was put
+// there by somebody.
+bool IsOfTheSystem(std::string_view path) {
   static const std::string folder = SystemFolder() + '\\';
-  return path.size() > folder.size() &&
-         std::ranges::equal(path.substr(0, folder.size()), folder, {}, LowerAscii, LowerAscii);
+  return path.size() > folder.size() && AreAlike(path.substr(0, folder.size()), folder) &&
+         !AreAlike(path.substr(path.size() - std::string_view(".icl").size()), ".icl");
 }
 
 // Null if there is no icon; throws if that is for lack of GDI objects.
@@ -223,7 +228,7 @@ std::vector<IconHandle> ShellIcons::ExtractGroupByShell(const std::string& path,
 // The 16-bit module at a path; one without icons if there is none.
 const NewExecutable& ShellIcons::FindModule(const std::string& path) {
   static const NewExecutable none;
-  if (!IsModuleName(path) || IsInSystemFolder(path)) return none;
+  if (!IsModuleName(path) || IsOfTheSystem(path)) return none;
   const std::optional<FileStamp> stamp = StampOf(path);
   return stamp ? modules_.Of(path, *stamp, open_) : none;
 }

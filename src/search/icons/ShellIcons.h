@@ -23,7 +23,8 @@ namespace tarvik {
 // breaks is asked for once in a run. Icons draw on any DcSurface.
 //
 // In a library, program or control of 16-bit Windows, in which the shell finds no icon, this program finds them itself
-// (NewExecutable); not in the system's own folder, which has no such files. What the shell finds is left to it alone.
+// (NewExecutable); of the files in the system's own folder, in .icl files alone. What the shell finds is left to it
+// alone.
 //
 // Extract and the icons' Draw throw OutOfMemoryError if they fail because there are no GDI objects left, so that no
 // blank picture is taken for an icon.

@@ -54,8 +54,10 @@ void FrmFindIcon::Lv_Choose(const ReportList::Choice& choice) {
 
 void FrmFindIcon::ShowSelectionInList() {
   lv_.SetSelection([this](int row) { return list_.Has(row + 1) && list_.Item(row + 1).selected; });
-  // So that the keys go on from the icon that was chosen last, here or in the grid.
-  if (list_.Has(state_.CurrentIndex + 1)) lv_.SetFocusedRow(state_.CurrentIndex);
+  // So that the keys begin at the current icon after a search. Later the list keeps its own place: Wine would bring a
+  // row that is given it into view with the next click, which would then meet another row than the one below the
+  // pointer.
+  if (lv_.FocusedRow() < 0 && list_.Has(state_.CurrentIndex + 1)) lv_.SetFocusedRow(state_.CurrentIndex);
 }
 
 void FrmFindIcon::mnuShowLabel_Click() {

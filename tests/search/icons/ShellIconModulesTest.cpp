@@ -373,6 +373,12 @@ TEST(ShellIconModules, AreNotLookedForInTheSystemsOwnFolder) {
   }
   EXPECT_EQ(files.opened, 0);
   EXPECT_EQ(icons.CountIcons(folder.MakeFile("a.dll", MakeModule(Icons(2)))), 2);
+  // One that somebody put there.
+  const std::string library = JoinPath(SystemFolder(), "put there by a test.icl");
+  ASSERT_NE(CopyFileW(ToWide(folder.MakeFile("a.icl", MakeModule(Icons(2)))).c_str(), ToWide(library).c_str(), FALSE),
+            0);
+  EXPECT_EQ(icons.CountIcons(library), 2);
+  EXPECT_NE(DeleteFileW(ToWide(library).c_str()), 0);
 }
 
 TEST(ShellIconModules, HaveTheirTableReadOnceForAllTheirIcons) {
