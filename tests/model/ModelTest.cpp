@@ -18,7 +18,7 @@ namespace {
 
 // Steps in one run of the tests, in all parts together, and the most in one sequence. TARVIK_MODEL_STEPS asks for
 // another number of them.
-constexpr int usualSteps = 50000;
+constexpr int usualSteps = 10000;
 constexpr int parts = 4;
 constexpr int longestSequence = 300;
 constexpr std::uint64_t firstSeed = 1;
