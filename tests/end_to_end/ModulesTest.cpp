@@ -61,6 +61,7 @@ class SavedModules : public Saving {
  protected:
   void FindModule() {
     std::vector<IconPicture> icons;
+    icons.reserve(pictures.size());
     for (const Picture& picture : pictures)
       icons.push_back(BitmapPicture(32, picture.bits, picture.left, picture.right));
     tree_.MakeFile("pictures.icl", SixteenBitLibrary(icons).bytes);

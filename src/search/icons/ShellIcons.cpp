@@ -263,6 +263,7 @@ std::vector<std::unique_ptr<ExtractedIcon>> ShellIcons::ExtractGroup(const std::
   std::vector<IconHandle> icons = ExtractGroupByShell(path, first, count);
   if (icons.empty()) icons = ExtractGroupFromModule(path, first, count);
   std::vector<std::unique_ptr<ExtractedIcon>> group;
+  group.reserve(icons.size());
   for (IconHandle& icon : icons) group.push_back(MakeDrawable(std::move(icon), 1));
   return group;
 }

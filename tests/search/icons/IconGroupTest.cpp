@@ -232,7 +232,7 @@ TEST(HoldsPicture, IsTrueForTheStartOfAPngWithSuchSides) {
 
 // The bound on what is read of a picture leaves room for the largest one.
 TEST(HoldsPicture, NeedsNoMoreBytesThanAreRead) {
-  EXPECT_LE(With(PlainBitmap(256, 256, 32), 32, 256, 4).size() + 4 * 256, maxPictureBytes);
+  EXPECT_LE(With(PlainBitmap(256, 256, 32), 32, 256, 4).size() + std::size_t{4} * 256, maxPictureBytes);
 }
 
 }  // namespace

@@ -162,7 +162,9 @@ ModuleBytes MakeModule(std::span<const ModuleIcon> icons, const ModuleLayout& la
 }
 
 ModuleBytes PlainBitmap(int width, int height, int bits, std::uint8_t mark) {
-  const auto row = [width](int depth) { return static_cast<std::size_t>((width * depth + 31) / 32 * 4); };
+  const auto row = [width](int depth) {
+    return (static_cast<std::size_t>(width) * static_cast<std::size_t>(depth) + 31) / 32 * 4;
+  };
   ModuleBytes bytes;
   Append(bytes, 40, 4);
   Append(bytes, static_cast<std::uint64_t>(width), 4);

@@ -67,8 +67,8 @@ int MarkOf(const Bytes& bytes, int index, const IconWish& wish = {}) {
 }
 
 std::vector<int> Marks(const Bytes& bytes) {
-  std::vector<int> marks;
-  for (int index = 0; index < CountOf(bytes); ++index) marks.push_back(MarkOf(bytes, index));
+  std::vector<int> marks(static_cast<std::size_t>(CountOf(bytes)));
+  for (std::size_t index = 0; index < marks.size(); ++index) marks[index] = MarkOf(bytes, static_cast<int>(index));
   return marks;
 }
 
@@ -148,8 +148,8 @@ TEST(NewExecutable, IsNoneWithoutItsTwoHeaders) {
   EXPECT_EQ(CountOf(With(module, offsetPlace, header + 0x10000, 4)), 0);
   EXPECT_EQ(CountOf(With(module, offsetPlace, header + 0x1000000, 4)), 0);
   const auto size = static_cast<std::uint32_t>(module.size());
-  for (const std::uint32_t place : {size, size - 1, size - 63}) {
-    EXPECT_EQ(CountOf(With(module, offsetPlace, place, 4)), 0) << place;
+  for (const std::uint32_t start : {size, size - 1, size - 63}) {
+    EXPECT_EQ(CountOf(With(module, offsetPlace, start, 4)), 0) << start;
   }
 }
 

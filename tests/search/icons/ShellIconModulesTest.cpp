@@ -388,7 +388,7 @@ TEST(ShellIconModules, HaveTheirTableReadOnceForAllTheirIcons) {
   Counted files;
   ShellIcons icons(files.Opener(), ShellWithoutModules);
   for (int index = 0; index < 60; ++index) ASSERT_NE(icons.Extract(path, index), nullptr);
-  EXPECT_LE(files.read, 512 + module.size() + 60 * 6) << "the start of each group is read twice";
+  EXPECT_LE(files.read, 512 + module.size() + std::size_t{60} * 6) << "the start of each group is read twice";
 }
 
 }  // namespace
