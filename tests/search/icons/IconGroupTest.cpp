@@ -103,6 +103,9 @@ TEST(ChoosePicture, DoesNotTakeBitsForSidesThatAreOffElsewise) {
   EXPECT_EQ(Chosen({{30, 32, 4}, {34, 32, 32}}), 2);
   EXPECT_EQ(Chosen({{31, 31, 4}, {30, 32, 32}}), 1);
   EXPECT_EQ(Chosen({{31, 31, 4}, {32, 30, 32}}), 1);
+  // One side is the same, and the other is further off.
+  EXPECT_EQ(Chosen({{32, 32, 4}, {32, 16, 32}}), 1);
+  EXPECT_EQ(Chosen({{32, 32, 4}, {16, 32, 32}}), 1);
 }
 
 TEST(ChoosePicture, TakesTheFirstOfEquals) {
