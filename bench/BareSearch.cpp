@@ -49,11 +49,10 @@ void BareSearch::Run() {
 }
 
 void BareSearch::Visit(const std::wstring& folder) {
-  for (const std::wstring& name : List(folder + L"\\" + ToWide(scope_.pattern), false)) {
-    TakeFile(ToUtf8(folder + L"\\" + name));
-  }
+  const std::wstring start = folder + L'\\';
+  for (const std::wstring& name : List(start + ToWide(scope_.pattern), false)) TakeFile(ToUtf8(start + name));
   if (!scope_.subFolders) return;
-  for (const std::wstring& name : List(folder + L"\\*", true)) Visit(folder + L"\\" + name);
+  for (const std::wstring& name : List(start + L'*', true)) Visit(start + name);
 }
 
 int BareSearch::CountOf(const std::string& path) {

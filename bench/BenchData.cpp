@@ -26,6 +26,7 @@ void Copy(const std::string& from, const std::string& to) {
 void MakeLibrary(const std::string& path, int icons) {
   Copy(JoinPath(SystemFolder(), "version.dll"), path);
   std::vector<testing::IconPicture> pictures;
+  pictures.reserve(static_cast<std::size_t>(icons));
   for (int i = 0; i < icons; ++i) pictures.push_back(Picture(i));
   testing::AddIcons(path, pictures);
 }
@@ -83,7 +84,7 @@ std::string MakeAllKinds(const testing::TemporaryFolder& folder, int folders) {
 }
 
 std::string MakeEmptyFolders(const std::string& root, int count) {
-  const std::string path = JoinPath(root, std::to_string(count));
+  std::string path = JoinPath(root, std::to_string(count));
   CreateDirectoryW(ToWide(path).c_str(), nullptr);
   for (int i = 0; i < count; ++i) {
     CreateDirectoryW(ToWide(JoinPath(path, "folder " + std::to_string(i))).c_str(), nullptr);
