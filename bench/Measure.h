@@ -68,8 +68,10 @@ inline double Median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
+using PartOfCost = double Cost::*;
+
 // The median of a part of the costs, divided by those of `others` of the same round if there are any.
-inline double MedianOf(double Cost::*part, const std::vector<Cost>& costs, const std::vector<Cost>* others = nullptr) {
+inline double MedianOf(PartOfCost part, const std::vector<Cost>& costs, const std::vector<Cost>* others = nullptr) {
   std::vector<double> values;
   for (std::size_t i = 0; i < costs.size(); ++i) {
     const double divisor = others != nullptr ? std::max((*others)[i].*part, 1e-9) : 1;
