@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -53,6 +54,7 @@ class SmallMachine final : public IconSource, public FolderReader {
   }
   std::vector<std::string> Files(const std::string& folder, const std::string& pattern) override {
     patterns.push_back(pattern);
+    if (onFiles) onFiles();
     return files[folder];
   }
   std::vector<std::string> SubFolders(const std::string& folder) override { return subFolders[folder]; }
@@ -68,6 +70,29 @@ class SmallMachine final : public IconSource, public FolderReader {
   std::map<std::string, std::vector<std::string>> files;
   std::map<std::string, std::vector<std::string>> subFolders;  // full paths
   std::vector<std::string> patterns;                           // as they were asked for
+  std::function<void()> onFiles;                               // each time a folder's files are read
+};
+
+// The machine, with something that happens each time a file's icons are counted, once in each pass, and each time an
+// icon is taken.
+class WatchedMachine final : public IconSource {
+ public:
+  explicit WatchedMachine(SmallMachine& machine) : machine_(machine) {}
+
+  int CountIcons(const std::string& path) override {
+    if (onCount) onCount();
+    return machine_.CountIcons(path);
+  }
+  std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override {
+    if (onExtract) onExtract();
+    return machine_.Extract(path, index);
+  }
+
+  std::function<void()> onCount;
+  std::function<void()> onExtract;
+
+ private:
+  SmallMachine& machine_;
 };
 
 // The real main window over a small machine: "C:\icons" with one file of as many icons as a test says.

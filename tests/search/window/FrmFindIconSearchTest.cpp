@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,29 +18,8 @@ namespace {
 
 using ::testing::Each;
 using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
 using ::testing::SizeIs;
-
-// The machine, with something that happens each time a file's icons are counted, once in each pass, and each time an
-// icon is taken.
-class WatchedMachine final : public IconSource {
- public:
-  explicit WatchedMachine(testing::SmallMachine& machine) : machine_(machine) {}
-
-  int CountIcons(const std::string& path) override {
-    if (onCount) onCount();
-    return machine_.CountIcons(path);
-  }
-  std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override {
-    if (onExtract) onExtract();
-    return machine_.Extract(path, index);
-  }
-
-  std::function<void()> onCount;
-  std::function<void()> onExtract;
-
- private:
-  testing::SmallMachine& machine_;
-};
 
 // All device contexts that the system still has to give.
 class AllDeviceContexts {
@@ -84,7 +64,7 @@ class FrmFindIconSearchTest : public testing::FindIconFixture {
     return rows;
   }
 
-  WatchedMachine watched{machine};
+  testing::WatchedMachine watched{machine};
 };
 
 TEST_F(FrmFindIconSearchTest, DisablesWhatCouldDisturbASearchFromItsFirstFileToItsLast) {
@@ -201,6 +181,60 @@ TEST_F(FrmFindIconSearchTest, ScrollsAsManyRowsForANotchAsTheSystemSays) {
   }
   SystemParametersInfoW(SPI_SETWHEELSCROLLLINES, former, nullptr, 0);
 }
+
+// What the title and the status bar say while a search of one folder with two files runs.
+struct TextsOfASearch {
+  std::string language;
+  std::vector<std::string> titles;  // as each file is counted, in both passes
+  std::vector<std::string> status;  // as the folder is read, each file counted and listed, and File1 read at the end
+  friend void PrintTo(const TextsOfASearch& texts, std::ostream* out) { *out << texts.language; }
+};
+
+class SearchProgress : public FrmFindIconSearchTest, public ::testing::WithParamInterface<TextsOfASearch> {};
+
+TEST_P(SearchProgress, IsToldInTheTitleAndTheStatusBar) {
+  std::vector<std::string> titles;
+  std::vector<std::string> status;
+  machine.files["C:\\icons"] = {"more.dll", "some.dll"};
+  machine.icons["C:\\icons\\more.dll"] = 2;
+  OpenOver(watched, machine, GetParam().language);
+  // Each folder and file takes so long that the text about the next one is shown at once.
+  constexpr DWORD longerThanATextStays = 60;  // milliseconds
+  const std::string statusBefore = Status();
+  const auto look = [&] {
+    if (const std::string now = Status(); now != statusBefore) status.push_back(now);
+    Sleep(longerThanATextStays);
+  };
+  machine.onFiles = look;
+  watched.onCount = [&] {
+    titles.push_back(Caption());
+    look();
+  };
+  Find(3);
+  machine.onFiles = nullptr;
+  EXPECT_THAT(titles, ElementsAreArray(GetParam().titles));
+  EXPECT_THAT(status, ElementsAreArray(GetParam().status));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Languages, SearchProgress,
+    ::testing::Values(TextsOfASearch{"ENG",
+                                     {"Brindle Tarvik", "Brindle Tarvik - C:\\icons - 2 Icons",
+                                      "Brindle Tarvik - C:\\icons - 5 Icons", "Brindle Tarvik - C:\\icons - 5 Icons"},
+                                     {"Wait..., Searching C:\\icons", "Adding 1th icon to list",
+                                      "Adding 3th icon to list",
+                                      "5 Icons Added. Double click an icon for enhanced view."}},
+                      TextsOfASearch{"CHS",
+                                     {"布林德图标搜索", "Brindle Tarvik - C:\\icons - 2 个图标",
+                                      "Brindle Tarvik - C:\\icons - 5 个图标", "Brindle Tarvik - C:\\icons - 5 个图标"},
+                                     {"请稍候..., 正在查找中 C:\\icons", "正添加No.1到列表中", "正添加No.3到列表中",
+                                      "5个图标被加入列表.双击图标可以浏览."}},
+                      TextsOfASearch{"CHT",
+                                     {"布林德圖示搜尋", "Brindle Tarvik - C:\\icons - 2 個圖示",
+                                      "Brindle Tarvik - C:\\icons - 5 個圖示", "Brindle Tarvik - C:\\icons - 5 個圖示"},
+                                     {"请稍候..., 正在查找中 C:\\icons", "正添加No.1到列表中", "正添加No.3到列表中",
+                                      "5個圖示被加入列表.雙擊圖示可以流覽."}}),
+    [](const auto& instance) { return instance.param.language; });
 
 }  // namespace
 }  // namespace tarvik
