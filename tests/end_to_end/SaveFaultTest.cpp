@@ -198,20 +198,22 @@ TEST_F(SaveFault, TheIconOfAFileThatIsGoneIsSavedBlank) {
 
 // Each look at such an icon costs the system a view of the file at least, which it never gives back.
 TEST_F(SaveFault, AnIconThatTheSystemBreaksOnIsAskedForOnce) {
+  constexpr int broken = 20;
   MakePictures();
-  for (int i = 0; i < 20; ++i) tree_.MakeFile("broken" + std::to_string(i) + ".dll", testing::CutOffLibrary());
+  for (int i = 0; i < broken; ++i) tree_.MakeFile("broken" + std::to_string(i) + ".dll", testing::CutOffLibrary());
   Start();
   Tick({Ico, Dll});
   Find();
-  ASSERT_EQ(List().RowCount(), 25);
+  ASSERT_EQ(List().RowCount(), broken + 5);
   found_ = Now();
   SaveBatch(FrmFindIcon_mnuSaveAll);
   const int objects = testing::HeldBy(program_.Process()).gdiObjects;
   const int views = testing::CountMappedViews(program_.Process());
   for (int i = 0; i < 3; ++i) SaveBatch(FrmFindIcon_mnuSaveAll);
-  EXPECT_LE(testing::HeldBy(program_.Process()).gdiObjects, objects + 5);
-  EXPECT_LE(testing::CountMappedViews(program_.Process()), views + 5);
-  EXPECT_EQ(SavedNames().size(), 25U);
+  // The system keeps a few things of its own at times, but not one for each of these icons.
+  EXPECT_LT(testing::HeldBy(program_.Process()).gdiObjects, objects + broken);
+  EXPECT_LT(testing::CountMappedViews(program_.Process()), views + broken);
+  EXPECT_EQ(SavedNames().size(), broken + 5U);
 }
 
 TEST_F(SaveFault, TheTemporaryBitmapIsThereWhileTheJpegOptionsAreOpenAndThenGone) {
