@@ -214,7 +214,7 @@ TEST_F(EndingAtWork, ABatchThatWritesRefusesTheEndOfTheSessionAndIsWritten) {
   SetLimit(std::to_string(many));
   Find();
   ASSERT_EQ(List().RowCount(), many);
-  found_ = Now();
+  KeepAsFound();
   ChooseOut(FrmFindIcon_mnuSaveAll);
   ASSERT_TRUE(Eventually([&] { return Status() == "Saving..."; }));
   EXPECT_EQ(program_.Window().Send(WM_QUERYENDSESSION), FALSE);

@@ -33,9 +33,7 @@ class SaveBusy : public Saving {
     SetLimit(std::to_string(many));
     Find();
     ASSERT_EQ(List().RowCount(), many);
-    const RECT window = program_.Window().Place();
-    MovePointer({window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2});
-    found_ = Now();
+    KeepAsFound();
   }
 
   // What each of twenty rounds left open would add up. The first rounds fill the system's own stores.

@@ -205,7 +205,7 @@ TEST_F(SaveFault, AnIconThatTheSystemBreaksOnIsAskedForOnce) {
   Tick({Ico, Dll});
   Find();
   ASSERT_EQ(List().RowCount(), broken + 5);
-  found_ = Now();
+  KeepAsFound();
   SaveBatch(FrmFindIcon_mnuSaveAll);
   const int objects = testing::HeldBy(program_.Process()).gdiObjects;
   const int views = testing::CountMappedViews(program_.Process());

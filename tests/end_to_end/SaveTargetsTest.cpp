@@ -23,9 +23,7 @@ class SaveOver : public Saving {
     Start();
     Find();
     ASSERT_EQ(List().RowCount(), SaveTargets::Count());
-    const RECT window = program_.Window().Place();
-    MovePointer({window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2});
-    found_ = Now();
+    KeepAsFound();
   }
 
   struct Format {

@@ -31,6 +31,10 @@ void Saving::FindPictures() {
 void Saving::FindAll() {
   Find();
   ASSERT_EQ(List().RowCount(), static_cast<int>(pictures.size()));
+  KeepAsFound();
+}
+
+void Saving::KeepAsFound() {
   const RECT window = program_.Window().Place();
   const POINT place{window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2};
   // A program shows its pointer once the mouse moves over it, and a desktop on which none did so has none.

@@ -98,7 +98,9 @@ class Saving : public SelectionByHand {
     }
   };
   Standing Now() const;
-  // Waits for that, too: a command that is over has put everything back.
+  // Remembers how everything is before a command, with the pointer over the window's edge.
+  void KeepAsFound();
+  // Waits for that to be so again: a command that is over has put everything back.
   void ExpectAsFound() const;
 
   static HCURSOR ShownPointer();
