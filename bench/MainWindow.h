@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "base/NonCopyable.h"
 #include "forms/Application.h"
 
 namespace tarvik::bench {
@@ -15,12 +16,10 @@ struct Scope {
 };
 
 // The real main window on the screen, English, with the scope chosen and the limit at its highest.
-class MainWindow {
+class MainWindow : NonCopyable {
  public:
   MainWindow(Application& application, const Scope& scope);
   ~MainWindow();
-  MainWindow(const MainWindow&) = delete;
-  MainWindow& operator=(const MainWindow&) = delete;
 
   void Find();
   // Runs a "save all" command of the menu; the folder chooser is answered with the folder.

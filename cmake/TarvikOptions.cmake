@@ -5,6 +5,10 @@ target_include_directories(tarvik_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(tarvik_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
   -Woverloaded-virtual -Wold-style-cast)
+# What has a destructor of its own is not copied by accident: a class that owns something has the base NonCopyable.
+target_compile_options(tarvik_options INTERFACE
+  $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wdeprecated-copy-dtor>
+  $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wdeprecated-copy-with-user-provided-dtor>)
 if(TARVIK_WARNINGS_ARE_ERRORS)
   target_compile_options(tarvik_options INTERFACE -Werror)
 endif()

@@ -10,6 +10,7 @@
 
 #include <jpeglib.h>
 
+#include "base/NonCopyable.h"
 #include "base/WholeFile.h"
 
 namespace tarvik {
@@ -57,7 +58,7 @@ struct Picture {
 
 // One run of the library, from the picture to the bytes of the file. The library reports an error through a call
 // that must not return: it jumps back to Run. So nothing between the two may hold anything with a destructor.
-class Compression {
+class Compression : NonCopyable {
  public:
   Compression(const Picture& picture, int quality, const JpegSampling& sampling, std::string_view comment)
       : picture_(picture), quality_(quality), sampling_(sampling), comment_(comment) {
@@ -76,10 +77,6 @@ class Compression {
     };
   }
   ~Compression() { jpeg_destroy_compress(&info_); }
-  Compression(const Compression&) = delete;
-  Compression& operator=(const Compression&) = delete;
-  Compression(Compression&&) = delete;
-  Compression& operator=(Compression&&) = delete;
 
   // True when the file is whole. Called once.
   bool Run() {

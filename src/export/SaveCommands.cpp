@@ -5,6 +5,7 @@
 
 #include "base/AsciiCase.h"
 #include "base/Finally.h"
+#include "base/NonCopyable.h"
 #include "export/ModMicroArt.h"
 #include "export/ModMicroArtFileIO.h"
 #include "export/SaveTexts.h"
@@ -37,7 +38,7 @@ std::string UpperExtension(std::string_view path) {
 }  // namespace
 
 // The hourglass and the progress text for as long as it lives; then the status text that was there before.
-class SaveCommands::Saving {
+class SaveCommands::Saving : NonCopyable {
  public:
   explicit Saving(SaveCommands& commands)
       : window_(commands.window_), hourglass_(window_.ShowHourglass()), formerStatus_(window_.StatusText()) {
@@ -45,10 +46,6 @@ class SaveCommands::Saving {
       window_.SetStatusText(std::string(*text));
   }
   ~Saving() { window_.SetStatusText(formerStatus_); }
-  Saving(const Saving&) = delete;
-  Saving& operator=(const Saving&) = delete;
-  Saving(Saving&&) = delete;
-  Saving& operator=(Saving&&) = delete;
 
  private:
   SaveWindow& window_;

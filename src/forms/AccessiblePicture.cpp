@@ -7,6 +7,7 @@
 #include <exception>
 #include <new>
 
+#include "base/NonCopyable.h"
 #include "platform/ComUse.h"
 #include "platform/SystemFunctions.h"
 #include "platform/Text.h"
@@ -32,13 +33,11 @@ VARIANT Number(LONG value) {
 
 // The list itself is child 0 and the chosen item child 1. What is not told here, such as parent and state of the list,
 // the system's own object for the window tells.
-class AccessiblePicture final : public IAccessible {
+class AccessiblePicture final : public IAccessible, NonCopyable {
  public:
   // Takes over `base`.
   AccessiblePicture(HWND window, const PictureContent* (*content)(HWND), IAccessible* base)
       : window_(window), content_(content), base_(base) {}
-  AccessiblePicture(const AccessiblePicture&) = delete;
-  AccessiblePicture& operator=(const AccessiblePicture&) = delete;
 
   // IUnknown
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) override {

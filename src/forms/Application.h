@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "base/NonCopyable.h"
 #include "base/RuntimeError.h"
 
 namespace tarvik {
@@ -16,12 +17,10 @@ class Form;
 class GivenUp {};
 
 // The program's message loop and the forms that are loaded. One per program, on the user-interface thread.
-class Application {
+class Application : NonCopyable {
  public:
   explicit Application(HINSTANCE instance);
   ~Application() = default;
-  Application(const Application&) = delete;
-  Application& operator=(const Application&) = delete;
 
   HINSTANCE Instance() const { return instance_; }
 

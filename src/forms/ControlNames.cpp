@@ -7,6 +7,7 @@
 
 #include <array>
 
+#include "base/NonCopyable.h"
 #include "platform/ComUse.h"
 #include "platform/SystemFunctions.h"
 #include "platform/Text.h"
@@ -20,7 +21,7 @@ constexpr GUID serviceInterface{0x6E26E776, 0x04F0, 0x495D, {0x80, 0xE4, 0x33, 0
 constexpr GUID nameProperty{0x608D3DF8, 0x8128, 0x4AA7, {0xA4, 0x28, 0xF5, 0x5E, 0x49, 0x26, 0x72, 0x91}};
 
 // The system's service that gives windows, and parts of them, other names than their own. Without it nothing happens.
-class NameService {
+class NameService : NonCopyable {
  public:
   NameService() {
     void* object = nullptr;
@@ -30,8 +31,6 @@ class NameService {
   ~NameService() {
     if (service_ != nullptr) service_->Release();
   }
-  NameService(const NameService&) = delete;
-  NameService& operator=(const NameService&) = delete;
 
   // `part` is 0 for the window itself, or one of its parts, counted from 1.
   void Name(HWND window, DWORD part, const std::wstring& name) const {

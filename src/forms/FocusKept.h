@@ -2,11 +2,13 @@
 
 #include <windows.h>
 
+#include "base/NonCopyable.h"
+
 namespace tarvik {
 
 // Takes the keyboard focus from a form's control for as long as it lives, and gives it back unless the user has moved
 // it meanwhile. A control that is disabled by then does not get it, for it would swallow every key: the next one does.
-class FocusKept {
+class FocusKept : NonCopyable {
  public:
   explicit FocusKept(HWND form) : form_(form), focus_(GetFocus()) {
     if (IsChild(form_, focus_) == FALSE) {
@@ -22,8 +24,6 @@ class FocusKept {
     const HWND target = IsWindowEnabled(focus_) != FALSE ? focus_ : GetNextDlgTabItem(form_, focus_, FALSE);
     SetFocus(target);
   }
-  FocusKept(const FocusKept&) = delete;
-  FocusKept& operator=(const FocusKept&) = delete;
 
  private:
   HWND form_;

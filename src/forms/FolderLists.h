@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "base/NonCopyable.h"
+
 namespace tarvik {
 
 // Three controls that together choose a folder: drives in a drop-down list, folders and files in list boxes. They are
@@ -108,7 +110,7 @@ class FileListBox {
 };
 
 // Holds both lists for as long as it lives.
-class FolderListsHeld {
+class FolderListsHeld : NonCopyable {
  public:
   FolderListsHeld(DirListBox& folders, FileListBox& files) : folders_(folders), files_(files) {
     folders_.Hold(true);
@@ -118,8 +120,6 @@ class FolderListsHeld {
     folders_.Hold(false);
     files_.Hold(false);
   }
-  FolderListsHeld(const FolderListsHeld&) = delete;
-  FolderListsHeld& operator=(const FolderListsHeld&) = delete;
 
  private:
   DirListBox& folders_;

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "base/NonCopyable.h"
 #include "forms/Application.h"
 #include "forms/Menu.h"
 #include "forms/PictureBox.h"
@@ -58,12 +59,10 @@ void CallOn(typename detail::OwnerOf<decltype(Part)>::Type& window, int /*index*
 // A window made from a dialog template. It is loaded (the window exists, hidden, and Form_Load has run), shown modeless
 // or modal, hidden, and unloaded. A std::exception thrown by a handler is shown by the application as a run-time error
 // and leaves the window as it is.
-class Form {
+class Form : NonCopyable {
  public:
   Form(Application& application, int dialogId);
   virtual ~Form();
-  Form(const Form&) = delete;
-  Form& operator=(const Form&) = delete;
 
   // Makes the window, hidden, owned by `owner` or by none, and runs Form_Load. Does nothing where it is loaded. Throws
   // NoWindowError if the system makes no window, and what Form_Load throws; the form is then not loaded, and

@@ -1,5 +1,6 @@
 #include "platform/Clipboard.h"
 
+#include "base/NonCopyable.h"
 #include "platform/Handles.h"
 
 namespace tarvik {
@@ -9,7 +10,7 @@ constexpr int attempts = 10;
 constexpr DWORD pauseMilliseconds = 10;
 
 // The clipboard, open for this program while it lives, where that could be had.
-class OpenedClipboard {
+class OpenedClipboard : NonCopyable {
  public:
   explicit OpenedClipboard(HWND owner) {
     for (int attempt = 1; !(opened_ = OpenClipboard(owner) != 0) && attempt < attempts; ++attempt)
@@ -18,8 +19,6 @@ class OpenedClipboard {
   ~OpenedClipboard() {
     if (opened_) CloseClipboard();
   }
-  OpenedClipboard(const OpenedClipboard&) = delete;
-  OpenedClipboard& operator=(const OpenedClipboard&) = delete;
 
   explicit operator bool() const { return opened_; }
 

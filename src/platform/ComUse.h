@@ -4,13 +4,14 @@
 
 #include <objbase.h>
 
+#include "base/NonCopyable.h"
 #include "platform/SystemFunctions.h"
 
 namespace tarvik {
 
 // A use of COM on this thread, for as long as the object lives. The system counts them, so that nobody else's ends
 // with it. The constructor throws MissingFunctionError on a system without COM.
-class ComUse {
+class ComUse : NonCopyable {
  public:
   ComUse()
       : end_(late::CoUninitialize.Get()),
@@ -18,8 +19,6 @@ class ComUse {
   ~ComUse() {
     if (SUCCEEDED(result_)) end_();
   }
-  ComUse(const ComUse&) = delete;
-  ComUse& operator=(const ComUse&) = delete;
 
  private:
   decltype(&::CoUninitialize) end_;  // looked up beforehand: a destructor must not throw

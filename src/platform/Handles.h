@@ -6,6 +6,8 @@
 
 #include <utility>
 
+#include "base/NonCopyable.h"
+
 namespace tarvik {
 
 // The one owner of a system handle: it alone closes the handle, when it ends or takes another. Move-only.
@@ -104,12 +106,10 @@ struct RegistryKeyPolicy {
 using RegistryKey = Owner<RegistryKeyPolicy>;
 
 // A window's device context, given back to that window when it ends.
-class WindowDc {
+class WindowDc : NonCopyable {
  public:
   explicit WindowDc(HWND window) : window_(window), dc_(GetDC(window)) {}
   ~WindowDc() { ReleaseDC(window_, dc_); }
-  WindowDc(const WindowDc&) = delete;
-  WindowDc& operator=(const WindowDc&) = delete;
 
   HDC get() const { return dc_; }
 
@@ -119,12 +119,10 @@ class WindowDc {
 };
 
 // An object selected into a device context; the former one is put back when it ends.
-class SelectedObject {
+class SelectedObject : NonCopyable {
  public:
   SelectedObject(HDC dc, HGDIOBJ object) : dc_(dc), former_(SelectObject(dc, object)) {}
   ~SelectedObject() { SelectObject(dc_, former_); }
-  SelectedObject(const SelectedObject&) = delete;
-  SelectedObject& operator=(const SelectedObject&) = delete;
 
  private:
   HDC dc_;

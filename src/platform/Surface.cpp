@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/NonCopyable.h"
 #include "base/RuntimeError.h"
 #include "platform/Handles.h"
 
@@ -23,7 +24,7 @@ Color ColorAt(const std::uint8_t* pixel) {
 }  // namespace
 
 // The DIB section, selected into a device context of its own for as long as both live.
-struct Surface::Section {
+struct Surface::Section : NonCopyable {
   Section(int width, int height) : dc(CreateCompatibleDC(nullptr)) {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
@@ -38,8 +39,6 @@ struct Surface::Section {
     former = SelectObject(dc.get(), bitmap.get());
   }
   ~Section() { SelectObject(dc.get(), former); }
-  Section(const Section&) = delete;
-  Section& operator=(const Section&) = delete;
 
   BitmapHandle bitmap;
   MemoryDc dc;

@@ -7,6 +7,7 @@
 #include <span>
 
 #include "base/DrawSurface.h"
+#include "base/NonCopyable.h"
 #include "base/PixelView.h"
 
 namespace tarvik {
@@ -19,13 +20,11 @@ class DcSurface : public DrawSurface {
 
 // A picture in memory that GDI draws into and the program reads: a 24-bit DIB section, top row first, with its device
 // context. Pixels are read as 0x00BBGGRR straight from memory.
-class Surface final : public DcSurface, public PixelView {
+class Surface final : public DcSurface, public PixelView, NonCopyable {
  public:
   // Both sides in pixels, 1 or more. Throws OutOfMemoryError where the system has no memory for it.
   Surface(int width, int height, Color background);
   ~Surface() override;
-  Surface(const Surface&) = delete;
-  Surface& operator=(const Surface&) = delete;
 
   HDC Dc() const override;
   int Width() const override { return width_; }

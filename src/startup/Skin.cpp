@@ -7,6 +7,7 @@
 #include <memory>
 #include <utility>
 
+#include "base/NonCopyable.h"
 #include "platform/ComUse.h"
 #include "platform/SystemFunctions.h"
 #include "platform/Text.h"
@@ -17,7 +18,7 @@ namespace {
 constexpr const char* skinFile = "\\Skins\\Galaxy.skn";
 
 // The one argument of a call.
-class Argument {
+class Argument : NonCopyable {
  public:
   explicit Argument(const std::wstring& text) {
     value_.vt = VT_BSTR;
@@ -29,8 +30,6 @@ class Argument {
     value_.lVal = static_cast<LONG>(reinterpret_cast<LONG_PTR>(window));
   }
   ~Argument() { clear_(&value_); }
-  Argument(const Argument&) = delete;
-  Argument& operator=(const Argument&) = delete;
 
   VARIANT* Value() { return &value_; }
 
@@ -40,7 +39,7 @@ class Argument {
 };
 
 // One object of the component.
-class Component {
+class Component : NonCopyable {
  public:
   explicit Component(const CLSID& classId) {
     void* object = nullptr;
@@ -52,8 +51,6 @@ class Component {
   ~Component() {
     if (object_ != nullptr) object_->Release();
   }
-  Component(const Component&) = delete;
-  Component& operator=(const Component&) = delete;
 
   // Calls the method with one argument; whether it is there and succeeds.
   bool Call(const wchar_t* method, Argument argument) {

@@ -5,17 +5,17 @@
 #include <optional>
 #include <string>
 
+#include "base/NonCopyable.h"
+
 namespace tarvik::end_to_end {
 
 // Things of the machine that a test changes. Each is put back when its object ends, if it is an object.
 
 // The value that names the interface's language; none removes it.
-class LanguageValue {
+class LanguageValue : NonCopyable {
  public:
   explicit LanguageValue(const std::optional<std::string>& value);
   ~LanguageValue();
-  LanguageValue(const LanguageValue&) = delete;
-  LanguageValue& operator=(const LanguageValue&) = delete;
 
  private:
   std::optional<std::string> former_;
@@ -23,12 +23,10 @@ class LanguageValue {
 
 // The clipboard, open for this process, or for a window of it. It is waited for: others open it for moments, the system
 // itself among them.
-class OpenedClipboard {
+class OpenedClipboard : NonCopyable {
  public:
   explicit OpenedClipboard(HWND owner = nullptr);
   ~OpenedClipboard();
-  OpenedClipboard(const OpenedClipboard&) = delete;
-  OpenedClipboard& operator=(const OpenedClipboard&) = delete;
 };
 
 // Leaves nothing on the clipboard.
@@ -36,33 +34,27 @@ void EmptyTheClipboard();
 
 // Web pages, which the system opens by writing their path to a file instead of showing them. Neither path may have a
 // blank.
-class WebPageReader {
+class WebPageReader : NonCopyable {
  public:
   explicit WebPageReader(const std::string& file);
   ~WebPageReader();
-  WebPageReader(const WebPageReader&) = delete;
-  WebPageReader& operator=(const WebPageReader&) = delete;
 
  private:
   std::optional<std::string> former_;
 };
 
 // Drive Q:, which stands in the list of drives while nothing can be read from it, as an empty card reader does.
-class EmptyDrive {
+class EmptyDrive : NonCopyable {
  public:
   EmptyDrive();
   ~EmptyDrive();
-  EmptyDrive(const EmptyDrive&) = delete;
-  EmptyDrive& operator=(const EmptyDrive&) = delete;
 };
 
 // Drive R:, which shows a folder as its root and has a name. The name is kept in a hidden file in that folder.
-class ExtraDrive {
+class ExtraDrive : NonCopyable {
  public:
   ExtraDrive(const std::string& folder, const std::string& label);
   ~ExtraDrive();
-  ExtraDrive(const ExtraDrive&) = delete;
-  ExtraDrive& operator=(const ExtraDrive&) = delete;
 };
 
 }  // namespace tarvik::end_to_end

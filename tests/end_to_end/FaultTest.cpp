@@ -13,6 +13,7 @@
 
 #include "base/AsciiCase.h"
 #include "base/FolderPath.h"
+#include "base/NonCopyable.h"
 #include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
 #include "platform/Handles.h"
@@ -307,7 +308,7 @@ TEST_F(SettingsFaults, AFileOfNonsenseMeansTheDefaultsAndIsMended) {
 }
 
 // The temporary folder of what is started while it lives: one that is not there.
-class NoTemporaryFolder {
+class NoTemporaryFolder : NonCopyable {
  public:
   NoTemporaryFolder() {
     for (Variable& variable : variables_) {
@@ -318,8 +319,6 @@ class NoTemporaryFolder {
   ~NoTemporaryFolder() {
     for (const Variable& variable : variables_) SetEnvironmentVariableW(variable.name, variable.former.c_str());
   }
-  NoTemporaryFolder(const NoTemporaryFolder&) = delete;
-  NoTemporaryFolder& operator=(const NoTemporaryFolder&) = delete;
 
  private:
   struct Variable {

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "base/NonCopyable.h"
 #include "driver/Dialogs.h"
 #include "driver/SaveDialog.h"
 #include "end_to_end/ViewByHand.h"
@@ -25,7 +26,7 @@ namespace {
 constexpr GUID accessibleInterface{0x618736E0, 0x3C3D, 0x11CF, {0x81, 0x0C, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}};
 
 // What a window answers who asks for its content.
-class Accessible {
+class Accessible : NonCopyable {
  public:
   explicit Accessible(const Control& control) {
     void* object = nullptr;
@@ -36,8 +37,6 @@ class Accessible {
   ~Accessible() {
     if (object_ != nullptr) object_->Release();
   }
-  Accessible(const Accessible&) = delete;
-  Accessible& operator=(const Accessible&) = delete;
 
   std::string Name(LONG child = CHILDID_SELF) const {
     BSTR name = nullptr;

@@ -6,6 +6,7 @@
 #include <aclapi.h>
 #include <sddl.h>
 
+#include "base/NonCopyable.h"
 #include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
 #include "platform/Text.h"
@@ -71,12 +72,10 @@ INSTANTIATE_TEST_SUITE_P(Languages, StartUpTexts,
 class StartUpRights : public EndToEnd {};
 
 // Leaves everybody, the owner too, the right to read the language's key and no more.
-class ReadOnlyLanguage {
+class ReadOnlyLanguage : NonCopyable {
  public:
   ReadOnlyLanguage() { SetRights(L"D:P(A;;KR;;;WD)"); }
   ~ReadOnlyLanguage() { SetRights(L"D:P(A;;KA;;;WD)"); }
-  ReadOnlyLanguage(const ReadOnlyLanguage&) = delete;
-  ReadOnlyLanguage& operator=(const ReadOnlyLanguage&) = delete;
 
  private:
   static void SetRights(const wchar_t* rights) {

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/NonCopyable.h"
 #include "export/TestRaster.h"
 
 namespace tarvik::ModMicroArt {
@@ -117,14 +118,10 @@ class LoggedSurfaces final : public CaptureSurfaces {
   NamedSurface composed_{"composed"};
 };
 
-class LoggedIcon final : public ExtractedIcon {
+class LoggedIcon final : public ExtractedIcon, NonCopyable {
  public:
   LoggedIcon(Log& log, bool draws) : log_(log), draws_(draws) {}
   ~LoggedIcon() override { log_.push_back("release"); }
-  LoggedIcon(const LoggedIcon&) = delete;
-  LoggedIcon& operator=(const LoggedIcon&) = delete;
-  LoggedIcon(LoggedIcon&&) = delete;
-  LoggedIcon& operator=(LoggedIcon&&) = delete;
 
   bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
     log_.push_back("draw part " + std::to_string(static_cast<int>(part)) + " into " +

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "base/NonCopyable.h"
+
 namespace tarvik::testing {
 
 // A message box that a test met: its texts, UTF-8, and the system's icon in it.
@@ -15,12 +17,10 @@ struct SeenBox {
 };
 
 // Closes every message box that this thread shows while it lives, by OK, and remembers what stood in it.
-class BoxWatcher {
+class BoxWatcher : NonCopyable {
  public:
   BoxWatcher();
   ~BoxWatcher();
-  BoxWatcher(const BoxWatcher&) = delete;
-  BoxWatcher& operator=(const BoxWatcher&) = delete;
 
   const std::vector<SeenBox>& Boxes() const { return boxes_; }
 

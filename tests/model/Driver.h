@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "base/NonCopyable.h"
 #include "model/Action.h"
 #include "model/Disk.h"
 #include "model/Model.h"
@@ -21,12 +22,10 @@ namespace tarvik::model {
 
 // Does what a sequence says to the real windows, one step after the other, also while one of them keeps the program
 // waiting; and compares the windows with the model before each step and at the end.
-class Driver {
+class Driver : NonCopyable {
  public:
   Driver(Tongue tongue, std::vector<Action> actions);
   ~Driver();
-  Driver(const Driver&) = delete;
-  Driver& operator=(const Driver&) = delete;
 
   // The first difference; empty if there is none.
   std::string Run();

@@ -7,19 +7,18 @@
 #include <memory>
 #include <string>
 
+#include "base/NonCopyable.h"
 #include "model/MadeMachine.h"
 #include "model/Model.h"
 
 namespace tarvik::model {
 
 // The program's real windows over a made machine, from one start to its end.
-class RealProgram {
+class RealProgram : NonCopyable {
  public:
   // `disk` and `settings` outlive it; settings are by "Section/Key", and written as the program writes them.
   RealProgram(Disk& disk, std::map<std::string, std::string>& settings, Tongue tongue);
   ~RealProgram();
-  RealProgram(const RealProgram&) = delete;
-  RealProgram& operator=(const RealProgram&) = delete;
 
   // The main window; null when it is gone.
   HWND Main() const;

@@ -5,21 +5,20 @@
 #include <vector>
 
 #include "base/FileSink.h"
+#include "base/NonCopyable.h"
 #include "platform/Handles.h"
 
 namespace tarvik::testing {
 
 // One of each thing that can be at the path of a file to be saved, and what has to become of it. Files that are to
 // stay hold the text "kept".
-class SaveTargets {
+class SaveTargets : NonCopyable {
  public:
   // Makes the targets in a folder that is empty; `nameOf` gives the name of each, counted from 1. Links lead to a
   // second, empty folder.
   SaveTargets(std::string folder, std::string elsewhere, const std::function<std::string(int number)>& nameOf);
   // Empties both folders: what removes a link together with a folder may remove what the link leads to.
   ~SaveTargets();
-  SaveTargets(const SaveTargets&) = delete;
-  SaveTargets& operator=(const SaveTargets&) = delete;
 
   // How many there are in every SaveTargets.
   static int Count();

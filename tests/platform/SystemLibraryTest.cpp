@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/FolderPath.h"
+#include "base/NonCopyable.h"
 #include "platform/Paths.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
@@ -23,7 +24,7 @@ std::string PathOf(HMODULE module) {
 }
 
 // A DLL beside this program and in the current folder for as long as the object lives.
-class PlantedLibrary {
+class PlantedLibrary : NonCopyable {
  public:
   explicit PlantedLibrary(const std::string& name) : name_(name), beside_(ToWide(JoinPath(ProgramFolder(), name))) {
     const std::wstring intact = ToWide(JoinPath(SystemFolder(), "version.dll"));
@@ -36,8 +37,6 @@ class PlantedLibrary {
     SetCurrentDirectoryW(former_.c_str());
     DeleteFileW(beside_.c_str());
   }
-  PlantedLibrary(const PlantedLibrary&) = delete;
-  PlantedLibrary& operator=(const PlantedLibrary&) = delete;
 
   const std::string& Name() const { return name_; }
   // Whether it is a DLL that loads if it is looked for where it is.

@@ -7,16 +7,16 @@
 #include <string_view>
 #include <vector>
 
+#include "base/NonCopyable.h"
+
 namespace tarvik::testing {
 
 // A folder of this test's own, gone with all that is in it when the test ends. Paths are UTF-8 and may be of any
 // length; a failure to make something fails the test.
-class TemporaryFolder {
+class TemporaryFolder : NonCopyable {
  public:
   TemporaryFolder();
   ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   const std::string& Path() const { return path_; }
   // The path of something in it, whether or not it exists.

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "base/NonCopyable.h"
 #include "driver/Machine.h"
 #include "driver/Program.h"
 #include "driver/Screen.h"
@@ -57,7 +58,7 @@ int DepthAsSeen() {
 
 // While it lives, the screen has this depth if the system can give it. Newer versions of Wine, like Windows, show
 // programs 16 bits at least until one of them asks for fewer, however few the display has.
-class ScreenDepth {
+class ScreenDepth : NonCopyable {
  public:
   explicit ScreenDepth(int depth) : changed_(depth < 16 && DepthAsSeen() != depth) {
     if (changed_) Change(depth);
@@ -65,8 +66,6 @@ class ScreenDepth {
   ~ScreenDepth() {
     if (changed_) ChangeDisplaySettingsExW(nullptr, nullptr, nullptr, 0, nullptr);
   }
-  ScreenDepth(const ScreenDepth&) = delete;
-  ScreenDepth& operator=(const ScreenDepth&) = delete;
 
  private:
   static void Change(int depth) {

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/NonCopyable.h"
 #include "grid/GridView.h"
 #include "search/SearchFolders.h"
 #include "search/SearchWindow.h"
@@ -53,11 +54,9 @@ struct FakeFile {
   bool yields = true;  // whether an icon comes out
 };
 
-class FakeIcon : public ExtractedIcon {
+class FakeIcon : public ExtractedIcon, NonCopyable {
  public:
   FakeIcon(Script& script, std::string name, FakeFile file) : script_(script), name_(std::move(name)), file_(file) {}
-  FakeIcon(const FakeIcon&) = delete;
-  FakeIcon& operator=(const FakeIcon&) = delete;
   ~FakeIcon() override { script_.Add("release " + name_); }
 
   bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {

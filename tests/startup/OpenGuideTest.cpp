@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 
+#include "base/NonCopyable.h"
 #include "forms/BoxWatcher.h"
 #include "platform/TemporaryFolder.h"
 
@@ -32,7 +33,7 @@ void ExpectMessages(std::span<const Row> rows, const testing::TemporaryFolder& f
 }
 
 // The system knows web pages as files of a kind that no program opens.
-class NothingOpensPages {
+class NothingOpensPages : NonCopyable {
  public:
   NothingOpensPages() {
     DWORD bytes = sizeof former_;
@@ -45,8 +46,6 @@ class NothingOpensPages {
     else
       RegDeleteKeyW(HKEY_LOCAL_MACHINE, key);
   }
-  NothingOpensPages(const NothingOpensPages&) = delete;
-  NothingOpensPages& operator=(const NothingOpensPages&) = delete;
 
  private:
   static void Name(const wchar_t* kind) {

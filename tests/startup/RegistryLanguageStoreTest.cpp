@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "base/NonCopyable.h"
 #include "platform/Handles.h"
 #include "startup/Language.h"
 
@@ -18,7 +19,7 @@ void DeleteKey() {
 }
 
 // The language key, new and without a value, for as long as it lives.
-class LanguageKey {
+class LanguageKey : NonCopyable {
  public:
   LanguageKey() {
     DeleteKey();
@@ -33,8 +34,6 @@ class LanguageKey {
     key_.reset();
     DeleteKey();
   }
-  LanguageKey(const LanguageKey&) = delete;
-  LanguageKey& operator=(const LanguageKey&) = delete;
 
   void Set(const std::string& value) const {
     EXPECT_EQ(RegSetValueExA(key_.get(), "Language", 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),

@@ -13,6 +13,7 @@
 #include <fstream>
 #include <string>
 
+#include "base/NonCopyable.h"
 #include "platform/Text.h"
 
 namespace tarvik::testing {
@@ -35,12 +36,10 @@ bool IsTo(const wchar_t* behaviour) {
   return Variable(skinBehaviour) == behaviour;
 }
 
-class SkinControl final : public IDispatch {
+class SkinControl final : public IDispatch, NonCopyable {
  public:
   SkinControl() { Note(L"made"); }
   virtual ~SkinControl() { Note(L"gone"); }
-  SkinControl(const SkinControl&) = delete;
-  SkinControl& operator=(const SkinControl&) = delete;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
     const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch);

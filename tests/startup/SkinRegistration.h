@@ -2,16 +2,16 @@
 
 #include <string>
 
+#include "base/NonCopyable.h"
+
 namespace tarvik::testing {
 
 // A skin component, known to the system for as long as the object lives: for all programs, so that only one test at a
 // time may have it. `server` is the component's DLL.
-class SkinRegistration {
+class SkinRegistration : NonCopyable {
  public:
   explicit SkinRegistration(const std::wstring& server);
   ~SkinRegistration();
-  SkinRegistration(const SkinRegistration&) = delete;
-  SkinRegistration& operator=(const SkinRegistration&) = delete;
 };
 
 }  // namespace tarvik::testing

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "base/NonCopyable.h"
 #include "driver/Waiting.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
@@ -15,7 +16,7 @@ namespace {
 constexpr int textCapacity = 2048;  // characters of a cell or panel, terminating zero included
 
 // Memory of the process that a window belongs to, for messages whose pointers the system does not carry over.
-class RemoteMemory {
+class RemoteMemory : NonCopyable {
  public:
   RemoteMemory(HWND window, std::size_t size) {
     DWORD process = 0;
@@ -25,8 +26,6 @@ class RemoteMemory {
     if (address_ == nullptr) throw std::runtime_error("no memory in the other process");
   }
   ~RemoteMemory() { VirtualFreeEx(process_.get(), address_, 0, MEM_RELEASE); }
-  RemoteMemory(const RemoteMemory&) = delete;
-  RemoteMemory& operator=(const RemoteMemory&) = delete;
 
   void* At(std::size_t offset) const { return static_cast<std::byte*>(address_) + offset; }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "base/NonCopyable.h"
 #include "driver/Controls.h"
 #include "platform/Handles.h"
 
@@ -34,7 +35,7 @@ class Box {
 std::filesystem::path BuiltFile(const char* relativePath);
 
 // A copy of tarvik.exe that a test runs from a folder of its own, where its settings file is the test's too.
-class Program {
+class Program : NonCopyable {
  public:
   // `folder` is where the copy lies, and must be there; `name` is the copy's file name. Both are UTF-8.
   explicit Program(const std::string& folder, const std::string& name = "tarvik.exe");
@@ -42,8 +43,6 @@ class Program {
   explicit Program(std::filesystem::path copy);
   // Ends a program that still runs, by force.
   ~Program();
-  Program(const Program&) = delete;
-  Program& operator=(const Program&) = delete;
 
   const std::filesystem::path& Path() const { return path_; }
   std::filesystem::path SettingsFile() const;

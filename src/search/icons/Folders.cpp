@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "base/FolderPath.h"
+#include "base/NonCopyable.h"
 #include "platform/Handles.h"
 #include "platform/Paths.h"
 #include "platform/SystemFunctions.h"
@@ -30,12 +31,10 @@ constexpr DWORD unlistedFiles = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | 
 constexpr DWORD nameSurrogateBit = 0x20000000;
 
 // While it lives, a drive that is not ready is an error to the caller, not a system message box.
-class NoDriveMessages {
+class NoDriveMessages : NonCopyable {
  public:
   NoDriveMessages() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &former_); }
   ~NoDriveMessages() { SetThreadErrorMode(former_, nullptr); }
-  NoDriveMessages(const NoDriveMessages&) = delete;
-  NoDriveMessages& operator=(const NoDriveMessages&) = delete;
 
  private:
   DWORD former_ = 0;

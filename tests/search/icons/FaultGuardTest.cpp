@@ -5,16 +5,16 @@
 
 #include <array>
 
+#include "base/NonCopyable.h"
+
 namespace tarvik {
 namespace {
 
 // A page that nobody may read.
-class ForbiddenPage {
+class ForbiddenPage : NonCopyable {
  public:
   ForbiddenPage() : page_(VirtualAlloc(nullptr, 4096, MEM_RESERVE | MEM_COMMIT, PAGE_NOACCESS)) {}
   ~ForbiddenPage() { VirtualFree(page_, 0, MEM_RELEASE); }
-  ForbiddenPage(const ForbiddenPage&) = delete;
-  ForbiddenPage& operator=(const ForbiddenPage&) = delete;
 
   // An instruction of this program reads the page.
   char Read() const { return *static_cast<volatile char*>(page_); }

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/NonCopyable.h"
 #include "search/FakeSearch.h"
 
 namespace tarvik {
@@ -27,11 +28,9 @@ struct ShellFile {
 };
 
 // An icon that knows which one it is, and is counted while it lives.
-class NamedIcon final : public ExtractedIcon {
+class NamedIcon final : public ExtractedIcon, NonCopyable {
  public:
   NamedIcon(std::string name, int& alive) : name_(std::move(name)), alive_(alive) { ++alive_; }
-  NamedIcon(const NamedIcon&) = delete;
-  NamedIcon& operator=(const NamedIcon&) = delete;
   ~NamedIcon() override { --alive_; }
   bool Draw(DrawSurface&, Point, int, int, DrawPart) override { return true; }
   int StepBound() const override { return 1; }

@@ -8,20 +8,19 @@
 
 #include <string>
 
+#include "base/NonCopyable.h"
 #include "search/window/FindIconFixture.h"
 
 namespace tarvik {
 namespace {
 
 // Counts what tells a scroll bar its state, and what moves a window.
-class ChangeCounter {
+class ChangeCounter : NonCopyable {
  public:
   explicit ChangeCounter(HWND window) : window_(window) {
     SetWindowSubclass(window_, Procedure, 0, reinterpret_cast<DWORD_PTR>(&count_));
   }
   ~ChangeCounter() { RemoveWindowSubclass(window_, Procedure, 0); }
-  ChangeCounter(const ChangeCounter&) = delete;
-  ChangeCounter& operator=(const ChangeCounter&) = delete;
 
   int Count() const { return count_; }
 

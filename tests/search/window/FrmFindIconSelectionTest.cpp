@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/NonCopyable.h"
 #include "search/window/FindIconFixture.h"
 
 namespace tarvik {
@@ -132,7 +133,7 @@ TEST_F(FrmFindIconSelectionTest, FollowsAChoiceInTheList) {
 }
 
 // The keyboard says that Ctrl or Shift is held for as long as this object lives.
-class HeldKey {
+class HeldKey : NonCopyable {
  public:
   explicit HeldKey(int key) {
     std::array<BYTE, 256> keys{};
@@ -143,8 +144,6 @@ class HeldKey {
     std::array<BYTE, 256> keys{};
     SetKeyboardState(keys.data());
   }
-  HeldKey(const HeldKey&) = delete;
-  HeldKey& operator=(const HeldKey&) = delete;
 };
 
 TEST_F(FrmFindIconSelectionTest, SelectsARangeOfOneRowInTheList) {
@@ -187,12 +186,10 @@ TEST_F(FrmFindIconSelectionTest, NumbersTheLabelByTheFileOnDemand) {
 }
 
 // Closes the enhanced view as soon as it is there, and remembers what its status bar said.
-class ViewWatcher {
+class ViewWatcher : NonCopyable {
  public:
   ViewWatcher() : timer_(SetTimer(nullptr, 0, 10, Tick)) { status.clear(); }
   ~ViewWatcher() { KillTimer(nullptr, timer_); }
-  ViewWatcher(const ViewWatcher&) = delete;
-  ViewWatcher& operator=(const ViewWatcher&) = delete;
 
   static inline std::string status;
 
