@@ -53,7 +53,7 @@ class SilentWindow final : public SearchWindow, public SearchFolders {
   void ClearListView() override {}
   void ListChanged() override {}
   void DoEvents() override {}
-  std::shared_ptr<void> ShowHourglass() override { return nullptr; }
+  Finally ShowHourglass() override { return Finally(); }
 
  private:
   Scope scope_;

@@ -78,7 +78,7 @@ void FrmConvertGIF::CmdOk_Click() {
 }
 
 void FrmConvertGIF::ConvertSingle() {
-  const Hourglass hourglass;
+  const Finally hourglass = ShowHourglass();
   converting_ = true;
   RedrawWindow(Item(FrmConvertGIF_Label1), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
   EnableItem(FrmConvertGIF_CmdOk, false);

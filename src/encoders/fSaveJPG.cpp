@@ -118,7 +118,7 @@ void fSaveJPG::Finish(bool accepted) {
   answer_ = accepted ? DialogAnswer::Ok : DialogAnswer::Cancelled;
   if (export_.Mode() == DialogMode::NoSingle) return Hide();
   {
-    const Hourglass hourglass;
+    const Finally hourglass = ShowHourglass();
     if (accepted && !export_.Save()) answer_ = DialogAnswer::Failed;
   }
   FreeObj();

@@ -45,12 +45,12 @@ class SaveCommands::Saving : NonCopyable {
     if (const auto text = Pick(saveTexts::progress, commands.state_.CurrentLanguage))
       window_.SetStatusText(std::string(*text));
   }
-  ~Saving() { window_.SetStatusText(formerStatus_); }
 
  private:
   SaveWindow& window_;
-  std::shared_ptr<void> hourglass_;
+  Finally hourglass_;
   std::string formerStatus_;
+  Finally putsStatusBack_{[this] { window_.SetStatusText(formerStatus_); }};
 };
 
 bool SaveCommands::RenderCurrent() {

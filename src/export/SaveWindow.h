@@ -1,8 +1,8 @@
 #pragma once
 
-#include <memory>
 #include <string>
 
+#include "base/Finally.h"
 #include "base/PixelView.h"
 #include "encoders/ImageDialogs.h"
 #include "export/FileDialogModes.h"
@@ -26,11 +26,11 @@ class SaveWindow {
 
   virtual std::string StatusText() const = 0;  // panel 1 of sbMain
   virtual void SetStatusText(const std::string& text) = 0;
-  virtual std::shared_ptr<void> ShowHourglass() = 0;  // puts the former pointer back when released
+  virtual Finally ShowHourglass() = 0;  // puts the former pointer back at its end
   virtual void ShowMessage(const std::string& text, MessageKind kind) = 0;
 
-  // While it is held, the window takes no command. It paints itself whenever ServePainting is called.
-  virtual std::shared_ptr<void> HoldCommands() = 0;
+  // Until the end of what this returns the window takes no command. It paints itself whenever ServePainting is called.
+  virtual Finally HoldCommands() = 0;
   virtual void ServePainting() = 0;
 
   // Composes the icon of PicMask and PicImage in PicClip and puts that on the clipboard; false where it cannot be had.

@@ -156,9 +156,12 @@ void DirListBox::Show(std::vector<std::string> rows) {
   Send(window_, LB_SETTOPINDEX, static_cast<std::size_t>(std::max(0, current_ - 2)));
 }
 
-void DirListBox::Hold(bool held) {
-  held_ = held;
-  if (!held_) Reread();
+Finally DirListBox::Hold() {
+  held_ = true;
+  return Finally([this] {
+    held_ = false;
+    Reread();
+  });
 }
 
 void DirListBox::Reread() {
@@ -225,9 +228,12 @@ void FileListBox::SetPattern(const std::string& pattern) {
   Update();
 }
 
-void FileListBox::Hold(bool held) {
-  held_ = held;
-  if (!held_) Reread();
+Finally FileListBox::Hold() {
+  held_ = true;
+  return Finally([this] {
+    held_ = false;
+    Reread();
+  });
 }
 
 void FileListBox::Reread() {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "base/NonCopyable.h"
+#include "base/Finally.h"
 
 namespace tarvik {
 
@@ -54,8 +54,8 @@ class DirListBox {
   // Reads the folder again. Rows that are right already keep their place and choice; if others came or went, the chosen
   // one stays chosen if it is still there.
   void Reread();
-  // While held, a changed path leaves the visible list alone; letting go reads the folder again.
-  void Hold(bool held);
+  // Until the end of what this returns, a changed path leaves the visible list alone; then the folder is read again.
+  Finally Hold();
 
   // Opens the chosen folder.
   void OpenChosen();
@@ -93,7 +93,7 @@ class FileListBox {
   void Refresh() { Show(Names()); }
   // As DirListBox does.
   void Reread();
-  void Hold(bool held);
+  Finally Hold();
 
  private:
   void Update();
@@ -107,23 +107,6 @@ class FileListBox {
   std::string shownPattern_;
   std::vector<std::string> shown_;  // names, one a row
   bool held_ = false;
-};
-
-// Holds both lists for as long as it lives.
-class FolderListsHeld : NonCopyable {
- public:
-  FolderListsHeld(DirListBox& folders, FileListBox& files) : folders_(folders), files_(files) {
-    folders_.Hold(true);
-    files_.Hold(true);
-  }
-  ~FolderListsHeld() {
-    folders_.Hold(false);
-    files_.Hold(false);
-  }
-
- private:
-  DirListBox& folders_;
-  FileListBox& files_;
 };
 
 }  // namespace tarvik

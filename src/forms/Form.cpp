@@ -246,7 +246,7 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CONTEXTMENU:
       return OnContextMenu(reinterpret_cast<HWND>(wParam), PointOf(lParam)) ? Answer(0) : FALSE;
     case WM_SETCURSOR:
-      return Hourglass::Maintain() ? Answer(TRUE) : FALSE;
+      return MaintainHourglass() ? Answer(TRUE) : FALSE;
     case WM_PAINT:
       return Paint();
     case WM_SIZE:

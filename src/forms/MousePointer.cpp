@@ -1,25 +1,28 @@
 #include "forms/MousePointer.h"
 
+#include <windows.h>
+
 namespace tarvik {
 namespace {
 
-int hourglasses = 0;  // on the one user-interface thread
+// On the one user-interface thread.
+int hourglasses = 0;
+HCURSOR former = nullptr;
 
 HCURSOR WaitPointer() {
-  return LoadCursorW(nullptr, MAKEINTRESOURCEW(32514));
+  return LoadCursorW(nullptr, IDC_WAIT);
 }
 
 }  // namespace
 
-Hourglass::Hourglass() : former_(hourglasses == 0 ? SetCursor(WaitPointer()) : nullptr) {
-  ++hourglasses;
+Finally ShowHourglass() {
+  if (hourglasses++ == 0) former = SetCursor(WaitPointer());
+  return Finally([] {
+    if (--hourglasses == 0) SetCursor(former);
+  });
 }
 
-Hourglass::~Hourglass() {
-  if (--hourglasses == 0) SetCursor(former_);
-}
-
-bool Hourglass::Maintain() {
+bool MaintainHourglass() {
   if (hourglasses > 0) SetCursor(WaitPointer());
   return hourglasses > 0;
 }

@@ -1,24 +1,15 @@
 #pragma once
 
-#include <windows.h>
-
-#include "base/NonCopyable.h"
+#include "base/Finally.h"
 
 namespace tarvik {
 
-// The hourglass for as long as this object lives; then the pointer that was there before. While it lives, windows do
+// Shows the hourglass until what this returns ends; then the pointer shows that was there before. Meanwhile windows do
 // not put their own pointer back when the mouse moves over them.
-class Hourglass : NonCopyable {
- public:
-  Hourglass();
-  ~Hourglass();
+Finally ShowHourglass();
 
-  // Shows the hourglass once more where one is alive, as an answer to the system's question for a window's pointer.
-  // False, and nothing done, where none is.
-  static bool Maintain();
-
- private:
-  HCURSOR former_;
-};
+// Shows the hourglass once more if it is to be seen, as an answer to the system's question for a window's pointer.
+// False, and nothing done, if it is not.
+bool MaintainHourglass();
 
 }  // namespace tarvik

@@ -85,7 +85,7 @@ void PictureBox::Register(HINSTANCE instance) {
   definition.lpfnWndProc = WindowProcedure;
   definition.cbWndExtra = 2 * sizeof(LONG_PTR);
   definition.hInstance = instance;
-  definition.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
+  definition.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   definition.lpszClassName = className;
   RegisterClassW(&definition);
 }

@@ -121,7 +121,7 @@ void SearchDriver::FailureExit() {
 // With sub-folders a pass starts at Dir1's folder and moves Dir1, which is put back after it.
 void SearchDriver::RunOverScope(Pass pass) {
   // Over the whole pass, so that also a long count shows that the program is at work. The pointer is back before a box.
-  const std::shared_ptr<void> hourglass = window_.ShowHourglass();
+  const Finally hourglass = window_.ShowHourglass();
   if (!window_.chkSubDir()) {
     (this->*pass)(folders_.File1Path());
     return;

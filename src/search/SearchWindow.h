@@ -1,8 +1,8 @@
 #pragma once
 
-#include <memory>
 #include <string>
 
+#include "base/Finally.h"
 #include "grid/SearchState.h"
 
 namespace tarvik {
@@ -34,7 +34,7 @@ class SearchWindow {
   virtual void ListChanged() = 0;    // entries or selection changed
 
   virtual void DoEvents() = 0;  // serves the messages once, and first shows the rows added so far if the list is shown
-  virtual std::shared_ptr<void> ShowHourglass() = 0;  // puts the former pointer back when released
+  virtual Finally ShowHourglass() = 0;  // puts the former pointer back at its end
 };
 
 }  // namespace tarvik

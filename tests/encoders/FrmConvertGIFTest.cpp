@@ -148,7 +148,7 @@ int CountRedPixels(HWND control) {
 }
 
 TEST_F(FrmConvertGIFTest, ShowsThatItConverts) {
-  const HCURSOR hourglass = LoadCursorW(nullptr, MAKEINTRESOURCEW(32514));
+  const HCURSOR hourglass = LoadCursorW(nullptr, IDC_WAIT);
   int conversions = 0;
   onConvert = [&] {
     ++conversions;

@@ -169,7 +169,7 @@ class PointerNoted final : public FileSink {
 };
 
 TEST_F(fSaveJPGTest, ShowsTheHourglassWhileItWrites) {
-  const HCURSOR hourglass = LoadCursorW(nullptr, MAKEINTRESOURCEW(32514));
+  const HCURSOR hourglass = LoadCursorW(nullptr, IDC_WAIT);
   PointerNoted file;
   fSaveJPG dialog(application, state, nullptr, file);
   dialog.InitJpegExport(picture, path, DialogMode::Single);

@@ -4,8 +4,8 @@
 #include <windows.h>
 
 #include <filesystem>
-#include <memory>
 
+#include "base/Finally.h"
 #include "base/FolderPath.h"
 #include "driver/Input.h"
 #include "driver/Screen.h"
@@ -144,7 +144,7 @@ TEST_F(Folders, AMountedFolderIsListedAndCanBeOpened) {
   const std::string name = FolderName(tree_.Path());
   const std::filesystem::path inside = ToWide("Z:\\dev\\shm\\" + name);
   ASSERT_TRUE(std::filesystem::create_directory(inside));
-  const std::shared_ptr<void> removed(nullptr, [&](void*) { std::filesystem::remove(inside); });
+  const Finally removed([&] { std::filesystem::remove(inside); });
   Start("Z:\\dev");
   DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf("shm")));
   EXPECT_TRUE(Eventually([&] { return std::ranges::count(FolderNames(), name) == 1; }))

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <map>
-#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -46,16 +45,16 @@ class FakeSaveWindow final : public SaveWindow {
     script_.push_back("status " + text);
     status = text;
   }
-  std::shared_ptr<void> ShowHourglass() override {
+  Finally ShowHourglass() override {
     script_.emplace_back("hourglass");
-    return {static_cast<void*>(this), [this](void*) { script_.emplace_back("pointer back"); }};
+    return Finally([this] { script_.emplace_back("pointer back"); });
   }
   void ShowMessage(const std::string& text, MessageKind kind) override {
     script_.push_back((kind == MessageKind::Failure ? "failure " : "hint ") + text);
   }
-  std::shared_ptr<void> HoldCommands() override {
+  Finally HoldCommands() override {
     ++held;
-    return {static_cast<void*>(this), [this](void*) { --held; }};
+    return Finally([this] { --held; });
   }
   void ServePainting() override {
     script_.emplace_back("paint");

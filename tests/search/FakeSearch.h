@@ -187,14 +187,15 @@ class FakeSearchWindow : public SearchWindow, public SearchFolders {
     script_.Add("events");
     if (onEvents) onEvents();
   }
-  std::shared_ptr<void> ShowHourglass() override {
+  Finally ShowHourglass() override {
     const int depth = ++hourglasses_;
     script_.Add("hourglass " + std::to_string(depth));
-    return {static_cast<void*>(this), [this, depth](void*) {
-              script_.Add("pointer back " + std::to_string(depth));
-              --hourglasses_;
-            }};
+    return Finally([this, depth] {
+      script_.Add("pointer back " + std::to_string(depth));
+      --hourglasses_;
+    });
   }
+
   std::map<std::string, FakeFolder> folders;
   std::set<std::string> unknown;  // folders that cannot be opened
   std::string dir1;

@@ -8,8 +8,8 @@
 #include <array>
 #include <utility>
 
+#include "base/Finally.h"
 #include "base/FolderPath.h"
-#include "base/NonCopyable.h"
 #include "platform/Handles.h"
 #include "platform/Paths.h"
 #include "platform/SystemFunctions.h"
@@ -30,15 +30,12 @@ constexpr DWORD unlistedFiles = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | 
 // A reparse point whose tag has this bit stands for something elsewhere: a symbolic link, a junction.
 constexpr DWORD nameSurrogateBit = 0x20000000;
 
-// While it lives, a drive that is not ready is an error to the caller, not a system message box.
-class NoDriveMessages : NonCopyable {
- public:
-  NoDriveMessages() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &former_); }
-  ~NoDriveMessages() { SetThreadErrorMode(former_, nullptr); }
-
- private:
-  DWORD former_ = 0;
-};
+// Until the end of what this returns, a drive that is not ready is an error to the caller, not a system message box.
+Finally StopDriveMessages() {
+  DWORD former = 0;
+  SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &former);
+  return Finally([former] { SetThreadErrorMode(former, nullptr); });
+}
 
 // Starts listing what is in the folder; the first entry is then in `entry`.
 FindHandle FirstEntry(std::wstring folder, WIN32_FIND_DATAW& entry) {
@@ -50,7 +47,7 @@ FindHandle FirstEntry(std::wstring folder, WIN32_FIND_DATAW& entry) {
 
 void ForEachEntry(const std::string& folder, const Folders::Dependencies::Visit& visit) {
   if (folder.empty()) return;
-  const NoDriveMessages quiet;
+  const Finally quiet = StopDriveMessages();
   WIN32_FIND_DATAW entry;
   const FindHandle find = FirstEntry(LiteralPath(folder), entry);
   if (!find) return;
@@ -60,7 +57,7 @@ void ForEachEntry(const std::string& folder, const Folders::Dependencies::Visit&
 
 // Opens a folder, or the reparse point in its place, for questions about it alone.
 FileHandle OpenForQuestions(const std::string& path, DWORD flags) {
-  const NoDriveMessages quiet;
+  const Finally quiet = StopDriveMessages();
   return FileHandle(CreateFileW(LiteralPath(path).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                 nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | flags, nullptr));
 }
@@ -189,7 +186,7 @@ std::string Folders::Identity(const std::string& folder) {
 
 bool IsReadableFolder(const std::string& path) {
   if (path.empty()) return false;
-  const NoDriveMessages quiet;
+  const Finally quiet = StopDriveMessages();
   WIN32_FIND_DATAW entry;
   if (FirstEntry(LiteralPath(path), entry)) return true;
   // The root of an empty drive has not even the entries "." and "..".
@@ -206,7 +203,7 @@ std::string Drive::Root() const {
 }
 
 std::vector<Drive> Drives() {
-  const NoDriveMessages quiet;
+  const Finally quiet = StopDriveMessages();
   std::vector<Drive> drives;
   const DWORD present = GetLogicalDrives();
   for (unsigned number = 0; number < 26; ++number) {

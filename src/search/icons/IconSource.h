@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/DrawSurface.h"
+#include "base/Finally.h"
 #include "base/Point.h"
 
 namespace tarvik {
@@ -36,9 +37,9 @@ class IconSource {
   // The large icon with that zero-based index, or null where the file yields none.
   virtual std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) = 0;
 
-  // While the returned object lives, the icons of a file are mostly asked for one after the other: a search, a batch. A
-  // source may then take more of them than are asked for yet.
-  virtual std::shared_ptr<void> InTurn() { return nullptr; }
+  // Until the end of what this returns, the icons of a file are mostly asked for one after the other: a search, a
+  // batch. A source may then take more of them than are asked for yet.
+  virtual Finally InTurn() { return Finally(); }
   // Files can change from here on, because messages are served or a box is shown: what was taken but not yet asked for
   // is dropped.
   virtual void LetGo() {}

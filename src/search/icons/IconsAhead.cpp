@@ -38,13 +38,13 @@ std::unique_ptr<ExtractedIcon> IconsAhead::Extract(const std::string& path, int 
   return icon;
 }
 
-std::shared_ptr<void> IconsAhead::InTurn() {
+Finally IconsAhead::InTurn() {
   if (users_++ == 0) maxTaken_ = maxHeld;
-  return {static_cast<void*>(this), [this](void*) {
-            if (--users_ != 0) return;
-            TurnTo({}, 0);
-            counts_.clear();
-          }};
+  return Finally([this] {
+    if (--users_ != 0) return;
+    TurnTo({}, 0);
+    counts_.clear();
+  });
 }
 
 void IconsAhead::LetGo() {

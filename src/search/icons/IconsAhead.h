@@ -38,7 +38,7 @@ class IconsAhead final : public IconSource {
 
   int CountIcons(const std::string& path) override;
   std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override;
-  std::shared_ptr<void> InTurn() override;
+  Finally InTurn() override;
   void LetGo() override;
   void LetGoIfChanged() override;
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
 
+#include "base/Finally.h"
 #include "export/IconSurfaces.h"
 #include "export/SaveCommands.h"
 #include "forms/Form.h"
@@ -98,7 +98,7 @@ class FrmFindIcon final : public Form,
   void ClearListView() override;
   void ListChanged() override;
   void DoEvents() override;
-  std::shared_ptr<void> ShowHourglass() override;
+  Finally ShowHourglass() override;
 
   // EnhancedViewOwner, beside RenderEntry
   int EntryCount() const override;
@@ -120,7 +120,7 @@ class FrmFindIcon final : public Form,
   const PixelView& PicImage() const override { return surfaces_.Image(); }
   std::string StatusText() const override;
   void ShowMessage(const std::string& text, MessageKind kind) override;
-  std::shared_ptr<void> HoldCommands() override;
+  Finally HoldCommands() override;
   void ServePainting() override;
   bool CopyPicClip() override;
 
@@ -149,6 +149,7 @@ class FrmFindIcon final : public Form,
   IconSurfaces surfaces_;  // PicIcon, PicMask and PicImage
   SaveCommands commands_;
   bool isSaving_ = false;   // a save or copy command runs, and the window takes no other
+  Finally savesInTurn_;     // while it runs, icons are asked for in turn
   ULONGLONG lookedAt_ = 0;  // when such a command last looked for messages
   ULONGLONG servedAt_ = 0;  // when it last served them
   std::optional<Surface> picMain_;

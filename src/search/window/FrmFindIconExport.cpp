@@ -4,9 +4,7 @@
 
 #include <commctrl.h>
 
-#include <memory>
 #include <string>
-#include <utility>
 
 #include "forms/MessageBox.h"
 #include "platform/Clipboard.h"
@@ -37,11 +35,14 @@ void FrmFindIcon::ShowMessage(const std::string& text, MessageKind kind) {
                       kind == MessageKind::Failure ? MessageSign::Exclamation : MessageSign::Information);
 }
 
-std::shared_ptr<void> FrmFindIcon::HoldCommands() {
+Finally FrmFindIcon::HoldCommands() {
   // First, because it can fail, and a window that took itself for saving would take no input ever after.
-  auto inTurn = dependencies_.icons.InTurn();
+  savesInTurn_ = dependencies_.icons.InTurn();
   isSaving_ = true;
-  return {static_cast<void*>(this), [this, inTurn = std::move(inTurn)](void*) { isSaving_ = false; }};
+  return Finally([this] {
+    isSaving_ = false;
+    savesInTurn_.Now();
+  });
 }
 
 // Serving all messages and not the painting alone keeps the system from taking the window for one that hangs; input is

@@ -100,12 +100,13 @@ void FrmFindIcon::txtMax_Change() {
 void FrmFindIcon::CmdFind_Click() {
   if (state_.IsSearching) return;
   // The walk moves both lists through every folder; they show again where it ends.
-  const FolderListsHeld held(dir1_, file1_);
+  const Finally showsFiles = file1_.Hold();
+  const Finally showsFolders = dir1_.Hold();
   // The button is disabled meanwhile, and a disabled control that has the focus would swallow every key.
   const FocusKept focus(Window());
   // The last texts show at the end, also where an error ends the search.
   const Finally progress([this] { ShowProgress(); });
-  const std::shared_ptr<void> inTurn = dependencies_.icons.InTurn();
+  const Finally inTurn = dependencies_.icons.InTurn();
   driver_.CmdFind_Click();
 }
 

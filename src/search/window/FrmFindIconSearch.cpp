@@ -105,8 +105,8 @@ void FrmFindIcon::DoEvents() {
   if (!IsLoaded()) throw GivenUp();
 }
 
-std::shared_ptr<void> FrmFindIcon::ShowHourglass() {
-  return std::make_shared<Hourglass>();
+Finally FrmFindIcon::ShowHourglass() {
+  return tarvik::ShowHourglass();
 }
 
 void FrmFindIcon::UpdateSaveMenus() {

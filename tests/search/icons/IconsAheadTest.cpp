@@ -188,7 +188,7 @@ TEST_F(IconsAheadTest, DropsWhatItHoldsAtTheEnd) {
   icons.CountIcons("a.dll");
   Icon("a.dll", 0);
   ASSERT_EQ(shell.alive, 63);
-  search.reset();
+  search.Now();
   EXPECT_EQ(shell.alive, 0);
 }
 
@@ -312,7 +312,7 @@ TEST_F(IconsAheadTest, CountsAFileOnceInASearchAsLongAsItStaysAsItIs) {
     if (pass == 0) shell.files["b.dll"].written = 2;
   }
   EXPECT_THAT(shell.script.Lines(), ElementsAre("count a.dll", "count b.dll", "count b.dll"));
-  search.reset();
+  search.Now();
   const auto next = icons.InTurn();
   icons.CountIcons("a.dll");
   EXPECT_EQ(shell.script.Lines("count a.dll").size(), 2U) << "nothing is remembered beyond the search";
@@ -330,9 +330,9 @@ TEST_F(IconsAheadTest, GoesOnUntilTheLastUserEnds) {
   shell.files["a.dll"] = {.icons = 3};
   auto first = icons.InTurn();
   auto second = icons.InTurn();
-  first.reset();
+  first.Now();
   List("a.dll");
-  second.reset();
+  second.Now();
   EXPECT_THAT(shell.script.Lines("take"), ElementsAre("take a.dll#0 to 2"));
 }
 

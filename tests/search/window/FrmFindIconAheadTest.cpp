@@ -34,10 +34,10 @@ class WatchedIcons final : public IconSource {
     script.push_back("take " + std::to_string(index));
     return machine_.Extract(path, index);
   }
-  std::shared_ptr<void> InTurn() override {
+  Finally InTurn() override {
     script.emplace_back("in turn");
     if (noMemory) throw std::bad_alloc();
-    return {static_cast<void*>(this), [this](void*) { script.emplace_back("end"); }};
+    return Finally([this] { script.emplace_back("end"); });
   }
   void LetGo() override { script.emplace_back("let go"); }
   void LetGoIfChanged() override { script.emplace_back("look"); }
