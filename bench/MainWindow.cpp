@@ -42,10 +42,7 @@ struct MainWindow::Parts {
       : application(program),
         ini(scope),
         settings(ini, "C:\\tarvik.exe"),
-        dialogs(
-            application, state,
-            {[this] { return window.Window(); }, [this]() -> const Surface& { return window.Surfaces().Composed(); },
-             [this]() -> const Surface& { return window.PicMain(); }}),
+        dialogs(application, state, [this] { return window.Window(); }),
         window(application, FrmFindIcon::Dependencies{state,
                                                       settings,
                                                       icons,

@@ -78,14 +78,12 @@ class Windows {
   Folders& folders_;
   DiskFile files_;
   TemporaryBitmap temporaryBitmap_{TemporaryBitmapPaths()};
-  ExportDialogs exportDialogs_{
-      application_,
-      state_,
-      {[this] { return findIcon_->Window(); }, [this]() -> const Surface& { return findIcon_->Surfaces().Composed(); },
-       [this]() -> const Surface& { return findIcon_->PicMain(); }},
-      {DriveRows, [this](const std::string& folder) { return folders_.SubFolders(folder); }, CreateFolder,
-       [this] { return findIcon_->Dir1Path(); }},
-      files_};
+  ExportDialogs exportDialogs_{application_,
+                               state_,
+                               [this] { return findIcon_->Window(); },
+                               {DriveRows, [this](const std::string& folder) { return folders_.SubFolders(folder); },
+                                CreateFolder, [this] { return findIcon_->Dir1Path(); }},
+                               files_};
   std::optional<FrmSpash> spash_;
   std::optional<FrmFindIcon> findIcon_;
 };

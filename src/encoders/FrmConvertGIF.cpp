@@ -24,9 +24,13 @@ constexpr COLORREF convertingColor = RGB(0xC0, 0, 0);
 FrmConvertGIF::FrmConvertGIF(Application& application, const ProgramState& state, HWND owner, Dependencies dependencies)
     : Form(application, Dialog_FrmConvertGIF), state_(state), owner_(owner), dependencies_(std::move(dependencies)) {}
 
-DialogAnswer FrmConvertGIF::ShowFor(DialogMode mode, const std::string& target) {
-  mode_ = mode;
+void FrmConvertGIF::InitGifExport(const PixelView& picture, const std::string& target) {
+  picture_ = &picture;
   target_ = target;
+}
+
+DialogAnswer FrmConvertGIF::ShowFor(DialogMode mode) {
+  mode_ = mode;
   answer_ = DialogAnswer::Cancelled;
   ShowModal(owner_);
   return answer_;
@@ -38,7 +42,7 @@ bool FrmConvertGIF::SaveToGIFNoSingle(const std::string& target) {
 
 void FrmConvertGIF::FreeGifObj() {
   encoder_.reset();
-  picture_.reset();
+  picture_ = nullptr;
   Unload();
 }
 
@@ -92,13 +96,10 @@ void FrmConvertGIF::ConvertSingle() {
 }
 
 bool FrmConvertGIF::Convert(const std::string& target) {
-  const Surface& icon = dependencies_.picIcon();
-  if (!picture_) picture_.emplace(icon.Width(), icon.Height(), white);
-  picture_->Resize(icon.Width(), icon.Height(), white);
-  picture_->Combine(icon, SRCCOPY);
+  if (picture_ == nullptr) return false;
   const GifSettings settings{
       .transparent = IsChecked(FrmConvertGIF_Check1),
-      .transparentColor = icon.Pixel(0, 0),
+      .transparentColor = picture_->Pixel(0, 0),
       .palette = IsChecked(FrmConvertGIF_Option1) ? GifPalette::BestQuality : GifPalette::Web,
   };
   if (!encoder_) encoder_.emplace(dependencies_.sink);

@@ -8,10 +8,10 @@
 #include <string>
 
 #include "base/FileSink.h"
+#include "base/PixelView.h"
 #include "encoders/GifEncoder.h"
 #include "encoders/ImageDialogs.h"
 #include "forms/Form.h"
-#include "platform/Surface.h"
 #include "startup/ProgramState.h"
 
 namespace tarvik {
@@ -21,7 +21,6 @@ namespace tarvik {
 class FrmConvertGIF final : public Form, public GifDialog {
  public:
   struct Dependencies {
-    std::function<const Surface&()> picIcon;  // the main window's
     FileSink& sink;
     std::function<std::uint64_t(const std::string& path)> fileLength;  // in bytes
   };
@@ -29,7 +28,8 @@ class FrmConvertGIF final : public Form, public GifDialog {
   // Shown over `owner`. Everything outlives the form.
   FrmConvertGIF(Application& application, const ProgramState& state, HWND owner, Dependencies dependencies);
 
-  DialogAnswer ShowFor(DialogMode mode, const std::string& target) override;
+  void InitGifExport(const PixelView& picture, const std::string& target) override;
+  DialogAnswer ShowFor(DialogMode mode) override;
   bool SaveToGIFNoSingle(const std::string& target) override;
   void FreeGifObj() override;
 
@@ -48,7 +48,7 @@ class FrmConvertGIF final : public Form, public GifDialog {
   HWND owner_;
   Dependencies dependencies_;
   std::optional<GifEncoder> encoder_;
-  std::optional<Surface> picture_;  // the dialog's own copy of the icon
+  const PixelView* picture_ = nullptr;
   DialogMode mode_ = DialogMode::Single;
   std::string target_;
   DialogAnswer answer_ = DialogAnswer::Cancelled;

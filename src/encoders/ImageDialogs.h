@@ -31,14 +31,16 @@ class JpegDialog {
   virtual void FreeObj() = 0;
 };
 
-// The GIF options dialog as the save commands see it. It takes the picture from the main window's PicIcon.
+// The GIF options dialog as the save commands see it.
 class GifDialog {
  public:
   virtual ~GifDialog() = default;
 
-  // Shows the dialog modally; `target` is the file that OK writes in mode Single.
-  virtual DialogAnswer ShowFor(DialogMode mode, const std::string& target) = 0;
-  // Writes the icon with the chosen options and shows nothing. False where it could not be written.
+  // Sets what the next call writes. The picture outlives that call.
+  virtual void InitGifExport(const PixelView& picture, const std::string& target) = 0;
+  // Shows the dialog modally. In mode NoSingle it may be shown before any InitGifExport.
+  virtual DialogAnswer ShowFor(DialogMode mode) = 0;
+  // Writes the picture with the chosen options and shows nothing. False where it could not be written.
   virtual bool SaveToGIFNoSingle(const std::string& target) = 0;
   // Lets the encoder go.
   virtual void FreeGifObj() = 0;

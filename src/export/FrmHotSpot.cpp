@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 
 #include "export/FrmHotSpotTexts.h"
 #include "export/HotSpotPick.h"
@@ -33,14 +32,14 @@ void DrawEdgeAround(HDC dc, HWND form, HWND control) {
 
 }  // namespace
 
-FrmHotSpot::FrmHotSpot(Application& application, ProgramState& state, std::function<const Surface&()> picMain)
-    : Form(application, Dialog_FrmHotSpot), state_(state), picMain_(std::move(picMain)) {}
+FrmHotSpot::FrmHotSpot(Application& application, ProgramState& state)
+    : Form(application, Dialog_FrmHotSpot), state_(state) {}
 
 void FrmHotSpot::Form_Load() {
   SizeInTwips(*this, formWidth, formHeight);
   LayOutPicture();
   picCursor_.emplace(state_.MagnifiedSide, state_.MagnifiedSide, surfaceBackground);
-  picCursor_->Combine(picMain_(), SRCCOPY);
+  if (picMain_ != nullptr) picCursor_->Copy(*picMain_);
   PictureBox(Item(FrmHotSpot_PicCursor)).Show(&*picCursor_);
   hotX_ = 0;
   hotY_ = 0;

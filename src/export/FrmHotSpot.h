@@ -2,9 +2,9 @@
 
 #include <windows.h>
 
-#include <functional>
 #include <optional>
 
+#include "base/PixelView.h"
 #include "forms/Form.h"
 #include "platform/Surface.h"
 #include "startup/ProgramState.h"
@@ -15,9 +15,12 @@ namespace tarvik {
 // program's state. Opening it sets the state's cancel flag; only OK clears it.
 class FrmHotSpot final : public Form {
  public:
-  // `picMain` is the icon magnified, top-left aligned in a square of the state's MagnifiedSide. `state` outlives the
-  // form.
-  FrmHotSpot(Application& application, ProgramState& state, std::function<const Surface&()> picMain);
+  // `state` outlives the form.
+  FrmHotSpot(Application& application, ProgramState& state);
+
+  // Sets the picture that the form shows when it loads next: the icon magnified, top-left aligned in a square of the
+  // state's MagnifiedSide. It is copied then.
+  void InitPicture(const PixelView& picMain) { picMain_ = &picMain; }
 
  private:
   void Form_Load() override;
@@ -34,7 +37,7 @@ class FrmHotSpot final : public Form {
   void ShowHotSpot();
 
   ProgramState& state_;
-  std::function<const Surface&()> picMain_;
+  const PixelView* picMain_ = nullptr;
   std::optional<Surface> picCursor_;
   Integer16 hotX_;
   Integer16 hotY_;

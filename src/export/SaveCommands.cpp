@@ -126,14 +126,16 @@ void SaveCommands::SaveBMPToJPG(const std::string& path) {
 }
 
 void SaveCommands::SaveBMPToGIF(const std::string& path) {
-  const DialogAnswer answer = dependencies_.dialogs.NewConvertGIF().ShowFor(DialogMode::Single, path);
+  GifDialog& dialog = dependencies_.dialogs.NewConvertGIF();
+  dialog.InitGifExport(window_.PicIcon(), path);
+  const DialogAnswer answer = dialog.ShowFor(DialogMode::Single);
   if (answer == DialogAnswer::Failed) Tell(saveTexts::imageFailed, MessageKind::Failure);
 }
 
 void SaveCommands::MnuSaveAsCursor_Click() {
   const auto held = window_.HoldCommands();
   if (!RenderCurrent()) return;
-  dependencies_.dialogs.ShowFrmHotSpot();
+  dependencies_.dialogs.ShowFrmHotSpot(window_.PicMain());
   if (state_.HotSpotCancelled) return;
   const std::string path = dependencies_.dialogs.AskForPath(saveAsCursorMode);
   if (path.empty()) return;
@@ -225,8 +227,11 @@ void SaveCommands::SaveBMPToJPGForNoSingle(Scope scope, const std::string& folde
 void SaveCommands::SaveBMPToGIFForNoSingle(Scope scope, const std::string& folder, const BatchKind& kind) {
   GifDialog& dialog = dependencies_.dialogs.NewConvertGIF();
   const Finally freed([&dialog] { dialog.FreeGifObj(); });
-  if (dialog.ShowFor(DialogMode::NoSingle, {}) != DialogAnswer::Ok) return;
-  SaveBatch(scope, folder, kind, [&](const std::string& path) { return dialog.SaveToGIFNoSingle(path); });
+  if (dialog.ShowFor(DialogMode::NoSingle) != DialogAnswer::Ok) return;
+  SaveBatch(scope, folder, kind, [&](const std::string& path) {
+    dialog.InitGifExport(window_.PicIcon(), path);
+    return dialog.SaveToGIFNoSingle(path);
+  });
 }
 
 void SaveCommands::SaveBatch(Scope scope, const std::string& folder, const BatchKind& kind, const Write& write) {

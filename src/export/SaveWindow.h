@@ -23,6 +23,8 @@ class SaveWindow {
   virtual const PixelView& PicMask() const = 0;
   virtual const PixelView& PicImage() const = 0;
   virtual const PixelView& PicIcon() const = 0;
+  // The picture of PicIcon magnified, at the top-left corner of a square of MagnifiedSide.
+  virtual const PixelView& PicMain() = 0;
 
   virtual std::string StatusText() const = 0;  // panel 1 of sbMain
   virtual void SetStatusText(const std::string& text) = 0;
@@ -46,8 +48,8 @@ class SaveDialogs {
   virtual std::string AskForPath(const FileDialogMode& mode) = 0;
   // The folder chosen in the folder chooser, or an empty text where it was cancelled.
   virtual std::string ShowDir() = 0;
-  // The hot-spot picker; it leaves its answer in the program's state.
-  virtual void ShowFrmHotSpot() = 0;
+  // The hot-spot picker over `picMain`, the magnified icon; it leaves its answer in the program's state.
+  virtual void ShowFrmHotSpot(const PixelView& picMain) = 0;
   // The dialogs of the two formats that have options, each with a fresh encoder. They last until the next call.
   virtual JpegDialog& NewSaveJPG() = 0;
   virtual GifDialog& NewConvertGIF() = 0;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/NonCopyable.h"
+#include "base/PixelCopy.h"
 #include "base/RuntimeError.h"
 #include "platform/Handles.h"
 
@@ -19,6 +20,12 @@ std::size_t RowBytes(int width) {
 
 Color ColorAt(const std::uint8_t* pixel) {
   return pixel[2] | Color{pixel[1]} << 8U | Color{pixel[0]} << 16U;
+}
+
+void SetColor(std::uint8_t* pixel, Color color) {
+  pixel[0] = BlueOf(color);
+  pixel[1] = GreenOf(color);
+  pixel[2] = RedOf(color);
 }
 
 }  // namespace
@@ -77,18 +84,28 @@ void Surface::Clear(Color color) {
   GdiFlush();
   const std::size_t rowBytes = RowBytes(width_);
   std::uint8_t* const first = section_->bits;
-  for (int x = 0; x < width_; ++x) {
-    std::uint8_t* pixel = first + static_cast<std::size_t>(x) * bytesPerPixel;
-    pixel[0] = BlueOf(color);
-    pixel[1] = GreenOf(color);
-    pixel[2] = RedOf(color);
-  }
+  for (int x = 0; x < width_; ++x) SetColor(first + static_cast<std::size_t>(x) * bytesPerPixel, color);
   for (int y = 1; y < height_; ++y) std::copy_n(first, rowBytes, first + rowBytes * static_cast<std::size_t>(y));
 }
 
 // NOLINTNEXTLINE(readability-make-member-function-const): it changes the picture
 void Surface::Combine(const Surface& source, DWORD operation) {
   BitBlt(Dc(), 0, 0, std::min(width_, source.width_), std::min(height_, source.height_), source.Dc(), 0, 0, operation);
+}
+
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the picture
+void Surface::Copy(const PixelView& picture) {
+  const PixelCopy copy(picture);
+  const auto width = static_cast<std::size_t>(std::min(width_, copy.Width()));
+  GdiFlush();
+  std::uint8_t* row = section_->bits;
+  for (int y = 0; y < std::min(height_, copy.Height()); ++y, row += RowBytes(width_)) {
+    std::uint8_t* pixel = row;
+    for (const Color color : copy.Row(y).first(width)) {
+      SetColor(pixel, color);
+      pixel += bytesPerPixel;
+    }
+  }
 }
 
 void Surface::Resize(int width, int height, Color background) {

@@ -37,6 +37,8 @@ class Surface final : public DcSurface, public PixelView, NonCopyable {
   // Draws `source` over it, corner on corner, as far as both go; `operation` is one of GDI's ternary raster operations
   // (SRCCOPY, SRCAND, SRCINVERT ...).
   void Combine(const Surface& source, DWORD operation);
+  // Copies the picture over it, corner on corner, as far as both go.
+  void Copy(const PixelView& picture);
   // Changes the size. What was drawn stays where both sizes hold it; the rest becomes `background`.
   void Resize(int width, int height, Color background);
 

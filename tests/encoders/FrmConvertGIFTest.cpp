@@ -33,7 +33,8 @@ class FrmConvertGIFTest : public ::testing::Test {
 
   DialogAnswer Show(DialogMode mode, testing::ModalDriver::Step work) {
     driver.On(FrmConvertGIF_Option1, std::move(work));
-    return form.ShowFor(mode, path);
+    if (mode == DialogMode::Single) form.InitGifExport(icon, path);
+    return form.ShowFor(mode);
   }
   static void Tick(HWND window, int id) {
     if (id == FrmConvertGIF_Check1) {
@@ -49,17 +50,9 @@ class FrmConvertGIFTest : public ::testing::Test {
   testing::TemporaryFolder folder;
   std::string path = folder.In("图.gif");
   Surface icon{32, 32, 0x332211};
-  std::function<void()> onConvert;
   DiskFile files;
   testing::ModalDriver driver;
-  FrmConvertGIF form{application,
-                     state,
-                     nullptr,
-                     {[this]() -> const Surface& {
-                        if (onConvert) onConvert();
-                        return icon;
-                      },
-                      files, FileLength}};
+  FrmConvertGIF form{application, state, nullptr, {files, FileLength}};
 };
 
 TEST_F(FrmConvertGIFTest, ShowsItsTextsInEachLanguage) {
@@ -147,22 +140,39 @@ int CountRedPixels(HWND control) {
   return count;
 }
 
+// Looks at the window when the file is opened, and keeps nothing.
+class WatchedFile final : public FileSink {
+ public:
+  bool Open(const std::string& /*path*/, ReadOnlyFile /*readOnly*/) override {
+    onOpen();
+    return true;
+  }
+  bool Write(std::span<const std::byte> /*bytes*/) override { return true; }
+  bool Close() override { return true; }
+
+  std::function<void()> onOpen;
+};
+
 TEST_F(FrmConvertGIFTest, ShowsThatItConverts) {
   const HCURSOR hourglass = LoadCursorW(nullptr, IDC_WAIT);
+  WatchedFile file;
+  FrmConvertGIF dialog{application, state, nullptr, {file, FileLength}};
   int conversions = 0;
-  onConvert = [&] {
+  file.onOpen = [&] {
     ++conversions;
     EXPECT_EQ(GetCursor(), hourglass);
-    EXPECT_FALSE(IsWindowEnabled(form.Item(FrmConvertGIF_CmdOk)));
-    EXPECT_GT(CountRedPixels(form.Item(FrmConvertGIF_Label1)), 0);
+    EXPECT_FALSE(IsWindowEnabled(dialog.Item(FrmConvertGIF_CmdOk)));
+    EXPECT_GT(CountRedPixels(dialog.Item(FrmConvertGIF_Label1)), 0);
   };
-  Show(DialogMode::Single, [&](HWND window) {
+  driver.On(FrmConvertGIF_Option1, [&](HWND window) {
     EXPECT_EQ(CountRedPixels(GetDlgItem(window, FrmConvertGIF_Label1)), 0);
     const HCURSOR former = GetCursor();
     Command(window, FrmConvertGIF_CmdOk);
     EXPECT_EQ(GetCursor(), former);
     EXPECT_NE(former, hourglass);
   });
+  dialog.InitGifExport(icon, path);
+  EXPECT_EQ(dialog.ShowFor(DialogMode::Single), DialogAnswer::Ok);
   EXPECT_EQ(conversions, 1);
 }
 
@@ -185,6 +195,7 @@ TEST_F(FrmConvertGIFTest, KeepsTheOptionsForABatchAndWritesNothingItself) {
             DialogAnswer::Ok);
   EXPECT_EQ(ReadAll(path), "");
   for (const char* name : {"1.gif", "2.gif"}) {
+    form.InitGifExport(icon, folder.In(name));
     EXPECT_TRUE(form.SaveToGIFNoSingle(folder.In(name)));
     const std::string gif = ReadAll(folder.In(name));
     EXPECT_TRUE(HasTransparency(gif));

@@ -13,8 +13,8 @@ namespace tarvik::testing {
 // test at once.
 class AnsweredDialogs final : public SaveDialogs {
  public:
-  AnsweredDialogs(Application& application, ProgramState& state, ExportDialogs::MainWindow mainWindow)
-      : state_(state), real_(application, state, std::move(mainWindow), {}, files_) {}
+  AnsweredDialogs(Application& application, ProgramState& state, std::function<HWND()> owner)
+      : state_(state), real_(application, state, std::move(owner), {}, files_) {}
 
   std::string AskForPath(const FileDialogMode& mode) override {
     asked.emplace_back(mode.titleSuffix.eng);
@@ -26,7 +26,7 @@ class AnsweredDialogs final : public SaveDialogs {
     if (!extension.empty()) state_.SaveExtension = extension;
     return folder;
   }
-  void ShowFrmHotSpot() override { real_.ShowFrmHotSpot(); }
+  void ShowFrmHotSpot(const PixelView& picMain) override { real_.ShowFrmHotSpot(picMain); }
   JpegDialog& NewSaveJPG() override { return real_.NewSaveJPG(); }
   GifDialog& NewConvertGIF() override { return real_.NewConvertGIF(); }
   void FreeEncoders() override { real_.FreeEncoders(); }

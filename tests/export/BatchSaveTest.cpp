@@ -11,6 +11,7 @@ namespace {
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::Not;
+using ::testing::StartsWith;
 
 TEST_F(SaveCommandsTest, NumbersTheFilesOfABatchAsTheEntries) {
   List(3, {2});
@@ -29,7 +30,7 @@ TEST_F(SaveCommandsTest, NumbersTheFilesOfSelectedEntriesFromOneOn) {
   EXPECT_THAT(Files(), ElementsAre("D:\\out\\Curor 1.cur", "D:\\out\\Curor 2.cur"));
   EXPECT_THAT(script, Contains("render 5"));
   EXPECT_THAT(script, Not(Contains("render 3")));
-  EXPECT_THAT(script, Not(Contains("hot spot")));
+  EXPECT_THAT(script, Not(Contains(StartsWith("hot spot"))));
 }
 
 TEST_F(SaveCommandsTest, WritesTheHotSpotStoredLastIntoEveryCursorOfABatch) {
@@ -192,10 +193,11 @@ TEST_F(SaveCommandsTest, ShowsTheGifDialogOnceBeforeABatch) {
   dialogs.folder = "D:\\out";
   dialogs.chosenExtension = ".gif";
   commands.mnuSaveSel2_Click();
-  EXPECT_THAT(script,
-              ElementsAre("folder for .bmp", "gif show batch", "hourglass", "status Saving...", "render 1",
-                          "gif save D:\\out\\Images 1.gif", "paint", "render 3", "gif save D:\\out\\Images 2.gif",
-                          "paint", "status standing", "pointer back", "gif free"));
+  EXPECT_THAT(script, ElementsAre("folder for .bmp", "gif show batch", "hourglass", "status Saving...", "render 1",
+                                  "gif init D:\\out\\Images 1.gif", "gif save D:\\out\\Images 1.gif", "paint",
+                                  "render 3", "gif init D:\\out\\Images 2.gif", "gif save D:\\out\\Images 2.gif",
+                                  "paint", "status standing", "pointer back", "gif free"));
+  EXPECT_EQ(dialogs.gif.lastPixel, 0x000300U);
 }
 
 TEST_F(SaveCommandsTest, WritesNothingWhereTheOptionsOfABatchAreCancelled) {

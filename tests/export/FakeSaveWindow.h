@@ -40,6 +40,7 @@ class FakeSaveWindow final : public SaveWindow {
   const PixelView& PicMask() const override { return mask_; }
   const PixelView& PicImage() const override { return image_; }
   const PixelView& PicIcon() const override { return icon_; }
+  const PixelView& PicMain() override { return magnified_; }
   std::string StatusText() const override { return status; }
   void SetStatusText(const std::string& text) override {
     script_.push_back("status " + text);
@@ -76,6 +77,7 @@ class FakeSaveWindow final : public SaveWindow {
   TestRaster mask_{2, 2};
   TestRaster image_{2, 2};
   TestRaster icon_{2, 2};
+  TestRaster magnified_{4, 4};
 };
 
 // Files that are only noted: "file" and the path when one is closed, "refused" when one cannot be opened.
@@ -138,8 +140,12 @@ class FakeGifDialog final : public GifDialog {
  public:
   explicit FakeGifDialog(Script& script) : script_(script) {}
 
-  DialogAnswer ShowFor(DialogMode mode, const std::string& target) override {
-    script_.push_back(mode == DialogMode::Single ? "gif show single " + target : "gif show batch");
+  void InitGifExport(const PixelView& picture, const std::string& target) override {
+    script_.push_back("gif init " + target);
+    lastPixel = picture.Pixel(0, 0);
+  }
+  DialogAnswer ShowFor(DialogMode mode) override {
+    script_.emplace_back(mode == DialogMode::Single ? "gif show single" : "gif show batch");
     return answer;
   }
   bool SaveToGIFNoSingle(const std::string& target) override {
@@ -150,6 +156,7 @@ class FakeGifDialog final : public GifDialog {
 
   DialogAnswer answer = DialogAnswer::Ok;
   std::set<std::string> refused;
+  Color lastPixel = 0;
 
  private:
   Script& script_;
@@ -169,8 +176,8 @@ class FakeSaveDialogs final : public SaveDialogs {
     if (!chosenExtension.empty()) state_.SaveExtension = chosenExtension;
     return folder;
   }
-  void ShowFrmHotSpot() override {
-    script_.emplace_back("hot spot");
+  void ShowFrmHotSpot(const PixelView& picMain) override {
+    script_.push_back("hot spot on " + std::to_string(picMain.Width()) + " pixels");
     state_.HotSpotCancelled = hotSpotCancelled;
   }
   JpegDialog& NewSaveJPG() override { return jpeg; }

@@ -23,6 +23,7 @@ class FrmHotSpotTest : public ::testing::Test {
     state.HotSpotX = 5;
     state.HotSpotY = 6;
     state.HotSpotCancelled = false;
+    form.InitPicture(magnified);
   }
 
   void Show() {
@@ -38,7 +39,7 @@ class FrmHotSpotTest : public ::testing::Test {
   Application application{GetModuleHandleW(nullptr)};
   ProgramState state;
   Surface magnified{385, 385, 0x123456};
-  FrmHotSpot form{application, state, [this]() -> const Surface& { return magnified; }};
+  FrmHotSpot form{application, state};
 };
 
 TEST_F(FrmHotSpotTest, HasTheSizeOf7510By6295Twips) {

@@ -89,7 +89,7 @@ TEST_F(SaveCommandsTest, ChoosesTheImageFormatByTheExtensionInAnyCase) {
   List(1);
   for (const Row& row : {Row{"D:\\a.Jpg", "jpeg init D:\\a.Jpg single"},
                          {"D:\\a.JPG", "jpeg init D:\\a.JPG single"},
-                         {"D:\\a.gIf", "gif show single D:\\a.gIf"},
+                         {"D:\\a.gIf", "gif init D:\\a.gIf"},
                          {"D:\\a.png", "file D:\\a.png"},
                          {"D:\\a.bmp", "file D:\\a.bmp"},
                          {"D:\\a.jpeg", "file D:\\a.jpeg"},
@@ -182,8 +182,8 @@ TEST_F(SaveCommandsTest, AsksForTheHotSpotBeforeTheNameOfACursor) {
   state.HotSpotY = 7;
   dialogs.path = "D:\\a.cur";
   commands.MnuSaveAsCursor_Click();
-  EXPECT_THAT(script, ElementsAre("render 1", "hot spot", "ask - Save As Cursor", "hourglass", "status Saving...",
-                                  "file D:\\a.cur", "status standing", "pointer back"));
+  EXPECT_THAT(script, ElementsAre("render 1", "hot spot on 4 pixels", "ask - Save As Cursor", "hourglass",
+                                  "status Saving...", "file D:\\a.cur", "status standing", "pointer back"));
   EXPECT_EQ(Byte("D:\\a.cur", 2), 2) << "the type of a cursor file";
   EXPECT_EQ(Byte("D:\\a.cur", 10), 3);
   EXPECT_EQ(Byte("D:\\a.cur", 12), 7);
@@ -194,7 +194,7 @@ TEST_F(SaveCommandsTest, AsksForNoNameWhereTheHotSpotPickerIsCancelled) {
   dialogs.hotSpotCancelled = true;
   dialogs.path = "D:\\a.cur";
   commands.MnuSaveAsCursor_Click();
-  EXPECT_THAT(script, ElementsAre("render 1", "hot spot"));
+  EXPECT_THAT(script, ElementsAre("render 1", "hot spot on 4 pixels"));
 }
 
 TEST_F(SaveCommandsTest, SaysThatACursorFailed) {

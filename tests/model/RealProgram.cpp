@@ -45,7 +45,7 @@ class Dialogs final : public SaveDialogs {
 
   std::string AskForPath(const FileDialogMode& /*mode*/) override { return path; }
   std::string ShowDir() override { return real_.ShowDir(); }
-  void ShowFrmHotSpot() override { real_.ShowFrmHotSpot(); }
+  void ShowFrmHotSpot(const PixelView& picMain) override { real_.ShowFrmHotSpot(picMain); }
   JpegDialog& NewSaveJPG() override { return real_.NewSaveJPG(); }
   GifDialog& NewConvertGIF() override { return real_.NewConvertGIF(); }
   void FreeEncoders() override { real_.FreeEncoders(); }
@@ -81,17 +81,15 @@ struct RealProgram::Parts {
   Application application{GetModuleHandleW(nullptr)};
   FrmSpash spash{application, state, [] {}};
   std::unique_ptr<FrmFindIcon> window;
-  ExportDialogs exportDialogs{
-      application,
-      state,
-      {[this] { return window->Window(); }, [this]() -> const Surface& { return window->Surfaces().Composed(); },
-       [this]() -> const Surface& { return window->PicMain(); }},
-      {DriveRows, [this](const std::string& folder) { return disk.SubFolders(folder); },
-       [this](const std::string& path) {
-         return disk.MakeFolder(path) ? std::optional<std::string>(path) : std::nullopt;
-       },
-       [this] { return window->Dir1Path(); }},
-      files};
+  ExportDialogs exportDialogs{application,
+                              state,
+                              [this] { return window->Window(); },
+                              {DriveRows, [this](const std::string& folder) { return disk.SubFolders(folder); },
+                               [this](const std::string& path) {
+                                 return disk.MakeFolder(path) ? std::optional<std::string>(path) : std::nullopt;
+                               },
+                               [this] { return window->Dir1Path(); }},
+                              files};
   Dialogs dialogs{exportDialogs};
 };
 

@@ -29,6 +29,16 @@ TEST(Surface, CopiesItsPixelsRowByRowFromTheTop) {
   EXPECT_EQ(pixels, (std::array<Color, 6>{white, white, 0x060504, 0x030201, white, white}));
 }
 
+TEST(Surface, CopiesAnotherPictureAsFarAsBothGo) {
+  Surface source(3, 2, black);
+  SetPixel(source.Dc(), 1, 1, RGB(1, 2, 3));
+  Surface surface(2, 4, white);
+  surface.Copy(source);
+  std::array<Color, 8> pixels{};
+  surface.CopyPixels(pixels);
+  EXPECT_EQ(pixels, (std::array<Color, 8>{black, black, black, 0x030201, white, white, white, white}));
+}
+
 TEST(Surface, KeepsThePictureWhenItsSizeChanges) {
   Surface surface(5, 3, white);
   surface.Clear(0x112233);

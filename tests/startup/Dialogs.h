@@ -41,15 +41,16 @@ class Dialogs {
         [](const std::string&) {});
   }
   std::unique_ptr<Form> HotSpotPicker() {
-    return std::make_unique<FrmHotSpot>(application, state, [this]() -> const Surface& { return picture; });
+    auto form = std::make_unique<FrmHotSpot>(application, state);
+    form->InitPicture(picture);
+    return form;
   }
   std::unique_ptr<Form> JpegOptions() { return std::make_unique<fSaveJPG>(application, state, nullptr, files); }
   std::unique_ptr<Form> JpegComment() { return std::make_unique<fComment>(application, state); }
   std::unique_ptr<Form> GifOptions() {
     return std::make_unique<FrmConvertGIF>(
         application, state, nullptr,
-        FrmConvertGIF::Dependencies{[this]() -> const Surface& { return picture; }, files,
-                                    [](const std::string&) { return std::uint64_t{0}; }});
+        FrmConvertGIF::Dependencies{files, [](const std::string&) { return std::uint64_t{0}; }});
   }
 
   Application application{GetModuleHandleW(nullptr)};

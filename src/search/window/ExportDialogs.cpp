@@ -7,34 +7,34 @@
 
 namespace tarvik {
 
-ExportDialogs::ExportDialogs(Application& application, ProgramState& state, MainWindow mainWindow,
+ExportDialogs::ExportDialogs(Application& application, ProgramState& state, std::function<HWND()> owner,
                              frmDir::Dependencies disk, FileSink& sink)
     : application_(application),
       state_(state),
-      mainWindow_(std::move(mainWindow)),
+      owner_(std::move(owner)),
       sink_(sink),
       dir_(application, state, std::move(disk)),
-      hotSpot_(application, state, mainWindow_.picMain) {}
+      hotSpot_(application, state) {}
 
 std::string ExportDialogs::AskForPath(const FileDialogMode& mode) {
-  return AskForFileToSave(mainWindow_.window(), mode, state_.CurrentLanguage);
+  return AskForFileToSave(owner_(), mode, state_.CurrentLanguage);
 }
 
 std::string ExportDialogs::ShowDir() {
-  return dir_.ShowDir(mainWindow_.window());
+  return dir_.ShowDir(owner_());
 }
 
-void ExportDialogs::ShowFrmHotSpot() {
-  hotSpot_.ShowModal(mainWindow_.window());
+void ExportDialogs::ShowFrmHotSpot(const PixelView& picMain) {
+  hotSpot_.InitPicture(picMain);
+  hotSpot_.ShowModal(owner_());
 }
 
 JpegDialog& ExportDialogs::NewSaveJPG() {
-  return saveJpg_.emplace(application_, state_, mainWindow_.window(), sink_);
+  return saveJpg_.emplace(application_, state_, owner_(), sink_);
 }
 
 GifDialog& ExportDialogs::NewConvertGIF() {
-  return convertGif_.emplace(application_, state_, mainWindow_.window(),
-                             FrmConvertGIF::Dependencies{mainWindow_.picIcon, sink_, FileLength});
+  return convertGif_.emplace(application_, state_, owner_(), FrmConvertGIF::Dependencies{sink_, FileLength});
 }
 
 // The dialogs themselves stay: one of them may be the caller's caller, where the session ends while it is open.

@@ -12,7 +12,6 @@
 #include "export/FrmHotSpot.h"
 #include "export/SaveWindow.h"
 #include "forms/Application.h"
-#include "platform/Surface.h"
 #include "startup/ProgramState.h"
 
 namespace tarvik {
@@ -20,20 +19,13 @@ namespace tarvik {
 // The real dialogs of the save commands, over the main window.
 class ExportDialogs final : public SaveDialogs {
  public:
-  // What the dialogs need of the main window; asked when one opens.
-  struct MainWindow {
-    std::function<HWND()> window;
-    std::function<const Surface&()> picIcon;
-    std::function<const Surface&()> picMain;  // the current icon magnified
-  };
-
-  // Everything outlives the dialogs.
-  ExportDialogs(Application& application, ProgramState& state, MainWindow mainWindow, frmDir::Dependencies disk,
+  // `owner` gives the main window when a dialog opens. Everything outlives the dialogs.
+  ExportDialogs(Application& application, ProgramState& state, std::function<HWND()> owner, frmDir::Dependencies disk,
                 FileSink& sink);
 
   std::string AskForPath(const FileDialogMode& mode) override;
   std::string ShowDir() override;
-  void ShowFrmHotSpot() override;
+  void ShowFrmHotSpot(const PixelView& picMain) override;
   JpegDialog& NewSaveJPG() override;
   GifDialog& NewConvertGIF() override;
   void FreeEncoders() override;
@@ -41,7 +33,7 @@ class ExportDialogs final : public SaveDialogs {
  private:
   Application& application_;
   ProgramState& state_;
-  MainWindow mainWindow_;
+  std::function<HWND()> owner_;
   FileSink& sink_;
   frmDir dir_;
   FrmHotSpot hotSpot_;

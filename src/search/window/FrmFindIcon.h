@@ -39,7 +39,7 @@ class FrmFindIcon final : public Form,
   bool RenderEntry(int number) override;
   const IconSurfaces& Surfaces() const { return surfaces_; }
   // The icon in PicIcon magnified by the program's Magnification, at the top-left corner of a square of MagnifiedSide.
-  const Surface& PicMain();
+  const Surface& PicMain() override;
   // The folder shown in Dir1.
   const std::string& Dir1Path() const { return dir1_.Path(); }
 

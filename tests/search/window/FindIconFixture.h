@@ -171,11 +171,7 @@ class FindIconFixture : public ::testing::Test {
   Application& application_ = application;
   DiskFile files;
   TemporaryBitmap temporaryBitmap{TemporaryBitmapPaths()};
-  AnsweredDialogs dialogs{
-      application,
-      state,
-      {[this] { return window->Window(); }, [this]() -> const Surface& { return window->Surfaces().Composed(); },
-       [this]() -> const Surface& { return window->PicMain(); }}};
+  AnsweredDialogs dialogs{application, state, [this] { return window->Window(); }};
   int aboutShown = 0;
   int guideShown = 0;
   std::vector<DriveListBox::Drive> drives{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
