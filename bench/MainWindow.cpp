@@ -66,7 +66,7 @@ struct MainWindow::Parts {
   FixedIni ini;
   Settings settings;
   ShellIcons shellIcons;
-  IconsAhead icons{shellIcons, shellIcons};
+  IconsAhead icons{shellIcons};
   Folders folders;
   DiskFile files;
   TemporaryBitmap temporaryBitmap{TemporaryBitmapPaths()};

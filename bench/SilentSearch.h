@@ -79,7 +79,7 @@ class SilentSearch {
  private:
   Folders folders_;
   ShellIcons shellIcons_;
-  IconsAhead icons_{shellIcons_, shellIcons_};
+  IconsAhead icons_{shellIcons_};
   IconList list_;
   SearchState state_;
   std::string language_ = "ENG";

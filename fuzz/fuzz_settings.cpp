@@ -5,20 +5,10 @@
 namespace tarvik {
 namespace {
 
-class FuzzedStore : public LanguageStore {
- public:
-  explicit FuzzedStore(std::string buffer) : buffer_(std::move(buffer)) {}
-  std::string ReadBuffer(const std::string&) override { return buffer_; }
-
- private:
-  std::string buffer_;
-};
-
 constexpr Text greeting{"<%1>", "<%1>", "<%1>"};
 
 void CheckLanguage(const std::string& text) {
-  FuzzedStore store(text);
-  const std::string code = ChooseLanguage(store);
+  const std::string code = ChooseLanguage([&text](const std::string&) { return text; });
   Require(code.size() <= 3, "a code has at most three characters");
   const bool known = code == english || code == simplifiedChinese || code == traditionalChinese;
   Require(Pick(greeting, code).has_value() == known, "only the three codes have texts");

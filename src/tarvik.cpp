@@ -92,6 +92,10 @@ class StartUp final : public basInitEntry::StartUpSystem {
  public:
   explicit StartUp(Windows& windows) : windows_(windows) {}
 
+  std::string ReadLanguage(const std::string& name) override { return ReadRegistryLanguage(name); }
+  int BitsPerPixel() override { return desktopScreen::BitsPerPixel(); }
+  int ScreenWidth() override { return desktopScreen::Width(); }
+  int ScreenHeight() override { return desktopScreen::Height(); }
   void ShowCriticalMessage(const std::string& text, const std::string& title) override {
     ShowMessage(nullptr, text, title, MessageSign::Critical);
   }
@@ -107,7 +111,7 @@ void Run(HINSTANCE instance, ProgramState& state) {
   IniFile iniFile;
   Settings settings(iniFile, ProgramPath());
   ShellIcons shellIcons;
-  IconsAhead icons(shellIcons, shellIcons);
+  IconsAhead icons(shellIcons);
   Folders folders;
 
   Application application(instance);
@@ -117,9 +121,7 @@ void Run(HINSTANCE instance, ProgramState& state) {
   application.onHelp = [&state](Form& form) { OpenGuide(form.Window(), ProgramFolder(), state.CurrentLanguage); };
   Windows windows(application, state, settings, icons, folders);
   StartUp startUp(windows);
-  RegistryLanguageStore language;
-  DesktopScreen screen;
-  basInitEntry::Main(state, language, screen, startUp);
+  basInitEntry::Main(state, startUp);
   application.Run();
 }
 

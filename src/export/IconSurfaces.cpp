@@ -12,10 +12,11 @@ void IconSurfaces::Resize(int size) {
   Clear();
 }
 
-void IconSurfaces::Clear() {
+ModMicroArt::CaptureSurfaces IconSurfaces::Clear() {
   composed_.Clear(surfaceBackground);
   mask_.Clear(white);
   image_.Clear(black);
+  return {mask_, image_, composed_};
 }
 
 }  // namespace tarvik

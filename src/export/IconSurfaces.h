@@ -9,7 +9,7 @@ namespace tarvik {
 inline constexpr Color surfaceBackground = white;
 
 // The three surfaces of a capture, as pictures in memory: square, all of one size.
-class IconSurfaces final : public ModMicroArt::CaptureSurfaces {
+class IconSurfaces {
  public:
   // `size` in pixels.
   explicit IconSurfaces(int size);
@@ -18,11 +18,8 @@ class IconSurfaces final : public ModMicroArt::CaptureSurfaces {
   void Resize(int size);
 
   // Makes them those of a blank icon: transparent everywhere, and black there, because any other colour under a
-  // transparent pixel changes what lies below the icon.
-  void Clear() override;
-  Surface& Mask() override { return mask_; }
-  Surface& Image() override { return image_; }
-  Surface& Composed() override { return composed_; }
+  // transparent pixel changes what lies below the icon. Returns them, to take an icon into.
+  ModMicroArt::CaptureSurfaces Clear();
   const Surface& Mask() const { return mask_; }
   const Surface& Image() const { return image_; }
   const Surface& Composed() const { return composed_; }

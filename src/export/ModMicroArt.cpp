@@ -41,17 +41,16 @@ ColorClass Classify(const PixelView& surface, BlackAndWhite blackAndWhite) {
   return FitsPalette(pixels, blackAndWhite) ? ColorClass::TwoHundredFiftySix : ColorClass::TrueColor;
 }
 
-bool CaptureEntry(IconSource& icons, const IconListEntry& entry, int size, CaptureSurfaces& surfaces) {
-  surfaces.Clear();
+bool CaptureEntry(IconSource& icons, const IconListEntry& entry, int size, const CaptureSurfaces& surfaces) {
   const bool animated = IsAnimatedCursorName(entry.path);
   const int index = animated ? 0 : int{entry.index};
   const int step = animated ? int{entry.index} : 0;
   const auto icon = icons.Extract(entry.path, index);
   if (!icon) return false;
   constexpr Point corner{0, 0};
-  icon->Draw(surfaces.Mask(), corner, size, step, DrawPart::Mask);
-  icon->Draw(surfaces.Image(), corner, size, step, DrawPart::Image);
-  icon->Draw(surfaces.Composed(), corner, size, step, DrawPart::Normal);
+  icon->Draw(surfaces.mask, corner, size, step, DrawPart::Mask);
+  icon->Draw(surfaces.image, corner, size, step, DrawPart::Image);
+  icon->Draw(surfaces.composed, corner, size, step, DrawPart::Normal);
   return true;
 }
 

@@ -20,22 +20,17 @@ enum class BlackAndWhite : bool { InOrder = false, InFixedSlots = true };
 // colour, tried in that order. With black and white in fixed slots 254 other colours fit into 256.
 ColorClass Classify(const PixelView& surface, BlackAndWhite blackAndWhite);
 
-// The three pictures that an icon is taken into, each of the size it is taken at. Their owner clears them; icons are
-// drawn on them.
-class CaptureSurfaces {
- public:
-  virtual ~CaptureSurfaces() = default;
-
-  virtual void Clear() = 0;             // all three, to those of a blank icon
-  virtual DrawSurface& Mask() = 0;      // white where the icon is transparent
-  virtual DrawSurface& Image() = 0;     // the colours alone
-  virtual DrawSurface& Composed() = 0;  // the icon as it looks over the background
+// The three pictures that an icon is taken into, each of the size it is taken at and cleared to that of a blank icon.
+struct CaptureSurfaces {
+  DrawSurface& mask;      // white where the icon is transparent
+  DrawSurface& image;     // the colours alone
+  DrawSurface& composed;  // the icon as it looks over the background
 };
 
 // Takes the entry's icon out of its file again and draws its mask, its image and the composed icon, `size` pixels on a
-// side, at the top-left corner of the three cleared surfaces. An entry of an animated cursor is that step of the file's
+// side, at the top-left corner of the three surfaces. An entry of an animated cursor is that step of the file's
 // first icon. False if the file yields no icon any more: the surfaces then stay cleared, and a blank is saved
 // (deliberate: oddities 31). A part that cannot be drawn is left out, and the others are drawn all the same.
-bool CaptureEntry(IconSource& icons, const IconListEntry& entry, int size, CaptureSurfaces& surfaces);
+bool CaptureEntry(IconSource& icons, const IconListEntry& entry, int size, const CaptureSurfaces& surfaces);
 
 }  // namespace tarvik::ModMicroArt

@@ -131,7 +131,7 @@ class AccessiblePicture final : public IAccessible, NonCopyable {
   // None too if there is no memory for it: nothing may be thrown out of an object that other processes use.
   std::optional<PictureContent::ChosenPart> ChosenItem() const noexcept try {
     const PictureContent* content = content_(window_);
-    return content != nullptr ? content->ChosenItem() : std::nullopt;
+    return content != nullptr ? content->chosenItem() : std::nullopt;
   } catch (const std::exception&) {
     return std::nullopt;
   }
@@ -149,9 +149,9 @@ HRESULT AccessiblePicture::get_accName(VARIANT child, BSTR* name) try {
   *name = nullptr;
   const PictureContent* content = content_(window_);
   if (content == nullptr) return CO_E_OBJNOTCONNECTED;
-  const auto item = content->ChosenItem();
+  const auto item = content->chosenItem();
   if (IsItem(child) && !item) return S_FALSE;
-  const std::wstring text = ToWide(IsItem(child) ? item->name : content->Name());
+  const std::wstring text = ToWide(IsItem(child) ? item->name : content->name());
   *name = late::SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
   return *name != nullptr ? S_OK : E_OUTOFMEMORY;
 } catch (const std::exception&) {

@@ -2,23 +2,21 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <optional>
 #include <string>
 
 namespace tarvik {
 
 // What a picture box shows, for whoever has the screen read aloud: a list of which one item is chosen.
-class PictureContent {
- public:
-  virtual ~PictureContent() = default;
-
+struct PictureContent {
   struct ChosenPart {
     std::string name;  // UTF-8
     RECT bounds{};     // in the picture's pixels
   };
 
-  virtual std::string Name() const = 0;  // of the list, UTF-8
-  virtual std::optional<ChosenPart> ChosenItem() const = 0;
+  std::function<std::string()> name;  // of the list, UTF-8
+  std::function<std::optional<ChosenPart>()> chosenItem;
 };
 
 // The answer to WM_GETOBJECT for the client area of a picture box; 0, which leaves the answer to the system, if the

@@ -12,21 +12,15 @@
 
 namespace tarvik {
 
-// Anything with a device context that icons can be drawn on.
-class DcSurface : public DrawSurface {
- public:
-  virtual HDC Dc() const = 0;
-};
-
 // A picture in memory that GDI draws into and the program reads: a 24-bit DIB section, top row first, with its device
-// context. Pixels are read as 0x00BBGGRR straight from memory.
-class Surface final : public DcSurface, public PixelView, NonCopyable {
+// context. Pixels are read as 0x00BBGGRR straight from memory. It is the one DrawSurface of the program.
+class Surface final : public DrawSurface, public PixelView, NonCopyable {
  public:
   // Both sides in pixels, 1 or more. Throws OutOfMemoryError where the system has no memory for it.
   Surface(int width, int height, Color background);
   ~Surface() override;
 
-  HDC Dc() const override;
+  HDC Dc() const;
   int Width() const override { return width_; }
   int Height() const override { return height_; }
   Color Pixel(int x, int y) const override;

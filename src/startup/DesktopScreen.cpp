@@ -2,18 +2,18 @@
 
 #include <windows.h>
 
-namespace tarvik {
+namespace tarvik::desktopScreen {
 
-int DesktopScreen::BitsPerPixel() {
+int BitsPerPixel() {
   return GetDeviceCaps(GetDC(nullptr), BITSPIXEL);
 }
 
-int DesktopScreen::Width() {
+int Width() {
   return GetSystemMetrics(SM_CXSCREEN);
 }
 
-int DesktopScreen::Height() {
+int Height() {
   return GetSystemMetrics(SM_CYSCREEN);
 }
 
-}  // namespace tarvik
+}  // namespace tarvik::desktopScreen

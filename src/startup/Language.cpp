@@ -47,14 +47,14 @@ std::optional<std::string> Compose(const Text& text, std::string_view code,
   return composed;
 }
 
-std::string ReadLanguageValue(LanguageStore& store, const std::string& name) {
-  return Trim(store.ReadBuffer(name));
+std::string ReadLanguageValue(const ReadLanguageBuffer& read, const std::string& name) {
+  return Trim(read(name));
 }
 
-LanguageCode ChooseLanguage(LanguageStore& store) {
+LanguageCode ChooseLanguage(const ReadLanguageBuffer& read) {
   const std::string name = "Language";
-  if (ReadLanguageValue(store, name).empty()) return std::string(english);
-  return UpperCase(store.ReadBuffer(name)).substr(0, codeLength);
+  if (ReadLanguageValue(read, name).empty()) return std::string(english);
+  return UpperCase(read(name)).substr(0, codeLength);
 }
 
 }  // namespace tarvik

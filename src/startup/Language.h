@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -34,23 +35,18 @@ std::optional<std::string_view> Pick(const Text& text, std::string_view code);
 std::optional<std::string> Compose(const Text& text, std::string_view code,
                                    std::initializer_list<std::string_view> values);
 
-// Where the interface language is kept.
-class LanguageStore {
- public:
-  virtual ~LanguageStore() = default;
-
-  // What a buffer of 260 spaces holds after the value of that name was read into it, its terminating zero
-  // included: spaces alone where there is no such value, and an empty text where the store cannot be opened.
-  virtual std::string ReadBuffer(const std::string& name) = 0;
-};
+// Reads a value from where the interface language is kept: what a buffer of 260 spaces holds after the value of that
+// name was read into it, its terminating zero included. Spaces alone if there is no such value, and an empty text if
+// the store cannot be opened.
+using ReadLanguageBuffer = std::function<std::string(const std::string& name)>;
 
 // The named value without the spaces at its two ends; empty where there is none. The terminating zero of a
 // value that exists is part of it, so a value that exists is never empty (deliberate: oddities 8).
-std::string ReadLanguageValue(LanguageStore& store, const std::string& name);
+std::string ReadLanguageValue(const ReadLanguageBuffer& read, const std::string& name);
 
 // The code that the stored value "Language" gives: "ENG" where there is none, else its first three characters
 // in upper case. Whether there is one is decided by the trimmed value, but the characters are taken from the
 // untrimmed one, so a value with leading blanks matches no language (deliberate: oddities 7).
-LanguageCode ChooseLanguage(LanguageStore& store);
+LanguageCode ChooseLanguage(const ReadLanguageBuffer& read);
 
 }  // namespace tarvik

@@ -18,9 +18,9 @@ constexpr DWORD bufferSize = 260;
 
 }  // namespace
 
-std::string RegistryLanguageStore::ReadBuffer(const std::string& name) {
+std::string ReadRegistryLanguage(const std::string& name) {
   HKEY opened = nullptr;
-  if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, key, 0, accessRights, &opened) != ERROR_SUCCESS) return {};
+  if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, registryLanguageKey, 0, accessRights, &opened) != ERROR_SUCCESS) return {};
   const RegistryKey owner(opened);
 
   std::string buffer(bufferSize, ' ');

@@ -2,17 +2,12 @@
 
 #include <string>
 
-#include "startup/Language.h"
-
 namespace tarvik {
 
-// The language as the installer or the user put it into the registry, for the whole machine. Only read.
-class RegistryLanguageStore final : public LanguageStore {
- public:
-  // The key under HKEY_LOCAL_MACHINE.
-  static constexpr const char* key = R"(Software\Vornhold\Brindle Tarvik\RegInfo)";
+// The key under HKEY_LOCAL_MACHINE where the installer or the user put the language, for the whole machine.
+inline constexpr const char* registryLanguageKey = R"(Software\Vornhold\Brindle Tarvik\RegInfo)";
 
-  std::string ReadBuffer(const std::string& name) override;
-};
+// Reads a value of that key as ReadLanguageBuffer says (startup/Language.h). Nothing is ever written.
+std::string ReadRegistryLanguage(const std::string& name);
 
 }  // namespace tarvik

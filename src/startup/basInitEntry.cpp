@@ -50,30 +50,30 @@ bool Succeeds(Check check) {
 
 }  // namespace
 
-void Main(ProgramState& state, LanguageStore& language, Screen& screen, StartUpSystem& system) {
-  state.CurrentLanguage = ChooseLanguage(language);
-  if (!CheckColorMode(state, screen, system)) return;
-  if (!CheckScreenResolution(state, screen, system)) return;
+void Main(ProgramState& state, StartUpSystem& system) {
+  state.CurrentLanguage = ChooseLanguage([&system](const std::string& name) { return system.ReadLanguage(name); });
+  if (!CheckColorMode(state, system)) return;
+  if (!CheckScreenResolution(state, system)) return;
   state.Shell32Path = system.SystemFolder() + shellLibrary;
   state.TempIconPath = system.TempFolder() + scratchIcon;
   system.ShowFrmSpash();
 }
 
-bool CheckColorMode(ProgramState& state, Screen& screen, StartUpSystem& system) {
+bool CheckColorMode(ProgramState& state, StartUpSystem& system) {
   return Succeeds([&] {
     // The first answer is stored, the second decides (deliberate: oddities 2).
-    state.ScreenBitsPerPixel = screen.BitsPerPixel();
-    const Integer16 bitsPerPixel = screen.BitsPerPixel();
+    state.ScreenBitsPerPixel = system.BitsPerPixel();
+    const Integer16 bitsPerPixel = system.BitsPerPixel();
     if (bitsPerPixel > tooFewBitsPerPixel) return true;
     Refuse(tooFewColors, state.CurrentLanguage, system);
     return false;
   });
 }
 
-bool CheckScreenResolution(const ProgramState& state, Screen& screen, StartUpSystem& system) {
+bool CheckScreenResolution(const ProgramState& state, StartUpSystem& system) {
   return Succeeds([&] {
-    const Integer16 width = screen.Width();
-    const Integer16 height = screen.Height();
+    const Integer16 width = system.ScreenWidth();
+    const Integer16 height = system.ScreenHeight();
     if (height >= minHeight && width >= minWidth) return true;
     Refuse(tooSmall, state.CurrentLanguage, system);
     return false;

@@ -4,17 +4,21 @@
 
 #include "startup/Language.h"
 #include "startup/ProgramState.h"
-#include "startup/Screen.h"
 
 // How the program starts: what it asks of the display, and what it makes ready before its first window. CenterForm
 // and ApplySkinToForm, which every window calls when it loads, are in startup/FormPlacement.h.
 namespace tarvik::basInitEntry {
 
-// What the start asks of the system, beside language and screen. Texts and paths are UTF-8.
+// What the start asks of the system. Texts and paths are UTF-8.
 class StartUpSystem {
  public:
   virtual ~StartUpSystem() = default;
 
+  virtual std::string ReadLanguage(const std::string& name) = 0;  // as ReadLanguageBuffer
+  // The screen that the program starts on: its colour depth, and its size in pixels.
+  virtual int BitsPerPixel() = 0;
+  virtual int ScreenWidth() = 0;
+  virtual int ScreenHeight() = 0;
   // A message box with the critical-stop sign and an OK button; returns when it is closed.
   virtual void ShowCriticalMessage(const std::string& text, const std::string& title) = 0;
   virtual std::string SystemFolder() = 0;  // without a backslash at its end
@@ -26,14 +30,14 @@ class StartUpSystem {
 // The whole start, up to the start-up window; a second copy of the program starts like the first. Where the display is
 // too poor it ends before any window exists, and nothing has been written.
 // The palettes of the bitmap writer need no making here: they are tables that the compiler builds.
-void Main(ProgramState& state, LanguageStore& language, Screen& screen, StartUpSystem& system);
+void Main(ProgramState& state, StartUpSystem& system);
 
 // Whether the screen has more than 256 colours; if not, says so in the current language, or says nothing where that is
 // none of the three. Asks the screen twice: the first answer goes to `state.ScreenBitsPerPixel`, the second decides.
 // A depth that no 16-bit number holds fails without a message.
-bool CheckColorMode(ProgramState& state, Screen& screen, StartUpSystem& system);
+bool CheckColorMode(ProgramState& state, StartUpSystem& system);
 
 // Whether the screen is at least 800 x 600 pixels; if not, the same with its own message.
-bool CheckScreenResolution(const ProgramState& state, Screen& screen, StartUpSystem& system);
+bool CheckScreenResolution(const ProgramState& state, StartUpSystem& system);
 
 }  // namespace tarvik::basInitEntry

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "base/Integer16.h"
+#include "base/PixelView.h"
 #include "search/icons/IconList.h"
 
 namespace tarvik {
 
-// The main window as the enhanced view's rules see it. Entries are numbered from 1.
+// The main window as the enhanced view sees it. Entries are numbered from 1.
 class EnhancedViewHost {
  public:
   virtual ~EnhancedViewHost() = default;
@@ -13,6 +14,8 @@ class EnhancedViewHost {
   // Draws the entry into PicIcon, whose size is the grid's icon size; blank where its file yields no icon any more.
   // False, and PicIcon as it was, where the list holds no entry of that number.
   virtual bool RenderEntry(int number) = 0;
+  // The picture that RenderEntry draws into. Its size does not change while the view is open.
+  virtual const PixelView& PicIcon() const = 0;
 
   virtual int EntryCount() const = 0;
   // The entry of that number, or null where the list holds none. Lives until the list changes.

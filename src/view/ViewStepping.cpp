@@ -1,5 +1,7 @@
 #include "view/ViewStepping.h"
 
+#include <utility>
+
 #include "base/RuntimeError.h"
 #include "view/ViewTexts.h"
 
@@ -16,7 +18,7 @@ void SkipErrors(Step step) {
 
 }  // namespace
 
-ViewStepping::ViewStepping(EnhancedViewHost& host, ViewDisplay& display) : host_(host), display_(display) {}
+ViewStepping::ViewStepping(EnhancedViewHost& host, ViewDisplay display) : host_(host), display_(std::move(display)) {}
 
 void ViewStepping::Begin() {
   currentEntry_ = host_.CurrentIndex();
@@ -47,12 +49,12 @@ void ViewStepping::ShowPrevious() {
 }
 
 void ViewStepping::UpdateStatus(int number) {
-  display_.SetStatusText("");
-  if (const IconListEntry* entry = host_.Entry(number)) display_.SetStatusText(SourceText(*entry));
+  display_.showStatusText("");
+  if (const IconListEntry* entry = host_.Entry(number)) display_.showStatusText(SourceText(*entry));
 }
 
 void ViewStepping::Render() {
-  if (host_.RenderEntry(currentEntry_)) display_.ShowPicture();
+  if (host_.RenderEntry(currentEntry_)) display_.showPicture();
 }
 
 void ViewStepping::ShowEntry() {

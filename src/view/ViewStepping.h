@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "base/Integer16.h"
@@ -8,14 +9,9 @@
 namespace tarvik {
 
 // What an entry is shown on: the enlarged picture and the status bar.
-class ViewDisplay {
- public:
-  virtual ~ViewDisplay() = default;
-
-  // Takes PicIcon's image into `img`.
-  virtual void ShowPicture() = 0;
-  // Puts a text, UTF-8, into panel 1 of `sbMain`.
-  virtual void SetStatusText(const std::string& text) = 0;
+struct ViewDisplay {
+  std::function<void()> showPicture;                            // takes PicIcon's image into `img`
+  std::function<void(const std::string& text)> showStatusText;  // puts it, UTF-8, into panel 1 of `sbMain`
 };
 
 // Steps through the icon list. Showing an entry means three things: it is rendered, its picture is taken over, and its
@@ -23,8 +19,8 @@ class ViewDisplay {
 // empty.
 class ViewStepping {
  public:
-  // Both outlive the stepping.
-  ViewStepping(EnhancedViewHost& host, ViewDisplay& display);
+  // The host, and what the display's functions use, outlive the stepping.
+  ViewStepping(EnhancedViewHost& host, ViewDisplay display);
 
   // Starts at the host's selection, which is counted from 0: one below the entry on screen. So the first Next shows the
   // same entry again, and the first Previous goes two back (deliberate: oddities 48).
@@ -54,7 +50,7 @@ class ViewStepping {
   void ShowEntryAndSkipErrors();
 
   EnhancedViewHost& host_;
-  ViewDisplay& display_;
+  ViewDisplay display_;
   Integer16 currentEntry_;
 };
 

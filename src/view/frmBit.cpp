@@ -75,12 +75,12 @@ RECT WorkArea() {
 
 }  // namespace
 
-frmBit::frmBit(Application& application, EnhancedViewOwner& host, const ProgramState& state, Settings& settings)
+frmBit::frmBit(Application& application, EnhancedViewHost& host, const ProgramState& state, Settings& settings)
     : Form(application, Dialog_frmBit),
       host_(host),
       state_(state),
       settings_(settings),
-      stepping_(host, *this),
+      stepping_(host, {[this] { ShowPicture(); }, [this](const std::string& text) { ShowStatusText(text); }}),
       picture_(1, 1, white),
       enlarged_(1, 1, white) {}
 
@@ -282,13 +282,13 @@ void frmBit::UpdateCaption() {
 }
 
 void frmBit::ShowPicture() {
-  const Surface& source = host_.PicIcon();
+  const PixelView& source = host_.PicIcon();
   picture_.Resize(source.Width(), source.Height(), white);
-  BitBlt(picture_.Dc(), 0, 0, source.Width(), source.Height(), source.Dc(), 0, 0, SRCCOPY);
+  picture_.Copy(source);
   Enlarge();
 }
 
-void frmBit::SetStatusText(const std::string& text) {
+void frmBit::ShowStatusText(const std::string& text) {
   SendMessageW(Item(frmBit_sbMain), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
 }
 

@@ -16,19 +16,12 @@
 
 namespace tarvik {
 
-// The main window as the enhanced view sees it: what the view's rules ask for, and the picture.
-class EnhancedViewOwner : public EnhancedViewHost {
- public:
-  // The picture that RenderEntry draws into. Its size does not change while the view is open.
-  virtual const Surface& PicIcon() const = 0;
-};
-
 // The enhanced view: one entry of the icon list enlarged, steps through the list, and a slide show. It has no icons of
 // its own: every picture is rendered by the main window, and copied.
-class frmBit final : public Form, private ViewDisplay {
+class frmBit final : public Form {
  public:
   // `host`, `state` and `settings` outlive the view.
-  frmBit(Application& application, EnhancedViewOwner& host, const ProgramState& state, Settings& settings);
+  frmBit(Application& application, EnhancedViewHost& host, const ProgramState& state, Settings& settings);
 
   // What the main window calls on a double click; returns when the view is closed. Does nothing where the list is
   // empty or the view is open. In this order: the selected entry is rendered, its picture is taken over (which loads
@@ -53,10 +46,6 @@ class frmBit final : public Form, private ViewDisplay {
   bool OnCommand(int id, int code) override;
   void OnTimer(UINT_PTR id) override;
 
-  // ViewDisplay
-  void ShowPicture() override;
-  void SetStatusText(const std::string& text) override;
-
   // Handlers
   void tlb_control_ButtonClick(int button);
   void CboZoom_Click();
@@ -75,6 +64,8 @@ class frmBit final : public Form, private ViewDisplay {
   void Exit();
 
   void AttachControls();
+  void ShowPicture();
+  void ShowStatusText(const std::string& text);
   void ApplyViewLanguage();
   void LoadViewSize();
   void SaveViewSize();
@@ -84,7 +75,7 @@ class frmBit final : public Form, private ViewDisplay {
   void Zoom(int factor);
   void Enlarge();
 
-  EnhancedViewOwner& host_;
+  EnhancedViewHost& host_;
   const ProgramState& state_;
   Settings& settings_;
   ViewStepping stepping_;

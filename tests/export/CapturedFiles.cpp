@@ -68,7 +68,7 @@ std::vector<CapturedSource> MakeSources(const TemporaryFolder& folder) {
 
 Capture::Capture(const CapturedSource& source, int size) : surfaces_(size) {
   ShellIcons icons;
-  EXPECT_TRUE(ModMicroArt::CaptureEntry(icons, source.entry, size, surfaces_)) << source.name;
+  EXPECT_TRUE(ModMicroArt::CaptureEntry(icons, source.entry, size, surfaces_.Clear())) << source.name;
   mask_ = CopyOf(surfaces_.Mask());
   image_ = CopyOf(surfaces_.Image());
   composed_ = CopyOf(surfaces_.Composed());

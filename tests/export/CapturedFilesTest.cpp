@@ -228,9 +228,9 @@ TEST(CapturedFiles, AnEntryWhoseFileIsGoneLeavesTheSurfacesCleared) {
   for (const CapturedSource& source : testing::MakeSources(folder)) {
     if (!source.entry.path.starts_with(folder.Path())) continue;
     IconSurfaces surfaces(32);
-    ASSERT_TRUE(ModMicroArt::CaptureEntry(icons, source.entry, 32, surfaces)) << source.name;
+    ASSERT_TRUE(ModMicroArt::CaptureEntry(icons, source.entry, 32, surfaces.Clear())) << source.name;
     ASSERT_NE(DeleteFileW(ToWide(source.entry.path).c_str()), 0);
-    EXPECT_FALSE(ModMicroArt::CaptureEntry(icons, source.entry, 32, surfaces)) << source.name;
+    EXPECT_FALSE(ModMicroArt::CaptureEntry(icons, source.entry, 32, surfaces.Clear())) << source.name;
     constexpr std::size_t pixels = std::size_t{32} * 32;
     for (const Surface* surface : {&surfaces.Mask(), &surfaces.Composed()})
       EXPECT_TRUE(PixelsOf(*surface) == std::vector(pixels, white)) << source.name;

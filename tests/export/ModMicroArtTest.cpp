@@ -103,21 +103,6 @@ class NamedSurface final : public DrawSurface {
   const std::string name;
 };
 
-class LoggedSurfaces final : public CaptureSurfaces {
- public:
-  explicit LoggedSurfaces(Log& log) : log_(log) {}
-  void Clear() override { log_.push_back("clear"); }
-  DrawSurface& Mask() override { return mask_; }
-  DrawSurface& Image() override { return image_; }
-  DrawSurface& Composed() override { return composed_; }
-
- private:
-  Log& log_;
-  NamedSurface mask_{"mask"};
-  NamedSurface image_{"image"};
-  NamedSurface composed_{"composed"};
-};
-
 class LoggedIcon final : public ExtractedIcon, NonCopyable {
  public:
   LoggedIcon(Log& log, bool draws) : log_(log), draws_(draws) {}
@@ -155,17 +140,19 @@ class LoggedSource final : public IconSource {
 class CaptureEntryTest : public testing::Test {
  protected:
   bool Capture(const std::string& path, int index, int size) {
-    return CaptureEntry(source, {path, Integer16(index), false}, size, surfaces);
+    return CaptureEntry(source, {path, Integer16(index), false}, size, {mask, image, composed});
   }
 
   Log log;
   LoggedSource source{log};
-  LoggedSurfaces surfaces{log};
+  NamedSurface mask{"mask"};
+  NamedSurface image{"image"};
+  NamedSurface composed{"composed"};
 };
 
-TEST_F(CaptureEntryTest, ClearsThenDrawsMaskImageAndWholeIconAndReleasesIt) {
+TEST_F(CaptureEntryTest, DrawsMaskImageAndWholeIconAndReleasesIt) {
   EXPECT_TRUE(Capture("C:\\icons\\a.dll", 7, 48));
-  EXPECT_EQ(log, (Log{"clear", "extract C:\\icons\\a.dll 7", "draw part 1 into mask at 0,0 size 48 step 0",
+  EXPECT_EQ(log, (Log{"extract C:\\icons\\a.dll 7", "draw part 1 into mask at 0,0 size 48 step 0",
                       "draw part 2 into image at 0,0 size 48 step 0", "draw part 3 into composed at 0,0 size 48 step 0",
                       "release"}));
 }
@@ -174,22 +161,22 @@ TEST_F(CaptureEntryTest, DrawsTheStepOfAnAnimatedCursorFromItsFirstIcon) {
   for (const std::string path : {"C:\\c\\wait.ani", "C:\\c\\WAIT.ANI", "C:\\c\\wait.aNi"}) {
     log.clear();
     EXPECT_TRUE(Capture(path, 3, 32));
-    EXPECT_EQ(log, (Log{"clear", "extract " + path + " 0", "draw part 1 into mask at 0,0 size 32 step 3",
+    EXPECT_EQ(log, (Log{"extract " + path + " 0", "draw part 1 into mask at 0,0 size 32 step 3",
                         "draw part 2 into image at 0,0 size 32 step 3",
                         "draw part 3 into composed at 0,0 size 32 step 3", "release"}));
   }
 }
 
-TEST_F(CaptureEntryTest, LeavesTheSurfacesClearedWhereTheFileYieldsNoIconAnyMore) {
+TEST_F(CaptureEntryTest, LeavesTheSurfacesAloneWhereTheFileYieldsNoIconAnyMore) {
   source.yields = false;
   EXPECT_FALSE(Capture("C:\\gone.exe", 2, 16));
-  EXPECT_EQ(log, (Log{"clear", "extract C:\\gone.exe 2"}));
+  EXPECT_EQ(log, (Log{"extract C:\\gone.exe 2"}));
 }
 
 TEST_F(CaptureEntryTest, DrawsTheOtherPartsWhereOneCannotBeDrawn) {
   source.draws = false;
   EXPECT_TRUE(Capture("C:\\a.ani", 9, 16));
-  EXPECT_EQ(log.size(), 6U);
+  EXPECT_EQ(log.size(), 5U);
   EXPECT_EQ(log.back(), "release");
 }
 

@@ -15,7 +15,7 @@ class MadeIcon final : public ExtractedIcon {
 
   bool Draw(tarvik::DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
     if (step >= StepBound()) return false;
-    const HDC dc = static_cast<DcSurface&>(surface).Dc();
+    const HDC dc = static_cast<Surface&>(surface).Dc();
     const int edge = size / 4;
     if (part != DrawPart::Normal) {
       const RECT transparent{corner.x, corner.y, corner.x + edge, corner.y + edge};

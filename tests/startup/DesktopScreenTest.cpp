@@ -12,16 +12,15 @@ TEST(DesktopScreen, MeasuresThePrimaryMonitor) {
   MONITORINFO monitor{};
   monitor.cbSize = sizeof monitor;
   ASSERT_NE(GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &monitor), 0);
-  DesktopScreen screen;
-  EXPECT_EQ(screen.Width(), monitor.rcMonitor.right);
-  EXPECT_EQ(screen.Height(), monitor.rcMonitor.bottom);
+  EXPECT_EQ(desktopScreen::Width(), monitor.rcMonitor.right);
+  EXPECT_EQ(desktopScreen::Height(), monitor.rcMonitor.bottom);
 }
 
 TEST(DesktopScreen, KnowsTheColorDepth) {
   DEVMODEW mode{};
   mode.dmSize = sizeof mode;
   ASSERT_NE(EnumDisplaySettingsW(nullptr, ENUM_CURRENT_SETTINGS, &mode), 0);
-  EXPECT_EQ(DesktopScreen().BitsPerPixel(), static_cast<int>(mode.dmBitsPerPel));
+  EXPECT_EQ(desktopScreen::BitsPerPixel(), static_cast<int>(mode.dmBitsPerPel));
 }
 
 // A device context that was released is the next one to be given out; one that is kept is not.
@@ -31,7 +30,7 @@ TEST(DesktopScreen, KeepsTheDeviceContextOfEachMeasurement) {
     return dc.get();
   };
   const HDC next = nextContext();
-  DesktopScreen().BitsPerPixel();
+  desktopScreen::BitsPerPixel();
   EXPECT_NE(nextContext(), next);
 }
 

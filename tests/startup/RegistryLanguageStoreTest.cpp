@@ -14,7 +14,7 @@ namespace {
 
 // Takes the language key away, with what a test that was broken off may have left in it.
 void DeleteKey() {
-  for (const char* key : {RegistryLanguageStore::key, R"(Software\Vornhold\Brindle Tarvik)", R"(Software\Vornhold)"})
+  for (const char* key : {registryLanguageKey, R"(Software\Vornhold\Brindle Tarvik)", R"(Software\Vornhold)"})
     RegDeleteKeyA(HKEY_LOCAL_MACHINE, key);
 }
 
@@ -25,8 +25,8 @@ class LanguageKey : NonCopyable {
     DeleteKey();
     HKEY key = nullptr;
     DWORD disposition = 0;
-    EXPECT_EQ(RegCreateKeyExA(HKEY_LOCAL_MACHINE, RegistryLanguageStore::key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
-                              &key, &disposition),
+    EXPECT_EQ(RegCreateKeyExA(HKEY_LOCAL_MACHINE, registryLanguageKey, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key,
+                              &disposition),
               ERROR_SUCCESS);
     key_.reset(key);
   }
@@ -46,7 +46,7 @@ class LanguageKey : NonCopyable {
 };
 
 std::string Read() {
-  return RegistryLanguageStore().ReadBuffer("Language");
+  return ReadRegistryLanguage("Language");
 }
 
 TEST(RegistryLanguageStore, GivesTheValueInABufferOfBlanks) {
@@ -79,12 +79,11 @@ TEST(RegistryLanguageStore, LeavesTheBufferBlankForAValueThatIsTooLong) {
 
 TEST(RegistryLanguageStore, SettlesTheLanguageTogetherWithTheRule) {
   const LanguageKey key;
-  RegistryLanguageStore store;
-  EXPECT_EQ(ChooseLanguage(store), "ENG");
+  EXPECT_EQ(ChooseLanguage(ReadRegistryLanguage), "ENG");
   key.Set("chs");
-  EXPECT_EQ(ChooseLanguage(store), "CHS");
+  EXPECT_EQ(ChooseLanguage(ReadRegistryLanguage), "CHS");
   key.Set("  CHT  ");
-  EXPECT_EQ(ChooseLanguage(store), "  C");
+  EXPECT_EQ(ChooseLanguage(ReadRegistryLanguage), "  C");
 }
 
 }  // namespace

@@ -16,9 +16,9 @@ constexpr const char* englishColorRefusal =
     "Brindle Tarvik requires at least high color mode.\r\n\r\nPlease adjust your color mode and try again.";
 
 // A computer that writes down, in order, what the start asks of it. Each answer can be told from every other.
-class FakeComputer : public LanguageStore, public Screen, public StartUpSystem {
+class FakeComputer : public StartUpSystem {
  public:
-  std::string ReadBuffer(const std::string& name) override {
+  std::string ReadLanguage(const std::string& name) override {
     calls.push_back("read " + name);
     return language;
   }
@@ -28,11 +28,11 @@ class FakeComputer : public LanguageStore, public Screen, public StartUpSystem {
     if (depths.size() > 1) depths.erase(depths.begin());
     return depth;
   }
-  int Width() override {
+  int ScreenWidth() override {
     calls.emplace_back("width");
     return width;
   }
-  int Height() override {
+  int ScreenHeight() override {
     calls.emplace_back("height");
     return height;
   }
@@ -62,17 +62,17 @@ class FakeComputer : public LanguageStore, public Screen, public StartUpSystem {
 
 class Start : public ::testing::Test {
  protected:
-  void Run() { Main(state, computer, computer, computer); }
+  void Run() { Main(state, computer); }
   bool CheckColors(const std::string& code, int depth) {
     state.CurrentLanguage = code;
     computer.depths = {depth};
-    return CheckColorMode(state, computer, computer);
+    return CheckColorMode(state, computer);
   }
   bool CheckSize(const std::string& code, int width, int height) {
     state.CurrentLanguage = code;
     computer.width = width;
     computer.height = height;
-    return CheckScreenResolution(state, computer, computer);
+    return CheckScreenResolution(state, computer);
   }
 
   ProgramState state;
@@ -173,7 +173,7 @@ TEST_F(CheckColorModeTest, FailsWithoutAMessageInAnUnknownLanguage) {
 
 TEST_F(CheckColorModeTest, KeepsTheFirstAnswerAndDecidesByTheSecond) {
   computer.depths = {8, 16};
-  EXPECT_TRUE(CheckColorMode(state, computer, computer));
+  EXPECT_TRUE(CheckColorMode(state, computer));
   EXPECT_EQ(state.ScreenBitsPerPixel, 8);
 }
 

@@ -3,14 +3,13 @@
 #include <string>
 #include <vector>
 
+#include "export/TestRaster.h"
 #include "view/EnhancedViewHost.h"
 
 namespace tarvik::testing {
 
 // A main window's list in memory: entry n comes from "C:\icons\n.dll" and has the index 10 x n.
-// `Base` is EnhancedViewHost or a class made from it.
-template <typename Base>
-class FakeHost : public Base {
+class FakeHost : public EnhancedViewHost {
  public:
   explicit FakeHost(int count, Integer16 currentIndex = 0) : currentIndex_(currentIndex) {
     for (int number = 1; number <= count; ++number) {
@@ -23,6 +22,7 @@ class FakeHost : public Base {
     if (failing) throw OverflowError();
     return Entry(number) != nullptr && Draw(number);
   }
+  const PixelView& PicIcon() const override { return picIcon_; }
   int EntryCount() const override { return static_cast<int>(entries_.size()); }
   const IconListEntry* Entry(int number) const override {
     const bool stands = number >= 1 && number <= EntryCount();
@@ -42,6 +42,7 @@ class FakeHost : public Base {
  private:
   std::vector<IconListEntry> entries_;
   Integer16 currentIndex_;
+  TestRaster picIcon_{32, 32};
 };
 
 }  // namespace tarvik::testing

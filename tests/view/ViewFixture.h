@@ -23,7 +23,7 @@
 namespace tarvik::testing {
 
 // A main window in memory whose every entry is a picture of its own, no two pixels of it alike.
-class PictureHost final : public FakeHost<EnhancedViewOwner> {
+class PictureHost final : public FakeHost {
  public:
   PictureHost(int count, Integer16 selection, int size) : FakeHost(count, selection), picIcon_(size, size, white) {}
 

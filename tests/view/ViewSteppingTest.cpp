@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "base/NonCopyable.h"
 #include "view/FakeHost.h"
 
 namespace tarvik {
@@ -14,17 +15,19 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-using Host = testing::FakeHost<EnhancedViewHost>;
+using Host = testing::FakeHost;
 
-class FakeDisplay final : public ViewDisplay {
- public:
-  void ShowPicture() override {
-    ++pictures;
-    if (failing) throw OverflowError();
-  }
-  void SetStatusText(const std::string& text) override {
-    status = text;
-    texts.push_back(text);
+// What was shown.
+struct Display {
+  ViewDisplay Functions() {
+    return {[this] {
+              ++pictures;
+              if (failing) throw OverflowError();
+            },
+            [this](const std::string& text) {
+              status = text;
+              texts.push_back(text);
+            }};
   }
 
   int pictures = 0;
@@ -34,8 +37,8 @@ class FakeDisplay final : public ViewDisplay {
 };
 
 // A view opened on the list of a main window.
-struct View {
-  explicit View(int count, Integer16 selection = 0) : host(count, selection), stepping(host, display) {
+struct View : NonCopyable {
+  explicit View(int count, Integer16 selection = 0) : host(count, selection), stepping(host, display.Functions()) {
     stepping.Begin();
   }
   void Next(int times = 1) {
@@ -46,7 +49,7 @@ struct View {
   }
 
   Host host;
-  FakeDisplay display;
+  Display display;
   ViewStepping stepping;
 };
 

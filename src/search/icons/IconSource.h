@@ -1,8 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
+#include "base/ByteSource.h"
 #include "base/DrawSurface.h"
 #include "base/Finally.h"
 #include "base/Point.h"
@@ -36,6 +39,15 @@ class IconSource {
 
   // The large icon with that zero-based index, or null where the file yields none.
   virtual std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) = 0;
+
+  // Takes the large icons from `first` on, zero-based, with one call: `count` of them, or none if fewer came out or the
+  // source takes icons one by one only.
+  virtual std::vector<std::unique_ptr<ExtractedIcon>> ExtractGroup(const std::string& /*path*/, int /*first*/,
+                                                                   int /*count*/) {
+    return {};
+  }
+  // What the file is known by; nothing if there is no such file, or the source does not say.
+  virtual std::optional<FileStamp> StampOf(const std::string& /*path*/) { return std::nullopt; }
 
   // Until the end of what this returns, the icons of a file are mostly asked for one after the other: a search, a
   // batch. A source may then take more of them than are asked for yet.

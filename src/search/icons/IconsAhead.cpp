@@ -15,14 +15,14 @@ constexpr std::size_t maxBroken = 10'000;
 }  // namespace
 
 int IconsAhead::CountIcons(const std::string& path) {
-  if (users_ == 0) return oneByOne_.CountIcons(path);
+  if (users_ == 0) return source_.CountIcons(path);
   TurnTo(path, 0);
   count_ = CountOf(path);
   return *count_;
 }
 
 std::unique_ptr<ExtractedIcon> IconsAhead::Extract(const std::string& path, int index) {
-  if (users_ == 0 || IsAnimatedCursorName(path)) return oneByOne_.Extract(path, index);
+  if (users_ == 0 || IsAnimatedCursorName(path)) return source_.Extract(path, index);
   const bool goesOn = path == path_ && index == next_;
   if (!goesOn) TurnTo(path, index);
   if (goesOn && held_.empty() && !IsBroken(path)) {
@@ -31,7 +31,7 @@ std::unique_ptr<ExtractedIcon> IconsAhead::Extract(const std::string& path, int 
   }
   count_.reset();
   next_ = index + 1;
-  if (held_.empty()) return oneByOne_.Extract(path, index);
+  if (held_.empty()) return source_.Extract(path, index);
   auto icon = std::move(held_.back());
   held_.pop_back();
   if (held_.empty()) maxTaken_ = std::min(maxHeld, maxTaken_ + maxTaken_ / 4 + 1);
@@ -54,7 +54,7 @@ void IconsAhead::LetGo() {
 
 void IconsAhead::LetGoIfChanged() {
   if (held_.empty()) return;
-  if (!stamp_ || groups_.StampOf(path_) != stamp_) Drop();
+  if (!stamp_ || source_.StampOf(path_) != stamp_) Drop();
 }
 
 void IconsAhead::Drop() {
@@ -72,10 +72,10 @@ void IconsAhead::TurnTo(const std::string& path, int next) {
 // How many icons the file has: as it was counted before if it is as it was then. The file is asked what it is known by
 // before it is counted, so that a change meanwhile is noticed the next time.
 int IconsAhead::CountOf(const std::string& path) {
-  stamp_ = groups_.StampOf(path);
+  stamp_ = source_.StampOf(path);
   const auto known = counts_.find(path);
   if (stamp_ && known != counts_.end() && known->second.stamp == *stamp_) return known->second.icons;
-  const int icons = oneByOne_.CountIcons(path);
+  const int icons = source_.CountIcons(path);
   if (stamp_ && counts_.size() < maxCounts) counts_.insert_or_assign(path, Count{*stamp_, icons});
   return icons;
 }
@@ -87,7 +87,7 @@ bool IconsAhead::IsBroken(const std::string& path) const {
 
 void IconsAhead::TakeGroup(int first, int count) {
   if (count < 2 || IsBroken(path_)) return;
-  held_ = groups_.ExtractGroup(path_, first, count);
+  held_ = source_.ExtractGroup(path_, first, count);
   std::ranges::reverse(held_);
   groupSize_ = count;
   if (!held_.empty() || !stamp_) return;

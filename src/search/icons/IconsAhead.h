@@ -11,18 +11,6 @@
 
 namespace tarvik {
 
-// What reading ahead needs of the machine besides an icon source.
-class IconGroups {
- public:
-  virtual ~IconGroups() = default;
-
-  // Takes the large icons from `first` on, zero-based, with one call: `count` of them, or none if fewer came out.
-  virtual std::vector<std::unique_ptr<ExtractedIcon>> ExtractGroup(const std::string& path, int first, int count) = 0;
-
-  // What the file is known by; nothing if there is no such file.
-  virtual std::optional<FileStamp> StampOf(const std::string& path) = 0;
-};
-
 // An icon source that takes the icons of a file up to 64 at a time if they are asked for one after the other, because
 // each call opens and reads the file from scratch. Whoever asks gets the same icons as without it.
 //
@@ -33,8 +21,8 @@ class IconGroups {
 // InTurn, a file is counted once as long as it stays as it is.
 class IconsAhead final : public IconSource {
  public:
-  // Both outlive this object.
-  IconsAhead(IconSource& oneByOne, IconGroups& groups) : oneByOne_(oneByOne), groups_(groups) {}
+  // `source` outlives this object.
+  explicit IconsAhead(IconSource& source) : source_(source) {}
 
   int CountIcons(const std::string& path) override;
   std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override;
@@ -54,8 +42,7 @@ class IconsAhead final : public IconSource {
   bool IsBroken(const std::string& path) const;
   void TakeGroup(int first, int count);
 
-  IconSource& oneByOne_;
-  IconGroups& groups_;
+  IconSource& source_;
   int users_ = 0;  // of InTurn
 
   std::string path_;                                  // the file asked for last

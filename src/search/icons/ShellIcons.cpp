@@ -54,7 +54,7 @@ class PlatformIcon final : public ExtractedIcon {
   bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
     if (step < 0 || step >= stepBound_) return false;
     // Every surface icons are drawn on has a device context.
-    const HDC dc = static_cast<DcSurface&>(surface).Dc();
+    const HDC dc = static_cast<Surface&>(surface).Dc();
     // The system blends an image that has an alpha channel over what is there. Black is the one colour that a
     // transparent pixel of an icon file may have: any other changes what lies below the icon.
     if (part == DrawPart::Image) PatBlt(dc, corner.x, corner.y, size, size, BLACKNESS);

@@ -11,7 +11,6 @@
 #include "search/icons/AnimationHeader.h"
 #include "search/icons/CutOffCalls.h"
 #include "search/icons/IconSource.h"
-#include "search/icons/IconsAhead.h"
 #include "search/icons/ModuleLooks.h"
 #include "search/icons/NewExecutable.h"
 #include "search/icons/ShellFunctions.h"
@@ -20,7 +19,7 @@ namespace tarvik {
 
 // The icons in the files of this machine, as the shell takes them out; animated cursors, where the shell will not,
 // as the system loads cursors. A damaged file holds none, whatever the system makes of it; an icon on which the system
-// breaks is asked for once in a run. Icons draw on any DcSurface.
+// breaks is asked for once in a run. Icons draw on a Surface.
 //
 // In a library, program or control of 16-bit Windows, in which the shell finds no icon, this program finds them itself
 // (NewExecutable); of the files in the system's own folder, in .icl files alone. What the shell finds is left to it
@@ -28,7 +27,7 @@ namespace tarvik {
 //
 // Extract and the icons' Draw throw OutOfMemoryError if they fail because there are no GDI objects left, so that no
 // blank picture is taken for an icon.
-class ShellIcons final : public IconSource, public IconGroups {
+class ShellIcons final : public IconSource {
  public:
   // Opens the bytes of a file for a look at them.
   using OpenBytes = std::function<std::unique_ptr<ByteSource>(const std::string& path)>;
@@ -39,7 +38,6 @@ class ShellIcons final : public IconSource, public IconGroups {
 
   int CountIcons(const std::string& path) override;
   std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override;
-
   std::vector<std::unique_ptr<ExtractedIcon>> ExtractGroup(const std::string& path, int first, int count) override;
   std::optional<FileStamp> StampOf(const std::string& path) override;
 

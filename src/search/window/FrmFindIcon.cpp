@@ -99,7 +99,8 @@ void FrmFindIcon::AttachControls() {
   });
   udMain_.Attach(Item(FrmFindIcon_udMain));
   grid_.Attach(Item(FrmFindIcon_PicFrame), Item(FrmFindIcon_Vsb), FrmFindIcon_PicIcons);
-  grid_.Describe(this);
+  gridContent_ = {[this] { return ItemText(FrmFindIcon_PicFrame); }, [this] { return ChosenItem(); }};
+  grid_.Describe(&gridContent_);
   lv_.Attach(Item(FrmFindIcon_Lv));
   const RECT bounds = grid_.Bounds();  // the list takes the grid's place
   Move(lv_.Window(), bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top);

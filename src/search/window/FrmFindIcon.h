@@ -26,8 +26,7 @@ class FrmFindIcon final : public Form,
                           private SearchWindow,
                           private SelectionView,
                           private SaveWindow,
-                          private EnhancedViewOwner,
-                          private PictureContent {
+                          private EnhancedViewHost {
  public:
   using Dependencies = FindIconDependencies;
 
@@ -100,17 +99,13 @@ class FrmFindIcon final : public Form,
   void DoEvents() override;
   Finally ShowHourglass() override;
 
-  // EnhancedViewOwner, beside RenderEntry
+  // EnhancedViewHost, beside RenderEntry
   int EntryCount() const override;
   const IconListEntry* Entry(int number) const override;
   Integer16 CurrentIndex() const override;
   bool ViewOpen() const override;
   void SetViewOpen(bool open) override;
   const Surface& PicIcon() const override;
-
-  // PictureContent: the grid read aloud
-  std::string Name() const override;
-  std::optional<ChosenPart> ChosenItem() const override;
 
   // SelectionView, where it asks for more than a search does
   bool NumbersByFile() const override;
@@ -129,6 +124,7 @@ class FrmFindIcon final : public Form,
   void LoadSettings();
   void SaveSettings();
   void UpdateSaveMenus();
+  std::optional<PictureContent::ChosenPart> ChosenItem() const;
   void ShowSelectionInList();
   void ChooseIfNotCurrent(int row);  // counted from 0
   void ShowProgress();
@@ -141,6 +137,7 @@ class FrmFindIcon final : public Form,
   FileListBox file1_;
   ShownFolders folders_{dir1_, file1_, dependencies_.folders};
   IconGrid grid_;
+  PictureContent gridContent_;  // the grid read aloud
   Surface ownSurface_;
   SearchDriver driver_;
   Selection selection_;

@@ -74,12 +74,8 @@ void FrmFindIcon::mnuIL_Click(int index) {
 
 bool FrmFindIcon::RenderEntry(int number) {
   if (!list_.Has(number)) return false;
-  ModMicroArt::CaptureEntry(dependencies_.icons, list_.Item(number), state_.Geometry.IconSize, surfaces_);
+  ModMicroArt::CaptureEntry(dependencies_.icons, list_.Item(number), state_.Geometry.IconSize, surfaces_.Clear());
   return true;
-}
-
-std::string FrmFindIcon::Name() const {
-  return Form::ItemText(FrmFindIcon_PicFrame);
 }
 
 // The entry in the current frame.
@@ -90,8 +86,8 @@ std::optional<PictureContent::ChosenPart> FrmFindIcon::ChosenItem() const {
   const auto name = Compose(gridItemName, dependencies_.state.CurrentLanguage,
                             {std::to_string(number), entry.path, std::to_string(entry.index)});
   const int end = state_.Geometry.FrameExtent + 1;
-  return ChosenPart{name.value_or(entry.path),
-                    {state_.FrameX, state_.FrameY, state_.FrameX + end, state_.FrameY + end}};
+  return PictureContent::ChosenPart{name.value_or(entry.path),
+                                    {state_.FrameX, state_.FrameY, state_.FrameX + end, state_.FrameY + end}};
 }
 
 }  // namespace tarvik

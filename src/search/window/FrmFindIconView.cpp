@@ -9,7 +9,7 @@ namespace tarvik {
 // The release of the same click came before, so the current entry is the icon under the pointer.
 void FrmFindIcon::PicIcons_DblClick() {
   if (state_.IsSearching) return;
-  EnhancedViewOwner& owner = *this;
+  EnhancedViewHost& owner = *this;
   if (!view_) view_.emplace(TheApplication(), owner, dependencies_.state, dependencies_.settings);
   view_->ShowSelectedEntry(Window());
 }

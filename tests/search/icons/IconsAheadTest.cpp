@@ -42,7 +42,7 @@ class NamedIcon final : public ExtractedIcon, NonCopyable {
 };
 
 // The shell, with every call written down.
-class CountingShell final : public IconSource, public IconGroups {
+class CountingShell final : public IconSource {
  public:
   int CountIcons(const std::string& path) override {
     script.Add("count " + path);
@@ -107,7 +107,7 @@ class IconsAheadTest : public ::testing::Test {
   }
 
   CountingShell shell;
-  IconsAhead icons{shell, shell};
+  IconsAhead icons{shell};
 };
 
 TEST_F(IconsAheadTest, TakesTheIconsOfAFileInGroupsOfSixtyFour) {

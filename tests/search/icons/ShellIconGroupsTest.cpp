@@ -115,7 +115,7 @@ TEST(ShellIconGroups, AreOfAFileThatIsKnownByItsSizeAndTime) {
 }
 
 // The real shell, its calls counted.
-class CountedShell final : public IconSource, public IconGroups {
+class CountedShell final : public IconSource {
  public:
   int CountIcons(const std::string& path) override { return shell_.CountIcons(path); }
   std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override {
@@ -142,7 +142,7 @@ TEST(ShellIconGroups, ReadAheadAreTheIconsOneByOne) {
   for (const auto& [path, isIntact] : rows) {
     ShellIcons oneByOne;
     CountedShell shell;
-    IconsAhead ahead(shell, shell);
+    IconsAhead ahead(shell);
     const auto search = ahead.InTurn();
     const int count = ahead.CountIcons(path);
     ASSERT_EQ(count, oneByOne.CountIcons(path));

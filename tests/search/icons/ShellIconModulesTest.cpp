@@ -196,7 +196,7 @@ TEST(ShellIconModules, AreTheSameWhereTheyAreReadAhead) {
   const std::string path = folder.MakeFile("a.icl", MakeModule(all));
   ShellIcons oneByOne(Open, ShellWithoutModules);
   ShellIcons icons(Open, ShellWithoutModules);
-  IconsAhead ahead(icons, icons);
+  IconsAhead ahead(icons);
   const auto search = ahead.InTurn();
   ASSERT_EQ(ahead.CountIcons(path), 90);
   for (int index = 0; index < 90; ++index) {
@@ -347,7 +347,7 @@ TEST(ShellIconModules, AreLookedForInNoFileMoreThanOnceAPass) {
   const TemporaryFolder folder;
   Counted files;
   ShellIcons icons(files.Opener(), ShellWithoutModules);
-  IconsAhead ahead(icons, icons);
+  IconsAhead ahead(icons);
   const auto search = ahead.InTurn();
   // A library of today without icons: its first block, which both headers are in.
   const std::string library = folder.In("version.dll");

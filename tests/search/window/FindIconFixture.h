@@ -33,7 +33,7 @@ class SquareIcon final : public ExtractedIcon {
     if (step >= 1) return false;
     const RECT place{corner.x, corner.y, corner.x + size, corner.y + size};
     const BrushHandle brush(CreateSolidBrush(part == DrawPart::Mask ? black : color_));
-    FillRect(static_cast<DcSurface&>(surface).Dc(), &place, brush.get());
+    FillRect(static_cast<Surface&>(surface).Dc(), &place, brush.get());
     return true;
   }
   int StepBound() const override { return 1; }

@@ -243,7 +243,7 @@ class HalfIcon final : public ExtractedIcon {
 
   bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
     if (step >= 1) return false;
-    const HDC dc = static_cast<DcSurface&>(surface).Dc();
+    const HDC dc = static_cast<Surface&>(surface).Dc();
     const auto fill = [&](int from, int to, Color color) {
       const RECT place{corner.x + from, corner.y, corner.x + to, corner.y + size};
       const BrushHandle brush(CreateSolidBrush(color));
