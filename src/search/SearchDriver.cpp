@@ -1,12 +1,10 @@
 #include "search/SearchDriver.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "base/Characters.h"
 #include "base/Conversion.h"
-#include "base/Finally.h"
 #include "search/SearchTexts.h"
 
 namespace tarvik {
@@ -19,16 +17,23 @@ constexpr std::array<SearchControl, 5> searchControls{SearchControl::CmdFind, Se
                                                       SearchControl::CmdClose, SearchControl::mnuFile,
                                                       SearchControl::mnuEdit};
 
-}  // namespace
+// The root of a drive keeps the backslash that it ends in and gets another one (deliberate: oddities 19).
+std::string PathOf(const std::string& folder, const std::string& name) {
+  return folder + "\\" + name;
+}
 
-// A folder that a walk has entered and not yet left.
-struct SearchDriver::OpenFolder {
-  std::string path;
-  std::vector<WalkedFolder> subFolders;
-  std::size_t next = 0;        // the sub-folder to visit next
-  bool isBeyondMount = false;  // a mounted volume is on the way to it
-  std::string identity;        // asked for when it is first needed
-};
+// Makes a step at one file. An overflow in it says at which file it happened.
+template <typename Step>
+void AtFile(const std::string& path, Step step) {
+  try {
+    step(path);
+  } catch (OverflowError& error) {
+    error.SetFile(path);
+    throw;
+  }
+}
+
+}  // namespace
 
 SearchDriver::SearchDriver(const Dependencies& dependencies)
     : window_(dependencies.window),
@@ -57,14 +62,14 @@ void SearchDriver::CmdFind_Click() {
 }
 
 void SearchDriver::Search() {
-  state_.IconCount = 0;
-  RunOverScope(&SearchDriver::CountIconsInFolder);
+  CountIcons();
   list_.Clear();
   window_.ClearListView();
   if (IsRefused()) {
     FailureExit();
   } else {
     ListIcons();
+    ShowList();
   }
 }
 
@@ -87,12 +92,7 @@ bool SearchDriver::IsRefused() {
   return true;
 }
 
-void SearchDriver::ListIcons() {
-  state_.NextIconNumber = 1;
-  state_.CellY = gridMargin;
-  state_.CellX = gridMargin;
-  grid_.Clear();
-  RunOverScope(&SearchDriver::ListIconsInFolder);
+void SearchDriver::ShowList() {
   UpdateTitle();
   if (const auto text = Pick(searchTexts::firstSelected, language_)) window_.SetInfoText(std::string(*text));
   grid_.Keep();
@@ -118,86 +118,33 @@ void SearchDriver::FailureExit() {
   grid_.Clear();
 }
 
-// With sub-folders a pass starts at Dir1's folder and moves Dir1, which is put back after it.
-void SearchDriver::RunOverScope(Pass pass) {
+// With sub-folders a pass starts at Dir1's folder.
+FolderWalk SearchDriver::WalkOverScope() {
+  return {window_, folders_, window_.chkSubDir() ? folders_.Dir1Path() : folders_.File1Path()};
+}
+
+// With sub-folders a pass moves Dir1, which is put back at the end of what this returns.
+Finally SearchDriver::KeepDir1() {
+  if (!window_.chkSubDir()) return Finally();
+  state_.SavedDirPath = folders_.Dir1Path();
+  return Finally([this] { folders_.SetDir1Path(std::exchange(state_.SavedDirPath, {})); });
+}
+
+void SearchDriver::CountIcons() {
+  state_.IconCount = 0;
   // Over the whole pass, so that also a long count shows that the program is at work. The pointer is back before a box.
   const Finally hourglass = window_.ShowHourglass();
-  if (!window_.chkSubDir()) {
-    (this->*pass)(folders_.File1Path());
-    return;
-  }
-  state_.SavedDirPath = folders_.Dir1Path();
-  const Finally putsBack([this] { folders_.SetDir1Path(std::exchange(state_.SavedDirPath, {})); });
-  (this->*pass)(state_.SavedDirPath);
-}
-
-// Visits a folder, then each of its sub-folders in the same way, then leaves it. A folder's sub-folders are
-// read once; for each of them Dir1 is only pointed at their folder again, because the visit of the last one
-// moved it.
-//
-// Folders alone form a tree. Only a volume that is mounted in one can lead back, and it can only lead to itself or to
-// what is below it: so nothing is asked about folders until a mounted one is met.
-void SearchDriver::Walk(const std::string& root, const Enter& enter, const Leave& leave) {
-  // Outermost first. A list and not the call stack, because folders can lie in one another deeper than a stack reaches.
-  std::vector<OpenFolder> open;
-  open.push_back(Open(root, enter));
-  while (!open.empty()) {
-    OpenFolder& folder = open.back();
-    if (folder.next == folder.subFolders.size()) {
-      leave();
-      open.pop_back();
-      continue;
-    }
-    WalkedFolder subFolder = std::move(folder.subFolders[folder.next++]);
-    const bool isBeyondMount = folder.isBeyondMount || subFolder.isMounted;
-    if (isBeyondMount && LeadsBack(open, subFolder.path)) continue;
-    folders_.SetDir1Path(folder.path);
-    open.push_back(Open(std::move(subFolder.path), enter));
-    open.back().isBeyondMount = isBeyondMount;
-  }
-}
-
-// Whether the walk is in that folder already, by whatever path it got there. One that cannot be opened has nothing to
-// list and is not entered either.
-bool SearchDriver::LeadsBack(std::vector<OpenFolder>& open, const std::string& folder) {
-  const std::string identity = folders_.FolderIdentity(folder);
-  if (identity.empty()) return true;
-  return std::ranges::any_of(open, [&](OpenFolder& entered) {
-    if (entered.identity.empty()) entered.identity = folders_.FolderIdentity(entered.path);
-    return entered.identity == identity;
-  });
-}
-
-SearchDriver::OpenFolder SearchDriver::Open(std::string path, const Enter& enter) {
-  OpenFolder folder;
-  folder.path = std::move(path);
-  enter(folder.path);
-  if (!window_.chkSubDir()) return folder;
-  folders_.SetDir1Path(folder.path);
-  folder.subFolders = folders_.Dir1SubFolders();
-  return folder;
-}
-
-void SearchDriver::CountIconsInFolder(const std::string& root) {
-  const auto count = [this](const std::string& folder) { CountFilesOf(folder); };
-  Walk(root, count, [] {});
+  const Finally putsBack = KeepDir1();
+  for (FolderWalk walk = WalkOverScope(); walk.Next();)
+    if (walk.HasEntered()) CountFilesOf(walk.Folder());
 }
 
 void SearchDriver::CountFilesOf(const std::string& folder) {
   if (window_.chkSubDir()) folders_.SetFile1Path(folder);
+  const std::string shown = folders_.File1Path();
   for (const std::string& name : folders_.File1Names()) {
-    AtFile(PathOf(name), &SearchDriver::CountIconsOfFile);
+    AtFile(PathOf(shown, name), [this](const std::string& path) { CountIconsOfFile(path); });
     UpdateTitle();
-  }
-}
-
-// Takes a step of a pass at one file. An overflow in it says at which file it happened.
-void SearchDriver::AtFile(const std::string& path, Pass step) {
-  try {
-    (this->*step)(path);
-  } catch (OverflowError& error) {
-    error.SetFile(path);
-    throw;
   }
 }
 
@@ -217,10 +164,20 @@ int SearchDriver::CountAnimationFrames(const std::string& path) {
   return step;
 }
 
-void SearchDriver::ListIconsInFolder(const std::string& root) {
-  const Enter enter = [this](const std::string& folder) { ListFilesOf(folder); };
-  const Leave leave = [this] { SetStatus(searchTexts::added, {std::to_string(list_.Count())}); };
-  Walk(root, enter, leave);
+void SearchDriver::ListIcons() {
+  state_.NextIconNumber = 1;
+  state_.CellY = gridMargin;
+  state_.CellX = gridMargin;
+  grid_.Clear();
+  const Finally hourglass = window_.ShowHourglass();
+  const Finally putsBack = KeepDir1();
+  for (FolderWalk walk = WalkOverScope(); walk.Next();) {
+    if (walk.HasEntered()) {
+      ListFilesOf(walk.Folder());
+    } else {
+      SetStatus(searchTexts::added, {std::to_string(list_.Count())});
+    }
+  }
 }
 
 void SearchDriver::ListFilesOf(const std::string& folder) {
@@ -229,11 +186,12 @@ void SearchDriver::ListFilesOf(const std::string& folder) {
   window_.DoEvents();
   const int limit = ToInteger16(window_.txtMax());
   SetStatus(searchTexts::searching, {folders_.Dir1Path()});
+  const std::string shown = folders_.File1Path();
   for (const std::string& name : folders_.File1Names()) {
     // Checked before each file and never inside one: a file's icons are listed all together (deliberate: oddities 20).
     if (state_.NextIconNumber > limit) break;
     SetStatus(searchTexts::adding, {std::to_string(state_.NextIconNumber)});
-    AtFile(PathOf(name), &SearchDriver::ListIconsOfFile);
+    AtFile(PathOf(shown, name), [this](const std::string& path) { ListIconsOfFile(path); });
   }
 }
 
@@ -272,11 +230,6 @@ void SearchDriver::DrawInNextCell(ExtractedIcon* icon, int step) {
     state_.CellY += geometry.CellPitch;
   }
   state_.NextIconNumber += 1;
-}
-
-// The root of a drive keeps the backslash that it ends in and gets another one (deliberate: oddities 19).
-std::string SearchDriver::PathOf(const std::string& name) const {
-  return folders_.File1Path() + "\\" + name;
 }
 
 void SearchDriver::UpdateTitle() {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "base/Finally.h"
 #include "grid/GridView.h"
+#include "search/FolderWalk.h"
 #include "search/SearchFolders.h"
 #include "search/SearchWindow.h"
 #include "search/icons/IconList.h"
@@ -42,33 +42,23 @@ class SearchDriver {
   int CountAnimationFrames(const std::string& path);
 
  private:
-  using Pass = void (SearchDriver::*)(const std::string& path);
-  using Leave = std::function<void()>;
-  using Enter = std::function<void(const std::string& folder)>;
-  struct OpenFolder;
-
   void Search();
   bool IsRefused();
-  void ListIcons();
   void FailureExit();
+  FolderWalk WalkOverScope();
+  Finally KeepDir1();
 
-  void RunOverScope(Pass pass);
-  void Walk(const std::string& root, const Enter& enter, const Leave& leave);
-  bool LeadsBack(std::vector<OpenFolder>& open, const std::string& folder);
-  OpenFolder Open(std::string path, const Enter& enter);
-
-  void CountIconsInFolder(const std::string& root);
+  void CountIcons();
   void CountFilesOf(const std::string& folder);
-  void AtFile(const std::string& path, Pass step);
   void CountIconsOfFile(const std::string& path);
 
-  void ListIconsInFolder(const std::string& root);
+  void ListIcons();
+  void ShowList();
   void ListFilesOf(const std::string& folder);
   void ListIconsOfFile(const std::string& path);
   void ListAnimation(const std::string& path);
   void DrawInNextCell(ExtractedIcon* icon, int step);
 
-  std::string PathOf(const std::string& name) const;
   void UpdateTitle();
   void SetStatus(const Text& text, std::initializer_list<std::string_view> values);
   void ShowBox(const Text& text, std::initializer_list<std::string_view> values);
