@@ -51,7 +51,7 @@ class Started {
                        &information) == FALSE)
       throw std::runtime_error("the program cannot be started: " + program.string());
     process_.reset(information.hProcess);
-    const FileHandle thread(information.hThread);
+    const KernelHandle thread(information.hThread);
     while (!ShowsWindow(information.dwProcessId)) Sleep(1);
   }
   void End() {
@@ -62,7 +62,7 @@ class Started {
   }
 
  private:
-  FileHandle process_;
+  KernelHandle process_;
 };
 
 }  // namespace

@@ -47,8 +47,8 @@ double OwnMilliseconds() {
                          if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                                             &startup, &process) == FALSE)
                            throw std::runtime_error("the search cannot be started");
-                         const FileHandle thread(process.hThread);
-                         const FileHandle owner(process.hProcess);
+                         const KernelHandle thread(process.hThread);
+                         const KernelHandle owner(process.hProcess);
                          WaitForSingleObject(owner.get(), INFINITE);
                        }});
 }

@@ -91,6 +91,14 @@ struct FilePolicy {
 };
 using FileHandle = Owner<FilePolicy>;
 
+struct KernelObjectPolicy {
+  using Type = HANDLE;
+  static Type None() { return nullptr; }
+  static void Close(Type handle) { CloseHandle(handle); }
+};
+// A process, a thread, a job, an event: none is null, and not INVALID_HANDLE_VALUE as of a file.
+using KernelHandle = Owner<KernelObjectPolicy>;
+
 struct FindPolicy {
   using Type = HANDLE;
   static Type None() { return INVALID_HANDLE_VALUE; }

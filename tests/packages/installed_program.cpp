@@ -58,7 +58,7 @@ std::optional<OwnRights> OwnRightsOfUsers(const wchar_t* name, SE_OBJECT_TYPE ki
 }
 
 // Starts an installed program, in the folder of the installation.
-FileHandle Start(const fs::path& program, const std::wstring& arguments = {}) {
+KernelHandle Start(const fs::path& program, const std::wstring& arguments = {}) {
   std::wstring command = L"\"" + program.wstring() + L"\" " + arguments;
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
@@ -66,8 +66,8 @@ FileHandle Start(const fs::path& program, const std::wstring& arguments = {}) {
   EXPECT_NE(CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr, home.c_str(), &startup,
                            &information),
             FALSE);
-  const FileHandle thread(information.hThread);
-  return FileHandle(information.hProcess);
+  const KernelHandle thread(information.hThread);
+  return KernelHandle(information.hProcess);
 }
 
 // A visible window that has a control with that id, once there is one.
@@ -108,7 +108,7 @@ TEST(InstalledProgram, FindsIconsInTheLanguageOfTheInstallation) {
   const std::string settings = ToUtf8((home / L"tarvik.dat").wstring());
   ASSERT_NE(WritePrivateProfileStringA("FindIcon", "Folder", folder.Path().c_str(), settings.c_str()), FALSE);
 
-  const FileHandle process = Start(home / L"tarvik.exe");
+  const KernelHandle process = Start(home / L"tarvik.exe");
 
   const Control window = WaitForWindowWith(FrmFindIcon_CmdFind);
   ASSERT_TRUE(window);

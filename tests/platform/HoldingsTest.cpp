@@ -14,7 +14,7 @@ TEST(Holdings, CountWhatThisProcessTakesAndGivesBack) {
   const Holdings before = HeldBy(GetCurrentProcess());
   {
     std::vector<BrushHandle> brushes;
-    std::vector<FileHandle> events;
+    std::vector<KernelHandle> events;
     std::vector<HMENU> menus;
     for (int i = 0; i < taken; ++i) {
       brushes.emplace_back(CreateSolidBrush(RGB(i % 256, 0, 0)));

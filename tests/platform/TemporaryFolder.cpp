@@ -59,8 +59,8 @@ void RunBelowWine(const wchar_t* program, std::wstring command, const std::wstri
   PROCESS_INFORMATION process{};
   ASSERT_NE(CreateProcessW(program, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process),
             0);
-  const FileHandle processOwner(process.hProcess);
-  const FileHandle threadOwner(process.hThread);
+  const KernelHandle processOwner(process.hProcess);
+  const KernelHandle threadOwner(process.hThread);
   const ULONGLONG deadline = GetTickCount64() + 30000;
   while ((GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES) != thereAfterwards &&
          GetTickCount64() < deadline)

@@ -47,7 +47,7 @@ class RemoteMemory : NonCopyable {
   }
 
  private:
-  FileHandle process_;
+  KernelHandle process_;
   void* address_ = nullptr;
 };
 

@@ -107,7 +107,7 @@ void Program::Launch() {
     throw std::runtime_error("the program cannot be started");
   }
   process_.reset(process.hProcess);
-  const FileHandle thread(process.hThread);
+  const KernelHandle thread(process.hThread);
   processId_ = process.dwProcessId;
   threadId_ = process.dwThreadId;
   AssignProcessToJobObject(job_.get(), process_.get());
@@ -148,7 +148,7 @@ bool Program::Adopt() {
   DWORD size = 0;
   EnumProcesses(ids, sizeof ids, &size);
   for (const DWORD id : std::span(ids).first(size / sizeof *ids)) {
-    FileHandle process(OpenProcess(PROCESS_ALL_ACCESS, FALSE, id));
+    KernelHandle process(OpenProcess(PROCESS_ALL_ACCESS, FALSE, id));
     wchar_t image[MAX_PATH] = {};
     DWORD length = MAX_PATH;
     if (!process || QueryFullProcessImageNameW(process.get(), 0, image, &length) == 0 || image != path_) continue;
@@ -179,12 +179,12 @@ DWORD Program::Close() {
 }
 
 void Program::Suspend() {
-  const FileHandle thread(OpenThread(THREAD_SUSPEND_RESUME, FALSE, threadId_));
+  const KernelHandle thread(OpenThread(THREAD_SUSPEND_RESUME, FALSE, threadId_));
   if (SuspendThread(thread.get()) == static_cast<DWORD>(-1)) throw std::runtime_error("the program cannot be stopped");
 }
 
 void Program::Resume() {
-  const FileHandle thread(OpenThread(THREAD_SUSPEND_RESUME, FALSE, threadId_));
+  const KernelHandle thread(OpenThread(THREAD_SUSPEND_RESUME, FALSE, threadId_));
   ResumeThread(thread.get());
 }
 

@@ -107,8 +107,8 @@ class Program : NonCopyable {
   std::vector<Control> TopWindows() const;
 
   std::filesystem::path path_;
-  FileHandle process_;
-  FileHandle job_;  // takes the process down with the test, however that ends
+  KernelHandle process_;
+  KernelHandle job_;  // takes the process down with the test, however that ends
   DWORD processId_ = 0;
   DWORD threadId_ = 0;
   Control window_;
