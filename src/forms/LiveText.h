@@ -1,11 +1,11 @@
 #pragma once
 
-#include <windows.h>
-
 #include <functional>
 #include <optional>
 #include <string>
 #include <utility>
+
+#include "forms/Throttle.h"
 
 namespace tarvik {
 
@@ -23,23 +23,21 @@ class LiveText {
   }
   // Shows a text that waits, if its time has come.
   void ShowIfDue() {
-    if (GetTickCount64() - shownAt_ >= period) Flush();
+    if (shows_.IsDue()) Flush();
   }
   // Shows a text that waits, now.
   void Flush() {
     if (!waiting_) return;
     const std::string text = std::move(*waiting_);
     waiting_.reset();
-    shownAt_ = GetTickCount64();
+    shows_.Note();
     show_(text);
   }
 
  private:
-  static constexpr ULONGLONG period = 40;  // milliseconds
-
   std::function<void(const std::string& text)> show_;
   std::optional<std::string> waiting_;
-  ULONGLONG shownAt_ = 0;
+  Throttle shows_{40};  // milliseconds
 };
 
 }  // namespace tarvik

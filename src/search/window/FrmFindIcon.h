@@ -10,6 +10,7 @@
 #include "forms/LiveText.h"
 #include "forms/ReportList.h"
 #include "forms/ScrollBar.h"
+#include "forms/Throttle.h"
 #include "grid/IconGrid.h"
 #include "grid/Selection.h"
 #include "platform/Surface.h"
@@ -145,10 +146,11 @@ class FrmFindIcon final : public Form,
   bool viewOpen_ = false;
   IconSurfaces surfaces_;  // PicIcon, PicMask and PicImage
   SaveCommands commands_;
-  bool isSaving_ = false;   // a save or copy command runs, and the window takes no other
-  Finally savesInTurn_;     // while it runs, icons are asked for in turn
-  ULONGLONG lookedAt_ = 0;  // when such a command last looked for messages
-  ULONGLONG servedAt_ = 0;  // when it last served them
+  bool isSaving_ = false;  // a save or copy command runs, and the window takes no other
+  Finally savesInTurn_;    // while it runs, icons are asked for in turn
+  // In milliseconds: how often such a command looks for messages, and how often it serves them even if none is seen.
+  Throttle looks_{40};
+  Throttle serves_{1'000};
   std::optional<Surface> picMain_;
 
   LiveText caption_;

@@ -14,12 +14,6 @@
 #include "startup/MessageTexts.h"
 
 namespace tarvik {
-namespace {
-
-constexpr ULONGLONG paintPeriod = 40;     // milliseconds between two looks at the waiting messages
-constexpr ULONGLONG servePeriod = 1'000;  // milliseconds after which they are served even if none is seen
-
-}  // namespace
 
 std::string FrmFindIcon::StatusText() const {
   const HWND bar = Item(FrmFindIcon_sbMain);
@@ -49,17 +43,17 @@ Finally FrmFindIcon::HoldCommands() {
 // taken out before it reaches anything. If nothing waits, icons that were taken ahead are kept: a batch would throw
 // away about as many as it uses.
 void FrmFindIcon::ServePainting() {
-  const ULONGLONG now = GetTickCount64();
-  if (now - lookedAt_ < paintPeriod) return;
-  lookedAt_ = now;
-  if (now - servedAt_ < servePeriod && !Application::HasMessages()) {
+  if (!looks_.IsDue()) return;
+  looks_.Note();
+  if (!serves_.IsDue() && !Application::HasMessages()) {
     dependencies_.icons.LetGoIfChanged();
     return;
   }
   dependencies_.icons.LetGo();
   TheApplication().DoEvents();
   if (!IsLoaded()) throw GivenUp();
-  lookedAt_ = servedAt_ = GetTickCount64();
+  looks_.Note();
+  serves_.Note();
 }
 
 bool FrmFindIcon::CopyPicClip() {
