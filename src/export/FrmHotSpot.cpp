@@ -8,6 +8,7 @@
 #include "export/FrmHotSpotTexts.h"
 #include "export/HotSpotPick.h"
 #include "export/IconSurfaces.h"
+#include "forms/Bounds.h"
 #include "resource.h"
 #include "startup/FormPlacement.h"
 #include "startup/FormSize.h"
@@ -21,12 +22,9 @@ constexpr int edge = 2;  // pixels that a sunken edge takes on each side
 constexpr int leftButton = 1;
 
 // A sunken edge on the form, close around a control.
-void DrawEdgeAround(HDC dc, HWND form, HWND control) {
-  RECT bounds;
-  GetWindowRect(control, &bounds);
-  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&bounds), 2);
-  RECT frame;
-  SetRect(&frame, bounds.left - edge, bounds.top - edge, bounds.right + edge, bounds.bottom + edge);
+void DrawEdgeAround(HDC dc, HWND control) {
+  RECT frame = BoundsInParent(control);
+  InflateRect(&frame, edge, edge);
   DrawEdge(dc, &frame, BDR_SUNKENOUTER, BF_RECT);
 }
 
@@ -61,8 +59,8 @@ void FrmHotSpot::LayOutPicture() {
 }
 
 void FrmHotSpot::Form_Paint(HDC dc) {
-  DrawEdgeAround(dc, Window(), Item(FrmHotSpot_PicCursor));
-  DrawEdgeAround(dc, Window(), Item(FrmHotSpot_ImgXY));
+  DrawEdgeAround(dc, Item(FrmHotSpot_PicCursor));
+  DrawEdgeAround(dc, Item(FrmHotSpot_ImgXY));
 }
 
 bool FrmHotSpot::OnCommand(int id, int code) {

@@ -2,28 +2,15 @@
 
 #include <windows.h>
 
-#include "platform/Handles.h"
 #include "platform/Paths.h"
+#include "startup/FormSize.h"
 #include "startup/Placement.h"
 #include "startup/Skin.h"
 
 namespace tarvik::basInitEntry {
-namespace {
-
-struct DotsPerInch {
-  int across;
-  int down;
-};
-
-DotsPerInch ResolutionOf(HWND window) {
-  const WindowDc dc(window);
-  return {GetDeviceCaps(dc.get(), LOGPIXELSX), GetDeviceCaps(dc.get(), LOGPIXELSY)};
-}
-
-}  // namespace
 
 void CenterForm(Form& form) {
-  const auto [across, down] = ResolutionOf(form.Window());
+  const auto [across, down] = DotsPerInchOf(form.Window());
   RECT bounds;
   GetWindowRect(form.Window(), &bounds);
   const TwipSize screen{ToTwips(GetSystemMetrics(SM_CXSCREEN), across), ToTwips(GetSystemMetrics(SM_CYSCREEN), down)};

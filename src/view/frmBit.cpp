@@ -10,10 +10,11 @@
 #include <cstddef>
 
 #include "base/Finally.h"
-#include "platform/Handles.h"
+#include "forms/Bounds.h"
 #include "platform/Text.h"
 #include "resource.h"
 #include "startup/FormPlacement.h"
+#include "startup/FormSize.h"
 #include "startup/Placement.h"
 #include "view/ViewKeys.h"
 #include "view/ViewSize.h"
@@ -46,18 +47,9 @@ constexpr auto buttonPictures = std::to_array<ButtonPicture>({{168, 40}, {120, 3
 
 constexpr int zoomListGap = 3;  // pixels between toolbar and zoom list
 
-int DotsPerInch() {
-  const WindowDc screen(nullptr);
-  return GetDeviceCaps(screen.get(), LOGPIXELSX);
-}
-
-int ButtonPictureSide() {
-  const int dotsPerInch = DotsPerInch();
+int ButtonPictureSide(HWND view) {
+  const int dotsPerInch = DotsPerInchOf(view).across;
   return std::ranges::find_if(buttonPictures, [=](const auto& row) { return dotsPerInch >= row.minDotsPerInch; })->side;
-}
-
-SIZE SizeOf(const RECT& bounds) {
-  return {bounds.right - bounds.left, bounds.bottom - bounds.top};
 }
 
 SIZE WindowSize(HWND window) {
@@ -120,9 +112,7 @@ void frmBit::Form_Unload() {
 
 void frmBit::Form_Resize() {
   toolbar_.Resize();
-  RECT formerBar;
-  GetWindowRect(Item(frmBit_sbMain), &formerBar);
-  MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&formerBar), 2);
+  const RECT formerBar = BoundsInParent(Item(frmBit_sbMain));
   SendMessageW(Item(frmBit_sbMain), WM_SIZE, 0, 0);
   // Wine 10 keeps the picture of a status bar where the bar was when the window grows.
   RedrawWindow(Window(), &formerBar, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -221,15 +211,12 @@ void frmBit::RestartTimer() {
 }
 
 void frmBit::AttachControls() {
-  toolbar_.Attach(Item(frmBit_tlb_control), ButtonPictureSide(), buttons);
+  toolbar_.Attach(Item(frmBit_tlb_control), ButtonPictureSide(Window()), buttons);
   img_ = PictureBox(Item(frmBit_img));
   img_.Show(&enlarged_);
 
   const HWND zoomList = Item(frmBit_CboZoom);
-  RECT bounds{};
-  GetWindowRect(zoomList, &bounds);
-  MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&bounds), 2);
-  SetWindowPos(zoomList, nullptr, bounds.left, toolbar_.Extent().cy + zoomListGap, 0, 0,
+  SetWindowPos(zoomList, nullptr, BoundsInParent(zoomList).left, toolbar_.Extent().cy + zoomListGap, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -247,7 +234,7 @@ void frmBit::ApplyViewLanguage() {
 
 void frmBit::LoadViewSize() {
   const ViewSize size = ReadViewSize(settings_);
-  const int dotsPerInch = DotsPerInch();
+  const int dotsPerInch = DotsPerInchOf(Window()).across;
   SetWindowPos(Window(), nullptr, 0, 0, NearestPixels(size.width, dotsPerInch), NearestPixels(size.height, dotsPerInch),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   basInitEntry::CenterForm(*this);
@@ -271,7 +258,7 @@ void frmBit::SaveViewSize() {
   GetWindowPlacement(Window(), &placement);
   // A minimised window has no size of its own; it counts with the size that it comes back to.
   const SIZE size = IsIconic(Window()) != FALSE ? SizeOf(placement.rcNormalPosition) : WindowSize(Window());
-  const int dotsPerInch = DotsPerInch();
+  const int dotsPerInch = DotsPerInchOf(Window()).across;
   WriteViewSize(settings_,
                 {static_cast<float>(ToTwips(size.cy, dotsPerInch)), static_cast<float>(ToTwips(size.cx, dotsPerInch))});
 }

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <windows.h>
+
+namespace tarvik {
+
+// A window's rectangle in the inner pixels of its parent.
+inline RECT BoundsInParent(HWND window) {
+  RECT bounds{};
+  GetWindowRect(window, &bounds);
+  MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
+}
+
+inline SIZE SizeOf(const RECT& bounds) {
+  return {bounds.right - bounds.left, bounds.bottom - bounds.top};
+}
+
+}  // namespace tarvik
