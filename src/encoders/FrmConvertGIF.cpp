@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "base/FolderPath.h"
-#include "encoders/DialogTexts.h"
+#include "encoders/FrmConvertGIFTexts.h"
 #include "encoders/GifOptions.h"
 #include "forms/MousePointer.h"
 #include "platform/Text.h"
@@ -49,7 +49,7 @@ void FrmConvertGIF::FreeGifObj() {
 void FrmConvertGIF::Form_Load() {
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);
-  SetDialogTexts(*this, convertGifCaption, convertGifTexts, state_.CurrentLanguage);
+  SetTexts(*this, convertGifTexts, state_.CurrentLanguage);
   SetItemText(FrmConvertGIF_Label1, mode_ == DialogMode::Single ? FolderName(target_) : batchTarget);
   SetChecked(FrmConvertGIF_Option1, true);
 }

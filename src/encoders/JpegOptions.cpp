@@ -1,5 +1,7 @@
 #include "encoders/JpegOptions.h"
 
+#include "encoders/fSaveJPGTexts.h"
+
 namespace tarvik {
 namespace {
 

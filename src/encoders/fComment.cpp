@@ -1,7 +1,6 @@
 #include "encoders/fComment.h"
 
-#include "encoders/DialogTexts.h"
-#include "encoders/JpegOptions.h"
+#include "encoders/fSaveJPGTexts.h"
 #include "resource.h"
 #include "startup/FormPlacement.h"
 #include "startup/FormSize.h"
@@ -21,7 +20,7 @@ void fComment::Form_Load() {
   SizeInTwips(*this, formWidth, formHeight);
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);
-  SetDialogTexts(*this, commentCaption, commentTexts, state_.CurrentLanguage);
+  SetTexts(*this, commentTexts, state_.CurrentLanguage);
 }
 
 std::string fComment::Edit(HWND owner, const std::string& comment) {

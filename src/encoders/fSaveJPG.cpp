@@ -4,8 +4,8 @@
 
 #include <windowsx.h>
 
-#include "encoders/DialogTexts.h"
 #include "encoders/JpegOptions.h"
+#include "encoders/fSaveJPGTexts.h"
 #include "forms/MousePointer.h"
 #include "platform/Text.h"
 #include "resource.h"
@@ -45,7 +45,7 @@ void fSaveJPG::FreeObj() {
 void fSaveJPG::Form_Load() {
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);
-  SetDialogTexts(*this, saveJpgCaption, saveJpgTexts, state_.CurrentLanguage);
+  SetTexts(*this, saveJpgTexts, state_.CurrentLanguage);
   hscQuality_.Attach(Item(fSaveJPG_hscQuality));
   hscQuality_.SetRange({minQuality, maxQuality, 1, qualityPage}, 1);
   FillLists();

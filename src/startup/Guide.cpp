@@ -1,5 +1,7 @@
 #include "startup/Guide.h"
 
+#include "startup/Language.h"
+
 namespace tarvik {
 namespace {
 

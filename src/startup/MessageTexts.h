@@ -18,6 +18,31 @@ inline constexpr Text failureSuffix{" - Error", " - 错误", " - 錯誤"};
 inline constexpr Text alreadyRunningTitle{"error!", "错误!", "錯誤!"};
 inline constexpr Text alreadyRunningText{"Program is running !", "请不要重复运行程序！", "請不要重複運行程式！"};
 
+// Shown if the user's guide does not open, followed by an empty line and the path of its page: one text for a page that
+// is not there, the other for one that no program takes.
+inline constexpr Text guideMissing{"The user's guide is missing. Installing the program again brings it back.",
+                                   "找不到用户指南。重新安装本程序即可恢复。",
+                                   "找不到使用指南。重新安裝本程式即可復原。"};
+inline constexpr Text guideNotOpened{
+    "The user's guide could not be opened, because no web browser took it. Its page is here:",
+    "无法打开用户指南，因为没有可用的网页浏览器。页面位于：", "無法開啟使用指南，因為沒有可用的網頁瀏覽器。頁面位於："};
+
+// Why the program does not start: the product's name and the first sentence, an empty line, the second sentence.
+struct Refusal {
+  Text first;
+  Text second;
+};
+
+inline constexpr Refusal tooFewColors{
+    {" requires at least high color mode.", " 颜色模式需设置为真彩色.", " 顏色模式需設置為真彩色."},
+    {"Please adjust your color mode and try again.", "请在调整颜色模式后重新运行程序.",
+     "請在調整顏色模式後重新運行程式."}};
+
+inline constexpr Refusal tooSmall{{" requires a screen resolution of at least 800 x 600 pixels.",
+                                   " 显示屏分辨率需设置为800×600以上.", " 顯示幕解析度需設置為800×600以上."},
+                                  {"Please adjust your screen resolution and try again.",
+                                   "请在调整分辨率后重新运行程序.", "請在調整解析度後重新運行程式."}};
+
 // What a run-time error of a kind is called. Some are followed by a detail of the error: the name of the missing
 // function and of its library, what an unexpected exception says.
 struct RuntimeErrorText {

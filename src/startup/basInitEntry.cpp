@@ -13,22 +13,6 @@ constexpr int minHeight = 600;         // pixels
 constexpr const char* shellLibrary = "\\Shell32.dll";
 constexpr const char* scratchIcon = "Abcdwxyz.ico";
 
-// A refusal: the product's name and the first sentence, an empty line, the second sentence.
-struct Refusal {
-  Text first;
-  Text second;
-};
-
-constexpr Refusal tooFewColors{
-    {" requires at least high color mode.", " 颜色模式需设置为真彩色.", " 顏色模式需設置為真彩色."},
-    {"Please adjust your color mode and try again.", "请在调整颜色模式后重新运行程序.",
-     "請在調整顏色模式後重新運行程式."}};
-
-constexpr Refusal tooSmall{{" requires a screen resolution of at least 800 x 600 pixels.",
-                            " 显示屏分辨率需设置为800×600以上.", " 顯示幕解析度需設置為800×600以上."},
-                           {"Please adjust your screen resolution and try again.", "请在调整分辨率后重新运行程序.",
-                            "請在調整解析度後重新運行程式."}};
-
 // In an unknown language the start ends without a message (deliberate: oddities 3).
 void Refuse(const Refusal& refusal, const std::string& code, StartUpSystem& system) {
   const auto first = Pick(refusal.first, code);

@@ -31,8 +31,11 @@ inline constexpr auto viewNames = std::to_array<FormText>({
     {frmBit_img, {"Enlarged icon", "放大的图标", "放大的圖示"}},
 });
 
-// The window's caption for an enlarged picture of that size in pixels; nothing if `code` is no language. The
-// Traditional Chinese title begins with 流 (deliberate: oddities 52).
+// The window's caption. The Traditional Chinese one begins with 流 (deliberate: oddities 52).
+inline constexpr Text viewCaption{"Enhanced View - [Height=%1, Width=%2]", "浏览窗口 - [高度=%1, 宽度=%2]",
+                                  "流覽窗口 - [高度=%1, 寬度=%2]"};
+
+// The caption for an enlarged picture of that size in pixels; nothing if `code` is no language.
 std::optional<std::string> ViewCaption(int height, int width, std::string_view code);
 
 // Where an entry comes from, for the status bar: its path, " - " and its index.

@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "encoders/EncodedImages.h"
+#include "encoders/FrmConvertGIFTexts.h"
 #include "encoders/GifOptions.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
@@ -59,8 +60,10 @@ TEST_F(FrmConvertGIFTest, ShowsItsTextsInEachLanguage) {
   for (const std::string language : {"ENG", "CHS", "CHT"}) {
     state.CurrentLanguage = language;
     form.Load();
-    EXPECT_EQ(TextOf(form.Window()), *Pick(convertGifCaption, language));
-    for (const DialogText& row : convertGifTexts) EXPECT_EQ(form.ItemText(row.control), *Pick(row.text, language));
+    for (const FormText& row : convertGifTexts) {
+      const std::string shown = row.id == formCaption ? TextOf(form.Window()) : form.ItemText(row.id);
+      EXPECT_EQ(shown, *Pick(row.text, language));
+    }
     form.Unload();
   }
 }

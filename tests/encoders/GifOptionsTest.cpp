@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include "encoders/FrmConvertGIFTexts.h"
+
 namespace tarvik {
 namespace {
 
@@ -36,12 +38,12 @@ void ExpectText(const Text& text, std::string_view eng, std::string_view chs, st
   EXPECT_EQ(text.cht, cht);
 }
 
-const Text& TextOf(int control) {
-  return std::ranges::find(convertGifTexts, control, &DialogText::control)->text;
+const Text& TextOf(int id) {
+  return std::ranges::find(convertGifTexts, id, &FormText::id)->text;
 }
 
 TEST(GifOptions, NamesTheControlsInThreeLanguages) {
-  ExpectText(convertGifCaption, "Convert File To Gif", "另存为Gif", "另存為Gif");
+  ExpectText(TextOf(formCaption), "Convert File To Gif", "另存为Gif", "另存為Gif");
   ExpectText(TextOf(FrmConvertGIF_Check1), "Save &transparent", "透明", "透明");
   ExpectText(TextOf(FrmConvertGIF_Option1), "&Pallate [Best Quality]", "设计 [高质量]", "設計 [高品質]");
   ExpectText(TextOf(FrmConvertGIF_Option2), "For &Web [Normal Quality]", "Web [普通]", "Web [普通]");

@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 #include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include "encoders/fSaveJPGTexts.h"
 
 namespace tarvik {
 namespace {
@@ -74,9 +77,8 @@ void ExpectText(const Text& text, std::string_view eng, std::string_view chs, st
   EXPECT_EQ(text.cht, cht);
 }
 
-template <std::size_t size>
-const Text& TextOf(const std::array<DialogText, size>& texts, int control) {
-  return std::ranges::find(texts, control, &DialogText::control)->text;
+const Text& TextOf(std::span<const FormText> texts, int id) {
+  return std::ranges::find(texts, id, &FormText::id)->text;
 }
 
 TEST(JpegOptions, NamesThePresetsInThreeLanguages) {
@@ -88,7 +90,7 @@ TEST(JpegOptions, NamesThePresetsInThreeLanguages) {
 }
 
 TEST(JpegOptions, NamesTheControlsInThreeLanguages) {
-  ExpectText(saveJpgCaption, "JPEG Compression Settings", "JPEG 压缩选项", "JPEG 壓縮選項");
+  ExpectText(TextOf(saveJpgTexts, formCaption), "JPEG Compression Settings", "JPEG 压缩选项", "JPEG 壓縮選項");
   ExpectText(TextOf(saveJpgTexts, fSaveJPG_Label2), "Small", "小", "小");
   ExpectText(TextOf(saveJpgTexts, fSaveJPG_Label3), "Large", "大", "大");
   ExpectText(TextOf(saveJpgTexts, fSaveJPG_lblQuality), "Quality:", "品质:", "品質:");
@@ -97,7 +99,7 @@ TEST(JpegOptions, NamesTheControlsInThreeLanguages) {
   ExpectText(TextOf(saveJpgTexts, fSaveJPG_cmdComment), "Co&mment", "内容", "內容");
   ExpectText(TextOf(saveJpgTexts, fSaveJPG_cmdFinish0), "&Cancel", "取消(&C)", "取消(&C)");
   ExpectText(TextOf(saveJpgTexts, fSaveJPG_cmdFinish1), "&OK", "确定(&O)", "確定(&O)");
-  ExpectText(commentCaption, "Comment", "内容", "內容");
+  ExpectText(TextOf(commentTexts, formCaption), "Comment", "内容", "內容");
   ExpectText(TextOf(commentTexts, fComment_cmdFinish), "&OK", "确定(&O)", "確定(&O)");
 }
 

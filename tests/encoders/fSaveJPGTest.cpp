@@ -6,6 +6,7 @@
 
 #include "encoders/EncodedImages.h"
 #include "encoders/JpegOptions.h"
+#include "encoders/fSaveJPGTexts.h"
 #include "export/TestRaster.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
@@ -67,8 +68,10 @@ TEST_F(fSaveJPGTest, ShowsItsTextsInEachLanguage) {
   for (const std::string language : {"ENG", "CHS", "CHT"}) {
     state.CurrentLanguage = language;
     form.Load();
-    EXPECT_EQ(TextOf(form.Window()), *Pick(saveJpgCaption, language));
-    for (const DialogText& row : saveJpgTexts) EXPECT_EQ(form.ItemText(row.control), *Pick(row.text, language));
+    for (const FormText& row : saveJpgTexts) {
+      const std::string shown = row.id == formCaption ? TextOf(form.Window()) : form.ItemText(row.id);
+      EXPECT_EQ(shown, *Pick(row.text, language));
+    }
     for (int preset = 0; preset < 5; ++preset)
       EXPECT_EQ(testing::RowText(form.Window(), fSaveJPG_CboSize, preset),
                 *Pick(qualityPresets.at(static_cast<std::size_t>(preset)), language));

@@ -14,6 +14,7 @@
 #include "resource.h"
 #include "search/icons/FilePattern.h"
 #include "search/window/FrmFindIcon.h"
+#include "search/window/FrmFindIconTexts.h"
 #include "startup/MessageTexts.h"
 
 namespace tarvik {
@@ -27,9 +28,6 @@ constexpr int limitPage = 100;
 constexpr int FileTypeId(std::size_t box) {
   return FrmFindIcon_ChkFileType0 + static_cast<int>(box);
 }
-
-// "Driver" is deliberate: oddities 11.
-constexpr Text driveNotReady{"Driver Not Ready!", "路径无效!", "路徑無效!"};
 
 }  // namespace
 

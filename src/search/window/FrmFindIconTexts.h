@@ -60,6 +60,9 @@ inline constexpr FormText findIconTexts[] = {
     {FrmFindIcon_MnuAbout, {"&About...", "关于...", "關於..."}},
 };
 
+// For a drive that cannot be read. "Driver" is deliberate: oddities 11.
+inline constexpr Text driveNotReady{"Driver Not Ready!", "路径无效!", "路徑無效!"};
+
 // The current icon as it is read aloud in the grid: its number, its file, its index there.
 inline constexpr Text gridItemName{"Icon %1, %2, index %3", "图标 %1，%2，索引 %3", "圖示 %1，%2，索引 %3"};
 
