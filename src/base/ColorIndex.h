@@ -1,62 +1,71 @@
 #pragma once
 
-#include <array>
-#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "base/PixelView.h"
 
 namespace tarvik {
 
-// A number for each of up to 257 colours, found at once however many there are: one more than a palette holds, so
-// that a picture with too many colours can be told. A hash table of fixed size with open addressing; needs no memory
-// of its own and can be built for every picture.
+// A number for each of any colours, found in constant time. A hash table with open addressing, which starts with room
+// for more colours than a palette holds and grows.
 class ColorIndex {
  public:
-  static constexpr int capacity = 257;
-
-  // Gives `color` that number, 0 to 65534. False, and no change, when it has one. Count() must be under the capacity.
-  bool Insert(Color color, int number) {
+  // The colour's number; one that has none gets `ifNew`, 0 or more.
+  int NumberOf(Color color, int ifNew) {
     Slot& slot = slots_[SlotOf(color)];
-    if (slot.numberPlusOne != 0) return false;
-    assert(count_ < capacity);
-    slot = {color, static_cast<std::uint16_t>(number + 1)};
-    ++count_;
-    return true;
+    if (slot.numberPlusOne != 0) return static_cast<int>(slot.numberPlusOne - 1);
+    slot = {color, static_cast<std::uint32_t>(ifNew) + 1};
+    if (++count_ * 2 > slots_.size()) Grow();
+    return ifNew;
+  }
+
+  // Gives the colour that number. False, and no change, if it has one.
+  bool Insert(Color color, int number) {
+    const std::size_t before = count_;
+    NumberOf(color, number);
+    return count_ != before;
   }
 
   // The colour's number, or none.
   std::optional<int> Find(Color color) const {
     const Slot& slot = slots_[SlotOf(color)];
     if (slot.numberPlusOne == 0) return std::nullopt;
-    return slot.numberPlusOne - 1;
+    return static_cast<int>(slot.numberPlusOne - 1);
   }
 
-  int Count() const { return count_; }
+  int Count() const { return static_cast<int>(count_); }
 
  private:
   struct Slot {
     Color color = 0;
-    std::uint16_t numberPlusOne = 0;  // 0 marks a free slot
+    std::uint32_t numberPlusOne = 0;  // 0 marks a free slot
   };
 
-  // At least half of the slots stay free, so that a search always ends, and soon.
-  static constexpr unsigned slotBits = 10;
-  static constexpr std::size_t slotCount = std::size_t{1} << slotBits;
-  static_assert(slotCount / 2 >= capacity);
+  static constexpr unsigned initialBits = 10;
 
-  // The slot that holds `color`, or the free one where it belongs.
+  // The slot that holds `color`, or the free one where it belongs. At least half of the slots stay free, so that the
+  // search always ends, and soon.
   std::size_t SlotOf(Color color) const {
     constexpr std::uint32_t goldenRatio = 2654435769U;  // 2^32 divided by the golden ratio: spreads close colours
-    std::size_t slot = (color * goldenRatio) >> (32U - slotBits);
-    while (slots_[slot].numberPlusOne != 0 && slots_[slot].color != color) slot = (slot + 1) % slotCount;
+    std::size_t slot = (color * goldenRatio) >> (32U - bits_);
+    while (slots_[slot].numberPlusOne != 0 && slots_[slot].color != color) slot = (slot + 1) % slots_.size();
     return slot;
   }
 
-  std::array<Slot, slotCount> slots_{};
-  int count_ = 0;
+  void Grow() {
+    ++bits_;
+    const std::vector<Slot> former = std::exchange(slots_, std::vector<Slot>(slots_.size() * 2));
+    for (const Slot& slot : former)
+      if (slot.numberPlusOne != 0) slots_[SlotOf(slot.color)] = slot;
+  }
+
+  unsigned bits_ = initialBits;
+  std::vector<Slot> slots_ = std::vector<Slot>(std::size_t{1} << initialBits);  // always 2^bits_ of them
+  std::size_t count_ = 0;
 };
 
 }  // namespace tarvik

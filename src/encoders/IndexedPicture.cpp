@@ -5,6 +5,8 @@
 #include <span>
 #include <utility>
 
+#include "base/ColorIndex.h"
+#include "base/PixelCopy.h"
 #include "encoders/ColorReduction.h"
 
 namespace tarvik {
@@ -16,49 +18,24 @@ constexpr Color ColorOf(int red, int green, int blue) {
   return static_cast<Color>(red + 256 * green + 65536 * blue);
 }
 
-// The different colours of a picture, numbered in the order they first appear.
-class ColorNumbers {
- public:
-  // The number of the colour; a new colour gets the next one. Each call counts as one pixel.
-  std::uint32_t NumberOf(Color color) {
-    if (2 * (colors_.size() + 1) > slots_.size()) Grow();
-    std::uint32_t& slot = slots_[SlotOf(color)];
-    if (slot == empty) {
-      slot = static_cast<std::uint32_t>(colors_.size());
-      colors_.push_back({color, 0});
-    }
-    ++colors_[slot].count;
-    return slot;
-  }
-
-  const std::vector<CountedColor>& Colors() const { return colors_; }
-
- private:
-  static constexpr std::uint32_t empty = 0xFFFFFFFF;
-
-  // The slot that holds the colour's number, or the free one where it belongs.
-  std::size_t SlotOf(Color color) const {
-    constexpr std::uint32_t goldenRatio = 0x9E3779B9;  // 2^32 divided by it: spreads near colours over all slots
-    std::size_t at = (color * goldenRatio) >> shift_;
-    while (slots_[at] != empty && colors_[slots_[at]].color != color) at = (at + 1) % slots_.size();
-    return at;
-  }
-
-  void Grow() {
-    slots_.assign(slots_.size() * 2, empty);
-    --shift_;
-    for (std::uint32_t i = 0; i < colors_.size(); ++i) slots_[SlotOf(colors_[i].color)] = i;
-  }
-
-  std::vector<CountedColor> colors_;
-  std::vector<std::uint32_t> slots_ = std::vector<std::uint32_t>(1024, empty);  // always 2^(32 - shift_) of them
-  unsigned shift_ = 22;
+// The different colours of a picture in the order they first appear, and for each pixel the number of its colour.
+struct NumberedColors {
+  std::vector<CountedColor> colors;
+  std::vector<std::uint32_t> pixels;
 };
 
-std::vector<Color> PixelsOf(const PixelView& picture) {
-  std::vector<Color> pixels(static_cast<std::size_t>(picture.Width()) * static_cast<std::size_t>(picture.Height()));
-  picture.CopyPixels(pixels);
-  return pixels;
+NumberedColors NumberColors(const PixelCopy& picture) {
+  NumberedColors numbered;
+  numbered.pixels.reserve(picture.Pixels().size());
+  ColorIndex index;
+  for (const Color color : picture.Pixels()) {
+    const auto next = static_cast<int>(numbered.colors.size());
+    const int number = index.NumberOf(color, next);
+    if (number == next) numbered.colors.push_back({color, 0});
+    ++numbered.colors[static_cast<std::size_t>(number)].count;
+    numbered.pixels.push_back(static_cast<std::uint32_t>(number));
+  }
+  return numbered;
 }
 
 Reduction KeepColors(std::span<const CountedColor> colors) {
@@ -111,11 +88,8 @@ std::vector<Color> WebPalette() {
 }  // namespace
 
 IndexedPicture IndexByBestPalette(const PixelView& picture, std::optional<Color> transparent) {
-  // Each pixel's colour gives way to its number.
-  std::vector<std::uint32_t> pixels = PixelsOf(picture);
-  ColorNumbers numbers;
-  for (std::uint32_t& pixel : pixels) pixel = numbers.NumberOf(pixel);
-  const std::vector<CountedColor>& colors = numbers.Colors();
+  const NumberedColors numbered = NumberColors(PixelCopy(picture));
+  const std::vector<CountedColor>& colors = numbered.colors;
 
   std::optional<std::size_t> kept;
   if (transparent) {
@@ -125,8 +99,8 @@ IndexedPicture IndexByBestPalette(const PixelView& picture, std::optional<Color>
 
   Reduction reduction = BestPalette(colors, kept);
   IndexedPicture result{picture.Width(), picture.Height(), std::move(reduction.palette), {}, std::nullopt};
-  result.pixels.reserve(pixels.size());
-  for (const std::uint32_t number : pixels) result.pixels.push_back(reduction.indexes[number]);
+  result.pixels.reserve(numbered.pixels.size());
+  for (const std::uint32_t number : numbered.pixels) result.pixels.push_back(reduction.indexes[number]);
   if (kept) result.transparentIndex = reduction.indexes[*kept];
   return result;
 }
@@ -134,9 +108,9 @@ IndexedPicture IndexByBestPalette(const PixelView& picture, std::optional<Color>
 IndexedPicture IndexByWebPalette(const PixelView& picture, std::optional<Color> transparent) {
   IndexedPicture result{picture.Width(), picture.Height(), WebPalette(), {}, std::nullopt};
   const auto extra = static_cast<std::uint8_t>(result.palette.size());
-  const std::vector<Color> pixels = PixelsOf(picture);
-  result.pixels.reserve(pixels.size());
-  for (const Color color : pixels) {
+  const PixelCopy pixels(picture);
+  result.pixels.reserve(pixels.Pixels().size());
+  for (const Color color : pixels.Pixels()) {
     const bool seeThrough = color == transparent;
     if (seeThrough) result.transparentIndex = extra;
     result.pixels.push_back(seeThrough ? extra : static_cast<std::uint8_t>(WebIndex(color)));

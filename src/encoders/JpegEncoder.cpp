@@ -11,6 +11,7 @@
 #include <jpeglib.h>
 
 #include "base/NonCopyable.h"
+#include "base/PixelCopy.h"
 #include "base/WholeFile.h"
 
 namespace tarvik {
@@ -179,13 +180,12 @@ class Compression : NonCopyable {
 }  // namespace
 
 void JpegEncoder::TakePicture(const PixelView& picture) {
-  width_ = std::max(picture.Width(), 0);
-  height_ = std::max(picture.Height(), 0);
-  std::vector<Color> pixels(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
-  if (!pixels.empty()) picture.CopyPixels(pixels);
-  rgb_.resize(pixels.size() * bytesOfPixel);
+  const PixelCopy copy(picture);
+  width_ = copy.Width();
+  height_ = copy.Height();
+  rgb_.resize(copy.Pixels().size() * bytesOfPixel);
   auto sample = rgb_.begin();
-  for (const Color color : pixels) {
+  for (const Color color : copy.Pixels()) {
     *sample++ = RedOf(color);
     *sample++ = GreenOf(color);
     *sample++ = BlueOf(color);
