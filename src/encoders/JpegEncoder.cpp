@@ -4,7 +4,7 @@
 #include <csetjmp>
 #include <cstddef>
 #include <cstdio>
-#include <exception>
+#include <cstdlib>
 #include <span>
 #include <string_view>
 
@@ -67,23 +67,20 @@ class Compression : NonCopyable {
     errors_.error_exit = [](j_common_ptr info) { std::longjmp(Of(info).back_, 1); };
     errors_.output_message = [](j_common_ptr) {};
     info_.client_data = this;
-    destination_.init_destination = [](j_compress_ptr info) { Of(info).UseWholeChunk(); };
-    destination_.empty_output_buffer = [](j_compress_ptr info) -> boolean {
-      Of(info).Keep(chunkSize);
-      Of(info).UseWholeChunk();
-      return TRUE;
-    };
-    destination_.term_destination = [](j_compress_ptr info) {
-      Of(info).Keep(chunkSize - Of(info).destination_.free_in_buffer);
-    };
   }
-  ~Compression() { jpeg_destroy_compress(&info_); }
+  ~Compression() {
+    // A buffer that the library has put in the place of a smaller one is ours only from here on.
+    if (writesToMemory_) info_.dest->term_destination(&info_);
+    jpeg_destroy_compress(&info_);
+    std::free(file_);
+  }
 
   // True when the file is whole. Called once.
   bool Run() {
     if (setjmp(back_) != 0) return false;
     jpeg_CreateCompress(&info_, JPEG_LIB_VERSION, sizeof info_);
-    info_.dest = &destination_;
+    jpeg_mem_dest(&info_, &file_, &fileSize_);
+    writesToMemory_ = true;
     SetParameters();
     jpeg_start_compress(&info_, TRUE);
     WriteComment();
@@ -96,33 +93,12 @@ class Compression : NonCopyable {
     return true;
   }
 
-  std::span<const std::byte> File() const { return file_; }
+  std::span<const std::byte> File() const { return std::as_bytes(std::span(file_, fileSize_)); }
 
  private:
-  static constexpr std::size_t chunkSize = 4096;
-
   template <typename Info>
   static Compression& Of(Info info) {
     return *static_cast<Compression*>(info->client_data);
-  }
-
-  void UseWholeChunk() {
-    destination_.next_output_byte = chunk_.data();
-    destination_.free_in_buffer = chunk_.size();
-  }
-
-  // Appends the first bytes of the chunk to the file. No exception may pass through the library, which is C.
-  void Keep(std::size_t length) {
-    if (!Append(length)) std::longjmp(back_, 1);
-  }
-  bool Append(std::size_t length) noexcept {
-    try {
-      const auto bytes = std::as_bytes(std::span(chunk_).first(length));
-      file_.insert(file_.end(), bytes.begin(), bytes.end());
-      return true;
-    } catch (const std::exception&) {
-      return false;
-    }
   }
 
   void SetParameters() {
@@ -170,10 +146,10 @@ class Compression : NonCopyable {
   std::string_view comment_;
   jpeg_compress_struct info_{};
   jpeg_error_mgr errors_{};
-  jpeg_destination_mgr destination_{};
   std::array<jpeg_scan_info, 3> scans_{};
-  std::array<JOCTET, chunkSize> chunk_{};
-  std::vector<std::byte> file_;
+  unsigned char* file_ = nullptr;  // the library takes its memory, and it is freed here
+  unsigned long fileSize_ = 0;
+  bool writesToMemory_ = false;
   std::jmp_buf back_{};
 };
 
