@@ -64,8 +64,8 @@ FileTypeChecks WithAllFilesRule(FileTypeChecks checked) {
 std::string BuildPattern(const FileTypeChecks& checked) {
   if (checked[allFilesBox]) return std::string(allFilesPattern);
   std::string pattern;
-  for (std::size_t box = 0; box < fileTypeParts.size(); ++box) {
-    if (checked[box]) pattern += fileTypeParts[box];
+  for (std::size_t box = 0; box < allFilesBox; ++box) {
+    if (checked[box]) pattern += searchedTypes[box].part;
   }
   return pattern.empty() ? std::string(noFilesPattern) : pattern;
 }

@@ -1,21 +1,36 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
+#include "resource.h"
+
 namespace tarvik {
 
-// The file types that can be ticked, each with the part that it adds to the pattern, in the order of their
-// boxes. The last box stands for all files.
-inline constexpr std::array<std::string_view, 6> fileTypeParts{"*.ico;", "*.ani;", "*.icl;",
-                                                               "*.ocx;", "*.dll;", "*.exe;"};
-inline constexpr std::size_t allFilesBox = fileTypeParts.size();
-inline constexpr std::string_view allFilesPattern = "*.*";
+// A file type that can be ticked: its check box (an id of resource.h), and the part that it adds to the pattern.
+struct SearchedType {
+  int checkBox;
+  std::string_view part;
+};
+
+// The types in the order of their boxes. The last one stands for all files.
+inline constexpr auto searchedTypes = std::to_array<SearchedType>({
+    {FrmFindIcon_ChkFileType0, "*.ico;"},
+    {FrmFindIcon_ChkFileType1, "*.ani;"},
+    {FrmFindIcon_ChkFileType2, "*.icl;"},
+    {FrmFindIcon_ChkFileType3, "*.ocx;"},
+    {FrmFindIcon_ChkFileType4, "*.dll;"},
+    {FrmFindIcon_ChkFileType5, "*.exe;"},
+    {FrmFindIcon_ChkFileType6, "*.*"},
+});
+inline constexpr std::size_t allFilesBox = searchedTypes.size() - 1;
+inline constexpr std::string_view allFilesPattern = searchedTypes[allFilesBox].part;
 inline constexpr std::string_view noFilesPattern = "aaa.aaa";  // matches one name (deliberate: oddities 15)
 
 // Which boxes are ticked, in their order.
-using FileTypeChecks = std::array<bool, fileTypeParts.size() + 1>;
+using FileTypeChecks = std::array<bool, searchedTypes.size()>;
 
 // The boxes as they stand after one of them was clicked: "all files" ticks the others too, so none of them
 // can be unticked meanwhile (deliberate: oddities 16).

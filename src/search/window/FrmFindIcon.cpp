@@ -11,6 +11,7 @@
 #include "platform/Handles.h"
 #include "platform/Text.h"
 #include "resource.h"
+#include "search/icons/FilePattern.h"
 #include "search/window/FrmFindIconTexts.h"
 #include "search/window/IconListRows.h"
 #include "startup/FormPlacement.h"
@@ -80,7 +81,7 @@ void FrmFindIcon::Form_Load() {
   for (const GridGeometry& geometry : gridGeometries) ComboBox_AddString(sizes, ToWide(geometry.Caption).c_str());
   ComboBox_SetCurSel(sizes, initialSize);
   CboIconSize_Click();
-  SetChecked(FrmFindIcon_ChkFileType0, true);
+  SetChecked(searchedTypes.front().checkBox, true);
   file1_.SetPattern(initialPattern);
   SetStatusText(initialStatus);
   OptView_Click(0);
@@ -168,7 +169,8 @@ bool FrmFindIcon::OnCommand(int id, int code) {
       {FrmFindIcon_Drive1, FrmFindIcon_Drive1, CBN_SELCHANGE, Call<&FrmFindIcon::Drive1_Change>},
       {FrmFindIcon_Drive1, FrmFindIcon_Drive1, CBN_DROPDOWN, Call<&FrmFindIcon::Drive1_DropDown>},
       {FrmFindIcon_Dir1, FrmFindIcon_Dir1, LBN_DBLCLK, Call<&FrmFindIcon::Dir1_DblClick>},
-      {FrmFindIcon_ChkFileType0, FrmFindIcon_ChkFileType6, BN_CLICKED, Call<&FrmFindIcon::ChkFileType_Click>},
+      {searchedTypes.front().checkBox, searchedTypes.back().checkBox, BN_CLICKED,
+       Call<&FrmFindIcon::ChkFileType_Click>},
       {FrmFindIcon_CboIconSize, FrmFindIcon_CboIconSize, CBN_SELCHANGE, Call<&FrmFindIcon::CboIconSize_Click>},
       {FrmFindIcon_txtMax, FrmFindIcon_txtMax, EN_CHANGE, Call<&FrmFindIcon::txtMax_Change>},
       {FrmFindIcon_CmdFind, FrmFindIcon_CmdFind, BN_CLICKED, Call<&FrmFindIcon::CmdFind_Click>},

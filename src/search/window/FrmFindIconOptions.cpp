@@ -25,10 +25,6 @@ constexpr int minLimit = 1;
 constexpr int limitStep = 10;
 constexpr int limitPage = 100;
 
-constexpr int FileTypeId(std::size_t box) {
-  return FrmFindIcon_ChkFileType0 + static_cast<int>(box);
-}
-
 }  // namespace
 
 void FrmFindIcon::Drive1_DropDown() {
@@ -60,9 +56,9 @@ void FrmFindIcon::Dir1_DblClick() {
 
 void FrmFindIcon::ChkFileType_Click() {
   FileTypeChecks checks{};
-  for (std::size_t box = 0; box < checks.size(); ++box) checks.at(box) = IsChecked(FileTypeId(box));
+  for (std::size_t box = 0; box < checks.size(); ++box) checks.at(box) = IsChecked(searchedTypes.at(box).checkBox);
   checks = WithAllFilesRule(checks);
-  for (std::size_t box = 0; box < checks.size(); ++box) SetChecked(FileTypeId(box), checks.at(box));
+  for (std::size_t box = 0; box < checks.size(); ++box) SetChecked(searchedTypes.at(box).checkBox, checks.at(box));
   file1_.SetPattern(BuildPattern(checks));
 }
 

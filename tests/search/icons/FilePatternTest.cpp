@@ -83,6 +83,14 @@ TEST(BuildPattern, JoinsThePartsOfTheTickedBoxesInOrder) {
   EXPECT_EQ(BuildPattern({true, true, true, true, true, true, false}), "*.ico;*.ani;*.icl;*.ocx;*.dll;*.exe;");
 }
 
+TEST(BuildPattern, IsTheTypesOwnPartForOneTickedBox) {
+  for (std::size_t box = 0; box < searchedTypes.size(); ++box) {
+    FileTypeChecks checks{};
+    checks.at(box) = true;
+    EXPECT_EQ(BuildPattern(checks), searchedTypes.at(box).part);
+  }
+}
+
 TEST(BuildPattern, MatchesNothingWithNoBoxTicked) {
   EXPECT_EQ(BuildPattern({}), "aaa.aaa");
 }

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "forms/Controls.h"
+#include "search/icons/FilePattern.h"
 #include "search/window/FindIconFixture.h"
 
 namespace tarvik {
@@ -14,6 +15,11 @@ namespace {
 
 class FrmFindIconOptionsTest : public testing::FindIconFixture {
  protected:
+  void TickFileType(std::size_t type, bool ticked = true) {
+    const int box = searchedTypes.at(type).checkBox;
+    CheckDlgButton(window->Window(), box, ticked ? BST_CHECKED : BST_UNCHECKED);
+    Click(box);
+  }
   void ScrollBy(int id, int request) {
     SendMessageW(window->Window(), WM_VSCROLL, static_cast<WPARAM>(request), reinterpret_cast<LPARAM>(Item(id)));
   }
@@ -87,6 +93,39 @@ TEST_F(FrmFindIconOptionsTest, SaysInEachLanguageThatADriveIsNotReady) {
     EXPECT_EQ(boxes.Boxes().back().sign, LoadIconW(nullptr, IDI_INFORMATION));
     EXPECT_EQ(machine.patterns.back(), "*.ico");
   }
+}
+
+TEST_F(FrmFindIconOptionsTest, BuildsThePatternFromTheTickedTypes) {
+  Open();
+  TickFileType(0, false);
+  EXPECT_EQ(machine.patterns.back(), "aaa.aaa");
+  TickFileType(4);
+  TickFileType(5);
+  EXPECT_EQ(machine.patterns.back(), "*.dll;*.exe;");
+}
+
+// A box says ".dll" where its part of the pattern is "*.dll;".
+TEST_F(FrmFindIconOptionsTest, HasABoxForEachTypeThatSaysWhatItAddsToThePattern) {
+  Open();
+  TickFileType(0, false);
+  for (std::size_t type = 0; type < searchedTypes.size(); ++type) {
+    TickFileType(type);
+    EXPECT_EQ(machine.patterns.back(), searchedTypes.at(type).part);
+    const std::string shown = Text(searchedTypes.at(type).checkBox);
+    EXPECT_EQ(type == allFilesBox ? shown : "*" + shown + ";", searchedTypes.at(type).part);
+    TickFileType(type, false);
+  }
+}
+
+TEST_F(FrmFindIconOptionsTest, TicksTheOthersWithAllFiles) {
+  Open();
+  TickFileType(6);
+  for (const SearchedType& type : searchedTypes) EXPECT_TRUE(window->IsChecked(type.checkBox)) << type.part;
+  EXPECT_EQ(machine.patterns.back(), "*.*");
+  TickFileType(3, false);
+  EXPECT_TRUE(window->IsChecked(FrmFindIcon_ChkFileType3)) << "the box of all files still stands";
+  TickFileType(6, false);
+  EXPECT_EQ(machine.patterns.back(), "*.ico;*.ani;*.icl;*.ocx;*.dll;*.exe;");
 }
 
 }  // namespace

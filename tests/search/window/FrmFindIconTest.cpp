@@ -20,10 +20,6 @@ using testing::FindIconFixture;
 
 class FrmFindIconTest : public FindIconFixture {
  protected:
-  void TickFileType(int box, bool ticked = true) {
-    CheckDlgButton(window->Window(), FrmFindIcon_ChkFileType0 + box, ticked ? BST_CHECKED : BST_UNCHECKED);
-    Click(FrmFindIcon_ChkFileType0 + box);
-  }
   bool IsTicked(int id) const { return window->IsChecked(id); }
   void ChooseSize(int size) {
     SendMessageW(Item(FrmFindIcon_CboIconSize), CB_SETCURSEL, static_cast<WPARAM>(size), 0);
@@ -167,26 +163,6 @@ TEST_F(FrmFindIconTest, HasItsMenusInOrder) {
                                              "&Help",
                                              " &Contents",
                                              " &About..."}));
-}
-
-TEST_F(FrmFindIconTest, BuildsThePatternFromTheTickedTypes) {
-  Open();
-  TickFileType(0, false);
-  EXPECT_EQ(machine.patterns.back(), "aaa.aaa");
-  TickFileType(4);
-  TickFileType(5);
-  EXPECT_EQ(machine.patterns.back(), "*.dll;*.exe;");
-}
-
-TEST_F(FrmFindIconTest, TicksTheOthersWithAllFiles) {
-  Open();
-  TickFileType(6);
-  for (int box = 0; box <= 6; ++box) EXPECT_TRUE(IsTicked(FrmFindIcon_ChkFileType0 + box)) << box;
-  EXPECT_EQ(machine.patterns.back(), "*.*");
-  TickFileType(3, false);
-  EXPECT_TRUE(IsTicked(FrmFindIcon_ChkFileType3)) << "the box of all files still stands";
-  TickFileType(6, false);
-  EXPECT_EQ(machine.patterns.back(), "*.ico;*.ani;*.icl;*.ocx;*.dll;*.exe;");
 }
 
 TEST_F(FrmFindIconTest, SetsTheLimitThatGoesWithASize) {
