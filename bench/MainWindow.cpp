@@ -13,34 +13,13 @@
 #include "search/icons/IconsAhead.h"
 #include "search/icons/ShellIcons.h"
 #include "search/window/FrmFindIcon.h"
+#include "startup/MemoryIni.h"
 
 namespace tarvik::bench {
-namespace {
-
-// Settings that give the scope's folder and forget what is written.
-class FixedIni final : public IniStore {
- public:
-  explicit FixedIni(const Scope& scope) : scope_(scope) {}
-  std::string Read(const std::string&, const std::string& key, const std::string& defaultValue, int,
-                   const std::string&) override {
-    if (key == "Folder") return scope_.folder;
-    if (key == "Subdir") return scope_.subFolders ? "True" : "False";
-    return defaultValue;
-  }
-  int Write(const std::string&, const std::string&, const std::string&, const std::string&) override { return 1; }
-  int DeleteKey(const std::string&, const std::string&, const std::string&) override { return 1; }
-  int DeleteSection(const std::string&, const std::string&) override { return 1; }
-
- private:
-  Scope scope_;
-};
-
-}  // namespace
 
 struct MainWindow::Parts {
   Parts(Application& program, const Scope& scope)
       : application(program),
-        ini(scope),
         settings(ini, "C:\\tarvik.exe"),
         dialogs(application, state, [this] { return window.Window(); }),
         window(application, FrmFindIcon::Dependencies{state,
@@ -54,6 +33,8 @@ struct MainWindow::Parts {
                                                       [] {},
                                                       {dialogs, files, temporaryBitmap}}) {
     state.CurrentLanguage = "ENG";
+    ini.values["FindIcon/Folder"] = scope.folder;
+    ini.values["FindIcon/Subdir"] = scope.subFolders ? "True" : "False";
   }
 
   void Choose(int command) {
@@ -63,7 +44,7 @@ struct MainWindow::Parts {
 
   Application& application;
   ProgramState state;
-  FixedIni ini;
+  testing::MemoryIni ini;
   Settings settings;
   ShellIcons shellIcons;
   IconsAhead icons{shellIcons};

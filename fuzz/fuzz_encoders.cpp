@@ -12,6 +12,7 @@
 #include "encoders/JpegEncoder.h"
 #include "encoders/JpegOptions.h"
 #include "encoders/TestPictures.h"
+#include "export/MemorySink.h"
 
 namespace tarvik {
 namespace {
@@ -37,8 +38,8 @@ class Input {
 
 // A picture of up to 24 x 24 pixels, enough for more colours than a palette holds. Past the input's end its colours
 // repeat with a drift, so that short inputs make pictures of many colours too.
-TestPicture MakePicture(Input& input) {
-  TestPicture picture(input.Byte() % 25, input.Byte() % 25);
+TestRaster MakePicture(Input& input) {
+  TestRaster picture(input.Byte() % 25, input.Byte() % 25);
   const Color drift = input.AnyColor();
   Color color = 0;
   for (int y = 0; y < picture.Height(); ++y) {
@@ -50,11 +51,11 @@ TestPicture MakePicture(Input& input) {
   return picture;
 }
 
-void FuzzGif(const TestPicture& picture, const GifSettings& settings) {
-  TestSink sink;
+void FuzzGif(const TestRaster& picture, const GifSettings& settings) {
+  MemorySink sink;
   if (!GifEncoder(sink).WriteFile(picture, "fuzz.gif", settings)) {
     Require(picture.Width() == 0 || picture.Height() == 0, "every picture with pixels is written");
-    Require(sink.Steps().empty(), "a refused picture leaves the file alone");
+    Require(sink.steps.empty(), "a refused picture leaves the file alone");
     return;
   }
   const auto content = DecodeGif(sink.Bytes());
@@ -76,8 +77,8 @@ void FuzzGif(const TestPicture& picture, const GifSettings& settings) {
   Require(same || colors.size() > 256 || settings.palette == GifPalette::Web, "at most 256 colours are kept exactly");
 }
 
-void FuzzJpeg(const TestPicture& picture, Input& input) {
-  TestSink sink;
+void FuzzJpeg(const TestRaster& picture, Input& input) {
+  MemorySink sink;
   JpegEncoder encoder(sink);
   encoder.SetQuality(input.Byte() - 20);
   const int choice = input.Byte();
@@ -95,7 +96,7 @@ void FuzzJpeg(const TestPicture& picture, Input& input) {
   encoder.TakePicture(picture);
   if (!encoder.WriteFile("fuzz.jpg")) {
     Require(!offered || picture.Width() == 0 || picture.Height() == 0, "every picture with pixels is written");
-    Require(sink.Steps().empty(), "a refused picture leaves the file alone");
+    Require(sink.steps.empty(), "a refused picture leaves the file alone");
     return;
   }
   const auto markers = ReadJpegMarkers(sink.Bytes());
@@ -118,7 +119,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const int options = input.Byte();
   const Color other = input.AnyColor();
   Input jpegOptions = input;
-  const TestPicture picture = MakePicture(input);
+  const TestRaster picture = MakePicture(input);
   const bool hasCorner = picture.Width() > 0 && picture.Height() > 0;
   FuzzGif(picture, {.transparent = options % 2 == 1,
                     .transparentColor = hasCorner && options % 8 < 4 ? picture.Pixel(0, 0) : other,

@@ -147,11 +147,11 @@ std::optional<JpegMarkers> ReadJpegMarkers(std::span<const std::byte> file) {
   return reader.AtEnd() ? std::optional(markers) : std::nullopt;
 }
 
-std::optional<TestPicture> DecodeJpeg(std::span<const std::byte> file) {
+std::optional<TestRaster> DecodeJpeg(std::span<const std::byte> file) {
   jpeg_decompress_struct info{};
   DecodeErrors errors;
   std::vector<JSAMPLE> samples;
-  std::optional<TestPicture> picture;
+  std::optional<TestRaster> picture;
   if (DecodeInto(info, errors, file, samples)) {
     picture.emplace(static_cast<int>(info.output_width), static_cast<int>(info.output_height));
     std::size_t at = 0;

@@ -4,11 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "encoders/EncodedImages.h"
 #include "encoders/FrmConvertGIFTexts.h"
 #include "encoders/GifOptions.h"
+#include "export/MemorySink.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
 #include "platform/DiskFile.h"
@@ -143,22 +142,9 @@ int CountRedPixels(HWND control) {
   return count;
 }
 
-// Looks at the window when the file is opened, and keeps nothing.
-class WatchedFile final : public FileSink {
- public:
-  bool Open(const std::string& /*path*/, ReadOnlyFile /*readOnly*/) override {
-    onOpen();
-    return true;
-  }
-  bool Write(std::span<const std::byte> /*bytes*/) override { return true; }
-  bool Close() override { return true; }
-
-  std::function<void()> onOpen;
-};
-
 TEST_F(FrmConvertGIFTest, ShowsThatItConverts) {
   const HCURSOR hourglass = LoadCursorW(nullptr, IDC_WAIT);
-  WatchedFile file;
+  MemorySink file;
   FrmConvertGIF dialog{application, state, nullptr, {file, FileLength}};
   int conversions = 0;
   file.onOpen = [&] {

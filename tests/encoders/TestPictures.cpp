@@ -14,24 +14,24 @@ Color ColorOf(double red, double green, double blue) {
 
 }  // namespace
 
-TestPicture Gradient(int size) {
-  TestPicture picture(size, size);
+TestRaster Gradient(int size) {
+  TestRaster picture(size, size);
   const double scale = 255.0 / std::max(size - 1, 1);
   for (int y = 0; y < size; ++y)
     for (int x = 0; x < size; ++x) picture.Set(x, y, ColorOf(x * scale, y * scale, 255 - (x + y) * scale / 2));
   return picture;
 }
 
-TestPicture Noise(int size, std::uint32_t seed) {
-  TestPicture picture(size, size);
+TestRaster Noise(int size, std::uint32_t seed) {
+  TestRaster picture(size, size);
   std::mt19937 random(seed);
   for (int y = 0; y < size; ++y)
     for (int x = 0; x < size; ++x) picture.Set(x, y, static_cast<Color>(random() % 0x1000000));
   return picture;
 }
 
-TestPicture Photo(int size, std::uint32_t seed) {
-  TestPicture picture(size, size);
+TestRaster Photo(int size, std::uint32_t seed) {
+  TestRaster picture(size, size);
   std::mt19937 random(seed);
   const double phase = static_cast<double>(random() % 628) / 100;
   for (int y = 0; y < size; ++y) {
@@ -49,8 +49,8 @@ TestPicture Photo(int size, std::uint32_t seed) {
   return picture;
 }
 
-TestPicture ManyColors(int size, int colors) {
-  TestPicture picture(size, size);
+TestRaster ManyColors(int size, int colors) {
+  TestRaster picture(size, size);
   // Odd, so that multiples of it below 2^24 are all different.
   constexpr Color step = 0x3A7F1B;
   for (int y = 0; y < size; ++y)

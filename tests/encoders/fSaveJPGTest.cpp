@@ -7,6 +7,7 @@
 #include "encoders/EncodedImages.h"
 #include "encoders/JpegOptions.h"
 #include "encoders/fSaveJPGTexts.h"
+#include "export/MemorySink.h"
 #include "export/TestRaster.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
@@ -158,22 +159,11 @@ TEST_F(fSaveJPGTest, ReplacesAReadOnlyFile) {
   EXPECT_EQ(testing::ByteAt(ReadAll(path), 1), 0xD8);
 }
 
-// Notes the pointer when the file is opened, and keeps nothing.
-class PointerNoted final : public FileSink {
- public:
-  bool Open(const std::string& /*path*/, ReadOnlyFile /*readOnly*/) override {
-    seen = GetCursor();
-    return true;
-  }
-  bool Write(std::span<const std::byte> /*bytes*/) override { return true; }
-  bool Close() override { return true; }
-
-  HCURSOR seen = nullptr;
-};
-
 TEST_F(fSaveJPGTest, ShowsTheHourglassWhileItWrites) {
   const HCURSOR hourglass = LoadCursorW(nullptr, IDC_WAIT);
-  PointerNoted file;
+  MemorySink file;
+  HCURSOR seen = nullptr;
+  file.onOpen = [&seen] { seen = GetCursor(); };
   fSaveJPG dialog(application, state, nullptr, file);
   dialog.InitJpegExport(picture, path, DialogMode::Single);
   driver.On(fSaveJPG_CboSize, [&](HWND window) {
@@ -183,7 +173,7 @@ TEST_F(fSaveJPGTest, ShowsTheHourglassWhileItWrites) {
     EXPECT_EQ(GetCursor(), former);
   });
   EXPECT_EQ(dialog.ShowFor(DialogMode::Single), DialogAnswer::Ok);
-  EXPECT_EQ(file.seen, hourglass);
+  EXPECT_EQ(seen, hourglass);
 }
 
 TEST_F(fSaveJPGTest, TellsAFileThatCannotBeWritten) {

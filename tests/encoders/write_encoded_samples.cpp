@@ -12,28 +12,10 @@
 #include "encoders/GifEncoder.h"
 #include "encoders/JpegEncoder.h"
 #include "encoders/JpegOptions.h"
+#include "export/FileOnDisk.h"
 
 namespace tarvik {
 namespace {
-
-class DiskSink : public FileSink {
- public:
-  bool Open(const std::string& path, ReadOnlyFile /*readOnly*/) override {
-    file_.open(path, std::ios::binary | std::ios::trunc);
-    return file_.is_open();
-  }
-  bool Write(std::span<const std::byte> bytes) override {
-    for (const std::byte byte : bytes) file_.put(static_cast<char>(byte));
-    return file_.good();
-  }
-  bool Close() override {
-    file_.close();
-    return !file_.fail();
-  }
-
- private:
-  std::ofstream file_;
-};
 
 bool written = true;
 
@@ -55,7 +37,7 @@ void WritePpm(const std::string& path, const PixelView& picture) {
 
 // Every sampling at quality 100, greys, and the presets; one sample with a comment.
 void WriteJpegs(const std::string& start, const PixelView& picture) {
-  DiskSink sink;
+  FileOnDisk sink;
   JpegEncoder encoder(sink);
   encoder.TakePicture(picture);
   const auto write = [&](const std::string& name) {
@@ -78,7 +60,7 @@ void WriteJpegs(const std::string& start, const PixelView& picture) {
 }
 
 void WriteGifs(const std::string& start, const PixelView& picture) {
-  DiskSink sink;
+  FileOnDisk sink;
   GifEncoder encoder(sink);
   for (const bool transparent : {false, true}) {
     for (const GifPalette palette : {GifPalette::BestQuality, GifPalette::Web}) {
@@ -94,7 +76,7 @@ void WriteGifs(const std::string& start, const PixelView& picture) {
 void WriteSamples(const std::string& folder) {
   for (const int size : {16, 32, 48, 64}) {
     const std::string number = std::to_string(size);
-    const std::vector<std::pair<std::string, TestPicture>> pictures{
+    const std::vector<std::pair<std::string, TestRaster>> pictures{
         {"gradient" + number, Gradient(size)},
         {"noise" + number, Noise(size, 7)},
         {"photo" + number, Photo(size, 11)},
@@ -110,7 +92,7 @@ void WriteSamples(const std::string& folder) {
   }
   for (const int colors : {1, 2, 255, 256, 257, 4096}) {
     const std::string start = folder + "/colors" + std::to_string(colors);
-    const TestPicture picture = ManyColors(64, colors);
+    const TestRaster picture = ManyColors(64, colors);
     WritePpm(start + ".ppm", picture);
     WriteGifs(start, picture);
   }

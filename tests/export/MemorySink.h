@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <vector>
@@ -22,6 +23,7 @@ class MemorySink final : public FileSink {
     openedPath = path;
     readOnlyFile = readOnly;
     bytes.clear();
+    onOpen();
     return Step("Open");
   }
   bool Write(std::span<const std::byte> added) override {
@@ -31,10 +33,13 @@ class MemorySink final : public FileSink {
   }
   bool Close() override { return Step("Close"); }
 
+  std::span<const std::byte> Bytes() const { return std::as_bytes(std::span(bytes)); }
+
   std::vector<std::uint8_t> bytes;
-  std::vector<std::string> steps;
+  std::vector<std::string> steps;  // "Open", "Write", "Close"
   std::string openedPath;
   ReadOnlyFile readOnlyFile{};
+  std::function<void()> onOpen = [] {};
 
  private:
   bool Step(const std::string& name) {

@@ -16,6 +16,7 @@
 
 #include "base/FileSink.h"
 #include "base/WholeFile.h"
+#include "export/FileOnDisk.h"
 #include "export/ModMicroArtFileIO.h"
 #include "export/TestRaster.h"
 
@@ -24,25 +25,6 @@ namespace {
 
 using ModMicroArt::ColorClass;
 namespace IO = ModMicroArtFileIO;
-
-class FileOnDisk final : public FileSink {
- public:
-  bool Open(const std::string& path, ReadOnlyFile /*readOnly*/) override {
-    file_.open(path, std::ios::binary | std::ios::trunc);
-    return file_.is_open();
-  }
-  bool Write(std::span<const std::byte> bytes) override {
-    for (const std::byte value : bytes) file_.put(static_cast<char>(value));
-    return file_.good();
-  }
-  bool Close() override {
-    file_.close();
-    return file_.good();
-  }
-
- private:
-  std::ofstream file_;
-};
 
 constexpr std::array<Color, 16> standardColors{0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x800080,
                                                0x808000, 0xC0C0C0, 0x808080, 0x0000FF, 0x00FF00, 0x00FFFF,

@@ -8,35 +8,12 @@
 #include "search/window/ExportDialogs.h"
 #include "search/window/FrmFindIcon.h"
 #include "startup/FrmSpash.h"
+#include "startup/MemoryIni.h"
 #include "startup/RunTimeErrorBox.h"
 #include "startup/Settings.h"
 
 namespace tarvik::model {
 namespace {
-
-// A settings file in memory.
-class MadeSettings final : public IniStore {
- public:
-  explicit MadeSettings(std::map<std::string, std::string>& values) : values_(values) {}
-
-  std::string Read(const std::string& section, const std::string& key, const std::string& defaultValue,
-                   int /*capacity*/, const std::string& /*file*/) override {
-    const auto found = values_.find(section + "/" + key);
-    return found == values_.end() ? defaultValue : found->second;
-  }
-  int Write(const std::string& section, const std::string& key, const std::string& value,
-            const std::string& /*file*/) override {
-    values_[section + "/" + key] = value;
-    return 1;
-  }
-  int DeleteKey(const std::string& section, const std::string& key, const std::string& /*file*/) override {
-    return static_cast<int>(values_.erase(section + "/" + key));
-  }
-  int DeleteSection(const std::string& /*section*/, const std::string& /*file*/) override { return 0; }
-
- private:
-  std::map<std::string, std::string>& values_;
-};
 
 // The real dialogs, but for the system's own that asks for a path.
 class Dialogs final : public SaveDialogs {
@@ -73,7 +50,7 @@ struct RealProgram::Parts {
 
   Disk& disk;
   ProgramState state;
-  MadeSettings iniFile;
+  testing::MemoryIni iniFile;
   Settings settings{iniFile, "C:\\program\\tarvik.exe"};
   MadeFolders folders{disk};
   MadeFiles files;

@@ -3,13 +3,18 @@
 #include <map>
 #include <string>
 
+#include "base/NonCopyable.h"
 #include "startup/Settings.h"
 
 namespace tarvik::testing {
 
 // A settings file in memory; keys are "Section/Key".
-class MemoryIni final : public IniStore {
+class MemoryIni final : public IniStore, NonCopyable {
  public:
+  MemoryIni() : values(own_) {}
+  // Over values that outlive this object.
+  explicit MemoryIni(std::map<std::string, std::string>& shared) : values(shared) {}
+
   std::string Read(const std::string& section, const std::string& key, const std::string& defaultValue,
                    int /*capacity*/, const std::string& /*file*/) override {
     const auto found = values.find(section + "/" + key);
@@ -25,7 +30,11 @@ class MemoryIni final : public IniStore {
   }
   int DeleteSection(const std::string& /*section*/, const std::string& /*file*/) override { return 0; }
 
-  std::map<std::string, std::string> values;
+ private:
+  std::map<std::string, std::string> own_;
+
+ public:
+  std::map<std::string, std::string>& values;
 };
 
 }  // namespace tarvik::testing

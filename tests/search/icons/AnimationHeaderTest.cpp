@@ -3,30 +3,21 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <span>
 #include <string>
+
+#include "search/icons/BytesInMemory.h"
 
 namespace tarvik {
 namespace {
 
-class BytesInMemory : public ByteSource {
- public:
-  explicit BytesInMemory(std::string bytes) : bytes_(std::move(bytes)) {}
+using testing::BytesInMemory;
 
-  FileStamp Stamp() override { return {.size = bytes_.size(), .written = written}; }
-  bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
-    ++reads;
-    if (offset > bytes_.size() || bytes.size() > bytes_.size() - offset) return false;
-    const auto* from = reinterpret_cast<const std::byte*>(bytes_.data()) + offset;
-    std::copy_n(from, bytes.size(), bytes.begin());
-    return true;
-  }
-
-  int reads = 0;
-  std::uint64_t written = 0;
-
- private:
-  std::string bytes_;
-};
+// The file may be asked for more than it has: its chunks may say that there is more.
+BytesInMemory FileOf(const std::string& bytes) {
+  const auto view = std::as_bytes(std::span(bytes));
+  return BytesInMemory({view.begin(), view.end()}, BytesInMemory::Strictness::None);
+}
 
 std::string Number(std::uint32_t number) {
   std::string bytes;
@@ -65,7 +56,7 @@ std::string Animation(const std::string& chunks) {
 }
 
 int StepsOf(const std::string& bytes) {
-  BytesInMemory file(bytes);
+  BytesInMemory file = FileOf(bytes);
   return InspectAnimation(file).maxSteps;
 }
 
@@ -134,7 +125,7 @@ TEST(MaxAnimationSteps, TakesTheLargestWhereAChunkStandsTwice) {
 TEST(MaxAnimationSteps, ReadsARunOfEmptyChunksInBlocks) {
   std::string chunks;
   for (int i = 0; i < 10000; ++i) chunks += Chunk("icon", "");
-  BytesInMemory file(Animation(Header(1, 0xFFFFFFFF) + Chunk("LIST", "fram" + chunks)));
+  BytesInMemory file = FileOf(Animation(Header(1, 0xFFFFFFFF) + Chunk("LIST", "fram" + chunks)));
   EXPECT_EQ(InspectAnimation(file).maxSteps, 10000);
   EXPECT_LE(file.reads, 25) << "about 80,000 bytes in blocks of 4,096";
 }
@@ -150,7 +141,7 @@ TEST(MaxAnimationSteps, FindsNothingInAFileThatCannotBeRead) {
 }
 
 bool IsWhole(const std::string& bytes) {
-  BytesInMemory file(bytes);
+  BytesInMemory file = FileOf(bytes);
   return InspectAnimation(file).holdsWhatItSays;
 }
 
@@ -195,7 +186,7 @@ TEST(HoldsWhatItSays, IsFalseOfWhatIsNoAnimation) {
 }
 
 bool IsStillCursor(const std::string& bytes) {
-  BytesInMemory file(bytes);
+  BytesInMemory file = FileOf(bytes);
   return InspectAnimation(file).isStillCursor;
 }
 
@@ -293,7 +284,7 @@ TEST(InspectAnimation, BelievesAsManyStepsAsASearchLists) {
 
 TEST(AnimationLooks, LookThroughAFileOnceAsLongAsItStaysAsItIs) {
   AnimationLooks looks;
-  BytesInMemory file(Animation(Header(2, 2) + Pictures(2)));
+  BytesInMemory file = FileOf(Animation(Header(2, 2) + Pictures(2)));
   EXPECT_EQ(looks.Of("a.ani", file).maxSteps, 2);
   const int reads = file.reads;
   ASSERT_GT(reads, 0);
@@ -304,20 +295,20 @@ TEST(AnimationLooks, LookThroughAFileOnceAsLongAsItStaysAsItIs) {
 
 TEST(AnimationLooks, LookAgainAtAFileOfAnotherSizeOrTime) {
   AnimationLooks looks;
-  BytesInMemory former(Animation(Header(2, 2) + Pictures(2)));
+  BytesInMemory former = FileOf(Animation(Header(2, 2) + Pictures(2)));
   ASSERT_EQ(looks.Of("a.ani", former).maxSteps, 2);
-  BytesInMemory longer(Animation(Header(3, 3) + Pictures(3)));
+  BytesInMemory longer = FileOf(Animation(Header(3, 3) + Pictures(3)));
   EXPECT_EQ(looks.Of("a.ani", longer).maxSteps, 3);
-  BytesInMemory rewritten(Animation(Header(3, 1) + Pictures(3)));
+  BytesInMemory rewritten = FileOf(Animation(Header(3, 1) + Pictures(3)));
   rewritten.written = 1;
   EXPECT_EQ(looks.Of("a.ani", rewritten).maxSteps, 1);
-  BytesInMemory other(Animation(Header(3, 3) + Pictures(3)));
+  BytesInMemory other = FileOf(Animation(Header(3, 3) + Pictures(3)));
   EXPECT_EQ(looks.Of("b.ani", other).maxSteps, 3) << "another file of the same size and time";
 }
 
 TEST(AnimationLooks, ForgetWhatTheyAreToldToForget) {
   AnimationLooks looks;
-  BytesInMemory file(Animation(Header(2, 2) + Pictures(2)));
+  BytesInMemory file = FileOf(Animation(Header(2, 2) + Pictures(2)));
   looks.Of("a.ani", file);
   const int reads = file.reads;
   looks.Forget();
