@@ -4,7 +4,6 @@
 #include <string>
 
 #include "base/Finally.h"
-#include "export/IconSurfaces.h"
 #include "export/SaveCommands.h"
 #include "forms/Form.h"
 #include "forms/LiveText.h"
@@ -16,6 +15,7 @@
 #include "platform/Surface.h"
 #include "search/SearchDriver.h"
 #include "search/icons/IconList.h"
+#include "search/window/CapturedEntries.h"
 #include "search/window/FindIconDependencies.h"
 #include "search/window/ShownFolders.h"
 #include "view/frmBit.h"
@@ -23,23 +23,14 @@
 namespace tarvik {
 
 // The main window: search options, the icon grid or the icon list, and the menus from which everything else is reached.
-class FrmFindIcon final : public Form,
-                          private SearchWindow,
-                          private SelectionView,
-                          private SaveWindow,
-                          private EnhancedViewHost {
+class FrmFindIcon final : public Form, private SearchWindow, private SelectionView, private SaveWindow {
  public:
   using Dependencies = FindIconDependencies;
 
   FrmFindIcon(Application& application, Dependencies dependencies);
 
-  // Takes the icon of entry `number`, counted from 1, into the three surfaces, at the grid's icon size. False for a
-  // number outside the list, which leaves the surfaces alone, and for a file that yields no icon any more, which leaves
-  // them cleared.
-  bool RenderEntry(int number) override;
-  const IconSurfaces& Surfaces() const { return surfaces_; }
-  // The icon in PicIcon magnified by the program's Magnification, at the top-left corner of a square of MagnifiedSide.
-  const Surface& PicMain() override;
+  // The entries of the list as pictures.
+  CapturedEntries& Captured() { return captured_; }
   // The folder shown in Dir1.
   const std::string& Dir1Path() const { return dir1_.Path(); }
 
@@ -69,12 +60,9 @@ class FrmFindIcon final : public Form,
   void udMain_Change();
   void txtMax_Change();
   void CmdFind_Click();
-  void mnuStart_Click();
   void CmdOk_Click();
   void CmdClose_Click();
-  void mnuExit_Click();
   void OptView_Click(int index);
-  void mnuViewopt_Click(int index);
   void MnuContent_Click();
   void MnuAbout_Click();
   void PicIcons_DblClick();
@@ -86,7 +74,7 @@ class FrmFindIcon final : public Form,
   void mnuShowLabel_Click();
   void mnuIL_Click(int index);
 
-  // SearchWindow
+  // SearchWindow and SelectionView
   void CloseEnhancedView() override;
   void Enable(SearchControl control, bool enabled) override;
   bool chkSubDir() const override;
@@ -97,28 +85,21 @@ class FrmFindIcon final : public Form,
   void ShowInformation(const std::string& text) override;
   void ClearListView() override;
   void ListChanged() override;
+  bool NumbersByFile() const override;
   void DoEvents() override;
   Finally ShowHourglass() override;
 
-  // EnhancedViewHost, beside RenderEntry
-  int EntryCount() const override;
-  const IconListEntry* Entry(int number) const override;
-  Integer16 CurrentIndex() const override;
-  bool ViewOpen() const override;
-  void SetViewOpen(bool open) override;
-  const Surface& PicIcon() const override;
-
-  // SelectionView, where it asks for more than a search does
-  bool NumbersByFile() const override;
-
   // SaveWindow, where it asks for more than a search does
-  const PixelView& PicMask() const override { return surfaces_.Mask(); }
-  const PixelView& PicImage() const override { return surfaces_.Image(); }
+  bool RenderEntry(int number) override { return captured_.RenderEntry(number); }
+  const PixelView& PicMask() const override { return captured_.Surfaces().Mask(); }
+  const PixelView& PicImage() const override { return captured_.Surfaces().Image(); }
+  const PixelView& PicIcon() const override { return captured_.PicIcon(); }
+  const PixelView& PicMain() override { return captured_.PicMain(); }
+  bool CopyPicClip() override { return captured_.CopyPicClip(Window()); }
   std::string StatusText() const override;
   void ShowMessage(const std::string& text, MessageKind kind) override;
   Finally HoldCommands() override;
   void ServePainting() override;
-  bool CopyPicClip() override;
 
   void AttachControls();
   void LayOutLimit();
@@ -142,16 +123,14 @@ class FrmFindIcon final : public Form,
   Surface ownSurface_;
   SearchDriver driver_;
   Selection selection_;
+  CapturedEntries captured_;
   std::optional<frmBit> view_;  // from the first time it opens
-  bool viewOpen_ = false;
-  IconSurfaces surfaces_;  // PicIcon, PicMask and PicImage
   SaveCommands commands_;
   bool isSaving_ = false;  // a save or copy command runs, and the window takes no other
   Finally savesInTurn_;    // while it runs, icons are asked for in turn
   // In milliseconds: how often such a command looks for messages, and how often it serves them even if none is seen.
   Throttle looks_{40};
   Throttle serves_{1'000};
-  std::optional<Surface> picMain_;
 
   LiveText caption_;
   LiveText status_;                        // panel 1 of sbMain

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "forms/MessageBox.h"
-#include "platform/Clipboard.h"
 #include "platform/Text.h"
 #include "resource.h"
 #include "search/window/FrmFindIcon.h"
@@ -54,24 +53,6 @@ void FrmFindIcon::ServePainting() {
   if (!IsLoaded()) throw GivenUp();
   looks_.Note();
   serves_.Note();
-}
-
-bool FrmFindIcon::CopyPicClip() {
-  const Surface& mask = surfaces_.Mask();
-  Surface picClip(mask.Width(), mask.Height(), surfaceBackground);
-  picClip.Combine(mask, SRCAND);
-  picClip.Combine(surfaces_.Image(), SRCINVERT);
-  return CopyToClipboard(picClip, Window());
-}
-
-const Surface& FrmFindIcon::PicMain() {
-  const int side = dependencies_.state.MagnifiedSide;
-  const int magnified = state_.Geometry.IconSize * dependencies_.state.Magnification;
-  if (!picMain_) picMain_.emplace(side, side, surfaceBackground);
-  const Surface& icon = surfaces_.Composed();
-  SetStretchBltMode(picMain_->Dc(), COLORONCOLOR);
-  StretchBlt(picMain_->Dc(), 0, 0, magnified, magnified, icon.Dc(), 0, 0, icon.Width(), icon.Height(), SRCCOPY);
-  return *picMain_;
 }
 
 }  // namespace tarvik

@@ -68,7 +68,7 @@ void FrmFindIcon::CboIconSize_Click() {
   if (chosen < 0) return;
   state_.Geometry = gridGeometries.at(static_cast<std::size_t>(chosen));
   dependencies_.state.Magnification = (dependencies_.state.MagnifiedSide - 1) / state_.Geometry.IconSize;
-  surfaces_.Resize(state_.Geometry.IconSize);
+  captured_.Resize();
   udMain_.SetRange({0, state_.Geometry.MaxLimit - minLimit, limitStep, limitPage});
   // The upper end is the bar's upper end, so that the up arrow raises the limit.
   udMain_.SetValue(state_.Geometry.MaxLimit - state_.Geometry.DefaultLimit);
@@ -104,10 +104,6 @@ void FrmFindIcon::CmdFind_Click() {
   driver_.CmdFind_Click();
 }
 
-void FrmFindIcon::mnuStart_Click() {
-  CmdFind_Click();
-}
-
 // Stores the entry for a caller, which there is not, and closes the program (deliberate: oddities 14).
 void FrmFindIcon::CmdOk_Click() {
   // A disabled button sends nothing, but its command can come from elsewhere.
@@ -123,10 +119,6 @@ void FrmFindIcon::CmdClose_Click() {
   if (Form_QueryUnload()) Unload();
 }
 
-void FrmFindIcon::mnuExit_Click() {
-  CmdClose_Click();
-}
-
 void FrmFindIcon::OptView_Click(int index) {
   const bool list = index == 1;
   SetChecked(FrmFindIcon_OptView0, !list);
@@ -135,10 +127,6 @@ void FrmFindIcon::OptView_Click(int index) {
   SetChecked(FrmFindIcon_mnuViewopt1, list);
   grid_.Show(!list);
   ShowItem(FrmFindIcon_Lv, list);
-}
-
-void FrmFindIcon::mnuViewopt_Click(int index) {
-  OptView_Click(index);
 }
 
 // A handler like the others, whatever it leaves alone. NOLINTNEXTLINE(readability-make-member-function-const)

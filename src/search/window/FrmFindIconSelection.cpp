@@ -72,10 +72,11 @@ void FrmFindIcon::mnuIL_Click(int index) {
   selection_.ShowCurrentLabel();
 }
 
-bool FrmFindIcon::RenderEntry(int number) {
-  if (!list_.Has(number)) return false;
-  ModMicroArt::CaptureEntry(dependencies_.icons, list_.Item(number), state_.Geometry.IconSize, surfaces_.Clear());
-  return true;
+// The release of the same click came before, so the current entry is the icon under the pointer.
+void FrmFindIcon::PicIcons_DblClick() {
+  if (state_.IsSearching) return;
+  if (!view_) view_.emplace(TheApplication(), captured_, dependencies_.state, dependencies_.settings);
+  view_->ShowSelectedEntry(Window());
 }
 
 // The entry in the current frame.

@@ -147,8 +147,8 @@ TEST_F(FrmFindIconAheadTest, ABatchOnlyLooksForChangesWhereNoMessageWaits) {
 TEST_F(FrmFindIconAheadTest, TheEnhancedViewReadsNothingAhead) {
   Find(3);
   StartWatching();
-  window->RenderEntry(1);
-  window->RenderEntry(2);
+  window->Captured().RenderEntry(1);
+  window->Captured().RenderEntry(2);
   EXPECT_THAT(icons.script, ElementsAre("take 0", "take 1"));
 }
 

@@ -282,8 +282,8 @@ TEST_F(FrmFindIconExportTest, CopiesMaskAndImageComposed) {
   Click(FrmFindIcon_mnuCopy);
   const std::vector<Color> pasted = testing::Paste().pixels;
   ASSERT_EQ(pasted.size(), 32U * 32U);
-  const Surface& mask = window->Surfaces().Mask();
-  const Surface& image = window->Surfaces().Image();
+  const Surface& mask = window->Captured().Surfaces().Mask();
+  const Surface& image = window->Captured().Surfaces().Image();
   for (int y = 0; y < 32; ++y) {
     for (int x = 0; x < 32; ++x) {
       const Color expected = (white & mask.Pixel(x, y)) ^ image.Pixel(x, y);

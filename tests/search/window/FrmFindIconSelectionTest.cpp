@@ -244,21 +244,21 @@ TEST_F(FrmFindIconSelectionTest, ShowsAndNumbersLabelsInAllFromTheStart) {
 
 TEST_F(FrmFindIconSelectionTest, RendersAnEntryIntoTheSurfaces) {
   Open20();
-  EXPECT_TRUE(window->RenderEntry(4));
-  EXPECT_EQ(window->Surfaces().Composed().Pixel(31, 31), testing::SmallMachine::ColorOf(3));
-  EXPECT_EQ(window->Surfaces().Mask().Pixel(0, 0), black);
-  EXPECT_FALSE(window->RenderEntry(0));
-  EXPECT_FALSE(window->RenderEntry(21));
-  EXPECT_EQ(window->Surfaces().Composed().Pixel(31, 31), testing::SmallMachine::ColorOf(3));
+  EXPECT_TRUE(window->Captured().RenderEntry(4));
+  EXPECT_EQ(window->Captured().Surfaces().Composed().Pixel(31, 31), testing::SmallMachine::ColorOf(3));
+  EXPECT_EQ(window->Captured().Surfaces().Mask().Pixel(0, 0), black);
+  EXPECT_FALSE(window->Captured().RenderEntry(0));
+  EXPECT_FALSE(window->Captured().RenderEntry(21));
+  EXPECT_EQ(window->Captured().Surfaces().Composed().Pixel(31, 31), testing::SmallMachine::ColorOf(3));
 }
 
 TEST_F(FrmFindIconSelectionTest, LeavesTheSurfacesClearedForAFileThatIsGone) {
   Open20();
-  EXPECT_TRUE(window->RenderEntry(4));
+  EXPECT_TRUE(window->Captured().RenderEntry(4));
   machine.icons.clear();
-  EXPECT_TRUE(window->RenderEntry(4));
-  EXPECT_EQ(window->Surfaces().Composed().Pixel(0, 0), surfaceBackground);
-  EXPECT_EQ(window->Surfaces().Mask().Pixel(0, 0), surfaceBackground);
+  EXPECT_TRUE(window->Captured().RenderEntry(4));
+  EXPECT_EQ(window->Captured().Surfaces().Composed().Pixel(0, 0), surfaceBackground);
+  EXPECT_EQ(window->Captured().Surfaces().Mask().Pixel(0, 0), surfaceBackground);
 }
 
 }  // namespace

@@ -192,8 +192,8 @@ TEST_F(FrmFindIconTest, MagnifiesEachSizeToTheSameSquare) {
   for (const Row& row : {Row{0, 24}, {1, 12}, {2, 8}, {3, 6}}) {
     ChooseSize(row.size);
     EXPECT_EQ(state.Magnification, row.magnification);
-    EXPECT_TRUE(window->RenderEntry(2));
-    const Surface& magnified = window->PicMain();
+    EXPECT_TRUE(window->Captured().RenderEntry(2));
+    const Surface& magnified = window->Captured().PicMain();
     EXPECT_EQ(magnified.Width(), 385);
     EXPECT_EQ(magnified.Height(), 385);
     EXPECT_EQ(magnified.Pixel(383, 383), testing::SmallMachine::ColorOf(1));
@@ -208,9 +208,9 @@ TEST_F(FrmFindIconTest, AppliesTheSizeChosenAfterASearchToClicksAndCapturesAtOnc
   EXPECT_EQ(GridPixel(3, 41), testing::SmallMachine::ColorOf(15)) << "the grid stays as it was drawn";
   ReleaseOnGrid(3 + 2 * 70, 10);
   EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 3 Selected.");
-  EXPECT_TRUE(window->RenderEntry(3));
-  ASSERT_EQ(window->Surfaces().Composed().Width(), 64);
-  EXPECT_EQ(window->Surfaces().Composed().Pixel(63, 63), testing::SmallMachine::ColorOf(2));
+  EXPECT_TRUE(window->Captured().RenderEntry(3));
+  ASSERT_EQ(window->Captured().Surfaces().Composed().Width(), 64);
+  EXPECT_EQ(window->Captured().Surfaces().Composed().Pixel(63, 63), testing::SmallMachine::ColorOf(2));
 }
 
 TEST_F(FrmFindIconTest, ListsWhatASearchFound) {
