@@ -4,17 +4,11 @@
 
 #include <windowsx.h>
 
+#include "forms/Bounds.h"
 #include "platform/Handles.h"
 
 namespace tarvik {
 namespace {
-
-RECT BoundsInParent(HWND window) {
-  RECT bounds;
-  GetWindowRect(window, &bounds);
-  MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&bounds), 2);
-  return bounds;
-}
 
 bool IsOver(POINT pointer, HWND window) {
   RECT bounds;

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/FolderPath.h"
+#include "forms/Bounds.h"
 #include "platform/Handles.h"
 #include "platform/Text.h"
 #include "resource.h"
@@ -30,13 +31,6 @@ constexpr const char* subDirKey = "Subdir";
 
 // A step of an animation is tried out at (50, 50) of the window's own surface, at the grid's icon size.
 constexpr int ownSurfaceSide = 50 + 64;
-
-RECT BoundsOf(HWND form, HWND item) {
-  RECT bounds;
-  GetWindowRect(item, &bounds);
-  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&bounds), 2);
-  return bounds;
-}
 
 void Move(HWND item, int left, int top, int width, int height) {
   SetWindowPos(item, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
@@ -119,12 +113,12 @@ void FrmFindIcon::AttachControls() {
 // are as wide as their texts: a label that reached under the box would wipe it when it is drawn alone.
 void FrmFindIcon::LayOutLimit() {
   const HWND label = Item(FrmFindIcon_SkinLabel1);
-  const RECT bounds = BoundsOf(Window(), label);
+  const RECT bounds = BoundsInParent(label);
   const int space = bounds.bottom - bounds.top;
   Move(label, bounds.left, bounds.top, TextWidth(label), bounds.bottom - bounds.top);
-  const int shift = bounds.left + TextWidth(label) + space / 2 - BoundsOf(Window(), Item(FrmFindIcon_txtMax)).left;
+  const int shift = bounds.left + TextWidth(label) + space / 2 - BoundsInParent(Item(FrmFindIcon_txtMax)).left;
   for (const int id : {FrmFindIcon_txtMax, FrmFindIcon_udMain, FrmFindIcon_SkinLabel2}) {
-    const RECT former = BoundsOf(Window(), Item(id));
+    const RECT former = BoundsInParent(Item(id));
     const int width = id == FrmFindIcon_SkinLabel2 ? TextWidth(Item(id)) : former.right - former.left;
     Move(Item(id), former.left + shift, former.top, width, former.bottom - former.top);
   }
