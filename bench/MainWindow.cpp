@@ -9,6 +9,7 @@
 #include "platform/DiskFile.h"
 #include "platform/Paths.h"
 #include "resource.h"
+#include "search/icons/FilePattern.h"
 #include "search/icons/Folders.h"
 #include "search/icons/IconsAhead.h"
 #include "search/icons/ShellIcons.h"
@@ -60,12 +61,12 @@ MainWindow::MainWindow(Application& application, const Scope& scope)
   FrmFindIcon& window = parts_->window;
   window.Show();
   window.SetItemText(FrmFindIcon_txtMax, "4000");
-  constexpr int allFiles = 6;
-  const int type = scope.pattern == "*.dll" ? 4 : scope.pattern == "*.*" ? allFiles : 0;
-  for (int box = 0; box <= allFiles; ++box) {
-    CheckDlgButton(window.Window(), FrmFindIcon_ChkFileType0 + box, box == type ? BST_CHECKED : BST_UNCHECKED);
-  }
-  parts_->Choose(FrmFindIcon_ChkFileType0 + type);
+  int chosen = searchedTypes.front().checkBox;
+  for (const SearchedType& type : searchedTypes)
+    if (type.part.starts_with(scope.pattern)) chosen = type.checkBox;
+  for (const SearchedType& type : searchedTypes)
+    CheckDlgButton(window.Window(), type.checkBox, type.checkBox == chosen ? BST_CHECKED : BST_UNCHECKED);
+  parts_->Choose(chosen);
 }
 
 MainWindow::~MainWindow() {

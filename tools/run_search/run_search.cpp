@@ -27,6 +27,7 @@
 #include "platform/Paths.h"
 #include "platform/Text.h"
 #include "resource.h"
+#include "search/icons/FilePattern.h"
 
 namespace tarvik::end_to_end {
 namespace {
@@ -56,9 +57,9 @@ void WriteSettings(const Program& program, const std::string& folder) {
 
 void TickFileTypes(const Program& program) {
   constexpr std::array wanted{FrmFindIcon_ChkFileType0, FrmFindIcon_ChkFileType4, FrmFindIcon_ChkFileType5};
-  for (int id = FrmFindIcon_ChkFileType0; id <= FrmFindIcon_ChkFileType6; ++id) {
-    const Control box = program.Item(id);
-    if (box.IsChecked() != (std::ranges::find(wanted, id) != wanted.end())) box.Send(BM_CLICK);
+  for (const SearchedType& type : searchedTypes) {
+    const Control box = program.Item(type.checkBox);
+    if (box.IsChecked() != (std::ranges::find(wanted, type.checkBox) != wanted.end())) box.Send(BM_CLICK);
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
@@ -26,6 +27,12 @@ inline constexpr auto searchedTypes = std::to_array<SearchedType>({
     {FrmFindIcon_ChkFileType6, "*.*"},
 });
 inline constexpr std::size_t allFilesBox = searchedTypes.size() - 1;
+
+// The lowest and the highest id of their boxes. No other control's is between them.
+inline constexpr int minTypeBox = std::ranges::min(searchedTypes, {}, &SearchedType::checkBox).checkBox;
+inline constexpr int maxTypeBox = std::ranges::max(searchedTypes, {}, &SearchedType::checkBox).checkBox;
+static_assert(maxTypeBox - minTypeBox + 1 == static_cast<int>(searchedTypes.size()));
+
 inline constexpr std::string_view allFilesPattern = searchedTypes[allFilesBox].part;
 inline constexpr std::string_view noFilesPattern = "aaa.aaa";  // matches one name (deliberate: oddities 15)
 
