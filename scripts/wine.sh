@@ -91,14 +91,19 @@ stay_on_desktop() {
 }
 
 # open_desktop: opens it before the first program does, whose output it would hold open, so that whoever reads that output
-# would wait for the desktop's end.
+# would wait for the desktop's end. On a busy machine the program that opens it at times ends without having done so, and is
+# started again.
 open_desktop() {
-  wine explorer "/desktop=Default,$display_size" >/dev/null 2>&1 </dev/null 9>&- &
-  for _ in $(seq 1200); do
-    if xwininfo -root -tree 2>/dev/null 9>&- | grep -qi 'wine desktop'; then return 0; fi
-    sleep 0.1
+  local windows=
+  for _ in $(seq 4); do
+    wine explorer "/desktop=Default,$display_size" >/dev/null 2>&1 </dev/null 9>&- &
+    for _ in $(seq 300); do
+      windows=$(xwininfo -root -tree 2>/dev/null 9>&- || true)
+      if grep -qi 'wine desktop' <<<"$windows"; then return 0; fi
+      sleep 0.1
+    done
   done
-  fail "the desktop does not open"
+  fail "the desktop does not open; the display shows: $windows"
 }
 
 # choose_desktop DESKTOP: Wine reads the choice only when it starts, so it is made before, and rarely. In what Wine keeps,
