@@ -66,8 +66,8 @@ LangString RightsFailed ${LANG_ENGLISH} "Users could not be given the right to k
 LangString RightsFailed ${LANG_SIMPCHINESE} "无法授予用户保存设置的权限。程序仍可运行。"
 LangString RightsFailed ${LANG_TRADCHINESE} "無法授予使用者儲存設定的權限。程式仍可執行。"
 LangString CopyFailed ${LANG_ENGLISH} "The files could not be written. Close ${PRODUCT} and try again."
-LangString CopyFailed ${LANG_SIMPCHINESE} "无法写入文件。请关闭本程序后重试。"
-LangString CopyFailed ${LANG_TRADCHINESE} "無法寫入檔案。請關閉本程式後重試。"
+LangString CopyFailed ${LANG_SIMPCHINESE} "无法写入文件。请先关闭 ${PRODUCT}，然后重试。"
+LangString CopyFailed ${LANG_TRADCHINESE} "無法寫入檔案。請先關閉 ${PRODUCT}，然後重試。"
 
 ; Gives ordinary users rights on one object, beside those that it has from above, and on nothing below it.
 !macro GrantUsers NAME KIND RIGHTS
