@@ -9,6 +9,7 @@
 
 #include "forms/ControlNames.h"
 #include "forms/MousePointer.h"
+#include "platform/DroppedFiles.h"
 #include "platform/Text.h"
 #include "resource.h"
 
@@ -175,6 +176,12 @@ void Form::OnHelp() {
 bool Form::OnContextMenu(HWND /*control*/, std::optional<POINT> /*point*/) {
   return false;
 }
+void Form::OnDrop(const std::string& /*path*/) {}
+
+// What the shell's DragAcceptFiles does, without loading the shell at the start.
+void Form::AcceptDrops() const {
+  SetWindowLongPtrW(window_, GWL_EXSTYLE, GetWindowLongPtrW(window_, GWL_EXSTYLE) | WS_EX_ACCEPTFILES);
+}
 
 // The boundary of every handler: what it throws goes no further, neither through the system nor out of the message
 // loop. An exception of the processor, as for memory that is not there, is no std::exception and ends the program.
@@ -245,6 +252,9 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return Answer(TRUE);
     case WM_CONTEXTMENU:
       return OnContextMenu(reinterpret_cast<HWND>(wParam), PointOf(lParam)) ? Answer(0) : FALSE;
+    case WM_DROPFILES:
+      OnDrop(TakeFirstDropped(reinterpret_cast<HDROP>(wParam)));
+      return TRUE;
     case WM_SETCURSOR:
       return MaintainHourglass() ? Answer(TRUE) : FALSE;
     case WM_PAINT:

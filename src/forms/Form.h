@@ -124,6 +124,9 @@ class Form : NonCopyable {
   // A right click on a control, Shift+F10 or the menu key, at a point of the screen; none if a key asked. False leaves
   // it to the system.
   virtual bool OnContextMenu(HWND control, std::optional<POINT> point);
+  // Files or folders were dropped on the window; the path of the first one, UTF-8. AcceptDrops asks for that.
+  virtual void OnDrop(const std::string& path);
+  void AcceptDrops() const;
 
   template <typename Window>
   static bool Dispatch(Window& window, std::span<const Event<Window>> events, int id, int code) {

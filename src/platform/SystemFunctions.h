@@ -36,6 +36,8 @@ inline constinit const LateFunction<decltype(&::SysAllocStringLen)> SysAllocStri
                                                                                       "SysAllocStringLen");
 inline constinit const LateFunction<decltype(&::VariantClear)> VariantClear("oleaut32.dll", "VariantClear");
 
+inline constinit const LateFunction<decltype(&::DragFinish)> DragFinish("shell32.dll", "DragFinish");
+inline constinit const LateFunction<decltype(&::DragQueryFileW)> DragQueryFileW("shell32.dll", "DragQueryFileW");
 inline constinit const LateFunction<decltype(&::ExtractIconExA)> ExtractIconExA("shell32.dll", "ExtractIconExA");
 inline constinit const LateFunction<decltype(&::ShellExecuteW)> ShellExecuteW("shell32.dll", "ShellExecuteW");
 // NOLINTEND(readability-identifier-naming)

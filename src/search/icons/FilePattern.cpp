@@ -61,6 +61,12 @@ FileTypeChecks WithAllFilesRule(FileTypeChecks checked) {
   return checked;
 }
 
+std::size_t FileTypeBoxOf(std::string_view name) {
+  const auto* type = std::ranges::find_if(
+      searchedTypes, [name](const SearchedType& searched) { return MatchesPattern(name, searched.part); });
+  return static_cast<std::size_t>(type - searchedTypes.begin());
+}
+
 std::string BuildPattern(const FileTypeChecks& checked) {
   if (checked[allFilesBox]) return std::string(allFilesPattern);
   std::string pattern;

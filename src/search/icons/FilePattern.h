@@ -43,6 +43,9 @@ using FileTypeChecks = std::array<bool, searchedTypes.size()>;
 // can be unticked meanwhile (deliberate: oddities 16).
 FileTypeChecks WithAllFilesRule(FileTypeChecks checked);
 
+// The box of the type that a file of that name has; that of all files if it has none of the others.
+std::size_t FileTypeBoxOf(std::string_view name);
+
 // The pattern of the ticked boxes: "*.*" with "all files", the parts one after the other otherwise
 // ("*.dll;*.exe;"), and "aaa.aaa" where none is ticked.
 std::string BuildPattern(const FileTypeChecks& checked);

@@ -193,6 +193,13 @@ bool IsReadableFolder(const std::string& path) {
   return GetLastError() == ERROR_FILE_NOT_FOUND;
 }
 
+bool IsFolder(const std::string& path) {
+  if (FolderChain(path).size() < 2) return true;
+  const NoDriveMessages quiet;
+  const DWORD attributes = GetFileAttributesW(LiteralPath(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 std::string Drive::Display() const {
   const std::string name = {letter, ':'};
   return label.empty() ? name : name + " [" + label + "]";

@@ -44,6 +44,9 @@ class Folders final : public FolderReader {
 // True for a folder that exists and whose content this user may see. The path may stand in any form Windows takes.
 bool IsReadableFolder(const std::string& path);
 
+// True for a folder that exists, whether or not its content may be seen, and for every root. The path is from a root.
+bool IsFolder(const std::string& path);
+
 // A drive of this machine.
 struct Drive {
   char letter = 'c';  // lower case

@@ -7,6 +7,7 @@
 #include "export/SaveCommands.h"
 #include "forms/FolderLists.h"
 #include "search/icons/FolderReader.h"
+#include "search/icons/Folders.h"
 #include "search/icons/IconSource.h"
 #include "startup/ProgramState.h"
 #include "startup/Settings.h"
@@ -25,6 +26,7 @@ struct FindIconDependencies {
   std::function<void()> showAbout;  // returns when the About box is closed
   std::function<void()> openGuide;
   SaveCommands::Dependencies saving;
+  std::function<bool(const std::string& path)> isFolder = IsFolder;
 };
 
 }  // namespace tarvik

@@ -66,6 +66,7 @@ FrmFindIcon::FrmFindIcon(Application& application, Dependencies dependencies)
 void FrmFindIcon::Form_Load() {
   SetTexts(*this, findIconTexts, dependencies_.state.CurrentLanguage);
   AttachControls();
+  AcceptDrops();
   LayOutLimit();
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);

@@ -49,6 +49,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void OnDrawItem(const DRAWITEMSTRUCT& item) override;
   void OnHelp() override;
   bool OnContextMenu(HWND control, std::optional<POINT> point) override;
+  void OnDrop(const std::string& path) override;
 
   // Handlers
   void Drive1_Change();
@@ -103,6 +104,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
 
   void AttachControls();
   void LayOutLimit();
+  void TickType(std::size_t box);
   void LoadSettings();
   void SaveSettings();
   void UpdateSaveMenus();

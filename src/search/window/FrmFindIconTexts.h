@@ -63,6 +63,10 @@ inline constexpr FormText findIconTexts[] = {
 // For a drive that cannot be read. "Driver" is deliberate: oddities 11.
 inline constexpr Text driveNotReady{"Driver Not Ready!", "路径无效!", "路徑無效!"};
 
+// For a folder that was dropped on the window and cannot be read.
+inline constexpr Text folderNotReadable{"The folder cannot be read:\r\n%1", "无法读取文件夹：\r\n%1",
+                                        "無法讀取資料夾：\r\n%1"};
+
 // The current icon as it is read aloud in the grid: its number, its file, its index there.
 inline constexpr Text gridItemName{"Icon %1, %2, index %3", "图标 %1，%2，索引 %3", "圖示 %1，%2，索引 %3"};
 

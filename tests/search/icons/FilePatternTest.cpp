@@ -56,6 +56,17 @@ TEST(MatchesPattern, MatchesAnyPartAndPassesOverEmptyOnes) {
               {"a", "", false}});
 }
 
+TEST(FileTypeBoxOf, IsTheBoxOfTheNamesTypeOrThatOfAllFiles) {
+  EXPECT_EQ(FileTypeBoxOf("a.ico"), 0U);
+  EXPECT_EQ(FileTypeBoxOf("a.b.ANI"), 1U);
+  EXPECT_EQ(FileTypeBoxOf(".icl"), 2U);
+  EXPECT_EQ(FileTypeBoxOf("a.Ocx"), 3U);
+  EXPECT_EQ(FileTypeBoxOf("图标.dll"), 4U);
+  EXPECT_EQ(FileTypeBoxOf("a.exe"), 5U);
+  for (const std::string name : {"a.txt", "exe", "a.exe.bak", "a.icon", ""})
+    EXPECT_EQ(FileTypeBoxOf(name), allFilesBox);
+}
+
 TEST(MatchesPattern, MatchesEveryNameWithStarDotStar) {
   ExpectRows({{"a.b", "*.*", true}, {"README", "*.*", true}, {"README", "*.ico;*.*", true}, {"README", "*.*x", false}});
 }

@@ -214,6 +214,18 @@ TEST(Folders, TakesWhatCannotBeReadAsEmpty) {
   }
 }
 
+TEST(Folders, AreToldFromFiles) {
+  TemporaryFolder folder;
+  folder.MakeFolder("real");
+  folder.MakeFile("file.ico");
+  EXPECT_TRUE(IsFolder(folder.Path()));
+  EXPECT_TRUE(IsFolder(folder.In("real")));
+  EXPECT_TRUE(IsFolder(folder.MakeLink("link", folder.In("real"))));
+  EXPECT_FALSE(IsFolder(folder.In("file.ico")));
+  EXPECT_FALSE(IsFolder(folder.In("missing")));
+  for (const char* root : {R"(C:\)", R"(Y:\)", R"(\\nowhere\share)"}) EXPECT_TRUE(IsFolder(root)) << root;
+}
+
 TEST(Folders, JoinsTheRootOfADriveWithOneBackslash) {
   const Names folders = Folders().SubFolders(R"(C:\)");
   const auto isWindows = [](const std::string& path) {

@@ -42,7 +42,7 @@ class SquareIcon final : public ExtractedIcon {
   Color color_;
 };
 
-// A machine of a few folders: each file holds as many icons as the map says.
+// A machine of a few folders: each file holds as many icons as the map says. Files have a dot in their names.
 class SmallMachine final : public IconSource, public FolderReader {
  public:
   static Color ColorOf(int index) { return 0x010203U * static_cast<Color>(index % 60 + 1); }
@@ -112,16 +112,18 @@ class FindIconFixture : public ::testing::Test {
   void OpenOver(IconSource& icons, FolderReader& folders, const std::string& language = "ENG") {
     state.CurrentLanguage = language;
     window = std::make_unique<FrmFindIcon>(
-        application, FrmFindIcon::Dependencies{state,
-                                               settings,
-                                               icons,
-                                               folders,
-                                               [this] { return drives; },
-                                               [](const std::string& folder) { return !folder.starts_with("D:"); },
-                                               "C:\\program",
-                                               [this] { ++aboutShown; },
-                                               [this] { ++guideShown; },
-                                               {dialogs, files, temporaryBitmap}});
+        application,
+        FrmFindIcon::Dependencies{state,
+                                  settings,
+                                  icons,
+                                  folders,
+                                  [this] { return drives; },
+                                  [](const std::string& folder) { return !folder.starts_with("D:"); },
+                                  "C:\\program",
+                                  [this] { ++aboutShown; },
+                                  [this] { ++guideShown; },
+                                  {dialogs, files, temporaryBitmap},
+                                  [](const std::string& path) { return path.find('.') == std::string::npos; }});
     window->Show();
     application.DoEvents();
   }

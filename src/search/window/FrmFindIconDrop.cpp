@@ -1,0 +1,37 @@
+// What is dropped on the main window: a folder to search, or a file whose folder is searched.
+
+#include <windows.h>
+
+#include "base/FolderPath.h"
+#include "forms/MessageBox.h"
+#include "search/icons/FilePattern.h"
+#include "search/window/FrmFindIcon.h"
+#include "search/window/FrmFindIconTexts.h"
+#include "startup/MessageTexts.h"
+
+namespace tarvik {
+
+// Refused like every command while a search or a save runs, and while a dialog is over the window.
+void FrmFindIcon::OnDrop(const std::string& path) {
+  if (path.empty() || state_.IsSearching || isSaving_ || IsWindowEnabled(Window()) == FALSE) return;
+  const std::string dropped = TidyFolderPath(path);
+  const bool isFolder = dependencies_.isFolder(dropped);
+  const std::string folder = isFolder ? dropped : ParentFolder(dropped);
+  if (!dependencies_.isReadableFolder(folder)) {
+    const std::string& language = dependencies_.state.CurrentLanguage;
+    const auto text = Compose(folderNotReadable, language, {folder});
+    if (text) tarvik::ShowMessage(Window(), *text, FailureTitle(language), MessageSign::Exclamation);
+    return;
+  }
+  dir1_.SetPath(folder);
+  if (!isFolder) TickType(FileTypeBoxOf(FolderName(dropped)));
+  Reread();  // the drive or the file may be newer than the lists
+  drive1_.ChooseDriveOf(folder);
+}
+
+void FrmFindIcon::TickType(std::size_t box) {
+  SetChecked(searchedTypes.at(box).checkBox, true);
+  ChkFileType_Click();
+}
+
+}  // namespace tarvik
