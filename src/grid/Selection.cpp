@@ -16,9 +16,18 @@ Selection::Selection(SelectionView& view, GridView& grid, IconList& list, Search
 
 // Any button will do, and only Ctrl alone is Ctrl (deliberate: oddities 28).
 void Selection::PicIcons_MouseUp(int heldKeys, double x, double y) {
-  if (state_.IsSearching) return;
+  if (const auto cell = AnsweringCellAt(x, y)) Choose(*cell, heldKeys == ctrlAlone);
+}
+
+std::optional<int> Selection::EntryAt(double x, double y) const {
+  const auto cell = AnsweringCellAt(x, y);
+  return cell ? std::optional(cell->index + 1) : std::nullopt;
+}
+
+std::optional<HitCell> Selection::AnsweringCellAt(double x, double y) const {
+  if (state_.IsSearching) return std::nullopt;
   const auto cell = CellAt(state_.Geometry, x, y, grid_.InnerHeight());
-  if (cell && Answers(cell->index)) Choose(*cell, heldKeys == ctrlAlone);
+  return cell && Answers(cell->index) ? cell : std::nullopt;
 }
 
 void Selection::ChooseRow(int number, int heldKeys) {

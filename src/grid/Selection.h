@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "grid/GridView.h"
@@ -42,6 +43,9 @@ class Selection {
   // leaves the clicked entry selected alone; with Ctrl it adds the entry or takes it out.
   void PicIcons_MouseUp(int heldKeys, double x, double y);
 
+  // The number of the entry that a click there chooses; nothing if it chooses none.
+  std::optional<int> EntryAt(double x, double y) const;
+
   // A row chosen in the list view, by its number: the rule of a click on the entry's cell.
   void ChooseRow(int number, int heldKeys);
 
@@ -59,6 +63,7 @@ class Selection {
   void mnuRem_Click();
 
  private:
+  std::optional<HitCell> AnsweringCellAt(double x, double y) const;
   bool Answers(int index) const;
   void Choose(const HitCell& cell, bool ctrl);
   void MakeCurrent(int index);

@@ -97,6 +97,7 @@ void FrmFindIcon::AttachControls() {
   grid_.Attach(Item(FrmFindIcon_PicFrame), Item(FrmFindIcon_Vsb), FrmFindIcon_PicIcons);
   gridContent_ = {[this] { return ItemText(FrmFindIcon_PicFrame); }, [this] { return ChosenItem(); }};
   grid_.Describe(&gridContent_);
+  gridTip_.Attach(GetDlgItem(Item(FrmFindIcon_PicFrame), FrmFindIcon_PicIcons));
   lv_.Attach(Item(FrmFindIcon_Lv));
   const RECT bounds = grid_.Bounds();  // the list takes the grid's place
   Move(lv_.Window(), bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top);
@@ -210,6 +211,7 @@ void FrmFindIcon::OnScroll(HWND scrollBar, int request) {
     udMain_Change();  // also if the value stays: the box may show a limit beyond it
   }
   grid_.OnScroll(scrollBar, request);
+  gridTip_.Say({});  // another icon is under the pointer now
 }
 
 LRESULT FrmFindIcon::OnNotify(NMHDR& header) {

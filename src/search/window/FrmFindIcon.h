@@ -7,6 +7,7 @@
 #include "export/SaveCommands.h"
 #include "forms/Form.h"
 #include "forms/LiveText.h"
+#include "forms/PictureTip.h"
 #include "forms/ReportList.h"
 #include "forms/ScrollBar.h"
 #include "forms/Throttle.h"
@@ -105,6 +106,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void AttachControls();
   void LayOutLimit();
   void TickType(std::size_t box);
+  void ShowTipAt(double x, double y);
   void LoadSettings();
   void SaveSettings();
   void UpdateSaveMenus();
@@ -122,6 +124,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   ShownFolders folders_{dir1_, file1_, dependencies_.folders};
   IconGrid grid_;
   PictureContent gridContent_;  // the grid read aloud
+  PictureTip gridTip_;
   Surface ownSurface_;
   SearchDriver driver_;
   Selection selection_;

@@ -44,7 +44,9 @@ bool FrmFindIcon::PreviewMessage(const MSG& message) {
   if (isSaving_ && IsInput(message.message)) return true;
   if (message.message == WM_KEYDOWN && Form_KeyDown(message)) return true;
   // The wheel turns what lies under the pointer, wherever the focus is.
-  return grid_.OnWheel(message);
+  if (!grid_.OnWheel(message)) return false;
+  gridTip_.Say({});
+  return true;
 }
 
 bool FrmFindIcon::Form_KeyDown(const MSG& message) {

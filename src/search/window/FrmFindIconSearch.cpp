@@ -81,6 +81,7 @@ void FrmFindIcon::ShowInformation(const std::string& text) {
 }
 
 void FrmFindIcon::ClearListView() {
+  gridTip_.Say({});
   std::vector<ReportList::Column> columns;
   columns.reserve(iconListColumns.size());
   for (const IconListColumn& column : iconListColumns) columns.push_back({column.header, column.width});
@@ -89,6 +90,7 @@ void FrmFindIcon::ClearListView() {
 }
 
 void FrmFindIcon::ListChanged() {
+  gridTip_.Say({});
   lv_.SetRowCount(list_.Count());
   ShowSelectionInList();
   grid_.TellChosenItem();

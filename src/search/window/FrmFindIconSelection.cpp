@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "base/WrappedPath.h"
 #include "resource.h"
 #include "search/window/FrmFindIcon.h"
 #include "search/window/FrmFindIconTexts.h"
@@ -28,8 +29,19 @@ void FrmFindIcon::OnPicture(const PictureEvent& event) {
       releaseBelongsToDblClick_ = GetKeyState(VK_LBUTTON) < 0;
       break;
     case PictureEvent::Kind::MouseMove:
+      ShowTipAt(event.x, event.y);
       break;
   }
+}
+
+void FrmFindIcon::ShowTipAt(double x, double y) {
+  constexpr int columns = 80;  // of a line; they fit the smallest screen
+  const std::optional<int> number = selection_.EntryAt(x, y);
+  if (!number) return gridTip_.Say({});
+  const IconListEntry& entry = list_.Item(*number);
+  const std::string path = WrapPath(entry.path, columns);
+  const auto text = Compose(gridTip, dependencies_.state.CurrentLanguage, {path, std::to_string(entry.index)});
+  gridTip_.Say(text.value_or(path));
 }
 
 bool FrmFindIcon::NumbersByFile() const {

@@ -67,6 +67,9 @@ inline constexpr Text driveNotReady{"Driver Not Ready!", "路径无效!", "路�
 inline constexpr Text folderNotReadable{"The folder cannot be read:\r\n%1", "无法读取文件夹：\r\n%1",
                                         "無法讀取資料夾：\r\n%1"};
 
+// What the grid's tool tip says of an icon: its file, in lines, and its index there.
+inline constexpr Text gridTip{"%1\r\nIndex %2", "%1\r\n索引 %2", "%1\r\n索引 %2"};
+
 // The current icon as it is read aloud in the grid: its number, its file, its index there.
 inline constexpr Text gridItemName{"Icon %1, %2, index %3", "图标 %1，%2，索引 %3", "圖示 %1，%2，索引 %3"};
 
