@@ -1,0 +1,80 @@
+// The tool tip of the grid, shown by resting the pointer.
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <optional>
+#include <string>
+
+#include "driver/Input.h"
+#include "end_to_end/EndToEndTest.h"
+#include "platform/IconFiles.h"
+
+namespace tarvik::end_to_end {
+namespace {
+
+class GridTip : public EndToEnd {
+ protected:
+  // The tip that is in sight, if any.
+  std::optional<Control> Shown() const {
+    const DWORD process = GetProcessId(program_.Process());
+    HWND found = nullptr;
+    while ((found = FindWindowExW(nullptr, found, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
+      DWORD owner = 0;
+      GetWindowThreadProcessId(found, &owner);
+      if (owner == process && IsWindowVisible(found) != FALSE) return Control(found);
+    }
+    return std::nullopt;
+  }
+  bool Shows(const std::string& text) const {
+    const auto tip = Shown();
+    return tip && tip->Text() == text;
+  }
+  // Rests over the middle of an icon of 32 pixels, by its number.
+  void PointAt(int number) const {
+    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
+    MovePointer({grid.left + 3 + (number - 1) % 15 * 38 + 16, grid.top + 3 + (number - 1) / 15 * 38 + 16});
+  }
+};
+
+TEST_F(GridTip, ShowsFileAndIndexOfTheIconUnderThePointer) {
+  tree_.MakeFile("a & b.ico", testing::IconFileOf(0xFF));
+  CopyThreeIcons(In("图标.dll"));
+  Start();
+  Tick({Ico, Dll});
+  Find();
+  PointAt(1);
+  EXPECT_TRUE(Eventually([&] { return Shows(In("a & b.ico") + "\r\nIndex 0"); }));
+  PointAt(3);
+  EXPECT_TRUE(Eventually([&] { return Shows(In("图标.dll") + "\r\nIndex 1"); }));
+  PointAt(5);
+  EXPECT_TRUE(Eventually([&] { return !Shown(); })) << "there is no fifth icon";
+  PointAt(4);
+  EXPECT_TRUE(Eventually([&] { return Shows(In("图标.dll") + "\r\nIndex 2"); }));
+  DoubleClick(MiddleOf(program_.Item(FrmFindIcon_PicFrame).Place()));  // an empty cell too
+  EXPECT_TRUE(Eventually([&] { return !Shown(); }));
+}
+
+TEST_F(GridTip, ShowsTheWholeOfALongPathOnTheScreen) {
+  std::string folder;
+  for (int depth = 0; depth < 8; ++depth) {
+    folder += (folder.empty() ? "" : "\\") + std::string("a folder with a long name");
+    tree_.MakeFolder(folder);
+  }
+  tree_.MakeFile(folder + "\\a.ico", testing::IconFileOf(0xFF));
+  Start(In(folder));
+  Find();
+  PointAt(1);
+  ASSERT_TRUE(Eventually([&] { return Shown().has_value(); }));
+  std::string text = Shown()->Text();
+  for (std::size_t end = 0; (end = text.find("\r\n")) != std::string::npos;) text.erase(end, 2);
+  EXPECT_EQ(text, In(folder + "\\a.ico") + "Index 0");
+  const RECT place = Shown()->Place();
+  EXPECT_GE(place.left, 0);
+  EXPECT_LE(place.right, GetSystemMetrics(SM_CXSCREEN));
+  EXPECT_LT(place.right - place.left, 800);
+}
+
+}  // namespace
+}  // namespace tarvik::end_to_end
