@@ -49,6 +49,7 @@ class SilentWindow final : public SearchWindow, public SearchFolders {
   void SetCaption(const std::string&) override {}
   void SetStatusText(const std::string&) override {}
   void SetInfoText(const std::string&) override {}
+  void SetProgress(const Progress&) override {}
   void ShowInformation(const std::string& text) override { std::printf("refused: %s\n", text.c_str()); }
   void ClearListView() override {}
   void ListChanged() override {}

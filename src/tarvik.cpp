@@ -12,6 +12,7 @@
 #include "forms/Application.h"
 #include "forms/Form.h"
 #include "forms/MessageBox.h"
+#include "forms/SystemTaskBar.h"
 #include "platform/CreateFolder.h"
 #include "platform/DiskFile.h"
 #include "platform/Paths.h"
@@ -33,6 +34,9 @@
 
 namespace tarvik {
 namespace {
+
+// Milliseconds: what is over by then is seen in the window.
+constexpr unsigned long long shownProgressAfter = 300;
 
 std::vector<DriveListBox::Drive> DriveRows() {
   std::vector<DriveListBox::Drive> rows;
@@ -66,7 +70,10 @@ class Windows {
                                                                 ProgramFolder(),
                                                                 [this] { spash_->ShowModal(findIcon_->Window()); },
                                                                 [this] { application_.onHelp(*findIcon_); },
-                                                                {exportDialogs_, files_, temporaryBitmap_}});
+                                                                {exportDialogs_, files_, temporaryBitmap_},
+                                                                IsFolder,
+                                                                &taskBar_,
+                                                                shownProgressAfter});
     }
     findIcon_->Show();
   }
@@ -76,6 +83,7 @@ class Windows {
   Settings& settings_;
   IconSource& icons_;
   Folders& folders_;
+  SystemTaskBar taskBar_;
   DiskFile files_;
   TemporaryBitmap temporaryBitmap_{TemporaryBitmapPaths()};
   ExportDialogs exportDialogs_{application_,

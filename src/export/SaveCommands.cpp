@@ -236,6 +236,8 @@ void SaveCommands::SaveBMPToGIFForNoSingle(Scope scope, const std::string& folde
 
 void SaveCommands::SaveBatch(Scope scope, const std::string& folder, const BatchKind& kind, const Write& write) {
   const Saving saving(*this);
+  const Finally endsProgress([this] { window_.SetProgress({}); });
+  const int total = scope == Scope::All ? list_.Count() : list_.CountSelected();
   int saved = 0;
   for (int number = 1; number <= list_.Count(); ++number) {
     if (scope == Scope::Selected && !list_.Item(number).selected) continue;
@@ -243,6 +245,7 @@ void SaveCommands::SaveBatch(Scope scope, const std::string& folder, const Batch
     window_.RenderEntry(number);
     const std::string path = folder + std::string(kind.prefix) + std::to_string(saved) + std::string(kind.extension);
     if (!write(path)) Tell(kind.failed, MessageKind::Failure, path);
+    window_.SetProgress({Progress::Kind::Share, saved, total});
     window_.ServePainting();
   }
 }

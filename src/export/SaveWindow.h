@@ -4,6 +4,7 @@
 
 #include "base/Finally.h"
 #include "base/PixelView.h"
+#include "base/Progress.h"
 #include "encoders/ImageDialogs.h"
 #include "export/FileDialogModes.h"
 
@@ -30,6 +31,8 @@ class SaveWindow {
   virtual void SetStatusText(const std::string& text) = 0;
   virtual Finally ShowHourglass() = 0;  // puts the former pointer back at its end
   virtual void ShowMessage(const std::string& text, MessageKind kind) = 0;
+
+  virtual void SetProgress(const Progress& progress) = 0;  // how far a batch is
 
   // Until the end of what this returns the window takes no command. It paints itself whenever ServePainting is called.
   virtual Finally HoldCommands() = 0;

@@ -176,6 +176,9 @@ void Form::OnHelp() {
 bool Form::OnContextMenu(HWND /*control*/, std::optional<POINT> /*point*/) {
   return false;
 }
+void Form::OnRuntimeError(const RuntimeError& error) {
+  application_.onRuntimeError(*this, error);
+}
 void Form::OnDrop(const std::string& /*path*/) {}
 
 // What the shell's DragAcceptFiles does, without loading the shell at the start.
@@ -191,7 +194,7 @@ INT_PTR Form::Guard(Handler handler) {
     try {
       return handler();
     } catch (const std::exception& error) {
-      application_.onRuntimeError(*this, AsRuntimeError(error));
+      OnRuntimeError(AsRuntimeError(error));
     }
   } catch (const GivenUp&) {  // NOLINT(bugprone-empty-catch): it is no error
   } catch (const std::exception&) {

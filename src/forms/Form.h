@@ -124,6 +124,8 @@ class Form : NonCopyable {
   // A right click on a control, Shift+F10 or the menu key, at a point of the screen; none if a key asked. False leaves
   // it to the system.
   virtual bool OnContextMenu(HWND control, std::optional<POINT> point);
+  // A handler ended with a run-time error, which is shown to the user until this returns.
+  virtual void OnRuntimeError(const RuntimeError& error);
   // Files or folders were dropped on the window; the path of the first one, UTF-8. AcceptDrops asks for that.
   virtual void OnDrop(const std::string& path);
   void AcceptDrops() const;

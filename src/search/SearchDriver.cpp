@@ -49,6 +49,8 @@ void SearchDriver::CmdFind_Click() {
   if (state_.IsSearching) return;
   window_.CloseEnhancedView();
   state_.IsSearching = true;
+  const Finally endsProgress([this] { window_.SetProgress({}); });
+  window_.SetProgress({Progress::Kind::Unknown});
   for (const SearchControl control : searchControls) window_.Enable(control, false);
   try {
     Search();
@@ -145,6 +147,7 @@ void SearchDriver::CountFilesOf(const std::string& folder) {
   for (const std::string& name : folders_.File1Names()) {
     AtFile(PathOf(shown, name), [this](const std::string& path) { CountIconsOfFile(path); });
     UpdateTitle();
+    window_.SetProgress({Progress::Kind::Unknown});
   }
 }
 
@@ -229,6 +232,8 @@ void SearchDriver::DrawInNextCell(ExtractedIcon* icon, int step) {
     state_.CellX = gridMargin;
     state_.CellY += geometry.CellPitch;
   }
+  window_.SetProgress(
+      {Progress::Kind::Share, std::min<int>(state_.NextIconNumber, state_.IconCount), state_.IconCount});
   state_.NextIconNumber += 1;
 }
 
@@ -242,6 +247,7 @@ void SearchDriver::SetStatus(const Text& text, std::initializer_list<std::string
 }
 
 void SearchDriver::ShowBox(const Text& text, std::initializer_list<std::string_view> values) {
+  window_.SetProgress({});  // nothing is going on while a box waits
   if (const auto composed = Compose(text, language_, values)) window_.ShowInformation(*composed);
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/Finally.h"
+#include "base/Progress.h"
 #include "grid/SearchState.h"
 
 namespace tarvik {
@@ -28,6 +29,9 @@ class SearchWindow {
   virtual void SetStatusText(const std::string& text) = 0;    // panel 1 of sbMain
   virtual void SetInfoText(const std::string& text) = 0;      // lblInfo
   virtual void ShowInformation(const std::string& text) = 0;  // information box with OK, titled "Brindle Tarvik"
+
+  // How far the search is. It is called often and costs next to nothing.
+  virtual void SetProgress(const Progress& progress) = 0;
 
   // The icon list's view, and with it the menu items that need an entry to act on.
   virtual void ClearListView() = 0;  // no rows, then the three columns again

@@ -33,6 +33,20 @@ TEST_F(SaveCommandsTest, NumbersTheFilesOfSelectedEntriesFromOneOn) {
   EXPECT_THAT(script, Not(Contains(StartsWith("hot spot"))));
 }
 
+TEST_F(SaveCommandsTest, SaysHowFarABatchIs) {
+  List(6, {2, 5});
+  dialogs.folder = "D:\\out";
+  commands.mnuSaveSel_Click();
+  EXPECT_THAT(window.progress, ElementsAre("1/2", "2/2", "none"));
+  window.progress.clear();
+  files.refused = {"D:\\out\\Images 2.bmp"};
+  commands.mnuSaveAll2_Click();
+  EXPECT_THAT(window.progress, ElementsAre("1/6", "2/6", "3/6", "4/6", "5/6", "6/6", "none"));
+  window.progress.clear();
+  commands.mnuSaveAs_Click();
+  EXPECT_THAT(window.progress, ElementsAre()) << "a single file";
+}
+
 TEST_F(SaveCommandsTest, WritesTheHotSpotStoredLastIntoEveryCursorOfABatch) {
   List(2);
   dialogs.folder = "D:\\out";

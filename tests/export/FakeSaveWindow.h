@@ -53,6 +53,10 @@ class FakeSaveWindow final : public SaveWindow {
   void ShowMessage(const std::string& text, MessageKind kind) override {
     script_.push_back((kind == MessageKind::Failure ? "failure " : "hint ") + text);
   }
+  void SetProgress(const Progress& shown) override {
+    progress.push_back(
+        shown.kind == Progress::Kind::None ? "none" : std::to_string(shown.done) + "/" + std::to_string(shown.total));
+  }
   Finally HoldCommands() override {
     ++held;
     return Finally([this] { --held; });
@@ -67,6 +71,7 @@ class FakeSaveWindow final : public SaveWindow {
   }
 
   std::string status = "standing";
+  Script progress;
   bool clipboardFree = true;
   int held = 0;
   std::vector<int> heldWhenServed;  // `held` at each ServePainting

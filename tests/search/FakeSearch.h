@@ -172,7 +172,16 @@ class FakeSearchWindow : public SearchWindow, public SearchFolders {
   void SetCaption(const std::string& text) override { script_.Add("caption " + text); }
   void SetStatusText(const std::string& text) override { script_.Add("status " + text); }
   void SetInfoText(const std::string& text) override { script_.Add("label " + text); }
-  void ShowInformation(const std::string& text) override { script_.Add("box " + text); }
+  void ShowInformation(const std::string& text) override {
+    script_.Add("box " + text);
+    progress.push_back("box");
+  }
+  // Each one that differs from the one before.
+  void SetProgress(const Progress& shown) override {
+    const std::string words[] = {"none", "counting", std::to_string(shown.done) + "/" + std::to_string(shown.total)};
+    const std::string& text = words[static_cast<std::size_t>(shown.kind)];
+    if (progress.empty() || progress.back() != text) progress.push_back(text);
+  }
 
   void ClearListView() override {
     script_.Add("clear list view");
@@ -196,6 +205,7 @@ class FakeSearchWindow : public SearchWindow, public SearchFolders {
     });
   }
 
+  std::vector<std::string> progress;
   std::map<std::string, FakeFolder> folders;
   std::set<std::string> unknown;  // folders that cannot be opened
   std::string dir1;

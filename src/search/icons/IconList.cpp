@@ -25,4 +25,8 @@ bool IconList::AnySelected() const {
   return std::ranges::any_of(entries_, &IconListEntry::selected);
 }
 
+int IconList::CountSelected() const {
+  return static_cast<int>(std::ranges::count(entries_, true, &IconListEntry::selected));
+}
+
 }  // namespace tarvik

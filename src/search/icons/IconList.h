@@ -37,6 +37,7 @@ class IconList {
   void Select(int number) { SetSelected(number, true); }
   void Deselect(int number) { SetSelected(number, false); }
   bool AnySelected() const;
+  int CountSelected() const;
 
  private:
   void SetSelected(int number, bool selected) { entries_.at(static_cast<std::size_t>(number) - 1).selected = selected; }

@@ -6,6 +6,7 @@
 
 #include "export/SaveCommands.h"
 #include "forms/FolderLists.h"
+#include "forms/TaskBar.h"
 #include "search/icons/FolderReader.h"
 #include "search/icons/Folders.h"
 #include "search/icons/IconSource.h"
@@ -27,6 +28,8 @@ struct FindIconDependencies {
   std::function<void()> openGuide;
   SaveCommands::Dependencies saving;
   std::function<bool(const std::string& path)> isFolder = IsFolder;
+  TaskBar* taskBar = nullptr;         // shows progress if there is one
+  unsigned long long shownAfter = 0;  // milliseconds of a search or a batch that show none there
 };
 
 }  // namespace tarvik

@@ -58,6 +58,7 @@ FrmFindIcon::FrmFindIcon(Application& application, Dependencies dependencies)
       selection_(*this, grid_, list_, state_, dependencies_.state.CurrentLanguage),
       captured_(dependencies_.icons, list_, state_, dependencies_.state),
       commands_(*this, dependencies_.saving, list_, state_, dependencies_.state),
+      progress_(dependencies_.taskBar, dependencies_.shownAfter),
       caption_([this](const std::string& text) { Form::SetCaption(text); }),
       status_([this](const std::string& text) {
         SendMessageW(Item(FrmFindIcon_sbMain), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
@@ -67,6 +68,7 @@ void FrmFindIcon::Form_Load() {
   SetTexts(*this, findIconTexts, dependencies_.state.CurrentLanguage);
   AttachControls();
   AcceptDrops();
+  progress_.Attach(Window());
   LayOutLimit();
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);

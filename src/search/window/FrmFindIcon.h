@@ -10,6 +10,7 @@
 #include "forms/PictureTip.h"
 #include "forms/ReportList.h"
 #include "forms/ScrollBar.h"
+#include "forms/ShownProgress.h"
 #include "forms/Throttle.h"
 #include "grid/IconGrid.h"
 #include "grid/Selection.h"
@@ -51,6 +52,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void OnHelp() override;
   bool OnContextMenu(HWND control, std::optional<POINT> point) override;
   void OnDrop(const std::string& path) override;
+  void OnRuntimeError(const RuntimeError& error) override;
 
   // Handlers
   void Drive1_Change();
@@ -85,6 +87,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void SetStatusText(const std::string& text) override;
   void SetInfoText(const std::string& text) override;
   void ShowInformation(const std::string& text) override;
+  void SetProgress(const Progress& progress) override { progress_.Set(progress); }
   void ClearListView() override;
   void ListChanged() override;
   bool NumbersByFile() const override;
@@ -137,6 +140,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   Throttle looks_{40};
   Throttle serves_{1'000};
 
+  ShownProgress progress_;
   LiveText caption_;
   LiveText status_;                        // panel 1 of sbMain
   bool releaseBelongsToDblClick_ = false;  // the next release on the grid ends a double click

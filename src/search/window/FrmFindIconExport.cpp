@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "base/Finally.h"
 #include "forms/MessageBox.h"
 #include "platform/Text.h"
 #include "resource.h"
@@ -24,8 +25,14 @@ std::string FrmFindIcon::StatusText() const {
 
 void FrmFindIcon::ShowMessage(const std::string& text, MessageKind kind) {
   dependencies_.icons.LetGo();
+  const Finally error = kind == MessageKind::Failure ? progress_.ShowError() : Finally();
   tarvik::ShowMessage(Window(), text, FailureTitle(dependencies_.state.CurrentLanguage),
                       kind == MessageKind::Failure ? MessageSign::Exclamation : MessageSign::Information);
+}
+
+void FrmFindIcon::OnRuntimeError(const RuntimeError& error) {
+  const Finally shown = progress_.ShowError();
+  Form::OnRuntimeError(error);
 }
 
 Finally FrmFindIcon::HoldCommands() {

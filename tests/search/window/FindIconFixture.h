@@ -123,7 +123,8 @@ class FindIconFixture : public ::testing::Test {
                                   [this] { ++aboutShown; },
                                   [this] { ++guideShown; },
                                   {dialogs, files, temporaryBitmap},
-                                  [](const std::string& path) { return path.find('.') == std::string::npos; }});
+                                  [](const std::string& path) { return path.find('.') == std::string::npos; },
+                                  taskBar});
     window->Show();
     application.DoEvents();
   }
@@ -174,6 +175,7 @@ class FindIconFixture : public ::testing::Test {
   DiskFile files;
   TemporaryBitmap temporaryBitmap{TemporaryBitmapPaths()};
   AnsweredDialogs dialogs{application, state, [this] { return window->Window(); }};
+  TaskBar* taskBar = nullptr;  // settled before the window opens
   int aboutShown = 0;
   int guideShown = 0;
   std::vector<DriveListBox::Drive> drives{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};

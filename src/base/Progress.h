@@ -1,0 +1,19 @@
+#pragma once
+
+namespace tarvik {
+
+// How far a long command is.
+struct Progress {
+  enum class Kind {
+    None,     // no such command runs
+    Unknown,  // it runs, but nobody knows how long
+    Share,    // `done` of `total` is done
+  };
+
+  Kind kind = Kind::None;
+  int done = 0;  // from 0 to total
+  int total = 0;
+  friend bool operator==(const Progress&, const Progress&) = default;
+};
+
+}  // namespace tarvik
