@@ -17,6 +17,8 @@ const char* RuntimeError::what() const noexcept {
       return "Missing function";
     case RuntimeErrorKind::NoWindow:
       return "No window";
+    case RuntimeErrorKind::UnheldName:
+      return "Name that cannot be passed on";
     case RuntimeErrorKind::Unexpected:
       return "Unexpected error";
   }

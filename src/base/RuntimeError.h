@@ -13,6 +13,7 @@ enum class RuntimeErrorKind {
   OutOfMemory,      // there is no memory, or no room for one more picture
   MissingFunction,  // the system lacks a function that the program calls
   NoWindow,         // the system made no window
+  UnheldName,       // the calls that the program makes cannot take a name
   Unexpected,       // any other exception
 };
 
@@ -63,6 +64,12 @@ class MissingFunctionError : public RuntimeError {
 class NoWindowError : public RuntimeError {
  public:
   NoWindowError() : RuntimeError(RuntimeErrorKind::NoWindow) {}
+};
+
+// A name with characters that the code page in force lacks. Its detail is the path, with "?" in their places.
+class UnheldNameError : public RuntimeError {
+ public:
+  explicit UnheldNameError(const std::string& path) : RuntimeError(RuntimeErrorKind::UnheldName, path) {}
 };
 
 // What stopped a handler, as a run-time error: a RuntimeError is that itself, a lack of memory and a text or list

@@ -8,7 +8,9 @@
 #include <cstddef>
 
 #include "base/Finally.h"
+#include "base/RuntimeError.h"
 #include "forms/Application.h"
+#include "platform/CodePage.h"
 #include "platform/SystemFunctions.h"
 
 namespace tarvik {
@@ -33,9 +35,15 @@ std::wstring CurrentFolder() {
   return folder;
 }
 
+// No name holds a "?", but the dialog puts one where the code page lacks a character.
+std::string Checked(std::string path) {
+  if (path.find('?') != std::string::npos) throw UnheldNameError(path);
+  return path;
+}
+
 std::string Ask(BOOL(WINAPI* show)(OPENFILENAMEA*), DWORD flags, HWND owner, const FileDialogMode& mode,
                 std::string_view code) {
-  const std::string title = FileDialogTitle(mode, code);
+  const std::string title = ToReadableCodePage(FileDialogTitle(mode, code));
   const std::string filters = FilterList(mode.filters);
   // The dialog puts the dot before an extension itself.
   const std::string extension(mode.defaultExtension.substr(1));
@@ -58,7 +66,7 @@ std::string Ask(BOOL(WINAPI* show)(OPENFILENAMEA*), DWORD flags, HWND owner, con
   const Finally movesBack([&folder] { SetCurrentDirectoryW(folder.c_str()); });
   const bool chosen = show(&record) != 0;
   if (owner != nullptr && IsWindow(owner) == FALSE) throw GivenUp();
-  return chosen ? std::string(file.data()) : std::string();
+  return chosen ? Checked(FromCodePage(file.data())) : std::string();
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "base/FolderPath.h"
+#include "platform/CodePage.h"
 #include "platform/Text.h"
 
 namespace tarvik {
@@ -48,13 +49,13 @@ std::string ProgramFolder() {
 std::string SystemFolder() {
   std::string buffer(pathBufferSize, ' ');
   const UINT count = GetSystemDirectoryA(buffer.data(), pathBufferSize);
-  return TakeWritten(buffer, count);
+  return FromCodePage(TakeWritten(buffer, count));
 }
 
 std::string TempFolder() {
   std::string buffer(pathBufferSize, ' ');
   const DWORD count = GetTempPathA(pathBufferSize, buffer.data());
-  return TakeWritten(buffer, count);
+  return FromCodePage(TakeWritten(buffer, count));
 }
 
 std::wstring LiteralPath(std::string_view path) {

@@ -61,9 +61,11 @@ void SearchDriver::CmdFind_Click() {
     window_.ClearListView();
     throw;
   }
+  TellLeftOut();
 }
 
 void SearchDriver::Search() {
+  leftOut_ = 0;
   CountIcons();
   list_.Clear();
   window_.ClearListView();
@@ -152,6 +154,7 @@ void SearchDriver::CountFilesOf(const std::string& folder) {
 }
 
 void SearchDriver::CountIconsOfFile(const std::string& path) {
+  if (!icons_.Takes(path) && leftOut_++ == 0) firstLeftOut_ = path;
   state_.IsAnimatedFile = IsAnimatedCursorName(path);
   state_.IconCount += state_.IsAnimatedFile ? CountAnimationFrames(path) : icons_.CountIcons(path);
 }
@@ -235,6 +238,10 @@ void SearchDriver::DrawInNextCell(ExtractedIcon* icon, int step) {
   window_.SetProgress(
       {Progress::Kind::Share, std::min<int>(state_.NextIconNumber, state_.IconCount), state_.IconCount});
   state_.NextIconNumber += 1;
+}
+
+void SearchDriver::TellLeftOut() {
+  if (leftOut_ != 0) ShowBox(searchTexts::leftOut, {std::to_string(leftOut_), firstLeftOut_});
 }
 
 void SearchDriver::UpdateTitle() {

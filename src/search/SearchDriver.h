@@ -60,6 +60,7 @@ class SearchDriver {
   void DrawInNextCell(ExtractedIcon* icon, int step);
 
   void UpdateTitle();
+  void TellLeftOut();
   void SetStatus(const Text& text, std::initializer_list<std::string_view> values);
   void ShowBox(const Text& text, std::initializer_list<std::string_view> values);
 
@@ -71,6 +72,8 @@ class SearchDriver {
   IconList& list_;
   SearchState& state_;
   const std::string& language_;
+  int leftOut_ = 0;  // files whose paths the system cannot be given, in the search that runs
+  std::string firstLeftOut_;
 };
 
 }  // namespace tarvik

@@ -32,4 +32,12 @@ inline constexpr Text narrowFolders{"Found %1 icons.\r\nOnce search only support
                                     "共搜索到%1个图标.\r\n每次搜索只支持最大%2个图标,请缩小目录层次后再重试!",
                                     "共搜索到%1個圖示.\r\n每次搜索只支援最大%2個圖示,請縮小目錄層次後再重試!"};
 
+// Information box after a search that left files out: how many, the path of the first.
+inline constexpr Text leftOut{
+    "Files left out: %1. This version of Windows cannot pass on some characters of their names or of the names of "
+    "their "
+    "folders. The first one is:\r\n%2",
+    "未查找的文件：%1 个。此版本的 Windows 无法处理其名称或所在文件夹名称中的某些字符。第一个是：\r\n%2",
+    "未查找的檔案：%1 個。此版本的 Windows 無法處理其名稱或所在資料夾名稱中的某些字元。第一個是：\r\n%2"};
+
 }  // namespace tarvik::searchTexts

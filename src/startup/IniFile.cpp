@@ -2,28 +2,48 @@
 
 #include <windows.h>
 
+#include <optional>
+
+#include "platform/CodePage.h"
+
 namespace tarvik {
+namespace {
+
+// `text` is in the code page already. Null for no key or text.
+int WriteProfile(const std::string& section, const std::string* key, const std::string* text, const std::string& file) {
+  const std::optional<std::string> path = ToCodePage(file);
+  if (!path) return 0;
+  const std::string name = key != nullptr ? ToReadableCodePage(*key) : std::string();
+  return WritePrivateProfileStringA(ToReadableCodePage(section).c_str(), key != nullptr ? name.c_str() : nullptr,
+                                    text != nullptr ? text->c_str() : nullptr, path->c_str());
+}
+
+}  // namespace
 
 std::string IniFile::Read(const std::string& section, const std::string& key, const std::string& defaultValue,
                           int capacity, const std::string& file) {
+  const std::optional<std::string> path = ToCodePage(file);
+  if (!path) return defaultValue;
   std::string buffer(static_cast<std::size_t>(capacity), ' ');
-  const DWORD count = GetPrivateProfileStringA(section.c_str(), key.c_str(), defaultValue.c_str(), buffer.data(),
-                                               static_cast<DWORD>(capacity), file.c_str());
+  const DWORD count = GetPrivateProfileStringA(ToReadableCodePage(section).c_str(), ToReadableCodePage(key).c_str(),
+                                               ToReadableCodePage(defaultValue).c_str(), buffer.data(),
+                                               static_cast<DWORD>(capacity), path->c_str());
   buffer.resize(count);
-  return buffer;
+  return FromCodePage(buffer);
 }
 
 int IniFile::Write(const std::string& section, const std::string& key, const std::string& value,
                    const std::string& file) {
-  return WritePrivateProfileStringA(section.c_str(), key.c_str(), value.c_str(), file.c_str());
+  const std::optional<std::string> text = ToCodePage(value);
+  return text ? WriteProfile(section, &key, &*text, file) : 0;
 }
 
 int IniFile::DeleteKey(const std::string& section, const std::string& key, const std::string& file) {
-  return WritePrivateProfileStringA(section.c_str(), key.c_str(), nullptr, file.c_str());
+  return WriteProfile(section, &key, nullptr, file);
 }
 
 int IniFile::DeleteSection(const std::string& section, const std::string& file) {
-  return WritePrivateProfileStringA(section.c_str(), nullptr, nullptr, file.c_str());
+  return WriteProfile(section, nullptr, nullptr, file);
 }
 
 }  // namespace tarvik

@@ -58,6 +58,10 @@ inline constexpr auto runtimeErrorTexts = std::to_array<RuntimeErrorText>({
       "此版本的 Windows 缺少本程式需要的函式："}},
     {RuntimeErrorKind::NoWindow,
      {"Windows could not create the window", "Windows 无法创建窗口", "Windows 無法建立視窗"}},
+    {RuntimeErrorKind::UnheldName,
+     {"This version of Windows cannot pass on some characters of the name. Choose another name or another folder:",
+      "此版本的 Windows 无法处理名称中的某些字符。请选择其他名称或文件夹：",
+      "此版本的 Windows 無法處理名稱中的某些字元。請選擇其他名稱或資料夾："}},
     {RuntimeErrorKind::Unexpected, {"Unexpected error:", "意外错误：", "未預期的錯誤："}},
 });
 

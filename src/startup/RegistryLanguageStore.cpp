@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "platform/CodePage.h"
 #include "platform/Handles.h"
 
 namespace tarvik {
@@ -26,8 +27,9 @@ std::string ReadRegistryLanguage(const std::string& name) {
   std::string buffer(bufferSize, ' ');
   DWORD size = bufferSize;
   // Whether there is such a value shows in the buffer alone: what is not written stays blank.
-  RegQueryValueExA(opened, name.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(buffer.data()), &size);
-  return buffer;
+  RegQueryValueExA(opened, ToReadableCodePage(name).c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(buffer.data()),
+                   &size);
+  return FromCodePage(buffer);
 }
 
 }  // namespace tarvik

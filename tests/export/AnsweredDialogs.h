@@ -18,7 +18,7 @@ class AnsweredDialogs final : public SaveDialogs {
 
   std::string AskForPath(const FileDialogMode& mode) override {
     asked.emplace_back(mode.titleSuffix.eng);
-    return path;
+    return onAskForPath ? onAskForPath(mode) : path;
   }
   std::string ShowDir() override {
     onShowDir();
@@ -31,7 +31,8 @@ class AnsweredDialogs final : public SaveDialogs {
   GifDialog& NewConvertGIF() override { return real_.NewConvertGIF(); }
   void FreeEncoders() override { real_.FreeEncoders(); }
 
-  std::string path;  // the answers
+  std::string path;                                                     // the answers
+  std::function<std::string(const FileDialogMode& mode)> onAskForPath;  // gives the path in place of that one, if set
   std::string folder;
   std::string extension;                    // chosen with the folder; empty leaves it
   std::function<void()> onShowDir = [] {};  // what happens meanwhile

@@ -77,6 +77,7 @@ class FakeIcons : public IconSource {
  public:
   explicit FakeIcons(Script& script) : script_(script) {}
 
+  bool Takes(const std::string& path) const override { return !untaken.contains(path); }
   int CountIcons(const std::string& path) override {
     script_.Add("count " + path);
     return files[path].icons;
@@ -90,6 +91,7 @@ class FakeIcons : public IconSource {
   }
 
   std::map<std::string, FakeFile> files;
+  std::set<std::string> untaken;  // paths that the system cannot be given
 
  private:
   Script& script_;

@@ -34,6 +34,10 @@ class IconSource {
  public:
   virtual ~IconSource() = default;
 
+  // Whether the calls that take icons out of files can be given that path. A file whose path they cannot be given
+  // counts as one without icons.
+  virtual bool Takes(const std::string& /*path*/) const { return true; }
+
   // How many icons the file holds; 0 for one that holds none or cannot be read.
   virtual int CountIcons(const std::string& path) = 0;
 

@@ -12,6 +12,7 @@
 
 #include "base/AsciiCase.h"
 #include "base/RuntimeError.h"
+#include "platform/CodePage.h"
 #include "platform/Handles.h"
 #include "platform/Paths.h"
 #include "platform/Surface.h"
@@ -132,13 +133,19 @@ bool ShellIcons::Survives(const std::string& path, int call, Call&& make) {
   return false;
 }
 
+bool ShellIcons::Takes(const std::string& path) const {
+  return ToCodePage(path).has_value();
+}
+
 // The system's large size, which larger cells stretch (deliberate: oddities 30).
 IconHandle ShellIcons::ExtractByShell(const std::string& path, int index) {
+  const std::optional<std::string> name = ToCodePage(path);
+  if (!name) return {};
   HICON large = nullptr;
   UINT extracted = 0;
   const auto extract = shell_().extractIconEx;  // the guarded call must not load anything
   // The small icon is not asked for: it is never drawn, and its handle would have to be destroyed too.
-  const bool finished = Survives(path, index, [&] { extracted = extract(path.c_str(), index, &large, nullptr, 1); });
+  const bool finished = Survives(path, index, [&] { extracted = extract(name->c_str(), index, &large, nullptr, 1); });
   // Only a success says that the handle means something: Wine leaves other values in it than it found.
   return finished && extracted != 0 && extracted != noFile ? IconHandle(large) : IconHandle();
 }
@@ -150,9 +157,11 @@ IconHandle ShellIcons::ExtractLarge(const std::string& path, int index) {
 }
 
 IconHandle ShellIcons::LoadCursorFile(const std::string& path) {
+  const std::optional<std::string> name = ToCodePage(path);
+  if (!name) return {};
   HANDLE cursor = nullptr;
   const bool finished = Survives(path, cursorCall, [&] {
-    cursor = LoadImageA(nullptr, path.c_str(), IMAGE_CURSOR, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON),
+    cursor = LoadImageA(nullptr, name->c_str(), IMAGE_CURSOR, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON),
                         LR_LOADFROMFILE);
   });
   return finished ? IconHandle(static_cast<HICON>(cursor)) : IconHandle();
@@ -167,12 +176,14 @@ std::unique_ptr<ExtractedIcon> ShellIcons::ExtractSteps(const std::string& path,
 }
 
 // How many icons the shell says the file has; some systems tell it as it is written in the file. Nothing if the system
-// breaks on the file.
+// breaks on the file, or cannot be given its path.
 std::optional<int> ShellIcons::CountByShell(const std::string& path) {
+  const std::optional<std::string> name = ToCodePage(path);
+  if (!name) return std::nullopt;
   UINT count = 0;
   const auto extract = shell_().extractIconEx;  // as above
   if (!Survives(path, countCall,
-                [&] { count = extract(path.c_str(), static_cast<int>(countIndex), nullptr, nullptr, 0); })) {
+                [&] { count = extract(name->c_str(), static_cast<int>(countIndex), nullptr, nullptr, 0); })) {
     return std::nullopt;
   }
   return count <= INT_MAX ? static_cast<int>(count) : 0;
@@ -210,6 +221,8 @@ std::unique_ptr<ExtractedIcon> ShellIcons::Extract(const std::string& path, int 
 }
 
 std::vector<IconHandle> ShellIcons::ExtractGroupByShell(const std::string& path, int first, int count) {
+  const std::optional<std::string> name = ToCodePage(path);
+  if (!name) return {};
   std::vector<HICON> handles(static_cast<std::size_t>(count));
   UINT extracted = 0;
   std::vector<UINT> numbers(handles.size());  // of the pictures; filled by the call and not needed
@@ -217,7 +230,7 @@ std::vector<IconHandle> ShellIcons::ExtractGroupByShell(const std::string& path,
   // alone.
   const auto extract = shell_().privateExtractIcons;
   const bool finished = Survives(path, groupCall, [&] {
-    extracted = extract(path.c_str(), first, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), handles.data(),
+    extracted = extract(name->c_str(), first, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), handles.data(),
                         numbers.data(), static_cast<UINT>(handles.size()), LR_DEFAULTCOLOR);
   });
   std::vector<IconHandle> icons = TakeOwnership(handles, finished, extracted);

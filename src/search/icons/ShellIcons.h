@@ -36,6 +36,7 @@ class ShellIcons final : public IconSource {
   // `shell` is asked for the functions to call before each use.
   explicit ShellIcons(OpenBytes open, ShellFunctions (*shell)() = SystemShell);
 
+  bool Takes(const std::string& path) const override;
   int CountIcons(const std::string& path) override;
   std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override;
   std::vector<std::unique_ptr<ExtractedIcon>> ExtractGroup(const std::string& path, int first, int count) override;

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace tarvik::testing {
+
+// Names for the code page in force: one that it holds, with its bytes in it; and one that no Chinese code page holds.
+struct CodePageNames {
+  std::string held;
+  std::string heldBytes;
+  std::string unheld = "한글";
+};
+
+inline CodePageNames Names() {
+  if (GetACP() == 950) return {"圖示", "\xB9\xCF\xA5\xDC"};
+  return {"图标", "\xCD\xBC\xB1\xEA"};
+}
+
+}  // namespace tarvik::testing
