@@ -24,7 +24,7 @@ class IconsAhead final : public IconSource {
   // `source` outlives this object.
   explicit IconsAhead(IconSource& source) : source_(source) {}
 
-  bool Takes(const std::string& path) const override { return oneByOne_.Takes(path); }
+  bool Takes(const std::string& path) const override { return source_.Takes(path); }
   int CountIcons(const std::string& path) override;
   std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override;
   Finally InTurn() override;
