@@ -24,6 +24,10 @@ if(TARVIK_SYSTEM_LIBRARIES)
   return()
 endif()
 
+# Which sources were taken, a line each, for the list of what the program is made of (packaging/make_sbom.py).
+set(libraries_used ${PROJECT_BINARY_DIR}/libraries-used.txt)
+file(WRITE ${libraries_used} "")
+
 set(library_table ${CMAKE_CURRENT_LIST_DIR}/libraries.txt)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${library_table})
 
@@ -59,6 +63,7 @@ function(tarvik_library_source name result)
   endif()
   cmake_path(GET folder FILENAME found)
   message(STATUS "Library: ${found}")
+  file(APPEND ${libraries_used} "${found}\n")
   set(${result} ${folder} PARENT_SCOPE)
 endfunction()
 

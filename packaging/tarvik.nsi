@@ -1,10 +1,14 @@
-; The installer. scripts/package compiles it:
-;   makensis -DVERSION=X.Y.Z -DFILES=FOLDER -DOUTPUT=FILE packaging/tarvik.nsi
-; FILES holds tarvik.exe, LICENSE.txt, third-party-notices.txt and guide\.
+; The installer. scripts/make-installer compiles it:
+;   makensis -DVERSION=X.Y.Z -DFILES=FOLDER -DOUTPUT=FILE [-DPAGE=ADDRESS] [-DSIGN=COMMAND] packaging/tarvik.nsi
+; FILES holds tarvik.exe, the texts and guide\. PAGE is the address of the project's page. SIGN is a command that signs the
+; file whose name is added to it.
+;
+; There is one installation at a time. A new one goes to the folder of an earlier one, unless another folder is chosen:
+; then it takes the settings with it and removes the earlier one.
 ;
 ; It asks for the language, which is the installer's own and the program's. Without questions: /S, with the language in
 ; /LANGUAGE=ENG, CHS or CHT (left out: that of an earlier installation, else English), and the folder in /D=FOLDER, last.
-; Exit codes: 0 done, 1 cancelled, 2 no such language or not done.
+; Exit codes: 0 done, 1 cancelled, 2 no such language or not done (without questions also because the program is open).
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -20,6 +24,7 @@ ManifestDPIAware true
 !define LANGUAGE_KEY "Software\Vornhold\Brindle Tarvik\RegInfo"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Brindle Tarvik"
 !define SHORTCUT "$SMPROGRAMS\Brindle Tarvik.lnk"
+!define USUAL_FOLDER "$PROGRAMFILES64\Brindle Tarvik"
 
 ; The kinds of object whose access rights are set, as the system numbers them.
 !define FILE_OBJECT 1
@@ -32,7 +37,13 @@ ManifestDPIAware true
 
 Name "${PRODUCT}"
 OutFile "${OUTPUT}"
-InstallDir "$PROGRAMFILES64\Brindle Tarvik"
+InstallDir "${USUAL_FOLDER}"
+; That of an earlier installation comes before it, and /D= before both.
+InstallDirRegKey HKLM "${UNINSTALL_KEY}" InstallLocation
+!ifdef SIGN
+  !uninstfinalize `${SIGN} "%1"` = 0
+  !finalize `${SIGN} "%1"` = 0
+!endif
 BrandingText "${PRODUCT} ${VERSION}"
 VIProductVersion "${VERSION}.0"
 VIAddVersionKey /LANG=1033 ProductName "${PRODUCT}"
@@ -45,7 +56,8 @@ VIAddVersionKey /LANG=1033 LegalCopyright "Copyright 2026 The Brindle Tarvik dev
 !define MUI_ICON "../src/tarvik.ico"
 !define MUI_UNICON "../src/tarvik.ico"
 !define MUI_ABORTWARNING
-!define MUI_FINISHPAGE_RUN "$INSTDIR\tarvik.exe"
+!define MUI_FINISHPAGE_RUN
+!define MUI_FINISHPAGE_RUN_FUNCTION StartProgram
 !define MUI_LANGDLL_ALLLANGUAGES
 !define MUI_LANGDLL_WINDOWTITLE "${PRODUCT}"
 !define MUI_LANGDLL_INFO "Language / 语言 / 語言"
@@ -62,12 +74,90 @@ VIAddVersionKey /LANG=1033 LegalCopyright "Copyright 2026 The Brindle Tarvik dev
 !insertmacro MUI_LANGUAGE SimpChinese
 !insertmacro MUI_LANGUAGE TradChinese
 
+; By the names that every Windows knows these fonts by.
+SetFont /LANG=${LANG_SIMPCHINESE} "SimSun" 9
+SetFont /LANG=${LANG_TRADCHINESE} "PMingLiU" 9
+
 LangString RightsFailed ${LANG_ENGLISH} "Users could not be given the right to keep their settings. The program still runs."
 LangString RightsFailed ${LANG_SIMPCHINESE} "无法授予用户保存设置的权限。程序仍可运行。"
 LangString RightsFailed ${LANG_TRADCHINESE} "無法授予使用者儲存設定的權限。程式仍可執行。"
 LangString CopyFailed ${LANG_ENGLISH} "The files could not be written. Close ${PRODUCT} and try again."
 LangString CopyFailed ${LANG_SIMPCHINESE} "无法写入文件。请先关闭 ${PRODUCT}，然后重试。"
 LangString CopyFailed ${LANG_TRADCHINESE} "無法寫入檔案。請先關閉 ${PRODUCT}，然後重試。"
+
+LangString CloseFirst ${LANG_ENGLISH} "Close ${PRODUCT} first, then try again."
+LangString CloseFirst ${LANG_SIMPCHINESE} "请先关闭 ${PRODUCT}，然后重试。"
+LangString CloseFirst ${LANG_TRADCHINESE} "請先關閉 ${PRODUCT}，然後重試。"
+
+Var earlierFolder  ; of an earlier installation; this one's if there is none
+Var isSameFolder
+Var languageCode
+
+!macro FindEarlier
+  ReadRegStr $earlierFolder HKLM "${UNINSTALL_KEY}" InstallLocation
+  ${If} $earlierFolder == ""
+    StrCpy $earlierFolder $INSTDIR
+  ${EndIf}
+!macroend
+
+; Sets $isSameFolder to 1 if FOLDER is $INSTDIR, else to 0. A folder can be spelt in several ways, so a file is made in one
+; and looked for in the other.
+!macro AskIfSameFolder FOLDER
+  StrCpy $isSameFolder 0
+  GetTempFileName $R1 "$INSTDIR"
+  ${GetFileName} "$R1" $R2
+  ${If} ${FileExists} "${FOLDER}\$R2"
+    StrCpy $isSameFolder 1
+  ${EndIf}
+  Delete "$R1"
+!macroend
+
+; Removes what the installer and the program put into that folder, name by name: a folder that holds anything else stays,
+; with it. The folder goes last, so that its end is the end of all.
+!macro RemoveFiles FOLDER
+  Delete "${FOLDER}\tarvik.exe"
+  Delete "${FOLDER}\tarvik.dat"
+  Delete "${FOLDER}\README.txt"
+  Delete "${FOLDER}\CHANGELOG.txt"
+  Delete "${FOLDER}\LICENSE.txt"
+  Delete "${FOLDER}\third-party-notices.txt"
+  Delete "${FOLDER}\guide\guide-*.html"
+  Delete "${FOLDER}\guide\guide.css"
+  Delete "${FOLDER}\guide\images\*.png"
+  RMDir "${FOLDER}\guide\images"
+  RMDir "${FOLDER}\guide"
+  ; An uninstaller that the user started goes on as a copy, and holds its own file until it has ended: asked for again for
+  ; ten seconds.
+  ${For} $R0 1 100
+    Delete "${FOLDER}\uninstall.exe"
+    ${IfNot} ${FileExists} "${FOLDER}\uninstall.exe"
+      ${ExitFor}
+    ${EndIf}
+    Sleep 100
+  ${Next}
+  RMDir "${FOLDER}"
+!macroend
+
+; Goes on only once the program of that folder is closed, whose file cannot be written while it runs. Without questions, or
+; if the user gives up, the section ends.
+!macro WaitUntilClosed FOLDER
+  ${Do}
+    ${IfNot} ${FileExists} "${FOLDER}\tarvik.exe"
+      ${ExitDo}
+    ${EndIf}
+    SetFileAttributes "${FOLDER}\tarvik.exe" NORMAL
+    ClearErrors
+    FileOpen $R0 "${FOLDER}\tarvik.exe" a
+    ${IfNot} ${Errors}
+      FileClose $R0
+      ${ExitDo}
+    ${EndIf}
+    ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(CloseFirst)" /SD IDCANCEL IDCANCEL`
+      SetErrorLevel 2
+      Abort
+    ${EndIf}
+  ${Loop}
+!macroend
 
 ; Gives ordinary users rights on one object, beside those that it has from above, and on nothing below it.
 !macro GrantUsers NAME KIND RIGHTS
@@ -104,6 +194,12 @@ FunctionEnd
 Function .onInit
   SetRegView 64
   SetShellVarContext all
+  ; An earlier folder that is gone, perhaps with its drive, is no place for a new installation.
+  ReadRegStr $R1 HKLM "${UNINSTALL_KEY}" InstallLocation
+  ${If} $R1 == $INSTDIR
+  ${AndIfNot} ${FileExists} "$INSTDIR\*.*"
+    StrCpy $INSTDIR "${USUAL_FOLDER}"
+  ${EndIf}
   ${GetParameters} $R0
   ClearErrors
   ${GetOptions} $R0 "/LANGUAGE=" $R1
@@ -128,11 +224,32 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
+; The installer has the rights of an administrator, and the program must not have them. The desktop of the user starts what
+; this program of the system is given.
+Function StartProgram
+  Exec '"$WINDIR\explorer.exe" "$INSTDIR\tarvik.exe"'
+FunctionEnd
+
+; Removes the earlier installation if it is in another folder.
+Function RemoveEarlier
+  ${If} ${FileExists} "$earlierFolder\tarvik.exe"
+    !insertmacro AskIfSameFolder "$earlierFolder"
+    ${If} $isSameFolder = 0
+      !insertmacro RemoveFiles "$earlierFolder"
+    ${EndIf}
+  ${EndIf}
+FunctionEnd
+
 Section
+  !insertmacro FindEarlier
+  !insertmacro WaitUntilClosed "$INSTDIR"
+  !insertmacro WaitUntilClosed "$earlierFolder"
   SetOutPath "$INSTDIR"
   SetOverwrite try
   ClearErrors
   File "${FILES}/tarvik.exe"
+  File "${FILES}/README.txt"
+  File "${FILES}/CHANGELOG.txt"
   File "${FILES}/LICENSE.txt"
   File "${FILES}/third-party-notices.txt"
   SetOutPath "$INSTDIR\guide"
@@ -147,23 +264,28 @@ Section
   ${EndIf}
 
   ; The settings of an earlier installation are kept.
+  ${If} ${FileExists} "$earlierFolder\tarvik.dat"
+  ${AndIfNot} ${FileExists} "$INSTDIR\tarvik.dat"
+    CopyFiles /SILENT "$earlierFolder\tarvik.dat" "$INSTDIR\tarvik.dat"
+  ${EndIf}
   ${IfNot} ${FileExists} "$INSTDIR\tarvik.dat"
     FileOpen $R2 "$INSTDIR\tarvik.dat" w
     FileClose $R2
   ${EndIf}
   !insertmacro GrantUsers "$INSTDIR\tarvik.dat" ${FILE_OBJECT} "${FILE_RIGHTS}"
 
-  StrCpy $R3 ENG
+  StrCpy $languageCode ENG
   ${If} $LANGUAGE = ${LANG_SIMPCHINESE}
-    StrCpy $R3 CHS
+    StrCpy $languageCode CHS
   ${ElseIf} $LANGUAGE = ${LANG_TRADCHINESE}
-    StrCpy $R3 CHT
+    StrCpy $languageCode CHT
   ${EndIf}
-  WriteRegStr HKLM "${LANGUAGE_KEY}" Language $R3
+  WriteRegStr HKLM "${LANGUAGE_KEY}" Language $languageCode
   !insertmacro GrantUsers "MACHINE\${LANGUAGE_KEY}" ${REGISTRY_KEY} "${KEY_RIGHTS}"
 
   CreateShortCut "${SHORTCUT}" "$INSTDIR\tarvik.exe"
 
+  Call RemoveEarlier
   WriteUninstaller "$INSTDIR\uninstall.exe"
   WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayName "${PRODUCT}"
   WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
@@ -173,6 +295,10 @@ Section
   WriteRegStr HKLM "${UNINSTALL_KEY}" InstallerLanguage $LANGUAGE
   WriteRegStr HKLM "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\uninstall.exe"'
   WriteRegStr HKLM "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\uninstall.exe" /S'
+  WriteRegStr HKLM "${UNINSTALL_KEY}" HelpLink "$INSTDIR\guide\guide-$languageCode.html"
+!ifdef PAGE
+  WriteRegStr HKLM "${UNINSTALL_KEY}" URLInfoAbout "${PAGE}"
+!endif
   WriteRegDWORD HKLM "${UNINSTALL_KEY}" NoModify 1
   WriteRegDWORD HKLM "${UNINSTALL_KEY}" NoRepair 1
   ${GetSize} "$INSTDIR" "/S=0K" $R4 $R5 $R6
@@ -188,39 +314,19 @@ Function un.onInit
   ${EndIf}
 FunctionEnd
 
-; Takes away what the installer and the program made, name by name: a folder that holds anything else stays, with it.
-; The folder goes last, so that its end is the end of all.
+; The entries of an installation in another folder stay: this one is then a copy that nobody knows of.
 Section Uninstall
-  Delete "$INSTDIR\tarvik.exe"
-  ${If} ${FileExists} "$INSTDIR\tarvik.exe"
-    MessageBox MB_OK|MB_ICONSTOP "$(CopyFailed)" /SD IDOK
-    SetErrorLevel 2
-    Abort
+  !insertmacro WaitUntilClosed "$INSTDIR"
+  !insertmacro FindEarlier
+  !insertmacro AskIfSameFolder "$earlierFolder"
+  ${If} $isSameFolder = 1
+  ${OrIfNot} ${FileExists} "$earlierFolder\uninstall.exe"
+    Delete "${SHORTCUT}"
+    DeleteRegValue HKLM "${LANGUAGE_KEY}" Language
+    DeleteRegKey /ifempty HKLM "${LANGUAGE_KEY}"
+    DeleteRegKey /ifempty HKLM "Software\Vornhold\Brindle Tarvik"
+    DeleteRegKey /ifempty HKLM "Software\Vornhold"
+    DeleteRegKey HKLM "${UNINSTALL_KEY}"
   ${EndIf}
-  Delete "${SHORTCUT}"
-
-  DeleteRegValue HKLM "${LANGUAGE_KEY}" Language
-  DeleteRegKey /ifempty HKLM "${LANGUAGE_KEY}"
-  DeleteRegKey /ifempty HKLM "Software\Vornhold\Brindle Tarvik"
-  DeleteRegKey /ifempty HKLM "Software\Vornhold"
-  DeleteRegKey HKLM "${UNINSTALL_KEY}"
-
-  Delete "$INSTDIR\tarvik.dat"
-  Delete "$INSTDIR\LICENSE.txt"
-  Delete "$INSTDIR\third-party-notices.txt"
-  Delete "$INSTDIR\guide\guide-*.html"
-  Delete "$INSTDIR\guide\guide.css"
-  Delete "$INSTDIR\guide\images\*.png"
-  RMDir "$INSTDIR\guide\images"
-  RMDir "$INSTDIR\guide"
-  ; The program that the user started goes on as this copy of it, and holds its own file until it has ended: asked for
-  ; again for ten seconds.
-  ${For} $R0 1 100
-    Delete "$INSTDIR\uninstall.exe"
-    ${IfNot} ${FileExists} "$INSTDIR\uninstall.exe"
-      ${ExitFor}
-    ${EndIf}
-    Sleep 100
-  ${Next}
-  RMDir "$INSTDIR"
+  !insertmacro RemoveFiles "$INSTDIR"
 SectionEnd

@@ -7,13 +7,14 @@
 #include <sddl.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <optional>
-#include <string>
 #include <thread>
 
 #include "driver/Controls.h"
 #include "driver/Waiting.h"
+#include "packages/Installation.h"
 #include "platform/Handles.h"
 #include "platform/IconFiles.h"
 #include "platform/TemporaryFolder.h"
@@ -25,7 +26,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path home = L"C:\\Program Files\\Brindle Tarvik";
 constexpr const wchar_t* languageKey = L"MACHINE\\Software\\Vornhold\\Brindle Tarvik\\RegInfo";
 constexpr const wchar_t* keyAbove = L"MACHINE\\Software\\Vornhold\\Brindle Tarvik";
 
@@ -57,39 +57,6 @@ std::optional<OwnRights> OwnRightsOfUsers(const wchar_t* name, SE_OBJECT_TYPE ki
   return rights;
 }
 
-// Starts an installed program, in the folder of the installation.
-KernelHandle Start(const fs::path& program, const std::wstring& arguments = {}) {
-  std::wstring command = L"\"" + program.wstring() + L"\" " + arguments;
-  STARTUPINFOW startup{};
-  startup.cb = sizeof startup;
-  PROCESS_INFORMATION information{};
-  EXPECT_NE(CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr, home.c_str(), &startup,
-                           &information),
-            FALSE);
-  const KernelHandle thread(information.hThread);
-  return KernelHandle(information.hProcess);
-}
-
-// A visible window that has a control with that id, once there is one.
-Control WaitForWindowWith(int id) {
-  struct Search {
-    int id;
-    HWND found;
-  } search{id, nullptr};
-  Eventually([&search] {
-    EnumWindows(
-        [](HWND window, LPARAM data) {
-          auto& wanted = *reinterpret_cast<Search*>(data);
-          if (IsWindowVisible(window) == FALSE || GetDlgItem(window, wanted.id) == nullptr) return TRUE;
-          wanted.found = window;
-          return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.found != nullptr;
-  });
-  return Control(search.found);
-}
-
 TEST(InstalledRights, LetUsersOpenTheLanguageKeyAsTheProgramDoes) {
   const auto rights = OwnRightsOfUsers(languageKey, SE_REGISTRY_KEY);
   ASSERT_TRUE(rights);
@@ -108,7 +75,8 @@ TEST(InstalledProgram, FindsIconsInTheLanguageOfTheInstallation) {
   const std::string settings = ToUtf8((home / L"tarvik.dat").wstring());
   ASSERT_NE(WritePrivateProfileStringA("FindIcon", "Folder", folder.Path().c_str(), settings.c_str()), FALSE);
 
-  const KernelHandle process = Start(home / L"tarvik.exe");
+  const KernelHandle process = StartAsOrdinaryUser(home / L"tarvik.exe");
+  EXPECT_FALSE(IsOfAdministrator(process.get()));
 
   const Control window = WaitForWindowWith(FrmFindIcon_CmdFind);
   ASSERT_TRUE(window);
@@ -123,10 +91,32 @@ TEST(InstalledProgram, FindsIconsInTheLanguageOfTheInstallation) {
   EXPECT_STREQ(subDir, "False");
 }
 
+DWORD ExitCodeOf(const KernelHandle& process) {
+  DWORD code = STILL_ACTIVE;
+  EXPECT_EQ(WaitForSingleObject(process.get(), 60000), WAIT_OBJECT_0);
+  EXPECT_NE(GetExitCodeProcess(process.get(), &code), FALSE);
+  return code;
+}
+
+TEST(OpenProgram, KeepsTheInstallerAndTheUninstallerAway) {
+  const KernelHandle process = StartAsOrdinaryUser(home / L"tarvik.exe");
+  const Control window = WaitForWindowWith(FrmFindIcon_CmdFind);
+  ASSERT_TRUE(window);
+
+  EXPECT_EQ(ExitCodeOf(Start(ToWide(std::getenv("TARVIK_TEST_SETUP")), L"/S")), 2U);
+  // Told where it is, the uninstaller stays one process, whose exit code is seen.
+  EXPECT_EQ(ExitCodeOf(Start(home / L"uninstall.exe", L"/S _?=" + home.wstring())), 2U);
+  EXPECT_TRUE(fs::exists(home / L"tarvik.exe"));
+  EXPECT_TRUE(fs::exists(home / L"guide" / L"guide-eng.html"));
+
+  window.Post(WM_CLOSE);
+  EXPECT_EQ(WaitForSingleObject(process.get(), 60000), WAIT_OBJECT_0);
+}
+
 // As the program that the user started holds it, which goes on in a copy and may end later than that gets to its file.
 TEST(Uninstaller, RemovesItsOwnFileOnceNobodyHoldsItOpen) {
   const fs::path file = home / L"uninstall.exe";
-  FileHandle holder(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+  KernelHandle holder(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
   ASSERT_TRUE(holder);
   Start(file, L"/S");
   EXPECT_TRUE(Eventually([] { return !fs::exists(home / L"guide"); }));  // which is removed right before it

@@ -1,0 +1,17 @@
+"""Packs a folder: make_zip.py FOLDER ZIP. The zip holds the folder itself; the same files give the same bytes."""
+import pathlib
+import sys
+import zipfile
+
+# Every entry is from the same moment.
+MOMENT = (2026, 1, 1, 0, 0, 0)
+UNIX = 3  # the system that the rights of a file are written for
+
+folder, target = map(pathlib.Path, sys.argv[1:])
+with zipfile.ZipFile(target, 'w') as package:
+    for path in sorted(folder.rglob('*')):
+        if path.is_file():
+            entry = zipfile.ZipInfo(path.relative_to(folder.parent).as_posix(), MOMENT)
+            entry.create_system = UNIX
+            entry.external_attr = (0o755 if path.read_bytes()[:2] == b'#!' else 0o644) << 16
+            package.writestr(entry, path.read_bytes(), zipfile.ZIP_DEFLATED, 9)
