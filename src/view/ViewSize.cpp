@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 
 #include "base/Conversion.h"
@@ -19,11 +19,16 @@ constexpr const char* widthKey = "Width";
 constexpr const char* defaultHeight = "5310";
 constexpr const char* defaultWidth = "6645";
 
+// As many decimals as the number needs to come back the same from LeadingNumber. (std::to_chars would give the same
+// text, but its tables are a tenth of the program.)
 std::string NumberText(float value) {
-  // As many digits as a single-precision number needs to come back the same; none needs more than these.
-  std::array<char, 64> digits{};
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed).ptr;
-  return {digits.data(), end};
+  constexpr int mostDecimals = 149;  // of the smallest number
+  std::array<char, 200> text{};
+  for (int decimals = 0; decimals <= mostDecimals; ++decimals) {
+    std::snprintf(text.data(), text.size(), "%.*f", decimals, double{value});
+    if (LeadingNumber(text.data()) == value) break;
+  }
+  return text.data();
 }
 
 }  // namespace

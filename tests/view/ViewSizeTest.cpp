@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <charconv>
 #include <limits>
 #include <string>
 
@@ -35,6 +36,17 @@ TEST_F(ViewSizeTest, IsStoredAsDecimalTextWithAPoint) {
   WriteViewSize(settings, {6000, 7507.5F});
   EXPECT_EQ(store.values.at("Bitmapview/Height"), "6000");
   EXPECT_EQ(store.values.at("Bitmapview/Width"), "7507.5");
+}
+
+// The library's own shortest text is the measure.
+TEST_F(ViewSizeTest, IsStoredWithAsFewDecimalsAsItNeeds) {
+  for (const float side : {0.0F, 0.1F, 1.0F / 3, 7.5F, 99.99F, 4507.5F, 6645.0F, 123456.7F, 16777216.0F, 3e9F, 1.5e-7F,
+                           std::numeric_limits<float>::denorm_min(), largest, -largest, -0.25F}) {
+    std::array<char, 256> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), side, std::chars_format::fixed).ptr;
+    WriteViewSize(settings, {side, 0});
+    EXPECT_EQ(store.values.at("Bitmapview/Height"), std::string(digits.data(), end));
+  }
 }
 
 TEST(LeadingNumber, IsWhatATextBeginsWith) {
