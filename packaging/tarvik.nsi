@@ -55,6 +55,7 @@ VIAddVersionKey /LANG=1033 LegalCopyright "Copyright 2026 The Brindle Tarvik dev
 
 !define MUI_ICON "../src/tarvik.ico"
 !define MUI_UNICON "../src/tarvik.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "installer.bmp"
 !define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_RUN
 !define MUI_FINISHPAGE_RUN_FUNCTION StartProgram
