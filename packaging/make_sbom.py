@@ -125,8 +125,9 @@ def main(version, map_file, libraries, program, installer, zip_file, target):
                    externalRefs=[debian_reference('nsis', version_of('nsis'), 'amd64')])
     files = [file_entry('program', pathlib.Path(program), 'MIT'), file_entry('installer', pathlib.Path(installer), 'MIT'),
              file_entry('zip', pathlib.Path(zip_file), 'MIT')]
-    links = [('SPDXRef-DOCUMENT', 'DESCRIBES', tarvik['SPDXID'])]
-    links += [(tarvik['SPDXID'], 'CONTAINS', entry['SPDXID']) for entry in files]
+    links = [('SPDXRef-DOCUMENT', 'DESCRIBES', entry['SPDXID']) for entry in (tarvik, *files)]
+    # A package whose files were not analysed may not contain any.
+    links += [(tarvik['SPDXID'], 'GENERATES', entry['SPDXID']) for entry in files]
     links += [('SPDXRef-File-program', 'STATIC_LINK', entry['SPDXID']) for entry in inside]
     links += [('SPDXRef-File-installer', 'CONTAINS', nsis['SPDXID'])]
     texts = [{'licenseId': licence, 'name': heading, 'extractedText': extracted_text(heading)}

@@ -16,7 +16,7 @@ FIELDS = {
                 'supplier': 'NOASSERTION|Organization: .+', 'primaryPackagePurpose': 'APPLICATION|LIBRARY|INSTALL'},
     'file': {'SPDXID': r'SPDXRef-[A-Za-z0-9.-]+', 'fileName': r'\./\S+', 'licenseConcluded': '.+', 'copyrightText': '.+'},
     'relationship': {'spdxElementId': 'SPDXRef-.+', 'relatedSpdxElement': 'SPDXRef-.+',
-                     'relationshipType': 'DESCRIBES|CONTAINS|STATIC_LINK'},
+                     'relationshipType': 'DESCRIBES|GENERATES|CONTAINS|STATIC_LINK'},
 }
 # The licences that the document may name, as SPDX calls them, and the exception.
 LICENCES = {'MIT', 'IJG', 'BSD-2-Clause', 'BSD-3-Clause', 'Zlib', 'CPL-1.0', 'GPL-3.0-or-later'}
@@ -74,6 +74,8 @@ def check_form(document):
                 check(re.fullmatch(REFERENCES[each['referenceType']], each['referenceLocator']), each['referenceLocator'])
     for entry in document['relationships']:
         check_fields('relationship', entry)
+        check(entry['relationshipType'] != 'CONTAINS' or entry['spdxElementId'].startswith('SPDXRef-File-'),
+              f'a package that contains what was not analysed: {entry}')
         check({entry['spdxElementId'], entry['relatedSpdxElement']} <= ids, f'a relationship of what is not there: {entry}')
 
 
