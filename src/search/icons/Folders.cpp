@@ -195,7 +195,7 @@ bool IsReadableFolder(const std::string& path) {
 
 bool IsFolder(const std::string& path) {
   if (FolderChain(path).size() < 2) return true;
-  const NoDriveMessages quiet;
+  const Finally quiet = StopDriveMessages();
   const DWORD attributes = GetFileAttributesW(LiteralPath(path).c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
