@@ -84,7 +84,7 @@ endif()
 # Nor does it need what makes it large: loops unrolled, two tables of 64 KB for what the processor has an instruction for,
 # arithmetic coding, which nothing reads, and a limit of memory from the environment with a number reader of its own.
 include(ExternalProject)
-set(jpeg_flags "${library_flags} -DUSE_CLZ_INTRINSIC -DNO_GETENV")
+set(jpeg_flags "${library_flags} -DUSE_CLZ_INTRINSIC -DNO_GETENV -DNO_PUTENV")
 cmake_path(GET jpeg_source FILENAME jpeg_name)
 set(jpeg_build ${PROJECT_BINARY_DIR}/${jpeg_name})
 set(jpeg_library ${jpeg_build}/${CMAKE_STATIC_LIBRARY_PREFIX}jpeg${CMAKE_STATIC_LIBRARY_SUFFIX})
