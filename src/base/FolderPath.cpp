@@ -67,6 +67,12 @@ std::string AbsoluteFolderPath(std::string_view path, const std::string& base) {
   return TidyFolderPath(start + separator + tidy);
 }
 
+// "\\?\C:\a" is a longer form of a path with a drive.
+bool IsOnOtherComputer(std::string_view path) {
+  constexpr std::string_view longForm = "\\\\?\\";
+  return IsNetworkPath(path) && !(path.starts_with(longForm) && HasDrive(path.substr(longForm.size())));
+}
+
 std::vector<std::string> FolderChain(const std::string& path) {
   std::vector<std::string> chain;
   std::size_t end = RootLength(path);

@@ -17,6 +17,10 @@ std::string TidyFolderPath(std::string_view path);
 // An empty path stays empty.
 std::string AbsoluteFolderPath(std::string_view path, const std::string& base);
 
+// Whether the path names a computer: a share of it ("\\server\share"), also in its longer form ("\\?\UNC\..."), or a
+// device of its own. To read there is to contact that computer.
+bool IsOnOtherComputer(std::string_view path);
+
 // The folders from the root down to `path`, itself included: "C:\", "C:\a", "C:\a\b".
 std::vector<std::string> FolderChain(const std::string& path);
 

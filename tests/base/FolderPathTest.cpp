@@ -47,6 +47,14 @@ TEST(AbsoluteFolderPath, StartsAnyOtherPathAtTheBase) {
   EXPECT_EQ(AbsoluteFolderPath("\\icons", "\\\\server\\share\\program"), "\\\\server\\share\\icons");
 }
 
+TEST(IsOnOtherComputer, IsTrueOfSharesAndDevicesInEveryForm) {
+  for (const char* path : {R"(\\server\share)", R"(\\server\share\a)", R"(\\server)", R"(\\?\UNC\server\share)",
+                           R"(\\.\UNC\server\share)", R"(\\?\GLOBALROOT\Device\Mup\server\share)"})
+    EXPECT_TRUE(IsOnOtherComputer(path)) << path;
+  for (const char* path : {R"(C:\)", R"(C:\a)", R"(\\?\C:\a)", R"(\a)", "a", ""})
+    EXPECT_FALSE(IsOnOtherComputer(path)) << path;
+}
+
 TEST(FolderChain, GoesFromTheRootDownToTheFolderItself) {
   EXPECT_EQ(FolderChain("C:\\"), (Chain{"C:\\"}));
   EXPECT_EQ(FolderChain("C:\\a\\b"), (Chain{"C:\\", "C:\\a", "C:\\a\\b"}));

@@ -90,10 +90,13 @@ void FrmFindIcon::AttachControls() {
   chkSubDir_ = Item(FrmFindIcon_chkSubDir);
   drive1_.Attach(Item(FrmFindIcon_Drive1), dependencies_.drives);
   dir1_.Attach(
-      Item(FrmFindIcon_Dir1), [this](const std::string& folder) { return dependencies_.folders.SubFolders(folder); },
+      Item(FrmFindIcon_Dir1),
+      [this](const std::string& folder) {
+        return folder == unreadFolder_ ? std::vector<std::string>() : dependencies_.folders.SubFolders(folder);
+      },
       [this] { Dir1_Change(); });
   file1_.Attach(Item(FrmFindIcon_File1), [this](const std::string& folder, const std::string& pattern) {
-    return dependencies_.folders.Files(folder, pattern);
+    return folder == unreadFolder_ ? std::vector<std::string>() : dependencies_.folders.Files(folder, pattern);
   });
   udMain_.Attach(Item(FrmFindIcon_udMain));
   grid_.Attach(Item(FrmFindIcon_PicFrame), Item(FrmFindIcon_Vsb), FrmFindIcon_PicIcons);
@@ -148,7 +151,13 @@ void FrmFindIcon::LoadSettings() {
   Settings& settings = dependencies_.settings;
   const std::string& ownFolder = dependencies_.programFolder;
   std::string folder = AbsoluteFolderPath(settings.ReadIniSetting(settingsSection, folderKey, ownFolder), ownFolder);
-  if (!dependencies_.isReadableFolder(folder)) folder = TidyFolderPath(ownFolder);
+  const std::string tidyOwnFolder = TidyFolderPath(ownFolder);
+  // Another user of this computer may have written the setting, and to read from a computer is to log on there.
+  if (IsOnOtherComputer(folder) && folder != tidyOwnFolder) {
+    unreadFolder_ = folder;
+  } else if (!dependencies_.isReadableFolder(folder)) {
+    folder = tidyOwnFolder;
+  }
   dir1_.SetPath(folder);
   drive1_.ChooseDriveOf(folder);
   const std::string subDir = settings.ReadIniSetting(settingsSection, subDirKey, TruthText(false));

@@ -109,6 +109,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void AttachControls();
   void LayOutLimit();
   void TickType(std::size_t box);
+  void ReadUnreadFolder();
   void ShowTipAt(double x, double y);
   void LoadSettings();
   void SaveSettings();
@@ -124,6 +125,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   HWND chkSubDir_ = nullptr;
   DirListBox dir1_;
   FileListBox file1_;
+  std::string unreadFolder_;  // the settings' folder on another computer, which the user did not open or search so far
   ShownFolders folders_{dir1_, file1_, dependencies_.folders};
   IconGrid grid_;
   PictureContent gridContent_;  // the grid read aloud

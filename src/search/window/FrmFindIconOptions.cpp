@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "base/Conversion.h"
 #include "base/Finally.h"
@@ -47,11 +48,20 @@ void FrmFindIcon::Drive1_Change() {
 }
 
 void FrmFindIcon::Dir1_Change() {
+  if (dir1_.Path() != unreadFolder_) unreadFolder_.clear();
   file1_.SetPath(dir1_.Path());
 }
 
 void FrmFindIcon::Dir1_DblClick() {
-  if (!state_.IsSearching) dir1_.OpenChosen();
+  if (state_.IsSearching) return;
+  ReadUnreadFolder();
+  dir1_.OpenChosen();
+}
+
+void FrmFindIcon::ReadUnreadFolder() {
+  if (std::exchange(unreadFolder_, {}).empty()) return;
+  dir1_.Reread();
+  file1_.Reread();
 }
 
 void FrmFindIcon::ChkFileType_Click() {
@@ -93,6 +103,7 @@ void FrmFindIcon::txtMax_Change() {
 
 void FrmFindIcon::CmdFind_Click() {
   if (state_.IsSearching) return;
+  unreadFolder_.clear();
   // The walk moves both lists through every folder; they show again where it ends.
   const Finally showsFiles = file1_.Hold();
   const Finally showsFolders = dir1_.Hold();

@@ -118,8 +118,11 @@ class FindIconFixture : public ::testing::Test {
                                   icons,
                                   folders,
                                   [this] { return drives; },
-                                  [](const std::string& folder) { return !folder.starts_with("D:"); },
-                                  "C:\\program",
+                                  [this](const std::string& folder) {
+                                    lookedAt.push_back(folder);
+                                    return !folder.starts_with("D:");
+                                  },
+                                  programFolder,
                                   [this] { ++aboutShown; },
                                   [this] { ++guideShown; },
                                   {dialogs, files, temporaryBitmap},
@@ -176,6 +179,8 @@ class FindIconFixture : public ::testing::Test {
   TemporaryBitmap temporaryBitmap{TemporaryBitmapPaths()};
   AnsweredDialogs dialogs{application, state, [this] { return window->Window(); }};
   TaskBar* taskBar = nullptr;  // settled before the window opens
+  std::string programFolder = "C:\\program";
+  std::vector<std::string> lookedAt;  // the folders of which the window asked whether they can be read
   int aboutShown = 0;
   int guideShown = 0;
   std::vector<DriveListBox::Drive> drives{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
