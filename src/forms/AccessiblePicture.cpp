@@ -8,6 +8,7 @@
 #include <new>
 
 #include "base/NonCopyable.h"
+#include "forms/PictureBox.h"
 #include "platform/ComUse.h"
 #include "platform/SystemFunctions.h"
 #include "platform/Text.h"
@@ -163,12 +164,13 @@ HRESULT AccessiblePicture::accLocation(LONG* left, LONG* top, LONG* width, LONG*
   if (left == nullptr || top == nullptr || width == nullptr || height == nullptr) return E_POINTER;
   const auto item = ChosenItem();
   if (!item) return S_FALSE;
-  POINT corner{item->bounds.left, item->bounds.top};
+  const RECT place = PictureBox::PlaceInWindow(window_, item->bounds);
+  POINT corner{place.left, place.top};
   ClientToScreen(window_, &corner);
   *left = corner.x;
   *top = corner.y;
-  *width = item->bounds.right - item->bounds.left;
-  *height = item->bounds.bottom - item->bounds.top;
+  *width = place.right - place.left;
+  *height = place.bottom - place.top;
   return S_OK;
 }
 

@@ -108,6 +108,8 @@ class Form : NonCopyable {
   virtual bool Form_QueryEndSession() { return true; }
   virtual void Form_Unload() {}
   virtual void Form_Resize() {}
+  // The least size that the user can give the window, frame and caption included, in display pixels; 0 asks for none.
+  virtual SIZE SmallestSize() const { return {}; }
   virtual void Form_Paint(HDC) {}
 
   // A command of a control or menu item; false where nobody handles it. Forms hand it to Dispatch with their table.

@@ -5,7 +5,12 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <new>
 #include <optional>
+#include <utility>
+
+#include "base/Point.h"
+#include "base/RuntimeError.h"
 
 namespace tarvik {
 namespace {
@@ -36,32 +41,78 @@ int HeldKeys(WPARAM keys) {
          (GetKeyState(VK_MENU) < 0 ? altMask : 0);
 }
 
+// What belongs to a box, for as long as its window exists.
+struct Box {
+  const Surface* picture = nullptr;
+  const PictureContent* content = nullptr;
+  DisplayScale scale;
+  int rowsAbove = 0;  // display rows of the picture that begin above the window's top, see PictureBox::ScrollTo
+  std::optional<Surface> tile;  // in which enlarged parts are made, one after the other
+};
+
+// Small enough for a processor's cache.
+constexpr int tileWidth = 256;
+constexpr int tileHeight = 64;
+
+// Sides of windows and positions in messages have 16 bits.
+constexpr int maxSide = 32767;
+
+Box* BoxOf(HWND window) {
+  return reinterpret_cast<Box*>(GetWindowLongPtrW(window, 0));
+}
+
+const PictureContent* ContentOf(HWND window) {
+  const Box* box = BoxOf(window);
+  return box != nullptr ? box->content : nullptr;
+}
+
 std::optional<PictureEvent> ToEvent(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   const auto* row = std::ranges::find(pointerMessages, message, &PointerMessage::message);
   if (row == std::end(pointerMessages)) return std::nullopt;
-  return PictureEvent{row->kind,        GetDlgCtrlID(window), row->button != 0 ? row->button : HeldButtons(wParam),
-                      HeldKeys(wParam), GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  const Box& box = *BoxOf(window);
+  return PictureEvent{row->kind,
+                      GetDlgCtrlID(window),
+                      row->button != 0 ? row->button : HeldButtons(wParam),
+                      HeldKeys(wParam),
+                      box.scale.FromDisplay(GET_X_LPARAM(lParam)),
+                      box.scale.FromDisplay(GET_Y_LPARAM(lParam) + box.rowsAbove)};
 }
 
-// The box's own memory: its picture and its content.
-constexpr int pictureAt = 0;
-constexpr int contentAt = sizeof(LONG_PTR);
+// The size of the picture on the display.
+SIZE ShownSize(const Box& box) {
+  return {box.scale.ToDisplay(box.picture->Width()), box.scale.ToDisplay(box.picture->Height())};
+}
 
-const PictureContent* ContentOf(HWND window) {
-  return reinterpret_cast<const PictureContent*>(GetWindowLongPtrW(window, contentAt));
+void PaintEnlarged(HDC dc, Box& box, const RECT& part) {
+  for (LONG top = part.top; top < part.bottom; top += tileHeight) {
+    for (LONG left = part.left; left < part.right; left += tileWidth) {
+      box.tile->FillEnlarged(*box.picture, box.scale, Point{left, top + box.rowsAbove});
+      BitBlt(dc, left, top, std::min<int>(tileWidth, part.right - left), std::min<int>(tileHeight, part.bottom - top),
+             box.tile->Dc(), 0, 0, SRCCOPY);
+    }
+  }
+}
+
+void PaintPicture(HDC dc, Box& box, const RECT& part) {
+  const SIZE size = ShownSize(box);
+  const RECT whole{0, 0, size.cx, size.cy - box.rowsAbove};
+  RECT seen{};
+  IntersectRect(&seen, &part, &whole);
+  if (box.scale.IsOne()) {
+    BitBlt(dc, seen.left, seen.top, seen.right - seen.left, seen.bottom - seen.top, box.picture->Dc(), seen.left,
+           seen.top + box.rowsAbove, SRCCOPY);
+  } else {
+    PaintEnlarged(dc, box, seen);
+  }
+  ExcludeClipRect(dc, whole.left, whole.top, whole.right, whole.bottom);
 }
 
 void Paint(HWND window) {
   PAINTSTRUCT paint;
   const HDC dc = BeginPaint(window, &paint);
-  const auto* picture = reinterpret_cast<const Surface*>(GetWindowLongPtrW(window, pictureAt));
   const RECT rest = paint.rcPaint;
-  if (picture != nullptr) {
-    const RECT& part = paint.rcPaint;
-    BitBlt(dc, part.left, part.top, part.right - part.left, part.bottom - part.top, picture->Dc(), part.left, part.top,
-           SRCCOPY);
-    ExcludeClipRect(dc, 0, 0, picture->Width(), picture->Height());
-  }
+  Box& box = *BoxOf(window);
+  if (box.picture != nullptr) PaintPicture(dc, box, paint.rcPaint);
   FillRect(dc, &rest, GetSysColorBrush(COLOR_WINDOW));
   EndPaint(window, &paint);
 }
@@ -83,7 +134,7 @@ void PictureBox::Register(HINSTANCE instance) {
   WNDCLASSW definition{};
   definition.style = CS_DBLCLKS;
   definition.lpfnWndProc = WindowProcedure;
-  definition.cbWndExtra = 2 * sizeof(LONG_PTR);
+  definition.cbWndExtra = sizeof(LONG_PTR);
   definition.hInstance = instance;
   definition.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   definition.lpszClassName = className;
@@ -92,24 +143,71 @@ void PictureBox::Register(HINSTANCE instance) {
 
 PictureBox PictureBox::Create(HWND parent, int id, int width, int height) {
   const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(parent, GWLP_HINSTANCE));
-  return PictureBox(CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE, 0, 0, width, height, parent,
-                                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr));
+  const HWND window = CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE, 0, 0, width, height, parent,
+                                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
+  if (window == nullptr) throw NoWindowError();
+  return PictureBox(window);
 }
 
 void PictureBox::Show(const Surface* picture) {
-  SetWindowLongPtrW(window_, pictureAt, reinterpret_cast<LONG_PTR>(picture));
+  BoxOf(window_)->picture = picture;
   InvalidateRect(window_, nullptr, FALSE);
 }
 
 void PictureBox::Describe(const PictureContent* content) {
-  SetWindowLongPtrW(window_, contentAt, reinterpret_cast<LONG_PTR>(content));
+  BoxOf(window_)->content = content;
+}
+
+void PictureBox::EnlargeBy(const DisplayScale& scale) {
+  Box& box = *BoxOf(window_);
+  if (!scale.IsOne()) box.tile.emplace(tileWidth, tileHeight, white);
+  box.scale = scale;
+  InvalidateRect(window_, nullptr, FALSE);
+}
+
+void PictureBox::FitPicture() {
+  const SIZE size = ShownSize(*BoxOf(window_));
+  SetWindowPos(window_, nullptr, 0, 0, std::min<int>(size.cx, maxSide), std::min<int>(size.cy, maxSide),
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// The window is as high as the picture on the display and moves with it. Where that is higher than a window can be, the
+// window stays where it is, and the picture moves in it.
+void PictureBox::ScrollTo(int row) {
+  Box& box = *BoxOf(window_);
+  const int top = box.scale.ToDisplay(row);
+  const int rowsAbove = ShownSize(box).cy > maxSide ? top : 0;
+  if (std::exchange(box.rowsAbove, rowsAbove) != rowsAbove) InvalidateRect(window_, nullptr, FALSE);
+  SetWindowPos(window_, nullptr, 0, rowsAbove - top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void PictureBox::Refresh() {
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
 }
 
+void PictureBox::Invalidate(const RECT& part) {
+  const RECT place = PlaceInWindow(window_, part);
+  InvalidateRect(window_, &place, FALSE);
+}
+
+RECT PictureBox::PlaceInWindow(HWND window, const RECT& part) {
+  const Box* box = BoxOf(window);
+  if (box == nullptr) return part;
+  const DisplayScale::Range across = box->scale.Showing({part.left, part.right});
+  const DisplayScale::Range down = box->scale.Showing({part.top, part.bottom});
+  return {across.begin, down.begin - box->rowsAbove, across.end, down.end - box->rowsAbove};
+}
+
 LRESULT CALLBACK PictureBox::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    auto* const box = new (std::nothrow) Box;
+    if (box == nullptr) return FALSE;
+    SetWindowLongPtrW(window, 0, reinterpret_cast<LONG_PTR>(box));
+  }
+  if (message == WM_NCDESTROY) {
+    delete BoxOf(window);
+    SetWindowLongPtrW(window, 0, 0);
+  }
   if (message == WM_PAINT) {
     Paint(window);
     return 0;

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "base/DisplayScale.h"
 #include "forms/AccessiblePicture.h"
 #include "platform/Surface.h"
 
@@ -23,6 +24,9 @@ int HeldKeys();
 
 // A child window that shows a picture kept in memory, or its background where it has none. In a dialog template its
 // class is "TarvikPicture". It sends eventMessage to its form, lParam pointing at a PictureEvent.
+//
+// A box can show its picture enlarged. It alone knows: whoever draws on the picture or gets its events counts in the
+// picture's pixels.
 class PictureBox {
  public:
   static constexpr UINT eventMessage = WM_APP + 1;
@@ -33,17 +37,28 @@ class PictureBox {
   PictureBox() = default;
   explicit PictureBox(HWND window) : window_(window) {}
 
-  // A picture box inside another window, with its top-left corner at (0, 0).
+  // A picture box inside another window, with its top-left corner at (0, 0). Throws NoWindowError if the system makes
+  // none.
   static PictureBox Create(HWND parent, int id, int width, int height);
 
   HWND Window() const { return window_; }
   // Shows `picture` from now on, with its top-left corner in the window's; null for none. The picture belongs to the
   // caller and must outlive the window or be replaced.
   void Show(const Surface* picture);
+  // Has the box show its pictures enlarged. Throws OutOfMemoryError if there is no memory for it.
+  void EnlargeBy(const DisplayScale& scale);
+  // Gives the window the size that its picture has on the display.
+  void FitPicture();
+  // Moves the window so that the picture's row `row` is at the top of the parent window, and its left edge at the left.
+  void ScrollTo(int row);
   // Has the picture read aloud as this list. The content outlives the window.
   void Describe(const PictureContent* content);
   // Repaints from the picture, now.
   void Refresh();
+  // Repaints this part of the picture some time.
+  void Invalidate(const RECT& part);
+  // Where a part of the picture of the box `window` is in that window, in display pixels.
+  static RECT PlaceInWindow(HWND window, const RECT& part);
 
  private:
   static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

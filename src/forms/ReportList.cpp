@@ -1,5 +1,6 @@
 #include "forms/ReportList.h"
 
+#include "platform/Display.h"
 #include "platform/Text.h"
 
 namespace tarvik {
@@ -34,11 +35,12 @@ LRESULT CALLBACK ReportList::Procedure(HWND window, UINT message, WPARAM wParam,
 void ReportList::Clear(std::span<const Column> columns) {
   SetRowCount(0);
   for (; columns_ > 0; --columns_) ListView_DeleteColumn(window_, columns_ - 1);
+  const DisplayScale scale = ScaleOfDisplay();
   for (const Column& column : columns) {
     std::wstring title = ToWide(column.title);
     LVCOLUMNW definition{};
     definition.mask = LVCF_TEXT | LVCF_WIDTH;
-    definition.cx = column.width;
+    definition.cx = scale.ToDisplay(column.width);
     definition.pszText = title.data();
     SendMessageW(window_, LVM_INSERTCOLUMNW, static_cast<WPARAM>(columns_++), reinterpret_cast<LPARAM>(&definition));
   }

@@ -19,7 +19,7 @@ class ReportList {
  public:
   struct Column {
     std::string_view title;  // UTF-8
-    int width;               // pixels
+    int width;               // pixels, which the display enlarges
   };
 
   // How a row is written.

@@ -5,6 +5,7 @@
 #include <windowsx.h>
 
 #include "forms/Bounds.h"
+#include "platform/Display.h"
 #include "platform/Handles.h"
 
 namespace tarvik {
@@ -26,13 +27,16 @@ void IconGrid::Attach(HWND frame, HWND bar, int pictureId) {
   extent_.reset();
   const RECT bounds = BoundsInParent(frame_);
   const int border = 2 * GetSystemMetrics(SM_CXEDGE);
-  const int width = WidestGrid() + border;
-  const int height = viewportHeight + border;
+  const DisplayScale scale = ScaleOfDisplay();
+  const int width = scale.ToDisplay(WidestGrid()) + border;
+  const int height = scale.ToDisplay(viewportHeight) + border;
   constexpr UINT flags = SWP_NOZORDER | SWP_NOACTIVATE;
   SetWindowPos(frame_, nullptr, bounds.left, bounds.top, width, height, flags);
   SetWindowPos(bar, nullptr, bounds.left + width, bounds.top, GetSystemMetrics(SM_CXVSCROLL), height, flags);
   picIcons_ = PictureBox::Create(frame_, pictureId, picture_.Width(), picture_.Height());
   picIcons_.Show(&picture_);
+  picIcons_.EnlargeBy(scale);
+  picIcons_.FitPicture();
 }
 
 RECT IconGrid::Bounds() const {
@@ -41,6 +45,17 @@ RECT IconGrid::Bounds() const {
   const RECT bar = BoundsInParent(vsb_.Window());
   UnionRect(&bounds, &frame, &bar);
   return bounds;
+}
+
+// NOLINTNEXTLINE(readability-make-member-function-const): it moves what belongs to the grid
+void IconGrid::Place(POINT corner, int width) {
+  const RECT frame = BoundsInParent(frame_);
+  const RECT bar = BoundsInParent(vsb_.Window());
+  const int barWidth = bar.right - bar.left;
+  const int height = frame.bottom - frame.top;
+  constexpr UINT flags = SWP_NOZORDER | SWP_NOACTIVATE;
+  SetWindowPos(frame_, nullptr, corner.x, corner.y, width - barWidth, height, flags);
+  SetWindowPos(vsb_.Window(), nullptr, corner.x + width - barWidth, corner.y, barWidth, height, flags);
 }
 
 void IconGrid::Show(bool shown) const {
@@ -80,7 +95,7 @@ bool IconGrid::OnWheel(const MSG& message) {
 // The one function that sets the bar's value and the picture's position, so that they cannot differ.
 void IconGrid::ScrollTo(int value) {
   vsb_.SetValue(value);
-  SetWindowPos(picIcons_.Window(), nullptr, 0, -vsb_.Value(), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  picIcons_.ScrollTo(vsb_.Value());
 }
 
 void IconGrid::Clear() {
@@ -101,8 +116,7 @@ void IconGrid::Size(const GridGeometry& geometry, int iconCount) {
 void IconGrid::Fit(const GridGeometry& geometry, const GridExtent& extent) {
   extent_.reset();
   picture_.Resize(picture_.Width(), extent.height, white);
-  SetWindowPos(picIcons_.Window(), nullptr, 0, 0, picture_.Width(), picture_.Height(),
-               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  picIcons_.FitPicture();
   vsb_.SetRange({0, extent.scrollMaximum, geometry.CellPitch, viewportHeight}, viewportHeight);
   EnableWindow(vsb_.Window(), extent.scrolls ? TRUE : FALSE);
   extent_ = extent;
@@ -118,7 +132,7 @@ void IconGrid::DrawFrame(Point corner, Point farCorner, bool shown) {
   // The far corner belongs to the frame; GDI leaves its own last row and column out.
   const RECT bounds{corner.x, corner.y, farCorner.x + 1, farCorner.y + 1};
   Rectangle(picture_.Dc(), bounds.left, bounds.top, bounds.right, bounds.bottom);
-  InvalidateRect(picIcons_.Window(), &bounds, FALSE);
+  picIcons_.Invalidate(bounds);
 }
 
 }  // namespace tarvik

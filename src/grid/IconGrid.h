@@ -20,15 +20,19 @@ class IconGrid final : public GridView {
   IconGrid();
 
   // Takes over the viewport `frame` and the scroll bar `bar`, children of one window, and makes the picture box with
-  // the id `pictureId`. The viewport becomes as many pixels wide and high as the grids need, whatever the size of the
-  // dialog's font, and the bar moves to its right edge.
+  // the id `pictureId`. The viewport becomes as many pixels wide and high as the grids need, enlarged as the display
+  // enlarges, whatever the size of the dialog's font, and the bar moves to its right edge. The bar's values are the
+  // picture's pixels.
   void Attach(HWND frame, HWND bar, int pictureId);
   // Has the picture read aloud as this list, and tells who listens that another of its items is chosen. The content
   // outlives the windows.
   void Describe(const PictureContent* content) { picIcons_.Describe(content); }
   void TellChosenItem() const { tarvik::TellChosenItem(picIcons_.Window()); }
-  // The rectangle of viewport and bar together, in pixels of their parent window.
+  // The rectangle of viewport and bar together, in display pixels of their parent window.
   RECT Bounds() const;
+  // Moves both there and makes them `width` display pixels wide together. The height stays, and so does the picture: a
+  // wider viewport is empty to the right of it.
+  void Place(POINT corner, int width);
   void Show(bool shown) const;
 
   // Scrolls as the user asks by WM_VSCROLL; nothing if that came from another bar.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Enlargement.h"
 #include "base/NonCopyable.h"
 #include "base/PixelCopy.h"
 #include "base/RuntimeError.h"
@@ -10,8 +11,6 @@
 
 namespace tarvik {
 namespace {
-
-constexpr int bytesPerPixel = 3;
 
 // A row of a DIB is a whole number of 4-byte words.
 std::size_t RowBytes(int width) {
@@ -106,6 +105,13 @@ void Surface::Copy(const PixelView& picture) {
       pixel += bytesPerPixel;
     }
   }
+}
+
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the picture
+void Surface::FillEnlarged(const Surface& picture, const DisplayScale& scale, Point corner) {
+  GdiFlush();
+  Enlarge({picture.section_->bits, RowBytes(picture.width_), picture.width_, picture.height_}, scale, corner,
+          {section_->bits, RowBytes(width_), width_, height_});
 }
 
 void Surface::Resize(int width, int height, Color background) {

@@ -6,9 +6,11 @@
 #include <memory>
 #include <span>
 
+#include "base/DisplayScale.h"
 #include "base/DrawSurface.h"
 #include "base/NonCopyable.h"
 #include "base/PixelView.h"
+#include "base/Point.h"
 
 namespace tarvik {
 
@@ -33,6 +35,9 @@ class Surface final : public DrawSurface, public PixelView, NonCopyable {
   void Combine(const Surface& source, DWORD operation);
   // Copies the picture over it, corner on corner, as far as both go.
   void Copy(const PixelView& picture);
+  // Fills it with a part of `picture` as a display of that scale shows it (see Enlarge): the part whose top-left corner
+  // is at `corner`, in display pixels.
+  void FillEnlarged(const Surface& picture, const DisplayScale& scale, Point corner);
   // Changes the size. What was drawn stays where both sizes hold it; the rest becomes `background`.
   void Resize(int width, int height, Color background);
 

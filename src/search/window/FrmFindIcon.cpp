@@ -8,8 +8,6 @@
 #include <utility>
 
 #include "base/FolderPath.h"
-#include "forms/Bounds.h"
-#include "platform/Handles.h"
 #include "platform/Text.h"
 #include "resource.h"
 #include "search/icons/FilePattern.h"
@@ -31,21 +29,6 @@ constexpr const char* subDirKey = "Subdir";
 
 // A step of an animation is tried out at (50, 50) of the window's own surface, at the grid's icon size.
 constexpr int ownSurfaceSide = 50 + 64;
-
-void Move(HWND item, int left, int top, int width, int height) {
-  SetWindowPos(item, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-// The width of a control's text in its own font, in pixels.
-int TextWidth(HWND item) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)) + 1, L'\0');
-  text.resize(static_cast<std::size_t>(GetWindowTextW(item, text.data(), static_cast<int>(text.size()))));
-  const WindowDc dc(item);
-  const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(item, WM_GETFONT, 0, 0)));
-  RECT bounds{};
-  DrawTextW(dc.get(), text.c_str(), -1, &bounds, DT_CALCRECT | DT_SINGLELINE);
-  return bounds.right;
-}
 
 }  // namespace
 
@@ -69,7 +52,7 @@ void FrmFindIcon::Form_Load() {
   AttachControls();
   AcceptDrops();
   progress_.Attach(Window());
-  LayOutLimit();
+  layout_.Begin(*this, grid_);
   basInitEntry::ApplySkinToForm(*this);
   basInitEntry::CenterForm(*this);
 
@@ -104,8 +87,6 @@ void FrmFindIcon::AttachControls() {
   grid_.Describe(&gridContent_);
   gridTip_.Attach(GetDlgItem(Item(FrmFindIcon_PicFrame), FrmFindIcon_PicIcons));
   lv_.Attach(Item(FrmFindIcon_Lv));
-  const RECT bounds = grid_.Bounds();  // the list takes the grid's place
-  Move(lv_.Window(), bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top);
   lv_.cellText = [this](int row, int column) {
     return list_.Has(row + 1) ? IconListCell(list_, row + 1, static_cast<std::size_t>(column)) : std::string();
   };
@@ -116,19 +97,8 @@ void FrmFindIcon::AttachControls() {
   lv_.choose = [this](const ReportList::Choice& choice) { Lv_Choose(choice); };
 }
 
-// The limit's box stands right behind its label, and the rest of the row behind the box, in every language. Both labels
-// are as wide as their texts: a label that reached under the box would wipe it when it is drawn alone.
-void FrmFindIcon::LayOutLimit() {
-  const HWND label = Item(FrmFindIcon_SkinLabel1);
-  const RECT bounds = BoundsInParent(label);
-  const int space = bounds.bottom - bounds.top;
-  Move(label, bounds.left, bounds.top, TextWidth(label), bounds.bottom - bounds.top);
-  const int shift = bounds.left + TextWidth(label) + space / 2 - BoundsInParent(Item(FrmFindIcon_txtMax)).left;
-  for (const int id : {FrmFindIcon_txtMax, FrmFindIcon_udMain, FrmFindIcon_SkinLabel2}) {
-    const RECT former = BoundsInParent(Item(id));
-    const int width = id == FrmFindIcon_SkinLabel2 ? TextWidth(Item(id)) : former.right - former.left;
-    Move(Item(id), former.left + shift, former.top, width, former.bottom - former.top);
-  }
+void FrmFindIcon::Form_Resize() {
+  layout_.Arrange(IsChecked(FrmFindIcon_OptView1));
 }
 
 bool FrmFindIcon::Form_QueryUnload() {

@@ -19,6 +19,7 @@
 #include "search/icons/IconList.h"
 #include "search/window/CapturedEntries.h"
 #include "search/window/FindIconDependencies.h"
+#include "search/window/FindIconLayout.h"
 #include "search/window/ShownFolders.h"
 #include "view/frmBit.h"
 
@@ -42,6 +43,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   bool Form_QueryUnload() override;
   bool Form_QueryEndSession() override;
   void Form_Unload() override;
+  void Form_Resize() override;
   bool PreviewMessage(const MSG& message) override;
   bool OnCommand(int id, int code) override;
   void OnScroll(HWND scrollBar, int request) override;
@@ -107,7 +109,6 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void ServePainting() override;
 
   void AttachControls();
-  void LayOutLimit();
   void TickType(std::size_t box);
   void ReadUnreadFolder();
   void ShowTipAt(double x, double y);
@@ -130,6 +131,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   IconGrid grid_;
   PictureContent gridContent_;  // the grid read aloud
   PictureTip gridTip_;
+  FindIconLayout layout_;
   Surface ownSurface_;
   SearchDriver driver_;
   Selection selection_;

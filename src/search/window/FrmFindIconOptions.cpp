@@ -136,6 +136,7 @@ void FrmFindIcon::OptView_Click(int index) {
   SetChecked(FrmFindIcon_OptView1, list);
   SetChecked(FrmFindIcon_mnuViewopt0, !list);
   SetChecked(FrmFindIcon_mnuViewopt1, list);
+  layout_.Arrange(list);
   grid_.Show(!list);
   gridTip_.Say({});
   ShowItem(FrmFindIcon_Lv, list);

@@ -1,0 +1,171 @@
+#include "search/window/FindIconLayout.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "platform/Handles.h"
+#include "resource.h"
+
+namespace tarvik {
+namespace {
+
+// How an edge of a control follows the window's room, across and down.
+enum class Across { Stays, Half, Whole };
+enum class Down { Stays, UpperLists };
+
+struct Following {
+  int firstId;
+  int lastId;  // a run of controls with consecutive ids
+  Across left;
+  Across right;
+  Down top;
+  Down bottom;
+};
+
+// Grid and icon list have places of their own.
+constexpr auto followings = std::to_array<Following>({
+    {FrmFindIcon_Drive1, FrmFindIcon_Drive1, Across::Stays, Across::Half, Down::Stays, Down::Stays},
+    {FrmFindIcon_Dir1, FrmFindIcon_Dir1, Across::Stays, Across::Half, Down::Stays, Down::UpperLists},
+    {FrmFindIcon_File1, FrmFindIcon_File1, Across::Half, Across::Whole, Down::Stays, Down::UpperLists},
+    {FrmFindIcon_Label3, FrmFindIcon_CmdClose, Across::Whole, Across::Whole, Down::Stays, Down::Stays},
+    {FrmFindIcon_lblIconSize, FrmFindIcon_lblIconSize, Across::Whole, Across::Whole, Down::Stays, Down::Stays},
+    {FrmFindIcon_OptView0, FrmFindIcon_OptView1, Across::Whole, Across::Whole, Down::UpperLists, Down::UpperLists},
+    {FrmFindIcon_lblInfo, FrmFindIcon_lblInfo, Across::Stays, Across::Stays, Down::UpperLists, Down::UpperLists},
+});
+
+int Shift(Across edge, const ExtraRoom& room) {
+  if (edge == Across::Stays) return 0;
+  return edge == Across::Half ? room.across / 2 : room.across;
+}
+
+int Shift(Down edge, const ExtraRoom& room) {
+  return edge == Down::Stays ? 0 : room.upperLists;
+}
+
+RECT BoundsOf(HWND form, HWND item) {
+  RECT bounds{};
+  GetWindowRect(item, &bounds);
+  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
+}
+
+SIZE InsideOf(HWND window) {
+  RECT inside{};
+  GetClientRect(window, &inside);
+  return {inside.right, inside.bottom};
+}
+
+void Move(HWND item, const RECT& bounds) {
+  SetWindowPos(item, nullptr, bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// The width of a control's text in its own font, in pixels.
+int TextWidth(HWND item) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(item, text.data(), static_cast<int>(text.size()))));
+  const WindowDc dc(item);
+  const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(item, WM_GETFONT, 0, 0)));
+  RECT bounds{};
+  DrawTextW(dc.get(), text.c_str(), -1, &bounds, DT_CALCRECT | DT_SINGLELINE);
+  return bounds.right;
+}
+
+// The height that a drop-down list is given is that of the open list; the control keeps its own as it is.
+int OpenHeight(HWND comboBox) {
+  RECT open{};
+  SendMessageW(comboBox, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&open));
+  return open.bottom - open.top;
+}
+
+}  // namespace
+
+void FindIconLayout::Begin(const Form& form, IconGrid& grid) {
+  form_ = nullptr;  // nothing is arranged while the window becomes as wide as it must be
+  const HWND window = form.Window();
+  LayOutLimit(form);
+  Record(form);
+  gridBounds_ = grid.Bounds();
+  needed_ = InsideOf(window);
+  smallestInside_ = NeededWithGrid(form);
+  RECT bounds{};
+  GetWindowRect(window, &bounds);
+  smallest_ = {bounds.right - bounds.left + smallestInside_.cx - needed_.cx,
+               bounds.bottom - bounds.top + smallestInside_.cy - needed_.cy};
+  SetWindowPos(window, nullptr, 0, 0, smallest_.cx, smallest_.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  form_ = &form;
+  grid_ = &grid;
+  Arrange(false);
+}
+
+// The grid is as large as its pixels on this display, whatever the size of the dialog's font, by which the other
+// controls go: the window may have to be larger than they need.
+SIZE FindIconLayout::NeededWithGrid(const Form& form) const {
+  const RECT status = BoundsOf(form.Window(), form.Item(FrmFindIcon_sbMain));
+  const int margin = gridBounds_.left;
+  return {std::max<LONG>(needed_.cx, gridBounds_.right + margin),
+          std::max<LONG>(needed_.cy, gridBounds_.bottom + margin / 2 + status.bottom - status.top)};
+}
+
+// The limit's box stands right behind its label, and the rest of the row behind the box, in every language. Both labels
+// are as wide as their texts: a label that reached under the box would wipe it when it is drawn alone.
+void FindIconLayout::LayOutLimit(const Form& form) {
+  const HWND window = form.Window();
+  const HWND label = form.Item(FrmFindIcon_SkinLabel1);
+  RECT bounds = BoundsOf(window, label);
+  const int space = bounds.bottom - bounds.top;
+  bounds.right = bounds.left + TextWidth(label);
+  Move(label, bounds);
+  const int shift = bounds.right + space / 2 - BoundsOf(window, form.Item(FrmFindIcon_txtMax)).left;
+  for (const int id : {FrmFindIcon_txtMax, FrmFindIcon_udMain, FrmFindIcon_SkinLabel2}) {
+    const HWND item = form.Item(id);
+    RECT place = BoundsOf(window, item);
+    OffsetRect(&place, shift, 0);
+    if (id == FrmFindIcon_SkinLabel2) place.right = place.left + TextWidth(item);
+    Move(item, place);
+  }
+}
+
+void FindIconLayout::Record(const Form& form) {
+  placed_.clear();
+  for (std::size_t row = 0; row < followings.size(); ++row) {
+    for (int id = followings.at(row).firstId; id <= followings.at(row).lastId; ++id) {
+      if (const HWND control = form.Item(id)) placed_.push_back({control, BoundsOf(form.Window(), control), row});
+    }
+  }
+}
+
+void FindIconLayout::Arrange(bool listShown) const {
+  if (form_ == nullptr || IsIconic(form_->Window()) != FALSE) return;
+  const SIZE inside = InsideOf(form_->Window());
+  const ExtraRoom room = ShareRoom(inside.cx - needed_.cx, inside.cy - smallestInside_.cy, listShown);
+  for (const Placed& placed : placed_) ArrangeControl(placed, room);
+  ArrangeGrid(inside.cx, room);
+  SendMessageW(form_->Item(FrmFindIcon_sbMain), WM_SIZE, 0, 0);
+}
+
+void FindIconLayout::ArrangeControl(const Placed& placed, const ExtraRoom& room) const {
+  const Following& row = followings.at(placed.row);
+  const RECT bounds{placed.bounds.left + Shift(row.left, room), placed.bounds.top + Shift(row.top, room),
+                    placed.bounds.right + Shift(row.right, room), placed.bounds.bottom + Shift(row.bottom, room)};
+  const RECT now = BoundsOf(form_->Window(), placed.control);
+  if (EqualRect(&bounds, &now) != FALSE) return;
+  const int id = GetDlgCtrlID(placed.control);
+  const bool opens = id == FrmFindIcon_Drive1 || id == FrmFindIcon_CboIconSize;
+  Move(placed.control,
+       {bounds.left, bounds.top, bounds.right, opens ? bounds.top + OpenHeight(placed.control) : bounds.bottom});
+}
+
+void FindIconLayout::ArrangeGrid(int insideWidth, const ExtraRoom& room) const {
+  const int height = gridBounds_.bottom - gridBounds_.top;
+  const int left = gridBounds_.left;
+  const int top = gridBounds_.top + room.upperLists;
+  const int width = gridBounds_.right - left + std::max(0, insideWidth - static_cast<int>(smallestInside_.cx));
+  grid_->Place({left, top}, width);
+  Move(form_->Item(FrmFindIcon_Lv), {left, top, left + width, top + height + room.iconList});
+}
+
+}  // namespace tarvik
