@@ -54,6 +54,35 @@ Finally StopRedraw(HWND window) {
   });
 }
 
+// Lets a list box scroll as far to the right as its longest row goes. Rows are measured as they are given to it, in its
+// own font.
+class RowWidths {
+ public:
+  explicit RowWidths(HWND list)
+      : list_(list), dc_(list), font_(dc_.get(), reinterpret_cast<HGDIOBJ>(Send(list, WM_GETFONT))) {}
+
+  // A text that begins so many pixels from the left.
+  void Add(const std::string& text, int left) {
+    const std::wstring wide = ToWide(text);
+    SIZE size{};
+    GetTextExtentPoint32W(dc_.get(), wide.c_str(), static_cast<int>(wide.size()), &size);
+    widest_ = std::max<int>(widest_, left + size.cx);
+  }
+
+  // Also goes back to the left end.
+  void Apply() const {
+    const int margin = GetSystemMetrics(SM_CXEDGE) * 2;  // so that the last letter does not touch the edge
+    Send(list_, WM_HSCROLL, SB_LEFT);
+    Send(list_, LB_SETHORIZONTALEXTENT, static_cast<std::size_t>(widest_ + margin));
+  }
+
+ private:
+  HWND list_;
+  WindowDc dc_;
+  SelectedObject font_;
+  int widest_ = 0;
+};
+
 void AddRow(HWND window, UINT message, const std::string& text) {
   Send(window, message, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
 }
@@ -150,7 +179,14 @@ void DirListBox::Show(std::vector<std::string> rows) {
 
   const Finally redraws = StopRedraw(window_);
   Send(window_, LB_RESETCONTENT);
-  for (const std::string& folder : shown_) AddRow(window_, LB_ADDSTRING, FolderName(folder));
+  RowWidths widths(window_);
+  const auto height = static_cast<int>(Send(window_, LB_GETITEMHEIGHT));
+  for (int row = 0; const std::string& folder : shown_) {
+    const std::string name = FolderName(folder);
+    AddRow(window_, LB_ADDSTRING, name);
+    widths.Add(name, TextLeft(row++, height));
+  }
+  widths.Apply();
   Send(window_, LB_SETCURSEL, static_cast<std::size_t>(current_));
   // The ancestors above and as many sub-folders as fit below.
   Send(window_, LB_SETTOPINDEX, static_cast<std::size_t>(std::max(0, current_ - 2)));
@@ -179,6 +215,11 @@ void DirListBox::OpenChosen() {
   SetPath(std::string(shown_[static_cast<std::size_t>(chosen)]));
 }
 
+// The picture takes a quarter more than the row is high.
+int DirListBox::TextLeft(int row, int rowHeight) const {
+  return std::min(row, current_ + 1) * rowHeight / 2 + rowHeight * 5 / 4;
+}
+
 void DirListBox::Draw(const DRAWITEMSTRUCT& item) const {
   const bool chosen = (item.itemState & ODS_SELECTED) != 0;
   FillRect(item.hDC, &item.rcItem, GetSysColorBrush(chosen ? COLOR_HIGHLIGHT : COLOR_WINDOW));
@@ -186,9 +227,10 @@ void DirListBox::Draw(const DRAWITEMSTRUCT& item) const {
   if (row >= 0 && static_cast<std::size_t>(row) < shown_.size()) {
     const int height = item.rcItem.bottom - item.rcItem.top;
     RECT bounds = item.rcItem;
-    bounds.left += std::min(row, current_ + 1) * height / 2;
-    DrawFolder(item.hDC, bounds, row <= current_);
-    bounds.left += height * 5 / 4;
+    RECT picture = bounds;
+    bounds.left += TextLeft(row, height);
+    picture.left = bounds.left - height * 5 / 4;
+    DrawFolder(item.hDC, picture, row <= current_);
     SetBkMode(item.hDC, TRANSPARENT);
     SetTextColor(item.hDC, GetSysColor(chosen ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
     DrawTextW(item.hDC, ToWide(FolderName(shown_[static_cast<std::size_t>(row)])).c_str(), -1, &bounds,
@@ -255,7 +297,12 @@ void FileListBox::Show(std::vector<std::string> names) {
   const Finally redraws = StopRedraw(window_);
   Send(window_, LB_RESETCONTENT);
   shown_ = std::move(names);
-  for (const std::string& name : shown_) AddRow(window_, LB_ADDSTRING, name);
+  RowWidths widths(window_);
+  for (const std::string& name : shown_) {
+    AddRow(window_, LB_ADDSTRING, name);
+    widths.Add(name, 0);
+  }
+  widths.Apply();
 }
 
 }  // namespace tarvik

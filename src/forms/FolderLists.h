@@ -37,7 +37,8 @@ class DriveListBox {
   std::vector<Drive> drives_;
 };
 
-// A list of a folder's ancestors, itself and its sub-folders, indented. A double click or Enter opens the chosen one.
+// A list of a folder's ancestors, itself and its sub-folders, indented. A double click or Enter opens the chosen one. A
+// list box with WS_HSCROLL scrolls to the end of the longest row; so does that of files.
 class DirListBox {
  public:
   using ListFolders = std::function<std::vector<std::string>(const std::string& folder)>;
@@ -67,6 +68,7 @@ class DirListBox {
 
   std::vector<std::string> Rows() const;
   void Show(std::vector<std::string> rows);
+  int TextLeft(int row, int rowHeight) const;  // where a row's text begins, in pixels
 
   HWND window_ = nullptr;
   ListFolders list_;

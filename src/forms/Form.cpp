@@ -4,6 +4,7 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -265,6 +266,8 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SIZE:
       Form_Resize();
       return FALSE;
+    case WM_GETMINMAXINFO:
+      return Bound(*reinterpret_cast<MINMAXINFO*>(lParam));
     case WM_CLOSE:
       if (Form_QueryUnload()) Unload();
       return TRUE;
@@ -307,6 +310,13 @@ void Form::PassOn(UINT message) const {
 INT_PTR Form::Answer(LRESULT result) {
   if (IsLoaded()) SetWindowLongPtrW(window_, DWLP_MSGRESULT, result);
   return TRUE;
+}
+
+INT_PTR Form::Bound(MINMAXINFO& bounds) {
+  const SIZE smallest = SmallestSize();
+  bounds.ptMinTrackSize.x = std::max(bounds.ptMinTrackSize.x, smallest.cx);
+  bounds.ptMinTrackSize.y = std::max(bounds.ptMinTrackSize.y, smallest.cy);
+  return Answer(0);
 }
 
 INT_PTR Form::Paint() {

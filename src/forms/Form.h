@@ -154,6 +154,7 @@ class Form : NonCopyable {
   bool TakesMessage(const MSG& message);
   void SetIcons();
   void FocusFirst();
+  INT_PTR Bound(MINMAXINFO& bounds);
   INT_PTR Paint();
   void Close();
   void Release();

@@ -1,5 +1,9 @@
 #include "forms/ReportList.h"
 
+#include <windowsx.h>
+
+#include <exception>
+
 #include "platform/Display.h"
 #include "platform/Text.h"
 
@@ -13,6 +17,11 @@ FontHandle BoldFontOf(HWND window) {
   return FontHandle(CreateFontIndirectW(&font));
 }
 
+// After it another row can be under the pointer.
+bool Scrolls(UINT message) {
+  return message == WM_VSCROLL || message == WM_HSCROLL || message == WM_MOUSEWHEEL || message == WM_KEYDOWN;
+}
+
 }  // namespace
 
 void ReportList::Attach(HWND listView) {
@@ -20,16 +29,54 @@ void ReportList::Attach(HWND listView) {
   columns_ = 0;
   bold_ = BoldFontOf(window_);
   ListView_SetExtendedListViewStyle(window_, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
-  SetWindowSubclass(window_, Procedure, 0, 0);
+  SetWindowSubclass(window_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+  tip_.Attach(window_);
 }
 
 LRESULT CALLBACK ReportList::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
-                                       DWORD_PTR /*data*/) {
+                                       DWORD_PTR data) {
   const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+  auto& list = *reinterpret_cast<ReportList*>(data);
+  if (message == WM_MOUSEMOVE) list.SayWhatIsCut({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+  if (Scrolls(message)) list.tip_.Say({});
   if (message == WM_NCDESTROY) RemoveWindowSubclass(window, Procedure, 0);
   if (message != WM_GETDLGCODE || lParam == 0) return answer;
   const MSG& key = *reinterpret_cast<const MSG*>(lParam);
   return key.message == WM_KEYDOWN && key.wParam == VK_RETURN ? answer | DLGC_WANTMESSAGE : answer;
+}
+
+// Nothing may be thrown through the system; without memory there is no tip.
+void ReportList::SayWhatIsCut(POINT pointer) noexcept {
+  try {
+    tip_.Say(CutTextAt(pointer));
+  } catch (const std::exception&) {
+    return;
+  }
+}
+
+std::string ReportList::CutTextAt(POINT pointer) const {
+  LVHITTESTINFO hit{};
+  hit.pt = pointer;
+  if (ListView_SubItemHitTest(window_, &hit) < 0 || hit.iItem < 0) return {};
+  RECT cell{};
+  ListView_GetSubItemRect(window_, hit.iItem, hit.iSubItem, LVIR_LABEL, &cell);
+  RECT inside{};
+  GetClientRect(window_, &inside);
+  RECT seen{};
+  IntersectRect(&seen, &cell, &inside);
+  std::string text = cellText(hit.iItem, hit.iSubItem);
+  const int margins = 6 * GetSystemMetrics(SM_CXEDGE);  // what the control leaves free on both sides of a text
+  return TextWidth(hit.iItem, text) + margins > seen.right - seen.left ? text : std::string();
+}
+
+int ReportList::TextWidth(int row, const std::string& text) const {
+  const WindowDc dc(window_);
+  const HGDIOBJ plain = reinterpret_cast<HGDIOBJ>(SendMessageW(window_, WM_GETFONT, 0, 0));
+  const SelectedObject font(dc.get(), lookOf(row).bold ? bold_.get() : plain);
+  const std::wstring wide = ToWide(text);
+  SIZE size{};
+  GetTextExtentPoint32W(dc.get(), wide.c_str(), static_cast<int>(wide.size()), &size);
+  return size.cx;
 }
 
 void ReportList::Clear(std::span<const Column> columns) {

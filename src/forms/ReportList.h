@@ -9,12 +9,14 @@
 #include <string>
 #include <string_view>
 
+#include "forms/PictureTip.h"
 #include "platform/Handles.h"
 
 namespace tarvik {
 
 // A report list that holds nothing itself: it asks for each cell when it draws it. Rows are counted from 0. Enter on a
-// row does not press the window's default button but sends NM_RETURN.
+// row does not press the window's default button but sends NM_RETURN. A cell too narrow for its text shows it in a tool
+// tip when the pointer rests on it.
 class ReportList {
  public:
   struct Column {
@@ -77,6 +79,10 @@ class ReportList {
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                     DWORD_PTR data);
 
+  void SayWhatIsCut(POINT pointer) noexcept;
+  std::string CutTextAt(POINT pointer) const;
+  int TextWidth(int row, const std::string& text) const;
+
   LRESULT Draw(NMLVCUSTOMDRAW& draw);
   void Watch(const NMHDR& header);
   void Note();
@@ -88,6 +94,7 @@ class ReportList {
   bool settingSelection_ = false;
   bool choicePending_ = false;
   Choice choice_;
+  PictureTip tip_;
   std::wstring cell_;  // the text last asked for; the control reads it after Notify returns
 };
 

@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 
+#include "forms/Bounds.h"
 #include "platform/Handles.h"
 #include "resource.h"
 
@@ -45,13 +46,6 @@ int Shift(Down edge, const ExtraRoom& room) {
   return edge == Down::Stays ? 0 : room.upperLists;
 }
 
-RECT BoundsOf(HWND form, HWND item) {
-  RECT bounds{};
-  GetWindowRect(item, &bounds);
-  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&bounds), 2);
-  return bounds;
-}
-
 SIZE InsideOf(HWND window) {
   RECT inside{};
   GetClientRect(window, &inside);
@@ -74,11 +68,14 @@ int TextWidth(HWND item) {
   return bounds.right;
 }
 
-// The height that a drop-down list is given is that of the open list; the control keeps its own as it is.
-int OpenHeight(HWND comboBox) {
-  RECT open{};
-  SendMessageW(comboBox, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&open));
-  return open.bottom - open.top;
+// What the template gives the list of drives: the height with the list open, in dialog units. The closed control keeps
+// a height of its own.
+constexpr int openDriveList = 120;
+
+int OpenHeight(HWND form) {
+  RECT units{0, 0, 0, openDriveList};
+  MapDialogRect(form, &units);
+  return units.bottom;
 }
 
 }  // namespace
@@ -104,7 +101,7 @@ void FindIconLayout::Begin(const Form& form, IconGrid& grid) {
 // The grid is as large as its pixels on this display, whatever the size of the dialog's font, by which the other
 // controls go: the window may have to be larger than they need.
 SIZE FindIconLayout::NeededWithGrid(const Form& form) const {
-  const RECT status = BoundsOf(form.Window(), form.Item(FrmFindIcon_sbMain));
+  const RECT status = BoundsInParent(form.Item(FrmFindIcon_sbMain));
   const int margin = gridBounds_.left;
   return {std::max<LONG>(needed_.cx, gridBounds_.right + margin),
           std::max<LONG>(needed_.cy, gridBounds_.bottom + margin / 2 + status.bottom - status.top)};
@@ -113,16 +110,15 @@ SIZE FindIconLayout::NeededWithGrid(const Form& form) const {
 // The limit's box stands right behind its label, and the rest of the row behind the box, in every language. Both labels
 // are as wide as their texts: a label that reached under the box would wipe it when it is drawn alone.
 void FindIconLayout::LayOutLimit(const Form& form) {
-  const HWND window = form.Window();
   const HWND label = form.Item(FrmFindIcon_SkinLabel1);
-  RECT bounds = BoundsOf(window, label);
+  RECT bounds = BoundsInParent(label);
   const int space = bounds.bottom - bounds.top;
   bounds.right = bounds.left + TextWidth(label);
   Move(label, bounds);
-  const int shift = bounds.right + space / 2 - BoundsOf(window, form.Item(FrmFindIcon_txtMax)).left;
+  const int shift = bounds.right + space / 2 - BoundsInParent(form.Item(FrmFindIcon_txtMax)).left;
   for (const int id : {FrmFindIcon_txtMax, FrmFindIcon_udMain, FrmFindIcon_SkinLabel2}) {
     const HWND item = form.Item(id);
-    RECT place = BoundsOf(window, item);
+    RECT place = BoundsInParent(item);
     OffsetRect(&place, shift, 0);
     if (id == FrmFindIcon_SkinLabel2) place.right = place.left + TextWidth(item);
     Move(item, place);
@@ -133,30 +129,36 @@ void FindIconLayout::Record(const Form& form) {
   placed_.clear();
   for (std::size_t row = 0; row < followings.size(); ++row) {
     for (int id = followings.at(row).firstId; id <= followings.at(row).lastId; ++id) {
-      if (const HWND control = form.Item(id)) placed_.push_back({control, BoundsOf(form.Window(), control), row});
+      if (const HWND control = form.Item(id)) placed_.push_back({control, BoundsInParent(control), row});
     }
   }
 }
 
-void FindIconLayout::Arrange(bool listShown) const {
+void FindIconLayout::Arrange(bool listShown) {
   if (form_ == nullptr || IsIconic(form_->Window()) != FALSE) return;
   const SIZE inside = InsideOf(form_->Window());
   const ExtraRoom room = ShareRoom(inside.cx - needed_.cx, inside.cy - smallestInside_.cy, listShown);
   for (const Placed& placed : placed_) ArrangeControl(placed, room);
   ArrangeGrid(inside.cx, room);
   SendMessageW(form_->Item(FrmFindIcon_sbMain), WM_SIZE, 0, 0);
+  // One control after the other has moved over others on its way.
+  if (room != arranged_) RedrawWindow(form_->Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+  arranged_ = room;
 }
 
 void FindIconLayout::ArrangeControl(const Placed& placed, const ExtraRoom& room) const {
   const Following& row = followings.at(placed.row);
   const RECT bounds{placed.bounds.left + Shift(row.left, room), placed.bounds.top + Shift(row.top, room),
                     placed.bounds.right + Shift(row.right, room), placed.bounds.bottom + Shift(row.bottom, room)};
-  const RECT now = BoundsOf(form_->Window(), placed.control);
+  const RECT now = BoundsInParent(placed.control);
   if (EqualRect(&bounds, &now) != FALSE) return;
-  const int id = GetDlgCtrlID(placed.control);
-  const bool opens = id == FrmFindIcon_Drive1 || id == FrmFindIcon_CboIconSize;
-  Move(placed.control,
-       {bounds.left, bounds.top, bounds.right, opens ? bounds.top + OpenHeight(placed.control) : bounds.bottom});
+  if (row.left == row.right && row.top == row.bottom) {
+    SetWindowPos(placed.control, nullptr, bounds.left, bounds.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  } else if (GetDlgCtrlID(placed.control) == FrmFindIcon_Drive1) {
+    Move(placed.control, {bounds.left, bounds.top, bounds.right, bounds.top + OpenHeight(form_->Window())});
+  } else {
+    Move(placed.control, bounds);
+  }
 }
 
 void FindIconLayout::ArrangeGrid(int insideWidth, const ExtraRoom& room) const {

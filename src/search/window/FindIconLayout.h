@@ -19,7 +19,7 @@ class FindIconLayout {
   void Begin(const Form& form, IconGrid& grid);
   // Puts everything into its place for the size that the window has now. Does nothing before Begin, and while the
   // window is minimised.
-  void Arrange(bool listShown) const;
+  void Arrange(bool listShown);
   // Of the whole window, in display pixels; none before Begin.
   SIZE SmallestSize() const { return smallest_; }
 
@@ -42,6 +42,7 @@ class FindIconLayout {
   SIZE needed_{};               // the inside of the window that the controls other than the grid need
   RECT gridBounds_{};           // of the grid and its bar at the smallest size
   SIZE smallestInside_{};
+  ExtraRoom arranged_;  // what everything was last placed for
   SIZE smallest_{};
 };
 

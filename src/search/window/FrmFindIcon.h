@@ -44,6 +44,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   bool Form_QueryEndSession() override;
   void Form_Unload() override;
   void Form_Resize() override;
+  SIZE SmallestSize() const override { return layout_.SmallestSize(); }
   bool PreviewMessage(const MSG& message) override;
   bool OnCommand(int id, int code) override;
   void OnScroll(HWND scrollBar, int request) override;
