@@ -11,6 +11,7 @@
 
 #include "driver/Dialogs.h"
 #include "driver/SeenFiles.h"
+#include "platform/Display.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
@@ -50,7 +51,9 @@ void Journey::MakeIcons() {
 }
 
 fs::path Journey::Pictures() const {
-  return BuiltFile("../../../journeys") / ToWide(tongue_.code);
+  const int dots = DotsOfDisplay();
+  const std::string display = dots == 96 ? "" : "-" + std::to_string(dots);
+  return BuiltFile("../../../journeys") / ToWide(tongue_.code + display);
 }
 
 void Journey::Picture(const std::string& name) {

@@ -9,6 +9,7 @@
 #include "driver/Screen.h"
 #include "end_to_end/EndToEndTest.h"
 #include "grid/GridGeometry.h"
+#include "platform/Display.h"
 #include "platform/IconFiles.h"
 
 namespace tarvik::end_to_end {
@@ -37,10 +38,12 @@ class SelectionByHand : public EndToEnd {
     ASSERT_EQ(List().RowCount(), 100);
   }
 
-  // A place on the screen by its place in the grid's picture, or by the entry whose cell's middle it is.
+  // A place on the screen by its place in the grid's picture, or by the entry whose cell's middle it is. The display
+  // shows the picture as much larger as it has more than 96 dots an inch.
   POINT GridPlace(int x, int y) const {
     const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
-    return {grid.left + x, grid.top + y};
+    const int dots = DotsOfDisplay();
+    return {grid.left + (x * dots + 95) / 96, grid.top + (y * dots + 95) / 96};
   }
   POINT CellMiddle(int entry) const {
     const Point corner = IconCorner(*geometry_, entry);
