@@ -88,7 +88,7 @@ class Saving {
  private:
   bool Save(int number, const std::string& path, FileSink& file) {
     return ModMicroArt::CaptureEntry(source_, {.path = library_, .index = number % libraryIcons}, iconSize,
-                                     surfaces_) &&
+                                     surfaces_.Clear()) &&
            write_(surfaces_, path, file);
   }
 
