@@ -8,11 +8,11 @@
 
 #include "export/SaveCommands.h"
 #include "export/TestRaster.h"
+#include "support/Script.h"
 
 namespace tarvik::testing {
 
-// What the commands asked for, in order.
-using Script = std::vector<std::string>;
+using support::Script;
 
 // A main window without a screen. Entry n renders as a 2 x 2 picture of colours of its own.
 class FakeSaveWindow final : public SaveWindow {

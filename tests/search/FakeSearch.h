@@ -15,27 +15,11 @@
 #include "search/SearchFolders.h"
 #include "search/SearchWindow.h"
 #include "search/icons/IconSource.h"
+#include "support/Script.h"
 
 namespace tarvik {
 
-// What a search did, a line each, in order.
-class Script {
- public:
-  void Add(std::string line) { lines_.push_back(std::move(line)); }
-  const std::vector<std::string>& Lines() const { return lines_; }
-  // The lines that start with `start`.
-  std::vector<std::string> Lines(std::string_view start) const {
-    std::vector<std::string> found;
-    for (const std::string& line : lines_) {
-      if (line.starts_with(start)) found.push_back(line);
-    }
-    return found;
-  }
-  void Clear() { lines_.clear(); }
-
- private:
-  std::vector<std::string> lines_;
-};
+using support::Script;
 
 inline std::string ToText(Point point) {
   return "(" + std::to_string(point.x) + "," + std::to_string(point.y) + ")";
