@@ -14,8 +14,8 @@
 namespace tarvik::bench {
 namespace {
 
-testing::IconPicture Picture(int number) {
-  return testing::BitmapPicture(32, 24, 0x010305U * static_cast<Color>(number % 80),
+support::IconPicture Picture(int number) {
+  return support::BitmapPicture(32, 24, 0x010305U * static_cast<Color>(number % 80),
                                 0x030201U * static_cast<Color>(number % 80));
 }
 
@@ -25,29 +25,29 @@ void Copy(const std::string& from, const std::string& to) {
 
 void MakeLibrary(const std::string& path, int icons) {
   Copy(JoinPath(SystemFolder(), "version.dll"), path);
-  std::vector<testing::IconPicture> pictures;
+  std::vector<support::IconPicture> pictures;
   pictures.reserve(static_cast<std::size_t>(icons));
   for (int i = 0; i < icons; ++i) pictures.push_back(Picture(i));
-  testing::AddIcons(path, pictures);
+  support::AddIcons(path, pictures);
 }
 
 }  // namespace
 
-std::string MakeIconFiles(const testing::TemporaryFolder& folder, int folders, int filesInEach) {
+std::string MakeIconFiles(const support::TemporaryFolder& folder, int folders, int filesInEach) {
   const std::string root = "files" + std::to_string(folders);
   folder.MakeFolder(root);
   for (int i = 0; i < folders; ++i) {
     const std::string sub = JoinPath(root, "folder " + std::to_string(i));
     folder.MakeFolder(sub);
     for (int k = 0; k < filesInEach; ++k) {
-      const testing::IconPicture picture = Picture(i + k);
-      folder.MakeFile(JoinPath(sub, std::to_string(k) + ".ico"), testing::IconFile({&picture, 1}));
+      const support::IconPicture picture = Picture(i + k);
+      folder.MakeFile(JoinPath(sub, std::to_string(k) + ".ico"), support::IconFile({&picture, 1}));
     }
   }
   return folder.In(root);
 }
 
-std::string MakeIconLibrary(const testing::TemporaryFolder& folder, int icons, int libraries) {
+std::string MakeIconLibrary(const support::TemporaryFolder& folder, int icons, int libraries) {
   const std::string name = "library" + std::to_string(icons) + "x" + std::to_string(libraries);
   folder.MakeFolder(name);
   const std::string path = folder.In(JoinPath(name, "icons.dll"));
@@ -58,18 +58,18 @@ std::string MakeIconLibrary(const testing::TemporaryFolder& folder, int icons, i
   return folder.In(name);
 }
 
-std::string MakeAllKinds(const testing::TemporaryFolder& folder, int folders) {
+std::string MakeAllKinds(const support::TemporaryFolder& folder, int folders) {
   constexpr std::array others{"a.txt", "b.html", "c.cpp", "d.dat", "e.log", "f.png"};
   constexpr std::array<Color, 2> colors{0x0000FF, 0x00FF00};
   const std::string library = JoinPath(MakeIconLibrary(folder, 5, 1), "icons.dll");
-  const testing::Bytes text(3000, std::byte{'a'});
-  const testing::Bytes animation = testing::AnimationFile(colors);
+  const support::Bytes text(3000, std::byte{'a'});
+  const support::Bytes animation = support::AnimationFile(colors);
   folder.MakeFolder("all kinds");
   for (int i = 0; i < folders; ++i) {
     const std::string sub = JoinPath("all kinds", std::to_string(i));
     folder.MakeFolder(sub);
-    const testing::IconPicture picture = Picture(i);
-    const auto icon = testing::IconFile({&picture, 1});
+    const support::IconPicture picture = Picture(i);
+    const auto icon = support::IconFile({&picture, 1});
     folder.MakeFile(JoinPath(sub, "a.ico"), icon);
     folder.MakeFile(JoinPath(sub, "b.cur"), i % 4 == 0 ? icon : text);
     for (const char* other : others) folder.MakeFile(JoinPath(sub, other), text);
@@ -89,8 +89,8 @@ std::string MakeEmptyFolders(const std::string& root, int count) {
   for (int i = 0; i < count; ++i) {
     CreateDirectoryW(ToWide(JoinPath(path, "folder " + std::to_string(i))).c_str(), nullptr);
   }
-  const testing::IconPicture picture = Picture(7);
-  const testing::Bytes bytes = testing::IconFile({&picture, 1});
+  const support::IconPicture picture = Picture(7);
+  const support::Bytes bytes = support::IconFile({&picture, 1});
   const FileHandle file(
       CreateFileW(ToWide(JoinPath(path, "one.ico")).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
   DWORD written = 0;

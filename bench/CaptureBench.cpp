@@ -117,7 +117,7 @@ class BareCalls {
   IconSurfaces surfaces_{iconSize};
 };
 
-void CompareFormat(const testing::TemporaryFolder& folder, const std::string& library, const std::string& format,
+void CompareFormat(const support::TemporaryFolder& folder, const std::string& library, const std::string& format,
                    WriteFunction write) {
   Saving saving(library, write);
   BareCalls bare(library, saving.Lengths());
@@ -136,7 +136,7 @@ void CompareFormat(const testing::TemporaryFolder& folder, const std::string& li
 int main() {
   using namespace tarvik;
   using namespace tarvik::bench;
-  const testing::TemporaryFolder folder;
+  const support::TemporaryFolder folder;
   const std::string library = JoinPath(MakeIconLibrary(folder, libraryIcons, 1), "icons.dll");
   CompareFormat(folder, library, "icon", WriteIcon);
   CompareFormat(folder, library, "cursor", WriteCursor);

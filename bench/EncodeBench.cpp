@@ -118,7 +118,7 @@ void WriteBareGif(Indexed& picture, const std::string& path) {
 }
 
 // Two ways to write every picture, each to a file of the number it is called with.
-void CompareWays(const testing::TemporaryFolder& folder, const std::string& format,
+void CompareWays(const support::TemporaryFolder& folder, const std::string& format,
                  const std::function<void(int, const std::string&)>& bare,
                  const std::function<bool(int, const std::string&)>& ours) {
   const OutputFolder bareOutput(folder, "bare " + format);
@@ -143,7 +143,7 @@ void CompareWays(const testing::TemporaryFolder& folder, const std::string& form
 int main() {
   using namespace tarvik;
   using namespace tarvik::bench;
-  const testing::TemporaryFolder folder;
+  const support::TemporaryFolder folder;
   std::vector<Disc> discs;
   std::vector<std::vector<JSAMPLE>> samples;
   std::vector<Indexed> indexed;

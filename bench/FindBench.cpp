@@ -125,7 +125,7 @@ void SearchManyTimes(Application& application, const Scope& scope) {
 }
 
 void Measure(Application& application, std::string_view wanted) {
-  const testing::TemporaryFolder folder;
+  const support::TemporaryFolder folder;
   const auto isWanted = [wanted](std::string_view title) { return title.find(wanted) != std::string_view::npos; };
   constexpr const char* system = "the DLLs of the system folder";
   constexpr const char* modules = "16-bit modules looked for";

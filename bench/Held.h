@@ -15,13 +15,13 @@ inline constexpr double bytesInMegabyte = 1024.0 * 1024.0;
 
 // What this process holds of the system.
 struct Held {
-  testing::Holdings holdings{};
+  support::Holdings holdings{};
   int windows = 0;
   double peakMegabytes = 0;  // the most memory in use at a time, since the process started
 };
 
 inline Held HeldNow() {
-  Held held{.holdings = testing::HeldBy(GetCurrentProcess())};
+  Held held{.holdings = support::HeldBy(GetCurrentProcess())};
   const auto count = [](HWND /*window*/, LPARAM windows) -> BOOL {
     ++*reinterpret_cast<int*>(windows);
     return TRUE;

@@ -4,7 +4,6 @@
 
 #include <vector>
 
-#include "export/AnsweredDialogs.h"
 #include "export/TemporaryBitmap.h"
 #include "platform/DiskFile.h"
 #include "platform/Paths.h"
@@ -14,7 +13,8 @@
 #include "search/icons/IconsAhead.h"
 #include "search/icons/ShellIcons.h"
 #include "search/window/FrmFindIcon.h"
-#include "startup/MemoryIni.h"
+#include "support/AnsweredDialogs.h"
+#include "support/MemoryIni.h"
 
 namespace tarvik::bench {
 
@@ -45,14 +45,14 @@ struct MainWindow::Parts {
 
   Application& application;
   ProgramState state;
-  testing::MemoryIni ini;
+  support::MemoryIni ini;
   Settings settings;
   ShellIcons shellIcons;
   IconsAhead icons{shellIcons};
   Folders folders;
   DiskFile files;
   TemporaryBitmap temporaryBitmap{TemporaryBitmapPaths()};
-  testing::AnsweredDialogs dialogs;
+  support::AnsweredDialogs dialogs;
   FrmFindIcon window;
 };
 

@@ -16,7 +16,7 @@ namespace tarvik::bench {
 // A folder for the files of one way of a comparison. It is emptied before each run, so that every file is a new one.
 class OutputFolder {
  public:
-  OutputFolder(const testing::TemporaryFolder& folder, const std::string& name) : path_(folder.MakeFolder(name)) {}
+  OutputFolder(const support::TemporaryFolder& folder, const std::string& name) : path_(folder.MakeFolder(name)) {}
 
   const std::string& Path() const { return path_; }
   std::string File(int number) const { return JoinPath(path_, std::to_string(number)); }

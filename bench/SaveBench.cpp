@@ -73,7 +73,7 @@ class BareCalls {
   IconSurfaces surfaces_{iconSize};
 };
 
-Libraries MakeLibraries(const testing::TemporaryFolder& folder, int libraries, int iconsInEach) {
+Libraries MakeLibraries(const support::TemporaryFolder& folder, int libraries, int iconsInEach) {
   Libraries made{MakeIconLibrary(folder, iconsInEach, libraries), {}, iconsInEach};
   for (const auto& file : std::filesystem::directory_iterator(ToWide(made.folder))) {
     made.paths.push_back(ToUtf8(file.path().wstring()));
@@ -86,7 +86,7 @@ struct Format {
   int command;  // of the menu
 };
 
-void CompareFormats(Application& application, const testing::TemporaryFolder& folder, const std::string& title,
+void CompareFormats(Application& application, const support::TemporaryFolder& folder, const std::string& title,
                     const Libraries& libraries, const std::vector<Format>& formats) {
   MainWindow window(application, {libraries.folder, "*.dll", false});
   window.Find();
@@ -116,7 +116,7 @@ int main() {
   using namespace tarvik;
   using namespace tarvik::bench;
   Application application(GetModuleHandleW(nullptr));
-  const testing::TemporaryFolder folder;
+  const support::TemporaryFolder folder;
   CompareFormats(application, folder, "2,000 icons of one DLL", MakeLibraries(folder, 1, 2000),
                  {{"icon", FrmFindIcon_mnuSaveAll}});
   CompareFormats(

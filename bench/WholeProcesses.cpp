@@ -55,7 +55,7 @@ double OwnMilliseconds() {
 
 }  // namespace
 
-void CompareWholeProcesses(const testing::TemporaryFolder& folder) {
+void CompareWholeProcesses(const support::TemporaryFolder& folder) {
   if (end_to_end::RunUnix("command -v wrestool").exitCode != 0) {
     std::printf("%-44s skipped: there is no wrestool (Debian: icoutils)\n", title);
     return;

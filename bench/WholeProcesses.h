@@ -9,6 +9,6 @@ namespace tarvik::bench {
 inline constexpr const char* searchOnce = "--search-once";
 
 // Prints how long such a process takes, against wrestool taking the same icons out of the same files; or why not.
-void CompareWholeProcesses(const testing::TemporaryFolder& folder);
+void CompareWholeProcesses(const support::TemporaryFolder& folder);
 
 }  // namespace tarvik::bench

@@ -11,11 +11,14 @@
 #include "encoders/GifEncoder.h"
 #include "encoders/JpegEncoder.h"
 #include "encoders/JpegOptions.h"
-#include "encoders/TestPictures.h"
-#include "export/MemorySink.h"
+#include "support/MemorySink.h"
+#include "support/TestPictures.h"
 
 namespace tarvik {
 namespace {
+
+using support::MemorySink;
+using support::TestRaster;
 
 // The input, byte by byte; zeros once it has ended.
 class Input {

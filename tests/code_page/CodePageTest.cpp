@@ -24,8 +24,8 @@
 namespace tarvik {
 namespace {
 
-using testing::Names;
-using testing::TemporaryFolder;
+using support::Names;
+using support::TemporaryFolder;
 
 constexpr int nameId = 0x47c;  // in the system's dialogs
 
@@ -64,7 +64,7 @@ class CodePageShellIcons : public ::testing::Test {
 
 TEST_F(CodePageShellIcons, AreFoundUnderEveryNameThatItHolds) {
   folder.MakeFolder(Names().held);
-  const std::string path = folder.MakeFile(Names().held + "\\" + Names().held + ".ico", testing::IconFileOf(0xFF));
+  const std::string path = folder.MakeFile(Names().held + "\\" + Names().held + ".ico", support::IconFileOf(0xFF));
   EXPECT_TRUE(ShellIcons().Takes(path));
   EXPECT_EQ(Found(path), FoundInEach());
 }
@@ -72,7 +72,7 @@ TEST_F(CodePageShellIcons, AreFoundUnderEveryNameThatItHolds) {
 // The system loads these by another call.
 TEST_F(CodePageShellIcons, AreFoundInAnimationsToo) {
   const Color colors[] = {0x0000FF, 0x00FF00};
-  const std::string path = folder.MakeFile(Names().held + ".ani", testing::AnimationFile(colors));
+  const std::string path = folder.MakeFile(Names().held + ".ani", support::AnimationFile(colors));
   const auto icon = ShellIcons().Extract(path, 0);
   ASSERT_NE(icon, nullptr);
   EXPECT_EQ(icon->StepBound(), 2);
@@ -80,7 +80,7 @@ TEST_F(CodePageShellIcons, AreFoundInAnimationsToo) {
 
 TEST_F(CodePageShellIcons, AreNoneUnderAnotherName) {
   for (const char* ending : {".ico", ".ani"}) {
-    const std::string path = folder.MakeFile(Names().unheld + ending, testing::IconFileOf(0xFF));
+    const std::string path = folder.MakeFile(Names().unheld + ending, support::IconFileOf(0xFF));
     EXPECT_FALSE(ShellIcons().Takes(path));
     EXPECT_EQ(Found(path), (std::array<std::size_t, 3>{})) << ending;
   }
@@ -92,7 +92,7 @@ TEST(CodePageIniFile, KeepsWhatItHolds) {
   IniFile ini;
   EXPECT_NE(ini.Write("FindIcon", "Folder", "C:\\" + Names().held, file), 0);
   EXPECT_EQ(ini.Read("FindIcon", "Folder", "", 2048, file), "C:\\" + Names().held);
-  EXPECT_NE(testing::ReadAll(file).find("C:\\" + Names().heldBytes), std::string::npos);
+  EXPECT_NE(support::ReadAll(file).find("C:\\" + Names().heldBytes), std::string::npos);
   EXPECT_EQ(ini.Read("FindIcon", "none", Names().held, 2048, file), Names().held);
   EXPECT_NE(ini.DeleteKey("FindIcon", "Folder", file), 0);
   EXPECT_EQ(ini.Read("FindIcon", "Folder", "gone", 2048, file), "gone");
@@ -125,15 +125,15 @@ class CodePageFileDialog : public ::testing::Test {
  protected:
   std::string Save(const std::string& name) {
     driver.On(nameId, [this, name](HWND dialog) {
-      title = testing::TextOf(dialog);
+      title = support::TextOf(dialog);
       SetDlgItemTextW(dialog, nameId, ToWide(folder.In(name)).c_str());
-      testing::Command(dialog, IDOK);
+      support::Command(dialog, IDOK);
     });
     return AskForFileToSave(nullptr, saveAsMode, GetACP() == 950 ? "CHT" : "CHS");
   }
 
   TemporaryFolder folder;
-  testing::ModalDriver driver;
+  support::ModalDriver driver;
   std::string title;
 };
 

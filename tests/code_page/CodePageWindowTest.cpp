@@ -18,11 +18,11 @@
 namespace tarvik {
 namespace {
 
-using testing::Names;
+using support::Names;
 
 constexpr int nameId = 0x47c;  // in the system's dialogs
 
-class CodePageWindow : public testing::FindIconFixture {
+class CodePageWindow : public support::FindIconFixture {
  protected:
   void OpenOn(const std::string& folder, const std::string& language) {
     ini.values["FindIcon/Folder"] = folder;
@@ -34,14 +34,14 @@ class CodePageWindow : public testing::FindIconFixture {
     return ToUtf8(text.c_str());
   }
 
-  testing::TemporaryFolder tree;
+  support::TemporaryFolder tree;
   ShellIcons icons;
   Folders folders;
 };
 
 TEST_F(CodePageWindow, FindsShowsAndSavesUnderNamesThatItHolds) {
   const std::string folder = tree.MakeFolder(Names().held);
-  const std::string path = tree.MakeFile(Names().held + "\\" + Names().held + ".ico", testing::IconFileOf(0xFF));
+  const std::string path = tree.MakeFile(Names().held + "\\" + Names().held + ".ico", support::IconFileOf(0xFF));
   OpenOn(folder, "ENG");
   Click(FrmFindIcon_CmdFind);
   EXPECT_EQ(Caption(), "Brindle Tarvik - " + folder + " - 1 Icons");
@@ -54,9 +54,9 @@ TEST_F(CodePageWindow, FindsShowsAndSavesUnderNamesThatItHolds) {
 }
 
 TEST_F(CodePageWindow, SaysInEachLanguageWhichFilesItLeavesOut) {
-  const std::string held = tree.MakeFile("a" + Names().held + ".ico", testing::IconFileOf(0xFF));
-  const std::string unheld = tree.MakeFile("b" + Names().unheld + ".ico", testing::IconFileOf(0xFF));
-  tree.MakeFile("c" + Names().unheld + ".ico", testing::IconFileOf(0xFF));
+  const std::string held = tree.MakeFile("a" + Names().held + ".ico", support::IconFileOf(0xFF));
+  const std::string unheld = tree.MakeFile("b" + Names().unheld + ".ico", support::IconFileOf(0xFF));
+  tree.MakeFile("c" + Names().unheld + ".ico", support::IconFileOf(0xFF));
   struct Row {
     const char* language;
     const char* text;
@@ -80,7 +80,7 @@ TEST_F(CodePageWindow, SaysInEachLanguageWhichFilesItLeavesOut) {
 }
 
 TEST_F(CodePageWindow, SaysInEachLanguageThatANameCannotBeSavedUnder) {
-  tree.MakeFile("a.ico", testing::IconFileOf(0xFF));
+  tree.MakeFile("a.ico", support::IconFileOf(0xFF));
   struct Row {
     const char* language;
     const char* title;
@@ -95,10 +95,10 @@ TEST_F(CodePageWindow, SaysInEachLanguageThatANameCannotBeSavedUnder) {
         Row{"CHT", "Brindle Tarvik - 錯誤", "此版本的 Windows 無法處理名稱中的某些字元。請選擇其他名稱或資料夾："}}) {
     OpenOn(tree.Path(), row.language);
     Click(FrmFindIcon_CmdFind);
-    testing::ModalDriver driver;
+    support::ModalDriver driver;
     driver.On(nameId, [this](HWND dialog) {
       SetDlgItemTextW(dialog, nameId, ToWide(tree.In(Names().unheld + ".ico")).c_str());
-      testing::Command(dialog, IDOK);
+      support::Command(dialog, IDOK);
     });
     dialogs.onAskForPath = [&](const FileDialogMode& mode) {
       return AskForFileToSave(window->Window(), mode, row.language);

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // Names for the code page in force: one that it holds, with its bytes in it; and one that no Chinese code page holds.
 struct CodePageNames {
@@ -18,4 +18,4 @@ inline CodePageNames Names() {
   return {"图标", "\xCD\xBC\xB1\xEA"};
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr std::size_t headerSize = 128;
@@ -86,4 +86,4 @@ Bytes Damaged(const IntactFile& file, Damage damage, Chance& chance) {
   return bytes;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -6,7 +6,7 @@
 
 #include "damaged_files/IntactFile.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // Chances that come out the same with every compiler.
 class Chance {
@@ -45,4 +45,4 @@ bool CanHave(const IntactFile& file, Damage damage);
 // The bytes of the file, damaged that way.
 Bytes Damaged(const IntactFile& file, Damage damage, Chance& chance);
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

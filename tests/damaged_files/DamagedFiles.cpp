@@ -6,7 +6,7 @@
 #include "damaged_files/Damage.h"
 #include "damaged_files/Libraries.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr std::uint32_t seed = 19680229;
@@ -143,4 +143,4 @@ std::vector<DamagedFolder> MakeDamagedModules(const TemporaryFolder& folder) {
   return MakeFolders(folder, ModuleKinds());
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -5,7 +5,7 @@
 
 #include "platform/TemporaryFolder.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // Files of one kind with the same damage, in a folder of their own and folders below it.
 struct DamagedFolder {
@@ -22,4 +22,4 @@ std::vector<DamagedFolder> MakeDamagedFiles(const TemporaryFolder& folder);
 // The same of 5,000 damaged 16-bit modules, with intact modules among them.
 std::vector<DamagedFolder> MakeDamagedModules(const TemporaryFolder& folder);
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr std::size_t chunkStart = 8;  // name and size
@@ -106,4 +106,4 @@ IntactFile IntactAnimation(const Bytes& file) {
   return intact;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -7,7 +7,7 @@
 
 #include "platform/IconFiles.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // A number in a file that says how many, how large or where.
 struct Field {
@@ -52,4 +52,4 @@ IntactFile IntactIconFile(const Bytes& file);
 // An animated cursor with its fields: the sizes of its chunks, its header, its order, and those of its pictures.
 IntactFile IntactAnimation(const Bytes& file);
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

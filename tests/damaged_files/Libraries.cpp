@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr std::uint32_t iconType = 3;
@@ -237,4 +237,4 @@ Bytes CutOffLibrary() {
   return file;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -4,7 +4,7 @@
 
 #include "damaged_files/IntactFile.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // Libraries of icons and nothing else, written byte by byte: no linker makes some of these kinds any more.
 
@@ -21,4 +21,4 @@ Bytes CutOffLibrary();
 // A library as 16-bit Windows had them ("NE"): a resource table of types and names.
 IntactFile SixteenBitLibrary(std::span<const IconPicture> pictures);
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

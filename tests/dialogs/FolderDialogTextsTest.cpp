@@ -8,7 +8,7 @@ namespace tarvik {
 namespace {
 
 TEST(FolderDialogTexts, NameTheChoosersControlsInThreeLanguages) {
-  testing::ExpectRows(frmDirTexts, {
+  support::ExpectRows(frmDirTexts, {
                                        {formCaption, {"Store To Directory...", "存储目录...", "存儲目錄..."}},
                                        {frmDir_CmdOk, {"&OK", "确定(&O)", "確定(&O)"}},
                                        {frmDir_CmdCancel, {"&Cancel", "取消(&C)", "取消(&C)"}},
@@ -23,7 +23,7 @@ TEST(FolderDialogTexts, NameTheChoosersControlsInThreeLanguages) {
 }
 
 TEST(FolderDialogTexts, NameTheNewFolderDialogsControlsInThreeLanguages) {
-  testing::ExpectRows(frmDirCreateTexts, {
+  support::ExpectRows(frmDirCreateTexts, {
                                              {frmDirCreate_CmdOk, {"Cr&eate", "创建(&R)", "創建(&R)"}},
                                              {frmDirCreate_CmdCancel, {"&Cancel", "取消(&C)", "取消(&C)"}},
                                              {frmDirCreate_lblCaption, {"Folder:", "文件夹:", "文件夾:"}},

@@ -15,8 +15,8 @@
 namespace tarvik {
 namespace {
 
-using testing::Command;
-using testing::TextOf;
+using support::Command;
+using support::TextOf;
 
 class frmDirTest : public ::testing::Test {
  protected:
@@ -37,9 +37,9 @@ class frmDirTest : public ::testing::Test {
     EXPECT_TRUE(IsWindowEnabled(owner));
     return answer;
   }
-  void OnDir(testing::ModalDriver::Step step) { driver.On(frmDir_dirMain, std::move(step)); }
-  void OnCreate(testing::ModalDriver::Step step) { driver.On(frmDirCreate_txt, std::move(step)); }
-  static testing::ModalDriver::Step Press(int id) {
+  void OnDir(support::ModalDriver::Step step) { driver.On(frmDir_dirMain, std::move(step)); }
+  void OnCreate(support::ModalDriver::Step step) { driver.On(frmDirCreate_txt, std::move(step)); }
+  static support::ModalDriver::Step Press(int id) {
     return [id](HWND window) { Command(window, id); };
   }
 
@@ -51,8 +51,8 @@ class frmDirTest : public ::testing::Test {
   std::vector<std::string> made;  // what the new-folder dialog asked for
   bool canMake = true;
   std::vector<DriveListBox::Drive> drives{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
-  testing::ModalDriver driver;
-  testing::BoxWatcher boxes;
+  support::ModalDriver driver;
+  support::BoxWatcher boxes;
   frmDir form{application,
               state,
               {[this] { return drives; }, [this](const std::string& folder) { return subFolders[folder]; },
@@ -103,18 +103,18 @@ TEST_F(frmDirTest, HoldsTheTypesTwiceAfterLoadingAndOnceMoreAfterEachChoice) {
   state.SaveExtension = ".bmp";
   OnDir([this](HWND window) {
     EXPECT_TRUE(IsWindowVisible(GetDlgItem(window, frmDir_CboFileType)));
-    EXPECT_EQ(testing::RowCount(window, frmDir_CboFileType), 18);
-    EXPECT_EQ(testing::ChosenRow(window, frmDir_CboFileType), 0);
-    EXPECT_EQ(testing::RowText(window, frmDir_CboFileType, 2), "JPG Files (*.jpg)");
-    EXPECT_EQ(testing::RowText(window, frmDir_CboFileType, 9 + 8), "EMF Files (*.emf)");
-    testing::ChooseRow(window, frmDir_CboFileType, 2);
+    EXPECT_EQ(support::RowCount(window, frmDir_CboFileType), 18);
+    EXPECT_EQ(support::ChosenRow(window, frmDir_CboFileType), 0);
+    EXPECT_EQ(support::RowText(window, frmDir_CboFileType, 2), "JPG Files (*.jpg)");
+    EXPECT_EQ(support::RowText(window, frmDir_CboFileType, 9 + 8), "EMF Files (*.emf)");
+    support::ChooseRow(window, frmDir_CboFileType, 2);
     EXPECT_EQ(state.SaveExtension, ".jpg");
-    EXPECT_EQ(testing::RowCount(window, frmDir_CboFileType), 27);
-    testing::ChooseRow(window, frmDir_CboFileType, 8);
+    EXPECT_EQ(support::RowCount(window, frmDir_CboFileType), 27);
+    support::ChooseRow(window, frmDir_CboFileType, 8);
     EXPECT_EQ(state.SaveExtension, ".emf");
-    testing::ChooseRow(window, frmDir_CboFileType, 9);
+    support::ChooseRow(window, frmDir_CboFileType, 9);
     EXPECT_EQ(state.SaveExtension, ".emf") << "only the first nine name an extension";
-    EXPECT_EQ(testing::RowCount(window, frmDir_CboFileType), 45);
+    EXPECT_EQ(support::RowCount(window, frmDir_CboFileType), 45);
     Command(window, frmDir_CmdOk);
   });
   Show();
@@ -130,7 +130,7 @@ TEST_F(frmDirTest, StartsWithBitmapsWhateverWasChosenLast) {
 
 TEST_F(frmDirTest, FollowsTheFolderThatIsOpened) {
   OnDir([](HWND window) {
-    testing::OpenRow(window, frmDir_dirMain, 3);  // C:\, work, a, b
+    support::OpenRow(window, frmDir_dirMain, 3);  // C:\, work, a, b
     EXPECT_EQ(TextOf(window, frmDir_lblDir), "C:\\work\\b");
     SendMessageW(GetDlgItem(window, frmDir_dirMain), LB_SETCURSEL, 0, 0);
     SendMessageW(GetDlgItem(window, frmDir_dirMain), WM_KEYDOWN, VK_RETURN, 0);
@@ -142,7 +142,7 @@ TEST_F(frmDirTest, FollowsTheFolderThatIsOpened) {
 
 TEST_F(frmDirTest, MovesToTheChosenDrive) {
   OnDir([](HWND window) {
-    testing::ChooseRow(window, frmDir_drvMain, 1);
+    support::ChooseRow(window, frmDir_drvMain, 1);
     EXPECT_EQ(TextOf(window, frmDir_lblDir), "D:\\");
     Command(window, frmDir_CmdOk);
   });
@@ -160,7 +160,7 @@ TEST_F(frmDirTest, ReturnsTheFolderLastShownWhereItIsClosed) {
   OnDir([](HWND window) { PostMessageW(window, WM_CLOSE, 0, 0); });
   EXPECT_EQ(Show(), "C:\\work");
   OnDir([](HWND window) {
-    testing::OpenRow(window, frmDir_dirMain, 2);
+    support::OpenRow(window, frmDir_dirMain, 2);
     PostMessageW(window, WM_CLOSE, 0, 0);
   });
   EXPECT_EQ(Show(), "C:\\work\\a");
@@ -171,7 +171,7 @@ TEST_F(frmDirTest, ChoosesTheFolderThatIsCreated) {
   OnCreate([](HWND window) {
     EXPECT_EQ(TextOf(window), "Create In C:\\work");
     EXPECT_EQ(TextOf(window, frmDirCreate_txt), "New Folder");
-    testing::SetText(window, frmDirCreate_txt, "新");
+    support::SetText(window, frmDirCreate_txt, "新");
     Command(window, frmDirCreate_CmdOk);
   });
   OnDir([](HWND window) {
@@ -203,7 +203,7 @@ TEST_F(frmDirTest, SelectsTheWholeNameEachTimeThatItsBoxGainsTheFocus) {
   OnCreate([](HWND window) {
     const HWND name = GetDlgItem(window, frmDirCreate_txt);
     for (const char* text : {"abc", "一二三四五"}) {
-      testing::SetText(window, frmDirCreate_txt, text);
+      support::SetText(window, frmDirCreate_txt, text);
       SetFocus(GetDlgItem(window, frmDirCreate_CmdCancel));
       SendMessageW(name, EM_SETSEL, 2, 2);
       SetFocus(name);
@@ -290,7 +290,7 @@ TEST_F(frmDirTest, StaysOpenWithTheTypedNameWhereAFolderCannotBeCreated) {
     state.CurrentLanguage = row.language;
     OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
     OnCreate([](HWND window) {
-      testing::SetText(window, frmDirCreate_txt, "a:b");
+      support::SetText(window, frmDirCreate_txt, "a:b");
       PostMessageW(window, WM_COMMAND, frmDirCreate_CmdOk, 0);
     });
     OnCreate([&](HWND window) {

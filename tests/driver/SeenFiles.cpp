@@ -40,7 +40,7 @@ std::vector<std::uint32_t> Pixels(const std::string& bytes) {
 }  // namespace
 
 std::map<std::string, SeenFile> SeeFiles(const std::string& folder) {
-  const testing::TemporaryFolder seen;
+  const support::TemporaryFolder seen;
   const UnixAnswer answer = RunUnix("seen=" + UnixQuoted(ToWide(seen.Path())) + "\ncd " + UnixQuoted(ToWide(folder)) +
                                     " || exit\n" + readEach);
   if (answer.exitCode != 0) throw std::runtime_error("the files cannot be read: " + answer.output);
@@ -48,8 +48,8 @@ std::map<std::string, SeenFile> SeeFiles(const std::string& folder) {
   std::size_t start = 0;
   for (std::size_t end = 0; (end = answer.output.find('\n', start)) != std::string::npos; start = end + 1) {
     const std::string name = answer.output.substr(start, end - start);
-    files[name] = {.told = testing::ReadAll(seen.In(name + ".txt")),
-                   .pixels = Pixels(testing::ReadAll(seen.In(name + ".rgba")))};
+    files[name] = {.told = support::ReadAll(seen.In(name + ".txt")),
+                   .pixels = Pixels(support::ReadAll(seen.In(name + ".rgba")))};
   }
   return files;
 }

@@ -11,6 +11,8 @@
 namespace tarvik {
 namespace {
 
+using support::TestRaster;
+
 // The bytes of a file from one place on. Reading past the end gives zeros and is remembered.
 class Reader {
  public:

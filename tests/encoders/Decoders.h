@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "TestPictures.h"
+#include "support/TestPictures.h"
 
 namespace tarvik {
 
@@ -36,7 +36,7 @@ struct JpegMarkers {
 std::optional<JpegMarkers> ReadJpegMarkers(std::span<const std::byte> file);
 
 // The picture as libjpeg-turbo decodes it; nothing where it complains, be it a warning.
-std::optional<TestRaster> DecodeJpeg(std::span<const std::byte> file);
+std::optional<support::TestRaster> DecodeJpeg(std::span<const std::byte> file);
 
 // A GIF file of one image, as giflib reads it.
 struct GifContent {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 inline int ByteAt(const std::string& bytes, std::size_t place) {
   return static_cast<std::uint8_t>(bytes.at(place));
@@ -37,4 +37,4 @@ inline int FirstQuantiser(const std::string& jpeg) {
   return ByteAt(jpeg, SegmentAt(jpeg, 0xDB) + 1);
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

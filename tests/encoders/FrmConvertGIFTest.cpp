@@ -7,20 +7,21 @@
 #include "encoders/EncodedImages.h"
 #include "encoders/FrmConvertGIFTexts.h"
 #include "encoders/GifOptions.h"
-#include "export/MemorySink.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
 #include "platform/DiskFile.h"
 #include "platform/TemporaryFolder.h"
 #include "resource.h"
+#include "support/MemorySink.h"
 
 namespace tarvik {
 namespace {
 
-using testing::ByteAt;
-using testing::Command;
-using testing::ReadAll;
-using testing::TextOf;
+using support::ByteAt;
+using support::Command;
+using support::MemorySink;
+using support::ReadAll;
+using support::TextOf;
 
 constexpr std::size_t firstPaletteEntry = 13;
 
@@ -31,7 +32,7 @@ class FrmConvertGIFTest : public ::testing::Test {
     SetPixel(icon.Dc(), 0, 0, RGB(10, 20, 30));
   }
 
-  DialogAnswer Show(DialogMode mode, testing::ModalDriver::Step work) {
+  DialogAnswer Show(DialogMode mode, support::ModalDriver::Step work) {
     driver.On(FrmConvertGIF_Option1, std::move(work));
     if (mode == DialogMode::Single) form.InitGifExport(icon, path);
     return form.ShowFor(mode);
@@ -47,11 +48,11 @@ class FrmConvertGIFTest : public ::testing::Test {
 
   Application application{GetModuleHandleW(nullptr)};
   ProgramState state;
-  testing::TemporaryFolder folder;
+  support::TemporaryFolder folder;
   std::string path = folder.In("图.gif");
   Surface icon{32, 32, 0x332211};
   DiskFile files;
-  testing::ModalDriver driver;
+  support::ModalDriver driver;
   FrmConvertGIF form{application, state, nullptr, {files, FileLength}};
 };
 
@@ -167,7 +168,7 @@ TEST_F(FrmConvertGIFTest, ShowsThatItConverts) {
 
 TEST_F(FrmConvertGIFTest, ReplacesAReadOnlyFileAndTellsWhatCannotBeWritten) {
   folder.MakeFile("图.gif", "former");
-  testing::AddAttributes(path, FILE_ATTRIBUTE_READONLY);
+  support::AddAttributes(path, FILE_ATTRIBUTE_READONLY);
   EXPECT_EQ(Show(DialogMode::Single, [](HWND window) { Command(window, FrmConvertGIF_CmdOk); }), DialogAnswer::Ok);
   EXPECT_EQ(ReadAll(path).substr(0, 3), "GIF");
   path = folder.MakeFolder("a.gif");

@@ -10,12 +10,18 @@
 #include <gtest/gtest.h>
 
 #include "Decoders.h"
-#include "TestPictures.h"
-#include "export/MemorySink.h"
+#include "support/MemorySink.h"
+#include "support/TestPictures.h"
 
 namespace tarvik {
 namespace {
 
+using support::Gradient;
+using support::ManyColors;
+using support::MemorySink;
+using support::Noise;
+using support::Photo;
+using support::TestRaster;
 using testing::Optional;
 
 const std::string path = "C:\\图标\\Images 1.gif";

@@ -9,13 +9,18 @@
 #include <gtest/gtest.h>
 
 #include "Decoders.h"
-#include "TestPictures.h"
 #include "encoders/JpegOptions.h"
-#include "export/MemorySink.h"
+#include "support/MemorySink.h"
+#include "support/TestPictures.h"
 
 namespace tarvik {
 namespace {
 
+using support::Gradient;
+using support::MemorySink;
+using support::Noise;
+using support::Photo;
+using support::TestRaster;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using Component = JpegMarkers::Component;

@@ -3,12 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "export/MemorySink.h"
-#include "export/TestRaster.h"
+#include "support/MemorySink.h"
+#include "support/TestRaster.h"
 
 namespace tarvik {
 namespace {
 
+using support::MemorySink;
+using support::TestRaster;
 using ::testing::IsEmpty;
 
 class JpegExportTest : public ::testing::Test {

@@ -7,21 +7,23 @@
 #include "encoders/EncodedImages.h"
 #include "encoders/JpegOptions.h"
 #include "encoders/fSaveJPGTexts.h"
-#include "export/MemorySink.h"
-#include "export/TestRaster.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
 #include "platform/DiskFile.h"
 #include "platform/TemporaryFolder.h"
 #include "resource.h"
+#include "support/MemorySink.h"
+#include "support/TestRaster.h"
 
 namespace tarvik {
 namespace {
 
-using testing::ChooseRow;
-using testing::Command;
-using testing::ReadAll;
-using testing::TextOf;
+using support::ChooseRow;
+using support::Command;
+using support::MemorySink;
+using support::ReadAll;
+using support::TestRaster;
+using support::TextOf;
 
 class fSaveJPGTest : public ::testing::Test {
  protected:
@@ -31,7 +33,7 @@ class fSaveJPGTest : public ::testing::Test {
   }
 
   // Shows the dialog for one file; `work` works it.
-  DialogAnswer ShowSingle(testing::ModalDriver::Step work) {
+  DialogAnswer ShowSingle(support::ModalDriver::Step work) {
     form.InitJpegExport(picture, path, DialogMode::Single);
     driver.On(fSaveJPG_CboSize, std::move(work));
     return form.ShowFor(DialogMode::Single);
@@ -48,11 +50,11 @@ class fSaveJPGTest : public ::testing::Test {
 
   Application application{GetModuleHandleW(nullptr)};
   ProgramState state;
-  testing::TemporaryFolder folder;
+  support::TemporaryFolder folder;
   std::string path = folder.In("图.jpg");
   TestRaster picture{32, [](int x, int y) { return static_cast<Color>(x * 8 + y * 8 * 256); }};
   DiskFile files;
-  testing::ModalDriver driver;
+  support::ModalDriver driver;
   fSaveJPG form{application, state, nullptr, files};
 };
 
@@ -61,8 +63,8 @@ TEST_F(fSaveJPGTest, OpensWithMediumQualityAndTheDefaultSampling) {
   EXPECT_EQ(form.ItemText(fSaveJPG_txtQual), "60");
   EXPECT_EQ(form.ItemText(fSaveJPG_CboSize), "Medium");
   EXPECT_EQ(form.ItemText(fSaveJPG_cboSubSample), "2:2  [Default]");
-  EXPECT_EQ(testing::RowCount(form.Window(), fSaveJPG_CboSize), 5);
-  EXPECT_EQ(testing::RowCount(form.Window(), fSaveJPG_cboSubSample), 16);
+  EXPECT_EQ(support::RowCount(form.Window(), fSaveJPG_CboSize), 5);
+  EXPECT_EQ(support::RowCount(form.Window(), fSaveJPG_cboSubSample), 16);
 }
 
 TEST_F(fSaveJPGTest, ShowsItsTextsInEachLanguage) {
@@ -74,7 +76,7 @@ TEST_F(fSaveJPGTest, ShowsItsTextsInEachLanguage) {
       EXPECT_EQ(shown, *Pick(row.text, language));
     }
     for (int preset = 0; preset < 5; ++preset)
-      EXPECT_EQ(testing::RowText(form.Window(), fSaveJPG_CboSize, preset),
+      EXPECT_EQ(support::RowText(form.Window(), fSaveJPG_CboSize, preset),
                 *Pick(qualityPresets.at(static_cast<std::size_t>(preset)), language));
     form.Unload();
   }
@@ -114,9 +116,9 @@ TEST_F(fSaveJPGTest, WritesTheFileWithTheChosenOptions) {
             }),
             DialogAnswer::Ok);
   const std::string jpeg = ReadAll(path);
-  EXPECT_EQ(testing::ComponentsOf(jpeg), 3);
-  EXPECT_EQ(testing::LuminanceFactorsOf(jpeg), 0x41);
-  EXPECT_EQ(testing::FirstQuantiser(jpeg), 1) << "quality 100";
+  EXPECT_EQ(support::ComponentsOf(jpeg), 3);
+  EXPECT_EQ(support::LuminanceFactorsOf(jpeg), 0x41);
+  EXPECT_EQ(support::FirstQuantiser(jpeg), 1) << "quality 100";
   EXPECT_FALSE(form.IsLoaded());
 }
 
@@ -128,7 +130,7 @@ TEST_F(fSaveJPGTest, DisablesTheSamplingForGreyscaleAndTakesItUpAgain) {
     EXPECT_FALSE(IsWindowEnabled(GetDlgItem(window, fSaveJPG_cboSubSample)));
     Command(window, fSaveJPG_cmdFinish1);
   });
-  EXPECT_EQ(testing::ComponentsOf(ReadAll(path)), 1);
+  EXPECT_EQ(support::ComponentsOf(ReadAll(path)), 1);
   ShowSingle([](HWND window) {
     ChooseRow(window, fSaveJPG_cboSubSample, 2);
     for (const UINT check : {UINT{BST_CHECKED}, UINT{BST_UNCHECKED}}) {
@@ -138,8 +140,8 @@ TEST_F(fSaveJPGTest, DisablesTheSamplingForGreyscaleAndTakesItUpAgain) {
     EXPECT_TRUE(IsWindowEnabled(GetDlgItem(window, fSaveJPG_cboSubSample)));
     Command(window, fSaveJPG_cmdFinish1);
   });
-  EXPECT_EQ(testing::ComponentsOf(ReadAll(path)), 3);
-  EXPECT_EQ(testing::LuminanceFactorsOf(ReadAll(path)), 0x21);
+  EXPECT_EQ(support::ComponentsOf(ReadAll(path)), 3);
+  EXPECT_EQ(support::LuminanceFactorsOf(ReadAll(path)), 0x21);
 }
 
 TEST_F(fSaveJPGTest, WritesNothingWhereItIsCancelledOrClosed) {
@@ -154,9 +156,9 @@ TEST_F(fSaveJPGTest, WritesNothingWhereItIsCancelledOrClosed) {
 
 TEST_F(fSaveJPGTest, ReplacesAReadOnlyFile) {
   folder.MakeFile("图.jpg", "former");
-  testing::AddAttributes(path, FILE_ATTRIBUTE_READONLY);
+  support::AddAttributes(path, FILE_ATTRIBUTE_READONLY);
   EXPECT_EQ(ShowSingle([](HWND window) { Command(window, fSaveJPG_cmdFinish1); }), DialogAnswer::Ok);
-  EXPECT_EQ(testing::ByteAt(ReadAll(path), 1), 0xD8);
+  EXPECT_EQ(support::ByteAt(ReadAll(path), 1), 0xD8);
 }
 
 TEST_F(fSaveJPGTest, ShowsTheHourglassWhileItWrites) {
@@ -196,8 +198,8 @@ TEST_F(fSaveJPGTest, KeepsTheOptionsForABatchAndWritesNothingItself) {
   for (const char* name : {"1.jpg", "2.jpg"}) {
     form.InitJpegExport(picture, folder.In(name), DialogMode::NoSingle);
     EXPECT_TRUE(form.SaveToJPGForNoSingle(folder.In(name)));
-    EXPECT_EQ(testing::ComponentsOf(ReadAll(folder.In(name))), 1);
-    EXPECT_GT(testing::FirstQuantiser(ReadAll(folder.In(name))), 16) << "quality 20";
+    EXPECT_EQ(support::ComponentsOf(ReadAll(folder.In(name))), 1);
+    EXPECT_GT(support::FirstQuantiser(ReadAll(folder.In(name))), 16) << "quality 20";
   }
   form.FreeObj();
   EXPECT_FALSE(form.IsLoaded());
@@ -209,7 +211,7 @@ TEST_F(fSaveJPGTest, KeepsTheOptionsForABatchAndWritesNothingItself) {
 TEST_F(fSaveJPGTest, BeginsWithAnEncoderOfItsOwnAfterItWasFreed) {
   driver.On(fSaveJPG_CboSize, [](HWND window) { PostMessageW(window, WM_COMMAND, fSaveJPG_cmdComment, 0); });
   driver.On(fComment_txtComment, [&](HWND window) {
-    testing::SetText(window, fComment_txtComment, "of the first batch");
+    support::SetText(window, fComment_txtComment, "of the first batch");
     Command(window, fComment_cmdFinish);
   });
   driver.On(fSaveJPG_CboSize, [](HWND window) { Command(window, fSaveJPG_cmdFinish1); });
@@ -231,18 +233,18 @@ TEST_F(fSaveJPGTest, WritesTheCommentThatWasTyped) {
     driver.On(fSaveJPG_CboSize, [](HWND window) { PostMessageW(window, WM_COMMAND, fSaveJPG_cmdComment, 0); });
     driver.On(fComment_txtComment, [&](HWND window) {
       EXPECT_EQ(TextOf(window), "Comment");
-      testing::SetText(window, fComment_txtComment, comment);
+      support::SetText(window, fComment_txtComment, comment);
       Command(window, fComment_cmdFinish);
     });
     driver.On(fSaveJPG_CboSize, [](HWND window) { PostMessageW(window, WM_COMMAND, fSaveJPG_cmdComment, 0); });
     driver.On(fComment_txtComment, [&](HWND window) {
       EXPECT_EQ(TextOf(window, fComment_txtComment), comment) << "the text that the encoder holds";
-      testing::SetText(window, fComment_txtComment, "left by Esc");
+      support::SetText(window, fComment_txtComment, "left by Esc");
       Command(window, IDCANCEL);
     });
     driver.On(fSaveJPG_CboSize, [](HWND window) { Command(window, fSaveJPG_cmdFinish1); });
     EXPECT_EQ(form.ShowFor(DialogMode::Single), DialogAnswer::Ok);
-    EXPECT_EQ(testing::CommentOf(ReadAll(path)), comment);
+    EXPECT_EQ(support::CommentOf(ReadAll(path)), comment);
   }
 }
 
@@ -251,7 +253,7 @@ TEST_F(fSaveJPGTest, TakesEnterInTheCommentForANewLine) {
   driver.On(fSaveJPG_CboSize, [](HWND window) { PostMessageW(window, WM_COMMAND, fSaveJPG_cmdComment, 0); });
   driver.On(fComment_txtComment, [](HWND window) {
     const HWND text = GetDlgItem(window, fComment_txtComment);
-    testing::SetText(window, fComment_txtComment, "eins");
+    support::SetText(window, fComment_txtComment, "eins");
     SetFocus(text);
     SendMessageW(text, EM_SETSEL, 4, 4);
     PostMessageW(text, WM_KEYDOWN, VK_RETURN, 1);
@@ -263,7 +265,7 @@ TEST_F(fSaveJPGTest, TakesEnterInTheCommentForANewLine) {
   });
   driver.On(fSaveJPG_CboSize, [](HWND window) { Command(window, fSaveJPG_cmdFinish1); });
   EXPECT_EQ(form.ShowFor(DialogMode::Single), DialogAnswer::Ok);
-  EXPECT_EQ(testing::CommentOf(ReadAll(path)), "eins\r\n");
+  EXPECT_EQ(support::CommentOf(ReadAll(path)), "eins\r\n");
 }
 
 TEST_F(fSaveJPGTest, TakesAnOpenCommentWithItWhereItIsClosed) {

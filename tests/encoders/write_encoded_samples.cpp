@@ -8,14 +8,21 @@
 #include <string>
 #include <vector>
 
-#include "TestPictures.h"
 #include "encoders/GifEncoder.h"
 #include "encoders/JpegEncoder.h"
 #include "encoders/JpegOptions.h"
-#include "export/FileOnDisk.h"
+#include "support/FileOnDisk.h"
+#include "support/TestPictures.h"
 
 namespace tarvik {
 namespace {
+
+using support::FileOnDisk;
+using support::Gradient;
+using support::ManyColors;
+using support::Noise;
+using support::Photo;
+using support::TestRaster;
 
 bool written = true;
 

@@ -18,7 +18,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::IconFileOf;
+using support::IconFileOf;
 
 enum class State { AtStart, AfterASearch, WithTheList, AfterASearchWithoutIcons };
 

@@ -9,7 +9,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::IconFileOf;
+using support::IconFileOf;
 
 class Busy : public EndToEnd {
  protected:

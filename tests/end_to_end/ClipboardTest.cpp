@@ -12,8 +12,8 @@
 namespace tarvik::end_to_end {
 namespace {
 
+using support::Paste;
 using ::testing::ElementsAre;
-using testing::Paste;
 
 class Copy : public Saving {
  protected:
@@ -46,9 +46,9 @@ TEST_F(Copy, PixelsThatInvertDoSoAtEverySize) {
   constexpr Color right = 0xA06010;
   constexpr std::size_t headerSize = 40;
   constexpr std::size_t lowerHalf = std::size_t{3} * side * side / 2;
-  testing::IconPicture picture = testing::BitmapPicture(side, 24, left, right);
+  support::IconPicture picture = support::BitmapPicture(side, 24, left, right);
   std::fill_n(picture.data.begin() + headerSize, lowerHalf, std::byte{0x40});
-  tree_.MakeFile("a.ico", testing::IconFile({&picture, 1}));
+  tree_.MakeFile("a.ico", support::IconFile({&picture, 1}));
   Start();
   for (const auto& [choice, size] : {std::pair{Size16, 16}, {Size32, 32}, {Size48, 48}, {Size64, 64}}) {
     ChooseSize(choice);

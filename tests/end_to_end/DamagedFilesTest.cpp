@@ -19,8 +19,8 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::DamagedFolder;
-using testing::Holdings;
+using support::DamagedFolder;
+using support::Holdings;
 using Paths = std::vector<std::string>;
 
 // Whether the system's own code faults when it is asked how many icons the file holds, or for the first of them.
@@ -81,13 +81,13 @@ class DamagedFiles : public EndToEnd {
 };
 
 TEST_F(DamagedFiles, AreSearchedWithoutACrashAMessageOrGrowthAndTheIntactOnesAmongThemFound) {
-  const std::vector<DamagedFolder> folders = testing::MakeDamagedFiles(tree_);
+  const std::vector<DamagedFolder> folders = support::MakeDamagedFiles(tree_);
   Start({}, true);
   Tick({Ico, Ani, Icl, Ocx, Dll, Exe, AllFiles});
   ChooseSize(Size16);
   SetLimit("4000");
   Search(folders.front());
-  const Holdings before = testing::HeldBy(program_.Process());
+  const Holdings before = support::HeldBy(program_.Process());
   int files = 0;
   int breaking = 0;
   for (const DamagedFolder& folder : folders) {
@@ -95,7 +95,7 @@ TEST_F(DamagedFiles, AreSearchedWithoutACrashAMessageOrGrowthAndTheIntactOnesAmo
     files += static_cast<int>(folder.damaged.size());
   }
   EXPECT_GE(files, 10000);
-  const Holdings after = testing::HeldBy(program_.Process());
+  const Holdings after = support::HeldBy(program_.Process());
   std::printf("%d damaged files; %d of them break the system\n", files, breaking);
   // What the system held when it faulted stays: a bitmap here, a few pages of a file there.
   EXPECT_LT(after.gdiObjects - before.gdiObjects, files / 20);
@@ -105,14 +105,14 @@ TEST_F(DamagedFiles, AreSearchedWithoutACrashAMessageOrGrowthAndTheIntactOnesAmo
 
 // The program reads 16-bit modules itself where the shell finds no icon in them, as on today's Windows.
 TEST_F(DamagedFiles, AreReadAsModulesWithoutACrashAMessageOrGrowthAndTheIntactOnesAmongThemFound) {
-  const std::vector<DamagedFolder> folders = testing::MakeDamagedModules(tree_);
+  const std::vector<DamagedFolder> folders = support::MakeDamagedModules(tree_);
   TakeTodaysShell(program_);
   Start({}, true);
   Tick({Icl, Exe, Dll, Ocx});
   ChooseSize(Size16);
   SetLimit("4000");
   Search(folders.front());
-  const Holdings before = testing::HeldBy(program_.Process());
+  const Holdings before = support::HeldBy(program_.Process());
   int files = 0;
   int icons = 0;
   for (const DamagedFolder& folder : folders) {
@@ -123,7 +123,7 @@ TEST_F(DamagedFiles, AreReadAsModulesWithoutACrashAMessageOrGrowthAndTheIntactOn
     std::printf("%-20s %-15s %4zu damaged, with %4zu icons\n", folder.kind.c_str(), folder.damage.c_str(),
                 folder.damaged.size(), found.size() - folder.intact.size());
   }
-  const Holdings after = testing::HeldBy(program_.Process());
+  const Holdings after = support::HeldBy(program_.Process());
   std::printf("%d damaged modules; %+d GDI objects, %+d handles, %+lld bytes\n", files,
               after.gdiObjects - before.gdiObjects, after.kernelHandles - before.kernelHandles,
               static_cast<long long>(after.bytes - before.bytes));

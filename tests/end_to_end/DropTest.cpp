@@ -41,7 +41,7 @@ class Drop : public EndToEnd {
   // Drops these on the main window. The message names memory of the process that gets it; Windows puts it there itself,
   // Wine leaves that to the sender.
   void DropOnWindow(const std::vector<std::string>& paths) const {
-    const std::vector<std::byte> block = testing::DroppedBlock(paths);
+    const std::vector<std::byte> block = support::DroppedBlock(paths);
     void* memory = VirtualAllocEx(program_.Process(), nullptr, block.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
     ASSERT_NE(memory, nullptr);
     ASSERT_NE(WriteProcessMemory(program_.Process(), memory, block.data(), block.size(), nullptr), 0);
@@ -51,7 +51,7 @@ class Drop : public EndToEnd {
 };
 
 TEST_F(Drop, AFileOpensItsFolderAndItsIconsAreFound) {
-  const testing::TemporaryFolder elsewhere;
+  const support::TemporaryFolder elsewhere;
   elsewhere.MakeFolder("图标");
   CopyThreeIcons(elsewhere.In("图标\\some.dll"));
   Start();
@@ -68,7 +68,7 @@ TEST_F(Drop, AFileOpensItsFolderAndItsIconsAreFound) {
 TEST_F(Drop, AFolderOnAnotherDriveIsOpenedAndItsDriveChosen) {
   const ExtraDrive drive(tree_.Path(), "extra");
   tree_.MakeFolder("inner");
-  tree_.MakeFile("inner\\a.ico", testing::IconFileOf(0xFF));
+  tree_.MakeFile("inner\\a.ico", support::IconFileOf(0xFF));
   Start("C:\\windows");
   DropOnWindow({"R:\\inner"});
   ASSERT_TRUE(Eventually([&] { return FolderNames() == std::vector<std::string>{"R:\\", "inner"}; }));
@@ -78,7 +78,7 @@ TEST_F(Drop, AFolderOnAnotherDriveIsOpenedAndItsDriveChosen) {
 
 TEST_F(Drop, AShareIsOpenedAndSearchedAndKept) {
   tree_.MakeFolder("inner");
-  tree_.MakeFile("inner\\a.ico", testing::IconFileOf(0xFF));
+  tree_.MakeFile("inner\\a.ico", support::IconFileOf(0xFF));
   const Share share(tree_.Path());
   Start("C:\\windows", true);
   DropOnWindow({R"(\\tarvik\icons)"});

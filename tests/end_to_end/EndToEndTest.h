@@ -79,8 +79,8 @@ class EndToEnd : public ::testing::Test {
   std::vector<std::string> FileNames() const { return program_.Item(FrmFindIcon_File1).ListItems(); }
   std::vector<std::string> FolderNames() const { return program_.Item(FrmFindIcon_Dir1).ListItems(); }
 
-  testing::TemporaryFolder home_;  // where the program lies
-  testing::TemporaryFolder tree_;  // what is searched
+  support::TemporaryFolder home_;  // where the program lies
+  support::TemporaryFolder tree_;  // what is searched
   LanguageValue noLanguage_{std::nullopt};
   Program program_{home_.Path()};
 };

@@ -184,7 +184,7 @@ TEST_F(EndingAtWork, ASearchEndsWithTheSessionWithoutAMessageAndTheFirstFolderIs
   for (int i = 0; i < folders; ++i) {
     const std::string folder = "folder" + std::to_string(100 + i);
     tree_.MakeFolder(folder);
-    tree_.MakeFile(folder + "\\a.ico", testing::IconFileOf(0xFF));
+    tree_.MakeFile(folder + "\\a.ico", support::IconFileOf(0xFF));
   }
   Start({}, true);
   program_.Item(FrmFindIcon_CmdFind).Press();

@@ -142,7 +142,7 @@ TEST_F(EnhancedViewPicture, IsEmptyForAnIconWhoseFileIsGone) {
 
 TEST_F(EnhancedViewPicture, ShowsAnAnimationFrameByFrame) {
   constexpr auto colors = std::to_array<Color>({0x0000FF, 0x00FF00, 0xFF0000, 0x00FFFF});
-  const std::string path = tree_.MakeFile("spin.ani", testing::AnimationFile(colors));
+  const std::string path = tree_.MakeFile("spin.ani", support::AnimationFile(colors));
   Start();
   Tick({Ani});
   Find();

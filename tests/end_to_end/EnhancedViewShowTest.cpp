@@ -113,9 +113,9 @@ TEST_F(EnhancedViewShow, HoldsNoMoreAfterAThousandTicks) {
   view.Press(frmBit_tlb_control_Slower, 60);
   view.Press(frmBit_tlb_control_Start);
   for (int tick = 0; tick < 100; ++tick) view.Tick();
-  const testing::Holdings before = testing::HeldBy(program_.Process());
+  const support::Holdings before = support::HeldBy(program_.Process());
   for (int tick = 0; tick < 1000; ++tick) view.Tick();
-  const testing::Holdings after = testing::HeldBy(program_.Process());
+  const support::Holdings after = support::HeldBy(program_.Process());
   EXPECT_EQ(after.gdiObjects, before.gdiObjects);
   EXPECT_EQ(after.kernelHandles, before.kernelHandles);
   EXPECT_LT(after.userHandles, before.userHandles + 100) << "one in ten ticks";

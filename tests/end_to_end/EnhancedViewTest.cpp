@@ -134,7 +134,7 @@ TEST_F(EnhancedViewOpens, AndGoesWithTheProgram) {
 
 TEST_F(EnhancedViewOpens, AndClosesWhenASearchBegins) {
   FindFiles(2);
-  tree_.MakeFile(FileName(3), testing::IconFileOf(0xFF));
+  tree_.MakeFile(FileName(3), support::IconFileOf(0xFF));
   const EnhancedView view = OpenOn(2);
   program_.Command(FrmFindIcon_mnuStart);
   EXPECT_TRUE(Eventually([&] { return !view.IsOpen(); }));

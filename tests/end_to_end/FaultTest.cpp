@@ -26,9 +26,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using support::IconFileOf;
 using ::testing::Each;
 using ::testing::ElementsAre;
-using testing::IconFileOf;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
@@ -47,9 +47,9 @@ class Faults : public EndToEnd {
     EmptyTheClipboard();
     program_.Command(FrmFindIcon_mnuCopy);
     EXPECT_TRUE(Eventually([] { return IsClipboardFormatAvailable(CF_BITMAP) != 0; }));
-    return testing::Paste().pixels;
+    return support::Paste().pixels;
   }
-  void Replace(const std::string& path, const testing::Bytes& bytes) const {
+  void Replace(const std::string& path, const support::Bytes& bytes) const {
     ASSERT_NE(DeleteFileW(ToWide(path).c_str()), 0) << path;
     tree_.MakeFile(FolderName(path), bytes);
   }
@@ -166,7 +166,7 @@ TEST_F(Faults, AFileThatIsGoneDamagedOrHeldAfterTheSearchGivesABlank) {
     expectBlank();
   }
   EXPECT_THAT(Copy(), ShowsColor(red)) << "it comes back with the file";
-  Replace(path, testing::Bytes(300, std::byte{7}));
+  Replace(path, support::Bytes(300, std::byte{7}));
   expectBlank();
   ASSERT_NE(DeleteFileW(ToWide(path).c_str()), 0);
   expectBlank();
@@ -188,7 +188,7 @@ TEST_F(Faults, AClipboardThatAnotherProgramHoldsOpenIsReportedAndLeftAsItIs) {
     box.Press(IDOK);
   }
   DestroyWindow(holder);
-  EXPECT_THAT(testing::Paste().pixels, IsEmpty());
+  EXPECT_THAT(support::Paste().pixels, IsEmpty());
   EXPECT_THAT(Copy(), ShowsColor(red));
   ExpectUsable();
 }
@@ -269,19 +269,19 @@ TEST_F(SettingsFaults, AFileThatAnotherProgramHoldsOpenIsReadAndStaysAsItIs) {
   tree_.MakeFile("a.ico", IconFileOf(red));
   WriteSetting("Folder", tree_.Path());
   WriteSetting("Subdir", "True");
-  const std::string before = testing::ReadAll(File());
+  const std::string before = support::ReadAll(File());
   const FileHandle held(
       CreateFileW(program_.SettingsFile().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
   ASSERT_TRUE(held);
   ChangeOneAndClose();
-  EXPECT_EQ(testing::ReadAll(File()), before);
+  EXPECT_EQ(support::ReadAll(File()), before);
 }
 
 TEST_F(SettingsFaults, AReadOnlyFileIsReadAndStaysWhole) {
   tree_.MakeFile("a.ico", IconFileOf(red));
   WriteSetting("Folder", tree_.Path());
   WriteSetting("Subdir", "True");
-  testing::AddAttributes(File(), FILE_ATTRIBUTE_READONLY);
+  support::AddAttributes(File(), FILE_ATTRIBUTE_READONLY);
   // Under Wine the owner of the machine may write to such a file all the same.
   const bool mayBeWritten = static_cast<bool>(
       FileHandle(CreateFileW(program_.SettingsFile().c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr)));
@@ -365,7 +365,7 @@ TEST_F(TemporaryFolderFaults, AJpegIsSavedWithoutATemporaryFolder) {
   SaveAsImage(In("a.jpg"));
   const Control options = program_.WaitForWindowWith(fSaveJPG_cmdFinish1);
   Control(GetDlgItem(options.Window(), fSaveJPG_cmdFinish1)).Press();
-  EXPECT_TRUE(Eventually([&] { return testing::ReadAll(In("a.jpg")).ends_with("\xFF\xD9"); }));
+  EXPECT_TRUE(Eventually([&] { return support::ReadAll(In("a.jpg")).ends_with("\xFF\xD9"); }));
   EXPECT_TRUE(Eventually([] { return !fs::exists(temporaryBitmap); }));
   ExpectUsable();
 }

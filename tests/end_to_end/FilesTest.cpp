@@ -12,15 +12,15 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::AddAttributes;
-using testing::AnimationFile;
-using testing::BitmapPicture;
-using testing::Bytes;
+using support::AddAttributes;
+using support::AnimationFile;
+using support::BitmapPicture;
+using support::Bytes;
+using support::IconFile;
+using support::IconFileOf;
+using support::PngPicture;
 using ::testing::ElementsAre;
 using ::testing::Field;
-using testing::IconFile;
-using testing::IconFileOf;
-using testing::PngPicture;
 
 class Files : public EndToEnd {
  protected:
@@ -36,7 +36,7 @@ class Files : public EndToEnd {
 constexpr const char* extensions[] = {".ico", ".ani", ".icl", ".ocx", ".dll", ".exe"};
 
 TEST_F(Files, AnIconFileIsOneIconHoweverManyPicturesItHolds) {
-  const testing::IconPicture pictures[] = {BitmapPicture(16, 1, black, white),  BitmapPicture(16, 4, 0xFF, 0xFF00),
+  const support::IconPicture pictures[] = {BitmapPicture(16, 1, black, white),  BitmapPicture(16, 4, 0xFF, 0xFF00),
                                            BitmapPicture(32, 8, 0xFF, 0xFF00),  BitmapPicture(32, 24, 0xFF, 0xFF00),
                                            BitmapPicture(48, 32, 0xFF, 0xFF00), PngPicture(64, 0xFF, 0xFF00)};
   const std::string path = tree_.MakeFile("many.ico", IconFile(pictures));
@@ -46,10 +46,10 @@ TEST_F(Files, AnIconFileIsOneIconHoweverManyPicturesItHolds) {
 TEST_F(Files, EveryDepthIsFound) {
   std::vector<Entry> expected;
   for (const int bits : {1, 4, 8, 24, 32}) {
-    const testing::IconPicture pictures[] = {BitmapPicture(32, bits, 0x0000FF, 0x00FF00)};
+    const support::IconPicture pictures[] = {BitmapPicture(32, bits, 0x0000FF, 0x00FF00)};
     expected.push_back({tree_.MakeFile("bits " + std::to_string(100 + bits) + ".ico", IconFile(pictures)), 0});
   }
-  const testing::IconPicture png[] = {PngPicture(32, 0x0000FF, 0x00FF00)};
+  const support::IconPicture png[] = {PngPicture(32, 0x0000FF, 0x00FF00)};
   expected.push_back({tree_.MakeFile("picture.ico", IconFile(png)), 0});
   EXPECT_EQ(FindAll(), expected);
 }
@@ -80,7 +80,7 @@ TEST_F(Files, FilesCutOffAnywhereDoNotStopASearch) {
   const Bytes icon = IconFileOf(0xFF);
   const Bytes animation = AnimationFile(colors);
   CopyThreeIcons(In("whole.dll"));
-  const std::string library = testing::ReadAll(In("whole.dll"));
+  const std::string library = support::ReadAll(In("whole.dll"));
   for (int part = 1; part < 8; ++part) {
     const std::string end = std::to_string(part);
     const auto cut = [part](std::size_t size) { return size * static_cast<std::size_t>(part) / 8; };

@@ -104,7 +104,7 @@ TEST_F(ChooseFolder, TheCloseBoxTakesTheFolderLastShown) {
 }
 
 TEST_F(ChooseFolder, AnotherDriveIsChosenAndItsRootTakenAsItStands) {
-  const testing::TemporaryFolder stick;
+  const support::TemporaryFolder stick;
   stick.MakeFolder("Icon 2.ico");
   const ExtraDrive drive(stick.Path(), "stick");
   FindPictures();

@@ -16,7 +16,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::AddAttributes;
+using support::AddAttributes;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::Not;
@@ -124,10 +124,10 @@ TEST_F(Folders, HiddenFilesAreNotListedButHiddenFoldersAre) {
 
 // Under Wine, Desktop and Documents are such links.
 TEST_F(Folders, ALinkToAFolderIsListedAndCanBeOpenedAndSearched) {
-  const testing::TemporaryFolder elsewhere;
-  elsewhere.MakeFile("a.ico", testing::IconFileOf(0xFF));
+  const support::TemporaryFolder elsewhere;
+  elsewhere.MakeFile("a.ico", support::IconFileOf(0xFF));
   elsewhere.MakeFolder("inner");
-  elsewhere.MakeFile("inner\\b.ico", testing::IconFileOf(0xFF));
+  elsewhere.MakeFile("inner\\b.ico", support::IconFileOf(0xFF));
   const std::string link = tree_.MakeLink("link", elsewhere.Path());
   Start({}, true);
   DoubleClick(program_.Item(FrmFindIcon_Dir1).ListRowMiddle(RowOf("link")));

@@ -35,13 +35,13 @@ class GridPicture : public EndToEnd {
   // One icon of each depth, a PNG, an animation of 8 steps and a library of 3: 17 icons.
   void MakeTree() const {
     for (const int bits : {1, 4, 8, 24, 32}) {
-      const testing::IconPicture pictures[] = {testing::BitmapPicture(32, bits, 0x2040C0, 0x30B010)};
-      tree_.MakeFile("bits" + std::to_string(bits) + ".ico", testing::IconFile(pictures));
+      const support::IconPicture pictures[] = {support::BitmapPicture(32, bits, 0x2040C0, 0x30B010)};
+      tree_.MakeFile("bits" + std::to_string(bits) + ".ico", support::IconFile(pictures));
     }
-    const testing::IconPicture png[] = {testing::PngPicture(32, 0x8000FF, 0xFF8000)};
-    tree_.MakeFile("picture.ico", testing::IconFile(png));
+    const support::IconPicture png[] = {support::PngPicture(32, 0x8000FF, 0xFF8000)};
+    tree_.MakeFile("picture.ico", support::IconFile(png));
     const Color colors[] = {0x0000FF, 0x00FF00, 0xFF0000, 0x00FFFF, 0xFF00FF, 0xFFFF00, 0x808080, 0x000080};
-    tree_.MakeFile("spin.ani", testing::AnimationFile(colors));
+    tree_.MakeFile("spin.ani", support::AnimationFile(colors));
     CopyThreeIcons(In("three.dll"));
   }
 

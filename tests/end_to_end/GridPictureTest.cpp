@@ -7,7 +7,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::IconFileOf;
+using support::IconFileOf;
 
 class GridPictureAtSize : public GridPicture, public ::testing::WithParamInterface<Geometry> {};
 

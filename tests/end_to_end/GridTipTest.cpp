@@ -39,7 +39,7 @@ class GridTip : public EndToEnd {
 };
 
 TEST_F(GridTip, ShowsFileAndIndexOfTheIconUnderThePointer) {
-  tree_.MakeFile("a & b.ico", testing::IconFileOf(0xFF));
+  tree_.MakeFile("a & b.ico", support::IconFileOf(0xFF));
   CopyThreeIcons(In("图标.dll"));
   Start();
   Tick({Ico, Dll});
@@ -62,7 +62,7 @@ TEST_F(GridTip, ShowsTheWholeOfALongPathOnTheScreen) {
     folder += (folder.empty() ? "" : "\\") + std::string("a folder with a long name");
     tree_.MakeFolder(folder);
   }
-  tree_.MakeFile(folder + "\\a.ico", testing::IconFileOf(0xFF));
+  tree_.MakeFile(folder + "\\a.ico", support::IconFileOf(0xFF));
   Start(In(folder));
   Find();
   PointAt(1);

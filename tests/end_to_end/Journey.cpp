@@ -40,10 +40,10 @@ void Journey::MakeIcons() {
   tree_.MakeFolder(below);
   constexpr auto colors = std::to_array<Color>({0x2040C0, 0x30B010, 0xC06020, 0x20C0E0});
   for (std::size_t i = 0; i < colors.size(); ++i) {
-    const std::array icon{testing::BitmapPicture(32, 32, colors[i], colors[(i + 1) % colors.size()])};
-    tree_.MakeFile(folder + "\\" + std::to_string(i) + ".ico", testing::IconFile(icon));
+    const std::array icon{support::BitmapPicture(32, 32, colors[i], colors[(i + 1) % colors.size()])};
+    tree_.MakeFile(folder + "\\" + std::to_string(i) + ".ico", support::IconFile(icon));
   }
-  tree_.MakeFile(folder + "\\spin.ani", testing::AnimationFile(colors));
+  tree_.MakeFile(folder + "\\spin.ani", support::AnimationFile(colors));
   CopyHundredIcons(In(below + "\\hundred.dll"));
   fs::copy_file(program_.Path(), ToWide(program));
   const auto inProgram = static_cast<int>(ExtractIconExA(program.c_str(), -1, nullptr, nullptr, 0));
@@ -341,8 +341,8 @@ void Journey::ReadTheGuide() const {
   std::ranges::transform(code, code.begin(), [](char letter) { return static_cast<char>(letter - 'A' + 'a'); });
   const std::string guide = home_.In("guide\\guide-" + code + ".html");
   EXPECT_TRUE(fs::exists(ToWide(guide)));
-  EXPECT_TRUE(Eventually([&] { return testing::ReadAll(page).find(guide) != std::string::npos; }, shortly))
-      << testing::ReadAll(page);
+  EXPECT_TRUE(Eventually([&] { return support::ReadAll(page).find(guide) != std::string::npos; }, shortly))
+      << support::ReadAll(page);
   EXPECT_FALSE(program_.FindBox());
   program_.BringToFront();
 }

@@ -34,7 +34,7 @@ class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTo
   void SetUp() override {
     tree_.MakeFolder(tongue_.folder);
     tree_.MakeFolder(tongue_.folder + std::string("\\2"));
-    tree_.MakeFile(tongue_.folder + std::string("\\a.ico"), testing::IconFileOf(0xFF));
+    tree_.MakeFile(tongue_.folder + std::string("\\a.ico"), support::IconFileOf(0xFF));
     CopyHundredIcons(In(tongue_.folder + std::string("\\2\\hundred.dll")));
     fs::copy(BuiltFile(TARVIK_GUIDE), fs::path(ToWide(home_.In("guide"))), fs::copy_options::recursive);
     out_ = home_.MakeFolder("out");
@@ -211,7 +211,7 @@ class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTo
     const std::string page = home_.In("page.txt");
     const WebPageReader reader(page);
     PressKey(VK_F1);
-    EXPECT_TRUE(Eventually([&] { return testing::ReadAll(page).find("guide-") != std::string::npos; }, shortly));
+    EXPECT_TRUE(Eventually([&] { return support::ReadAll(page).find("guide-") != std::string::npos; }, shortly));
     program_.BringToFront();  // from what shows the guide
   }
 

@@ -11,7 +11,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::IconFileOf;
+using support::IconFileOf;
 
 class Keyboard : public EndToEnd {
  protected:

@@ -8,7 +8,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::IconFileOf;
+using support::IconFileOf;
 
 struct Texts {
   const char* caption;

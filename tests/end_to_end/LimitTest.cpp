@@ -12,9 +12,9 @@
 namespace tarvik::end_to_end {
 namespace {
 
+using support::IconFileOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using testing::IconFileOf;
 using ::testing::IsEmpty;
 
 class Limit : public EndToEnd {

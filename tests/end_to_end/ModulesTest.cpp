@@ -24,13 +24,13 @@ namespace tarvik::end_to_end {
 
 namespace {
 
-using testing::BitmapPicture;
-using testing::IconPicture;
-using testing::SixteenBitLibrary;
+using support::BitmapPicture;
+using support::IconPicture;
+using support::SixteenBitLibrary;
 using ::testing::SizeIs;
 
 // One icon of each depth.
-testing::Bytes EveryDepth() {
+support::Bytes EveryDepth() {
   std::vector<IconPicture> pictures;
   for (const int bits : {1, 4, 8, 24, 32}) pictures.push_back(BitmapPicture(32, bits, 0x2040C0, 0x30B010));
   return SixteenBitLibrary(pictures).bytes;
@@ -41,7 +41,7 @@ class ModulesInTheGrid : public GridPicture, public ::testing::WithParamInterfac
 TEST_P(ModulesInTheGrid, AreShownAsAShellThatReadsThemDrawsThem) {
   for (const char* name : {"a.icl", "b.exe", "c.dll", "d.ocx"}) tree_.MakeFile(name, EveryDepth());
   for (std::uint32_t number = 0; number < 10; ++number)
-    tree_.MakeFile("random" + std::to_string(number) + ".icl", testing::MakeRandomModule(number).bytes);
+    tree_.MakeFile("random" + std::to_string(number) + ".icl", support::MakeRandomModule(number).bytes);
   CopyThreeIcons(In("three.dll"));  // which the shell finds the icons of
   tree_.MakeFile("other.fon", EveryDepth());
   TakeTodaysShell(program_);
@@ -89,7 +89,7 @@ TEST_F(SavedModules, HaveTheirIconsSavedAndCopied) {
     program_.Command(FrmFindIcon_mnuCopy);
     EXPECT_TRUE(Eventually([&] {
       Pixels pasted;
-      for (const Color color : testing::Paste().pixels) pasted.push_back(0xFF000000U | color);
+      for (const Color color : support::Paste().pixels) pasted.push_back(0xFF000000U | color);
       return pasted == ComposedPixels(entry);
     })) << entry;
   }
@@ -117,7 +117,7 @@ class CountedModules : public EndToEnd {};
 
 TEST_F(CountedModules, HaveAsManyIconsAsAnotherProgramCounts) {
   for (std::uint32_t number = 0; number < 60; ++number)
-    tree_.MakeFile("m" + std::to_string(number) + ".icl", testing::MakeRandomModule(number).bytes);
+    tree_.MakeFile("m" + std::to_string(number) + ".icl", support::MakeRandomModule(number).bytes);
   const UnixAnswer answer =
       RunUnix("cd " + UnixQuoted(ToWide(tree_.Path())) +
               " && for f in *.icl; do echo \"$f $(wrestool -l --type=group_icon $f 2>/dev/null | wc -l)\"; done");

@@ -41,15 +41,15 @@ class SaveBusy : public Saving {
   void ExpectToKeepNothing(const char* name, const std::function<void()>& command, int keptBySystem) const {
     constexpr int warmUps = 2;
     constexpr int rounds = 20;
-    testing::Holdings before{};
+    support::Holdings before{};
     for (int round = 0; round < warmUps + rounds; ++round) {
-      if (round == warmUps) before = testing::HeldBy(program_.Process());
+      if (round == warmUps) before = support::HeldBy(program_.Process());
       command();
       ExpectAsFound();
     }
     EXPECT_GT(before.gdiObjects, 0);
     EXPECT_GT(before.kernelHandles, 0);
-    const testing::Holdings after = testing::HeldBy(program_.Process());
+    const support::Holdings after = support::HeldBy(program_.Process());
     EXPECT_LT(after.gdiObjects, before.gdiObjects + rounds / 2) << name;
     EXPECT_LT(after.kernelHandles, before.kernelHandles + rounds * keptBySystem + rounds / 2) << name;
     EXPECT_LT(after.userHandles, before.userHandles + rounds * keptBySystem + rounds / 2) << name;
@@ -96,7 +96,7 @@ TEST_P(EveryBatch, ShowsThatItRunsAndTakesNoCommands) {
   EXPECT_EQ(TextOf(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
   EXPECT_EQ(SavedNames().size(), static_cast<std::size_t>(many));
   for (const int number : {1, 7, 1000, many})
-    EXPECT_FALSE(testing::ReadAll(Out(GetParam().prefix + std::to_string(number) + GetParam().extension)).empty())
+    EXPECT_FALSE(support::ReadAll(Out(GetParam().prefix + std::to_string(number) + GetParam().extension)).empty())
         << number;
 }
 

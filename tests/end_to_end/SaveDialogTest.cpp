@@ -9,8 +9,8 @@
 namespace tarvik::end_to_end {
 namespace {
 
+using support::ReadAll;
 using ::testing::ElementsAre;
-using testing::ReadAll;
 using ::testing::StartsWith;
 
 class Save : public Saving {};

@@ -14,10 +14,10 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::AddAttributes;
+using support::AddAttributes;
+using support::ReadAll;
 using ::testing::Each;
 using ::testing::ElementsAre;
-using testing::ReadAll;
 using ::testing::StartsWith;
 
 class SaveFault : public Saving {
@@ -200,19 +200,19 @@ TEST_F(SaveFault, TheIconOfAFileThatIsGoneIsSavedBlank) {
 TEST_F(SaveFault, AnIconThatTheSystemBreaksOnIsAskedForOnce) {
   constexpr int broken = 20;
   MakePictures();
-  for (int i = 0; i < broken; ++i) tree_.MakeFile("broken" + std::to_string(i) + ".dll", testing::CutOffLibrary());
+  for (int i = 0; i < broken; ++i) tree_.MakeFile("broken" + std::to_string(i) + ".dll", support::CutOffLibrary());
   Start();
   Tick({Ico, Dll});
   Find();
   ASSERT_EQ(List().RowCount(), broken + 5);
   KeepAsFound();
   SaveBatch(FrmFindIcon_mnuSaveAll);
-  const int objects = testing::HeldBy(program_.Process()).gdiObjects;
-  const int views = testing::CountMappedViews(program_.Process());
+  const int objects = support::HeldBy(program_.Process()).gdiObjects;
+  const int views = support::CountMappedViews(program_.Process());
   for (int i = 0; i < 3; ++i) SaveBatch(FrmFindIcon_mnuSaveAll);
   // The system keeps a few things of its own at times, but not one for each of these icons.
-  EXPECT_LT(testing::HeldBy(program_.Process()).gdiObjects, objects + broken);
-  EXPECT_LT(testing::CountMappedViews(program_.Process()), views + broken);
+  EXPECT_LT(support::HeldBy(program_.Process()).gdiObjects, objects + broken);
+  EXPECT_LT(support::CountMappedViews(program_.Process()), views + broken);
   EXPECT_EQ(SavedNames().size(), broken + 5U);
 }
 

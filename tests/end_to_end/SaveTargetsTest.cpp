@@ -11,15 +11,15 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::SaveTargets;
+using support::SaveTargets;
 
 class SaveOver : public Saving {
  protected:
   // As many icons as there are targets.
   void SetUp() override {
-    const std::array icon{testing::BitmapPicture(32, 4, 0x0000FF, 0xFF0000)};
+    const std::array icon{support::BitmapPicture(32, 4, 0x0000FF, 0xFF0000)};
     for (int number = 1; number <= SaveTargets::Count(); ++number)
-      tree_.MakeFile(std::to_string(number) + ".ico", testing::IconFile(icon));
+      tree_.MakeFile(std::to_string(number) + ".ico", support::IconFile(icon));
     Start();
     Find();
     ASSERT_EQ(List().RowCount(), SaveTargets::Count());

@@ -205,7 +205,7 @@ TEST_F(SaveIcons, EachSizeIsSavedAsItIsShown) {
     EXPECT_THAT(files[side + ".gif"].told,
                 HasSubstr(std::string("Width = ").append(side).append(", Height = ").append(side)));
     const int pixels = std::stoi(side);
-    ExpectFirstIcon(testing::ReadAll(Out(side + ".ico")), pixels);
+    ExpectFirstIcon(support::ReadAll(Out(side + ".ico")), pixels);
     EXPECT_EQ(files[side + ".gif"].pixels, FirstComposed(pixels)) << side;
     ExpectAreas(files[side + ".jpg"].pixels, pixels, 0);
     // What the file of 64 pixels holds is not what it says it does.

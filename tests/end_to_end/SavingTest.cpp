@@ -16,8 +16,8 @@ constexpr int pixelCount = side * side;
 void Saving::MakePictures() {
   for (int entry = 0; entry < static_cast<int>(pictures.size()); ++entry) {
     const Picture& picture = pictures.at(static_cast<std::size_t>(entry));
-    const std::array icon{testing::BitmapPicture(side, picture.bits, picture.left, picture.right)};
-    tree_.MakeFile(std::to_string(entry) + ".ico", testing::IconFile(icon));
+    const std::array icon{support::BitmapPicture(side, picture.bits, picture.left, picture.right)};
+    tree_.MakeFile(std::to_string(entry) + ".ico", support::IconFile(icon));
   }
   tree_.MakeFolder(outName);
 }

@@ -12,9 +12,9 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::AnimationFile;
+using support::AnimationFile;
+using support::IconFileOf;
 using ::testing::ElementsAre;
-using testing::IconFileOf;
 using ::testing::IsEmpty;
 
 class Search : public EndToEnd {

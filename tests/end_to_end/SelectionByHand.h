@@ -23,7 +23,7 @@ class SelectionByHand : public EndToEnd {
 
   // Icon files, each found as one entry, in the order of their numbers.
   void FindIconFiles(int count) {
-    for (int i = 0; i < count; ++i) tree_.MakeFile(std::to_string(100 + i) + ".ico", testing::IconFileOf(0x20C040));
+    for (int i = 0; i < count; ++i) tree_.MakeFile(std::to_string(100 + i) + ".ico", support::IconFileOf(0x20C040));
     Start();
     Find();
     ASSERT_EQ(List().RowCount(), count);

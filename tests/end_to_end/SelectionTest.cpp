@@ -10,7 +10,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-using testing::IconFileOf;
+using support::IconFileOf;
 
 class GridSelection : public SelectionByHand {};
 

@@ -51,7 +51,7 @@ TEST_F(Settings, FolderAndSubFoldersAreKeptOverARestart) {
 
 TEST_F(Settings, TheFolderOfASearchIsKeptNotTheLastOneWalked) {
   tree_.MakeFolder("inner");
-  tree_.MakeFile("inner\\in.ico", testing::IconFileOf(0xFF));
+  tree_.MakeFile("inner\\in.ico", support::IconFileOf(0xFF));
   Start({}, true);
   Find();
   EXPECT_EQ(program_.Close(), 0U);

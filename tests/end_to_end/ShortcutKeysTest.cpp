@@ -29,7 +29,7 @@ class HelpKey : public ViewByHand {
     const std::string page = home_.In("page.txt");
     const WebPageReader reader(page);
     PressKey(VK_F1);
-    EXPECT_TRUE(Eventually([&] { return testing::ReadAll(page).find("guide-eng.html") != std::string::npos; }, shortly))
+    EXPECT_TRUE(Eventually([&] { return support::ReadAll(page).find("guide-eng.html") != std::string::npos; }, shortly))
         << where;
     DeleteFileW(ToWide(page).c_str());
     EXPECT_FALSE(program_.FindBox()) << where;
@@ -115,12 +115,12 @@ class ShortcutKeys : public SelectionByHand {
 };
 
 TEST_F(ShortcutKeys, F5ReadsFilesAndFoldersAgainAndKeepsTheChoice) {
-  tree_.MakeFile("b.ico", testing::IconFileOf(0xFF));
-  tree_.MakeFile("c.ico", testing::IconFileOf(0xFF));
+  tree_.MakeFile("b.ico", support::IconFileOf(0xFF));
+  tree_.MakeFile("c.ico", support::IconFileOf(0xFF));
   Start();
   ASSERT_THAT(FileNames(), ElementsAre("b.ico", "c.ico"));
   program_.Item(FrmFindIcon_File1).Send(LB_SETCURSEL, 1);
-  tree_.MakeFile("a.ico", testing::IconFileOf(0xFF));
+  tree_.MakeFile("a.ico", support::IconFileOf(0xFF));
   tree_.MakeFolder("new");
   FocusOn(FrmFindIcon_txtMax);
   PressKey(VK_F5);

@@ -15,12 +15,12 @@ namespace {
 class Skinned : public ViewByHand {
  protected:
   Skinned() {
-    SetEnvironmentVariableW(testing::skinBehaviour, nullptr);
-    SetEnvironmentVariableW(testing::skinDiary, ToWide(diary_).c_str());
+    SetEnvironmentVariableW(support::skinBehaviour, nullptr);
+    SetEnvironmentVariableW(support::skinDiary, ToWide(diary_).c_str());
   }
   ~Skinned() override {
-    SetEnvironmentVariableW(testing::skinBehaviour, nullptr);
-    SetEnvironmentVariableW(testing::skinDiary, nullptr);
+    SetEnvironmentVariableW(support::skinBehaviour, nullptr);
+    SetEnvironmentVariableW(support::skinDiary, nullptr);
   }
 
   void MakeSkinFile() const {
@@ -28,7 +28,7 @@ class Skinned : public ViewByHand {
     (void)home_.MakeFile("Skins\\Galaxy.skn");
   }
   // What the diary tells since it was last asked about.
-  std::string News() const { return testing::ReadAll(diary_).substr(known_); }
+  std::string News() const { return support::ReadAll(diary_).substr(known_); }
   void ExpectNews(const std::string& entries) {
     EXPECT_TRUE(Eventually([&] { return News() == entries; }, shortly)) << News() << "\ninstead of " << entries;
     known_ += News().size();
@@ -51,7 +51,7 @@ class Skinned : public ViewByHand {
  private:
   const std::string diary_ = home_.In("diary");
   std::size_t known_ = 0;
-  const testing::SkinRegistration registration_{BuiltFile(TARVIK_SKIN_COMPONENT).wstring()};
+  const support::SkinRegistration registration_{BuiltFile(TARVIK_SKIN_COMPONENT).wstring()};
 };
 
 TEST_F(Skinned, TheStartUpWindowAndTheAboutBoxArePlain) {
@@ -112,7 +112,7 @@ TEST_F(Skinned, WithoutTheFileNoComponentIsAskedFor) {
 
 TEST_F(Skinned, AComponentThatFailsLeavesTheProgramAsItIs) {
   MakeSkinFile();
-  SetEnvironmentVariableW(testing::skinBehaviour, testing::failsInApplySkin);
+  SetEnvironmentVariableW(support::skinBehaviour, support::failsInApplySkin);
   FindPictures();
   ExpectNews(Applied(program_.Window()) + "gone|");
   EXPECT_FALSE(program_.FindBox());

@@ -60,7 +60,7 @@ TEST_F(StartUp, ASecondCopyStartsLikeTheFirst) {
 }
 
 TEST_F(StartUp, TheSameFileStartedTwiceAtOnceGivesTwoProgramsThatWork) {
-  tree_.MakeFile("some.ico", testing::IconFileOf(0x20C040));
+  tree_.MakeFile("some.ico", support::IconFileOf(0x20C040));
   WriteSetting("Folder", tree_.Path());
   Program second(program_.Path());
   program_.Launch();

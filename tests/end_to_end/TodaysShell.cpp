@@ -7,7 +7,7 @@
 namespace tarvik {
 
 ShellFunctions SystemShell() {
-  return testing::ShellWithoutModules();
+  return support::ShellWithoutModules();
 }
 
 }  // namespace tarvik

@@ -18,7 +18,7 @@ class ViewByHand : public SelectionByHand {
   // Searches so many icon files, of one icon each, in as many colours.
   void FindFiles(int count) {
     for (int i = 1; i <= count; ++i)
-      tree_.MakeFile(FileName(i), testing::IconFileOf(0x20C000U + 40U * static_cast<Color>(i)));
+      tree_.MakeFile(FileName(i), support::IconFileOf(0x20C000U + 40U * static_cast<Color>(i)));
     Start();
     Find();
     ASSERT_EQ(List().RowCount(), count);

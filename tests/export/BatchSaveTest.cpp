@@ -8,6 +8,7 @@
 namespace tarvik {
 namespace {
 
+using support::TestRaster;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::Not;

@@ -11,7 +11,7 @@
 #include "platform/Paths.h"
 #include "search/icons/ShellIcons.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 using ModMicroArt::BlackAndWhite;
@@ -108,4 +108,4 @@ std::vector<Color> Capture::SeenBitmap() const {
   return BlackAndWhitePixels(SeenInEightByteRows(TenByteRows({&composed_}), 0));
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -5,11 +5,11 @@
 
 #include "export/IconSurfaces.h"
 #include "export/ModMicroArtFileIO.h"
-#include "export/TestRaster.h"
 #include "platform/TemporaryFolder.h"
 #include "search/icons/IconList.h"
+#include "support/TestRaster.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // An icon to capture, and a name for the files made of it.
 struct CapturedSource {
@@ -55,4 +55,4 @@ class Capture {
   ModMicroArt::ColorClass bitmapClass_{};
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

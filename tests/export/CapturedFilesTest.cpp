@@ -23,10 +23,11 @@ namespace tarvik {
 namespace {
 
 using ModMicroArt::ColorClass;
-using testing::Capture;
-using testing::CapturedSource;
-using testing::ReadAll;
-using testing::TemporaryFolder;
+using support::Capture;
+using support::CapturedSource;
+using support::ReadAll;
+using support::TemporaryFolder;
+using support::TestRaster;
 
 constexpr std::array sizes{16, 32, 48, 64};
 
@@ -98,7 +99,7 @@ std::optional<LoadedBitmap> LoadBitmapFile(const std::string& path) {
 class CapturedAtSize : public ::testing::TestWithParam<int> {
  protected:
   void ForEachSource(const std::function<void(const Capture&, const std::string& path)>& check) const {
-    for (const CapturedSource& source : testing::MakeSources(folder_)) {
+    for (const CapturedSource& source : support::MakeSources(folder_)) {
       SCOPED_TRACE(source.name);
       check(Capture(source, GetParam()), folder_.In(source.name + " saved"));
     }
@@ -127,7 +128,7 @@ TEST_P(CapturedAtSize, IconsAreLoadedWithImageAndTransparency) {
 // Icons with an alpha channel once came back with every transparent pixel turned into the inverse of what lay below.
 TEST_P(CapturedAtSize, IconsWithAnAlphaChannelLeaveWhatIsBelowTheirTransparentPixels) {
   const int size = GetParam();
-  for (const CapturedSource& source : testing::MakeSources(folder_)) {
+  for (const CapturedSource& source : support::MakeSources(folder_)) {
     if (source.name != "32-bit" && source.name != "png") continue;
     SCOPED_TRACE(source.name);
     const Capture capture(source, size);
@@ -205,7 +206,7 @@ TEST(CapturedFiles, EveryColorClassOccurs) {
   const TemporaryFolder folder;
   std::set<int> iconBits;
   std::set<int> bitmapBits;
-  for (const CapturedSource& source : testing::MakeSources(folder)) {
+  for (const CapturedSource& source : support::MakeSources(folder)) {
     const Capture capture(source, 32);
     iconBits.insert(BitsOf(capture.IconClass()));
     bitmapBits.insert(BitsOf(capture.BitmapClass()));
@@ -216,7 +217,7 @@ TEST(CapturedFiles, EveryColorClassOccurs) {
 
 TEST(CapturedFiles, AnEntryOfAnAnimationIsCapturedAtItsStep) {
   const TemporaryFolder folder;
-  for (const CapturedSource& source : testing::MakeSources(folder)) {
+  for (const CapturedSource& source : support::MakeSources(folder)) {
     if (source.name != "step-3") continue;
     EXPECT_EQ(Capture(source, 32).Composed().Pixel(3, 3), 0x123456U);
   }
@@ -225,7 +226,7 @@ TEST(CapturedFiles, AnEntryOfAnAnimationIsCapturedAtItsStep) {
 TEST(CapturedFiles, AnEntryWhoseFileIsGoneLeavesTheSurfacesCleared) {
   const TemporaryFolder folder;
   ShellIcons icons;
-  for (const CapturedSource& source : testing::MakeSources(folder)) {
+  for (const CapturedSource& source : support::MakeSources(folder)) {
     if (!source.entry.path.starts_with(folder.Path())) continue;
     IconSurfaces surfaces(32);
     ASSERT_TRUE(ModMicroArt::CaptureEntry(icons, source.entry, 32, surfaces.Clear())) << source.name;
@@ -243,7 +244,7 @@ constexpr std::array<WriteFunction, 3> everyWriter{&Capture::WriteIcon, &Capture
 
 TEST(CapturedFiles, ALongerFileIsReplacedWithNoByteKept) {
   const TemporaryFolder folder;
-  const Capture capture(testing::MakeSources(folder).front(), 16);
+  const Capture capture(support::MakeSources(folder).front(), 16);
   const std::string target = folder.In("target");
   for (const WriteFunction write : everyWriter) {
     const std::string fresh = folder.In("fresh");
@@ -259,7 +260,7 @@ TEST(CapturedFiles, ALongerFileIsReplacedWithNoByteKept) {
 
 TEST(CapturedFiles, NothingIsWrittenWhereNoFileCanBe) {
   const TemporaryFolder folder;
-  const Capture capture(testing::MakeSources(folder).front(), 16);
+  const Capture capture(support::MakeSources(folder).front(), 16);
   const std::string aFolder = folder.MakeFolder("a folder");
   // No user, not even one who may do everything, can make a file there: it is the kernel's own, or no drive at all.
   const std::string inReadOnlyFolder = R"(Z:\proc\tarvik-test.ico)";
@@ -293,7 +294,7 @@ TEST(CapturedFiles, AreLeftForOthers) {
   const TemporaryFolder folder;
   const std::string target = FolderForOthers(folder);
   std::ofstream listing(ToWide(JoinPath(target, "captured.txt")).c_str());
-  for (const CapturedSource& source : testing::MakeSources(folder)) {
+  for (const CapturedSource& source : support::MakeSources(folder)) {
     for (const int size : sizes) {
       const Capture capture(source, size);
       const std::string name = std::to_string(size) + "-" + source.name;

@@ -27,15 +27,15 @@ class FileDialogTest : public ::testing::Test {
   // What the dialog gives back where its user types the name and presses a button.
   std::string Open(const std::string& name, int button) {
     driver.On(nameId, [this, name, button](HWND dialog) {
-      title = testing::TextOf(dialog);
+      title = support::TextOf(dialog);
       SetDlgItemTextW(dialog, nameId, ToWide(name).c_str());
-      testing::Command(dialog, button);
+      support::Command(dialog, button);
     });
     return AskForFileToOpen(nullptr, saveAsMode, "CHS");
   }
 
-  testing::TemporaryFolder folder;
-  testing::ModalDriver driver;
+  support::TemporaryFolder folder;
+  support::ModalDriver driver;
   std::string title;
 };
 
@@ -53,12 +53,12 @@ TEST_F(FileDialogTest, GivesNothingWhereItIsCancelled) {
 
 TEST_F(FileDialogTest, OpensNoFileThatIsNotThere) {
   const std::string path = folder.In("none.ico");
-  const testing::BoxWatcher boxes;
+  const support::BoxWatcher boxes;
   driver.On(nameId, [path](HWND dialog) {
     SetDlgItemTextW(dialog, nameId, ToWide(path).c_str());
-    testing::Command(dialog, IDOK);
+    support::Command(dialog, IDOK);
   });
-  driver.On(nameId, [](HWND dialog) { testing::Command(dialog, IDCANCEL); });
+  driver.On(nameId, [](HWND dialog) { support::Command(dialog, IDCANCEL); });
   EXPECT_EQ(AskForFileToOpen(nullptr, saveAsMode, "ENG"), "");
   EXPECT_EQ(boxes.Boxes().size(), 1U) << "says that it is not there";
 }

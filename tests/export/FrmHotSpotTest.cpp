@@ -13,8 +13,8 @@
 namespace tarvik {
 namespace {
 
-using testing::Command;
-using testing::TextOf;
+using support::Command;
+using support::TextOf;
 
 class FrmHotSpotTest : public ::testing::Test {
  protected:

@@ -8,7 +8,7 @@ namespace tarvik {
 namespace {
 
 TEST(HotSpotTexts, AreTheseInThreeLanguages) {
-  testing::ExpectRows(hotSpotTexts, {
+  support::ExpectRows(hotSpotTexts, {
                                         {formCaption, {"Select Hot Spot", "选择热区", "選擇熱區"}},
                                         {FrmHotSpot_CmdOk, {"&OK", "确定(&O)", "確定(&O)"}},
                                         {FrmHotSpot_CmdCancel, {"&Cancel", "取消(&C)", "取消(&C)"}},

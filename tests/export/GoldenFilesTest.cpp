@@ -10,14 +10,16 @@
 #include <vector>
 
 #include "export/ExpectedFile.h"
-#include "export/MemorySink.h"
 #include "export/ModMicroArtFileIO.h"
-#include "export/TestRaster.h"
+#include "support/MemorySink.h"
+#include "support/TestRaster.h"
 
 namespace tarvik::ModMicroArtFileIO {
 namespace {
 
 using ModMicroArt::ColorClass;
+using support::MemorySink;
+using support::TestRaster;
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::array<Color, 16> standardColors{0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x800080,

@@ -7,13 +7,15 @@
 #include <string>
 #include <vector>
 
-#include "export/MemorySink.h"
-#include "export/TestRaster.h"
+#include "support/MemorySink.h"
+#include "support/TestRaster.h"
 
 namespace tarvik::ModMicroArtFileIO {
 namespace {
 
 using ModMicroArt::ColorClass;
+using support::MemorySink;
+using support::TestRaster;
 
 std::uint32_t NumberAt(const MemorySink& sink, std::size_t offset, int width) {
   std::uint32_t number = 0;

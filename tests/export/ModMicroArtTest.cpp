@@ -9,10 +9,13 @@
 #include <vector>
 
 #include "base/NonCopyable.h"
-#include "export/TestRaster.h"
+#include "support/TestRaster.h"
 
 namespace tarvik::ModMicroArt {
 namespace {
+
+using support::RasterOf;
+using support::TestRaster;
 
 constexpr std::array<BlackAndWhite, 2> eitherWay{BlackAndWhite::InOrder, BlackAndWhite::InFixedSlots};
 

@@ -5,10 +5,13 @@
 #include <vector>
 
 #include "base/PixelCopy.h"
-#include "export/TestRaster.h"
+#include "support/TestRaster.h"
 
 namespace tarvik::ModPalette {
 namespace {
+
+using support::RasterOf;
+using support::TestRaster;
 
 // A colour for each number from 0, none of them black or white.
 Color NumberedColor(int number) {

@@ -5,11 +5,13 @@
 #include <cstdint>
 #include <vector>
 
-#include "export/TestRaster.h"
+#include "support/TestRaster.h"
 
 namespace tarvik::ModMicroArtFileIO {
 namespace {
 
+using support::RasterOf;
+using support::TestRaster;
 using Bytes = std::vector<std::uint8_t>;
 
 Bytes BytesOf(const ByteWriter& file) {

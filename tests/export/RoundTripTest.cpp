@@ -11,10 +11,10 @@
 #include <vector>
 
 #include "export/ImageFileReader.h"
-#include "export/MemorySink.h"
 #include "export/ModMicroArtFileIO.h"
 #include "export/SeenPixels.h"
-#include "export/TestRaster.h"
+#include "support/MemorySink.h"
+#include "support/TestRaster.h"
 
 namespace tarvik::ModMicroArtFileIO {
 namespace {
@@ -22,6 +22,8 @@ namespace {
 using ModMicroArt::BlackAndWhite;
 using ModMicroArt::Classify;
 using ModMicroArt::ColorClass;
+using support::MemorySink;
+using support::TestRaster;
 
 constexpr int picturesOfAKind = 25;
 constexpr std::array<ColorClass, 4> everyClass{ColorClass::Two, ColorClass::Sixteen, ColorClass::TwoHundredFiftySix,

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "export/FakeSaveWindow.h"
 #include "export/SaveCommands.h"
+#include "support/FakeSaveWindow.h"
 
 namespace tarvik {
 
@@ -30,14 +30,14 @@ class SaveCommandsTest : public ::testing::Test {
   // One byte of a file that was written.
   int Byte(const std::string& path, std::size_t place) { return std::to_integer<int>(files.bytes.at(path).at(place)); }
 
-  testing::Script script;
+  support::Script script;
   ProgramState state;
   IconList list;
   SearchState search;
-  testing::FakeSaveWindow window{script};
-  testing::NotedFiles files{script};
-  testing::FakeSaveDialogs dialogs{script, state};
-  testing::FakeTemporaryPicture temporary{script};
+  support::FakeSaveWindow window{script};
+  support::NotedFiles files{script};
+  support::FakeSaveDialogs dialogs{script, state};
+  support::FakeTemporaryPicture temporary{script};
   SaveCommands commands{window, {dialogs, files, temporary}, list, search, state};
 };
 

@@ -4,6 +4,8 @@
 
 namespace tarvik {
 
+using support::TestRaster;
+
 std::vector<bool> WhitePixels(const TestRaster& raster) {
   std::vector<bool> isWhite;
   for (const Color color : raster.Pixels()) isWhite.push_back(color == white);

@@ -4,15 +4,16 @@
 
 #include <gtest/gtest.h>
 
-#include "export/TestRaster.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
+#include "support/TestRaster.h"
 
 namespace tarvik {
 namespace {
 
-using testing::ReadAll;
-using testing::TemporaryFolder;
+using support::ReadAll;
+using support::TemporaryFolder;
+using support::TestRaster;
 
 bool Exists(const std::string& path) {
   return GetFileAttributesW(ToWide(path).c_str()) != INVALID_FILE_ATTRIBUTES;

@@ -16,14 +16,16 @@
 
 #include "base/FileSink.h"
 #include "base/WholeFile.h"
-#include "export/FileOnDisk.h"
 #include "export/ModMicroArtFileIO.h"
-#include "export/TestRaster.h"
+#include "support/FileOnDisk.h"
+#include "support/TestRaster.h"
 
 namespace tarvik {
 namespace {
 
 using ModMicroArt::ColorClass;
+using support::FileOnDisk;
+using support::TestRaster;
 namespace IO = ModMicroArtFileIO;
 
 constexpr std::array<Color, 16> standardColors{0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x800080,

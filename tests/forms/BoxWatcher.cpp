@@ -7,7 +7,7 @@
 
 #include "platform/Text.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr UINT period = 10;          // ms
@@ -57,4 +57,4 @@ BoxWatcher::~BoxWatcher() {
   watcher = nullptr;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

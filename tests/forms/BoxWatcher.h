@@ -7,7 +7,7 @@
 
 #include "base/NonCopyable.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // A message box that a test met: its texts, UTF-8, and the system's icon in it.
 struct SeenBox {
@@ -30,4 +30,4 @@ class BoxWatcher : NonCopyable {
   std::vector<SeenBox> boxes_;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -10,7 +10,7 @@
 #include "platform/Text.h"
 
 // What tests do to the controls of a window, and read off them.
-namespace tarvik::testing {
+namespace tarvik::support {
 
 inline void Command(HWND window, int id, int code = 0) {
   SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(GetDlgItem(window, id)));
@@ -67,4 +67,4 @@ inline std::vector<UINT> ChangesToldTo(HWND control, HWND window) {
   return told;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

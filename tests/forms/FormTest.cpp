@@ -20,7 +20,7 @@ namespace {
 class FormTest : public ::testing::Test {
  protected:
   Application application{GetModuleHandleW(nullptr)};
-  testing::ModalDriver driver;
+  support::ModalDriver driver;
   Form owner{application, Dialog_frmDir};
   Form owned{application, Dialog_frmDirCreate};
 };

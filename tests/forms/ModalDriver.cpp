@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr UINT period = 10;               // ms
@@ -62,4 +62,4 @@ void ModalDriver::Tick() {
   for (const HWND window : WindowsInSight()) PostMessageW(window, WM_CLOSE, 0, 0);
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -7,7 +7,7 @@
 
 #include "base/NonCopyable.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // Works this thread's windows the way a user would while a modal one keeps the test waiting: each step waits until a
 // window with a control of its id is in sight, and then runs once. Steps run in order. Where a window does not come in
@@ -36,4 +36,4 @@ class ModalDriver : NonCopyable {
   std::deque<Waiting> steps_;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

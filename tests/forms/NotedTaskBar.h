@@ -7,7 +7,7 @@
 
 #include "forms/TaskBar.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // A task bar that notes what it is asked for, in order: a state by its name, a share as "1/4".
 class NotedTaskBar final : public TaskBar {
@@ -25,4 +25,4 @@ class NotedTaskBar final : public TaskBar {
   std::vector<std::string> calls;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

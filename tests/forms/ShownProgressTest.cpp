@@ -23,7 +23,7 @@ class ShownProgressTest : public ::testing::Test {
   ShownProgressTest() { progress.Attach(GetDesktopWindow()); }
 
   ULONGLONG now = 1'000;
-  testing::NotedTaskBar bar;
+  support::NotedTaskBar bar;
   ShownProgress progress{&bar, 300, [this] { return now; }};
 };
 

@@ -6,12 +6,14 @@
 #include <string>
 #include <vector>
 
-#include "search/FakeSearch.h"
 #include "startup/Language.h"
+#include "support/FakeSearch.h"
 
 namespace tarvik {
 namespace {
 
+using support::FakeGrid;
+using support::Script;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 

@@ -247,7 +247,7 @@ class FinishedProgram {
     }
     Eventually([this] { return program_.Window().IsEnabled() && Status() == model_.status; });
     for (const auto& [path, file] : model_.written) {
-      const bool isThere = Eventually([&] { return !testing::ReadAll(path).empty(); });
+      const bool isThere = Eventually([&] { return !support::ReadAll(path).empty(); });
       if (!isThere) boxDifference_ += "not written: " + path + "\n";
       // An icon file that was saved is found by the next search.
       const auto slash = path.rfind('\\');
@@ -280,7 +280,7 @@ class FinishedProgram {
     disk_.Put(model::Above(path), name, icons[kind]);
     if (icons[kind] == 100) return CopyHundredIcons(path);
     if (icons[kind] == 3) return CopyThreeIcons(path);
-    tree_.MakeFile(model::Joined(folder, name).substr(folder.empty() ? 1 : 0), testing::IconFileOf(0x20C040));
+    tree_.MakeFile(model::Joined(folder, name).substr(folder.empty() ? 1 : 0), support::IconFileOf(0x20C040));
   }
 
   void SendCommand(int id) { program_.Window().Send(WM_COMMAND, static_cast<WPARAM>(id)); }
@@ -386,8 +386,8 @@ class FinishedProgram {
     return Compared("kept folder", *model_.kept.folder, value.data());
   }
 
-  testing::TemporaryFolder home_;
-  testing::TemporaryFolder tree_;
+  support::TemporaryFolder home_;
+  support::TemporaryFolder tree_;
   LanguageValue noLanguage_{std::nullopt};
   Program program_{home_.Path()};
   model::Disk disk_{tree_.Path()};

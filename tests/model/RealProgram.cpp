@@ -8,9 +8,9 @@
 #include "search/window/ExportDialogs.h"
 #include "search/window/FrmFindIcon.h"
 #include "startup/FrmSpash.h"
-#include "startup/MemoryIni.h"
 #include "startup/RunTimeErrorBox.h"
 #include "startup/Settings.h"
+#include "support/MemoryIni.h"
 
 namespace tarvik::model {
 namespace {
@@ -50,7 +50,7 @@ struct RealProgram::Parts {
 
   Disk& disk;
   ProgramState state;
-  testing::MemoryIni iniFile;
+  support::MemoryIni iniFile;
   Settings settings{iniFile, "C:\\program\\tarvik.exe"};
   MadeFolders folders{disk};
   MadeFiles files;

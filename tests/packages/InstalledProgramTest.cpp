@@ -70,8 +70,8 @@ TEST(InstalledRights, GiveUsersNothingToChangeInTheKeyAbove) {
 }
 
 TEST(InstalledProgram, FindsIconsInTheLanguageOfTheInstallation) {
-  const testing::TemporaryFolder folder;
-  folder.MakeFile("some.ico", testing::IconFileOf(0xFF));
+  const support::TemporaryFolder folder;
+  folder.MakeFile("some.ico", support::IconFileOf(0xFF));
   const std::string settings = ToUtf8((home / L"tarvik.dat").wstring());
   ASSERT_NE(WritePrivateProfileStringA("FindIcon", "Folder", folder.Path().c_str(), settings.c_str()), FALSE);
 

@@ -12,8 +12,8 @@
 namespace tarvik {
 namespace {
 
-using testing::Paste;
-using testing::PastedPicture;
+using support::Paste;
+using support::PastedPicture;
 
 TEST(Clipboard, TakesACopyOfThePicture) {
   Surface picture(3, 2, 0x332211);
@@ -50,9 +50,9 @@ TEST(Clipboard, IsRefusedWhileAnotherHoldsItOpen) {
 TEST(Clipboard, KeepsNoHandleOfItsOwn) {
   const Surface picture(8, 8, white);
   ASSERT_TRUE(CopyToClipboard(picture, nullptr));
-  const int before = testing::CountGdiObjects();
+  const int before = support::CountGdiObjects();
   for (int i = 0; i < 100; ++i) ASSERT_TRUE(CopyToClipboard(picture, nullptr));
-  EXPECT_LE(testing::CountGdiObjects(), before + 2);
+  EXPECT_LE(support::CountGdiObjects(), before + 2);
 }
 
 }  // namespace

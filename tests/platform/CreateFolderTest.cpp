@@ -10,7 +10,7 @@
 namespace tarvik {
 namespace {
 
-using testing::TemporaryFolder;
+using support::TemporaryFolder;
 
 bool IsFolder(const std::string& path) {
   const DWORD attributes = GetFileAttributesW(ToWide(path).c_str());

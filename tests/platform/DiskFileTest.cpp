@@ -18,9 +18,9 @@
 namespace tarvik {
 namespace {
 
-using testing::AddAttributes;
-using testing::ReadAll;
-using testing::TemporaryFolder;
+using support::AddAttributes;
+using support::ReadAll;
+using support::TemporaryFolder;
 
 std::span<const std::byte> BytesOf(std::string_view text) {
   return std::as_bytes(std::span(text));
@@ -71,11 +71,11 @@ TEST(DiskFile, ReplacesTheTargetItselfOrLeavesEverythingAsItIs) {
   for (const ReadOnlyFile readOnly : {ReadOnlyFile::Refused, ReadOnlyFile::Replaced}) {
     SCOPED_TRACE(readOnly == ReadOnlyFile::Replaced ? "read-only files are replaced" : "read-only files are refused");
     const TemporaryFolder folder;
-    testing::SaveTargets targets(folder.MakeFolder("targets"), folder.MakeFolder("elsewhere"),
+    support::SaveTargets targets(folder.MakeFolder("targets"), folder.MakeFolder("elsewhere"),
                                  [](int number) { return std::to_string(number) + ".ico"; });
-    for (int number = 1; number <= testing::SaveTargets::Count(); ++number) {
-      EXPECT_EQ(WriteWhole(targets.Path(number), "new", readOnly), testing::SaveTargets::TakesAFile(number, readOnly))
-          << testing::SaveTargets::What(number);
+    for (int number = 1; number <= support::SaveTargets::Count(); ++number) {
+      EXPECT_EQ(WriteWhole(targets.Path(number), "new", readOnly), support::SaveTargets::TakesAFile(number, readOnly))
+          << support::SaveTargets::What(number);
     }
     targets.ExpectSaved("new", readOnly);
   }

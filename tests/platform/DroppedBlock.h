@@ -11,7 +11,7 @@
 
 #include "platform/Text.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // The memory that a drop of these files and folders brings, as WM_DROPFILES has it.
 inline std::vector<std::byte> DroppedBlock(const std::vector<std::string>& paths) {
@@ -27,4 +27,4 @@ inline std::vector<std::byte> DroppedBlock(const std::vector<std::string>& paths
   return block;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -13,7 +13,7 @@ namespace tarvik {
 namespace {
 
 HGLOBAL Dropped(const std::vector<std::string>& paths) {
-  const std::vector<std::byte> block = testing::DroppedBlock(paths);
+  const std::vector<std::byte> block = support::DroppedBlock(paths);
   const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, block.size());
   std::memcpy(GlobalLock(memory), block.data(), block.size());
   GlobalUnlock(memory);

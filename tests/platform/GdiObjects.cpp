@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 int CountGdiObjects() {
   return CountGdiObjects(GetCurrentProcess());
@@ -33,4 +33,4 @@ int CountGdiObjects(HANDLE process) {
   return count;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -9,7 +9,7 @@
 
 #include "platform/GdiObjects.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 // The list of all handles of the system, as far as it is read here.
@@ -87,4 +87,4 @@ int CountMappedViews(HANDLE process) {
   return views;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

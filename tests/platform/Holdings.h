@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // What a process holds of the system.
 struct Holdings {
@@ -20,4 +20,4 @@ Holdings HeldBy(HANDLE process);
 // How many views of files and of shared memory the process has in its memory. The same rights.
 int CountMappedViews(HANDLE process);
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -6,7 +6,7 @@
 
 #include "platform/Handles.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 TEST(Holdings, CountWhatThisProcessTakesAndGivesBack) {
@@ -45,4 +45,4 @@ TEST(Holdings, CountAsManyWhereMoreWereHeldBefore) {
 }
 
 }  // namespace
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -9,7 +9,7 @@
 
 #include "platform/Text.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr std::size_t directoryHeaderSize = 6;
@@ -265,4 +265,4 @@ void AddIcons(const std::string& path, std::span<const IconPicture> pictures) {
   EXPECT_NE(EndUpdateResourceW(update, FALSE), 0) << path;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -9,7 +9,7 @@
 
 #include "base/PixelView.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 using Bytes = std::vector<std::byte>;
 
@@ -50,4 +50,4 @@ Bytes IconGroup(const IconPicture& picture, std::uint16_t number);
 // Gives a program or library file an icon for each of the pictures.
 void AddIcons(const std::string& path, std::span<const IconPicture> pictures);
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

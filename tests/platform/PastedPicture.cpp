@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 PastedPicture FromBitmap(const std::byte* bytes) {
@@ -48,4 +48,4 @@ PastedPicture Paste() {
   return picture;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -4,7 +4,7 @@
 
 #include "base/PixelView.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // The bitmap on the clipboard, as another program gets it: as a device-independent bitmap of 32 bits.
 struct PastedPicture {
@@ -16,4 +16,4 @@ struct PastedPicture {
 // What is there; no pixels where there is no bitmap.
 PastedPicture Paste();
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -19,7 +19,7 @@ bool Loads(const wchar_t* name) {
 
 // The library would be found in the current folder, were it looked for there.
 TEST(SafeLoading, LooksInTheSystemFolderOnly) {
-  const testing::TemporaryFolder folder;
+  const support::TemporaryFolder folder;
   const std::string library = JoinPath(SystemFolder(), "version.dll");
   ASSERT_NE(CopyFileW(ToWide(library).c_str(), ToWide(folder.In("planted.dll")).c_str(), TRUE), 0);
   std::wstring former(MAX_PATH, L'\0');

@@ -12,7 +12,7 @@
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 using end_to_end::RunUnix;
@@ -174,4 +174,4 @@ void SaveTargets::ExpectSaved(const std::string& start, ReadOnlyFile readOnly) {
   EXPECT_THAT(NamesIn(folder_), ::testing::UnorderedElementsAreArray(names_));
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

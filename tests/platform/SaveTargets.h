@@ -8,7 +8,7 @@
 #include "base/NonCopyable.h"
 #include "platform/Handles.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // One of each thing that can be at the path of a file to be saved, and what has to become of it. Files that are to
 // stay hold the text "kept".
@@ -42,4 +42,4 @@ class SaveTargets : NonCopyable {
   std::vector<FileHandle> holders_;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -14,10 +14,10 @@
 namespace tarvik {
 namespace {
 
+using support::ReadAll;
+using support::TemporaryFolder;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using testing::ReadAll;
-using testing::TemporaryFolder;
 
 class SiblingFileTest : public ::testing::Test {
  protected:

@@ -73,13 +73,13 @@ TEST(SystemFunctions, MakeAndClearValues) {
 }
 
 TEST(SystemFunctions, TakeIconsOutOfFiles) {
-  const testing::TemporaryFolder folder;
-  const std::string path = folder.MakeFile("a.ico", testing::IconFileOf(0x0000FF));
+  const support::TemporaryFolder folder;
+  const std::string path = folder.MakeFile("a.ico", support::IconFileOf(0x0000FF));
   EXPECT_EQ(late::ExtractIconExA(path.c_str(), -1, nullptr, nullptr, 0), 1U);
 }
 
 TEST(SystemFunctions, OpenFiles) {
-  const testing::TemporaryFolder folder;
+  const support::TemporaryFolder folder;
   const std::wstring path = ToWide(folder.In("none.html"));
   const auto answer =
       reinterpret_cast<INT_PTR>(late::ShellExecuteW(nullptr, L"open", path.c_str(), nullptr, nullptr, 0));

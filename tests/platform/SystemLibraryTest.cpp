@@ -47,7 +47,7 @@ class PlantedLibrary : NonCopyable {
   }
 
  private:
-  testing::TemporaryFolder folder_;
+  support::TemporaryFolder folder_;
   std::string name_;
   std::wstring beside_;
   std::wstring former_ = std::wstring(MAX_PATH, L'\0');

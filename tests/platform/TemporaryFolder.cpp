@@ -11,7 +11,7 @@
 #include "platform/Paths.h"
 #include "platform/Text.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 std::wstring UniqueName() {
@@ -157,4 +157,4 @@ std::string ReadAll(const std::string& path) {
   return content;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -9,7 +9,7 @@
 
 #include "base/NonCopyable.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // A folder of this test's own, gone with all that is in it when the test ends. Paths are UTF-8 and may be of any
 // length; a failure to make something fails the test.
@@ -42,4 +42,4 @@ void AddAttributes(const std::string& path, unsigned long attributes);
 // All bytes of a file; empty where it cannot be read.
 std::string ReadAll(const std::string& path);
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

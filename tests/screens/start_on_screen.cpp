@@ -110,7 +110,7 @@ class StartOnScreen : public ::testing::TestWithParam<const char*> {
   const std::string screen_ = Variable("TARVIK_TEST_SCREEN");
   const std::string answer_ = Variable("TARVIK_TEST_ANSWER");
   const ScreenDepth depth_{std::stoi(screen_.substr(screen_.rfind('x') + 1))};
-  const testing::TemporaryFolder folder_;
+  const support::TemporaryFolder folder_;
   const LanguageValue language_{GetParam()};
   Program program_{folder_.Path()};
 };

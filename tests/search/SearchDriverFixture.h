@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "search/FakeSearch.h"
 #include "search/SearchDriver.h"
+#include "support/FakeSearch.h"
 
 namespace tarvik {
 
@@ -37,7 +37,7 @@ class SearchDriverTest : public ::testing::Test {
     window.dir1 = folder;
     window.file1 = folder;
   }
-  void AddFile(const std::string& folder, const std::string& name, FakeFile file) {
+  void AddFile(const std::string& folder, const std::string& name, support::FakeFile file) {
     window.folders[folder].files.push_back(name);
     icons.files[folder + "\\" + name] = file;
   }
@@ -46,14 +46,14 @@ class SearchDriverTest : public ::testing::Test {
   }
   void Find() { driver.CmdFind_Click(); }
 
-  Script script;
-  FakeSearchWindow window{script};
-  FakeIcons icons{script};
+  support::Script script;
+  support::FakeSearchWindow window{script};
+  support::FakeIcons icons{script};
   IconList list;
   SearchState state;
   std::string language{english};
-  FakeGrid grid{script};
-  FakeSurface ownSurface{"window"};
+  support::FakeGrid grid{script};
+  support::FakeSurface ownSurface{"window"};
   // The same with another machine.
   SearchDriver::Dependencies ToolsOver(IconSource& machine) {
     return {window, window, grid, ownSurface, machine, list, state, language};

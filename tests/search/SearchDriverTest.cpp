@@ -13,6 +13,8 @@
 namespace tarvik {
 namespace {
 
+using support::FakeIcons;
+using support::Script;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;

@@ -7,7 +7,7 @@
 #include "platform/Handles.h"
 #include "startup/Placement.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // A window stands where one of its size does by the rule.
 inline void ExpectCentered(HWND window) {
@@ -23,4 +23,4 @@ inline void ExpectCentered(HWND window) {
   EXPECT_EQ(place.top, ToPixels(expected.top, down));
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -10,14 +10,14 @@
 namespace tarvik {
 namespace {
 
-class DialogPlacesTest : public testing::Dialogs, public ::testing::Test {
+class DialogPlacesTest : public support::Dialogs, public ::testing::Test {
  protected:
   DialogPlacesTest() : Dialogs("ENG") {}
 
   static void Check(const std::unique_ptr<Form>& form, const char* name) {
     const ::testing::ScopedTrace trace(__FILE__, __LINE__, name);
     form->Load();
-    testing::ExpectCentered(form->Window());
+    support::ExpectCentered(form->Window());
   }
 };
 

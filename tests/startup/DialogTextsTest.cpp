@@ -19,15 +19,15 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-class DialogTextsTest : public testing::Dialogs, public ::testing::TestWithParam<const char*> {
+class DialogTextsTest : public support::Dialogs, public ::testing::TestWithParam<const char*> {
  protected:
   DialogTextsTest() : Dialogs(GetParam()) {}
 
   static void Check(const std::unique_ptr<Form>& form) {
     form->Load();
     ASSERT_TRUE(form->IsLoaded());
-    EXPECT_EQ(testing::TextsWithTakenKeys(form->Window()), Texts{});
-    EXPECT_EQ(testing::CutOffTexts(form->Window()), Texts{});
+    EXPECT_EQ(support::TextsWithTakenKeys(form->Window()), Texts{});
+    EXPECT_EQ(support::CutOffTexts(form->Window()), Texts{});
   }
 };
 
@@ -58,7 +58,7 @@ TEST_P(DialogTextsTest, GifOptions) {
 INSTANTIATE_TEST_SUITE_P(Languages, DialogTextsTest, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
                          [](const auto& row) { return std::string(row.param); });
 
-class UnknownLanguageTest : public testing::Dialogs, public ::testing::Test {
+class UnknownLanguageTest : public support::Dialogs, public ::testing::Test {
  protected:
   UnknownLanguageTest() : Dialogs("Chinese") {}
 
@@ -67,10 +67,10 @@ class UnknownLanguageTest : public testing::Dialogs, public ::testing::Test {
     form->Load();
     Form design(application, dialogId);
     design.Load();
-    EXPECT_EQ(testing::TextOf(form->Window()), testing::TextOf(design.Window()));
+    EXPECT_EQ(support::TextOf(form->Window()), support::TextOf(design.Window()));
     int texts = 0;
     for (HWND item = GetWindow(design.Window(), GW_CHILD); item != nullptr; item = GetWindow(item, GW_HWNDNEXT)) {
-      const std::string text = testing::TextOf(item);
+      const std::string text = support::TextOf(item);
       if (text.empty()) continue;
       ++texts;
       EXPECT_EQ(form->ItemText(GetDlgCtrlID(item)), text) << dialogId;

@@ -18,7 +18,7 @@
 #include "platform/DiskFile.h"
 #include "platform/Surface.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // The dialogs, each over as little as it needs.
 class Dialogs {
@@ -60,4 +60,4 @@ class Dialogs {
   DiskFile files;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -11,21 +11,21 @@
 namespace tarvik {
 namespace {
 
-using testing::FindIconFixture;
+using support::FindIconFixture;
 using Texts = std::vector<std::string>;
 
 TEST_F(FindIconFixture, HasAnAccessKeyOnceInEachWindowAndMenu) {
   for (const std::string language : {"ENG", "CHS", "CHT"}) {
     Open(language);
-    EXPECT_EQ(testing::TextsWithTakenKeys(window->Window()), Texts{}) << language;
-    EXPECT_EQ(testing::MenuTextsWithTakenKeys(window->Window()), Texts{}) << language;
+    EXPECT_EQ(support::TextsWithTakenKeys(window->Window()), Texts{}) << language;
+    EXPECT_EQ(support::MenuTextsWithTakenKeys(window->Window()), Texts{}) << language;
   }
 }
 
 TEST_F(FindIconFixture, HasRoomForItsTextsInEveryLanguage) {
   for (const std::string language : {"ENG", "CHS", "CHT", "CHI"}) {
     Open(language);
-    EXPECT_EQ(testing::CutOffTexts(window->Window()), Texts{}) << language;
+    EXPECT_EQ(support::CutOffTexts(window->Window()), Texts{}) << language;
   }
 }
 

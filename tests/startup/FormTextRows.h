@@ -8,7 +8,7 @@
 
 #include "startup/FormTexts.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // Expects a window's table of texts to hold these rows and no others, in any order.
 inline void ExpectRows(std::span<const FormText> table, std::initializer_list<FormText> expected) {
@@ -25,4 +25,4 @@ inline void ExpectRows(std::span<const FormText> table, std::initializer_list<Fo
   }
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

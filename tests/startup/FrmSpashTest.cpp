@@ -129,8 +129,8 @@ TEST_F(FrmSpashTest, SendsQuestionsToTheProjectsPageInEachLanguage) {
 TEST_F(FrmSpashTest, HasRoomForItsTextsInEveryLanguage) {
   for (const char* language : languages) {
     Open(language);
-    EXPECT_EQ(testing::CutOffTexts(spash->Window()), std::vector<std::string>{}) << language;
-    EXPECT_EQ(testing::TextsWithTakenKeys(spash->Window()), std::vector<std::string>{}) << language;
+    EXPECT_EQ(support::CutOffTexts(spash->Window()), std::vector<std::string>{}) << language;
+    EXPECT_EQ(support::TextsWithTakenKeys(spash->Window()), std::vector<std::string>{}) << language;
   }
 }
 

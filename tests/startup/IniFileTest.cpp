@@ -9,7 +9,7 @@
 namespace tarvik {
 namespace {
 
-using testing::TemporaryFolder;
+using support::TemporaryFolder;
 
 TEST(IniFile, ReadsBackWhatItWrote) {
   const TemporaryFolder folder;

@@ -7,7 +7,7 @@
 
 #include "platform/Handles.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 bool IsOfClass(HWND window, const wchar_t* name) {
@@ -74,4 +74,4 @@ std::vector<int> ListsThatCutLetters(HWND window) {
   return found;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // Pairs of visible controls of a window that lie over one another, by their ids: "1001 over 1002". A group box has its
 // controls in it, and counts for none.
@@ -14,4 +14,4 @@ std::vector<std::string> OverlappingControls(HWND window);
 // Visible list boxes whose rows are lower than the letters of their font, by their ids.
 std::vector<int> ListsThatCutLetters(HWND window);
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -25,9 +25,9 @@ namespace {
 using Texts = std::vector<std::string>;
 
 void ExpectInOrder(HWND window) {
-  EXPECT_EQ(testing::OverlappingControls(window), Texts{});
-  EXPECT_EQ(testing::CutOffTexts(window), Texts{});
-  EXPECT_EQ(testing::ListsThatCutLetters(window), std::vector<int>{});
+  EXPECT_EQ(support::OverlappingControls(window), Texts{});
+  EXPECT_EQ(support::CutOffTexts(window), Texts{});
+  EXPECT_EQ(support::ListsThatCutLetters(window), std::vector<int>{});
 }
 
 // Whoever sets the display's dots an inch says so; the tests of those dots would otherwise prove nothing.
@@ -37,7 +37,7 @@ TEST(Layout, IsLookedAtWithTheDotsAnInchThatWereAskedFor) {
   EXPECT_EQ(std::to_string(GetDeviceCaps(screen.get(), LOGPIXELSX)), asked != nullptr ? asked : "96");
 }
 
-class DialogLayout : public testing::Dialogs, public ::testing::TestWithParam<const char*> {
+class DialogLayout : public support::Dialogs, public ::testing::TestWithParam<const char*> {
  protected:
   DialogLayout() : Dialogs(GetParam()) {}
 
@@ -82,7 +82,7 @@ TEST_P(DialogLayout, StartUpWindowAndAboutBox) {
 INSTANTIATE_TEST_SUITE_P(Languages, DialogLayout, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
                          [](const auto& row) { return std::string(row.param); });
 
-class MainWindowLayout : public testing::FindIconFixture, public ::testing::WithParamInterface<const char*> {};
+class MainWindowLayout : public support::FindIconFixture, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(MainWindowLayout, IsInOrderWithTheGridAndWithTheList) {
   Open(GetParam());
@@ -94,7 +94,7 @@ TEST_P(MainWindowLayout, IsInOrderWithTheGridAndWithTheList) {
 INSTANTIATE_TEST_SUITE_P(Languages, MainWindowLayout, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
                          [](const auto& row) { return std::string(row.param); });
 
-class EnhancedViewLayout : public testing::ViewFixture, public ::testing::WithParamInterface<const char*> {};
+class EnhancedViewLayout : public support::ViewFixture, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(EnhancedViewLayout, IsInOrderWhenItOpens) {
   state.CurrentLanguage = GetParam();

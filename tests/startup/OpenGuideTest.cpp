@@ -22,9 +22,9 @@ struct Row {
 };
 
 // Has OpenGuide tell what is wrong with each row's page, which is below `folder`.
-void ExpectMessages(std::span<const Row> rows, const testing::TemporaryFolder& folder) {
+void ExpectMessages(std::span<const Row> rows, const support::TemporaryFolder& folder) {
   for (const Row& row : rows) {
-    const testing::BoxWatcher boxes;
+    const support::BoxWatcher boxes;
     OpenGuide(nullptr, folder.Path(), row.code);
     ASSERT_EQ(boxes.Boxes().size(), 1U) << row.code;
     EXPECT_EQ(boxes.Boxes()[0].title, row.title);
@@ -63,7 +63,7 @@ TEST(OpenGuide, SaysInEachLanguageThatAGuideIsMissing) {
                        "Brindle Tarvik - Error", "guide-eng.html"},
                       {"CHS", "找不到用户指南。重新安装本程序即可恢复。", "Brindle Tarvik - 错误", "guide-chs.html"},
                       {"CHT", "找不到使用指南。重新安裝本程式即可復原。", "Brindle Tarvik - 錯誤", "guide-cht.html"}};
-  const testing::TemporaryFolder folder;
+  const support::TemporaryFolder folder;
   ExpectMessages(rows, folder);
 }
 
@@ -73,7 +73,7 @@ TEST(OpenGuide, SaysInEachLanguageThatNothingOpensTheGuide) {
        "Brindle Tarvik - Error", "guide-eng.html"},
       {"CHS", "无法打开用户指南，因为没有可用的网页浏览器。页面位于：", "Brindle Tarvik - 错误", "guide-chs.html"},
       {"CHT", "無法開啟使用指南，因為沒有可用的網頁瀏覽器。頁面位於：", "Brindle Tarvik - 錯誤", "guide-cht.html"}};
-  const testing::TemporaryFolder folder;
+  const support::TemporaryFolder folder;
   folder.MakeFolder("guide");
   for (const Row& row : rows) folder.MakeFile(std::string("guide\\") + row.page);
   const NothingOpensPages nothing;
@@ -81,8 +81,8 @@ TEST(OpenGuide, SaysInEachLanguageThatNothingOpensTheGuide) {
 }
 
 TEST(OpenGuide, SaysNothingInAnUnknownLanguage) {
-  const testing::TemporaryFolder folder;
-  const testing::BoxWatcher boxes;
+  const support::TemporaryFolder folder;
+  const support::BoxWatcher boxes;
   OpenGuide(nullptr, folder.Path(), "CHI");
   EXPECT_TRUE(boxes.Boxes().empty());
 }

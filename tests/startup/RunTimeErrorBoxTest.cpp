@@ -21,7 +21,7 @@ TEST(RunTimeErrorBox, NamesAMissingFunctionAndItsLibraryInEachLanguage) {
       {"CHS", "此版本的 Windows 缺少本程序需要的函数：", "Brindle Tarvik - 错误"},
       {"CHT", "此版本的 Windows 缺少本程式需要的函式：", "Brindle Tarvik - 錯誤"}};
   for (const Row& row : rows) {
-    const testing::BoxWatcher boxes;
+    const support::BoxWatcher boxes;
     ShowRuntimeError(nullptr, MissingFunctionError("ExtractIconExA", "shell32.dll"), row.code);
     ASSERT_EQ(boxes.Boxes().size(), 1U) << row.code;
     EXPECT_EQ(boxes.Boxes()[0].title, row.title);
@@ -33,7 +33,7 @@ TEST(RunTimeErrorBox, SaysThatThereIsNoWindowInEachLanguage) {
   const std::pair<const char*, const char*> rows[] = {
       {"ENG", "Windows could not create the window"}, {"CHS", "Windows 无法创建窗口"}, {"CHT", "Windows 無法建立視窗"}};
   for (const auto& [code, text] : rows) {
-    const testing::BoxWatcher boxes;
+    const support::BoxWatcher boxes;
     ShowRuntimeError(nullptr, NoWindowError(), code);
     ASSERT_EQ(boxes.Boxes().size(), 1U) << code;
     EXPECT_EQ(boxes.Boxes()[0].text, text);
@@ -41,7 +41,7 @@ TEST(RunTimeErrorBox, SaysThatThereIsNoWindowInEachLanguage) {
 }
 
 TEST(RunTimeErrorBox, SaysNothingInAnUnknownLanguage) {
-  const testing::BoxWatcher boxes;
+  const support::BoxWatcher boxes;
   ShowRuntimeError(nullptr, MissingFunctionError("ExtractIconExA", "shell32.dll"), "CHI");
   EXPECT_TRUE(boxes.Boxes().empty());
 }

@@ -16,7 +16,7 @@
 #include "base/NonCopyable.h"
 #include "platform/Text.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr DISPID loadSkin = 11;
@@ -110,12 +110,12 @@ class Factory final : public IClassFactory {
 };
 
 }  // namespace
-}  // namespace tarvik::testing
+}  // namespace tarvik::support
 
 extern "C" __declspec(dllexport) HRESULT DllGetClassObject(REFCLSID classId, REFIID id, void** object) {
-  static tarvik::testing::Factory factory;
+  static tarvik::support::Factory factory;
   CLSID own;
-  CLSIDFromString(tarvik::testing::skinClassId, &own);
+  CLSIDFromString(tarvik::support::skinClassId, &own);
   return IsEqualCLSID(classId, own) ? factory.QueryInterface(id, object) : CLASS_E_CLASSNOTAVAILABLE;
 }
 

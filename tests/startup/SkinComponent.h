@@ -2,7 +2,7 @@
 
 // What the tests and their skin component share. The component is a DLL that the test's own process loads, or a program
 // that the test starts: it is told what to do through the environment, and what it does it writes to a file.
-namespace tarvik::testing {
+namespace tarvik::support {
 
 inline constexpr const wchar_t* skinClassId = L"{6F0C3B52-7D1E-4C0A-9E57-2B1F5A8C9D10}";
 
@@ -16,4 +16,4 @@ inline constexpr const wchar_t* lacksApplySkin = L"lacks ApplySkin";
 // with a bar behind it; UTF-8.
 inline constexpr const wchar_t* skinDiary = L"TARVIK_TEST_SKIN_DIARY";
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

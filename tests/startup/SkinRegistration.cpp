@@ -7,7 +7,7 @@
 #include "startup/Skin.h"
 #include "startup/SkinComponent.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 const std::wstring classKey = std::wstring(L"Software\\Classes\\") + Skin::className;
@@ -31,4 +31,4 @@ SkinRegistration::~SkinRegistration() {
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, serverKey.c_str());
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -4,7 +4,7 @@
 
 #include "base/NonCopyable.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // A skin component, known to the system for as long as the object lives: for all programs, so that only one test at a
 // time may have it. `server` is the component's DLL.
@@ -14,4 +14,4 @@ class SkinRegistration : NonCopyable {
   ~SkinRegistration();
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -18,10 +18,10 @@
 namespace tarvik {
 namespace {
 
-using testing::TemporaryFolder;
+using support::TemporaryFolder;
 
 // The test's component, known to the system.
-class Registration : public testing::SkinRegistration {
+class Registration : public support::SkinRegistration {
  public:
   explicit Registration(const std::wstring& server = ToWide(JoinPath(ProgramFolder(), "skin_component.dll")))
       : SkinRegistration(server) {}
@@ -30,8 +30,8 @@ class Registration : public testing::SkinRegistration {
 class SkinTest : public ::testing::Test {
  protected:
   SkinTest() {
-    SetEnvironmentVariableW(testing::skinBehaviour, nullptr);
-    SetEnvironmentVariableW(testing::skinDiary, ToWide(folder.In("diary")).c_str());
+    SetEnvironmentVariableW(support::skinBehaviour, nullptr);
+    SetEnvironmentVariableW(support::skinDiary, ToWide(folder.In("diary")).c_str());
     form.Load();
   }
 
@@ -39,8 +39,8 @@ class SkinTest : public ::testing::Test {
     (void)folder.MakeFolder("Skins");
     (void)folder.MakeFile("Skins\\Galaxy.skn");
   }
-  static void Have(const wchar_t* behaviour) { SetEnvironmentVariableW(testing::skinBehaviour, behaviour); }
-  std::string Diary() const { return testing::ReadAll(folder.In("diary")); }
+  static void Have(const wchar_t* behaviour) { SetEnvironmentVariableW(support::skinBehaviour, behaviour); }
+  std::string Diary() const { return support::ReadAll(folder.In("diary")); }
   std::string Loaded() const { return "made|LoadSkin " + folder.In("Skins\\Galaxy.skn") + "|"; }
   std::string Applied() const {
     return Loaded() + "ApplySkin " + std::to_string(reinterpret_cast<LONG_PTR>(form.Window())) + "|";
@@ -106,7 +106,7 @@ TEST_F(SkinTest, IsFalseWhereTheClassHasNoComponent) {
 TEST_F(SkinTest, IsFalseWhereTheSkinFileDoesNotLoad) {
   const Registration registration;
   MakeSkinFile();
-  Have(testing::failsInLoadSkin);
+  Have(support::failsInLoadSkin);
   EXPECT_FALSE(Skin(folder.Path()).Apply(form));
   EXPECT_EQ(Diary(), Loaded() + "gone|");
   EXPECT_EQ(form.Skn, nullptr);
@@ -115,7 +115,7 @@ TEST_F(SkinTest, IsFalseWhereTheSkinFileDoesNotLoad) {
 TEST_F(SkinTest, IsFalseWhereTheSkinDoesNotApply) {
   const Registration registration;
   MakeSkinFile();
-  Have(testing::failsInApplySkin);
+  Have(support::failsInApplySkin);
   EXPECT_FALSE(Skin(folder.Path()).Apply(form));
   EXPECT_EQ(Diary(), Applied() + "gone|");
 }
@@ -123,7 +123,7 @@ TEST_F(SkinTest, IsFalseWhereTheSkinDoesNotApply) {
 TEST_F(SkinTest, IsFalseWhereTheComponentLacksAMethod) {
   const Registration registration;
   MakeSkinFile();
-  Have(testing::lacksApplySkin);
+  Have(support::lacksApplySkin);
   EXPECT_FALSE(Skin(folder.Path()).Apply(form));
   EXPECT_EQ(Diary(), Loaded() + "gone|");
 }

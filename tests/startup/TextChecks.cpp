@@ -11,7 +11,7 @@
 #include "platform/Handles.h"
 #include "platform/Text.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 // What a button needs beside its text, in dialog units: its edges, or the box and the gap behind it.
@@ -138,4 +138,4 @@ std::vector<std::string> CutOffTexts(HWND window) {
   return found;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // What is wrong with the texts of a window as it stands. Each answer names the offending texts, UTF-8, and is empty
 // where all is well. Texts without an access key are left out of the first two.
@@ -17,4 +17,4 @@ std::vector<std::string> MenuTextsWithTakenKeys(HWND window);
 // Labels, buttons and boxes that have no room for their text in their own font; hidden ones too.
 std::vector<std::string> CutOffTexts(HWND window);
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

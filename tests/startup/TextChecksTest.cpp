@@ -11,9 +11,9 @@
 namespace tarvik {
 namespace {
 
-using testing::CutOffTexts;
-using testing::MenuTextsWithTakenKeys;
-using testing::TextsWithTakenKeys;
+using support::CutOffTexts;
+using support::MenuTextsWithTakenKeys;
+using support::TextsWithTakenKeys;
 using Texts = std::vector<std::string>;
 
 // The checks themselves must see what they look for.

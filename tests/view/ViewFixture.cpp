@@ -6,7 +6,7 @@
 
 #include <array>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr DWORD deadline = 20000;  // milliseconds until a condition counts as never met
@@ -126,4 +126,4 @@ SIZE ViewFixture::WindowSize() const {
   return {place.right - place.left, place.bottom - place.top};
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

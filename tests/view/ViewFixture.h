@@ -16,11 +16,11 @@
 #include "platform/Surface.h"
 #include "platform/Text.h"
 #include "resource.h"
-#include "startup/MemoryIni.h"
-#include "view/FakeHost.h"
+#include "support/FakeHost.h"
+#include "support/MemoryIni.h"
 #include "view/frmBit.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // A main window in memory whose every entry is a picture of its own, no two pixels of it alike.
 class PictureHost final : public FakeHost {
@@ -93,4 +93,4 @@ class ViewFixture : public ::testing::Test {
   HWND owner = nullptr;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

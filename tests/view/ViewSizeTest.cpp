@@ -7,8 +7,8 @@
 #include <limits>
 #include <string>
 
-#include "startup/MemoryIni.h"
-#include "view/FakeHost.h"
+#include "support/FakeHost.h"
+#include "support/MemoryIni.h"
 
 namespace tarvik {
 namespace {
@@ -17,7 +17,7 @@ constexpr float largest = std::numeric_limits<float>::max();
 
 class ViewSizeTest : public ::testing::Test {
  protected:
-  testing::MemoryIni store;
+  support::MemoryIni store;
   Settings settings{store, "C:\\program\\tarvik.exe"};
 };
 

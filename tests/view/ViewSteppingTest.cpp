@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/NonCopyable.h"
-#include "view/FakeHost.h"
+#include "support/FakeHost.h"
 
 namespace tarvik {
 namespace {
@@ -15,7 +15,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-using Host = testing::FakeHost;
+using Host = support::FakeHost;
 
 // What was shown.
 struct Display {

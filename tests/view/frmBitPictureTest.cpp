@@ -21,7 +21,7 @@ std::int64_t UsedBytes() {
   return static_cast<std::int64_t>(counters.WorkingSetSize);
 }
 
-class frmBitPictureTest : public testing::ViewFixture {
+class frmBitPictureTest : public support::ViewFixture {
  protected:
   // Compares what stands on the window with the entry's picture at that factor.
   void ExpectEnlarged(int number, int factor, int size) {
@@ -36,7 +36,7 @@ class frmBitPictureTest : public testing::ViewFixture {
     BitBlt(shown.Dc(), 0, 0, shown.Width(), shown.Height(), dc.get(), 0, 0, SRCCOPY);
     for (int y = 0; y < shown.Height(); ++y) {
       for (int x = 0; x < shown.Width(); ++x) {
-        ASSERT_EQ(shown.Pixel(x, y), testing::PictureHost::ColorOf(number, x / factor, y / factor))
+        ASSERT_EQ(shown.Pixel(x, y), support::PictureHost::ColorOf(number, x / factor, y / factor))
             << "entry " << number << ", factor " << factor << " at " << x << ", " << y;
       }
     }
@@ -105,7 +105,7 @@ TEST_F(frmBitPictureTest, HoldsNoMoreHandlesAndMemoryAfterAnHourOfTicks) {
   WhileOpen([this] {
     Click(frmBit_tlb_control_Start);
     for (int tick = 0; tick < 100; ++tick) Tick();
-    const int objects = testing::CountGdiObjects();
+    const int objects = support::CountGdiObjects();
     // What is lost with each tick is lost in every part of the hour; what the system keeps for itself is not.
     constexpr int parts = 6;
     constexpr int ticks = 3600 / parts;
@@ -116,7 +116,7 @@ TEST_F(frmBitPictureTest, HoldsNoMoreHandlesAndMemoryAfterAnHourOfTicks) {
       for (int tick = 0; tick < ticks; ++tick) Tick();
       leastGrowth = std::min(leastGrowth, UsedBytes() - bytes);
     }
-    EXPECT_EQ(testing::CountGdiObjects(), objects);
+    EXPECT_EQ(support::CountGdiObjects(), objects);
     EXPECT_LT(leastGrowth, std::int64_t{100} * ticks) << "100 bytes a tick";
   });
 }
@@ -129,9 +129,9 @@ TEST_F(frmBitPictureTest, HoldsNoMoreHandlesAfterManyZoomsAndOpenings) {
     });
   };
   for (int opening = 0; opening < 3; ++opening) openAndZoom();
-  const int before = testing::CountGdiObjects();
+  const int before = support::CountGdiObjects();
   for (int opening = 0; opening < 10; ++opening) openAndZoom();
-  EXPECT_EQ(testing::CountGdiObjects(), before);
+  EXPECT_EQ(support::CountGdiObjects(), before);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@
 namespace tarvik {
 namespace {
 
-class frmBitSizeTest : public testing::ViewFixture {};
+class frmBitSizeTest : public support::ViewFixture {};
 
 TEST_F(frmBitSizeTest, OpensAtItsDesignedSizeOnTheFirstRun) {
   WhileOpen([this] {
@@ -23,12 +23,12 @@ TEST_F(frmBitSizeTest, OpensAtItsDesignedSizeOnTheFirstRun) {
 }
 
 TEST_F(frmBitSizeTest, OpensInTheMiddleAThirdOfTheSpareHeightDown) {
-  WhileOpen([this] { testing::ExpectCentered(view->Window()); });
+  WhileOpen([this] { support::ExpectCentered(view->Window()); });
   store.values["Bitmapview/Height"] = "7605";
   store.values["Bitmapview/Width"] = "9165";
   WhileOpen([this] {
     EXPECT_EQ(WindowSize().cx, 611);
-    testing::ExpectCentered(view->Window());
+    support::ExpectCentered(view->Window());
   });
 }
 

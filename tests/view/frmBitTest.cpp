@@ -19,7 +19,7 @@ constexpr int lastButton = frmBit_tlb_control_Exit;
 constexpr int plusKey = 187;
 constexpr int minusKey = 189;
 
-class frmBitTest : public testing::ViewFixture {};
+class frmBitTest : public support::ViewFixture {};
 
 TEST_F(frmBitTest, OpensOnTheSelectedEntryWithTheShowOff) {
   MakeList(5, 2);
@@ -340,7 +340,7 @@ TEST_F(frmBitTest, HasTooltipsInEachLanguage) {
 TEST_F(frmBitTest, TellsItsControlsOfNewColorsAndThemes) {
   WhileOpen([this] {
     for (const int id : {frmBit_tlb_control, frmBit_sbMain})
-      EXPECT_EQ(testing::ChangesToldTo(Item(id), view->Window()), testing::allChanges) << id;
+      EXPECT_EQ(support::ChangesToldTo(Item(id), view->Window()), support::allChanges) << id;
   });
 }
 

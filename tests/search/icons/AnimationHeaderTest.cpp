@@ -6,12 +6,12 @@
 #include <span>
 #include <string>
 
-#include "search/icons/BytesInMemory.h"
+#include "support/BytesInMemory.h"
 
 namespace tarvik {
 namespace {
 
-using testing::BytesInMemory;
+using support::BytesInMemory;
 
 // The file may be asked for more than it has: its chunks may say that there is more.
 BytesInMemory FileOf(const std::string& bytes) {

@@ -10,7 +10,7 @@
 namespace tarvik {
 namespace {
 
-using testing::TemporaryFolder;
+using support::TemporaryFolder;
 
 TEST(CutOffCalls, RemembersEachCallOnEachFile) {
   const TemporaryFolder folder;

@@ -14,7 +14,7 @@
 namespace tarvik {
 namespace {
 
-using testing::TemporaryFolder;
+using support::TemporaryFolder;
 
 TEST(FileBytes, ReadsFromAnyPlace) {
   const TemporaryFolder folder;

@@ -16,8 +16,8 @@
 namespace tarvik {
 namespace {
 
-using testing::AddAttributes;
-using testing::TemporaryFolder;
+using support::AddAttributes;
+using support::TemporaryFolder;
 using Names = std::vector<std::string>;
 
 constexpr const char* allFiles = "*.*";

@@ -11,7 +11,7 @@
 namespace tarvik {
 namespace {
 
-using testing::PlainBitmap;
+using support::PlainBitmap;
 using Bytes = std::vector<std::byte>;
 
 struct Listed {

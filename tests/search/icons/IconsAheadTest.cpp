@@ -11,11 +11,12 @@
 #include <vector>
 
 #include "base/NonCopyable.h"
-#include "search/FakeSearch.h"
+#include "support/FakeSearch.h"
 
 namespace tarvik {
 namespace {
 
+using support::Script;
 using ::testing::ElementsAre;
 using Lines = std::vector<std::string>;
 

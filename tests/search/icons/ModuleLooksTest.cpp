@@ -8,15 +8,15 @@
 #include <utility>
 #include <vector>
 
-#include "search/icons/BytesInMemory.h"
 #include "search/icons/Modules.h"
+#include "support/BytesInMemory.h"
 
 namespace tarvik {
 namespace {
 
-using testing::BytesInMemory;
-using testing::MakeModule;
-using testing::PlainIcons;
+using support::BytesInMemory;
+using support::MakeModule;
+using support::PlainIcons;
 using Bytes = std::vector<std::byte>;
 
 TEST(IsModuleName, IsTrueForFourEndingsInAnyCase) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <map>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr std::uint32_t numberBit = 0x8000;
@@ -184,4 +184,4 @@ std::vector<ModuleIcon> PlainIcons(int count) {
   return icons;
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // Modules of 16-bit Windows ("NE") that hold icons and nothing else, written byte by byte: no linker makes them any
 // more. The modules that the tests of damaged files start from are in damaged_files/Libraries.h.
@@ -48,4 +48,4 @@ std::vector<ModuleIcon> PlainIcons(int count);
 inline constexpr std::size_t newHeaderOfModule = 0x80;
 inline constexpr std::size_t tableOfModule = newHeaderOfModule + 0x40;
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -6,24 +6,24 @@
 #include <utility>
 #include <vector>
 
-#include "search/icons/BytesInMemory.h"
 #include "search/icons/Modules.h"
+#include "support/BytesInMemory.h"
 
 namespace tarvik {
 namespace {
 
-using testing::BytesInMemory;
-using testing::MakeModule;
-using testing::ModuleIcon;
-using testing::ModuleLayout;
-using testing::ModulePicture;
-using testing::PlainBitmap;
-using testing::PlainIcons;
+using support::BytesInMemory;
+using support::MakeModule;
+using support::ModuleIcon;
+using support::ModuleLayout;
+using support::ModulePicture;
+using support::PlainBitmap;
+using support::PlainIcons;
 using Bytes = std::vector<std::byte>;
 
 constexpr std::size_t offsetPlace = 0x3C;
-constexpr std::size_t table = testing::tableOfModule;
-constexpr std::size_t header = testing::newHeaderOfModule;
+constexpr std::size_t table = support::tableOfModule;
+constexpr std::size_t header = support::newHeaderOfModule;
 // In a plain module, the entries of pictures and groups: behind the shift and the start of the first type.
 constexpr std::size_t firstPicture = table + 2 + 8;
 constexpr std::size_t entrySize = 12;

@@ -2,7 +2,7 @@
 
 #include <random>
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 constexpr std::size_t bitmapHeaderSize = 40;
@@ -46,4 +46,4 @@ RandomModule MakeRandomModule(std::uint32_t number) {
   return {MakeModule(icons, layout), static_cast<int>(icons.size())};
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -4,7 +4,7 @@
 
 #include "search/icons/Modules.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 struct RandomModule {
   ModuleBytes bytes;
@@ -19,4 +19,4 @@ RandomModule MakeRandomModule(std::uint32_t number);
 // One picture by chance.
 ModuleBytes RandomBitmap(int width, int height, int bits, std::uint32_t seed);
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

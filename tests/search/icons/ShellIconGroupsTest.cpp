@@ -24,9 +24,9 @@
 namespace tarvik {
 namespace {
 
-using testing::BitmapPicture;
-using testing::IconPicture;
-using testing::TemporaryFolder;
+using support::BitmapPicture;
+using support::IconPicture;
+using support::TemporaryFolder;
 using Pixels = std::vector<Color>;
 
 constexpr Color red = 0x0000FF;
@@ -45,7 +45,7 @@ std::string MakeLibrary(const TemporaryFolder& folder, int count, const std::vec
   std::vector<IconPicture> pictures;
   for (int i = 0; i < count; ++i) pictures.push_back(BitmapPicture(32, 24, 0x010101U * static_cast<Color>(i + 1), red));
   for (const std::size_t place : broken) pictures[place].data.clear();
-  return folder.MakeFile("icons.dll", testing::Library(testing::Bitness::Bits64, pictures).bytes);
+  return folder.MakeFile("icons.dll", support::Library(support::Bitness::Bits64, pictures).bytes);
 }
 
 TEST(ShellIconGroups, AreTheIconsOneByOne) {
@@ -93,9 +93,9 @@ TEST(ShellIconGroups, KeepNoHandles) {
     icons.ExtractGroup(path, 0, 7);
   };
   round();
-  const int before = testing::CountGdiObjects();
+  const int before = support::CountGdiObjects();
   for (int i = 0; i < 100; ++i) round();
-  EXPECT_EQ(testing::CountGdiObjects(), before);
+  EXPECT_EQ(support::CountGdiObjects(), before);
 }
 
 TEST(ShellIconGroups, AreOfAFileThatIsKnownByItsSizeAndTime) {

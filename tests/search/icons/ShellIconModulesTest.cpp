@@ -35,12 +35,12 @@
 namespace tarvik {
 namespace {
 
-using testing::MakeModule;
-using testing::ModuleBytes;
-using testing::ModuleIcon;
-using testing::RandomBitmap;
-using testing::ShellWithoutModules;
-using testing::TemporaryFolder;
+using support::MakeModule;
+using support::ModuleBytes;
+using support::ModuleIcon;
+using support::RandomBitmap;
+using support::ShellWithoutModules;
+using support::TemporaryFolder;
 using Pixels = std::vector<Color>;
 
 constexpr Color background = 0x808080;
@@ -99,7 +99,7 @@ TEST(ShellIconModules, AreReadAsTheShellOfWineReadsThem) {
   BothWays ways;
   int icons = 0;
   for (std::uint32_t number = 0; number < modules && !HasFailure(); ++number) {
-    const testing::RandomModule module = testing::MakeRandomModule(number);
+    const support::RandomModule module = support::MakeRandomModule(number);
     const std::string path = folder.MakeFile(std::to_string(number) + ".icl", module.bytes);
     EXPECT_EQ(ways.Compare(path), module.icons) << path;
     icons += module.icons;
@@ -291,9 +291,9 @@ TEST(ShellIconModules, KeepNoHandlesAndNoFileOpen) {
     ASSERT_TRUE(icons.ExtractGroup(other, 0, 4).empty());
   };
   round();
-  const int before = testing::CountGdiObjects();
+  const int before = support::CountGdiObjects();
   for (int i = 0; i < 50; ++i) round();
-  EXPECT_EQ(testing::CountGdiObjects(), before);
+  EXPECT_EQ(support::CountGdiObjects(), before);
   EXPECT_NE(DeleteFileW(ToWide(path).c_str()), 0);
 }
 

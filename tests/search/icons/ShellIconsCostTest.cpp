@@ -27,12 +27,12 @@
 namespace tarvik {
 namespace {
 
-using testing::AnimationFile;
-using testing::Bytes;
-using testing::CutOffLibrary;
-using testing::IconFileOf;
-using testing::LibraryOfOneIcon;
-using testing::TemporaryFolder;
+using support::AnimationFile;
+using support::Bytes;
+using support::CutOffLibrary;
+using support::IconFileOf;
+using support::LibraryOfOneIcon;
+using support::TemporaryFolder;
 
 constexpr Color red = 0x0000FF;
 constexpr Color green = 0x00FF00;
@@ -45,11 +45,11 @@ TEST(ShellIcons, AsksTheSystemOnceForAnIconThatItBreaksOn) {
   const std::string path = folder.MakeFile("a.dll", CutOffLibrary());
   ShellIcons icons;
   ASSERT_EQ(icons.Extract(path, 0), nullptr);
-  const int objects = testing::CountGdiObjects();
-  const int views = testing::CountMappedViews(GetCurrentProcess());
+  const int objects = support::CountGdiObjects();
+  const int views = support::CountMappedViews(GetCurrentProcess());
   for (int i = 0; i < 20; ++i) EXPECT_EQ(icons.Extract(path, 0), nullptr);
-  EXPECT_EQ(testing::CountGdiObjects(), objects);
-  EXPECT_EQ(testing::CountMappedViews(GetCurrentProcess()), views);
+  EXPECT_EQ(support::CountGdiObjects(), objects);
+  EXPECT_EQ(support::CountMappedViews(GetCurrentProcess()), views);
 }
 
 TEST(ShellIcons, AsksAgainForAFileThatHasChanged) {

@@ -21,15 +21,15 @@
 namespace tarvik {
 namespace {
 
-using testing::AnimationFile;
-using testing::BitmapPicture;
-using testing::Bytes;
-using testing::IconFile;
-using testing::IconFileKind;
-using testing::IconFileOf;
-using testing::IconPicture;
-using testing::PngPicture;
-using testing::TemporaryFolder;
+using support::AnimationFile;
+using support::BitmapPicture;
+using support::Bytes;
+using support::IconFile;
+using support::IconFileKind;
+using support::IconFileOf;
+using support::IconPicture;
+using support::PngPicture;
+using support::TemporaryFolder;
 
 constexpr Color red = 0x0000FF;
 constexpr Color green = 0x00FF00;
@@ -99,7 +99,7 @@ TEST(ShellIcons, TakesEachIconOfALibraryByItsIndex) {
   ASSERT_NE(CopyFileW(ToWide(JoinPath(SystemFolder(), "version.dll")).c_str(), ToWide(library).c_str(), TRUE), 0);
   const std::array pictures{BitmapPicture(32, 8, red, red), BitmapPicture(32, 24, green, green),
                             BitmapPicture(32, 32, blue, blue)};
-  testing::AddIcons(library, pictures);
+  support::AddIcons(library, pictures);
 
   ShellIcons icons;
   ASSERT_EQ(icons.CountIcons(library), 3);
@@ -225,7 +225,7 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
   // Past the file's, the header's, the list's and the picture's chunk starts, its directory, and two numbers.
   const std::size_t heightOffset = 12 + 44 + 12 + 8 + 22 + 8;
   noHeight[heightOffset] = std::byte{0};
-  std::string halfLibrary = testing::ReadAll(JoinPath(SystemFolder(), "shell32.dll"));
+  std::string halfLibrary = support::ReadAll(JoinPath(SystemFolder(), "shell32.dll"));
   halfLibrary.resize(halfLibrary.size() / 2);
 
   ShellIcons icons;
@@ -260,7 +260,7 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
 Bytes LyingLibrary(std::span<const IconPicture> pictures, std::uint16_t claimed) {
   constexpr std::size_t sectionPlace = 0x200;  // the tree's place in the file
   constexpr std::size_t countPlace = 14;       // in a directory
-  testing::IntactFile library = testing::Library(testing::Bitness::Bits64, pictures);
+  support::IntactFile library = support::Library(support::Bitness::Bits64, pictures);
   const std::size_t groups = library.directories[2] & 0x7FFFFFFF;
   library.bytes[sectionPlace + groups + countPlace] = static_cast<std::byte>(claimed);
   library.bytes[sectionPlace + groups + countPlace + 1] = static_cast<std::byte>(claimed >> 8U);
@@ -319,11 +319,11 @@ TEST(ShellIcons, KeepsNoHandles) {
     ASSERT_TRUE(icon && icon->Draw(surface, {0, 0}, 32, 0, DrawPart::Normal)) << path;
   };
   for (const std::string& path : paths) round(path);
-  const int before = testing::CountGdiObjects();
+  const int before = support::CountGdiObjects();
   for (int i = 0; i < 1000; ++i) {
     for (const std::string& path : paths) round(path);
   }
-  EXPECT_EQ(testing::CountGdiObjects(), before);
+  EXPECT_EQ(support::CountGdiObjects(), before);
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include "platform/SystemFunctions.h"
 #include "search/icons/FileBytes.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 namespace {
 
 bool IsModule(const char* path) {
@@ -36,4 +36,4 @@ ShellFunctions ShellWithoutModules() {
   return {.extractIconEx = Extract, .privateExtractIcons = ExtractSeveral};
 }
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -10,7 +10,6 @@
 #include <string>
 #include <vector>
 
-#include "export/AnsweredDialogs.h"
 #include "export/TemporaryBitmap.h"
 #include "forms/Application.h"
 #include "forms/BoxWatcher.h"
@@ -20,10 +19,11 @@
 #include "platform/Text.h"
 #include "resource.h"
 #include "search/window/FrmFindIcon.h"
-#include "startup/MemoryIni.h"
 #include "startup/RunTimeErrorBox.h"
+#include "support/AnsweredDialogs.h"
+#include "support/MemoryIni.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // An icon that is one opaque square of a colour of its own.
 class SquareIcon final : public ExtractedIcon {
@@ -188,4 +188,4 @@ class FindIconFixture : public ::testing::Test {
   std::unique_ptr<FrmFindIcon> window;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

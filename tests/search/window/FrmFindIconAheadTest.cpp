@@ -16,10 +16,10 @@
 namespace tarvik {
 namespace {
 
+using support::FindIconFixture;
+using support::SmallMachine;
+using support::TemporaryFolder;
 using ::testing::ElementsAre;
-using testing::FindIconFixture;
-using testing::SmallMachine;
-using testing::TemporaryFolder;
 
 // The small machine's icons, with all that is asked of them written down.
 class WatchedIcons final : public IconSource {

@@ -36,7 +36,7 @@ class ChangeCounter : NonCopyable {
   int count_ = 0;
 };
 
-class FrmFindIconCostTest : public testing::FindIconFixture {
+class FrmFindIconCostTest : public support::FindIconFixture {
  protected:
   // So many folders of one file each, below the one that the search starts in.
   void OpenOverFolders(int count) {

@@ -14,7 +14,7 @@
 namespace tarvik {
 namespace {
 
-class FrmFindIconDropTest : public testing::FindIconFixture {
+class FrmFindIconDropTest : public support::FindIconFixture {
  protected:
   FrmFindIconDropTest() { drives = {{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}, {"E:\\", "e:"}}; }
 
@@ -24,7 +24,7 @@ class FrmFindIconDropTest : public testing::FindIconFixture {
     application.DoEvents();
   }
   static HGLOBAL Block(const std::vector<std::string>& paths) {
-    const std::vector<std::byte> block = testing::DroppedBlock(paths);
+    const std::vector<std::byte> block = support::DroppedBlock(paths);
     const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, block.size());
     std::memcpy(GlobalLock(memory), block.data(), block.size());
     GlobalUnlock(memory);

@@ -19,11 +19,11 @@
 namespace tarvik {
 namespace {
 
-using testing::Command;
-using testing::FindIconFixture;
-using testing::ReadAll;
-using testing::SmallMachine;
-using testing::TemporaryFolder;
+using support::Command;
+using support::FindIconFixture;
+using support::ReadAll;
+using support::SmallMachine;
+using support::TemporaryFolder;
 
 class FrmFindIconExportTest : public FindIconFixture {
  protected:
@@ -49,7 +49,7 @@ class FrmFindIconExportTest : public FindIconFixture {
   }
 
   TemporaryFolder folder;
-  testing::ModalDriver driver;
+  support::ModalDriver driver;
 };
 
 TEST_F(FrmFindIconExportTest, EnablesTheCommandsWhileTheListHoldsAnEntry) {
@@ -140,7 +140,7 @@ TEST_F(FrmFindIconExportTest, ReportsEachFileThatFailsAndGoesOn) {
   Open();
   Find(3);
   folder.MakeFolder("Icon 1.ico");
-  testing::AddAttributes(folder.MakeFile("Icon 3.ico", "kept"), FILE_ATTRIBUTE_READONLY);
+  support::AddAttributes(folder.MakeFile("Icon 3.ico", "kept"), FILE_ATTRIBUTE_READONLY);
   dialogs.folder = folder.Path();
   Click(FrmFindIcon_mnuSaveAll);
   ASSERT_EQ(boxes.Boxes().size(), 2U);
@@ -197,7 +197,7 @@ class ScarceIcons final : public IconSource {
   int CountIcons(const std::string& /*path*/) override { return 4; }
   std::unique_ptr<ExtractedIcon> Extract(const std::string& /*path*/, int index) override {
     if (exhausted && index == 1) throw OutOfMemoryError();
-    return std::make_unique<testing::SquareIcon>(SmallMachine::ColorOf(index));
+    return std::make_unique<support::SquareIcon>(SmallMachine::ColorOf(index));
   }
   bool exhausted = false;
 };
@@ -269,7 +269,7 @@ TEST_F(FrmFindIconExportTest, CopiesWhatLiesBelowTheTransparentPixels) {
   OpenOver(icons, machine);
   Find(1);
   Click(FrmFindIcon_mnuCopy);
-  const std::vector<Color> pasted = testing::Paste().pixels;
+  const std::vector<Color> pasted = support::Paste().pixels;
   ASSERT_EQ(pasted.size(), 32U * 32U);
   for (std::size_t i = 0; i < pasted.size(); ++i)
     ASSERT_EQ(pasted[i], i % 32 < 16 ? HalfIcon::opaque : white ^ HalfIcon::inverting) << i;
@@ -280,7 +280,7 @@ TEST_F(FrmFindIconExportTest, CopiesMaskAndImageComposed) {
   Find(4);
   Choose(4, 0);
   Click(FrmFindIcon_mnuCopy);
-  const std::vector<Color> pasted = testing::Paste().pixels;
+  const std::vector<Color> pasted = support::Paste().pixels;
   ASSERT_EQ(pasted.size(), 32U * 32U);
   const Surface& mask = window->Captured().Surfaces().Mask();
   const Surface& image = window->Captured().Surfaces().Image();
@@ -346,7 +346,7 @@ TEST_F(FrmFindIconExportTest, WritesEveryFileOfAJpegBatchWithTheOptionsChosenOnc
   });
   Click(FrmFindIcon_mnuSaveAll2);
   for (const char* name : {"Images 1.jpg", "Images 3.jpg"})
-    EXPECT_EQ(testing::ComponentsOf(ReadAll(folder.In(name))), 1) << name;
+    EXPECT_EQ(support::ComponentsOf(ReadAll(folder.In(name))), 1) << name;
   ASSERT_EQ(boxes.Boxes().size(), 1U);
   EXPECT_EQ(boxes.Boxes()[0].text, "Failed to Save Icon As Bitmap.");
   EXPECT_EQ(Status(), status);

@@ -9,7 +9,7 @@
 namespace tarvik {
 namespace {
 
-class FrmFindIconKeysTest : public testing::FindIconFixture {
+class FrmFindIconKeysTest : public support::FindIconFixture {
  protected:
   // Each item of a menu and of its sub-menus: its id, text and state.
   using Items = std::vector<std::string>;

@@ -13,7 +13,7 @@
 namespace tarvik {
 namespace {
 
-class FrmFindIconOptionsTest : public testing::FindIconFixture {
+class FrmFindIconOptionsTest : public support::FindIconFixture {
  protected:
   void TickFileType(std::size_t type, bool ticked = true) {
     const int box = searchedTypes.at(type).checkBox;
@@ -71,7 +71,7 @@ TEST_F(FrmFindIconOptionsTest, LeavesATypedLimitAsItIsTyped) {
 TEST_F(FrmFindIconOptionsTest, TellsItsControlsOfNewColorsAndThemes) {
   Open();
   for (const int id : {FrmFindIcon_Lv, FrmFindIcon_sbMain, FrmFindIcon_Dir1})
-    EXPECT_EQ(testing::ChangesToldTo(Item(id), window->Window()), testing::allChanges) << id;
+    EXPECT_EQ(support::ChangesToldTo(Item(id), window->Window()), support::allChanges) << id;
 }
 
 TEST_F(FrmFindIconOptionsTest, SaysInEachLanguageThatADriveIsNotReady) {

@@ -16,15 +16,15 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class FrmFindIconProgressTest : public testing::FindIconFixture {
+class FrmFindIconProgressTest : public support::FindIconFixture {
  protected:
   FrmFindIconProgressTest() {
     taskBar = &bar;
     application.onRuntimeError = [this](Form& /*form*/, const RuntimeError& /*error*/) { bar.calls.push_back("box"); };
   }
 
-  testing::NotedTaskBar bar;
-  testing::TemporaryFolder out;
+  support::NotedTaskBar bar;
+  support::TemporaryFolder out;
 };
 
 TEST_F(FrmFindIconProgressTest, CountsListsAndEndsWithNothing) {
@@ -55,7 +55,7 @@ TEST_F(FrmFindIconProgressTest, FollowsABatchAndShowsAFileThatFails) {
   Click(FrmFindIcon_mnuSaveAll);
   EXPECT_THAT(bar.calls, ElementsAre("normal", "1/2", "2/2", "none"));
   bar.calls.clear();
-  const testing::TemporaryFolder taken;
+  const support::TemporaryFolder taken;
   taken.MakeFolder("Icon 2.ico");
   dialogs.folder = taken.Path();
   Click(FrmFindIcon_mnuSaveAll);

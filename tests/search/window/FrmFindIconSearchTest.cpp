@@ -32,7 +32,7 @@ class AllDeviceContexts {
   std::vector<MemoryDc> contexts_;
 };
 
-class FrmFindIconSearchTest : public testing::FindIconFixture {
+class FrmFindIconSearchTest : public support::FindIconFixture {
  protected:
   void OpenWatched() { OpenOver(watched, machine); }
   void ScrollGridBy(int request) const {
@@ -64,7 +64,7 @@ class FrmFindIconSearchTest : public testing::FindIconFixture {
     return rows;
   }
 
-  testing::WatchedMachine watched{machine};
+  support::WatchedMachine watched{machine};
 };
 
 TEST_F(FrmFindIconSearchTest, DisablesWhatCouldDisturbASearchFromItsFirstFileToItsLast) {
@@ -164,7 +164,7 @@ TEST_F(FrmFindIconSearchTest, SizesTheGridAgainAfterItCouldNot) {
   EXPECT_TRUE(IsEnabled(FrmFindIcon_Vsb));
   ScrollGridBy(SB_BOTTOM);
   EXPECT_EQ(ScrolledPixels(), 38);
-  EXPECT_EQ(GridPixel(3, 3 + 5 * 38), testing::SmallMachine::ColorOf(75));
+  EXPECT_EQ(GridPixel(3, 3 + 5 * 38), support::SmallMachine::ColorOf(75));
 }
 
 TEST_F(FrmFindIconSearchTest, ScrollsAsManyRowsForANotchAsTheSystemSays) {

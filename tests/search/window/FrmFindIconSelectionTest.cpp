@@ -11,7 +11,7 @@
 namespace tarvik {
 namespace {
 
-class FrmFindIconSelectionTest : public testing::FindIconFixture {
+class FrmFindIconSelectionTest : public support::FindIconFixture {
  protected:
   void Open20() {
     Open();
@@ -41,7 +41,7 @@ class GrowingFile final : public IconSource {
 
   int CountIcons(const std::string& /*path*/) override { return asked_++ == 0 ? counted : listed; }
   std::unique_ptr<ExtractedIcon> Extract(const std::string& /*path*/, int /*index*/) override {
-    return std::make_unique<testing::SquareIcon>(0x0000FF);
+    return std::make_unique<support::SquareIcon>(0x0000FF);
   }
 
  private:
@@ -245,11 +245,11 @@ TEST_F(FrmFindIconSelectionTest, ShowsAndNumbersLabelsInAllFromTheStart) {
 TEST_F(FrmFindIconSelectionTest, RendersAnEntryIntoTheSurfaces) {
   Open20();
   EXPECT_TRUE(window->Captured().RenderEntry(4));
-  EXPECT_EQ(window->Captured().Surfaces().Composed().Pixel(31, 31), testing::SmallMachine::ColorOf(3));
+  EXPECT_EQ(window->Captured().Surfaces().Composed().Pixel(31, 31), support::SmallMachine::ColorOf(3));
   EXPECT_EQ(window->Captured().Surfaces().Mask().Pixel(0, 0), black);
   EXPECT_FALSE(window->Captured().RenderEntry(0));
   EXPECT_FALSE(window->Captured().RenderEntry(21));
-  EXPECT_EQ(window->Captured().Surfaces().Composed().Pixel(31, 31), testing::SmallMachine::ColorOf(3));
+  EXPECT_EQ(window->Captured().Surfaces().Composed().Pixel(31, 31), support::SmallMachine::ColorOf(3));
 }
 
 TEST_F(FrmFindIconSelectionTest, LeavesTheSurfacesClearedForAFileThatIsGone) {

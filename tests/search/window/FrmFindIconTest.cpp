@@ -16,7 +16,7 @@
 namespace tarvik {
 namespace {
 
-using testing::FindIconFixture;
+using support::FindIconFixture;
 
 class FrmFindIconTest : public FindIconFixture {
  protected:
@@ -196,7 +196,7 @@ TEST_F(FrmFindIconTest, MagnifiesEachSizeToTheSameSquare) {
     const Surface& magnified = window->Captured().PicMain();
     EXPECT_EQ(magnified.Width(), 385);
     EXPECT_EQ(magnified.Height(), 385);
-    EXPECT_EQ(magnified.Pixel(383, 383), testing::SmallMachine::ColorOf(1));
+    EXPECT_EQ(magnified.Pixel(383, 383), support::SmallMachine::ColorOf(1));
     EXPECT_EQ(magnified.Pixel(384, 384), white);
   }
 }
@@ -205,12 +205,12 @@ TEST_F(FrmFindIconTest, AppliesTheSizeChosenAfterASearchToClicksAndCapturesAtOnc
   Open();
   Find(20);
   ChooseSize(3);
-  EXPECT_EQ(GridPixel(3, 41), testing::SmallMachine::ColorOf(15)) << "the grid stays as it was drawn";
+  EXPECT_EQ(GridPixel(3, 41), support::SmallMachine::ColorOf(15)) << "the grid stays as it was drawn";
   ReleaseOnGrid(3 + 2 * 70, 10);
   EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 3 Selected.");
   EXPECT_TRUE(window->Captured().RenderEntry(3));
   ASSERT_EQ(window->Captured().Surfaces().Composed().Width(), 64);
-  EXPECT_EQ(window->Captured().Surfaces().Composed().Pixel(63, 63), testing::SmallMachine::ColorOf(2));
+  EXPECT_EQ(window->Captured().Surfaces().Composed().Pixel(63, 63), support::SmallMachine::ColorOf(2));
 }
 
 TEST_F(FrmFindIconTest, ListsWhatASearchFound) {
@@ -228,9 +228,9 @@ TEST_F(FrmFindIconTest, ListsWhatASearchFound) {
 TEST_F(FrmFindIconTest, DrawsTheSixteenthIconBelowTheFirst) {
   Open();
   Find(20);
-  EXPECT_EQ(GridPixel(3, 41), testing::SmallMachine::ColorOf(15));
+  EXPECT_EQ(GridPixel(3, 41), support::SmallMachine::ColorOf(15));
   EXPECT_EQ(GridPixel(2, 41), white);
-  EXPECT_EQ(GridPixel(34, 72), testing::SmallMachine::ColorOf(15));
+  EXPECT_EQ(GridPixel(34, 72), support::SmallMachine::ColorOf(15));
   EXPECT_EQ(GridPixel(35, 73), white);
 }
 

@@ -7,7 +7,7 @@
 namespace tarvik {
 namespace {
 
-using testing::ExpectRows;
+using support::ExpectRows;
 
 // The controls and the caption first, then each menu from the top.
 TEST(FindIconTexts, AreTheseInThreeLanguages) {

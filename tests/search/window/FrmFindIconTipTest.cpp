@@ -13,7 +13,7 @@
 namespace tarvik {
 namespace {
 
-class FrmFindIconTipTest : public testing::FindIconFixture {
+class FrmFindIconTipTest : public support::FindIconFixture {
  protected:
   // The control that tells of the grid, among the tips of the other controls.
   HWND TipOfGrid() const {

@@ -20,16 +20,16 @@
 namespace tarvik {
 namespace {
 
-using testing::Command;
-using testing::Holdings;
+using support::Command;
+using support::Holdings;
 
-class ManyRounds : public testing::FindIconFixture {
+class ManyRounds : public support::FindIconFixture {
  protected:
   void OpenOnFiles() {
     const std::array colors{Color{0x0000FF}, Color{0xFF0000}};
-    files_.MakeFile("a.ico", testing::IconFileOf(0xFF));
-    files_.MakeFile("b.ico", testing::IconFile(std::array{testing::PngPicture(32, 0xFF, 0xFF00)}));
-    files_.MakeFile("c.ani", testing::AnimationFile(colors));
+    files_.MakeFile("a.ico", support::IconFileOf(0xFF));
+    files_.MakeFile("b.ico", support::IconFile(std::array{support::PngPicture(32, 0xFF, 0xFF00)}));
+    files_.MakeFile("c.ani", support::AnimationFile(colors));
     files_.MakeFile("d.ico", "no icon");
     ini.values["FindIcon/Folder"] = files_.Path();
     OpenOver(icons_, folders_);
@@ -53,7 +53,7 @@ class ManyRounds : public testing::FindIconFixture {
   void SaveOne(int command, const std::string& name) {
     dialogs.path = saved_.In(name);
     Click(command);
-    EXPECT_FALSE(testing::ReadAll(dialogs.path).empty()) << name;
+    EXPECT_FALSE(support::ReadAll(dialogs.path).empty()) << name;
     DeleteFileW(ToWide(dialogs.path).c_str());
   }
   void SaveCursor() {
@@ -71,7 +71,7 @@ class ManyRounds : public testing::FindIconFixture {
   void SaveAll() {
     dialogs.folder = saved_.Path();
     for (const int command : {FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveAll2, FrmFindIcon_mnuSaveSel3}) Click(command);
-    EXPECT_FALSE(testing::ReadAll(saved_.In("Icon 4.ico")).empty());
+    EXPECT_FALSE(support::ReadAll(saved_.In("Icon 4.ico")).empty());
   }
 
   // Search, view, save and copy; of the saves with a dialog of their own, and all icons at once, one a round, in turn.
@@ -88,11 +88,11 @@ class ManyRounds : public testing::FindIconFixture {
   }
 
  private:
-  testing::TemporaryFolder files_;
-  testing::TemporaryFolder saved_;
+  support::TemporaryFolder files_;
+  support::TemporaryFolder saved_;
   ShellIcons icons_;
   Folders folders_;
-  testing::ModalDriver driver_;
+  support::ModalDriver driver_;
 };
 
 // What the system itself may keep of a round. One and the same program keeps less than 2 KB a round under Wine 8
@@ -109,9 +109,9 @@ TEST_F(ManyRounds, OfSearchViewSaveAndCopyLeaveNothingBehind) {
   constexpr int rounds = 1000;
   OpenOnFiles();
   for (int round = 0; round < warmUp && !HasFailure(); ++round) Round(round);
-  const Holdings before = testing::HeldBy(GetCurrentProcess());
+  const Holdings before = support::HeldBy(GetCurrentProcess());
   for (int round = 0; round < rounds && !HasFailure(); ++round) Round(round);
-  const Holdings after = testing::HeldBy(GetCurrentProcess());
+  const Holdings after = support::HeldBy(GetCurrentProcess());
   EXPECT_TRUE(boxes.Boxes().empty());
   EXPECT_EQ(after.gdiObjects, before.gdiObjects);
   EXPECT_EQ(after.kernelHandles, before.kernelHandles);

@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "export/TestRaster.h"
+#include "support/TestRaster.h"
 #include "view/EnhancedViewHost.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // A main window's list in memory: entry n comes from "C:\icons\n.dll" and has the index 10 x n.
 class FakeHost : public EnhancedViewHost {
@@ -45,4 +45,4 @@ class FakeHost : public EnhancedViewHost {
   TestRaster picIcon_{32, 32};
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

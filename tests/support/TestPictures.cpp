@@ -1,10 +1,10 @@
-#include "TestPictures.h"
+#include "support/TestPictures.h"
 
 #include <algorithm>
 #include <cmath>
 #include <random>
 
-namespace tarvik {
+namespace tarvik::support {
 namespace {
 
 Color ColorOf(double red, double green, double blue) {
@@ -58,4 +58,4 @@ TestRaster ManyColors(int size, int colors) {
   return picture;
 }
 
-}  // namespace tarvik
+}  // namespace tarvik::support

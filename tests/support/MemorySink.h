@@ -9,7 +9,7 @@
 
 #include "base/FileSink.h"
 
-namespace tarvik {
+namespace tarvik::support {
 
 // A file in memory. Fails at the step with the number `failingStep`, counted from 0, if there is one; `steps` lists
 // what was asked of it.
@@ -50,4 +50,4 @@ class MemorySink final : public FileSink {
   int failingStep_;
 };
 
-}  // namespace tarvik
+}  // namespace tarvik::support

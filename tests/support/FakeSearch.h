@@ -17,9 +17,7 @@
 #include "search/icons/IconSource.h"
 #include "support/Script.h"
 
-namespace tarvik {
-
-using support::Script;
+namespace tarvik::support {
 
 inline std::string ToText(Point point) {
   return "(" + std::to_string(point.x) + "," + std::to_string(point.y) + ")";
@@ -207,4 +205,4 @@ class FakeSearchWindow : public SearchWindow, public SearchFolders {
   int hourglasses_ = 0;
 };
 
-}  // namespace tarvik
+}  // namespace tarvik::support

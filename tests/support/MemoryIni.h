@@ -6,7 +6,7 @@
 #include "base/NonCopyable.h"
 #include "startup/Settings.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // A settings file in memory; keys are "Section/Key".
 class MemoryIni final : public IniStore, NonCopyable {
@@ -37,4 +37,4 @@ class MemoryIni final : public IniStore, NonCopyable {
   std::map<std::string, std::string>& values;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

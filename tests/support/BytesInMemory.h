@@ -11,7 +11,7 @@
 
 #include "base/ByteSource.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // A file's bytes, which count what is read.
 class BytesInMemory final : public ByteSource {
@@ -44,4 +44,4 @@ class BytesInMemory final : public ByteSource {
   Strictness strictness_;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -6,7 +6,7 @@
 
 #include "base/PixelView.h"
 
-namespace tarvik {
+namespace tarvik::support {
 
 // A picture in memory, made from a formula of (x, y) or filled pixel by pixel.
 class TestRaster final : public PixelView {
@@ -50,4 +50,4 @@ inline TestRaster RasterOf(int size, const std::vector<Color>& first, Color rest
   return raster;
 }
 
-}  // namespace tarvik
+}  // namespace tarvik::support

@@ -7,7 +7,7 @@
 
 #include "base/FileSink.h"
 
-namespace tarvik {
+namespace tarvik::support {
 
 // A file on the disk of the machine that the tests are built on.
 class FileOnDisk final : public FileSink {
@@ -29,4 +29,4 @@ class FileOnDisk final : public FileSink {
   std::ofstream file_;
 };
 
-}  // namespace tarvik
+}  // namespace tarvik::support

@@ -7,12 +7,10 @@
 #include <vector>
 
 #include "export/SaveCommands.h"
-#include "export/TestRaster.h"
 #include "support/Script.h"
+#include "support/TestRaster.h"
 
-namespace tarvik::testing {
-
-using support::Script;
+namespace tarvik::support {
 
 // A main window without a screen. Entry n renders as a 2 x 2 picture of colours of its own.
 class FakeSaveWindow final : public SaveWindow {
@@ -218,4 +216,4 @@ class FakeTemporaryPicture final : public TemporaryPicture {
   Script& script_;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -7,7 +7,7 @@
 #include "platform/DiskFile.h"
 #include "search/window/ExportDialogs.h"
 
-namespace tarvik::testing {
+namespace tarvik::support {
 
 // The real dialogs of the save commands, but for the two that ask for a place on the disk: those are answered by the
 // test at once.
@@ -44,4 +44,4 @@ class AnsweredDialogs final : public SaveDialogs {
   ExportDialogs real_;
 };
 
-}  // namespace tarvik::testing
+}  // namespace tarvik::support

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "export/TestRaster.h"
+#include "support/TestRaster.h"
 
-namespace tarvik {
+namespace tarvik::support {
 
 // Red across, green down, blue along the diagonal: no two neighbours alike.
 TestRaster Gradient(int size);
@@ -16,4 +16,4 @@ TestRaster Photo(int size, std::uint32_t seed);
 // of a step that keeps them apart.
 TestRaster ManyColors(int size, int colors);
 
-}  // namespace tarvik
+}  // namespace tarvik::support
