@@ -11,7 +11,7 @@
 namespace tarvik {
 namespace {
 
-using testing::FindIconFixture;
+using support::FindIconFixture;
 
 class FolderListsTest : public FindIconFixture {
  protected:

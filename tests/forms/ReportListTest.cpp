@@ -15,7 +15,7 @@ namespace {
 
 constexpr int path = 1;  // the column
 
-class ReportListTest : public testing::FindIconFixture {
+class ReportListTest : public support::FindIconFixture {
  protected:
   ReportListTest() {
     ini.values["FindIcon/Folder"] = folder_;

@@ -14,7 +14,7 @@
 namespace tarvik {
 namespace {
 
-using testing::FindIconFixture;
+using support::FindIconFixture;
 using Bounds = std::map<int, RECT>;  // of the visible controls, by their ids
 
 class FindIconLayoutTest : public FindIconFixture {
@@ -94,7 +94,7 @@ TEST_F(FindIconLayoutTest, GivesTheListsOfFoldersAndFilesTheRoomOfALargerWindow)
       200, 0);
   ExpectMoved(before, after, {FrmFindIcon_OptView0, FrmFindIcon_OptView1, FrmFindIcon_Vsb}, 200, 120);
   ExpectMoved(before, after, {FrmFindIcon_lblInfo}, 0, 120);
-  EXPECT_EQ(testing::OverlappingControls(window->Window()), std::vector<std::string>{});
+  EXPECT_EQ(support::OverlappingControls(window->Window()), std::vector<std::string>{});
 }
 
 TEST_F(FindIconLayoutTest, KeepsTheGridsHeightAndPicture) {
@@ -125,10 +125,10 @@ TEST_F(FindIconLayoutTest, SharesTheHeightBetweenTheIconListAndTheListsAbove) {
   EXPECT_EQ(WidthOf(larger), WidthOf(list) + 300);
   EXPECT_EQ(HeightOf(larger), HeightOf(list) + 125);
   EXPECT_EQ(HeightOf(PlaceOf(FrmFindIcon_Dir1)), HeightOf(folders) + 125);
-  EXPECT_EQ(testing::OverlappingControls(window->Window()), std::vector<std::string>{});
+  EXPECT_EQ(support::OverlappingControls(window->Window()), std::vector<std::string>{});
   Click(FrmFindIcon_OptView0);
   EXPECT_EQ(HeightOf(PlaceOf(FrmFindIcon_Dir1)), HeightOf(folders) + 250) << "the grid takes none of it";
-  EXPECT_EQ(testing::OverlappingControls(window->Window()), std::vector<std::string>{});
+  EXPECT_EQ(support::OverlappingControls(window->Window()), std::vector<std::string>{});
 }
 
 TEST_F(FindIconLayoutTest, IsAsItWasWhenTheWindowIsAsItWas) {
@@ -174,7 +174,7 @@ TEST_F(FindIconLayoutTest, FillsAMaximisedWindowAndSurvivesAMinimisedOne) {
   EXPECT_LE(bar.right, inside.right);
   EXPECT_EQ(status.bottom, inside.bottom);
   EXPECT_GE(bar.bottom, status.top - 40);
-  EXPECT_EQ(testing::OverlappingControls(window->Window()), std::vector<std::string>{});
+  EXPECT_EQ(support::OverlappingControls(window->Window()), std::vector<std::string>{});
   ShowWindow(window->Window(), SW_MINIMIZE);
   application.DoEvents();
   ShowWindow(window->Window(), SW_RESTORE);

@@ -16,8 +16,8 @@
 namespace tarvik {
 namespace {
 
-using testing::FindIconFixture;
-using testing::SmallMachine;
+using support::FindIconFixture;
+using support::SmallMachine;
 
 constexpr int pitch = 38;  // of icons of 32 pixels
 

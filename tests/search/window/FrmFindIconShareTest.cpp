@@ -21,7 +21,7 @@ using ::testing::Not;
 constexpr const char* share = "\\\\server\\share";
 constexpr const char* folder = "\\\\server\\share\\icons";
 
-class FrmFindIconShareTest : public testing::FindIconFixture {
+class FrmFindIconShareTest : public support::FindIconFixture {
  protected:
   FrmFindIconShareTest() {
     ini.values["FindIcon/Folder"] = folder;
