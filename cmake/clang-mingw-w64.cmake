@@ -10,6 +10,9 @@ execute_process(COMMAND ${gcc_cxx} -print-file-name=include OUTPUT_VARIABLE gcc_
 cmake_path(GET gcc_include PARENT_PATH gcc_folder)
 set(CMAKE_CXX_FLAGS_INIT "-nostdinc++ -nostdlibinc -isystem ${gcc_include}/c++ \
 -isystem ${gcc_include}/c++/x86_64-w64-mingw32 -isystem ${gcc_include}/c++/backward -isystem /usr/x86_64-w64-mingw32/include")
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-B${gcc_folder} -L${gcc_folder} -L/usr/x86_64-w64-mingw32/lib")
-# libstdc++ takes its threads from the last one, and clang adds only the first ones by itself.
-set(CMAKE_CXX_STANDARD_LIBRARIES_INIT "-lstdc++ -lgcc_eh -lpthread")
+# Without optimization clang puts a comparison of libstdc++'s header into objects, which libstdc++ has too.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-B${gcc_folder} -L${gcc_folder} -L/usr/x86_64-w64-mingw32/lib \
+-Wl,--allow-multiple-definition -Wno-unused-command-line-argument")
+# libstdc++ takes its threads from libpthread, and clang adds libstdc++ alone, behind everything else.
+set(CMAKE_CXX_STANDARD_LIBRARIES "-lstdc++ -lgcc_eh -lpthread -lkernel32 -luser32 -lgdi32 -lshell32 -lole32 -luuid -ladvapi32"
+  CACHE STRING "What every program is linked with")

@@ -17,25 +17,25 @@ constexpr float largest = std::numeric_limits<float>::max();
 
 class ViewSizeTest : public ::testing::Test {
  protected:
-  support::MemoryIni store;
-  Settings settings{store, "C:\\program\\tarvik.exe"};
+  support::MemoryIni store_;
+  Settings settings_{store_, "C:\\program\\tarvik.exe"};
 };
 
 TEST_F(ViewSizeTest, IsTheDesignedOneWhereNoneIsStored) {
-  EXPECT_EQ(ReadViewSize(settings), (ViewSize{5310, 6645}));
+  EXPECT_EQ(ReadViewSize(settings_), (ViewSize{5310, 6645}));
 }
 
 TEST_F(ViewSizeTest, ComesBackAsItWasKept) {
   for (const ViewSize size : {ViewSize{5310, 6645}, ViewSize{4507.5F, 1.0F / 3}, ViewSize{0, 123456.7F}}) {
-    WriteViewSize(settings, size);
-    EXPECT_EQ(ReadViewSize(settings), size);
+    WriteViewSize(settings_, size);
+    EXPECT_EQ(ReadViewSize(settings_), size);
   }
 }
 
 TEST_F(ViewSizeTest, IsStoredAsDecimalTextWithAPoint) {
-  WriteViewSize(settings, {6000, 7507.5F});
-  EXPECT_EQ(store.values.at("Bitmapview/Height"), "6000");
-  EXPECT_EQ(store.values.at("Bitmapview/Width"), "7507.5");
+  WriteViewSize(settings_, {6000, 7507.5F});
+  EXPECT_EQ(store_.values.at("Bitmapview/Height"), "6000");
+  EXPECT_EQ(store_.values.at("Bitmapview/Width"), "7507.5");
 }
 
 // The library's own shortest text is the measure.
@@ -44,8 +44,8 @@ TEST_F(ViewSizeTest, IsStoredWithAsFewDecimalsAsItNeeds) {
                            std::numeric_limits<float>::denorm_min(), largest, -largest, -0.25F}) {
     std::array<char, 256> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), side, std::chars_format::fixed).ptr;
-    WriteViewSize(settings, {side, 0});
-    EXPECT_EQ(store.values.at("Bitmapview/Height"), std::string(digits.data(), end));
+    WriteViewSize(settings_, {side, 0});
+    EXPECT_EQ(store_.values.at("Bitmapview/Height"), std::string(digits.data(), end));
   }
 }
 
