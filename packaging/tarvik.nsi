@@ -75,9 +75,9 @@ VIAddVersionKey /LANG=1033 LegalCopyright "Copyright 2026 The Brindle Tarvik dev
 !insertmacro MUI_LANGUAGE SimpChinese
 !insertmacro MUI_LANGUAGE TradChinese
 
-; By the names that every Windows knows these fonts by.
-SetFont /LANG=${LANG_SIMPCHINESE} "SimSun" 9
-SetFont /LANG=${LANG_TRADCHINESE} "PMingLiU" 9
+; The system's own font for dialogs has Chinese and Latin letters wherever the installer runs.
+SetFont /LANG=${LANG_SIMPCHINESE} "MS Shell Dlg" 9
+SetFont /LANG=${LANG_TRADCHINESE} "MS Shell Dlg" 9
 
 LangString RightsFailed ${LANG_ENGLISH} "Users could not be given the right to keep their settings. The program still runs."
 LangString RightsFailed ${LANG_SIMPCHINESE} "无法授予用户保存设置的权限。程序仍可运行。"

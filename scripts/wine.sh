@@ -21,7 +21,6 @@ REGEDIT4
 
 [HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]
 "SimSun"="Droid Sans Fallback"
-"PMingLiU"="Droid Sans Fallback"
 
 [HKEY_LOCAL_MACHINE\Software\Microsoft\Windows NT\CurrentVersion\FontLink\SystemLink]
 "Tahoma Bold"=hex(7):44,72,6f,69,64,53,61,6e,73,46,61,6c,6c,62,61,63,6b,46,75,\
