@@ -33,7 +33,8 @@ class FindIconLayoutTest : public FindIconFixture {
     return {place.right - place.left, place.bottom - place.top};
   }
   void Resize(SIZE size) {
-    SetWindowPos(window->Window(), nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+    // In the screen's corner, so that all of it is on the screen.
+    SetWindowPos(window->Window(), nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER);
     application.DoEvents();
   }
   void Enlarge(int width, int height) {
