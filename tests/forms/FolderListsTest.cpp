@@ -89,6 +89,7 @@ TEST_F(FolderListsTest, ShowTheEndOfAFoldersNameWhenScrolledToIt) {
   Open();
   SendMessageW(Item(FrmFindIcon_Dir1), WM_HSCROLL, SB_RIGHT, 0);
   application.DoEvents();
+  ASSERT_GT(ScrolledRight(FrmFindIcon_Dir1), 0);
   RECT row{};
   SendMessageW(Item(FrmFindIcon_Dir1), LB_GETITEMRECT, 2, reinterpret_cast<LPARAM>(&row));
   const int middle = (row.top + row.bottom) / 2;
