@@ -69,7 +69,7 @@ std::string AbsoluteFolderPath(std::string_view path, const std::string& base) {
 
 // "\\?\C:\a" is a longer form of a path with a drive.
 bool IsOnOtherComputer(std::string_view path) {
-  constexpr std::string_view longForm = "\\\\?\\";
+  constexpr std::string_view longForm = R"(\\?\)";
   return IsNetworkPath(path) && !(path.starts_with(longForm) && HasDrive(path.substr(longForm.size())));
 }
 

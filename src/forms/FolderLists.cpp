@@ -73,7 +73,8 @@ class RowWidths {
   void Apply() const {
     const int margin = GetSystemMetrics(SM_CXEDGE) * 2;  // so that the last letter does not touch the edge
     Send(list_, WM_HSCROLL, SB_LEFT);
-    Send(list_, LB_SETHORIZONTALEXTENT, static_cast<std::size_t>(widest_ + margin));
+    const int extent = widest_ + margin;
+    Send(list_, LB_SETHORIZONTALEXTENT, static_cast<std::size_t>(extent));
   }
 
  private:

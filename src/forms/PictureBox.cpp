@@ -5,6 +5,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <memory>
 #include <new>
 #include <optional>
 #include <utility>
@@ -200,9 +201,9 @@ RECT PictureBox::PlaceInWindow(HWND window, const RECT& part) {
 
 LRESULT CALLBACK PictureBox::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_NCCREATE) {
-    auto* const box = new (std::nothrow) Box;
-    if (box == nullptr) return FALSE;
-    SetWindowLongPtrW(window, 0, reinterpret_cast<LONG_PTR>(box));
+    std::unique_ptr<Box> box(new (std::nothrow) Box);
+    if (!box) return FALSE;
+    SetWindowLongPtrW(window, 0, reinterpret_cast<LONG_PTR>(box.release()));
   }
   if (message == WM_NCDESTROY) {
     delete BoxOf(window);

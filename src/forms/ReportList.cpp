@@ -71,7 +71,7 @@ std::string ReportList::CutTextAt(POINT pointer) const {
 
 int ReportList::TextWidth(int row, const std::string& text) const {
   const WindowDc dc(window_);
-  const HGDIOBJ plain = reinterpret_cast<HGDIOBJ>(SendMessageW(window_, WM_GETFONT, 0, 0));
+  auto* const plain = reinterpret_cast<HGDIOBJ>(SendMessageW(window_, WM_GETFONT, 0, 0));
   const SelectedObject font(dc.get(), lookOf(row).bold ? bold_.get() : plain);
   const std::wstring wide = ToWide(text);
   SIZE size{};

@@ -129,7 +129,7 @@ FolderWalk SearchDriver::WalkOverScope() {
 
 // With sub-folders a pass moves Dir1, which is put back at the end of what this returns.
 Finally SearchDriver::KeepDir1() {
-  if (!window_.chkSubDir()) return Finally();
+  if (!window_.chkSubDir()) return {};
   state_.SavedDirPath = folders_.Dir1Path();
   return Finally([this] { folders_.SetDir1Path(std::exchange(state_.SavedDirPath, {})); });
 }

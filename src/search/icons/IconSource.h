@@ -55,7 +55,7 @@ class IconSource {
 
   // Until the end of what this returns, the icons of a file are mostly asked for one after the other: a search, a
   // batch. A source may then take more of them than are asked for yet.
-  virtual Finally InTurn() { return Finally(); }
+  virtual Finally InTurn() { return {}; }
   // Files can change from here on, because messages are served or a box is shown: what was taken but not yet asked for
   // is dropped.
   virtual void LetGo() {}
