@@ -1,5 +1,5 @@
-// Every letter that the main window underlines, pressed with Alt: the menu of that letter opens; where no menu has it,
-// or it is disabled, the control of that letter is used.
+// Every letter that the main window underlines, pressed with Alt: the menu of that letter opens. If no menu has the
+// letter, or that menu is disabled, the control of that letter is used.
 
 #include <windows.h>
 
@@ -30,7 +30,7 @@ struct Row {
   }
 };
 
-// The letter behind a "&", in upper case.
+// The letter after a "&", in upper case.
 std::optional<wchar_t> LetterOf(const std::string& text) {
   const std::wstring wide = ToWide(text);
   const auto mark = wide.find(L'&');
@@ -61,7 +61,7 @@ class AccessKeys : public EndToEnd, public ::testing::WithParamInterface<Row> {
 
   Letters Underlined() const {
     Letters letters;
-    // Another process cannot read a menu, so its letters stand here.
+    // A menu of another process cannot be read, so its letters are listed here.
     const std::wstring_view language = ToWide(GetParam().language) == L"CHS" || ToWide(GetParam().language) == L"CHT"
                                            ? std::wstring_view(L"FEPVH")
                                            : std::wstring_view(L"FEOVH");
@@ -86,9 +86,9 @@ class AccessKeys : public EndToEnd, public ::testing::WithParamInterface<Row> {
     ASSERT_TRUE(Eventually([&] { return !program_.OpenMenu(); }));
   }
 
-  std::map<int, LONG> lefts_;  // where each menu opened on the screen, by its place in the bar
+  std::map<int, LONG> lefts_;  // the left edge on the screen of each opened menu, by its place in the bar
 
-  // What a control's letter does: the label's goes to its box, and each button's presses that.
+  // What a control's letter does: a label's moves the focus to its box, a button's presses the button.
   void ExpectUse(int control) {
     if (control == FrmFindIcon_SkinLabel1) {
       EXPECT_TRUE(Eventually([&] { return GetDlgCtrlID(program_.Focus().Window()) == FrmFindIcon_txtMax; }));

@@ -1,4 +1,4 @@
-// While a search runs.
+// Input that arrives while a search runs.
 
 #include <gmock/gmock.h>
 
@@ -15,7 +15,7 @@ class Busy : public EndToEnd {
  protected:
   static constexpr int folders = 60;
 
-  // A tree that makes a search serve the waiting messages many times.
+  // A tree of folders in which a search processes the waiting messages many times.
   void StartOnManyFolders() {
     for (int i = 0; i < folders; ++i) {
       const std::string folder = "folder" + std::to_string(100 + i);
@@ -26,7 +26,7 @@ class Busy : public EndToEnd {
   }
 
   void ExpectTheSearchWentOn() {
-    // A close that was only put off would come before this answer.
+    // If the close had only been delayed, it would be done before this answer.
     ASSERT_TRUE(program_.IsRunning());
     EXPECT_EQ(List().RowCount(), folders);
     EXPECT_EQ(Status(), std::to_string(folders) + " Icons Added. Double click an icon for enhanced view.");
@@ -47,7 +47,7 @@ TEST_F(Busy, TheWindowDoesNotCloseByItsSystemMenu) {
 
 TEST_F(Busy, TheWindowDoesNotCloseByAltF4) {
   StartOnManyFolders();
-  // A drop-down list would keep the keys to itself.
+  // An open drop-down list would receive the keys.
   Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
   BehindFind([&] { PressKey(VK_F4, {VK_MENU}); });
   ExpectTheSearchWentOn();
@@ -62,9 +62,10 @@ TEST_F(Busy, TheWindowDoesNotCloseByItsCloseBox) {
                        window.top + GetSystemMetrics(SM_CYFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2};
   BehindFind([&] { Click(closeBox); });
   ExpectTheSearchWentOn();
-  // The program saw that click only when it went on; a click elsewhere keeps the next from being its second half.
+  // The program handles that click only after the search. A click elsewhere keeps the next one from being taken for the
+  // second half of a double click.
   Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
-  // The same place closes the window once the search is over, so that was the box.
+  // After the search the same place closes the window, so it was the close box.
   Click(closeBox);
   EXPECT_EQ(program_.WaitForEnd(), 0U);
 }

@@ -17,7 +17,7 @@ using ::testing::ElementsAre;
 
 class Copy : public Saving {
  protected:
-  // What another program pastes, as the pixels of a composed icon.
+  // The picture on the clipboard, read as another program pastes it: the pixels of a composed icon.
   static Pixels Pasted() {
     Pixels pixels;
     for (const Color color : Paste().pixels) pixels.push_back(0xFF000000U | color);
@@ -39,7 +39,8 @@ TEST_F(Copy, AnotherProgramPastesTheClickedIcon) {
   }
 }
 
-// Its lower half is transparent and not black in the image: such pixels invert what they lie over, which is white.
+// The lower half of this icon is transparent but not black in its image. Such pixels invert the background, which is
+// white.
 TEST_F(Copy, PixelsThatInvertDoSoAtEverySize) {
   constexpr int side = 32;
   constexpr Color left = 0x20C040;
@@ -79,7 +80,7 @@ TEST_F(Copy, WhatIsCopiedOutlivesTheProgram) {
 TEST_F(Copy, AHeldClipboardIsToldAndServesLater) {
   FindPictures();
   EmptyTheClipboard();
-  // Whoever opened it for a window has it to themselves.
+  // While a window has the clipboard open, no other window can open it.
   const HWND holder = CreateWindowW(L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
   Names messages;
   {

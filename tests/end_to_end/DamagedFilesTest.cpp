@@ -1,4 +1,4 @@
-// Fifteen thousand files that are not what they say.
+// Fifteen thousand files whose content does not match their headers or types.
 
 #include <windows.h>
 
@@ -47,8 +47,8 @@ class DamagedFiles : public EndToEnd {
                            reinterpret_cast<LPARAM>(folders.Window()));
   }
 
-  // Searches one of the folders; the paths that are listed, sorted, one for each icon. A message box would be waited
-  // for in vain and fail the test, which then says what stands in it.
+  // Searches one of the folders. Returns the listed paths, sorted, one for each icon. If a message box appears, the
+  // wait times out and the test fails with the text of the box.
   Paths Search(const DamagedFolder& folder) const {
     OpenFolder(FolderName(folder.path));
     Find();
@@ -58,8 +58,8 @@ class DamagedFiles : public EndToEnd {
     return paths;
   }
 
-  // Searches one of the folders and checks what is found: each intact file's one icon, and none of a file that breaks
-  // the system when its icons are counted. How many files break the system.
+  // Searches one of the folders and checks the result: each intact file's one icon, and no icon of a file that makes
+  // the system fault when its icons are counted. Returns how many files make the system fault.
   int CheckSearch(const DamagedFolder& folder) const {
     SCOPED_TRACE(folder.kind + ", " + folder.damage);
     const Paths found = Search(folder);
@@ -97,13 +97,13 @@ TEST_F(DamagedFiles, AreSearchedWithoutACrashAMessageOrGrowthAndTheIntactOnesAmo
   EXPECT_GE(files, 10000);
   const Holdings after = support::HeldBy(program_.Process());
   std::printf("%d damaged files; %d of them break the system\n", files, breaking);
-  // What the system held when it faulted stays: a bitmap here, a few pages of a file there.
+  // What the system held when it faulted leaks: now and then a bitmap, or a few pages of a file.
   EXPECT_LT(after.gdiObjects - before.gdiObjects, files / 20);
   EXPECT_LT(after.kernelHandles - before.kernelHandles, files / 1000);
   EXPECT_LT((after.bytes - before.bytes) / files, 8 * 1024) << "not 8 KB a file";
 }
 
-// The program reads 16-bit modules itself where the shell finds no icon in them, as on today's Windows.
+// The program reads 16-bit modules itself if the shell finds no icon in them, as on current Windows.
 TEST_F(DamagedFiles, AreReadAsModulesWithoutACrashAMessageOrGrowthAndTheIntactOnesAmongThemFound) {
   const std::vector<DamagedFolder> folders = support::MakeDamagedModules(tree_);
   TakeTodaysShell(program_);

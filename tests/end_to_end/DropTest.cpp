@@ -18,7 +18,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-// A share of this machine: Wine looks for it in a folder of its own.
+// A network share of this machine. Wine looks for it in a folder of its own.
 class Share {
  public:
   explicit Share(const std::string& folder) {
@@ -38,8 +38,8 @@ class Share {
 
 class Drop : public EndToEnd {
  protected:
-  // Drops these on the main window. The message names memory of the process that gets it; Windows puts it there itself,
-  // Wine leaves that to the sender.
+  // Drops these on the main window. The message refers to memory of the receiving process. Windows copies the data
+  // there itself; under Wine the sender has to.
   void DropOnWindow(const std::vector<std::string>& paths) const {
     const std::vector<std::byte> block = support::DroppedBlock(paths);
     void* memory = VirtualAllocEx(program_.Process(), nullptr, block.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);

@@ -57,7 +57,7 @@ void EndToEnd::Tick(std::initializer_list<FileType> types) const {
     if (box.IsChecked() != ticked) box.Send(BM_CLICK);
   };
   const auto wanted = [types](int type) { return std::ranges::find(types, type) != types.end(); };
-  // The box for all files first: while it is ticked it ticks the others.
+  // The box for all files comes first: while it is ticked it ticks the others.
   for (int type = fileTypeCount - 1; type >= 0; --type) set(type, wanted(type));
 }
 
@@ -124,7 +124,7 @@ void DrawEntry(const Surface& picture, const Entry& entry, POINT corner, int siz
   const bool animated = entry.path.ends_with(".ani");
   HICON icon = nullptr;
   if (animated) {
-    // The shell does not extract animations everywhere; loading takes the same file at the same size.
+    // The shell does not extract animations on every system; loading the file at that size gives the same picture.
     icon = static_cast<HICON>(LoadImageA(nullptr, entry.path.c_str(), IMAGE_CURSOR, GetSystemMetrics(SM_CXICON),
                                          GetSystemMetrics(SM_CYICON), LR_LOADFROMFILE));
   } else {

@@ -1,5 +1,5 @@
-// How the program ends while a window of its own, a system's dialog or a message stands over the main one, or while it
-// searches: by a request to close the main window, and with the session.
+// How the program ends while another window of its own, a system dialog or a message is open over the main window, or
+// while it searches: by a request to close the main window, and by the end of the session.
 
 #include <windows.h>
 
@@ -30,7 +30,7 @@ class Ending : public Saving {
     Start();
     FindAll();
   }
-  // The visible windows of the process, as the system asks them.
+  // The visible windows of the process, in the order in which the system queries them.
   std::vector<HWND> Windows() const {
     struct Search {
       DWORD process;
@@ -70,10 +70,10 @@ class Ending : public Saving {
   }
 };
 
-// What stands over the main window is named by the parameter.
+// The parameter names what is open over the main window.
 class EndingOver : public Ending, public ::testing::WithParamInterface<std::string> {
  protected:
-  // Opens what the test is about; whether the main window may be closed under it.
+  // Opens it. Returns whether the main window may be closed meanwhile.
   bool OpenIt() {
     const std::string& name = GetParam();
     if (name == "AboutBox") {
@@ -103,7 +103,7 @@ class EndingOver : public Ending, public ::testing::WithParamInterface<std::stri
   }
 
  private:
-  // What a command opens that goes on when it is closed.
+  // Opens what a command opens; the command goes on when that is closed.
   void OpenOfCommand(const std::string& name) {
     if (name == "NoIcons") {
       program_.Item(FrmFindIcon_ChkFileType0).Send(BM_CLICK);
@@ -145,7 +145,7 @@ class EndingOver : public Ending, public ::testing::WithParamInterface<std::stri
 TEST_P(EndingOver, TheMainWindowClosesWithTheProcessOrStaysWithWhatIsOverIt) {
   for (const Way way : closing) {
     StartAndFind();
-    // The system takes no command of the window's menu while the window is disabled.
+    // The system accepts no command from the window menu while the window is disabled.
     const bool closes = OpenIt() && way == Way::Close;
     const std::size_t windows = Windows().size();
     Ask(way);
@@ -191,7 +191,7 @@ TEST_F(EndingAtWork, ASearchEndsWithTheSessionWithoutAMessageAndTheFirstFolderIs
   ASSERT_TRUE(Eventually([&] { return !IsEnabled(FrmFindIcon_CmdClose); }));
   program_.Suspend();
   const bool running = !IsEnabled(FrmFindIcon_CmdFind);
-  // Posted, so that they are served in the middle of the search.
+  // Posted, so that they are processed in the middle of the search.
   program_.Window().Post(WM_QUERYENDSESSION);
   program_.Window().Post(WM_ENDSESSION, TRUE);
   program_.Resume();

@@ -91,8 +91,8 @@ TEST_P(EnhancedViewPictureAtSize, MakesEveryPixelASquare) {
   FindPictures(GetParam().choice);
   const std::vector<Entry> entries = Entries();
   const EnhancedView view = OpenOn(1);
-  // As large as the screen, but not maximised: Wine 10 shows such a window as much further right and down than it says
-  // as its frame is wide.
+  // As large as the screen, but not maximised: Wine 10 shows such a window further right and down than its reported
+  // position, by the width of its frame.
   const SIZE screen{GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
   SetWindowPos(view.Window().Window(), nullptr, 0, 0, screen.cx, screen.cy, SWP_NOZORDER);
   ExpectPicture(view, entries[0], GetParam().size, openingZoom);
@@ -111,7 +111,7 @@ TEST_F(EnhancedViewPicture, IsTheSameAfterTheWindowWasCoveredOrMinimised) {
   FindPictures();
   const EnhancedView view = OpenOn(3);
   const Entry entry = Entries()[2];
-  // What the icon came from may be gone by then.
+  // The icon's file may be deleted by then.
   ASSERT_TRUE(std::filesystem::remove(ToWide(entry.path))) << entry.path;
   Program other(home_.Path(), "other.exe");
   other.Start();

@@ -14,19 +14,19 @@ namespace {
 using std::chrono::milliseconds;
 using Clock = std::chrono::steady_clock;
 
-// By how much two clocks of the machine may disagree about the same time.
+// How far apart two clocks of the machine may read the same moment.
 constexpr milliseconds clockStep{60};
 
 class EnhancedViewShow : public ViewByHand {
  protected:
-  // Waits until the status shows another entry; when that was.
+  // Waits until the status shows another entry. Returns when that was.
   static Clock::time_point WaitForStep(const EnhancedView& view) {
     const std::string before = view.Status();
     EXPECT_TRUE(Eventually([&] { return view.Status() != before; })) << "the show stands";
     return Clock::now();
   }
-  // Waits for two steps with less than that time between them; how many were waited for in all. What else the machine
-  // does can only lengthen the time between some.
+  // Waits for two steps less than `limit` apart. Returns how many steps it waited for in all. Load on the machine can
+  // only lengthen the time between steps.
   static int WaitForStepWithin(const EnhancedView& view, milliseconds limit) {
     constexpr int most = 20;
     auto former = WaitForStep(view);
@@ -52,7 +52,7 @@ TEST_F(EnhancedViewShow, KeepsToTheClockAtEverySpeed) {
   const int steps = WaitForStepWithin(view, milliseconds(2900));
   EXPECT_GE(Clock::now() - from, steps * milliseconds(2000) - clockStep);
 
-  // During the show, by its key: a second, and no less.
+  // Its key changes the interval during the show: a second, not less.
   from = Clock::now();
   PressKey(VK_OEM_PLUS, {}, 5);
   const int quickSteps = WaitForStepWithin(view, milliseconds(1900));
@@ -138,7 +138,7 @@ class EnhancedViewSize : public ViewByHand {
     const RECT place = view.Window().Place();
     return {place.right - place.left, place.bottom - place.top};
   }
-  // Whether all of the view can be seen, and all of its buttons, list and status bar in it.
+  // Checks that the whole view is on the screen, with all of its buttons, its list and its status bar.
   static void ExpectUsable(const EnhancedView& view, const std::string& what) {
     const RECT place = view.Window().Place();
     EXPECT_GE(place.left, 0) << what;
@@ -157,7 +157,7 @@ TEST_F(EnhancedViewSize, IsKeptOverARestart) {
   const EnhancedView view = OpenOn(1);
   EXPECT_EQ(SizeOf(view).cx, 443);
   EXPECT_EQ(SizeOf(view).cy, 354);
-  // By its corner, as a user makes it larger.
+  // Dragged by its corner, as a user enlarges it.
   const RECT place = view.Window().Place();
   ASSERT_TRUE(Eventually([&] {
     Drag({place.right - 2, place.bottom - 2}, {place.right + 98, place.bottom + 48});
@@ -230,7 +230,7 @@ TEST_F(EnhancedViewSize, FollowsWhatIsStoredWithinTheSystemsOwnLimits) {
     EXPECT_EQ(SizeOf(view).cy, row.height) << row.text;
     view.Close();
   }
-  // The number that a text begins with counts: 611 and 507 pixels here.
+  // Only the number at the start of a text counts: 611 and 507 pixels here.
   WriteViewSize("7605.9,5", "9165 twips");
   const EnhancedView view = OpenOn(1);
   EXPECT_EQ(SizeOf(view).cx, 611);

@@ -43,10 +43,11 @@ TEST_F(EnhancedViewOpens, OnADoubleClickOnARowOfTheList) {
   ExpectCurrent(3);
 }
 
-// The second release of the double click, which follows the opening of the view, once counted as one more click.
+// The double click opens the view on its second press. The release that follows was once counted as one more click.
 class SecondRelease : public ViewByHand {
  protected:
-  // Double-clicks an entry, counted from 0, until the view opens, from the first icon alone as the selection each time.
+  // Double-clicks an entry, counted from 0, until the view opens. Each attempt starts with only the first icon
+  // selected.
   EnhancedView Open(const std::function<void()>& doubleClick) const {
     EXPECT_TRUE(Eventually([&] {
       ClickCell(0);
@@ -147,7 +148,7 @@ class EnhancedViewToolbar : public ViewByHand {};
 TEST_F(EnhancedViewToolbar, WorksUnderTheMouse) {
   FindFiles(5);
   const EnhancedView view = OpenOn(3);
-  view.Press(frmBit_tlb_control_Slower, 60);  // so that no tick of its own comes in between
+  view.Press(frmBit_tlb_control_Slower, 60);  // so that the timer does not tick in between
   const auto clickShows = [&](int button, int number) {
     ClickUntil(view, button, [&] { return view.Status() == Source(number); });
   };
@@ -183,8 +184,8 @@ TEST_F(EnhancedViewToolbar, StopsTheShowWithEachStep) {
 
 class EnhancedViewKeys : public ViewByHand {
  protected:
-  // Has the program be done with every key pressed so far: one more has an effect that shows. The zoom list has the
-  // focus, and its arrow keys change the factor.
+  // Waits until the program has processed every key pressed so far: one more key has a visible effect. The zoom list
+  // has the focus, and its arrow keys change the factor.
   static void WaitForKeys(const EnhancedView& view) {
     view.ChooseFactor(1);
     PressKey(VK_DOWN);
@@ -233,7 +234,7 @@ TEST_F(EnhancedViewKeys, StepWhileTheZoomListIsDown) {
 TEST_F(EnhancedViewKeys, StopTheShowWhereTheyStepAndLeaveItWhereTheyChangeItsSpeed) {
   FindFiles(5);
   const EnhancedView view = OpenOn(1);
-  view.Press(frmBit_tlb_control_Slower, 60);  // so that no tick of its own comes in between
+  view.Press(frmBit_tlb_control_Slower, 60);  // so that the timer does not tick in between
   for (const WORD key : {WORD{VK_OEM_PLUS}, WORD{VK_OEM_MINUS}}) {
     view.Press(frmBit_tlb_control_Start);
     PressKey(key);
@@ -261,7 +262,7 @@ TEST_F(EnhancedViewKeys, StopTheShowWhereTheyStepAndLeaveItWhereTheyChangeItsSpe
 TEST_F(EnhancedViewKeys, DoNothingWhereTheyAreNotTheViews) {
   FindFiles(5);
   const EnhancedView view = OpenOn(2);
-  view.Press(frmBit_tlb_control_Slower, 60);  // so that no tick of its own comes in between
+  view.Press(frmBit_tlb_control_Slower, 60);  // so that the timer does not tick in between
   view.Press(frmBit_tlb_control_Start);
   for (const WORD key : {WORD{'A'}, WORD{'5'}, WORD{VK_ESCAPE}, WORD{VK_RETURN}, WORD{VK_TAB}, WORD{VK_LEFT},
                          WORD{VK_HOME}, WORD{VK_DELETE}, WORD{VK_F2}, WORD{VK_F5}, WORD{VK_INSERT}, WORD{VK_TAB}})
@@ -289,8 +290,8 @@ TEST_F(EnhancedViewKeys, CloseItWithAltAndF4WhateverHasTheFocus) {
   EXPECT_TRUE(Eventually([&] { return !view.IsOpen(); }, shortly));
 }
 
-// So many entries, the one that the view is opened on, and where each command of a row of them leads. 0 stands for a
-// number that is none of the list's: the status is empty, and the picture stays.
+// A number of entries, the one that the view is opened on, and the entry that each command of a series leads to. 0
+// means a number outside the list: the status is empty, and the picture stays.
 struct StepsRow {
   const char* name;
   int entries;

@@ -1,4 +1,4 @@
-// What goes wrong around the program while it runs.
+// Failures of the system around the program while it runs.
 
 #include <windows.h>
 
@@ -35,14 +35,14 @@ using ::testing::SizeIs;
 constexpr Color red = 0x0000FF;
 constexpr Color green = 0x00FF00;
 
-// Pixels of an icon of that colour, which its first one has.
+// The pixels of an icon of that colour, which its first pixel has.
 MATCHER_P(ShowsColor, color, "") {
   return !arg.empty() && arg.front() == color;
 }
 
 class Faults : public EndToEnd {
  protected:
-  // Copies the current icon; the pixels that another program then pastes.
+  // Copies the current icon. Returns the pixels that another program then pastes.
   std::vector<Color> Copy() const {
     EmptyTheClipboard();
     program_.Command(FrmFindIcon_mnuCopy);
@@ -53,7 +53,7 @@ class Faults : public EndToEnd {
     ASSERT_NE(DeleteFileW(ToWide(path).c_str()), 0) << path;
     tree_.MakeFile(FolderName(path), bytes);
   }
-  // The window finds what is in a folder of its own after all that.
+  // After all that the window still finds the icons in a folder of its own.
   void ExpectUsable() const {
     EXPECT_FALSE(program_.FindBox());
     for (const int id : {FrmFindIcon_CmdFind, FrmFindIcon_CmdClose}) EXPECT_TRUE(IsEnabled(id)) << id;
@@ -77,7 +77,8 @@ class FolderFaults : public Faults {
     }
     Start({}, true);
   }
-  // Deletes the folders from that one on. The search may not stand in one of them, or its file would stay.
+  // Deletes the folders from that one on. The search must not be in one of them, or the open file would keep its
+  // folder.
   void DeleteFrom(int first) const {
     for (int i = first; i < folders; ++i) {
       fs::remove_all(ToWide(In(Name(i))));
@@ -193,11 +194,11 @@ TEST_F(Faults, AClipboardThatAnotherProgramHoldsOpenIsReportedAndLeftAsItIs) {
   ExpectUsable();
 }
 
-// A window for which the program's own file names a kind of control that there is not, so that the system refuses it.
+// A window that the system refuses to create, because the program's file names a window class that does not exist.
 class MissingWindow : public Faults {
  protected:
-  // Makes the copy's file name another class at the start of `text`, which is found as the dialogs' texts lie in it, in
-  // any case.
+  // Replaces the class name at the start of `text` in the copy's file. `text` is compared as it is stored in the dialog
+  // resources, ignoring case.
   void Spoil(std::u16string_view text) const {
     const std::string sought(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t));
     std::fstream file(damaged_.Path(), std::ios::binary | std::ios::in | std::ios::out);
@@ -208,7 +209,7 @@ class MissingWindow : public Faults {
     file.seekp(found.begin() - bytes.begin());
     ASSERT_TRUE(file.put('?').flush());
   }
-  // The message, after which the program ends; its exit code.
+  // Waits for the message, after which the program ends. Returns its exit code.
   DWORD ExpectMessageAndEnd() {
     const Box box = damaged_.WaitForBox();
     EXPECT_EQ(box.Title(), "Brindle Tarvik - Error");
@@ -282,7 +283,7 @@ TEST_F(SettingsFaults, AReadOnlyFileIsReadAndStaysWhole) {
   WriteSetting("Folder", tree_.Path());
   WriteSetting("Subdir", "True");
   support::AddAttributes(File(), FILE_ATTRIBUTE_READONLY);
-  // Under Wine the owner of the machine may write to such a file all the same.
+  // Under Wine the owner of the machine may write to such a file in spite of its attribute.
   const bool mayBeWritten = static_cast<bool>(
       FileHandle(CreateFileW(program_.SettingsFile().c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr)));
   ChangeOneAndClose();
@@ -307,7 +308,7 @@ TEST_F(SettingsFaults, AFileOfNonsenseMeansTheDefaultsAndIsMended) {
   EXPECT_EQ(ReadSetting("Subdir"), "False");
 }
 
-// The temporary folder of what is started while it lives: one that is not there.
+// While it lives, programs that are started get a temporary folder that does not exist.
 class NoTemporaryFolder : NonCopyable {
  public:
   NoTemporaryFolder() {
@@ -332,10 +333,10 @@ class TemporaryFolderFaults : public Faults {
  protected:
   static constexpr const wchar_t* temporaryBitmap = L"C:\\tmp.bmp";
 
-  // Whatever another test that failed left there goes first.
+  // Removes first what a failed test may have left there.
   void SetUp() override { fs::remove_all(temporaryBitmap); }
   ~TemporaryFolderFaults() override {
-    std::error_code ignored;  // the next test that needs the place says so
+    std::error_code ignored;  // if this fails, the next test that needs the place reports it
     fs::remove_all(temporaryBitmap, ignored);
   }
 
@@ -349,7 +350,7 @@ class TemporaryFolderFaults : public Faults {
     Find();
   }
 
-  // Gives the Save As Image command, and its file dialog that name.
+  // Chooses Save As Image and enters that name in the file dialog.
   void SaveAsImage(const std::string& path) const {
     constexpr int fileName = 0x47C;
     program_.Command(FrmFindIcon_MnuSaveAsBitmap);

@@ -104,7 +104,7 @@ TEST_F(Files, FilesThatAnotherProgramHoldsOpenHaveNoIcons) {
   EXPECT_THAT(FindAll(), ElementsAre(Entry{free, 0}));
 }
 
-// A search of such files once took minutes, or did not end.
+// A search of such files once took minutes, or never ended.
 TEST_F(Files, AnimationsOfHundredsOfMegabytesDoNotHoldASearchUp) {
   constexpr std::uint64_t megabyte = std::uint64_t{1} << 20U;
   const Color colors[] = {0xFF, 0xFF00, 0xFF0000};
@@ -112,7 +112,7 @@ TEST_F(Files, AnimationsOfHundredsOfMegabytesDoNotHoldASearchUp) {
   for (const std::uint64_t size : {512 * megabyte, 5 * 1024 * megabyte}) {
     const std::string path = tree_.MakeSparseFile(std::to_string(size) + ".ani", AnimationFile(colors), size);
     Bytes endless = AnimationFile(colors);
-    std::fill_n(endless.begin() + 4, 4, std::byte{0xFF});  // its stated size
+    std::fill_n(endless.begin() + 4, 4, std::byte{0xFF});  // the size in its header
     tree_.MakeSparseFile("endless " + std::to_string(size) + ".ani", endless, size);
     for (int step = 0; step < 3; ++step) expected.push_back({path, step});
   }
@@ -121,7 +121,7 @@ TEST_F(Files, AnimationsOfHundredsOfMegabytesDoNotHoldASearchUp) {
 
 TEST_F(Files, NamesInEveryScriptAreListedAsTheyAre) {
   std::vector<Entry> expected;
-  // Sorted as they must be found: by the numbers of their characters.
+  // Sorted in the order of the search: by character code.
   for (const char* name : {"Ünïcödé.ico", "Ελληνικά.ico", "图标 文件.ico", "圖示.ico", "😀 smile.ico"})
     expected.push_back({tree_.MakeFile(name, IconFileOf(0xFF)), 0});
   EXPECT_EQ(FindAll(), expected);

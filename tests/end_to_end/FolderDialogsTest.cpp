@@ -26,7 +26,7 @@ class ChooseFolder : public Saving {
     const DWORD attributes = GetFileAttributesW(ToWide(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
   }
-  // Has the dialog refuse a name; it then stays open with what was typed.
+  // The dialog refuses the name and stays open with what was typed.
   void ExpectRefused(const NewFolderDialog& dialog, const std::string& name) const {
     dialog.Create(name);
     const Box box = program_.WaitForBox();
@@ -49,7 +49,7 @@ TEST_F(ChooseFolder, TheTypesAreListedTwiceAtFirstAndOnceMoreAfterEachChoice) {
   const auto grow = [&] { expected.insert(expected.end(), nine.begin(), nine.end()); };
   grow();
   EXPECT_EQ(chooser.Types(), expected);
-  // The last one is none of the first nine and leaves the type as it is.
+  // The last choice is after the first nine and leaves the type unchanged.
   for (const int choice : {5, 3, 3, 12}) {
     chooser.ChooseType(choice);
     grow();
@@ -61,7 +61,7 @@ TEST_F(ChooseFolder, TheTypesAreListedTwiceAtFirstAndOnceMoreAfterEachChoice) {
   EXPECT_THAT(SavedNames(),
               ElementsAre("Images 1.png", "Images 2.png", "Images 3.png", "Images 4.png", "Images 5.png"));
 
-  // The next one starts anew.
+  // The next dialog starts from scratch.
   const FolderChooser next = AskForFolder(FrmFindIcon_mnuSaveAll2);
   EXPECT_EQ(next.Types().size(), 18U);
   next.Cancel();
@@ -123,7 +123,7 @@ TEST_F(ChooseFolder, AnotherDriveIsChosenAndItsRootTakenAsItStands) {
   ExpectAsFound();
   for (const char* name : {"Icon 1.ico", "Icon 3.ico", "Icon 4.ico", "Icon 5.ico"})
     EXPECT_THAT(NamesIn(stick.Path()), Contains(name));
-  // The main window stays where it was.
+  // The main window shows the same folder as before.
   EXPECT_EQ(program_.Item(FrmFindIcon_Dir1).ListItems().at(FolderChain(tree_.Path()).size() - 1),
             FolderName(tree_.Path()));
 }
@@ -135,7 +135,7 @@ TEST_F(ChooseFolder, ANewFolderIsMadeAndChosen) {
   const NewFolderDialog suggested(program_, chooser);
   EXPECT_EQ(suggested.Title(), "Create In " + Out());
   EXPECT_EQ(suggested.Name(), "New Folder");
-  // The name is selected whole, so that typing replaces it.
+  // The whole name is selected, so that typing replaces it.
   DWORD start = 1;
   DWORD end = 0;
   suggested.Item(frmDirCreate_txt).Send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));

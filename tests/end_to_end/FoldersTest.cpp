@@ -139,7 +139,7 @@ TEST_F(Folders, ALinkToAFolderIsListedAndCanBeOpenedAndSearched) {
   EXPECT_EQ(ReadSetting("Folder"), link);
 }
 
-// The shared memory of the system below Wine is mounted there.
+// The shared memory of the host system is mounted there.
 TEST_F(Folders, AMountedFolderIsListedAndCanBeOpened) {
   const std::string name = FolderName(tree_.Path());
   const std::filesystem::path inside = ToWide("Z:\\dev\\shm\\" + name);
@@ -203,7 +203,7 @@ TEST_F(Folders, AnUnknownLanguageShowsNoMessageForAnEmptyDrive) {
   const ExtraDrive other(tree_.Path(), "other");
   Start();
   ChooseDrive('q');
-  ChooseDrive('r');  // served after the choice of the empty drive, and only where no message stands in the way
+  ChooseDrive('r');  // processed after the choice of the empty drive, and only if no message box is in the way
   EXPECT_TRUE(Eventually([&] { return FolderNames().front() == "R:\\"; }));
   EXPECT_FALSE(program_.FindBox());
 }

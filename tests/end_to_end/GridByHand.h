@@ -17,7 +17,7 @@ namespace tarvik::end_to_end {
 inline constexpr int viewportWidth = 685;
 inline constexpr int viewportHeight = 190;
 
-// A grid as the program promises it, written out once more for the tests.
+// The grid's layout as documented, written a second time for the tests.
 struct Geometry {
   IconSizeChoice choice;
   int size;
@@ -73,13 +73,14 @@ class GridPicture : public EndToEnd {
     return static_cast<int>(place.bottom - place.top);
   }
 
-  // Whether the viewport comes to show that picture, from its row `top` on. Moves the pointer away.
+  // Whether the viewport shows that picture in the end, scrolled so that row `top` of it is uppermost. Moves the
+  // pointer away.
   bool Shows(const Surface& picture, int top) const {
     MovePointer({0, 0});
     return ComesToShow(picture, top);
   }
 
-  // The same, with the pointer left where it is: beside the viewport.
+  // The same, but the pointer stays where it is: outside the viewport.
   bool ComesToShow(const Surface& picture, int top) const {
     Surface visible(viewportWidth, viewportHeight, white);
     BitBlt(visible.Dc(), 0, 0, viewportWidth, viewportHeight, picture.Dc(), 0, top, SRCCOPY);

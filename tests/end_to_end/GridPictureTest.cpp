@@ -138,7 +138,7 @@ TEST_F(GridPicture, FollowsTheThumbWhileItIsDragged) {
   EXPECT_EQ(program_.Item(FrmFindIcon_Vsb).Scroll().nPos, end);
 }
 
-// A touchpad and a fine wheel send a notch in many small parts; each part alone once counted as none.
+// A touchpad and a fine wheel send a notch in many small parts. Once each part alone did not scroll.
 TEST_F(GridPicture, PartsOfANotchAddUpToOne) {
   CopyHundredIcons(In("hundred.dll"));
   Start();

@@ -1,5 +1,5 @@
-// What the grid shows after several searches in a row, each of another folder's worth of icons or at another size:
-// every one must look as if it had been the first.
+// What the grid shows after several searches in a row, each with another number of icons or at another size: each must
+// look as if it had been the first.
 
 #include <windows.h>
 
@@ -30,7 +30,7 @@ class GridSteps : public GridPicture {
     program_.Item(FrmFindIcon_Vsb).Send(WM_KEYDOWN, VK_END);
     EXPECT_GT(ScrolledPixels(), 0);
   }
-  // The whole grid from its top: its height, its scroll bar, its pixels, and a click in it.
+  // Checks the whole grid from its top: its height, its scroll bar, its pixels, and a click in it.
   void ExpectFromTheTop(const Geometry& geometry) const {
     const auto expected = Expected(geometry);
     EXPECT_EQ(GridHeight(), expected->Height());
@@ -43,7 +43,7 @@ class GridSteps : public GridPicture {
     Click({grid.left + 3 + geometry.pitch + geometry.size / 2, grid.top + 3 + geometry.size / 2});
     EXPECT_TRUE(Eventually([&] { return TextOf(FrmFindIcon_lblInfo) == "Icon No 2 Selected."; }));
   }
-  // The end of a grid that scrolls.
+  // Checks the end of a grid that scrolls.
   void ExpectTheEnd(const Geometry& geometry) const {
     const auto expected = Expected(geometry);
     const int end = expected->Height() - viewportHeight;
@@ -53,8 +53,8 @@ class GridSteps : public GridPicture {
   }
 };
 
-// The scroll bar was at its top for a search that needs none, and the picture was not: the viewport stayed white, also
-// after the next search.
+// For a search that needs no scroll bar the bar went back to its top but the picture did not: the viewport stayed
+// white, also after the next search.
 TEST_F(GridSteps, AScrolledGridIsBackAtItsTopForASearchThatNeedsNoScrolling) {
   StartOnTwoCollections();
   FindMany();

@@ -16,7 +16,7 @@ namespace {
 
 class GridTip : public EndToEnd {
  protected:
-  // The tip that is in sight, if any.
+  // The visible tip, if any.
   std::optional<Control> Shown() const {
     const DWORD process = GetProcessId(program_.Process());
     HWND found = nullptr;
@@ -31,7 +31,7 @@ class GridTip : public EndToEnd {
     const auto tip = Shown();
     return tip && tip->Text() == text;
   }
-  // Rests over the middle of an icon of 32 pixels, by its number.
+  // Rests the pointer over the middle of an icon of 32 pixels, by its number.
   void PointAt(int number) const {
     const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
     MovePointer({grid.left + 3 + (number - 1) % 15 * 38 + 16, grid.top + 3 + (number - 1) / 15 * 38 + 16});

@@ -67,7 +67,7 @@ void Journey::StartUp() {
   const Control startUp = program_.WaitForStartUpWindow();
   EXPECT_EQ(startUp.Child(FrmSpash_lblDescription).Text(), tongue_.notice);
   Picture("start-up");
-  program_.WaitForMainWindow();  // which comes by itself
+  program_.WaitForMainWindow();  // which opens by itself
   EXPECT_EQ(Caption(), tongue_.caption);
   Picture("main-window");
 }
@@ -106,7 +106,7 @@ void Journey::ChooseTypes() {
 void Journey::TypeLimit(const std::string& limit) const {
   const Control box = program_.Item(FrmFindIcon_txtMax);
   EXPECT_TRUE(Eventually([&] {
-    DoubleClick(MiddleOf(box.Place()));  // selects what stands in it
+    DoubleClick(MiddleOf(box.Place()));  // selects its text
     TypeText(limit);
     return Eventually([&] { return box.Text() == limit; }, lostAfter);
   })) << box.Text();
@@ -193,7 +193,7 @@ void Journey::ChooseInFileMenu(int command) const {
   struct Item {
     int command;
     int place;
-    int placeInSubMenu;  // -1 where there is none
+    int placeInSubMenu;  // -1 if there is none
   };
   constexpr std::array items{
       Item{FrmFindIcon_mnuSaveAs, 1, -1},       Item{FrmFindIcon_MnuSaveAsBitmap, 2, -1},

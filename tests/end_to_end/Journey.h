@@ -11,7 +11,7 @@
 
 namespace tarvik::end_to_end {
 
-// What a user of that language calls things, and reads.
+// The names and texts that a user of that language sees.
 struct Tongue {
   const char* code;
   const char* folder;     // where the icons are
@@ -27,8 +27,8 @@ struct Tongue {
   friend void PrintTo(const Tongue& tongue, std::ostream* out) { *out << tongue.code; }
 };
 
-// The whole program as a user goes through it, one place after the other. Every place on the way leaves a picture for
-// people to look at: journeys/ENG and so on in the build's folder.
+// The whole program as a user goes through it, one place after the other. Each place leaves a picture for people to
+// look at: journeys/ENG and so on in the build's folder.
 class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> {
  protected:
   void SetUp() override;
@@ -72,8 +72,9 @@ class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> 
   void SaveAsGif(const std::string& name);
   void SaveAsCursor(const std::string& name);
   void SaveAllIcons();
-  // Saves the two selected icons to the folder that SaveAllIcons made. `type` is the image type's place in its list;
-  // `options` a control of the dialog that asks for options and `finish` its OK, 0 where none does.
+  // Saves the two selected icons to the folder that SaveAllIcons made. `type` is the image type's place in its list.
+  // `options` is a control of the dialog that asks for options and `finish` its OK button, 0 if there is no such
+  // dialog.
   struct Batch {
     int command;
     int type;
@@ -82,10 +83,10 @@ class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> 
     const char* picture;
   };
   void SaveSelected(const Batch& batch);
-  // Waits until a command that saves is over, and the status as it was.
+  // Waits until a command that saves is over and the status shows this text again.
   void WaitForSave(const std::string& status) const;
   std::string BatchFolder() const;
-  // How many files of the batches' folder have a name that starts so, and are not empty.
+  // How many files in the batches' folder are not empty and have a name that starts with `start`.
   int CountSaved(const std::wstring& start) const;
 
   const ExtraDrive drive_{tree_.Path(), "icons"};  // R:

@@ -5,7 +5,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-// What stands in the menus and dialogs beside this is tested text by text elsewhere.
+// The other texts of the menus and dialogs are tested one by one elsewhere.
 constexpr Tongue tongues[] = {
     {"ENG", "icons", "saved", "flower", "Finds the icons stored in your files and saves them.", "Brindle Tarvik",
      "Found ", " icons.\r\nOnce search only support Maximum ",

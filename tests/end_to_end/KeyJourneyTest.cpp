@@ -1,5 +1,5 @@
-// From the start of the program to its end by the keyboard alone, once in each language. No mouse is used, and nothing
-// is sent to a window: every step is a key.
+// From the start of the program to its end by the keyboard alone, once in each language. No mouse is used, and no
+// message is sent to a window: every step is a key press.
 
 #include <gmock/gmock.h>
 #include <windows.h>
@@ -41,7 +41,7 @@ class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTo
   }
 
   int Focused() const { return GetDlgCtrlID(program_.Focus().Window()); }
-  // Goes on by Tab until the control has the focus.
+  // Presses Tab until the control has the focus.
   void GoTo(int id) const {
     for (int step = 0; step < 30 && Focused() != id; ++step) {
       const Control before = program_.Focus();
@@ -58,7 +58,7 @@ class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTo
     EXPECT_TRUE(Eventually([&] { return box.IsChecked(); })) << id;
   }
   // Opens a menu by its letter and chooses an item, and one of its sub-menu, by their places, counted from 0 without
-  // lines; the second is -1 for none.
+  // separators; `below` is -1 if there is no sub-menu.
   void Choose(WORD letter, int place, int below = -1) const {
     PressKey(letter, {VK_MENU});
     ASSERT_TRUE(Eventually([&] { return program_.OpenMenu().has_value(); })) << letter;
@@ -76,7 +76,7 @@ class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTo
     ASSERT_TRUE(Eventually([&] { return program_.Window().IsEnabled(); }));
     WaitForFront(program_.Window());
   }
-  // Types a name into the system's dialog, which has the focus in the box for it.
+  // Types a name into the system's dialog, whose name box has the focus.
   void TypeName(const std::string& name) const {
     const SaveDialog dialog(program_);
     WaitForFront(dialog.Window());
@@ -199,7 +199,7 @@ class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTo
     WaitForFront(chooser.Window());
     PressKey('O', {VK_MENU});
     WaitUntilBack();
-    // The window takes no keys before the last file is written and its status is as it was.
+    // The window accepts no keys until the last file is written and its status is restored.
     EXPECT_TRUE(Eventually([&] { return fs::exists(ToWide(folder + "\\Icon 2.ico")) && Status() == status; }));
     EXPECT_TRUE(fs::exists(ToWide(folder + "\\Icon 1.ico")));
     EXPECT_FALSE(fs::exists(ToWide(folder + "\\Icon 3.ico")));
@@ -212,7 +212,7 @@ class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTo
     const WebPageReader reader(page);
     PressKey(VK_F1);
     EXPECT_TRUE(Eventually([&] { return support::ReadAll(page).find("guide-") != std::string::npos; }, shortly));
-    program_.BringToFront();  // from what shows the guide
+    program_.BringToFront();  // from the program that shows the guide
   }
 
   const KeyTongue& tongue_ = GetParam();

@@ -19,7 +19,7 @@ class Keyboard : public EndToEnd {
   bool Focuses(int id) const {
     return Eventually([&] { return FocusedId() == id; });
   }
-  // Goes on by Tab until the first control comes again; the controls in the order they were reached.
+  // Presses Tab until the first control has the focus again. Returns the controls in the order they were reached.
   std::vector<int> TabRound(std::initializer_list<WORD> held = {}) const {
     std::vector<int> order{FocusedId()};
     for (;;) {
@@ -104,7 +104,7 @@ TEST_F(Keyboard, ATypedLimitCounts) {
   ASSERT_TRUE(Focuses(FrmFindIcon_txtMax));
   PressKey(VK_HOME);
   PressKey(VK_END, {VK_SHIFT});
-  // The text is typed past the screen's keys, and must not overtake them.
+  // The text is sent as messages, not as key presses, and must not overtake the keys.
   const LRESULT whole = MAKELRESULT(0, TextOf(FrmFindIcon_txtMax).size());
   ASSERT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_txtMax).Send(EM_GETSEL) == whole; }));
   TypeText("2");

@@ -1,4 +1,4 @@
-// The interface in three languages, and in a language that it does not know.
+// The interface in three languages, and with a language in the registry that it does not support.
 
 #include <gmock/gmock.h>
 
@@ -56,7 +56,7 @@ constexpr Texts design{"Find Icons",
                        "Show List"};
 
 struct LanguageRow {
-  std::optional<std::string> value;  // as it stands in the registry
+  std::optional<std::string> value;  // as stored in the registry
   const Texts* texts;
   friend void PrintTo(const LanguageRow& row, std::ostream* out) {
     *out << (row.value ? '"' + *row.value + '"' : "no value");
@@ -84,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(Values, Language,
                                            LanguageRow{"chs", &simplified}, LanguageRow{"CHT-TW", &traditional},
                                            LanguageRow{"  CHT  ", &design}, LanguageRow{" chs", &design},
                                            LanguageRow{"Chinese", &design}, LanguageRow{"中文", &design},
-                                           // The value is there, and so is the zero that ends it.
+                                           // The value exists, and so does its terminating zero.
                                            LanguageRow{"", &design}));
 
 class SearchTexts : public EndToEnd {
@@ -163,7 +163,7 @@ TEST_F(SearchTexts, AnUnknownLanguageLeavesEveryTextButTheListsAlone) {
 TEST_F(SearchTexts, AnUnknownLanguageRefusesWithoutAMessage) {
   const LanguageValue language("Chinese");
   Start();
-  Find();  // would wait for ever behind a message
+  Find();  // would wait forever for a message box to close
   EXPECT_FALSE(program_.FindBox());
   EXPECT_EQ(List().Columns().size(), 3U);
   EXPECT_TRUE(IsEnabled(FrmFindIcon_CmdFind));

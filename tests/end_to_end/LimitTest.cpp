@@ -33,7 +33,7 @@ class Limit : public EndToEnd {
     Tick({Ico, Dll});
     ChooseSize(size);
   }
-  // What a search that ended in a message leaves.
+  // Checks the state after a search that ended in a message.
   void ExpectRefused() const {
     EXPECT_THAT(Entries(), IsEmpty());
     EXPECT_EQ(List().Columns().size(), 3U);

@@ -10,7 +10,7 @@ namespace {
 
 class ListKeys : public ViewByHand {
  protected:
-  // Finds so many icon files and has the list shown, with the focus.
+  // Finds that many icon files and switches to the list view, which gets the focus.
   void FindInList(int count) {
     FindFiles(count);
     program_.Item(FrmFindIcon_OptView1).Press();

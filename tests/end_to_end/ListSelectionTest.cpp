@@ -31,7 +31,7 @@ class ListSelection : public SelectionByHand {
   }
   void ClickRow(int row, HeldKeys held = {}) const { Click(MiddleOf(RowPlace(row)), held); }
 
-  // Rows and the frames of the grid, which is shown for a moment.
+  // Checks the selected rows and the frames of the grid, which is shown for a moment.
   void ExpectBoth(const Places& expected) const {
     ExpectRows(expected);
     ShowList(false);

@@ -1,5 +1,5 @@
-// Libraries of icons for 16-bit Windows, in the program as it is on today's Windows: its shell finds no icon in them.
-// The tests' own shell is Wine's, which does, and says what should be found.
+// Libraries of icons for 16-bit Windows, in the program as it is on current Windows, whose shell finds no icon in them.
+// The tests' own shell is Wine's, which does find them: it provides the expected icons.
 
 #include <windows.h>
 
@@ -42,7 +42,7 @@ TEST_P(ModulesInTheGrid, AreShownAsAShellThatReadsThemDrawsThem) {
   for (const char* name : {"a.icl", "b.exe", "c.dll", "d.ocx"}) tree_.MakeFile(name, EveryDepth());
   for (std::uint32_t number = 0; number < 10; ++number)
     tree_.MakeFile("random" + std::to_string(number) + ".icl", support::MakeRandomModule(number).bytes);
-  CopyThreeIcons(In("three.dll"));  // which the shell finds the icons of
+  CopyThreeIcons(In("three.dll"));  // in which the shell finds icons
   tree_.MakeFile("other.fon", EveryDepth());
   TakeTodaysShell(program_);
   Start();

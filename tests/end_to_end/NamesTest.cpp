@@ -1,4 +1,4 @@
-// What a screen reader finds in each window, read from a second process: no control is without a name.
+// What a screen reader finds in each window, read from a second process: every control has a name.
 
 #include <windows.h>
 
@@ -22,10 +22,10 @@
 namespace tarvik::end_to_end {
 namespace {
 
-// IID_IAccessible, which no library at hand defines.
+// IID_IAccessible, which the linked libraries do not define.
 constexpr GUID accessibleInterface{0x618736E0, 0x3C3D, 0x11CF, {0x81, 0x0C, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}};
 
-// What a window answers who asks for its content.
+// A window's answer to a request for its accessible object.
 class Accessible : NonCopyable {
  public:
   explicit Accessible(const Control& control) {
@@ -98,8 +98,8 @@ std::string WithoutMark(std::string text) {
   return text;
 }
 
-// What a screen reader calls a control. Those with a text of their own are called by it; others by the static text
-// before them, visible or not, as the system has it. Wine knows that for text boxes alone.
+// The name by which a screen reader calls a control: its own text if it has one, otherwise the static text before it,
+// visible or not, as the system does. Wine does that only for text boxes.
 std::string NameOf(HWND window) {
   const std::string kind = ClassOf(window);
   if (kind == "button" || kind == "static") return WithoutMark(Control(window).Text());
@@ -116,7 +116,7 @@ class Names : public ViewByHand, public ::testing::WithParamInterface<const char
     CoUninitialize();
   }
 
-  // The visible controls of a window by their ids, with their names; the parts that a control is made of are left out.
+  // The visible controls of a window by their ids, with their names, without the child windows of a control.
   static std::map<int, std::string> NamesIn(const Control& window) {
     std::map<int, std::string> names;
     EnumChildWindows(

@@ -13,7 +13,7 @@ using ::testing::IsEmpty;
 
 class Options : public EndToEnd {
  protected:
-  // One file of each type, and one that is of none and one that only the pattern of nothing names.
+  // One file of each type, one of no type, and one that matches only the pattern in force while no type is ticked.
   void MakeOneFileOfEachType() const {
     for (const char* name : {"a.ico", "b.ani", "c.icl", "d.ocx", "e.dll", "f.exe", "g.txt", "aaa.aaa"})
       tree_.MakeFile(name);

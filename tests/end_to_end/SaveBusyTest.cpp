@@ -1,4 +1,4 @@
-// What a save shows while it runs, what it takes meanwhile, and what it keeps afterwards.
+// What a save shows while it runs, what input it accepts meanwhile, and what handles it leaks.
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -36,8 +36,8 @@ class SaveBusy : public Saving {
     KeepAsFound();
   }
 
-  // What each of twenty rounds left open would add up. The first rounds fill the system's own stores.
-  // `keptBySystem` is what a round of the system's own dialog keeps in handles of each kind.
+  // Repeats a round twenty times, so that the leak of a single round adds up. The first rounds fill the caches of the
+  // system. `keptBySystem` is what the system's own dialog leaks in each round, in handles of each kind.
   void ExpectToKeepNothing(const char* name, const std::function<void()>& command, int keptBySystem) const {
     constexpr int warmUps = 2;
     constexpr int rounds = 20;
@@ -55,14 +55,14 @@ class SaveBusy : public Saving {
     EXPECT_LT(after.userHandles, before.userHandles + rounds * keptBySystem + rounds / 2) << name;
   }
 
-  // Stops the program once its batch has saved so many icons, of which most are still to come.
+  // Suspends the program once its batch has saved that many icons and most are still to come.
   void StopAfter(std::size_t icons) {
     EXPECT_TRUE(Eventually([&] { return SavedNames().size() >= icons; }));
     program_.Suspend();
     EXPECT_LT(SavedNames().size(), static_cast<std::size_t>(many)) << "the batch was over before it could be stopped";
   }
 
-  // Does something while a batch stands still in its middle, and lets it end.
+  // Does `something` while a batch is suspended in its middle, then lets it finish.
   void DuringBatch(int command, const std::function<void()>& something) {
     ChooseOut(command);
     StopAfter(few);
@@ -121,8 +121,8 @@ TEST_F(SaveBusy, ABatchPaintsTheWindow) {
   DestroyWindow(cover);
   EXPECT_GT(differences(), 0) << "painted without the program";
   program_.Resume();
-  // It must be painted before the batch is over, so the picture is looked at whenever the program is stopped in it
-  // again.
+  // It must be painted before the batch is over, so the screen is compared each time the program is suspended in the
+  // batch.
   bool painted = false;
   for (std::size_t icons = 2 * few; !painted && icons < many && !HasFailure(); icons += few) {
     StopAfter(icons);
@@ -139,7 +139,7 @@ TEST_F(SaveBusy, TwentyRoundsOfEachCommandKeepNothing) {
     DeleteFileW(ToWide(Out(name)).c_str());
     SaveAs(command, Out(name));
   };
-  // Wine's Save dialog, in any program, keeps a registry key and a USER handle whenever it was shown.
+  // Wine's Save dialog, in any program, leaks a registry key and a USER handle each time it is shown.
   constexpr int saveDialog = 1;
   struct Row {
     const char* name;

@@ -15,7 +15,7 @@ using ::testing::StartsWith;
 
 class Save : public Saving {};
 
-// What a language calls the dialogs that saving opens.
+// The titles of the dialogs that saving opens, in one language.
 struct Titles {
   const char* language;
   const char* saveAs;
@@ -170,7 +170,8 @@ TEST_F(Save, ATypedExtensionStaysAndChoosesTheFormat) {
 
 TEST_F(Save, ALongChinesePathIsTakenWhole) {
   FindPictures();
-  // As long as a name may be below Wine, in bytes: with its folder it has more of them than a path has characters.
+  // As long as a file name may be on the host system below Wine, in bytes: with its folder the path has more bytes than
+  // MAX_PATH.
   std::string name;
   for (int i = 0; i < 80; ++i) name += "长";
   ASSERT_GT(Out(name).size(), static_cast<std::size_t>(MAX_PATH));

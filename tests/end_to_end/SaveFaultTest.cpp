@@ -1,4 +1,4 @@
-// Saving where something is in the way: folders that take no file, disks that take no more, files of the user's.
+// Saving with obstacles: folders that accept no file, full disks, files of the user in the way.
 
 #include <gmock/gmock.h>
 #include <windows.h>
@@ -22,7 +22,7 @@ using ::testing::StartsWith;
 
 class SaveFault : public Saving {
  protected:
-  // Whatever another test that failed left there goes first.
+  // Removes first what a failed test may have left there.
   void SetUp() override { std::filesystem::remove_all(temporaryBitmap); }
   void TearDown() override {
     Saving::TearDown();
@@ -98,7 +98,7 @@ TEST_F(SaveFault, ADriveWithoutADiskIsReportedFileByFile) {
 }
 
 TEST_F(SaveFault, AWriteThatFailsInTheMiddleIsReportedAndTheBatchGoesOn) {
-  // Icons of two and of sixteen colours fit, one with a palette of 256 does not, nor does a true-colour bitmap.
+  // Icons of two and of sixteen colours fit; one with a palette of 256 does not, nor does a true-colour bitmap.
   FindPicturesWithFilesUpTo(1024);
   ChooseOut(FrmFindIcon_mnuSaveAll);
   EXPECT_THAT(ReadMessages(1), ElementsAre(IconFailed(3)));
@@ -116,10 +116,10 @@ TEST_F(SaveFault, AWriteThatFailsInTheMiddleIsReportedAndTheBatchGoesOn) {
     EXPECT_EQ(files["Curor " + number + ".cur"].pixels, IconPixels(entry));
     EXPECT_EQ(files["Images " + number + ".bmp"].pixels, BitmapPixels(entry));
   }
-  // What fitted of the others stays.
+  // The part of each other file that fitted stays.
   for (const char* name : {"Icon 3.ico", "Curor 3.cur", "Images 3.bmp"}) EXPECT_EQ(ReadAll(Out(name)).size(), 1024U);
 
-  // The way to a JPEG needs the temporary bitmap, which does not fit: each is reported, and none is begun.
+  // Saving as JPEG needs the temporary bitmap, which does not fit: each failure is reported, and no JPEG is created.
   ChooseOut(FrmFindIcon_mnuSaveAll2, Jpg);
   AcceptJpegOptions();
   EXPECT_THAT(ReadMessages(5), Each(imageFailed));
@@ -130,9 +130,9 @@ TEST_F(SaveFault, AWriteThatFailsInTheMiddleIsReportedAndTheBatchGoesOn) {
   EXPECT_EQ(SavedNames().size(), 15U);
 }
 
-// As of a file of any other format.
+// The same as with a file of any other format.
 TEST_F(SaveFault, WhatFittedOfAGifIsLeft) {
-  // A GIF of few colours fits, one with the whole web palette does not.
+  // A GIF of few colours fits; one with the whole web palette does not.
   FindPicturesWithFilesUpTo(512);
   ChooseOut(FrmFindIcon_mnuSaveAll2, Gif);
   AcceptGifOptions();
@@ -187,7 +187,7 @@ TEST_F(SaveFault, TheIconOfAFileThatIsGoneIsSavedBlank) {
   for (const std::string& name : SavedNames()) {
     const std::string bytes = ReadAll(Out(name));
     // Headers and a palette of two colours, then the image and the mask. Transparent pixels that are not black would
-    // invert what lies below the icon.
+    // invert the background below the icon.
     constexpr std::size_t imagePlace = 6 + 16 + 40 + 8;
     constexpr std::size_t imageBytes = std::size_t{4} * 32;
     ASSERT_EQ(bytes.size(), imagePlace + 2 * imageBytes) << name;
@@ -196,7 +196,7 @@ TEST_F(SaveFault, TheIconOfAFileThatIsGoneIsSavedBlank) {
   }
 }
 
-// Each look at such an icon costs the system a view of the file at least, which it never gives back.
+// Each attempt to load such an icon costs the system at least a view of the file, which it never releases.
 TEST_F(SaveFault, AnIconThatTheSystemBreaksOnIsAskedForOnce) {
   constexpr int broken = 20;
   MakePictures();
@@ -210,7 +210,7 @@ TEST_F(SaveFault, AnIconThatTheSystemBreaksOnIsAskedForOnce) {
   const int objects = support::HeldBy(program_.Process()).gdiObjects;
   const int views = support::CountMappedViews(program_.Process());
   for (int i = 0; i < 3; ++i) SaveBatch(FrmFindIcon_mnuSaveAll);
-  // The system keeps a few things of its own at times, but not one for each of these icons.
+  // The system leaks a few objects of its own at times, but not one for each of these icons.
   EXPECT_LT(support::HeldBy(program_.Process()).gdiObjects, objects + broken);
   EXPECT_LT(support::CountMappedViews(program_.Process()), views + broken);
   EXPECT_EQ(SavedNames().size(), broken + 5U);
@@ -221,7 +221,7 @@ TEST_F(SaveFault, TheTemporaryBitmapIsThereWhileTheJpegOptionsAreOpenAndThenGone
   for (const int button : {fSaveJPG_cmdFinish1, fSaveJPG_cmdFinish0}) {
     SaveAs(FrmFindIcon_MnuSaveAsBitmap, Out("a" + std::to_string(button) + ".jpg"));
     const Dialog options(program_, fSaveJPG_CboSize);
-    // Headers of 14 and 40 bytes and three bytes a pixel: true colour, whatever the icon has.
+    // Headers of 14 and 40 bytes and three bytes per pixel: true colour, whatever depth the icon has.
     EXPECT_EQ(std::filesystem::file_size(temporaryBitmap), 14U + 40U + 32U * 32U * 3U);
     options.End(button);
     ExpectAsFound();

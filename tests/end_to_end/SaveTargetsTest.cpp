@@ -1,4 +1,4 @@
-// Saving over whatever can be at a file's name, in each of the five formats.
+// Saving over everything that can exist at a file's name, in each of the five formats.
 
 #include <gmock/gmock.h>
 
@@ -35,7 +35,7 @@ class SaveOver : public Saving {
     ReadOnlyFile readOnly;
   };
 
-  // Saves all icons over the targets and expects a message for each that takes no file.
+  // Saves all icons over the targets and expects a message for each target that cannot be replaced or written.
   void SaveOverTargets(const Format& format) {
     SCOPED_TRACE(format.extension);
     const auto nameOf = [&](int number) { return format.prefix + std::to_string(number) + format.extension; };

@@ -1,4 +1,4 @@
-// The nine ways to save, by the real menus; what they write is read back by programs from elsewhere.
+// The nine ways to save, by the real menus. What they write is read back by other programs.
 
 #include <gmock/gmock.h>
 
@@ -31,7 +31,7 @@ class SaveIcons : public Saving {
     EXPECT_THAT(file.told, HasSubstr("BMP3 32x32"));
     EXPECT_EQ(file.pixels, BitmapPixels(entry)) << entry;
   }
-  // How far two pictures lie from each other, a channel, at most.
+  // The largest difference of two pictures in any channel of any pixel.
   static int FarthestChannel(const Pixels& one, const Pixels& other) {
     if (one.size() != other.size()) return 256;
     int farthest = 0;
@@ -43,7 +43,7 @@ class SaveIcons : public Saving {
     }
     return farthest;
   }
-  // The three areas of a picture, which are plain, away from where they meet: a lossy file keeps them nearly.
+  // Checks the three plain areas of a picture away from their borders: a lossy file keeps their colours nearly.
   static void ExpectAreas(const Pixels& pixels, int side, int entry) {
     ASSERT_EQ(pixels.size(), static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
     const Picture& picture = pictures.at(static_cast<std::size_t>(entry));
@@ -56,8 +56,9 @@ class SaveIcons : public Saving {
     EXPECT_LE(FarthestChannel(at(side - eighth, eighth), {0xFF000000 | picture.right}), closeEnough) << entry;
     EXPECT_LE(FarthestChannel(at(side / 2, side - eighth), {0xFFFFFFFF}), closeEnough) << entry;
   }
-  // The bits of a picture of black and white, in an icon file of the size: rows from the bottom up, each filled up to
-  // these many bytes (to two more than it should be at 64 pixels, which other programs do not read as it is meant).
+  // The bits of a picture of black and white, in an icon file of that size: rows from the bottom up, each padded to
+  // that many bytes. At 64 pixels these are two more than correct, so other programs do not read such a file as
+  // intended.
   static std::string BitsOf(const std::function<bool(int x, int y)>& isWhite, int side) {
     constexpr std::array rowBytes{4, 4, 8, 10};
     std::string bits;
@@ -73,7 +74,7 @@ class SaveIcons : public Saving {
     }
     return bits;
   }
-  // The first picture at a size: its image and its mask.
+  // Checks the first picture at a size: its image and its mask.
   static void ExpectFirstIcon(const std::string& file, int side) {
     constexpr std::size_t imagePlace = 6 + 16 + 40 + 8;
     const auto image = [side](int x, int y) { return y < side / 2 && x >= side / 2; };
@@ -119,7 +120,7 @@ TEST_F(SaveIcons, AllOfTheListIsSavedInEachFormat) {
   EXPECT_THAT(SavedNames(), ElementsAre("Icon 1.ico", "Icon 2.ico", "Icon 3.ico", "Icon 4.ico", "Icon 5.ico"));
   SaveBatch(FrmFindIcon_mnuSaveAll2);
   SaveBatch(FrmFindIcon_mnuSaveAll3);
-  // A second time over the files that are there: nobody is asked.
+  // A second time over the existing files: the program does not ask.
   SaveBatch(FrmFindIcon_mnuSaveAll);
   auto files = SeeFiles(Out());
   EXPECT_EQ(files.size(), 15U);
@@ -163,7 +164,7 @@ TEST_F(SaveIcons, WithNoneSelectedThatIsSaidAndNoFolderAskedFor) {
 
 TEST_F(SaveIcons, TheKeyboardAloneSaves) {
   FindPictures();
-  // Alt+F is the Find button's.
+  // Alt+F belongs to the Find button.
   PressKey(VK_F10);
   PressKey(VK_DOWN);
   ASSERT_TRUE(Eventually([&] { return program_.OpenMenu().has_value(); }));
@@ -208,7 +209,7 @@ TEST_F(SaveIcons, EachSizeIsSavedAsItIsShown) {
     ExpectFirstIcon(support::ReadAll(Out(side + ".ico")), pixels);
     EXPECT_EQ(files[side + ".gif"].pixels, FirstComposed(pixels)) << side;
     ExpectAreas(files[side + ".jpg"].pixels, pixels, 0);
-    // What the file of 64 pixels holds is not what it says it does.
+    // The content of the 64 pixel file does not match its header.
     if (pixels != 64) {
       EXPECT_EQ(files[side + ".bmp"].pixels, FirstComposed(pixels)) << side;
     }
@@ -223,13 +224,13 @@ TEST_F(SaveIcons, TheHotSpotIsPickedWithTheMouse) {
   const POINT place{picture.left + 13, picture.top + 29};
   const auto picked = [&] { return picker.TextOf(FrmHotSpot_LblHotX) + picker.TextOf(FrmHotSpot_LblHotY); };
 
-  // The pointer's place is shown, bounded as the hot spot is.
+  // The pointer's position is shown, limited like the hot spot.
   EXPECT_TRUE(Eventually([&] {
     MovePointer(place);
     MovePointer({place.x + 100, place.y + 100});
     return picker.TextOf(FrmHotSpot_lblxy) == "00, 00";
   }));
-  // The right button picks nothing. The key comes after it: when the focus has moved the click is over.
+  // The right button picks nothing. A key press follows it: once the focus has moved, the click has been processed.
   const HWND focus = program_.Focus().Window();
   RightClick(place);
   PressKey(VK_TAB);
@@ -305,7 +306,7 @@ TEST_F(SaveIcons, AGifHasTheChosenPaletteAndTransparency) {
   auto files = SeeFiles(Out());
   EXPECT_EQ(files["best.gif"].pixels, ComposedPixels(0));
   EXPECT_THAT(files["best.gif"].told, Not(HasSubstr("Transparency on")));
-  // The top-left pixel is black; it is what is not seen.
+  // The top-left pixel is black, so black becomes the transparent colour.
   Pixels seenThrough = ComposedPixels(0);
   std::ranges::replace(seenThrough, 0xFF000000U, 0U);
   EXPECT_EQ(files["web.gif"].pixels, seenThrough);

@@ -37,7 +37,8 @@ void Saving::FindAll() {
 void Saving::KeepAsFound() {
   const RECT window = program_.Window().Place();
   const POINT place{window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2};
-  // A program shows its pointer once the mouse moves over it, and a desktop on which none did so has none.
+  // A program shows its pointer once the mouse moves over it. On a desktop without a mouse movement so far there is no
+  // pointer.
   ASSERT_TRUE(Eventually([&] {
     MovePointer({place.x + 8, place.y - 8});
     MovePointer(place);
@@ -55,9 +56,9 @@ Pixels Saving::PixelsOf(int entry, std::uint32_t transparent) {
   return pixels;
 }
 
-// A bitmap of 256 colours shows white in its last entry, which few pictures fill, so that it is black here; and its
-// first entry, that of the left half, is named by no pixel: these repeat the one written before, from the bottom row
-// up.
+// A bitmap of 256 colours shows white by its last palette entry. Few pictures fill that entry, so white becomes black
+// here. The first entry, the colour of the left half, is used by no pixel: such pixels repeat the index written before,
+// from the bottom row up.
 Pixels Saving::BitmapPixels(int entry) {
   Pixels pixels = ComposedPixels(entry);
   if (entry != withPalette) return pixels;
@@ -139,7 +140,7 @@ void Saving::SelectByMouse(std::initializer_list<int> entries) const {
   Places wanted(entries);
   for (int entry = 0; entry < List().RowCount(); ++entry) {
     const bool select = wanted.contains(entry);
-    // A click that got lost is made again.
+    // A click that got lost is repeated.
     for (int i = 0; i < 3 && List().IsSelected(entry) != select; ++i) {
       ClickCell(entry, {VK_CONTROL});
       Eventually([&] { return List().IsSelected(entry) == select; }, lostAfter);

@@ -14,7 +14,7 @@
 
 namespace tarvik::end_to_end {
 
-using Pixels = std::vector<std::uint32_t>;  // 0xAABBGGRR, from the top-left corner; 0 where transparent
+using Pixels = std::vector<std::uint32_t>;  // 0xAABBGGRR, from the top-left corner; 0 for a transparent pixel
 using Names = std::vector<std::string>;
 
 // Places of the image types in the chooser's list.
@@ -36,22 +36,23 @@ class Saving : public SelectionByHand {
                                                     {0x00FF00, 0xFF00FF, 4},
                                                     {0x800000, 0xC0C0C0, 4}}};
   static constexpr const char* outName = "输出";
-  // A folder of the system below Wine in which nobody may make anything, whatever their rights.
+  // A folder of the host system below Wine in which no user may create a file, whatever their rights.
   static constexpr const char* lockedFolder = "Z:\\sys";
 
-  // What the program says of an icon that it could not save as a picture or a cursor.
+  // The program's message for an icon that it could not save as a picture or a cursor.
   static constexpr const char* imageFailed = "Failed to Save Icon As Bitmap.";
   static constexpr const char* cursorFailed = "Failed to Save Icon As Cursor.";
 
-  // Starts the program, finds the icons and puts the pointer where no dialog opens.
+  // Starts the program, finds the icons and moves the pointer to a place that no dialog covers.
   void FindPictures();
   void MakePictures();
-  // The same after a start of the test's own.
+  // The same after the test itself has started the program.
   void FindAll();
 
   static constexpr int withPalette = 2;
 
-  // Pixels of an entry, counted from 0: as its icon has them, composed over white, and as a bitmap file has the latter.
+  // Pixels of an entry, counted from 0: as in its icon, composed over white, and as a bitmap file has the composed
+  // ones.
   static Pixels IconPixels(int entry) { return PixelsOf(entry, 0); }
   static Pixels ComposedPixels(int entry) { return PixelsOf(entry, 0xFFFFFFFF); }
 
@@ -59,15 +60,15 @@ class Saving : public SelectionByHand {
 
   std::string Out() const { return In(outName); }
   std::string Out(const std::string& name) const { return In(std::string(outName) + "\\" + name); }
-  // Names of all that stands in a folder, in order; of the folder to save to where none is given.
+  // Sorted names of everything in a folder; in the folder to save to if it is empty.
   static Names NamesIn(const std::string& folder);
   Names SavedNames() const { return NamesIn(Out()); }
 
   SaveDialog AskForName(int command) const;
-  // Saves by one of the three commands for one icon, up to the name.
+  // Uses one of the three commands that save one icon, up to entering the name.
   void SaveAs(int command, const std::string& path) const { AskForName(command).SaveAs(path); }
   FolderChooser AskForFolder(int command) const;
-  // Chooses the folder to save to, of the image type where one is given.
+  // Chooses the folder to save to, and the image type if one is given.
   void ChooseOut(int command, ImageType type = Bmp) const;
   // The same, and waits for the end of the batch.
   void SaveBatch(int command, ImageType type = Bmp) const;
@@ -75,22 +76,22 @@ class Saving : public SelectionByHand {
   void ChooseDriveR(int command, ImageType type = Bmp) const;
   void AcceptJpegOptions() const { Dialog(program_, fSaveJPG_CboSize).End(fSaveJPG_cmdFinish1); }
   void AcceptGifOptions() const { Dialog(program_, FrmConvertGIF_Option1).End(FrmConvertGIF_CmdOk); }
-  // Saves all icons to drive R:, which takes nothing, in each format, and reads a message for each file.
+  // Saves all icons to drive R:, which cannot be written, in each format, and reads a message for each file.
   void ExpectEachFileReportedOnDriveR() const;
-  // Has exactly these entries selected, counted from 0, by the mouse.
+  // Selects exactly these entries, counted from 0, by the mouse.
   void SelectByMouse(std::initializer_list<int> entries) const;
 
-  // Reads and closes so many messages, one after the other.
+  // Reads and closes that many messages, one after the other.
   Names ReadMessages(int count) const;
 
-  // What a command leaves as it found it.
+  // The state that a command must leave unchanged.
   struct Standing {
     HCURSOR pointer;
     std::string caption;
     std::string status;
     int windows;
     bool enabled;
-    std::string folder;  // that the process stands in
+    std::string folder;  // the current directory of the process
     friend bool operator==(const Standing&, const Standing&) = default;
     friend void PrintTo(const Standing& standing, std::ostream* out) {
       *out << standing.pointer << ' ' << standing.caption << ' ' << standing.status << ' ' << standing.windows
@@ -98,9 +99,9 @@ class Saving : public SelectionByHand {
     }
   };
   Standing Now() const;
-  // Remembers how everything is before a command, with the pointer over the window's edge.
+  // Remembers the state before a command, with the pointer over the window's edge.
   void KeepAsFound();
-  // Waits for that to be so again: a command that is over has put everything back.
+  // Waits until the state is the same again: a finished command has restored it all.
   void ExpectAsFound() const;
 
   static HCURSOR ShownPointer();

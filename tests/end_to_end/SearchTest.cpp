@@ -95,7 +95,7 @@ TEST_F(Search, GreysFileAndEditInTheMenuBarFromARefusalToTheNextSuccess) {
   bar.bottom = bar.top;
   bar.top -= GetSystemMetrics(SM_CYMENU);
   MovePointer({0, 0});
-  // The window may not be painted yet: the picture counts once it shows text and stays the same.
+  // The window may not be painted yet: the picture is valid once it shows text and stays the same.
   Screenshot enabled(bar);
   ASSERT_TRUE(Eventually([&] {
     const Screenshot before = std::exchange(enabled, Screenshot(bar));
@@ -112,7 +112,7 @@ TEST_F(Search, GreysFileAndEditInTheMenuBarFromARefusalToTheNextSuccess) {
 TEST_F(Search, OkWithoutAnEntryDoesNothing) {
   Start();
   program_.Command(FrmFindIcon_CmdOk);
-  program_.Command(FrmFindIcon_mnuViewopt1);  // served after it
+  program_.Command(FrmFindIcon_mnuViewopt1);  // processed after it
   EXPECT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Lv).IsVisible(); }));
 }
 

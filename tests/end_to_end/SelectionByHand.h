@@ -16,7 +16,7 @@ namespace tarvik::end_to_end {
 
 using Places = std::set<int>;  // of entries, counted from 0
 
-// Icons found and chosen by hand, and what the program then shows of the choice.
+// Icons found and selected by hand, and how the program then shows the selection.
 class SelectionByHand : public EndToEnd {
  protected:
   static constexpr int fewIcons = 20;  // a row and a third of 32-pixel icons
@@ -38,8 +38,8 @@ class SelectionByHand : public EndToEnd {
     ASSERT_EQ(List().RowCount(), 100);
   }
 
-  // A place on the screen by its place in the grid's picture, or by the entry whose cell's middle it is. The display
-  // shows the picture as much larger as it has more than 96 dots an inch.
+  // The position on the screen of a point of the grid's picture, or of the middle of an entry's cell. The display
+  // enlarges the picture by its dpi divided by 96.
   POINT GridPlace(int x, int y) const {
     const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
     const int dots = DotsOfDisplay();
@@ -51,7 +51,7 @@ class SelectionByHand : public EndToEnd {
   }
   void ClickCell(int entry, HeldKeys held = {}) const { Click(CellMiddle(entry), held); }
 
-  // Waits until the program has seen all input so far: a click on a box comes after it, and shows.
+  // Waits until the program has processed all input so far: a click on a box follows it, and its effect is visible.
   void WaitForAllInput() const {
     const Control box = program_.Item(FrmFindIcon_chkSubDir);
     const bool ticked = box.IsChecked();
@@ -68,7 +68,7 @@ class SelectionByHand : public EndToEnd {
     return rows;
   }
 
-  // The entries in sight with a whole black frame. One that is neither black nor white stands as -1.
+  // The visible entries with a whole black frame. A frame that is neither black nor white is reported as -1.
   Places Frames() const {
     const Screenshot shown(program_.Item(FrmFindIcon_PicFrame).Inside());
     const int scrolled = static_cast<int>(program_.Item(FrmFindIcon_PicFrame).Inside().top -
@@ -85,7 +85,7 @@ class SelectionByHand : public EndToEnd {
     return frames;
   }
 
-  // The current entry, counted from 0, as label and status bar tell it.
+  // The current entry, counted from 0, as label and status bar show it.
   void ExpectCurrent(int entry) const {
     const std::string label = "Icon No " + std::to_string(entry + 1) + " Selected.";
     EXPECT_TRUE(Eventually([&] { return TextOf(FrmFindIcon_lblInfo) == label; })) << TextOf(FrmFindIcon_lblInfo);
@@ -100,7 +100,8 @@ class SelectionByHand : public EndToEnd {
     EXPECT_TRUE(Eventually([&] { return Frames() == expected; }, shortly)) << ::testing::PrintToString(Frames());
   }
 
-  // How long a wrong picture may still become the right one: no less than anything else, on a busy machine.
+  // How long a wrong picture may still become the right one: as long as any other wait, because the machine may be
+  // busy.
   static constexpr std::chrono::seconds shortly = patience;
 
   const GridGeometry* geometry_ = &gridGeometries[Size32];

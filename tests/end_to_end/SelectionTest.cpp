@@ -1,4 +1,4 @@
-// Choosing icons in the grid with the real mouse, and what the menus make of the choice.
+// Selecting icons in the grid with the real mouse, and what the menu commands do with the selection.
 
 #include <windows.h>
 
@@ -128,7 +128,7 @@ TEST_F(GridSelection, ClicksDuringASearchDoNothing) {
     for (const char* name : {"\\a.ico", "\\b.ico"}) tree_.MakeFile(folder + name, IconFileOf(0xFF));
   }
   Start({}, true);
-  // Once there are entries to click, most being still to come: the status bar names the number reached.
+  // As soon as there are entries to click and most are still to come: the status bar shows the number reached.
   const auto hasEntries = [&] {
     const std::string status = Status();
     const auto digits = status.find_first_of("0123456789");

@@ -15,7 +15,7 @@ using ::testing::ElementsAre;
 class Settings : public EndToEnd {
  protected:
   bool SubDirTicked() const { return program_.Item(FrmFindIcon_chkSubDir).IsChecked(); }
-  // The name of the folder that the folder list stands at: the chosen row.
+  // The name of the folder selected in the folder list.
   std::string ChosenFolder() const {
     const Control folders = program_.Item(FrmFindIcon_Dir1);
     return folders.ListItems().at(static_cast<std::size_t>(folders.ListChoice()));

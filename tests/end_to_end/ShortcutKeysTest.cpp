@@ -35,7 +35,7 @@ class HelpKey : public ViewByHand {
     EXPECT_FALSE(program_.FindBox()) << where;
     SetForegroundWindow(front_);
   }
-  // What the keyboard goes to once the guide was shown.
+  // Gives the keyboard back to the window after the guide was shown.
   void Front(const Control& window) {
     front_ = window.Window();
     ASSERT_TRUE(Eventually([&] {

@@ -1,4 +1,4 @@
-// The program with a skin beside it, painted by a component of the tests' own that writes down what it is asked for.
+// The program with a skin in its folder, painted by a component of the tests' own that logs each request.
 
 #include <windows.h>
 
@@ -11,7 +11,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-// The program inherits the diary's name.
+// The program inherits the name of the log from the environment.
 class Skinned : public ViewByHand {
  protected:
   Skinned() {
@@ -27,7 +27,7 @@ class Skinned : public ViewByHand {
     (void)home_.MakeFolder("Skins");
     (void)home_.MakeFile("Skins\\Galaxy.skn");
   }
-  // What the diary tells since it was last asked about.
+  // The lines of the log since the last call.
   std::string News() const { return support::ReadAll(diary_).substr(known_); }
   void ExpectNews(const std::string& entries) {
     EXPECT_TRUE(Eventually([&] { return News() == entries; }, shortly)) << News() << "\ninstead of " << entries;
@@ -37,9 +37,9 @@ class Skinned : public ViewByHand {
     return "made|LoadSkin " + home_.In("Skins\\Galaxy.skn") + "|ApplySkin " +
            std::to_string(reinterpret_cast<LONG_PTR>(window.Window())) + "|";
   }
-  // A window that has just come up has had its skin, and nothing else has.
+  // Checks that a newly opened window has got its skin, and no other window has.
   void ExpectSkinOf(const Control& window) { ExpectNews(Applied(window)); }
-  // A window that has just gone took its component with it.
+  // Checks that a closed window released its component.
   void ExpectEnd() { ExpectNews("gone|"); }
   // For the windows that a command opens.
   void ExpectSkinWhileOpen(const Dialog& dialog, int ending) {

@@ -1,4 +1,4 @@
-// How the program comes up and goes.
+// How the program starts and ends.
 
 #include <gmock/gmock.h>
 
@@ -46,7 +46,7 @@ TEST_F(StartUp, TheMainWindowStandsInTheMiddleAndAThirdDown) {
   const RECT place = program_.Window().Place();
   const LONG freeWidth = GetSystemMetrics(SM_CXSCREEN) - (place.right - place.left);
   const LONG freeHeight = GetSystemMetrics(SM_CYSCREEN) - (place.bottom - place.top);
-  // Places are reckoned in twentieths of a point, so a pixel may be rounded either way.
+  // Positions are computed in twentieths of a point, so a pixel may be rounded either way.
   EXPECT_NEAR(place.left, freeWidth / 2.0, 1.0);
   EXPECT_NEAR(place.top, freeHeight / 3.0, 1.0);
 }
@@ -73,7 +73,7 @@ TEST_F(StartUp, TheSameFileStartedTwiceAtOnceGivesTwoProgramsThatWork) {
     each->Item(FrmFindIcon_CmdFind).Send(BM_CLICK);
     EXPECT_EQ(ReportView(each->Item(FrmFindIcon_Lv)).RowCount(), 1);
   }
-  // Each leaves its own settings in the file that both have.
+  // Each writes its own settings to the file that both share.
   second.Item(FrmFindIcon_chkSubDir).Send(BM_CLICK);
   EXPECT_EQ(second.Close(), 0U);
   EXPECT_EQ(ReadSetting("Subdir"), "True");

@@ -1,5 +1,5 @@
-// The start-up window and About box in three languages, and in one that the program does not know; and a language that
-// may not be read.
+// The start-up window and About box in three languages and in one that the program does not support, and with a
+// language value that may not be read.
 
 #include <windows.h>
 
@@ -15,7 +15,7 @@ namespace tarvik::end_to_end {
 namespace {
 
 struct SpashRow {
-  std::optional<std::string> value;  // as it stands in the registry
+  std::optional<std::string> value;  // as stored in the registry
   const char* name;                  // of the pictures
   const char* caption;
   const char* notice;
@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, StartUpTexts,
 
 class StartUpRights : public EndToEnd {};
 
-// Leaves everybody, the owner too, the right to read the language's key and no more.
+// Leaves every user, the owner too, only the right to read the language's key.
 class ReadOnlyLanguage : NonCopyable {
  public:
   ReadOnlyLanguage() { SetRights(L"D:P(A;;KR;;;WD)"); }

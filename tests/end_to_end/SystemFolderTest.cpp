@@ -1,4 +1,4 @@
-// The libraries of the system folder, counted also by a program that nobody here wrote.
+// The libraries of the system folder, counted also by an independent program.
 
 #include <gmock/gmock.h>
 

@@ -4,8 +4,8 @@
 
 namespace tarvik::end_to_end {
 
-// Puts the program whose shell finds no icon in a 16-bit module in the place of a copy that has not been started yet.
-// All else in it is as in the real one.
+// Replaces a copy that has not been started yet by the program whose shell finds no icon in a 16-bit module. Everything
+// else in it is as in the real program.
 void TakeTodaysShell(const Program& program);
 
 }  // namespace tarvik::end_to_end

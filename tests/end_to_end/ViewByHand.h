@@ -15,7 +15,7 @@ namespace tarvik::end_to_end {
 // The enhanced view, opened by hand. Entries are counted from 1 here, as the view counts them.
 class ViewByHand : public SelectionByHand {
  protected:
-  // Searches so many icon files, of one icon each, in as many colours.
+  // Searches that many icon files, of one icon each, each in its own colour.
   void FindFiles(int count) {
     for (int i = 1; i <= count; ++i)
       tree_.MakeFile(FileName(i), support::IconFileOf(0x20C000U + 40U * static_cast<Color>(i)));
@@ -36,8 +36,8 @@ class ViewByHand : public SelectionByHand {
     ASSERT_EQ(List().RowCount(), 3);
   }
 
-  // Opens the view by a double click on an entry's icon in the grid. One of its clicks may get lost, and it is then
-  // made again.
+  // Opens the view by a double click on an entry's icon in the grid. If a click gets lost, the double click is
+  // repeated.
   EnhancedView OpenOn(int number) const {
     EXPECT_TRUE(Eventually([&] {
       DoubleClick(CellMiddle(number - 1));
@@ -46,21 +46,21 @@ class ViewByHand : public SelectionByHand {
     return EnhancedView(program_);
   }
 
-  // What the status bar says of an entry of FindFiles.
+  // The status bar's text for an entry of FindFiles.
   std::string Source(int number) const { return In(FileName(number)) + " - 0"; }
-  // Waits for the view to show that entry, as its status bar tells it.
+  // Waits for the view to show that entry in its status bar.
   void ExpectEntry(const EnhancedView& view, int number) const {
     EXPECT_TRUE(Eventually([&] { return view.Status() == Source(number); }, shortly)) << view.Status();
   }
-  // Clicks with the real mouse until that has done what it should. A click that got lost did nothing.
+  // Clicks with the real mouse until the click has its effect. A click that got lost has no effect.
   void ClickUntil(const EnhancedView& view, int button, const std::function<bool()>& isDone) const {
     EXPECT_TRUE(Eventually([&] {
       view.Click(button);
       return Eventually(isDone, lostAfter);
     })) << button;
   }
-  // As a user's eye compares: whether the view comes to show the entry with every pixel of its icon a square of
-  // `factor` pixels.
+  // Compares what is visible: waits until the view shows the entry with every pixel of its icon as a square of `factor`
+  // pixels.
   void ExpectPicture(const EnhancedView& view, const Entry& entry, int size, int factor) const {
     Surface icon(size, size, white);
     DrawEntry(icon, entry, {0, 0}, size);

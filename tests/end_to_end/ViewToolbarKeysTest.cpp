@@ -21,7 +21,7 @@ class ViewToolbarKeys : public ViewByHand {
   bool IsToolbarFocused(const EnhancedView& view) const {
     return program_.Focus().Window() == view.Window().Child(frmBit_tlb_control).Window();
   }
-  // The id of the button that is marked.
+  // The id of the highlighted button.
   static int Marked(const EnhancedView& view) {
     const Control toolbar = view.Window().Child(frmBit_tlb_control);
     const auto place = static_cast<int>(toolbar.Send(TB_GETHOTITEM));
@@ -80,7 +80,7 @@ TEST_F(ViewToolbarKeys, StartAndStopTheShow) {
   ExpectMarked(view, frmBit_tlb_control_Start);
   PressKey(VK_RETURN);
   EXPECT_TRUE(Eventually([&] { return view.ShowIsOn(); }));
-  PressKey(VK_RETURN);  // which the button, disabled now, does not take
+  PressKey(VK_RETURN);  // the button, disabled now, ignores it
   PressKey(VK_RIGHT);
   ExpectMarked(view, frmBit_tlb_control_Stop);
   EXPECT_TRUE(view.ShowIsOn());
