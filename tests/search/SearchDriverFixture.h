@@ -28,7 +28,7 @@ inline Lines Joined(std::initializer_list<Lines> pieces) {
   return all;
 }
 
-// The driver over a fake window and a fake machine, standing at "C:\a".
+// The driver over a fake window and a fake machine, with "C:\a" as the current folder.
 class SearchDriverTest : public ::testing::Test {
  protected:
   SearchDriverTest() { PointAt("C:\\a"); }

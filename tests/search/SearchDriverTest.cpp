@@ -199,7 +199,7 @@ TEST_F(SearchDriverTest, SaysWhichFilesAreAnimated) {
   EXPECT_THAT(animated, ElementsAre(true, false, true, true, false, false));
 }
 
-// Icons that do not come out.
+// Icons that cannot be extracted.
 
 TEST_F(SearchDriverTest, ListsAnIconThatItsFileDoesNotYieldAndLeavesItsCellEmpty) {
   AddFile("C:\\a", "broken.dll", {.icons = 2, .yields = false});
@@ -307,7 +307,7 @@ TEST_F(SearchDriverTest, TakesTheFailureExitWhenTheLimitIsTooLarge) {
   EXPECT_FALSE(state.IsSearching);
 }
 
-// The window took itself for searching ever after, and could not even be closed.
+// The window once stayed in its searching state for good, and could not even be closed.
 TEST_F(SearchDriverTest, TakesTheFailureExitAlsoWhenTheListCannotBeCleared) {
   window.max = "many";
   window.onClearListView = [] { throw std::bad_alloc(); };

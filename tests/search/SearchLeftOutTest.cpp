@@ -1,4 +1,4 @@
-// Files that a search leaves out, because the system cannot be given their paths.
+// Files that a search leaves out, because their paths cannot be passed to the system.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

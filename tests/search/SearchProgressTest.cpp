@@ -1,4 +1,4 @@
-// How far a search says that it is.
+// The progress that a search reports.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

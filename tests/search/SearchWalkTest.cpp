@@ -1,4 +1,4 @@
-// How a search goes through a folder and those below it.
+// The order in which a search walks through a folder and its sub-folders.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -62,7 +62,7 @@ TEST_F(SearchWalkTest, ListsInTheOrderOfTheWalk) {
                                  "C:\\a\\d\\4.dll", "C:\\a\\d\\4.dll"));
 }
 
-// Dir1 still stands at the parent when a nested folder is searched.
+// Dir1 still shows the parent while a nested folder is searched.
 TEST_F(SearchWalkTest, ShowsTheFolderThatDir1StandsAt) {
   Find();
   EXPECT_THAT(script.Lines("status Wait"),
@@ -130,7 +130,7 @@ TEST_F(SearchWalkTest, EntersAMountedVolumeAndWhatIsInIt) {
 }
 
 TEST_F(SearchWalkTest, EntersNoFolderThatItIsInAlready) {
-  // In b, a volume is mounted whose root is what the walk started at.
+  // In b, a volume is mounted whose root is the folder in which the walk started.
   AddSubFolder("C:\\a\\b", "C:\\a\\b\\again");
   window.folders["C:\\a\\b\\again"].isMounted = true;
   window.folders["C:\\a\\b\\again"].identity = "C:\\a";
@@ -141,7 +141,7 @@ TEST_F(SearchWalkTest, EntersNoFolderThatItIsInAlready) {
 }
 
 TEST_F(SearchWalkTest, EntersNoFolderThatItIsInAlreadyBehindAMountedVolumeEither) {
-  // The root of the volume mounted in b is above where the walk started, so that its own start is in it.
+  // The root of the volume mounted in b is above the folder in which the walk started, so it contains that folder.
   AddSubFolder("C:\\a\\b", "C:\\a\\b\\root");
   window.folders["C:\\a\\b\\root"].isMounted = true;
   window.folders["C:\\a\\b\\root"].identity = "C:\\";
@@ -182,7 +182,7 @@ TEST_F(SearchWalkTest, SaysAtWhichFileTheCountOverflows) {
 }
 
 TEST_F(SearchWalkTest, SaysAtWhichFileTheGridOverflows) {
-  // The last file turned into a larger one after it was counted.
+  // The last file was replaced by a larger one after it was counted.
   window.onEvents = [&] { icons.files["C:\\a\\d\\4.dll"].icons = 13'000; };
   try {
     Find();
@@ -216,7 +216,7 @@ TEST_F(SearchWalkTest, StaysInTheFilesFolderWithoutSubFolders) {
   EXPECT_EQ(list.Count(), 1);
 }
 
-// The user can change the options whenever the search yields.
+// The user can change the options each time the search processes messages.
 
 TEST_F(SearchWalkTest, AsksForSubFoldersAnewInEachFolder) {
   window.onEvents = [&] { window.subDir = false; };

@@ -13,7 +13,7 @@ namespace {
 
 using support::BytesInMemory;
 
-// The file may be asked for more than it has: its chunks may say that there is more.
+// Reads beyond the end of the file are allowed: its chunks may claim more data than there is.
 BytesInMemory FileOf(const std::string& bytes) {
   const auto view = std::as_bytes(std::span(bytes));
   return BytesInMemory({view.begin(), view.end()}, BytesInMemory::Strictness::None);
@@ -199,7 +199,7 @@ TEST(InspectAnimation, KnowsAStillCursorByItsStart) {
   EXPECT_FALSE(IsStillCursor(""));
 }
 
-// A file of any size that takes no room: zeros, but for what it starts with.
+// A file of any size that needs no memory: zeros, except for its start.
 class LongFile : public ByteSource {
  public:
   LongFile(std::uint64_t size, std::string start) : size_(size), start_(std::move(start)) {}
@@ -224,8 +224,8 @@ class LongFile : public ByteSource {
 
 constexpr std::uint64_t fiveGigabytes = std::uint64_t{5} << 30U;
 
-// Each run of eight zeros is a chunk without data. A file of 512 MB once cost a search 14 seconds, one of 5 GB did not
-// end.
+// Each run of eight zeros is a chunk without data. A file of 512 MB once took a search 14 seconds, and with one of 5 GB
+// it did not end.
 TEST(InspectAnimation, LooksAtSoManyChunksAndNoMore) {
   LongFile file(fiveGigabytes, "RIFF" + Number(0xFFFFFFFF) + "ACON" + Header(2, 2) + Pictures(2));
   const AnimationFacts facts = InspectAnimation(file);
@@ -243,7 +243,7 @@ TEST(InspectAnimation, LooksAtSoManyEntriesOfAnOrderAndNoMore) {
   EXPECT_LE(file.bytesRead, maxSequenceEntries * 4U + maxAnimationChunks * 8U + 4 * 4096);
 }
 
-// One with its chunks so far apart that each costs a block.
+// A file with its chunks so far apart that each costs a block.
 class FarApart : public LongFile {
  public:
   FarApart() : LongFile(fiveGigabytes, "RIFF" + Number(0xFFFFFFFF) + "ACON") {}

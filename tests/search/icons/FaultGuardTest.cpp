@@ -10,15 +10,15 @@
 namespace tarvik {
 namespace {
 
-// A page that nobody may read.
+// A page without access rights.
 class ForbiddenPage : NonCopyable {
  public:
   ForbiddenPage() : page_(VirtualAlloc(nullptr, 4096, MEM_RESERVE | MEM_COMMIT, PAGE_NOACCESS)) {}
   ~ForbiddenPage() { VirtualFree(page_, 0, MEM_RELEASE); }
 
-  // An instruction of this program reads the page.
+  // The page is read by an instruction of this program.
   char Read() const { return *static_cast<volatile char*>(page_); }
-  // An instruction of the system does.
+  // The page is read by an instruction of the system.
   void HaveSystemRead() const { RtlCompareMemory(page_, other_.data(), other_.size()); }
 
  private:
@@ -26,14 +26,14 @@ class ForbiddenPage : NonCopyable {
   std::array<char, 16> other_{};
 };
 
-// Needs more of the stack than there is.
+// Overflows the stack if `depth` is large enough.
 int Deep(int depth) {
   volatile char room[4096];
   room[0] = 1;
   return depth == 0 ? 0 : Deep(depth - 1) + room[0];
 }
 
-// A program that an exception ends has the exception's number as its exit code.
+// Matches a program that ended by an exception: the exception's code is its exit code.
 class EndedBy {
  public:
   explicit EndedBy(DWORD exception) : exception_(exception) {}
@@ -66,7 +66,7 @@ TEST(FaultGuard, ServesManyFaultsOneAfterTheOther) {
   EXPECT_EQ(faults, 1000);
 }
 
-// Raised by an instruction of the system each time.
+// Each is raised by an instruction of the system.
 TEST(FaultGuard, CatchesEachKindOfFaultThatADamagedFileLeadsTo) {
   for (const DWORD kind :
        {EXCEPTION_ACCESS_VIOLATION, EXCEPTION_IN_PAGE_ERROR, EXCEPTION_INT_DIVIDE_BY_ZERO, EXCEPTION_INT_OVERFLOW}) {
@@ -83,11 +83,11 @@ class FaultGuardDeathTest : public ::testing::Test {
   void TearDown() override { SetUnhandledExceptionFilter(nullptr); }
 
  private:
-  // Without a box of the system, and without a debugger that prints a trace.
+  // Ends the program without the system's error box, and without a debugger that prints a trace.
   static LONG WINAPI EndAtOnce(EXCEPTION_POINTERS* /*exception*/) { return EXCEPTION_EXECUTE_HANDLER; }
 };
 
-// Once a fault of the loading of a function passed for a damaged file, and no file had icons any more.
+// A fault while a function was loaded was once taken for a damaged file, and from then on no file had icons.
 TEST_F(FaultGuardDeathTest, LetsAFaultOfTheProgramsOwnEndIt) {
   EXPECT_EXIT(
       {

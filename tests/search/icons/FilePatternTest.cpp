@@ -75,7 +75,7 @@ TEST(MatchesPattern, MatchesNoUsualFileWithThePatternForNone) {
   ExpectRows({{"a.ico", "aaa.aaa", false}, {"AAA.aaa", "aaa.aaa", true}});
 }
 
-// A matcher that tries every split of the name would not come back from this.
+// A matcher that tries every split of the name would practically never finish this.
 TEST(MatchesPattern, ComesBackFromAPatternOfManyStars) {
   std::string pattern;
   for (int i = 0; i < 100; ++i) pattern += "*a";

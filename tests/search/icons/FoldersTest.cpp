@@ -48,11 +48,11 @@ TEST(Folders, SortsByNameWithCaseIgnored) {
   const TemporaryFolder folder;
   const Names sorted{"_.ico", "a.ico", "B.ico", "b1.ico", "Z.ico", "é.ico", "中.ico", "图.ico"};
   for (const std::size_t i : {5U, 2U, 7U, 0U, 4U, 1U, 6U, 3U}) folder.MakeFile(sorted[i]);
-  // Ordinal with case ignored compares the upper-case forms: "_" (5F) stands after "Z" (5A).
+  // An ordinal comparison that ignores case compares the upper-case forms: "_" (5F) comes after "Z" (5A).
   EXPECT_EQ(Files(folder.Path()), (Names{"a.ico", "B.ico", "b1.ico", "Z.ico", "_.ico", "é.ico", "中.ico", "图.ico"}));
 }
 
-// Folders in which the system finds these entries, in this order: Wine's own order would hide that they are not sorted.
+// Folders for which the system lists these entries in this order: Wine's own order would hide that they are not sorted.
 Folders FoldersOf(std::vector<FolderEntry> entries, std::map<std::string, std::vector<std::byte>> reparseData = {}) {
   return Folders({[entries](const std::string&, const Folders::Dependencies::Visit& visit) {
                     for (const FolderEntry& entry : entries) visit(entry);
@@ -65,7 +65,7 @@ Folders FoldersOf(std::vector<FolderEntry> entries, std::map<std::string, std::v
 
 constexpr std::array shuffled{L"图.ico", L"b1.ico", L"é.ico", L"B.ico",  L"a.ico", L"Z.ico",
                               L"A.ico",  L"_.ico",  L"b.ico", L"中.ico", L"AA.ico"};
-// Names that differ in case alone are in the order of their codes.
+// Names that differ only in case are in the order of their character codes.
 const Names inOrder{"A.ico", "a.ico", "AA.ico", "B.ico",  "b.ico", "b1.ico",
                     "Z.ico", "_.ico", "é.ico",  "中.ico", "图.ico"};
 

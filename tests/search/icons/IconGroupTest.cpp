@@ -43,7 +43,7 @@ Bytes Group(std::initializer_list<Listed> entries) {
   return bytes;
 }
 
-// The place of the picture that is chosen among those, from 1; 0 if there is none.
+// The number of the picture that is chosen among those, from 1; 0 if none is.
 int Chosen(std::initializer_list<Listed> entries, const IconWish& wish = {.width = 32, .height = 32, .bits = 32}) {
   return ChoosePicture(Group(entries), wish).value_or(0);
 }
@@ -98,12 +98,12 @@ TEST(ChoosePicture, TakesTheNearestNumberOfBitsAmongThoseOfThatSize) {
 }
 
 TEST(ChoosePicture, DoesNotTakeBitsForSidesThatAreOffElsewise) {
-  // Both are 2 pixels off, one in width and the other in height.
+  // Both differ by 2 pixels, one in width and the other in height.
   EXPECT_EQ(Chosen({{30, 32, 4}, {32, 30, 32}}), 1);
   EXPECT_EQ(Chosen({{30, 32, 4}, {34, 32, 32}}), 2);
   EXPECT_EQ(Chosen({{31, 31, 4}, {30, 32, 32}}), 1);
   EXPECT_EQ(Chosen({{31, 31, 4}, {32, 30, 32}}), 1);
-  // One side is the same, and the other is further off.
+  // One side is equal, but the other differs more.
   EXPECT_EQ(Chosen({{32, 32, 4}, {32, 16, 32}}), 1);
   EXPECT_EQ(Chosen({{32, 32, 4}, {16, 32, 32}}), 1);
 }
@@ -233,7 +233,7 @@ TEST(HoldsPicture, IsTrueForTheStartOfAPngWithSuchSides) {
   }
 }
 
-// The bound on what is read of a picture leaves room for the largest one.
+// The limit on what is read of a picture is large enough for the largest one.
 TEST(HoldsPicture, NeedsNoMoreBytesThanAreRead) {
   EXPECT_LE(With(PlainBitmap(256, 256, 32), 32, 256, 4).size() + std::size_t{4} * 256, maxPictureBytes);
 }

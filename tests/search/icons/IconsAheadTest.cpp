@@ -23,12 +23,12 @@ using Lines = std::vector<std::string>;
 // A file as the shell sees it now.
 struct ShellFile {
   int icons = 0;
-  std::set<int> broken = {};  // that do not come out
+  std::set<int> broken = {};  // that cannot be extracted
   std::uint64_t written = 1;
   bool isThere = true;
 };
 
-// An icon that knows which one it is, and is counted while it lives.
+// An icon that knows its own name; living icons are counted.
 class NamedIcon final : public ExtractedIcon, NonCopyable {
  public:
   NamedIcon(std::string name, int& alive) : name_(std::move(name)), alive_(alive) { ++alive_; }
@@ -42,7 +42,7 @@ class NamedIcon final : public ExtractedIcon, NonCopyable {
   int& alive_;
 };
 
-// The shell, with every call written down.
+// A shell that logs every call.
 class CountingShell final : public IconSource {
  public:
   int CountIcons(const std::string& path) override {
@@ -88,12 +88,12 @@ class CountingShell final : public IconSource {
 
 class IconsAheadTest : public ::testing::Test {
  protected:
-  // What the icon is, and nothing of it afterwards.
+  // The icon's name; the icon itself is released.
   std::string Icon(const std::string& path, int index) {
     const auto icon = icons.Extract(path, index);
     return icon ? static_cast<NamedIcon&>(*icon).Name() : "none";
   }
-  // As the listing pass does it.
+  // In the order of the listing pass.
   Lines List(const std::string& path) {
     Lines names;
     const int count = icons.CountIcons(path);
@@ -141,7 +141,7 @@ TEST_F(IconsAheadTest, TakesOneByOneOutsideASearchOrBatch) {
   EXPECT_EQ(shell.script.Lines(), twice);
 }
 
-// A batch: nobody counts, and the first icon may be any.
+// A batch does not count the icons first, and its first icon may be any.
 TEST_F(IconsAheadTest, ReadsAheadFromTheSecondIconOnThatIsAskedForInTurn) {
   shell.files["a.dll"] = {.icons = 100};
   const auto batch = icons.InTurn();
@@ -232,7 +232,7 @@ TEST_F(IconsAheadTest, DropsWhatItHoldsIfTheFileIsNotAsItWas) {
   }
 }
 
-// A batch that writes slowly serves messages after every few icons.
+// A batch that writes slowly processes messages after every few icons.
 TEST_F(IconsAheadTest, TakesLittleMoreThanIsUsedWhereItOftenLetsGo) {
   shell.files["a.dll"] = {.icons = 2000};
   const auto batch = icons.InTurn();

@@ -26,7 +26,7 @@ TEST(IsModuleName, IsTrueForFourEndingsInAnyCase) {
   }
 }
 
-// Files by path, of which it is counted how often one is opened.
+// Files by path; counts how often each is opened.
 class OpenedFiles {
  public:
   void Put(const std::string& path, Bytes bytes, std::uint64_t written = 0) {

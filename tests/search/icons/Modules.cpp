@@ -20,13 +20,13 @@ void Write(ModuleBytes& bytes, std::size_t place, std::uint64_t number, std::siz
   for (std::size_t i = 0; i < width; ++i, number >>= 8U) bytes[place + i] = static_cast<std::byte>(number);
 }
 
-// A string with its length in front, as both tables of names have them.
+// A string preceded by its length, as in both tables of names.
 void AppendName(ModuleBytes& bytes, const std::string& name) {
   Append(bytes, name.size(), 1);
   for (const char character : name) bytes.push_back(static_cast<std::byte>(character));
 }
 
-constexpr std::size_t furtherUnits = 3;  // that a resource reaches into the next one
+constexpr std::size_t furtherUnits = 3;  // by which a resource reaches into the next one
 
 struct Resource {
   ModuleBytes data;
@@ -77,7 +77,7 @@ std::vector<Type> TypesOf(std::span<const ModuleIcon> icons, const ModuleLayout&
   return types;
 }
 
-// Writes the table of resources, then the names in it, then what it names.
+// Writes the table of resources, then its names, then the resources.
 class TableWriter {
  public:
   TableWriter(ModuleBytes& file, const ModuleLayout& layout) : file_(file), layout_(layout) {}
@@ -90,8 +90,8 @@ class TableWriter {
       Append(file_, 0, 4);
       for (const Resource& resource : type.resources) {
         places_.push_back(file_.size());
-        Append(file_, 0, 4);       // its place and length, which are not known yet
-        Append(file_, 0x1C30, 2);  // may be moved and discarded, is not written to
+        Append(file_, 0, 4);       // its position and length, which are not known yet
+        Append(file_, 0x1C30, 2);  // flags: may be moved and discarded, is read-only
         NameOrNumber(resource.name, resource.number);
         Append(file_, 0, 4);
       }
@@ -138,7 +138,7 @@ class TableWriter {
   ModuleBytes& file_;
   const ModuleLayout& layout_;
   std::vector<std::size_t> places_;                         // of the resources' entries
-  std::vector<std::pair<std::size_t, std::string>> names_;  // and the places that say where each is
+  std::vector<std::pair<std::size_t, std::string>> names_;  // and the positions of the references to each
 };
 
 }  // namespace

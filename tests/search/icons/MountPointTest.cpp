@@ -24,7 +24,7 @@ void AppendText(Bytes& bytes, std::string_view text) {
   for (const char character : text) Append(bytes, static_cast<unsigned char>(character), 2);
 }
 
-// A mount point's data: the tag, the length of what follows, two places of names, the names.
+// The data of a mount point: the tag, the length of the rest, the positions of two names, the names.
 Bytes MountPoint(std::string_view target, std::string_view shown = "", std::uint32_t tag = mountPointTag) {
   const auto targetSize = static_cast<std::uint32_t>(2 * target.size());
   const auto shownSize = static_cast<std::uint32_t>(2 * shown.size());
@@ -59,7 +59,7 @@ TEST(IsVolumeMount, IsFalseOfASymbolicLink) {
 
 TEST(IsVolumeMount, FindsTheTargetBehindAnotherName) {
   Bytes bytes = MountPoint("", volume);
-  // The places of the two names, changed for one another.
+  // The positions of the two names, swapped.
   std::swap_ranges(bytes.begin() + 8, bytes.begin() + 12, bytes.begin() + 12);
   EXPECT_TRUE(IsVolumeMount(bytes));
 }

@@ -24,7 +24,7 @@ using Bytes = std::vector<std::byte>;
 constexpr std::size_t offsetPlace = 0x3C;
 constexpr std::size_t table = support::tableOfModule;
 constexpr std::size_t header = support::newHeaderOfModule;
-// In a plain module, the entries of pictures and groups: behind the shift and the start of the first type.
+// In a plain module, the entries of pictures and groups: after the shift and the start of the first type.
 constexpr std::size_t firstPicture = table + 2 + 8;
 constexpr std::size_t entrySize = 12;
 
@@ -95,7 +95,7 @@ TEST(NewExecutable, FindsResourcesAtEveryAlignment) {
   for (unsigned shift = 0; shift <= 15; ++shift) {
     EXPECT_EQ(Marks(MakeModule(PlainIcons(3), {.shift = shift})), (std::vector{1, 2, 3})) << shift;
   }
-  // Places that more than 16 bits are needed for.
+  // Offsets that need more than 16 bits.
   std::vector<ModuleIcon> icons = PlainIcons(2);
   icons.insert(icons.begin() + 1, {.pictures = {{255, 255, 32, Bytes(70'000)}}});
   EXPECT_EQ(Marks(MakeModule(icons, {.shift = 9})), (std::vector{1, -1, 2}));
@@ -131,7 +131,7 @@ TEST(NewExecutable, FindsResourcesThatShareTheirBytesOrOverlap) {
   icons.push_back(icons[0]);
   EXPECT_EQ(Marks(MakeModule(icons, {.sharedData = true})), (std::vector{1, 2, 3, 1}));
   EXPECT_EQ(Marks(MakeModule(icons, {.overlappingData = true})), (std::vector{1, 2, 3, 1}));
-  // Two groups at one place.
+  // Two groups at one offset.
   const Bytes module = MakeModule(PlainIcons(2));
   const std::size_t group = FirstGroup(2);
   EXPECT_EQ(Marks(With(module, group + entrySize, U16(module, group))), (std::vector{1, 1}));
@@ -195,7 +195,7 @@ TEST(NewExecutable, EndsItsTableAtATypeOfZero) {
   const Bytes module = MakeModule(PlainIcons(3));
   EXPECT_EQ(CountOf(With(module, FirstGroup(3) - 8, 0)), 0);
   EXPECT_EQ(CountOf(With(module, firstPicture - 8, 0)), 0);
-  // The groups are behind it: of two other resources, then the pictures, and a type between.
+  // The groups come after it: after two other resources, then the pictures, and a type between.
   const Bytes mixed = MakeModule(PlainIcons(3), {.otherResources = true});
   const std::size_t between = table + 2 + 8 + 2 * entrySize + 8 + 3 * entrySize;
   ASSERT_EQ(U16(mixed, between) & 0x8000U, 0U) << "a type with a name";
@@ -209,7 +209,7 @@ TEST(NewExecutable, HasNoMoreIconsThanThereIsRoomForInItsTable) {
   const std::size_t count = FirstGroup(3) - 6;
   EXPECT_EQ(CountOf(With(module, count, 2)), 2);
   EXPECT_EQ(CountOf(With(module, count, 0)), 0);
-  // The names behind the table are read as entries by then, as far as they fill one.
+  // The names after the table are then read as entries, if there are enough bytes for one.
   const Bytes exact = With(module, header + 0x26, static_cast<std::uint32_t>(FirstGroup(3) + 3 * entrySize - header));
   EXPECT_EQ(CountOf(With(exact, count, 0xFFFF)), 3);
 }
@@ -228,7 +228,7 @@ TEST(NewExecutable, HasTheIconsBeforeAGroupBehindItsEnd) {
   EXPECT_EQ(Marks(With(module, FirstGroup(4) + 2 * entrySize, units)), (std::vector{1, 2}));
   EXPECT_EQ(CountOf(With(module, FirstGroup(4) + 2 * entrySize, units - 1)), 4) << "the last unit is there";
   EXPECT_EQ(CountOf(With(module, FirstGroup(4), 0xFFFF)), 0);
-  // With the groups in front, the pictures are found all the same.
+  // If the groups come first, the pictures are found all the same.
   const Bytes turned = MakeModule(PlainIcons(4), {.groupsFirst = true});
   EXPECT_EQ(Marks(With(turned, firstPicture + entrySize, 0xFFFF)), (std::vector{1}));
 }
@@ -286,7 +286,7 @@ TEST(NewExecutable, ReadsItsHeadersAndItsTableOnce) {
   const NewExecutable executable(file, module.size());
   const std::size_t tableSize = U16(module, header + 0x26) - 0x40U;
   EXPECT_EQ(file.bytesRead, 512 + tableSize);
-  // Of an icon its group, whose start is read first, and its picture.
+  // For an icon, its group, whose start is read first, and its picture.
   file.bytesRead = 0;
   const std::size_t picture = executable.Picture(file, 7, {}).size();
   EXPECT_EQ(file.bytesRead, 6 + 20 + picture);
@@ -302,7 +302,7 @@ TEST(NewExecutable, ReadsTheHeadersAloneOfAFileThatIsNoModule) {
   EXPECT_EQ(readOf(Bytes(5000, std::byte{'x'})), 512U);
   EXPECT_EQ(readOf(Bytes(100, std::byte{'x'})), 100U);
   EXPECT_EQ(readOf(With(MakeModule(PlainIcons(20)), header, 0x4550)), 512U);
-  // The new header is in the first block, or is read by itself.
+  // The new header is in the first block; if not, it is read separately.
   const Bytes library = With(Bytes(5000), 0, 0x5A4D);
   EXPECT_EQ(readOf(With(library, offsetPlace, 512 - 64, 4)), 512U);
   EXPECT_EQ(readOf(With(library, offsetPlace, 512 - 63, 4)), 512U + 64U);
@@ -343,7 +343,7 @@ TEST(NewExecutable, HasTheIconsThatAreLeftWhereTheFileIsCutOff) {
     const Bytes part = Cut(module, size);
     const int count = CountOf(part);
     EXPECT_GE(count, before) << size;
-    // The last one's own group may be cut off.
+    // The group of the last icon may be cut off.
     for (int index = 0; index < count - 1; ++index) EXPECT_EQ(MarkOf(part, index), index + 1);
     before = count;
   }

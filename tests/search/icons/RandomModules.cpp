@@ -28,7 +28,7 @@ RandomModule MakeRandomModule(std::uint32_t number) {
                             .sharedData = below(3) == 0,
                             .overlappingData = below(4) == 0,
                             .residentName = std::string(below(40), 'R')};
-  // Without a shift, no place beyond 64 KB can be named.
+  // Without a shift, offsets beyond 64 KB cannot be expressed.
   std::size_t room = std::size_t{50'000} << (layout.shift < 3 ? layout.shift : 3);
   std::vector<ModuleIcon> icons(1 + below(5));
   for (std::size_t i = 0; i < icons.size(); ++i) {

@@ -1,4 +1,4 @@
-// Several icons of a file taken with one call, and reading ahead over the real shell.
+// Extracting several icons of a file with one call, and reading ahead with the real shell.
 
 #include <windows.h>
 
@@ -40,7 +40,7 @@ Pixels Drawn(ExtractedIcon* icon) {
   return {copy.Pixels().begin(), copy.Pixels().end()};
 }
 
-// A library of so many icons, each in a colour of its own, but those without a picture.
+// A library of that many icons, each in its own colour; those in `broken` have no picture.
 std::string MakeLibrary(const TemporaryFolder& folder, int count, const std::vector<std::size_t>& broken = {}) {
   std::vector<IconPicture> pictures;
   for (int i = 0; i < count; ++i) pictures.push_back(BitmapPicture(32, 24, 0x010101U * static_cast<Color>(i + 1), red));
@@ -89,7 +89,7 @@ TEST(ShellIconGroups, KeepNoHandles) {
   const std::string path = MakeLibrary(folder, 10, {7});
   const auto round = [&] {
     icons.ExtractGroup(path, 0, 10);  // broken
-    icons.ExtractGroup(path, 8, 10);  // beyond the end
+    icons.ExtractGroup(path, 8, 10);  // past the end
     icons.ExtractGroup(path, 0, 7);
   };
   round();
@@ -114,7 +114,7 @@ TEST(ShellIconGroups, AreOfAFileThatIsKnownByItsSizeAndTime) {
   EXPECT_FALSE(icons.StampOf(folder.In("none.dll")));
 }
 
-// The real shell, its calls counted.
+// The real shell with its calls counted.
 class CountedShell final : public IconSource {
  public:
   int CountIcons(const std::string& path) override { return shell_.CountIcons(path); }

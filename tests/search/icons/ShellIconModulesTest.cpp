@@ -1,5 +1,5 @@
-// Icons of 16-bit modules, read by this program itself where the shell finds none. The shell of Wine reads such modules
-// too: what it finds must be found without it.
+// Icons of 16-bit modules, read by this program itself if the shell finds none. Wine's shell reads such modules too:
+// the program must find the same icons without it.
 
 #include <windows.h>
 
@@ -49,7 +49,7 @@ std::unique_ptr<ByteSource> Open(const std::string& path) {
   return std::make_unique<FileBytes>(path);
 }
 
-// What an icon looks like at each size, and each half of it alone; empty if there is none.
+// The pixels of an icon at each size, and those of image and mask alone; empty if there is no icon.
 std::vector<Pixels> Looks(ExtractedIcon* icon) {
   std::vector<Pixels> looks;
   if (icon == nullptr) return looks;
@@ -65,7 +65,7 @@ std::vector<Pixels> Looks(ExtractedIcon* icon) {
   return looks;
 }
 
-// Icons of one picture of 32 pixels each, all by chance.
+// Icons of one picture of 32 pixels each, all random.
 std::vector<ModuleIcon> Icons(int count) {
   std::vector<ModuleIcon> icons;
   for (int i = 0; i < count; ++i) {
@@ -75,12 +75,12 @@ std::vector<ModuleIcon> Icons(int count) {
   return icons;
 }
 
-// Both ways to take icons: by the shell of this machine, and without it.
+// Both ways to extract icons: with the shell of this machine, and without it.
 struct BothWays {
   ShellIcons byShell{Open};
   ShellIcons withoutShell{Open, ShellWithoutModules};
 
-  // Compares all icons of a file; how many there are.
+  // Compares all icons of a file. Returns how many there are.
   int Compare(const std::string& path) {
     const int count = byShell.CountIcons(path);
     EXPECT_EQ(withoutShell.CountIcons(path), count) << path;
@@ -107,7 +107,7 @@ TEST(ShellIconModules, AreReadAsTheShellOfWineReadsThem) {
   std::printf("%d icons of %u modules\n", icons, modules);
 }
 
-// The fonts of Wine are modules that were made by a linker of today, of a format from then: none has icons.
+// Wine's fonts are modules in the old format, made by a current linker: they hold no icons.
 TEST(ShellIconModules, AreReadAmongTheModulesOfThisMachine) {
   const TemporaryFolder folder;
   const std::string fonts = JoinPath(ParentFolder(SystemFolder()), "Fonts");
@@ -123,7 +123,7 @@ TEST(ShellIconModules, AreReadAmongTheModulesOfThisMachine) {
   EXPECT_GE(modules, 20);
 }
 
-// A second opinion: wrestool and the shell, which draws the icon file that wrestool makes of a group.
+// Cross-checked with wrestool and the shell, which draws the icon file that wrestool extracts from a group.
 TEST(ShellIconModules, AreReadAsAProgramFromElsewhereReadsThem) {
   const TemporaryFolder folder;
   ShellIcons icons(Open, ShellWithoutModules);
@@ -162,7 +162,8 @@ TEST(ShellIconModules, HaveThePictureThatTheSystemWouldChoose) {
     for (std::size_t place = 6; place < group.size(); place += 14) {
       const int width = sides[below(std::size(sides))];
       group[place] = static_cast<std::byte>(width);
-      // Hardly any picture is not as wide as it is high, and one side of 0 alone means nothing.
+      // Most of the pictures are square. A width of 0 always comes with a height of 0: one of them alone has no
+      // meaning.
       group[place + 1] = static_cast<std::byte>(width != 0 && below(5) == 0 ? 1 + below(64) : width);
       group[place + 6] = static_cast<std::byte>(depths[below(std::size(depths))]);
       group[place + 12] = static_cast<std::byte>(place / 14 + 1);
@@ -224,7 +225,7 @@ TEST(ShellIconModules, AreOfFourKindsOfFile) {
   }
 }
 
-// A table that claims thousands of icons would end every search of its folder.
+// A table that claims thousands of icons would get every search of its folder refused.
 TEST(ShellIconModules, AreNotBelievedWhereTheyClaimMoreThanAHundred) {
   const TemporaryFolder folder;
   ShellIcons icons(Open, ShellWithoutModules);
@@ -255,7 +256,7 @@ TEST(ShellIconModules, AreReadAgainWhereTheFileChanged) {
   EXPECT_EQ(icons.Extract(path, 0), nullptr);
 }
 
-// All GDI objects that the process can have, as tiny bitmaps.
+// Uses up all GDI objects of the process by tiny bitmaps.
 class NoGdiObjects {
  public:
   NoGdiObjects() {
@@ -297,7 +298,7 @@ TEST(ShellIconModules, KeepNoHandlesAndNoFileOpen) {
   EXPECT_NE(DeleteFileW(ToWide(path).c_str()), 0);
 }
 
-// Real files, of which it is counted how often one is opened and how much is read.
+// Real files; counts how often one is opened and how much is read.
 class Counted {
  public:
   ShellIcons::OpenBytes Opener() {
@@ -335,7 +336,7 @@ TEST(ShellIconModules, AreLeftToTheShellWhereItReadsThem) {
   ASSERT_NE(icons.Extract(path, 2), nullptr);
   EXPECT_EQ(icons.ExtractGroup(path, 0, 3).size(), 3U);
   EXPECT_EQ(files.opened, 0);
-  // An icon that the shell cannot take is none, whatever could be read.
+  // An icon that the shell cannot extract counts as none, even if other parts of it are readable.
   std::vector<ModuleIcon> broken = Icons(3);
   broken[1].pictures[0].data.resize(2);
   const std::string other = folder.MakeFile("b.icl", MakeModule(broken));
@@ -349,14 +350,14 @@ TEST(ShellIconModules, AreLookedForInNoFileMoreThanOnceAPass) {
   ShellIcons icons(files.Opener(), ShellWithoutModules);
   IconsAhead ahead(icons);
   const auto search = ahead.InTurn();
-  // A library of today without icons: its first block, which both headers are in.
+  // A current library without icons: only its first block is read, which contains both headers.
   const std::string library = folder.In("version.dll");
   ASSERT_NE(CopyFileW(ToWide(JoinPath(SystemFolder(), "version.dll")).c_str(), ToWide(library).c_str(), TRUE), 0);
   EXPECT_EQ(ahead.CountIcons(library), 0);
   EXPECT_EQ(ahead.CountIcons(library), 0);
   EXPECT_EQ(files.opened, 1);
   EXPECT_EQ(files.read, 512U);
-  // One with icons, and a file of another type: not even opened.
+  // A library with icons, and a file of another type: they are not even opened.
   files = {};
   EXPECT_GT(ahead.CountIcons(JoinPath(SystemFolder(), "shell32.dll")), 0);
   EXPECT_EQ(ahead.CountIcons(folder.MakeFile("a.txt", "text")), 0);
@@ -373,7 +374,7 @@ TEST(ShellIconModules, AreNotLookedForInTheSystemsOwnFolder) {
   }
   EXPECT_EQ(files.opened, 0);
   EXPECT_EQ(icons.CountIcons(folder.MakeFile("a.dll", MakeModule(Icons(2)))), 2);
-  // One that somebody put there.
+  // A library in the system folder that did not come with the system.
   const std::string library = JoinPath(SystemFolder(), "put there by a test.icl");
   ASSERT_NE(CopyFileW(ToWide(folder.MakeFile("a.icl", MakeModule(Icons(2)))).c_str(), ToWide(library).c_str(), FALSE),
             0);

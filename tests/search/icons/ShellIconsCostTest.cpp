@@ -1,4 +1,4 @@
-// What it costs to ask for icons: GDI objects, and bytes that are read.
+// The cost of extracting icons: GDI objects, and bytes read.
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -39,7 +39,7 @@ constexpr Color green = 0x00FF00;
 constexpr Color blue = 0xFF0000;
 constexpr Color background = 0x808080;
 
-// Of each call that is cut off the system keeps what it had made by then: its view of the file at least.
+// Each call that is cut off leaks what the system had made by then: its view of the file at least.
 TEST(ShellIcons, AsksTheSystemOnceForAnIconThatItBreaksOn) {
   const TemporaryFolder folder;
   const std::string path = folder.MakeFile("a.dll", CutOffLibrary());
@@ -57,7 +57,7 @@ TEST(ShellIcons, AsksAgainForAFileThatHasChanged) {
   const std::string path = folder.MakeFile("a.dll", CutOffLibrary());
   ShellIcons icons;
   ASSERT_EQ(icons.Extract(path, 0), nullptr);
-  // The call that was cut off still holds the file, so that it can only be changed from outside of Wine.
+  // The call that was cut off still holds the file, so the file can only be changed from outside Wine.
   const std::string intact = folder.MakeFile("intact.dll", LibraryOfOneIcon());
   ASSERT_EQ(
       end_to_end::RunUnix("cp " + end_to_end::UnixQuoted(ToWide(intact)) + ' ' + end_to_end::UnixQuoted(ToWide(path)))
@@ -66,7 +66,7 @@ TEST(ShellIcons, AsksAgainForAFileThatHasChanged) {
   EXPECT_NE(icons.Extract(path, 0), nullptr);
 }
 
-// All GDI objects that the process can have, as tiny bitmaps.
+// Uses up all GDI objects of the process by tiny bitmaps.
 class NoGdiObjects {
  public:
   NoGdiObjects() {
@@ -77,7 +77,7 @@ class NoGdiObjects {
   std::vector<BitmapHandle> bitmaps_;
 };
 
-// A blank picture was saved for a good icon once the damaged ones had used up the process's GDI objects.
+// Once the damaged icons had used up the process's GDI objects, a blank picture was saved instead of a good icon.
 TEST(ShellIcons, SaysThatThereIsNoRoomForAnIconInsteadOfLeavingItOut) {
   const TemporaryFolder folder;
   const std::string path = folder.MakeFile("a.ico", IconFileOf(red));
@@ -93,7 +93,7 @@ TEST(ShellIcons, SaysThatThereIsNoRoomForAnIconInsteadOfLeavingItOut) {
   EXPECT_TRUE(icon->Draw(surface, {0, 0}, 32, 0, DrawPart::Normal));
 }
 
-// The bytes of real files, all counted that are read of them.
+// Reads real files and counts all bytes that are read.
 class CountedBytes final : public ByteSource {
  public:
   CountedBytes(const std::string& path, std::uint64_t& count) : file_(path), count_(count) {}
@@ -110,13 +110,13 @@ class CountedBytes final : public ByteSource {
 
 constexpr std::uint64_t megabyte = std::uint64_t{1} << 20U;
 
-// A search of such a file of 512 MB once took 14 seconds, and one of 5 GB did not end.
+// A search of such a file of 512 MB once took 14 seconds, and with one of 5 GB it did not end.
 TEST(ShellIcons, ReadsLittleOfALargeAnimationAndThatOnce) {
   const TemporaryFolder folder;
   std::uint64_t bytesRead = 0;
   ShellIcons icons([&](const std::string& path) { return std::make_unique<CountedBytes>(path, bytesRead); });
   const Bytes intact = AnimationFile(std::array{red, green, blue});
-  // As long as the file, says its own size.
+  // The header claims the length of the whole file.
   Bytes endless = intact;
   std::fill_n(endless.begin() + 4, 4, std::byte{0xFF});
   for (const std::uint64_t size : {512 * megabyte, 5 * 1024 * megabyte}) {
@@ -124,7 +124,7 @@ TEST(ShellIcons, ReadsLittleOfALargeAnimationAndThatOnce) {
     const std::string tailed = folder.MakeSparseFile("tailed" + end, intact, size);
     const std::string large = folder.MakeSparseFile("large" + end, endless, size);
     bytesRead = 0;
-    // As often as a search asks.
+    // As often as a search reads the file.
     for (int look = 0; look < 3; ++look) {
       const auto icon = icons.Extract(tailed, 0);
       ASSERT_NE(icon, nullptr) << size;

@@ -48,7 +48,7 @@ Bytes Truncated(Bytes file, std::size_t size) {
   return file;
 }
 
-// Bytes without any sense, always the same.
+// Meaningless bytes, always the same.
 Bytes Nonsense() {
   Bytes bytes(9000);
   std::uint32_t state = 1;
@@ -59,8 +59,8 @@ Bytes Nonsense() {
   return bytes;
 }
 
-// The colours of the first steps, each taken where the upper half of the icon's left side is: as many as can be drawn,
-// at most `most`.
+// The colours of the first steps, read from the upper half of the icon's left side: as many as can be drawn, at most
+// `most`.
 std::vector<Color> StepColors(const std::string& path, int most = 20) {
   std::vector<Color> colors;
   ShellIcons icons;
@@ -114,7 +114,7 @@ TEST(ShellIcons, TakesEachIconOfALibraryByItsIndex) {
   EXPECT_EQ(icons.Extract(library, 3), nullptr);
 }
 
-// What each part of the icon leaves on the surface: upper left, upper right, lower half.
+// The pixels that each part of the icon leaves on the surface: upper left, upper right, lower half.
 struct Drawn {
   Color upperLeft;
   Color upperRight;
@@ -131,7 +131,7 @@ constexpr int pngDepth = 0;
 
 TEST_P(EveryDepth, IsDrawnByParts) {
   const int depth = GetParam();
-  // One bit a pixel: black and white are the only two colours that every system keeps.
+  // One bit per pixel: black and white are the only two colours that every system keeps.
   const Color left = depth == 1 ? black : red;
   const Color right = depth == 1 ? white : blue;
   const TemporaryFolder folder;
@@ -148,7 +148,7 @@ TEST_P(EveryDepth, IsDrawnByParts) {
   };
   EXPECT_EQ(draw(DrawPart::Mask), (Drawn{black, black, white}));
   EXPECT_EQ(draw(DrawPart::Normal), (Drawn{left, right, background}));
-  // With an alpha channel the image alone is blended too, and nothing of what was on the surface may show.
+  // With an alpha channel the image alone is blended too, and the old content of the surface must not show through.
   EXPECT_EQ(draw(DrawPart::Image), (Drawn{left, right, black}));
 }
 
@@ -211,7 +211,7 @@ TEST(ShellIcons, YieldsNothingForAnAniThatIsNoPicture) {
   }
 }
 
-// Each of these once ended the program: the platform trusts what they say of themselves.
+// Each of these once ended the program: the platform trusts the headers of such files.
 TEST(ShellIcons, OutlivesDamagedFiles) {
   const TemporaryFolder folder;
   const std::array onePicture{red};
@@ -222,7 +222,7 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
   Bytes farOffset = Truncated(OneIcon(picture), 22);
   farOffset[21] = std::byte{0x7F};
   Bytes noHeight = AnimationFile(onePicture);
-  // Past the file's, the header's, the list's and the picture's chunk starts, its directory, and two numbers.
+  // After the starts of the file, header, list and picture chunks, the directory, and two numbers.
   const std::size_t heightOffset = 12 + 44 + 12 + 8 + 22 + 8;
   noHeight[heightOffset] = std::byte{0};
   std::string halfLibrary = support::ReadAll(JoinPath(SystemFolder(), "shell32.dll"));
@@ -242,23 +242,23 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
     icons.CountIcons(path);
     EXPECT_EQ(icons.Extract(path, 0), nullptr) << path;
   }
-  // Of a picture that is cut off some systems take what there is (Wine 10), and others nothing.
+  // From a picture that is cut off some systems use the rest (Wine 10), others nothing.
   const std::string cutOff = folder.MakeFile("cut2.ico", Truncated(OneIcon(picture), 3000));
   EXPECT_LE(icons.CountIcons(cutOff), 1);
   if (const auto icon = icons.Extract(cutOff, 0)) {
     Surface surface(32, 32, background);
     EXPECT_TRUE(icon->Draw(surface, {0, 0}, 32, 0, DrawPart::Normal));
   }
-  // Some of them left a lock of the system taken, on which the next use of a window ended the program.
+  // Some of them left a lock of the system held, and then the next use of a window ended the program.
   const HWND window = CreateWindowW(L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
   EXPECT_NE(DestroyWindow(window), 0);
   EXPECT_EQ(StepColors(folder.MakeFile("good.ico", IconFileOf(red))), std::vector{red});
   EXPECT_EQ(StepColors(folder.MakeFile("good.ani", AnimationFile(twoPictures))), (std::vector{red, blue}));
 }
 
-// A library of icons whose resource tree claims another number of them.
+// A library of icons whose resource tree claims another number of icons.
 Bytes LyingLibrary(std::span<const IconPicture> pictures, std::uint16_t claimed) {
-  constexpr std::size_t sectionPlace = 0x200;  // the tree's place in the file
+  constexpr std::size_t sectionPlace = 0x200;  // the tree's offset in the file
   constexpr std::size_t countPlace = 14;       // in a directory
   support::IntactFile library = support::Library(support::Bitness::Bits64, pictures);
   const std::size_t groups = library.directories[2] & 0x7FFFFFFF;
@@ -271,7 +271,7 @@ Bytes LyingLibrary(int icons, std::uint16_t claimed) {
   return LyingLibrary(std::vector(static_cast<std::size_t>(icons), BitmapPicture(16, 1, red, red)), claimed);
 }
 
-// Such a count once ended every search of its folder, with a message that told of thousands of icons or of an overflow.
+// Such a count once got every search of its folder refused, with a message about thousands of icons or an overflow.
 TEST(ShellIcons, BelievesNoFileMoreThanAHundredIconsThatItDoesNotHave) {
   const TemporaryFolder folder;
   ShellIcons icons;
@@ -285,7 +285,7 @@ TEST(ShellIcons, NoBrokenIconHidesThoseBehindItWhereTheCountIsALie) {
   const TemporaryFolder folder;
   ShellIcons icons;
   std::vector pictures(50, BitmapPicture(16, 1, red, red));
-  // Each place alone, then the first half together.
+  // Each of them broken alone, then the first half together.
   for (std::size_t broken = 0; broken < pictures.size() - 1; ++broken) {
     auto damaged = pictures;
     damaged[broken].data.clear();

@@ -32,7 +32,7 @@ UINT WINAPI ExtractSeveral(LPCSTR path, int first, int width, int height, HICON*
 }  // namespace
 
 ShellFunctions ShellWithoutModules() {
-  late::ExtractIconExA.Get();  // the shell is loaded here, and not while an icon is taken
+  late::ExtractIconExA.Get();  // loads the shell here and not during an extraction
   return {.extractIconEx = Extract, .privateExtractIcons = ExtractSeveral};
 }
 

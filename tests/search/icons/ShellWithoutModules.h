@@ -4,8 +4,8 @@
 
 namespace tarvik::support {
 
-// The functions of the shell as they are on Windows since Vista: they find no icon in a 16-bit module. Any other file
-// is left to those of this machine.
+// The functions of the shell as on Windows since Vista: they find no icon in a 16-bit module. Other files go to this
+// machine's shell.
 ShellFunctions ShellWithoutModules();
 
 }  // namespace tarvik::support

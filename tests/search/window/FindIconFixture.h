@@ -69,12 +69,12 @@ class SmallMachine final : public IconSource, public FolderReader {
   std::map<std::string, int> icons;  // by path
   std::map<std::string, std::vector<std::string>> files;
   std::map<std::string, std::vector<std::string>> subFolders;  // full paths
-  std::vector<std::string> patterns;                           // as they were asked for
+  std::vector<std::string> patterns;                           // as requested
   std::function<void()> onFiles;                               // each time a folder's files are read
 };
 
-// The machine, with something that happens each time a file's icons are counted, once in each pass, and each time an
-// icon is taken.
+// The machine with callbacks: each time a file's icons are counted, once in each pass, and each time an icon is
+// extracted.
 class WatchedMachine final : public IconSource {
  public:
   explicit WatchedMachine(SmallMachine& machine) : machine_(machine) {}
@@ -95,7 +95,7 @@ class WatchedMachine final : public IconSource {
   SmallMachine& machine_;
 };
 
-// The real main window over a small machine: "C:\icons" with one file of as many icons as a test says.
+// The real main window over a small machine: "C:\icons" with one file of as many icons as a test wants.
 class FindIconFixture : public ::testing::Test {
  protected:
   FindIconFixture() {
@@ -180,7 +180,7 @@ class FindIconFixture : public ::testing::Test {
   AnsweredDialogs dialogs{application, state, [this] { return window->Window(); }};
   TaskBar* taskBar = nullptr;  // settled before the window opens
   std::string programFolder = "C:\\program";
-  std::vector<std::string> lookedAt;  // the folders of which the window asked whether they can be read
+  std::vector<std::string> lookedAt;  // the folders that the window tested for read access
   int aboutShown = 0;
   int guideShown = 0;
   std::vector<DriveListBox::Drive> drives{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};

@@ -49,7 +49,7 @@ class FindIconLayoutTest : public FindIconFixture {
     }
     return all;
   }
-  // Each of these moves by (x, y) and keeps its size.
+  // Checks that each of these moves by (x, y) and keeps its size.
   static void ExpectMoved(const Bounds& from, const Bounds& to, std::initializer_list<int> ids, int x, int y) {
     for (const int id : ids) {
       RECT expected = from.at(id);
@@ -186,7 +186,7 @@ TEST_F(FindIconLayoutTest, FillsAMaximisedWindowAndSurvivesAMinimisedOne) {
   for (const auto& [id, place] : before) EXPECT_NE(EqualRect(&place, &after.at(id)), FALSE) << id;
 }
 
-// Labels and boxes were left blank where another control had passed over them.
+// Labels and boxes once stayed blank after another control had moved across them.
 TEST_F(FindIconLayoutTest, PaintsEveryControlAtItsNewPlace) {
   Open();
   const auto inkOf = [this](int id) {

@@ -1,4 +1,4 @@
-// When the main window lets its icons be read ahead, and when it has what was read dropped.
+// When the main window lets its icons be read ahead, and when it drops what was read ahead.
 
 #include <windows.h>
 
@@ -21,7 +21,7 @@ using support::SmallMachine;
 using support::TemporaryFolder;
 using ::testing::ElementsAre;
 
-// The small machine's icons, with all that is asked of them written down.
+// The small machine's icons; logs every request.
 class WatchedIcons final : public IconSource {
  public:
   explicit WatchedIcons(SmallMachine& machine) : machine_(machine) {}
@@ -53,8 +53,8 @@ class FrmFindIconAheadTest : public FindIconFixture {
  protected:
   FrmFindIconAheadTest() { OpenOver(icons, machine); }
   void StartWatching() { icons.script.clear(); }
-  // Saves all icons as often as it takes until `line` was written down twice: a batch looks for messages every 40
-  // milliseconds. `prepare` runs before each batch.
+  // Saves all icons repeatedly until `line` was logged twice: a batch checks for messages every 40 milliseconds.
+  // `prepare` runs before each batch.
   void SaveAllUntilTwice(const std::string& line, const std::function<void()>& prepare) {
     StartWatching();
     const ULONGLONG start = GetTickCount64();
@@ -96,12 +96,12 @@ TEST_F(FrmFindIconAheadTest, ABatchReadsAheadToItsEnd) {
   StartWatching();
   Click(FrmFindIcon_mnuSaveAll);
   std::vector<std::string> without = icons.script;
-  std::erase(without, "let go");  // as often as it serves messages
-  std::erase(without, "look");    // as often as there are none
+  std::erase(without, "let go");  // each time it processes messages
+  std::erase(without, "look");    // each time there are none
   EXPECT_THAT(without, ElementsAre("in turn", "take 0", "take 1", "take 2", "end"));
 }
 
-// The window took itself for saving ever after: no command, no key, and it could not even be closed.
+// The window once stayed in its saving state for good: no command and no key worked, and it could not even be closed.
 TEST_F(FrmFindIconAheadTest, ABatchWithoutTheMemoryForItLeavesTheWindowUsable) {
   Find(3);
   dialogs.folder = folder.Path();
@@ -137,7 +137,7 @@ TEST_F(FrmFindIconAheadTest, ABatchLetsGoWhereItServesMessages) {
   SaveAllUntilTwice("let go", [this] { PostMessageW(window->Window(), WM_NULL, 0, 0); });
 }
 
-// A batch of small files threw away about as many icons as it used.
+// A batch of small files once threw away about as many icons as it used.
 TEST_F(FrmFindIconAheadTest, ABatchOnlyLooksForChangesWhereNoMessageWaits) {
   Find(30);
   dialogs.folder = folder.Path();

@@ -1,4 +1,4 @@
-// What a search asks of the main window's controls for each folder.
+// The calls that a search makes to the main window's controls for each folder.
 
 #include <windows.h>
 
@@ -14,7 +14,7 @@
 namespace tarvik {
 namespace {
 
-// Counts what tells a scroll bar its state, and what moves a window.
+// Counts the calls that change a scroll bar or move a window.
 class ChangeCounter : NonCopyable {
  public:
   explicit ChangeCounter(HWND window) : window_(window) {
@@ -38,7 +38,7 @@ class ChangeCounter : NonCopyable {
 
 class FrmFindIconCostTest : public support::FindIconFixture {
  protected:
-  // So many folders of one file each, below the one that the search starts in.
+  // That many folders of one file each, below the one in which the search starts.
   void OpenOverFolders(int count) {
     for (int i = 0; i < count; ++i) {
       const std::string folder = "C:\\icons\\" + std::to_string(i);
@@ -60,7 +60,7 @@ class FrmFindIconCostTest : public support::FindIconFixture {
   }
 };
 
-// The scroll bar was drawn once for each folder, which took longer than the folder's icons.
+// The scroll bar was once drawn again for each folder, which took longer than the folder's icons.
 TEST_F(FrmFindIconCostTest, AFolderLeavesAGridAloneThatIsSizedAndAtItsTop) {
   OpenOverFolders(5);
   Find(30);
@@ -75,7 +75,7 @@ TEST_F(FrmFindIconCostTest, AFolderScrollsAGridToItsTopThatWasScrolledWhileTheSe
   OpenOverFolders(1);
   Find(30);
   const ChangeCounter picture(Grid());
-  PostScroll(SB_BOTTOM);  // served in the first of two folders
+  PostScroll(SB_BOTTOM);  // processed in the first of two folders
   Click(FrmFindIcon_CmdFind);
   EXPECT_EQ(picture.Count(), 2) << "down and up";
   EXPECT_EQ(GridTop(), 0);

@@ -1,5 +1,5 @@
-// The grid and the list on displays of more dots an inch: what is shown is larger, what is meant is the same. These
-// cases run at the dots of the display that there is; tests/CMakeLists.txt says which displays those are.
+// The grid and the list on displays of a higher dpi: the drawing is larger, its layout is the same. These cases run at
+// the dpi of the current display; tests/CMakeLists.txt lists the values.
 
 #include <windows.h>
 
@@ -28,7 +28,7 @@ class FindIconOnDisplay : public FindIconFixture {
     dots = GetDeviceCaps(screen.get(), LOGPIXELSX);
   }
 
-  // The first display pixel of a pixel of the picture.
+  // The first display pixel that shows a pixel of the picture.
   int Shown(int pixel) const { return (pixel * dots + 95) / 96; }
   bool IsWhole() const { return dots % 96 == 0; }
   void ChooseSize(int size) {
@@ -38,7 +38,7 @@ class FindIconOnDisplay : public FindIconFixture {
   void ScrollToTheEnd() {
     SendMessageW(window->Window(), WM_VSCROLL, SB_BOTTOM, reinterpret_cast<LPARAM>(Item(FrmFindIcon_Vsb)));
   }
-  // The number of the entry that a click at a display pixel of the picture box chooses, 0 if it chooses none.
+  // Hit test: the number of the entry that a click at a display pixel of the picture box selects, 0 if none.
   int Clicked(int x, int y) {
     SetText(FrmFindIcon_lblInfo, "none");
     ReleaseOnGrid(x, y);
@@ -96,7 +96,7 @@ TEST_F(FindIconOnDisplay, APixelOfThePictureIsABlockAtWholeScalesAndMixedAtOther
     for (int x = 0; x < 40 * times; ++x) EXPECT_EQ(GridPixel(x, middle), colorAt(x / times)) << x;
     for (int y = 0; y < 40 * times; ++y) EXPECT_EQ(GridPixel(middle, y), colorAt(y / times)) << y;
   } else if (dots == 144) {
-    // Each pair of pixels takes three display pixels; the middle one is half of each.
+    // Each pair of pixels becomes three display pixels; the middle one is half of each.
     EXPECT_EQ(GridPixel(0, middle), white);
     EXPECT_EQ(GridPixel(1, middle), 0x808080U);
     EXPECT_EQ(GridPixel(2, middle), black);
@@ -135,10 +135,10 @@ TEST_F(FindIconOnDisplay, TheBoundOf580IsOneOfThePicture) {
 TEST_F(FindIconOnDisplay, AFrameIsDrawnAndErasedWhole) {
   Open();
   Find(20);
-  GridPixel(0, 0);  // everything is painted
+  GridPixel(0, 0);  // paints everything
   const int y = Shown(20);
   Clicked(Shown(2 * pitch + 10), y);
-  // An upright line of the frame has at least half of a display pixel.
+  // A vertical line of the frame covers at least half of a display pixel.
   const Color atMost = IsWhole() ? black : 0x808080;
   EXPECT_LE(DarkestOf(2 * pitch + 1, y), atMost);
   EXPECT_LE(DarkestOf(2 * pitch + 37, y), atMost);
@@ -158,7 +158,7 @@ TEST_F(FindIconOnDisplay, TheScrollBarCountsInPixelsOfThePicture) {
   ScrollToTheEnd();
   EXPECT_EQ(GridCorner().y, -Shown(38));
   EXPECT_EQ(InsideOf(Grid()).cy, Shown(228));
-  // The last row of the picture is in sight.
+  // The last row of the picture is visible.
   EXPECT_LE(GridCorner().y + Shown(228), InsideOf(Item(FrmFindIcon_PicFrame)).cy);
   EXPECT_EQ(Clicked(Shown(10), Shown(228) - 1), 76);
 }

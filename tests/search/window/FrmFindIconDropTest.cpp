@@ -1,4 +1,4 @@
-// What is dropped on the main window.
+// Files and folders dropped on the main window.
 
 #include <windows.h>
 
@@ -173,7 +173,7 @@ TEST_F(FrmFindIconDropTest, RefusesADropWhileItSearchesOrSavesOrADialogIsOverIt)
   Open();
   machine.icons["C:\\icons\\some.dll"] = 3;
   PostMessageW(window->Window(), WM_DROPFILES, reinterpret_cast<WPARAM>(Block({"E:\\tools"})), 0);
-  Click(FrmFindIcon_CmdFind);  // serves it in its middle
+  Click(FrmFindIcon_CmdFind);  // processes it in its middle
   EXPECT_EQ(Caption(), "Brindle Tarvik - C:\\icons - 3 Icons");
   EXPECT_EQ(window->Dir1Path(), "C:\\icons");
 

@@ -28,7 +28,7 @@ using support::TemporaryFolder;
 class FrmFindIconExportTest : public FindIconFixture {
  protected:
   void SelectOnly(std::initializer_list<int> numbers) {
-    // The first of a search is selected by itself.
+    // The first icon of a search is selected automatically.
     Choose(1, MK_CONTROL);
     for (const int number : numbers) Choose(number, MK_CONTROL);
   }
@@ -191,7 +191,7 @@ TEST_F(FrmFindIconExportTest, ShowsThePickerTheCurrentIconMagnified) {
   EXPECT_EQ(Byte(ReadAll(folder.In("a.cur")), 2), 2);
 }
 
-// A file of four icons, of which the second breaks on a lack of GDI objects once these run out.
+// A file of four icons, of which the second fails to draw when GDI objects run out.
 class ScarceIcons final : public IconSource {
  public:
   int CountIcons(const std::string& /*path*/) override { return 4; }
@@ -235,7 +235,7 @@ TEST_F(FrmFindIconExportTest, SavesABlankWhereTheFileYieldsNoIconAnyMore) {
   EXPECT_TRUE(boxes.Boxes().empty());
 }
 
-// An icon whose left half is opaque, whose right half lets what lies below it through, and inverts some of that.
+// An icon with an opaque left half. Its right half is transparent and inverts a part of the background.
 class HalfIcon final : public ExtractedIcon {
  public:
   static constexpr Color opaque = 0x20C040;

@@ -32,9 +32,9 @@ class FrmFindIconKeysTest : public support::FindIconFixture {
   static std::string Described(int id, const std::string& text, bool enabled) {
     return std::to_string(id) + " " + text + (enabled ? "" : " (disabled)");
   }
-  // As the menu bar has it.
+  // The item as the menu bar shows it.
   std::string InBar(int id) const { return Described(id, window->TheMenu().Text(id), window->TheMenu().IsEnabled(id)); }
-  // Asks for the menu of the row with the focus, and closes it; its items.
+  // Opens the menu of the focused row and closes it. Returns its items.
   Items RowMenu() {
     static Items seen;
     seen.clear();

@@ -104,7 +104,7 @@ TEST_F(FrmFindIconOptionsTest, BuildsThePatternFromTheTickedTypes) {
   EXPECT_EQ(machine.patterns.back(), "*.dll;*.exe;");
 }
 
-// A box says ".dll" where its part of the pattern is "*.dll;".
+// The text of a box is ".dll" and its part of the pattern "*.dll;".
 TEST_F(FrmFindIconOptionsTest, HasABoxForEachTypeThatSaysWhatItAddsToThePattern) {
   Open();
   TickFileType(0, false);

@@ -1,4 +1,4 @@
-// What the main window shows while a search runs, and how the search leaves it.
+// What the main window shows while a search runs, and its state afterwards.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::SizeIs;
 
-// All device contexts that the system still has to give.
+// Uses up all device contexts of the system.
 class AllDeviceContexts {
  public:
   AllDeviceContexts() {
@@ -44,7 +44,7 @@ class FrmFindIconSearchTest : public support::FindIconFixture {
     MapWindowPoints(Grid(), Item(FrmFindIcon_PicFrame), &corner, 1);
     return -corner.y;
   }
-  // A turn of the wheel over the middle of the grid, in 120ths of a notch.
+  // Turns the wheel over the middle of the grid, in 120ths of a notch.
   void TurnWheel(int delta) {
     RECT place;
     GetWindowRect(Item(FrmFindIcon_PicFrame), &place);
@@ -84,7 +84,7 @@ TEST_F(FrmFindIconSearchTest, DisablesWhatCouldDisturbASearchFromItsFirstFileToI
   }
 }
 
-// The counting pass, the longer of the two, showed the arrow.
+// In the counting pass, the longer of the two, the pointer was once the arrow.
 TEST_F(FrmFindIconSearchTest, ShowsTheHourglassOverBothPasses) {
   std::vector<HCURSOR> pointers;
   OpenWatched();
@@ -98,7 +98,7 @@ TEST_F(FrmFindIconSearchTest, ShowsTheHourglassOverBothPasses) {
   EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
 }
 
-// They appeared all at the end.
+// The rows once all appeared at the end.
 TEST_F(FrmFindIconSearchTest, ShowsTheRowsAddedSoFarAtEachYield) {
   machine.subFolders["C:\\icons"] = {"C:\\icons\\a", "C:\\icons\\b"};
   for (const char* folder : {"C:\\icons\\a", "C:\\icons\\b"}) {
@@ -115,7 +115,7 @@ TEST_F(FrmFindIconSearchTest, ShowsTheRowsAddedSoFarAtEachYield) {
   EXPECT_EQ(RowCount(), 11);
 }
 
-// The button took the keyboard back from wherever the user had put it.
+// The button once took the focus back from the control that the user had chosen.
 TEST_F(FrmFindIconSearchTest, LeavesTheFocusWhereTheUserMovedIt) {
   OpenWatched();
   SetFocus(Item(FrmFindIcon_CmdFind));
@@ -137,7 +137,7 @@ TEST_F(FrmFindIconSearchTest, PassesTheFocusOnFromAScrollBarThatItDisables) {
   EXPECT_TRUE(IsWindowEnabled(GetFocus()));
 }
 
-// They showed the folder as it was when it was opened.
+// The lists once showed the folder as it was when it was opened.
 TEST_F(FrmFindIconSearchTest, ShowsInTheListsWhatItFound) {
   Open();
   ASSERT_EQ(Rows(FrmFindIcon_File1), std::vector<std::string>{"some.dll"});
@@ -148,7 +148,8 @@ TEST_F(FrmFindIconSearchTest, ShowsInTheListsWhatItFound) {
   EXPECT_EQ(Rows(FrmFindIcon_Dir1).back(), "new");
 }
 
-// The size was remembered although there was no memory for it, and the next search took the grid for sized.
+// The size was once remembered although there was no memory for the bitmap, and the next search believed that the grid
+// already had it.
 TEST_F(FrmFindIconSearchTest, SizesTheGridAgainAfterItCouldNot) {
   OpenWatched();
   Find(20);
@@ -182,7 +183,7 @@ TEST_F(FrmFindIconSearchTest, ScrollsAsManyRowsForANotchAsTheSystemSays) {
   SystemParametersInfoW(SPI_SETWHEELSCROLLLINES, former, nullptr, 0);
 }
 
-// What the title and the status bar say while a search of one folder with two files runs.
+// The texts of title and status bar while a search of one folder with two files runs.
 struct TextsOfASearch {
   std::string language;
   std::vector<std::string> titles;  // as each file is counted, in both passes
@@ -198,7 +199,7 @@ TEST_P(SearchProgress, IsToldInTheTitleAndTheStatusBar) {
   machine.files["C:\\icons"] = {"more.dll", "some.dll"};
   machine.icons["C:\\icons\\more.dll"] = 2;
   OpenOver(watched, machine, GetParam().language);
-  // Each folder and file takes so long that the text about the next one is shown at once.
+  // Each folder and file takes long enough that the text about the next one is shown at once.
   constexpr DWORD longerThanATextStays = 60;  // milliseconds
   const std::string statusBefore = Status();
   const auto look = [&] {

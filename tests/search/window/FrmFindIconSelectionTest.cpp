@@ -25,7 +25,7 @@ class FrmFindIconSelectionTest : public support::FindIconFixture {
     return rows;
   }
   bool IsFramed(int number) const { return GridPixel(1 + (number - 1) % 15 * 38, 1 + (number - 1) / 15 * 38) == black; }
-  // As a user does with the control: its own state changes, and it tells.
+  // As when a user clicks: the control's state changes, and it sends its notification.
   void ChooseInList(int row) {
     ListView_SetItemState(Item(FrmFindIcon_Lv), -1, 0, LVIS_SELECTED);
     ListView_SetItemState(Item(FrmFindIcon_Lv), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
@@ -33,7 +33,7 @@ class FrmFindIconSelectionTest : public support::FindIconFixture {
   }
 };
 
-// A file that holds more icons when it is listed than when it was counted.
+// A file that holds more icons in the listing pass than in the counting pass.
 class GrowingFile final : public IconSource {
  public:
   static constexpr int counted = 3;
@@ -132,7 +132,7 @@ TEST_F(FrmFindIconSelectionTest, FollowsAChoiceInTheList) {
   EXPECT_TRUE(IsFramed(17));
 }
 
-// The keyboard says that Ctrl or Shift is held for as long as this object lives.
+// Reports Ctrl or Shift as held while this object lives.
 class HeldKey : NonCopyable {
  public:
   explicit HeldKey(int key) {
@@ -185,7 +185,7 @@ TEST_F(FrmFindIconSelectionTest, NumbersTheLabelByTheFileOnDemand) {
   EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 5 Selected.");
 }
 
-// Closes the enhanced view as soon as it is there, and remembers what its status bar said.
+// Closes the enhanced view as soon as it is open, and remembers the text of its status bar.
 class ViewWatcher : NonCopyable {
  public:
   ViewWatcher() : timer_(SetTimer(nullptr, 0, 10, Tick)) { status.clear(); }

@@ -1,4 +1,4 @@
-// A folder of the settings on another computer: nothing is read there before the user says so.
+// A saved folder on another computer: the program does not read it before the user agrees.
 
 #include <windows.h>
 

@@ -44,7 +44,7 @@ TEST_F(FrmFindIconTest, OpensWithTheChoicesOfAFirstStart) {
   EXPECT_FALSE(IsEnabled(FrmFindIcon_mnuRem));
 }
 
-// The help menu's items were once disabled for good, while every test gave their commands itself.
+// The help menu's items were once disabled for good; no test noticed, because each sent the commands itself.
 TEST_F(FrmFindIconTest, OffersEveryMenuItemThatNeedsNoIconsFromTheStart) {
   Open();
   for (const int item :
@@ -119,7 +119,7 @@ TEST_F(FrmFindIconTest, KeepsItsDesignTextsForAnUnknownCode) {
   EXPECT_EQ(window->TheMenu().Text(FrmFindIcon_mnuBatch), "&Batch Save As Icon");
 }
 
-// A menu's items from the top, those of a menu below it with a blank more in front; no separators.
+// A menu's items from the top without separators; each level of sub-menus is indented by one more blank.
 void AddItems(HMENU menu, const std::string& indent, std::vector<std::string>& lines) {
   for (int position = 0; position < GetMenuItemCount(menu); ++position) {
     std::array<wchar_t, 128> text{};
@@ -353,7 +353,7 @@ TEST_F(FrmFindIconTest, ReadsTheSubFolderChoiceInAnyCaseButOnlyTrue) {
   }
 }
 
-// It ended the program.
+// This once ended the program.
 TEST_F(FrmFindIconTest, HandsNothingOverWithoutAnEntry) {
   Open();
   Click(FrmFindIcon_CmdOk);

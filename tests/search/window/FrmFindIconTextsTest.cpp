@@ -59,7 +59,7 @@ TEST(FindIconTexts, AreTheseInThreeLanguages) {
                  {FrmFindIcon_MnuContent, {"&Contents", "主题", "主題"}},
                  {FrmFindIcon_MnuAbout, {"&About...", "关于...", "關於..."}},
 
-                 // The names of the controls for whoever has the screen read aloud.
+                 // The names of the controls for screen readers.
                  {FrmFindIcon_lblDrive1, {"Drive", "驱动器", "磁碟機"}},
                  {FrmFindIcon_lblDir1, {"Folder", "文件夹", "資料夾"}},
                  {FrmFindIcon_lblFile1, {"Files to search", "要查找的文件", "要查找的檔案"}},

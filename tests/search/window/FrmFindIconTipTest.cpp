@@ -1,4 +1,4 @@
-// The grid's tool tip: what it says of the place under the pointer.
+// The grid's tool tip: its text for the place under the pointer.
 
 #include <windows.h>
 
@@ -15,7 +15,7 @@ namespace {
 
 class FrmFindIconTipTest : public support::FindIconFixture {
  protected:
-  // The control that tells of the grid, among the tips of the other controls.
+  // The grid's tool tip control, found among those of the other controls.
   HWND TipOfGrid() const {
     HWND found = nullptr;
     while ((found = FindWindowExW(nullptr, found, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
@@ -24,7 +24,7 @@ class FrmFindIconTipTest : public support::FindIconFixture {
     }
     return nullptr;
   }
-  // What the tip shows if the pointer rests where it is; empty if nothing.
+  // The tip's text while the pointer rests; empty if there is no tip.
   std::string Tip() const {
     const HWND tip = TipOfGrid();
     return tip == nullptr ? std::string() : PartOf(tip);
@@ -33,7 +33,7 @@ class FrmFindIconTipTest : public support::FindIconFixture {
     SendMessageW(Grid(), WM_MOUSEMOVE, 0, MAKELPARAM(x, y));
     return Tip();
   }
-  // Over the middle of an icon of 32 pixels, by its number.
+  // The tip over the middle of an icon of 32 pixels, by its number.
   std::string TipOf(int number) const {
     return TipAt(3 + (number - 1) % 15 * 38 + 16, 3 + (number - 1) / 15 * 38 + 16);
   }

@@ -1,4 +1,4 @@
-// What stays behind after a long day with the main window: over real files, with all its dialogs.
+// Leaks after long use of the main window: over real files, with all its dialogs.
 
 #include <windows.h>
 
@@ -36,7 +36,7 @@ class ManyRounds : public support::FindIconFixture {
     SendMessageW(Item(FrmFindIcon_ChkFileType0 + 1), BM_CLICK, 0, 0);
   }
 
-  // One thing of a round, and what it must leave.
+  // One step of a round, and what it must leave.
   void SearchFiles() {
     Click(FrmFindIcon_CmdFind);
     application.DoEvents();
@@ -74,7 +74,8 @@ class ManyRounds : public support::FindIconFixture {
     EXPECT_FALSE(support::ReadAll(saved_.In("Icon 4.ico")).empty());
   }
 
-  // Search, view, save and copy; of the saves with a dialog of their own, and all icons at once, one a round, in turn.
+  // Search, view, save and copy. The saves with a dialog of their own and the save of all icons take turns, one in each
+  // round.
   void Round(int number) {
     const std::array<std::function<void()>, 4> turns{[this] { SaveCursor(); }, [this] { SaveJpeg(); },
                                                      [this] { SaveGif(); }, [this] { SaveAll(); }};
@@ -95,8 +96,8 @@ class ManyRounds : public support::FindIconFixture {
   support::ModalDriver driver_;
 };
 
-// What the system itself may keep of a round. One and the same program keeps less than 2 KB a round under Wine 8
-// and 2.5 KB under Wine 10, most of it of windows that show a picture, and no object or handle under either.
+// The memory that the system itself may leak in a round. The same program leaks less than 2 KB in each round under Wine
+// 8 and 2.5 KB under Wine 10, most of it by windows that show a picture, and no object or handle under either.
 int BytesOfTheSystemARound() {
   using Version = const char*(CDECL*)();
   void* const version = reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version"));
