@@ -5,7 +5,8 @@
 
 namespace tarvik::model {
 
-// A step of a sequence, as numbers: which of the things that can be done then, and how. Any numbers make a step.
+// A step of a sequence as numbers: which of the possible actions, and with which parameters. Every combination of
+// numbers is a valid step.
 struct Action {
   int what = 0;
   int a = 0;

@@ -98,7 +98,7 @@ void CompareView(Differences& all, const Model& model, const seen::Controls& at)
   all.Expect("label item", model.labelShown, seen::IsMenuChecked(at.Window(), FrmFindIcon_mnuShowLabel));
 }
 
-// The grid as it is seen through the viewport, every pixel.
+// Compares every pixel of the grid that the viewport shows.
 void CompareGrid(Differences& all, const Model& model, const seen::Controls& at) {
   const HWND frame = at.Of(FrmFindIcon_PicFrame);
   const HWND picture = at.Of(FrmFindIcon_PicIcons);
@@ -134,7 +134,7 @@ struct Look {
   COLORREF color;
 };
 
-// How the list draws a row: what it is told before it does.
+// How the list draws a row: the attributes that it is given before it draws.
 Look LookOfRow(const seen::Controls& at, int row) {
   const HWND list = at.Of(FrmFindIcon_Lv);
   const HDC dc = CreateCompatibleDC(nullptr);

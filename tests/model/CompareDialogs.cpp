@@ -1,4 +1,4 @@
-// The windows over the main one compared with the model, and the files that were written.
+// Compares the windows over the main one, and the written files, with the model.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -23,7 +23,7 @@ std::string Compared(const std::string& what, int expected, int seen) {
   return Compared(what, std::to_string(expected), std::to_string(seen));
 }
 
-// Line ends of a static control are not told apart.
+// The kinds of line ends in a static control are treated as equal.
 std::string Lines(std::string text) {
   std::erase(text, '\r');
   return text;
@@ -36,7 +36,7 @@ std::string BoxDifference(const Model& model) {
          Compared("box's text", Lines(model.box.text), Lines(seen::BoxText(box)));
 }
 
-// Every pixel of the enlarged icon that lies in the window above the status bar.
+// Compares every pixel of the enlarged icon in the part of the window above the status bar.
 std::string PictureDifference(const ViewShown& view, HWND window) {
   const HWND picture = GetDlgItem(window, frmBit_img);
   const int side = view.zoom * view.picture.width;
@@ -120,7 +120,7 @@ std::string NewFolderDifference(const Model& model) {
          Compared("new folder's name", model.newFolderName, seen::Text(window, frmDirCreate_txt));
 }
 
-// Whether each of the windows over the main one is open that should be, and no other.
+// Compares which windows over the main one are open with those that the model expects.
 std::string OpenDifference(const Model& model) {
   struct Known {
     Front front;

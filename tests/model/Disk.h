@@ -9,7 +9,7 @@
 
 namespace tarvik::model {
 
-// A file of the made machine: what it holds is settled by its id, and its icons can be told from those of every other.
+// A file of the made machine. Its id determines its content; its icons differ from those of every other file.
 struct MadeFile {
   int id = 0;
   int icons = 0;  // of an .ani file: its frames
@@ -29,9 +29,9 @@ Pixel ColorAt(const IconLook& look, int size, int x, int y);
 // The folders and files that the test makes. Paths are those of the system: "C:\", "C:\icons".
 class Disk {
  public:
-  // With folders and files of many kinds.
+  // Has folders and files of many kinds.
   Disk();
-  // With that folder alone, which is empty.
+  // Has only that folder, which is empty.
   explicit Disk(const std::string& folder) { folders_[folder]; }
 
   struct Drive {
@@ -42,9 +42,9 @@ class Disk {
   static const std::vector<Drive>& Drives();
 
   bool IsReadable(const std::string& folder) const;
-  // Names of the files that have one of the pattern's extensions ("*.ico;*.dll;"), or all ("*.*"), in order.
+  // Sorted names of the files that have one of the pattern's extensions ("*.ico;*.dll;"), or all ("*.*").
   std::vector<std::string> Files(const std::string& folder, const std::string& pattern) const;
-  // Full paths, in order.
+  // Full paths, sorted.
   std::vector<std::string> SubFolders(const std::string& folder) const;
   // Nothing if there is no such file. A doubled backslash counts as one.
   std::optional<MadeFile> Find(const std::string& path) const;
@@ -68,7 +68,7 @@ class Disk {
 std::string Joined(const std::string& folder, const std::string& name);
 // The folder above; a root has none and gives itself.
 std::string Above(const std::string& folder);
-// From the root down to the folder itself.
+// The folders from the root down to the folder itself.
 std::vector<std::string> Chain(const std::string& folder);
 std::string LastName(const std::string& folder);
 bool IsAnimation(const std::string& path);

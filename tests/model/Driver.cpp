@@ -1,4 +1,4 @@
-// How the steps come one after the other, also within the program's own loops.
+// How the steps follow one another, also inside the message loops that the program runs itself.
 #include "model/Driver.h"
 
 #include <algorithm>
@@ -14,8 +14,8 @@ constexpr UINT_PTR watchTimer = 1;
 constexpr UINT_PTR retryTimer = 2;
 constexpr UINT watchPeriod = 1000;     // ms
 constexpr UINT retryPeriod = 20;       // ms
-constexpr ULONGLONG patience = 30000;  // ms in which nothing moves
-constexpr int everythingEach = 16;     // steps between two comparisons of all there is
+constexpr ULONGLONG patience = 30000;  // ms without any progress
+constexpr int everythingEach = 16;     // steps between two complete comparisons
 
 constexpr const char* firstFolder = "C:\\icons";
 constexpr const wchar_t* className = L"TarvikModelDriver";
@@ -68,7 +68,7 @@ void Driver::Stop(const std::string& difference) {
   difference_ = difference;
   isDone_ = true;
   program_->End();
-  PostQuitMessage(0);  // for a box's own loop
+  PostQuitMessage(0);  // ends the message loop of a box
 }
 
 std::string Driver::Run() {
@@ -93,7 +93,7 @@ void Driver::RunOnce() {
   if (next_ == actions_.size()) isDone_ = true;
 }
 
-// What must be so after the main window is gone.
+// Checks the state after the main window is gone.
 std::string Driver::Ended() {
   std::string all;
   if (IsWindow(Main()) != FALSE) all += "the main window is still there\n";
@@ -116,8 +116,8 @@ std::string Driver::Ended() {
   return all;
 }
 
-// Whether the program has nothing left to do: neither messages nor painting. Input and timers wait behind posted
-// messages, these steps among them.
+// Whether the program is idle: no messages are pending and nothing has to be painted. Input and timers have lower
+// priority than posted messages, and these steps are posted.
 bool Driver::IsSettled() {
   const auto isEmpty = [] {
     MSG message;
@@ -132,7 +132,7 @@ bool Driver::IsSettled() {
 
 void Driver::OnTick() {
   if (isDone_ || !model_.IsRunning()) return;
-  // The program is still at work, in a loop of a search or a batch.
+  // The program is still busy in the loop of a search or a batch.
   if (depth_ > model_.Depth()) {
     tickOwed_ = true;
     return;

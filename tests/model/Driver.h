@@ -20,8 +20,8 @@
 
 namespace tarvik::model {
 
-// Does what a sequence says to the real windows, one step after the other, also while one of them keeps the program
-// waiting; and compares the windows with the model before each step and at the end.
+// Performs the steps of a sequence on the real windows, one after the other, also while a modal window or a message
+// loop keeps the program busy. Compares the windows with the model before each step and at the end.
 class Driver : NonCopyable {
  public:
   Driver(Tongue tongue, std::vector<Action> actions);
@@ -29,11 +29,11 @@ class Driver : NonCopyable {
 
   // The first difference; empty if there is none.
   std::string Run();
-  // What was done, one line a step. With TARVIK_MODEL_TALK set it is also said as it is done.
+  // The steps performed, one per line. If TARVIK_MODEL_TALK is set, each is also printed as it is performed.
   const std::vector<std::string>& Log() const { return log_; }
 
  private:
-  // Something that can be done; false if it cannot be done just then.
+  // A possible action. `act` returns false if the action is not possible at that moment.
   struct Choice {
     int weight;
     const char* name;
@@ -52,11 +52,11 @@ class Driver : NonCopyable {
   bool IsSettled();
   void Next();
   void Do(const Action& action);
-  // Runs what may keep the program waiting in a window of its own; the next step comes in there.
+  // Runs an action that may open a modal loop. The next steps are performed inside that loop.
   void Perform(const std::function<void()>& act);
   void Note(const std::string& detail) { log_.back() += ": " + detail; }
 
-  // The main window.
+  // Actions in the main window.
   bool FindByButton(const Action& action);
   bool FindByMenu(const Action& action);
   bool FindByEnter(const Action& action);
@@ -84,7 +84,7 @@ class Driver : NonCopyable {
   bool ChangeDisk(const Action& action);
   bool Close(const Action& action);
 
-  // Windows over it.
+  // Actions in the windows over it.
   bool AnswerBox(const Action& action);
   bool CloseMainBelow(const Action& action);
   bool StepView(const Action& action);
@@ -111,7 +111,7 @@ class Driver : NonCopyable {
   HWND Grid() const { return Item(FrmFindIcon_PicIcons); }
   void CloseAsked(int way);
   POINT PointOnGrid(const Action& action) const;
-  // Has the keyboard say that these keys are held, until the next call.
+  // Reports these keys as held until the next call.
   static void HoldKeys(bool ctrl, bool shift, bool leftButton = false);
 
   Disk disk_;
@@ -121,9 +121,9 @@ class Driver : NonCopyable {
   std::optional<seen::Controls> controls_;  // of the main window
   std::vector<Action> actions_;
   std::size_t next_ = 0;
-  std::deque<std::function<void()>> rest_;  // of a step that the program's own messages come into
+  std::deque<std::function<void()>> rest_;  // parts of a step that run between the program's own messages
   HWND window_ = nullptr;
-  int depth_ = 0;  // how many of Perform wait
+  int depth_ = 0;  // how many calls of Perform are nested
   bool tickOwed_ = false;
   bool isDone_ = false;
   ULONGLONG movedAt_ = 0;
@@ -131,7 +131,8 @@ class Driver : NonCopyable {
   std::vector<std::string> log_;
 };
 
-// What differs between the model and the windows; empty if nothing does. `everything` takes in what costs most.
+// The differences between the model and the windows; empty if there are none. `everything` includes the expensive
+// comparisons.
 std::string Difference(const Model& model, RealProgram& program, const seen::Controls& controls, bool everything);
 std::string MainDifference(const Model& model, const seen::Controls& at, bool everything);
 std::string DialogDifference(const Model& model);

@@ -1,4 +1,4 @@
-// What is done to the windows over the main one, and the ways in which the main window is closed.
+// Actions in the windows over the main one, and the ways in which the main window is closed.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -54,7 +54,7 @@ void Driver::CloseAsked(int way) {
   }
 }
 
-// As the task bar can, and as the system does when the session ends.
+// Closes the main window below the others, as the task bar can, and as the system does when the session ends.
 bool Driver::CloseMainBelow(const Action& action) {
   const bool session = action.a % 3 == 0;
   Note(session ? "the session ends" : "WM_CLOSE");
@@ -115,7 +115,7 @@ bool Driver::ShowInView(const Action& action) {
     } else {
       Command(view, buttons[way]);
     }
-    // The real clock must not strike between two steps.
+    // The real timer must not fire between two steps.
     KillTimer(view, frmBit_tim_nextpic);
   });
   return true;

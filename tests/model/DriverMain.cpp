@@ -1,4 +1,4 @@
-// What is done to the main window.
+// Actions in the main window.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -51,7 +51,7 @@ bool Driver::FindByMenu(const Action& /*action*/) {
   return true;
 }
 
-// Enter presses the default button, wherever the focus is.
+// Enter presses the default button, whichever control has the focus.
 bool Driver::FindByEnter(const Action& /*action*/) {
   Find([this] {
     SetFocus(Item(FrmFindIcon_txtMax));
@@ -61,8 +61,8 @@ bool Driver::FindByEnter(const Action& /*action*/) {
   return true;
 }
 
-// The search serves what waits: clicks, commands and a wish to close do nothing then. A search that an error ended is
-// over when its box comes.
+// The search processes the waiting messages: clicks, commands and requests to close have no effect then. A search that
+// ended with an error is over when its message box opens.
 bool Driver::FindWithClicksWaiting(const Action& action) {
   const POINT point = PointOnGrid(action);
   Find([this, point] {
@@ -117,7 +117,8 @@ bool Driver::ClickGrid(const Action& action) {
   return true;
 }
 
-// The second release comes while the view is open, to whatever holds the mouse; or only after it is closed.
+// The second release comes while the view is open and goes to the window that has captured the mouse, or it comes after
+// the view is closed.
 bool Driver::DoubleClickGrid(const Action& action) {
   if (model_.listShown) return false;
   const POINT point = PointOnGrid(action);
@@ -260,7 +261,7 @@ bool Driver::ChooseDrive(const Action& action) {
   return true;
 }
 
-// Files come, change and go; the program is not told.
+// Files are added, changed and deleted without the program's knowledge.
 bool Driver::ChangeDisk(const Action& action) {
   static constexpr const char* folders[] = {
       "C:\\", "C:\\icons", "C:\\icons\\deep", "C:\\icons\\deep\\deeper", "C:\\icons\\many", "C:\\program",

@@ -1,4 +1,4 @@
-// What is done to the main window's list and by its menus.
+// Actions in the main window's list and menus.
 #include <windows.h>
 
 #include <commctrl.h>

@@ -1,4 +1,4 @@
-// The finished program against the model, driven from a second process over real files.
+// Compares the finished program with the model. It is driven from a second process over real files.
 #include "model/FinishedProgram.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ namespace {
 constexpr int sequences = 3;  // in each part
 constexpr int longestSequence = 60;
 
-// Each part has a seed of its own.
+// Each part has its own random seed.
 class FinishedProgramModel : public ::testing::TestWithParam<std::uint64_t> {};
 
 TEST_P(FinishedProgramModel, ShowsWhatTheModelKnowsAfterEachStep) {

@@ -24,7 +24,7 @@ class Writer {
   Bytes bytes;
 };
 
-// Bits a pixel by what colours there are. An icon's palette keeps a place each for black and white.
+// Bits per pixel for the colours that occur. An icon's palette reserves one entry each for black and white.
 int DepthOf(const Picture& picture, bool isIcon) {
   const std::set<Pixel> colors(picture.pixels.begin(), picture.pixels.end());
   const auto isTwo = [](Pixel color) { return color == blackPixel || color == whitePixel; };
@@ -181,7 +181,7 @@ Bytes CursorFile(const Capture& icon, Spot hotSpot) {
   return IconOrCursor(icon, 2, hotSpot.x, hotSpot.y, DepthOf(icon.image, true));
 }
 
-// The size that the header gives is a table's, which has the same numbers for 64 pixels as for 48.
+// The size in the header comes from a table that has the same values for 64 pixels as for 48.
 Bytes BitmapFile(const Capture& icon) {
   const Picture& picture = icon.composed;
   const int depth = DepthOf(picture, false);

@@ -17,7 +17,7 @@ struct Capture {
   Picture composed;
 };
 
-// The icon at that size; without one, a blank.
+// The icon at that size; a blank one if `look` is null.
 Capture CaptureOf(const IconLook* look, int size);
 
 struct Spot {
@@ -25,7 +25,7 @@ struct Spot {
   int y = 0;
 };
 
-// What a save must write, byte by byte.
+// The expected content of a saved file, byte by byte.
 Bytes IconFile(const Capture& icon);
 Bytes CursorFile(const Capture& icon, Spot hotSpot);
 Bytes BitmapFile(const Capture& icon);

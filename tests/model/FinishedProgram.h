@@ -100,7 +100,7 @@ class FinishedProgram {
   }
   void Note(const std::string& detail) { log_.back() += ": " + detail; }
 
-  // --- what is done
+  // --- actions
   void Start() {
     program_.Start();
     model_.Start(ToUtf8(program_.Path().parent_path().wstring()));
@@ -249,7 +249,7 @@ class FinishedProgram {
     for (const auto& [path, file] : model_.written) {
       const bool isThere = Eventually([&] { return !support::ReadAll(path).empty(); });
       if (!isThere) boxDifference_ += "not written: " + path + "\n";
-      // An icon file that was saved is found by the next search.
+      // A saved icon file is found by the next search.
       const auto slash = path.rfind('\\');
       disk_.Put(path.substr(0, slash), path.substr(slash + 1), 1);
     }
@@ -289,7 +289,7 @@ class FinishedProgram {
                            reinterpret_cast<LPARAM>(program_.Item(bar).Window()));
   }
 
-  // --- what is seen
+  // --- what the windows show
   std::string Title() const { return program_.Window().Text(); }
   std::string Status() const { return StatusText(program_.Item(FrmFindIcon_sbMain), 0); }
   bool IsEnabled(int id) const { return program_.Item(id).IsEnabled(); }
@@ -356,7 +356,7 @@ class FinishedProgram {
     return pixel;
   }
 
-  // Frames alone: every pixel of the viewport that no icon can be drawn on.
+  // Compares frames only: every pixel of the viewport that cannot belong to an icon.
   std::string FrameDifference(const RECT& frame) const {
     const Screenshot shown(frame);
     const model::Picture& expected = model_.grid.Shown();

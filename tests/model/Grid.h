@@ -7,7 +7,7 @@
 
 namespace tarvik::model {
 
-// What the choice of an icon size settles.
+// The measures of the grid that depend on the chosen icon size.
 struct Geometry {
   int size = 0;
   int pitch = 0;
@@ -45,7 +45,7 @@ class Grid {
   void ScrollBy(int pixels) { ScrollTo(scroll_ + pixels); }
   void ScrollToEnd() { ScrollTo(maximum_); }
   int LineStep() const { return line_; }
-  // The wheel, in 120ths of a notch.
+  // Turns the wheel, in 120ths of a notch.
   void Turn(int delta, int linesOfNotch);
 
  private:
@@ -53,7 +53,7 @@ class Grid {
   int scroll_ = 0;
   int maximum_ = 0;
   int line_ = 0;
-  int rest_ = 0;  // turned, but less than a pixel
+  int rest_ = 0;  // turned so far, but less than a pixel
   bool scrolls_ = false;
 };
 

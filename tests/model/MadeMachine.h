@@ -33,7 +33,7 @@ class MadeFolders final : public IconSource, public FolderReader {
   const Disk& disk_;
 };
 
-// Takes written files and keeps them until they are taken; refuses what the made machine refuses.
+// Keeps written files until they are fetched; refuses the paths that the made machine refuses.
 class MadeFiles final : public FileSink {
  public:
   bool Open(const std::string& path, ReadOnlyFile readOnly) override;
@@ -46,7 +46,7 @@ class MadeFiles final : public FileSink {
   std::string path_;
 };
 
-// A temporary bitmap that is never on a disk.
+// A temporary bitmap that is kept in memory only.
 class MadeTemporaryPicture final : public TemporaryPicture {
  public:
   const PixelView* PassThrough(const PixelView& picture) override { return &picture; }

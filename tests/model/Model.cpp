@@ -1,4 +1,4 @@
-// The windows that come and go, and the search options.
+// Opening and closing of windows, and the search options.
 #include "model/Model.h"
 
 #include <algorithm>

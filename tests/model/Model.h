@@ -13,7 +13,7 @@
 
 namespace tarvik::model {
 
-// Which window takes what the user does.
+// The window that receives the user's input.
 enum class Front { Main, Box, View, HotSpot, Chooser, NewFolder, About, JpegOptions, GifOptions };
 
 struct Entry {
@@ -27,7 +27,7 @@ struct Box {
   std::string text;
 };
 
-// What the program keeps for its next start; nothing: it never wrote that.
+// What the program saves for its next start; nothing if it has not been saved yet.
 struct Kept {
   std::optional<std::string> folder;
   std::optional<std::string> subDir;
@@ -60,13 +60,13 @@ struct ChooserShown {
 enum class Kind { Icon, Image, Cursor };
 enum class Scope { All, Selected };
 
-// What a save must have written: bytes, or for the encoders' formats the bytes that such a file begins with.
+// The expected content of a saved file: all bytes, or for the encoders' formats the bytes at its start.
 struct Written {
   Bytes bytes;
   bool isBeginning = false;
 };
 
-// A text in the limit's box and the number that it is read as; below zero, it is none.
+// A text in the limit's box and its value; negative if the text is not a number.
 struct LimitText {
   const char* text;
   int value;
@@ -86,10 +86,10 @@ inline constexpr std::array<LimitText, 15> limitTexts{{{"300", 300},
                                                        {"99999", 99999},
                                                        {"abc", -1},
                                                        {"", -1}}};
-inline constexpr int highestNumber = 32767;  // of the limit; above, the search fails
+inline constexpr int highestNumber = 32767;  // highest value of the limit; above it, the search fails
 
-// What the user must see, and how each thing that the user does changes it. It is written from what the program
-// promises and knows nothing of the program's code.
+// What the windows must show, and how each action of the user changes it. Written from the documented behaviour,
+// independently of the program's code.
 class Model {
  public:
   Model(Disk& disk, Tongue tongue) : disk_(&disk), tongue_(tongue) {}
@@ -98,10 +98,10 @@ class Model {
   void Start(const std::string& programFolder);
   bool IsRunning() const { return !fronts.empty(); }
   Front Foremost() const { return fronts.back(); }
-  // How many windows wait for one above them.
+  // How many windows wait for a modal window above them.
   int Depth() const { return static_cast<int>(fronts.size()) - 1; }
   bool Has(Front front) const;
-  // The main window is asked to close, from wherever. It refuses while a search or a save is under way.
+  // A request to close the main window, from any source. It is refused while a search or a save is running.
   void CloseMain();
   void EndSession();
   void AnswerBox();
@@ -140,7 +140,7 @@ class Model {
   void Zoom(int row);
   void ResizeView(int width, int height);
 
-  // --- saves; `path` is the answer of the Save dialog, empty: cancelled
+  // --- saves; `path` is the answer of the Save dialog, empty if it was cancelled
   void SaveOne(Kind kind, const std::string& path);
   void SaveMany(Kind kind, Scope scope);
   void EndHotSpot(bool ok);
@@ -162,7 +162,7 @@ class Model {
   Tongue Language() const { return tongue_; }
   static std::vector<std::string> FolderRows(const Disk& disk, const std::string& folder);
 
-  // --- what is there to be seen
+  // --- the visible state
   std::vector<Front> fronts;
   Kept kept;
 
@@ -200,7 +200,7 @@ class Model {
   int current = 0;
   int frameX = 0;
   int frameY = 0;
-  std::optional<int> anchor;  // the row that Shift goes on from
+  std::optional<int> anchor;  // the row from which Shift extends the selection
 
   Box box;
   ViewShown view;
@@ -208,7 +208,7 @@ class Model {
   std::string newFolderParent;
   std::string newFolderName;
   Spot hotSpot;
-  std::map<std::string, Written> written;  // since it was last looked at
+  std::map<std::string, Written> written;  // since the last comparison
   std::string handedPath;                  // by OK
   int handedIndex = 0;
 
@@ -251,7 +251,7 @@ class Model {
   int savedFiles_ = 0;
 };
 
-// Whether the made machine refuses to write there.
+// Whether the made machine refuses to write to that path.
 bool IsRefusedPath(const std::string& path);
 
 }  // namespace tarvik::model

@@ -22,7 +22,7 @@ void Model::ChooseChooserDrive(int row) {
   chooser.folder = chooser.answer = chooser.drive;
 }
 
-// Each choice adds the types to the list once more; only the first of each has an extension.
+// Each choice appends the types to the list again; only the first set has extensions.
 void Model::ChooseChooserType(int row) {
   chooser.type = row;
   chooser.types += typesAdded;

@@ -70,7 +70,7 @@ void Model::SaveOne(Kind kind, const std::string& path) {
 void Model::EndHotSpot(bool ok) {
   fronts.pop_back();
   if (!ok) return EndSaving();
-  hotSpot = {};  // every click is bounded to the first pixel
+  hotSpot = {};  // every click is limited to the first pixel
   FinishOne(path_);
 }
 
@@ -131,7 +131,7 @@ void Model::EndChooser(bool ok) {
   WriteMany();
 }
 
-// Goes on from where a failure stopped it.
+// Continues after the file at which a failure stopped it.
 void Model::WriteMany() {
   static constexpr Words progress{"Saving...", "正在保存...", "正在存儲..."};
   status = progress.In(tongue_);

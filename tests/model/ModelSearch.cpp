@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t charactersInBox = 20;
 
-// Below zero for a text that is no number.
+// Returns a negative number for a text that is not a number.
 int ReadLimit(const std::string& text) {
   for (const LimitText& known : limitTexts) {
     if (text == known.text) return known.value;
@@ -30,7 +30,7 @@ void Model::FailureExit() {
   FillLists();
 }
 
-// `dirAt` is the folder that the title names: the one that the walk stands in while it looks at the files.
+// `dirAt` is the folder in the title: the folder list's current folder while the walk reads the files.
 void Model::Count(const std::string& root, std::string& dirAt) {
   for (const std::string& name : disk_->Files(root, pattern)) {
     iconCount += disk_->IconsOf(root + "\\" + name);

@@ -25,7 +25,7 @@ void Model::ClickGrid(int x, int y, bool ctrlAlone) {
   Choose(index, column * Size().pitch + 1, row * Size().pitch + 1, ctrlAlone);
 }
 
-// Row k is deselected beside the frame of the cell after it.
+// Row k is deselected, but the frame that is erased is that of the next cell.
 void Model::Choose(int index, int x, int y, bool ctrl) {
   current = index;
   ShowCurrentLabel();

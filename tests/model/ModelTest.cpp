@@ -1,4 +1,4 @@
-// The program's real windows against the model, in random sequences.
+// The program's real windows compared with the model, in random sequences.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -16,8 +16,8 @@
 namespace tarvik::model {
 namespace {
 
-// Steps in one run of the tests, in all parts together, and the most in one sequence. TARVIK_MODEL_STEPS asks for
-// another number of them.
+// Steps in one run of the tests, in all parts together, and the maximum in one sequence. TARVIK_MODEL_STEPS sets
+// another total.
 constexpr int usualSteps = 10000;
 constexpr int parts = 4;
 constexpr int longestSequence = 300;
@@ -28,7 +28,7 @@ int WantedSteps() {
   return wanted != nullptr ? std::atoi(wanted) : usualSteps;
 }
 
-// A sequence has half of the longest one's steps, taken over all of them.
+// On average a sequence has half as many steps as the longest one.
 rc::detail::TestParams ParametersOf(int part) {
   rc::detail::TestParams parameters = rc::detail::configuration().testParams;
   if (std::getenv("RC_PARAMS") != nullptr) return parameters;

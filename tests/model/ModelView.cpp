@@ -10,7 +10,7 @@ constexpr int firstZoom = 5;
 
 }  // namespace
 
-// The icon of a row as its file holds it now.
+// The icon of a row as its file contains it now.
 Capture Model::Rendered(int row) const {
   const Entry& entry = entries.at(static_cast<std::size_t>(row));
   const auto file = disk_->Find(entry.path);
@@ -39,7 +39,7 @@ void Model::CloseView() {
   fronts.pop_back();
 }
 
-// Outside the list the picture stays and the text goes.
+// For a number outside the list the picture stays and the text is cleared.
 void Model::ShowEntry() {
   view.status.clear();
   if (!Answers(view.entry - 1)) return;

@@ -11,7 +11,7 @@ using Pixel = std::uint32_t;  // 0x00BBGGRR
 inline constexpr Pixel blackPixel = 0x000000;
 inline constexpr Pixel whitePixel = 0xFFFFFF;
 
-// A picture in memory, top row first. Drawing is cut at its edges.
+// A picture in memory, top row first. Drawing is clipped at its edges.
 struct Picture {
   Picture() = default;
   Picture(int wide, int high, Pixel color);
@@ -21,7 +21,7 @@ struct Picture {
   void Fill(Pixel color);
   // The one-pixel outline of a box; both corners belong to it.
   void Box(int left, int top, int right, int bottom, Pixel color);
-  // Rows are added in that colour below, or cut off there.
+  // Adds rows of that colour at the bottom, or removes rows there.
   void SetHeight(int high, Pixel color);
 
   bool operator==(const Picture&) const = default;

@@ -15,7 +15,7 @@
 namespace tarvik::model {
 namespace {
 
-// The real dialogs, but for the system's own that asks for a path.
+// The real dialogs, except the system's dialog that asks for a path.
 class Dialogs final : public SaveDialogs {
  public:
   explicit Dialogs(ExportDialogs& real) : real_(real) {}
@@ -114,7 +114,7 @@ void RealProgram::End() {
   while (PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) continue;
 }
 
-// With a form left the loop takes the message that waits, and ends by the one after it.
+// If a form is left, the loop processes the waiting message, and ends by the one after it.
 bool RealProgram::WouldEnd() {
   constexpr UINT waiting = WM_APP + 77;
   MSG message;

@@ -22,15 +22,15 @@ class RealProgram : NonCopyable {
 
   // The main window; null when it is gone.
   HWND Main() const;
-  // Serves messages until `isDone`.
+  // Processes messages until `isDone` returns true.
   void Serve(const std::function<bool()>& isDone);
   void ServeWaiting();
   // Ends all windows as the end of a session does.
   void End();
-  // Whether the program would end now: no window of its is left.
+  // Whether the program would end now because it has no window left.
   bool WouldEnd();
 
-  // What the Save dialog answers from now on.
+  // Sets the answer of the Save dialog from now on.
   void AnswerPath(const std::string& path);
   MadeFiles& Files();
   std::string HandedPath() const;

@@ -26,7 +26,7 @@ UINT MenuState(HWND window, int item, UINT by) {
   return GetMenuState(GetMenu(window), static_cast<UINT>(item), by);
 }
 
-// A picture in memory that windows are copied into.
+// A picture in memory into which windows are copied.
 class Copy {
  public:
   Copy() : dc_(CreateCompatibleDC(nullptr)) {}

@@ -8,10 +8,10 @@
 
 #include "model/Picture.h"
 
-// What the windows of this thread show, read as anyone could read it. Texts are UTF-8.
+// What the windows of this thread show, read only through public interfaces of the system. Texts are UTF-8.
 namespace tarvik::model::seen {
 
-// A window's controls by their ids, found once: the system asks its server each time.
+// A window's controls by their ids, looked up once, because each lookup is a request to Wine's server.
 class Controls {
  public:
   explicit Controls(HWND window);
@@ -40,20 +40,20 @@ std::string Header(HWND listView, int column);
 bool IsMenuEnabled(HWND window, int id);
 bool IsBarMenuEnabled(HWND window, int place);
 bool IsMenuChecked(HWND window, int id);
-// Whether the control is meant to be seen, whatever its window is.
+// Whether the control is visible by its own style, even if its window is hidden.
 bool IsShown(HWND control);
 
-// The pixels of a window from its top left corner on, as they are painted. They last until the next call.
+// The pixels of a window from its top left corner on, as painted. Valid until the next call.
 const Picture& Pixels(HWND window, int width, int height);
 
-// The top windows of this thread that are in sight.
+// The visible top-level windows of this thread.
 std::vector<HWND> WindowsInSight();
-// The one of them that has the control; null without one.
+// The one of them that has the control; null if none does.
 HWND WindowWith(int id, const std::vector<HWND>& windows = WindowsInSight());
-// The message box in sight, and its text.
+// The visible message box, and its text.
 HWND MessageBoxInSight();
 std::string BoxText(HWND box);
-// Has all windows of this thread painted now.
+// Paints all windows of this thread now.
 void PaintAll();
 
 }  // namespace tarvik::model::seen

@@ -6,7 +6,7 @@
 
 #include "model/Action.h"
 
-// How RapidCheck makes steps, and shows them.
+// How RapidCheck generates steps, and prints them.
 namespace tarvik::model {
 
 inline void showValue(const Action& action, std::ostream& out) {

@@ -7,7 +7,7 @@ namespace tarvik::model {
 
 enum class Tongue { English, Simplified, Traditional };
 
-// What the user must read, in the three languages. "#" and "@" are places for values.
+// The expected texts in the three languages. "#" and "@" are placeholders for values.
 struct Words {
   const char* english;
   const char* simplified;

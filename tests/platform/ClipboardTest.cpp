@@ -35,7 +35,7 @@ TEST(Clipboard, ReplacesWhatWasThere) {
 
 TEST(Clipboard, IsRefusedWhileAnotherHoldsItOpen) {
   const Surface picture(2, 2, white);
-  // Whoever opened it for a window has it to themselves; another thread's window is another owner.
+  // While a window has the clipboard open, no other window can open it; a window of another thread is another owner.
   bool copied = true;
   const HWND holder = CreateWindowW(L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
   ASSERT_NE(OpenClipboard(holder), 0);

@@ -65,8 +65,8 @@ TEST(DiskFile, ReplacesAHiddenFile) {
   EXPECT_EQ(ReadAll(path), "new");
 }
 
-// One way for all formats: a file of either kind is put in the place of whatever can be there, or refused, and nothing
-// else is touched.
+// The same for all formats: a file of either kind replaces anything that can be at its path, or is refused, and nothing
+// else is changed.
 TEST(DiskFile, ReplacesTheTargetItselfOrLeavesEverythingAsItIs) {
   for (const ReadOnlyFile readOnly : {ReadOnlyFile::Refused, ReadOnlyFile::Replaced}) {
     SCOPED_TRACE(readOnly == ReadOnlyFile::Replaced ? "read-only files are replaced" : "read-only files are refused");

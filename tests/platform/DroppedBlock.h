@@ -13,7 +13,7 @@
 
 namespace tarvik::support {
 
-// The memory that a drop of these files and folders brings, as WM_DROPFILES has it.
+// The memory block of WM_DROPFILES for these files and folders.
 inline std::vector<std::byte> DroppedBlock(const std::vector<std::string>& paths) {
   std::wstring names;
   for (const std::string& path : paths) names += ToWide(path) + L'\0';

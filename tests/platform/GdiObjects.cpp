@@ -14,7 +14,7 @@ int CountGdiObjects() {
 int CountGdiObjects(HANDLE process) {
   if (const DWORD count = GetGuiResources(process, GR_GDIOBJECTS)) return static_cast<int>(count);
 
-  // Wine does not count, but it keeps the table of the process where Windows keeps its own: its address stands in the
+  // Wine does not count them, but keeps the GDI handle table of the process where Windows does: its address is in the
   // process environment block.
   constexpr std::size_t tablePointerOffset = 0xF8;
   constexpr std::size_t entryCount = 65536;

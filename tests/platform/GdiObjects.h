@@ -4,8 +4,8 @@
 
 namespace tarvik::support {
 
-// How many GDI objects this process, or another one that may be read, has: device contexts, bitmaps, brushes, fonts,
-// pens, regions. An icon counts by its bitmaps.
+// The number of GDI objects of this process, or of another one that may be read: device contexts, bitmaps, brushes,
+// fonts, pens, regions. An icon counts by its bitmaps.
 int CountGdiObjects();
 int CountGdiObjects(HANDLE process);
 

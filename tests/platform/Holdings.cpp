@@ -12,7 +12,7 @@
 namespace tarvik::support {
 namespace {
 
-// The list of all handles of the system, as far as it is read here.
+// The list of all handles of the system, with only the fields that are read here.
 struct HandleEntry {
   void* object;
   ULONG_PTR process;
@@ -33,7 +33,7 @@ int CountKernelHandles(HANDLE process) {
   DWORD counted = 0;
   if (GetProcessHandleCount(process, &counted) != FALSE && counted != 0) return static_cast<int>(counted);
 
-  // Wine does not count by process, but lists all handles there are. The header does not know that list.
+  // Wine does not count handles per process, but lists all of them. The headers do not declare that list.
   using Query = NTSTATUS(NTAPI*)(ULONG what, void* answer, ULONG size, ULONG* needed);
   constexpr ULONG extendedHandleInformation = 64;
   const auto query = reinterpret_cast<Query>(
@@ -50,13 +50,14 @@ int CountKernelHandles(HANDLE process) {
 int CountUserHandles(HANDLE process) {
   if (const DWORD count = GetGuiResources(process, GR_USEROBJECTS)) return static_cast<int>(count);
 
-  // Wine does not count. Its handles are numbers of places in one table, and how often the place was taken stands in
-  // their upper half. A place is new only where none was free: then all are held, by the probes and by others.
+  // Wine does not count USER handles. A handle's lower half is its position in one table, its upper half says how often
+  // that position was used. A position is used for the first time only if no older one is free; then all positions are
+  // occupied, by the probes and by other handles.
   std::vector<HMENU> probes;
   const auto number = [&probes] { return reinterpret_cast<ULONG_PTR>(probes.back()); };
   do probes.push_back(CreateMenu());
   while (probes.back() != nullptr && HIWORD(number()) != 1);
-  const int places = LOWORD(number()) / 2;  // the numbers are even ones
+  const int places = LOWORD(number()) / 2;  // positions are even numbers
   for (const HMENU probe : probes) DestroyMenu(probe);
   return places - static_cast<int>(probes.size());
 }
@@ -64,7 +65,7 @@ int CountUserHandles(HANDLE process) {
 std::int64_t UsedBytes(HANDLE process) {
   PROCESS_MEMORY_COUNTERS counters{};
   K32GetProcessMemoryInfo(process, &counters, sizeof counters);
-  return static_cast<std::int64_t>(counters.WorkingSetSize);  // Wine counts no other kind
+  return static_cast<std::int64_t>(counters.WorkingSetSize);  // Wine fills in no other counter
 }
 
 }  // namespace

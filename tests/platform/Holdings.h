@@ -6,7 +6,7 @@
 
 namespace tarvik::support {
 
-// What a process holds of the system.
+// The system resources that a process holds.
 struct Holdings {
   int gdiObjects;      // device contexts, bitmaps, brushes, fonts, pens, regions; an icon counts by its bitmaps
   int kernelHandles;   // files, mappings, events ...
@@ -14,10 +14,10 @@ struct Holdings {
   std::int64_t bytes;  // of memory in use
 };
 
-// `process` needs the rights to be asked and to be read.
+// `process` needs the access rights to query information and to read memory.
 Holdings HeldBy(HANDLE process);
 
-// How many views of files and of shared memory the process has in its memory. The same rights.
+// The number of views of files and of shared memory in the process's memory. Needs the same rights.
 int CountMappedViews(HANDLE process);
 
 }  // namespace tarvik::support

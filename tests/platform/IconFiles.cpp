@@ -51,7 +51,7 @@ void AppendIndexRow(Bytes& bytes, int size, int bits, bool transparent) {
   for (int x = 0; x < size; x += pixelsPerByte) {
     unsigned packed = 0;
     for (int i = 0; i < pixelsPerByte; ++i) {
-      // With one bit there is no third entry: 0 is the left colour, and transparent pixels have it too.
+      // With one bit there is no third entry: 0 is the left colour and also the colour of transparent pixels.
       const unsigned left = bits == 1 ? 0 : 1;
       const unsigned index = transparent ? 0 : left + (x + i < size / 2 ? 0 : 1);
       packed = packed << static_cast<unsigned>(bits) | index;
@@ -78,7 +78,7 @@ void AppendPalette(Bytes& bytes, int bits, Color left, Color right) {
   }
 }
 
-// Transparent in the lower half. Rows go upwards.
+// Transparent in the lower half. Rows are stored from the bottom up.
 void AppendMask(Bytes& bytes, int size) {
   for (int y = size - 1; y >= 0; --y) {
     const std::size_t start = bytes.size();
@@ -104,7 +104,7 @@ void AppendPngChunk(Bytes& bytes, std::string_view type, const Bytes& content) {
   AppendBig32(bytes, Crc(std::span(bytes).subspan(start)));
 }
 
-// Bytes in a zlib stream, stored and not compressed; at most 65,535.
+// A zlib stream in which the bytes are stored uncompressed; at most 65,535 bytes.
 Bytes Stored(const Bytes& content) {
   Bytes stream{std::byte{0x78}, std::byte{0x01}, std::byte{1}};
   Append16(stream, content.size());
@@ -157,7 +157,7 @@ IconPicture PngPicture(int size, Color left, Color right) {
   Bytes header;
   AppendBig32(header, static_cast<std::uint32_t>(size));
   AppendBig32(header, static_cast<std::uint32_t>(size));
-  Append(header, 8, 1);  // bits a channel
+  Append(header, 8, 1);  // bits per channel
   Append(header, 6, 1);  // red, green, blue, alpha
   Append(header, 0, 3);
   Bytes rows;
@@ -213,7 +213,7 @@ Bytes AnimationFile(std::span<const Color> colors, const AnimationClaims& claims
   Append32(header, claims.frames.value_or(pictures));
   Append32(header, claims.steps.value_or(steps));
   for (int i = 0; i < 4; ++i) Append32(header, 0);
-  Append32(header, 10);  // sixtieths of a second a step
+  Append32(header, 10);  // sixtieths of a second per step
   Append32(header, picturesAreIcons | (claims.sequence.empty() ? 0 : hasSequence));
 
   Bytes list;

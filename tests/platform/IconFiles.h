@@ -17,8 +17,8 @@ using Bytes = std::vector<std::byte>;
 // half transparent.
 struct IconPicture {
   int size = 32;  // both sides, even
-  int bits = 24;  // a pixel: 1, 4, 8, 24 or 32
-  Bytes data;     // as it stands in the file
+  int bits = 24;  // per pixel: 1, 4, 8, 24 or 32
+  Bytes data;     // as stored in the file
 };
 
 // A picture as a device-independent bitmap with its mask.
@@ -33,9 +33,9 @@ Bytes IconFile(std::span<const IconPicture> pictures, IconFileKind kind = IconFi
 // A file of one picture of 32 pixels in one colour.
 Bytes IconFileOf(Color color, IconFileKind kind = IconFileKind::Icon);
 
-// What an animation says of itself, where it differs from what it has.
+// Header values of an animation that differ from its content.
 struct AnimationClaims {
-  std::vector<std::uint32_t> sequence = {};  // the picture of each step; empty: as they stand in the file
+  std::vector<std::uint32_t> sequence = {};  // the picture of each step; if empty, in the order of the file
   std::optional<std::uint32_t> frames = {};
   std::optional<std::uint32_t> steps = {};
   std::optional<std::uint32_t> listSize = {};  // of the chunk that holds the pictures
@@ -47,7 +47,7 @@ Bytes AnimationFile(std::span<const Color> colors, const AnimationClaims& claims
 // The group resource of an icon of one picture, which is the icon resource of that number.
 Bytes IconGroup(const IconPicture& picture, std::uint16_t number);
 
-// Gives a program or library file an icon for each of the pictures.
+// Adds an icon for each of the pictures to a program or library file.
 void AddIcons(const std::string& path, std::span<const IconPicture> pictures);
 
 }  // namespace tarvik::support

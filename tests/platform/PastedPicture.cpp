@@ -17,7 +17,7 @@ PastedPicture FromBitmap(const std::byte* bytes) {
   PastedPicture picture{.width = header.biWidth, .height = header.biHeight, .pixels = {}};
   const std::size_t masks = header.biCompression == BI_BITFIELDS ? 3 * sizeof(DWORD) : 0;
   const std::byte* const rows = bytes + header.biSize + masks;
-  for (int y = header.biHeight - 1; y >= 0; --y) {  // the lowest row stands first
+  for (int y = header.biHeight - 1; y >= 0; --y) {  // the lowest row comes first
     for (int x = 0; x < header.biWidth; ++x) {
       RGBQUAD pixel;
       std::memcpy(&pixel, rows + (static_cast<std::ptrdiff_t>(y) * header.biWidth + x) * 4, sizeof pixel);
@@ -31,7 +31,7 @@ PastedPicture FromBitmap(const std::byte* bytes) {
 
 PastedPicture Paste() {
   PastedPicture picture;
-  // Others may have it open for a moment, the system itself among them.
+  // Another program, or the system itself, may have it open for a moment.
   const ULONGLONG deadline = GetTickCount64() + 60000;
   while (OpenClipboard(nullptr) == 0) {
     if (GetTickCount64() >= deadline) {

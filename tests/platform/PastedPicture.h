@@ -6,14 +6,14 @@
 
 namespace tarvik::support {
 
-// The bitmap on the clipboard, as another program gets it: as a device-independent bitmap of 32 bits.
+// The bitmap on the clipboard as another program receives it: a device-independent bitmap of 32 bits.
 struct PastedPicture {
   int width = 0;
   int height = 0;
   std::vector<Color> pixels;  // from the top-left corner
 };
 
-// What is there; no pixels where there is no bitmap.
+// The bitmap on the clipboard; no pixels if there is none.
 PastedPicture Paste();
 
 }  // namespace tarvik::support

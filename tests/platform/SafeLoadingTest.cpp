@@ -17,7 +17,7 @@ bool Loads(const wchar_t* name) {
   return module != nullptr;
 }
 
-// The library would be found in the current folder, were it looked for there.
+// The current folder contains such a library, so searching that folder would find it.
 TEST(SafeLoading, LooksInTheSystemFolderOnly) {
   const support::TemporaryFolder folder;
   const std::string library = JoinPath(SystemFolder(), "version.dll");

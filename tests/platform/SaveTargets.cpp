@@ -29,12 +29,12 @@ struct Row {
   const char* what;
   Kind kind;
   bool readOnly;
-  DWORD heldWith;  // what another program that has it open shares it for
-  bool takes;      // a file of a format that refuses read-only files
+  DWORD heldWith;  // the sharing mode of another program that has it open
+  bool takes;      // whether a format that refuses read-only files replaces it
   bool takesOverReadOnly;
 };
 
-// Under Wine a link has the attributes of the file that it leads to, so that a link to a read-only file is one.
+// Under Wine a link has the attributes of its target, so a link to a read-only file is read-only.
 constexpr std::array rows{
     Row{"nothing", Kind::Free, false, notHeld, true, true},
     Row{"a file", Kind::File, false, notHeld, true, true},
@@ -124,7 +124,7 @@ std::string SaveTargets::Path(int number) const {
   return JoinPath(folder_, names_.at(static_cast<std::size_t>(number) - 1));
 }
 
-// The file that has to stay: the target itself, or what a link or a second name stands for.
+// The file that must be kept: the target itself, or the target of a link or of a second name.
 std::string SaveTargets::Kept(int number) const {
   const Kind kind = RowOf(number).kind;
   return kind == Kind::Link || kind == Kind::SecondName ? JoinPath(elsewhere_, std::to_string(number)) : Path(number);

@@ -10,26 +10,27 @@
 
 namespace tarvik::support {
 
-// One of each thing that can be at the path of a file to be saved, and what has to become of it. Files that are to
-// stay hold the text "kept".
+// One of each thing that can be at the path of a file to be saved, and the expected result. Files that must not change
+// contain the text "kept".
 class SaveTargets : NonCopyable {
  public:
-  // Makes the targets in a folder that is empty; `nameOf` gives the name of each, counted from 1. Links lead to a
-  // second, empty folder.
+  // Makes the targets in an empty folder; `nameOf` gives the name of each, counted from 1. Links lead to a second,
+  // empty folder.
   SaveTargets(std::string folder, std::string elsewhere, const std::function<std::string(int number)>& nameOf);
-  // Empties both folders: what removes a link together with a folder may remove what the link leads to.
+  // Empties both folders separately: a function that deletes a folder with a link may also delete what the link leads
+  // to.
   ~SaveTargets();
 
   // How many there are in every SaveTargets.
   static int Count();
   std::string Path(int number) const;
-  // What it is, for messages: "a link to a read-only file".
+  // A description for messages: "a link to a read-only file".
   static std::string What(int number);
   // Whether a file can be saved there.
   static bool TakesAFile(int number, ReadOnlyFile readOnly);
 
-  // Lets go of the files that are held open. Then expects a file that starts with `start` at every target that takes
-  // one, everything else as it was made, and nothing else in the folder.
+  // Closes the files that are held open. Then expects a file that starts with `start` at every target that can be
+  // replaced, everything else unchanged, and no other file in the folder.
   void ExpectSaved(const std::string& start, ReadOnlyFile readOnly);
 
  private:

@@ -27,7 +27,7 @@ class SiblingFileTest : public ::testing::Test {
   const std::wstring path = ToWide(folder.In("a.ico"));
 };
 
-// As when the process is killed, which closes its handles and does nothing else.
+// As when the process is killed: its handles are closed, and nothing else happens.
 TEST_F(SiblingFileTest, GoesAwayWithItsHandleUnlessItWasMoved) {
   std::optional<SiblingFile> sibling(path);
   ASSERT_TRUE(*sibling);

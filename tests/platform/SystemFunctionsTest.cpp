@@ -1,4 +1,4 @@
-// Each function of the system that is looked up late, really called: the answers show which one it was.
+// Calls each system function that is looked up at run time: the results show which function it was.
 
 #include "platform/SystemFunctions.h"
 
@@ -16,7 +16,7 @@
 namespace tarvik {
 namespace {
 
-// A record of a size that no version of the dialogs takes.
+// A record with a size that no version of the dialogs accepts.
 template <typename Function>
 DWORD ErrorOfDialog(const Function& show) {
   OPENFILENAMEA record{};
@@ -38,7 +38,7 @@ TEST(SystemFunctions, SayWhatADriveIsConnectedTo) {
 }
 
 TEST(SystemFunctions, MakeObjectsOfTheSystem) {
-  // In a program that uses COM already, a further use says so.
+  // If the program already uses COM, a further use reports that.
   const ComUse use;
   EXPECT_EQ(late::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE), S_FALSE);
   late::CoUninitialize();
@@ -50,7 +50,7 @@ TEST(SystemFunctions, MakeObjectsOfTheSystem) {
   static_cast<IUnknown*>(link)->Release();
 }
 
-// A thread can use COM in another way only when every former use has ended.
+// A thread can use COM in another mode only after every earlier use has ended.
 TEST(SystemFunctions, EndTheUseOfObjects) {
   std::thread([] {
     {

@@ -14,7 +14,7 @@
 namespace tarvik {
 namespace {
 
-// Both ways of loading: the usual one and the one of an old Windows 7.
+// Both ways to load a library: the usual one and that of an old Windows 7.
 class EachWayOfLoading : public ::testing::TestWithParam<HMODULE (*)(const char*)> {};
 
 std::string PathOf(HMODULE module) {
@@ -23,7 +23,7 @@ std::string PathOf(HMODULE module) {
   return ToUtf8(path);
 }
 
-// A DLL beside this program and in the current folder for as long as the object lives.
+// A DLL in this program's folder and in the current folder while the object lives.
 class PlantedLibrary : NonCopyable {
  public:
   explicit PlantedLibrary(const std::string& name) : name_(name), beside_(ToWide(JoinPath(ProgramFolder(), name))) {
@@ -39,7 +39,7 @@ class PlantedLibrary : NonCopyable {
   }
 
   const std::string& Name() const { return name_; }
-  // Whether it is a DLL that loads if it is looked for where it is.
+  // Whether the DLL is valid: it loads by its full path.
   bool LoadsFromItsPlace() const {
     const HMODULE module = LoadLibraryW(beside_.c_str());
     if (module != nullptr) FreeLibrary(module);
@@ -87,7 +87,7 @@ TEST(LateFunction, LoadsItsLibraryWithTheFirstCall) {
   EXPECT_NE(GetModuleHandleW(L"avifil32.dll"), nullptr);
 }
 
-// What the error that a call ends with says besides its kind.
+// The text of the error that a call throws, apart from its type.
 std::string ErrorOf(const char* library, const char* name) {
   const LateFunction<int(WINAPI*)()> function(library, name);
   EXPECT_EQ(function.Find(), nullptr);

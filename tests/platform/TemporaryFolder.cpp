@@ -43,7 +43,7 @@ void RemoveTree(const std::wstring& path) {
   RemoveDirectoryW(path.c_str());
 }
 
-// Wine makes no symbolic links itself, but it runs the program of the system below that does.
+// Wine cannot make symbolic links itself, but it can run the host system's program for that.
 using UnixName = char*(CDECL*)(const wchar_t* path);
 
 UnixName UnixNameFunction() {
@@ -51,8 +51,8 @@ UnixName UnixNameFunction() {
   return reinterpret_cast<UnixName>(reinterpret_cast<void*>(address));
 }
 
-// Runs a program of the system below Wine and waits until the path is there, or is gone. (Such a process cannot be
-// waited for.)
+// Runs a program of the host system below Wine and waits until the path exists, or no longer exists. (Wine cannot wait
+// for such a process.)
 void RunBelowWine(const wchar_t* program, std::wstring command, const std::wstring& path, bool thereAfterwards) {
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
@@ -82,7 +82,7 @@ void MakeSystemLink(const std::wstring& link, const std::wstring& target) {
   CreateSymbolicLinkW(link.c_str(), target.c_str(), withoutRights | (folder ? SYMBOLIC_LINK_FLAG_DIRECTORY : 0));
 }
 
-// Wine would remove what the link stands for.
+// Wine would delete the link's target.
 void RemoveLink(const std::wstring& link) {
   if (const UnixName unixName = UnixNameFunction())
     RunBelowWine(L"Z:\\bin\\rm", L"rm -f" + Quoted(unixName(link.c_str())), link, false);
@@ -125,7 +125,7 @@ std::string TemporaryFolder::MakeSparseFile(std::string_view name, std::span<con
   const std::string path = MakeFile(name, start);
   const FileHandle file(CreateFileW(LiteralPath(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
   DWORD written = 0;
-  // Wine's files are sparse unasked, and it does not know the request.
+  // Wine's files are always sparse, and it does not support the request.
   DeviceIoControl(file.get(), FSCTL_SET_SPARSE, nullptr, 0, nullptr, 0, &written, nullptr);
   LARGE_INTEGER end;
   end.QuadPart = static_cast<LONGLONG>(size);

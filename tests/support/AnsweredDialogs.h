@@ -9,8 +9,7 @@
 
 namespace tarvik::support {
 
-// The real dialogs of the save commands, but for the two that ask for a place on the disk: those are answered by the
-// test at once.
+// The real dialogs of the save commands, except the two that ask for a path: those return the test's answers at once.
 class AnsweredDialogs final : public SaveDialogs {
  public:
   AnsweredDialogs(Application& application, ProgramState& state, std::function<HWND()> owner)
@@ -32,11 +31,11 @@ class AnsweredDialogs final : public SaveDialogs {
   void FreeEncoders() override { real_.FreeEncoders(); }
 
   std::string path;                                                     // the answers
-  std::function<std::string(const FileDialogMode& mode)> onAskForPath;  // gives the path in place of that one, if set
+  std::function<std::string(const FileDialogMode& mode)> onAskForPath;  // if set, gives the path instead
   std::string folder;
-  std::string extension;                    // chosen with the folder; empty leaves it
-  std::function<void()> onShowDir = [] {};  // what happens meanwhile
-  std::vector<std::string> asked;           // titles of the Save dialog, and what the folder chooser was for
+  std::string extension;                    // chosen with the folder; empty keeps the current one
+  std::function<void()> onShowDir = [] {};  // runs while the dialog is open
+  std::vector<std::string> asked;           // titles of the Save dialog, and purposes of the folder chooser
 
  private:
   ProgramState& state_;

@@ -13,10 +13,10 @@
 
 namespace tarvik::support {
 
-// A file's bytes, which count what is read.
+// A file's bytes; counts how many are read.
 class BytesInMemory final : public ByteSource {
  public:
-  // What fails the test: nothing, or to be asked for a byte that is not there.
+  // What fails the test: nothing, or a read beyond the end.
   enum class Strictness { None, OnlyWhatIsThere };
 
   explicit BytesInMemory(std::vector<std::byte> bytes, Strictness strictness = Strictness::OnlyWhatIsThere)

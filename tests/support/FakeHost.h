@@ -32,7 +32,7 @@ class FakeHost : public EnhancedViewHost {
   bool ViewOpen() const override { return viewOpen; }
   void SetViewOpen(bool open) override { viewOpen = open; }
 
-  std::vector<int> asked;  // the entries that were to be rendered, in order
+  std::vector<int> asked;  // the requested entries, in order
   bool failing = false;    // rendering throws
   bool viewOpen = false;
 

@@ -83,7 +83,7 @@ class FakeSaveWindow final : public SaveWindow {
   TestRaster magnified_{4, 4};
 };
 
-// Files that are only noted: "file" and the path when one is closed, "refused" when one cannot be opened.
+// Files that are only logged: "file" and the path when one is closed, "refused" when one cannot be opened.
 class NotedFiles final : public FileSink {
  public:
   explicit NotedFiles(Script& script) : script_(script) {}

@@ -28,12 +28,12 @@ struct FakeSurface : DrawSurface {
   std::string name;
 };
 
-// What a file of the fake machine yields.
+// The icons of a file of the fake machine.
 struct FakeFile {
   int icons = 0;       // as counted
   int steps = 1;       // that can be drawn
   int stepBound = 1;   // that its header allows
-  bool yields = true;  // whether an icon comes out
+  bool yields = true;  // whether an icon can be extracted
 };
 
 class FakeIcon : public ExtractedIcon, NonCopyable {
@@ -73,7 +73,7 @@ class FakeIcons : public IconSource {
   }
 
   std::map<std::string, FakeFile> files;
-  std::set<std::string> untaken;  // paths that the system cannot be given
+  std::set<std::string> untaken;  // paths that cannot be passed to the system
 
  private:
   Script& script_;
@@ -83,7 +83,7 @@ struct FakeFolder {
   std::vector<std::string> files;
   std::vector<std::string> subFolders;  // full paths
   bool isMounted = false;
-  std::string identity;  // another folder's path if this is that one; its own path if empty
+  std::string identity;  // path of another folder if it is the same one; its own path if empty
 };
 
 class FakeGrid : public GridView {
@@ -160,7 +160,7 @@ class FakeSearchWindow : public SearchWindow, public SearchFolders {
     script_.Add("box " + text);
     progress.push_back("box");
   }
-  // Each one that differs from the one before.
+  // Records only changes.
   void SetProgress(const Progress& shown) override {
     const std::string words[] = {"none", "counting", std::to_string(shown.done) + "/" + std::to_string(shown.total)};
     const std::string& text = words[static_cast<std::size_t>(shown.kind)];

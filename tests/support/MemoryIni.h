@@ -12,7 +12,7 @@ namespace tarvik::support {
 class MemoryIni final : public IniStore, NonCopyable {
  public:
   MemoryIni() : values(own_) {}
-  // Over values that outlive this object.
+  // Uses values that outlive this object.
   explicit MemoryIni(std::map<std::string, std::string>& shared) : values(shared) {}
 
   std::string Read(const std::string& section, const std::string& key, const std::string& defaultValue,

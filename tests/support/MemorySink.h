@@ -11,8 +11,8 @@
 
 namespace tarvik::support {
 
-// A file in memory. Fails at the step with the number `failingStep`, counted from 0, if there is one; `steps` lists
-// what was asked of it.
+// A file in memory. Fails at the step with the number `failingStep`, counted from 0, if there is one; `steps` logs the
+// calls.
 class MemorySink final : public FileSink {
  public:
   static constexpr int noFailure = -1;

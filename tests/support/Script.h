@@ -7,7 +7,7 @@
 
 namespace tarvik::support {
 
-// What was done, a line each, in order.
+// A log of the calls, one line each, in order.
 class Script : public std::vector<std::string> {
  public:
   void Add(std::string line) { push_back(std::move(line)); }
