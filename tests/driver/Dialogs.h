@@ -19,11 +19,11 @@ class Dialog {
   std::string Title() const { return window_.Text(); }
   bool IsOpen() const { return window_.IsVisible(); }
 
-  // Presses a button without waiting for what it does.
+  // Presses a button without waiting for the effect.
   void Press(int button) const { window_.Post(WM_COMMAND, static_cast<WPARAM>(button)); }
-  // Waits until the dialog is gone; throws std::runtime_error where it stays.
+  // Waits until the dialog is gone; throws std::runtime_error if it stays.
   void WaitForEnd() const;
-  // Ends the dialog by a button, or by the box in its corner.
+  // Ends the dialog by a button, or by its close box.
   void End(int button) const;
   void EndByCloseBox() const;
 
@@ -37,9 +37,9 @@ class FolderChooser : public Dialog {
   // Waits until the program shows it.
   explicit FolderChooser(const Program& program);
 
-  // The folder shown, as its label says.
+  // The current folder, as shown by the label.
   std::string Path() const;
-  // Opens a folder that the list shows, an ancestor or a sub-folder, by its name there.
+  // Opens a folder in the list, an ancestor or a sub-folder, by its name there.
   void Open(const std::string& name) const;
   std::vector<std::string> Folders() const;
   void ChooseDrive(char letter) const;
@@ -48,7 +48,7 @@ class FolderChooser : public Dialog {
   std::vector<std::string> Types() const;
   void ChooseType(int index) const;
 
-  // Ends the dialog by its OK.
+  // Ends the dialog by its OK button.
   void Ok() const;
   void Cancel() const;
 };
@@ -56,11 +56,11 @@ class FolderChooser : public Dialog {
 // The program's dialog that makes a folder.
 class NewFolderDialog : public Dialog {
  public:
-  // Has it open over the chooser, and waits for it.
+  // Opens it over the chooser, and waits for it.
   NewFolderDialog(const Program& program, const FolderChooser& chooser);
 
   std::string Name() const;
-  // Types a name and presses Create. What comes then, the end or a message, is waited for by whoever asks.
+  // Types a name and presses Create. The caller waits for the result: the dialog ends or shows a message.
   void Create(const std::string& name) const;
 };
 

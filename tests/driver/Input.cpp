@@ -13,9 +13,9 @@
 namespace tarvik::end_to_end {
 namespace {
 
-// The virtual screen's own mouse and keyboard are used, as by a hand. Input made up by SendInput would be at odds with
-// them: each time the pointer enters a window, the window takes over which keys and buttons the screen holds down.
-// The text is a chain of commands of that tool.
+// Uses the virtual screen's own mouse and keyboard. Input made by SendInput would conflict with them: each time the
+// pointer enters a window, the window takes over the state of the keys and buttons from the screen. The text is a chain
+// of commands of that tool.
 void Do(const std::string& actions) {
   const UnixAnswer answer = RunUnix("xdotool " + actions);
   if (answer.exitCode != 0) throw std::runtime_error("input is not taken: " + actions + ": " + answer.output);
@@ -62,9 +62,9 @@ std::string Held(const std::string& actions, HeldKeys keys) {
   return down + actions + up;
 }
 
-// Where the screen's keys go follows the window in front a moment later, and a key pressed before that is lost. This
-// answers whether they go there, and waits for a second. On a busy machine they at times do not follow at all, and the
-// window then gets them as a window manager would give them.
+// The screen's keyboard focus follows the foreground window with a delay, and a key pressed before that is lost. Waits
+// up to a second and returns whether the focus has followed. On a busy machine it sometimes never follows; the focus is
+// then set as a window manager would do it.
 bool KeysGoToFront() {
   const auto front = reinterpret_cast<ULONG_PTR>(GetPropW(GetForegroundWindow(), L"__wine_x11_whole_window"));
   return RunUnix("front=" + std::to_string(front) + R"sh(
@@ -88,7 +88,7 @@ struct Press {
 };
 Press lastPress{};
 
-// Waits while the system would take a press at that place for the second half of a double click.
+// Waits as long as the system would treat a press at that place as the second half of a double click.
 void WaitOutDoubleClick(POINT place) {
   if (std::abs(place.x - lastPress.place.x) > GetSystemMetrics(SM_CXDOUBLECLK)) return;
   if (std::abs(place.y - lastPress.place.y) > GetSystemMetrics(SM_CYDOUBLECLK)) return;
@@ -158,7 +158,7 @@ POINT MiddleOf(const RECT& place) {
 
 void PressKey(WORD key, HeldKeys held, int times) {
   if (times == 0) return;
-  // Another window may come to the front meanwhile.
+  // Meanwhile another window may come to the front.
   if (!Eventually(KeysGoToFront)) throw std::runtime_error("the keys do not go to the window in front");
   std::string presses = "key --delay 1";
   for (int i = 0; i < times; ++i) presses += " " + KeyName(key);

@@ -27,7 +27,7 @@ constexpr wchar_t readerKey[] = L"Software\\Classes\\PageThatATestReads";
 constexpr wchar_t readerOpenKey[] = L"Software\\Classes\\PageThatATestReads\\shell\\open\\command";
 constexpr wchar_t emptyDrive[] = L"Q:";
 
-// Texts of the machine's part of the registry; no name stands for a key's own text.
+// Text values of the machine's part of the registry; an empty name means a key's default value.
 std::optional<std::string> ReadText(const wchar_t* key, const wchar_t* name) {
   wchar_t text[256] = {};
   DWORD size = sizeof text;
@@ -50,20 +50,20 @@ bool WriteLanguage(const std::optional<std::string>& value) {
   return WriteText(languageKey, languageName, *value);
 }
 
-// What Wine's mount manager is told of a drive; the text follows, found by its offset from the start.
+// The request to Wine's mount manager about a drive; the texts follow it, at offsets from its start.
 struct UnixDrive {
-  ULONG size;  // of all of it, text included
+  ULONG size;  // of the whole request, texts included
   ULONG type;
   ULONG fileSystemType;
   DWORD serial;
   ULONGLONG device;
   WCHAR letter;
-  USHORT mountPointOffset;  // a path of the system below Wine; 0 for none
+  USHORT mountPointOffset;  // a path of the host system below Wine; 0 if there is none
   USHORT deviceOffset;
   USHORT labelOffset;
 };
 
-// Makes drive R: of that type and path, or removes it where the path is empty.
+// Makes drive R: of that type and path, or removes it if the path is empty.
 void DefineUnixDrive(ULONG type, const std::string& path) {
   constexpr DWORD defineUnixDrive = CTL_CODE('m', 32, METHOD_BUFFERED, FILE_READ_ACCESS | FILE_WRITE_ACCESS);
   UnixDrive drive{};

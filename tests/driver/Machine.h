@@ -9,9 +9,9 @@
 
 namespace tarvik::end_to_end {
 
-// Things of the machine that a test changes. Each is put back when its object ends, if it is an object.
+// Settings of the machine that a test changes. Those that are objects are restored when the object ends.
 
-// The value that names the interface's language; none removes it.
+// The registry value that names the interface's language; nothing removes it.
 class LanguageValue : NonCopyable {
  public:
   explicit LanguageValue(const std::optional<std::string>& value);
@@ -21,19 +21,19 @@ class LanguageValue : NonCopyable {
   std::optional<std::string> former_;
 };
 
-// The clipboard, open for this process, or for a window of it. It is waited for: others open it for moments, the system
-// itself among them.
+// The clipboard, opened by this process, or for a window of it. Waits until it is free: other programs open it for
+// moments, the system itself among them.
 class OpenedClipboard : NonCopyable {
  public:
   explicit OpenedClipboard(HWND owner = nullptr);
   ~OpenedClipboard();
 };
 
-// Leaves nothing on the clipboard.
+// Empties the clipboard.
 void EmptyTheClipboard();
 
-// Web pages, which the system opens by writing their path to a file instead of showing them. Neither path may have a
-// blank.
+// A reader of web pages for the system: it writes the page's path to a file instead of showing the page. Neither path
+// may contain a blank.
 class WebPageReader : NonCopyable {
  public:
   explicit WebPageReader(const std::string& file);
@@ -43,14 +43,14 @@ class WebPageReader : NonCopyable {
   std::optional<std::string> former_;
 };
 
-// Drive Q:, which stands in the list of drives while nothing can be read from it, as an empty card reader does.
+// Drive Q:, which is in the list of drives but cannot be read, like an empty card reader.
 class EmptyDrive : NonCopyable {
  public:
   EmptyDrive();
   ~EmptyDrive();
 };
 
-// Drive R:, which shows a folder as its root and has a name. The name is kept in a hidden file in that folder.
+// Drive R:, which has a folder as its root, and a label. The label is stored in a hidden file in that folder.
 class ExtraDrive : NonCopyable {
  public:
   ExtraDrive(const std::string& folder, const std::string& label);

@@ -5,7 +5,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-// Ids of its controls, which are the system's own.
+// Ids of its controls, defined by the system.
 constexpr int nameId = 0x47c;
 constexpr int filterId = 0x470;
 
@@ -24,7 +24,7 @@ int SaveDialog::Filter() const {
 void SaveDialog::ChooseFilter(int index) const {
   const Control filters = Item(filterId);
   filters.Send(CB_SETCURSEL, static_cast<WPARAM>(index));
-  // The end of the choice is what this dialog listens to.
+  // The dialog reacts to this notification, which ends the choice.
   Window().Send(WM_COMMAND, MAKEWPARAM(filterId, CBN_SELENDOK), reinterpret_cast<LPARAM>(filters.Window()));
 }
 

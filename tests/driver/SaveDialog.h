@@ -13,14 +13,14 @@ class SaveDialog : public Dialog {
   // Waits until the program shows it.
   explicit SaveDialog(const Program& program);
 
-  // What the list of file types offers, and which of them is chosen, counted from 0.
+  // The entries of the list of file types, and the chosen one, counted from 0.
   std::vector<std::string> Filters() const;
   int Filter() const;
-  // Chooses one as a user does: a name typed without an extension gets this type's from then on.
+  // Chooses one as a user does: from then on a name typed without an extension gets this type's.
   void ChooseFilter(int index) const;
 
   std::string Name() const;
-  // Types a name or a path and presses Save. What comes then, the end or a question, is waited for by whoever asks.
+  // Types a name or a path and presses Save. The caller waits for the result: the dialog ends or asks a question.
   void Save(const std::string& name) const;
   // The same, and waits until the dialog is gone.
   void SaveAs(const std::string& name) const;

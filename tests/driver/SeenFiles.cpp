@@ -9,7 +9,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-// Leaves, for each file of the folder it runs in, NAME.txt and NAME.rgba in the folder $seen.
+// For each file of the current folder, writes NAME.txt and NAME.rgba to the folder $seen.
 constexpr const char* readEach = R"(
 for file in *; do
   picture=$file

@@ -7,14 +7,14 @@
 
 namespace tarvik::end_to_end {
 
-// A picture file as programs that nobody here wrote see it: icotool, djpeg, rdjpgcom, giftext, ImageMagick.
+// A picture file as independent programs read it: icotool, djpeg, rdjpgcom, giftext, ImageMagick.
 struct SeenFile {
-  std::string told;                   // what they say of it, in lines
-  std::vector<std::uint32_t> pixels;  // 0xAABBGGRR, from the top-left corner; 0 where it is transparent
+  std::string told;                   // their output, in lines
+  std::vector<std::uint32_t> pixels;  // 0xAABBGGRR, from the top-left corner; 0 for transparent pixels
 };
 
-// All files of a folder, by their names, each read as what its extension says; where that is no extension of an
-// encoder's, as a bitmap. A file that cannot be read has no pixels.
+// All files of a folder by their names, each read in the format of its extension. A file without an encoder's extension
+// is read as a bitmap. A file that cannot be read has no pixels.
 std::map<std::string, SeenFile> SeeFiles(const std::string& folder);
 
 }  // namespace tarvik::end_to_end

@@ -60,7 +60,7 @@ TEST_F(SaveCommandsTest, WritesTheHotSpotStoredLastIntoEveryCursorOfABatch) {
   }
 }
 
-// 255 colours beside black and white fill a bitmap's palette; an icon's has two entries less for them.
+// 255 colours besides black and white fill a bitmap's palette; an icon's palette has room for two fewer.
 TEST_F(SaveCommandsTest, CountsTheColoursOfTheImageForIconsAndOfTheComposedIconForBitmaps) {
   const auto colors = [](int count) {
     return TestRaster(32,

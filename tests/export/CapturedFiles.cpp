@@ -18,18 +18,18 @@ using ModMicroArt::BlackAndWhite;
 using ModMicroArt::ColorClass;
 
 constexpr int longRowSize = 64;             // the size whose 1-bit rows are two bytes too long
-constexpr std::size_t declaredPlane = 512;  // the bytes that readers take for one 1-bit picture of that size
+constexpr std::size_t declaredPlane = 512;  // the bytes that readers expect for one 1-bit picture of that size
 
 Bytes OneIcon(const IconPicture& picture) {
   return IconFile({&picture, 1});
 }
 
-// A 24-bit picture with a colour of its own for each of the 512 pixels that are not transparent.
+// A 24-bit picture in which each of the 512 opaque pixels has its own colour.
 IconPicture ManyColors() {
   constexpr std::size_t headerBytes = 40;
   constexpr std::size_t rowBytes = 96;
   IconPicture picture = BitmapPicture(32, 24, black, black);
-  for (std::size_t row = 16; row < 32; ++row) {  // rows go upwards: these are the upper half
+  for (std::size_t row = 16; row < 32; ++row) {  // rows are stored from the bottom up: these are the upper half
     for (std::size_t x = 0; x < 32; ++x) {
       const std::size_t place = headerBytes + row * rowBytes + x * 3;
       picture.data[place] = static_cast<std::byte>(x * 8);

@@ -11,20 +11,20 @@
 
 namespace tarvik::support {
 
-// An icon to capture, and a name for the files made of it.
+// An icon to capture, and a name for the files written from it.
 struct CapturedSource {
   std::string name;
   IconListEntry entry;
 };
 
-// Icons of every kind, made in the folder: of each depth, as PNG, a step of an animation, of so many colours that only
-// true colour holds them, and some of the system's own.
+// Icons of every kind, made in the folder: of each depth, as PNG, a step of an animation, one with too many colours for
+// a palette, and some of the system's own.
 std::vector<CapturedSource> MakeSources(const TemporaryFolder& folder);
 
 // One icon as the program captures, classifies and writes it.
 class Capture {
  public:
-  // `size` in pixels. Fails the test where the icon cannot be captured.
+  // `size` in pixels. The test fails if the icon cannot be captured.
   Capture(const CapturedSource& source, int size);
 
   int Size() const { return image_.Width(); }
@@ -33,15 +33,16 @@ class Capture {
   const TestRaster& Composed() const { return composed_; }
   ModMicroArt::ColorClass IconClass() const { return iconClass_; }
   ModMicroArt::ColorClass BitmapClass() const { return bitmapClass_; }
-  // Another one for each size, not in the middle.
+  // Different for each size, and not in the middle.
   ModMicroArtFileIO::HotSpot HotSpot() const { return {Size() / 2 - 1, Size() / 4}; }
 
-  // Each writes a file on disk and tells what the writer told.
+  // Each writes a file on disk and returns the writer's result.
   bool WriteIcon(const std::string& path) const;
   bool WriteCursor(const std::string& path) const;
   bool WriteBitmap(const std::string& path) const;
 
-  // What a reader sees in them: the very surfaces, but for the files that are meant to be read otherwise.
+  // The pixels that a reader gets from the files: those of the surfaces, except for the files whose format deliberately
+  // differs.
   std::vector<Color> SeenImage() const;
   std::vector<bool> SeenTransparent() const;
   std::vector<Color> SeenBitmap() const;

@@ -1,5 +1,5 @@
 // Files of icons that were captured from real files, as the system reads them back. CapturedFiles.AreLeftForOthers
-// leaves the same files where TARVIK_CAPTURED_FOLDER says, for read_captured.py.
+// writes the same files to the folder in TARVIK_CAPTURED_FOLDER, for read_captured.py.
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -59,7 +59,7 @@ std::optional<LoadedIcon> LoadIconFile(const std::string& path, UINT type, int s
   const BitmapHandle mask(info.hbmMask);
   BITMAP bitmap{};
   GetObjectW(mask.get(), sizeof bitmap, &bitmap);
-  // A black and white icon is one bitmap: the mask and below it the image.
+  // A black-and-white icon is one bitmap: the mask with the image below it.
   const LONG height = color ? bitmap.bmHeight : bitmap.bmHeight / 2;
 
   constexpr Color neitherBlackNorWhite = 0x808080;
@@ -125,7 +125,7 @@ TEST_P(CapturedAtSize, IconsAreLoadedWithImageAndTransparency) {
   });
 }
 
-// Icons with an alpha channel once came back with every transparent pixel turned into the inverse of what lay below.
+// In icons with an alpha channel every transparent pixel once came back as the inverse of the background.
 TEST_P(CapturedAtSize, IconsWithAnAlphaChannelLeaveWhatIsBelowTheirTransparentPixels) {
   const int size = GetParam();
   for (const CapturedSource& source : support::MakeSources(folder_)) {
@@ -169,8 +169,9 @@ TEST_P(CapturedAtSize, BitmapsAreLoadedWithDepthAndPixels) {
   });
 }
 
-// Where an icon's mask is white its composed picture is the background; elsewhere it is the image. Where an icon lets
-// some of what is below through, that is white in the one and black in the other: equally much of each colour.
+// If a pixel of an icon's mask is white, the composed picture shows the background, otherwise the image. Through a
+// half-transparent pixel the background is white in the composed picture and black in the image, so the two differ by
+// the same amount in each channel.
 TEST_P(CapturedAtSize, TheThreeSurfacesFitTogether) {
   ForEachSource([](const Capture& capture, const std::string&) {
     int transparent = 0;
@@ -179,7 +180,7 @@ TEST_P(CapturedAtSize, TheThreeSurfacesFitTogether) {
       for (int x = 0; x < capture.Size(); ++x) {
         const bool seeThrough = capture.Mask().Pixel(x, y) == white;
         transparent += seeThrough ? 1 : 0;
-        // Half-transparent pixels may be on either side.
+        // Half-transparent pixels may be white or black in the mask.
         if (seeThrough) continue;
         const Color composed = capture.Composed().Pixel(x, y);
         const Color image = capture.Image().Pixel(x, y);
@@ -193,7 +194,7 @@ TEST_P(CapturedAtSize, TheThreeSurfacesFitTogether) {
         half += through(0) != 0 ? 1 : 0;
       }
     }
-    // No more than an icon's edges.
+    // Only the edges of an icon.
     EXPECT_LT(half, capture.Size() * capture.Size() / 4);
     EXPECT_GT(transparent, 0);
     EXPECT_LT(transparent, capture.Size() * capture.Size());
@@ -262,7 +263,7 @@ TEST(CapturedFiles, NothingIsWrittenWhereNoFileCanBe) {
   const TemporaryFolder folder;
   const Capture capture(support::MakeSources(folder).front(), 16);
   const std::string aFolder = folder.MakeFolder("a folder");
-  // No user, not even one who may do everything, can make a file there: it is the kernel's own, or no drive at all.
+  // No user, whatever the rights, can make a file there: the folder belongs to the kernel, or the drive does not exist.
   const std::string inReadOnlyFolder = R"(Z:\proc\tarvik-test.ico)";
   for (const std::string& path : {aFolder, inReadOnlyFolder, folder.In(R"(no folder\a.ico)")}) {
     for (const WriteFunction write : everyWriter) EXPECT_FALSE((capture.*write)(path)) << path;

@@ -15,7 +15,7 @@
 namespace tarvik {
 namespace {
 
-constexpr int nameId = 0x47c;  // the system's own
+constexpr int nameId = 0x47c;  // defined by the system
 
 class FileDialogTest : public ::testing::Test {
  protected:
@@ -24,7 +24,7 @@ class FileDialogTest : public ::testing::Test {
     GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data());
     return folder.data();
   }
-  // What the dialog gives back where its user types the name and presses a button.
+  // The dialog's result after its user types the name and presses a button.
   std::string Open(const std::string& name, int button) {
     driver.On(nameId, [this, name, button](HWND dialog) {
       title = support::TextOf(dialog);

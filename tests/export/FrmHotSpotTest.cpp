@@ -69,8 +69,8 @@ TEST_F(FrmHotSpotTest, ShowsTheWholeMagnifiedPicture) {
   EXPECT_EQ(picture.bottom, 385);
   MapWindowPoints(Picture(), form.Window(), reinterpret_cast<POINT*>(&picture), 2);
   EXPECT_LE(picture.bottom, client.bottom);
-  // The window's size is fixed, and the caption's height is the system's: that of Windows leaves room for the frame of
-  // two pixels, and that of Wine 10, which is three pixels higher, does not quite.
+  // The window's size is fixed, but the caption's height is the system's. On Windows there is room for the frame of two
+  // pixels; under Wine 10 the caption is three pixels higher and there is not quite enough.
   constexpr LONG sideWithFrame = 385 + 2 * 2;
   EXPECT_LE(picture.bottom + 2, std::max(client.bottom, sideWithFrame)) << "with its frame inside the window";
   const WindowDc dc(Picture());
@@ -131,7 +131,7 @@ TEST_F(FrmHotSpotTest, TakesAClickAtScale4ForTheFirstPixel) {
   EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "00");
   EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "00");
   form.Unload();
-  state.HotSpotBound = 40;  // what the bound hides
+  state.HotSpotBound = 40;  // shows the values that the limit hid
   Show();
   Send(WM_LBUTTONDOWN, 13, 29);
   EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "03");

@@ -15,7 +15,7 @@ TEST(HotSpotTexts, AreTheseInThreeLanguages) {
                                         {FrmHotSpot_lblHotX1, {"Hot X:", "热区 X:", "熱區 X:"}},
                                         {FrmHotSpot_lblHotY1, {"Hot Y:", "热区 Y:", "熱區 Y:"}},
 
-                                        // The names of the controls for whoever has the screen read aloud.
+                                        // The names of the controls for screen readers.
                                         {FrmHotSpot_PicCursor, {"Enlarged icon", "放大的图标", "放大的圖示"}},
                                         {FrmHotSpot_lblPointer, {"Pointer", "指针", "指標"}},
                                     });

@@ -1,5 +1,5 @@
-// Whole files of every size, class and format. What they should hold is laid out here from the formats' tables; the
-// pictures are simple formulas, and so are the bytes they become.
+// Whole files of every size, class and format. Their expected content is laid out here from the tables of the formats;
+// the pictures are simple formulas, and so are their bytes.
 
 #include <gtest/gtest.h>
 
@@ -26,13 +26,13 @@ constexpr std::array<Color, 16> standardColors{0x000000, 0x000080, 0x008000, 0x0
                                                0x808000, 0xC0C0C0, 0x808080, 0x0000FF, 0x00FF00, 0x00FFFF,
                                                0xFF0000, 0xFF00FF, 0xFFFF00, 0xFFFFFF};
 
-// What the files of one size and class hold, worked out by hand.
+// The expected values in the files of one size and class, computed by hand.
 struct Row {
   int size;
   ColorClass colors;
   std::uint32_t bitsPerPixel;
-  std::uint32_t bytesInResource;  // of an icon or cursor: what its entry declares
-  std::size_t iconLength;         // of an icon or cursor: what is really written
+  std::uint32_t bytesInResource;  // of an icon or cursor: as declared in its entry
+  std::size_t iconLength;         // of an icon or cursor: as really written
   std::uint32_t bitmapSizeField;
   std::uint32_t bitmapImageSize;
   std::uint32_t bitmapPixelOffset;
@@ -58,7 +58,7 @@ constexpr std::array<Row, 16> rows{{
     {64, ColorClass::TrueColor, 24, 12840, 12990, 6966, 12288, 54, 12342},
 }};
 
-// Eight pixels of a black-and-white picture, the leftmost in the high bit: another pattern for each group and row.
+// Eight pixels of a black-and-white picture, the leftmost in the high bit: a different pattern for each group and row.
 constexpr std::array<std::uint8_t, 7> imagePatterns{0x80, 0x0F, 0xA5, 0x01, 0x36, 0xFF, 0x00};
 constexpr std::array<std::uint8_t, 5> maskPatterns{0xFF, 0x3C, 0x81, 0x00, 0xE2};
 
@@ -103,8 +103,8 @@ Bytes SixteenBytes(int size) {
   return bytes;
 }
 
-// 8 bits: each row begins with a black and a white pixel; then colours 0 to 199 follow one another from the top left,
-// again and again. Colour n is blue n + 1, green 255 - n, red 7n mod 256.
+// 8 bits: each row begins with a black and a white pixel; then the colours 0 to 199 follow from the top left, repeated.
+// Colour n is blue n + 1, green 255 - n, red 7n mod 256.
 int ColorNumberAt(int x, int y, int size) {
   return (x - 2 + y * (size - 2)) % 200;
 }
@@ -136,7 +136,7 @@ Bytes IconPaletteBytes() {
   return bytes;
 }
 
-// Black and white as the picture begins, and the colours.
+// Black and white, with which the picture begins, and the colours.
 Bytes BitmapPaletteBytes() {
   Bytes bytes = PaletteBytesOf(2);
   for (const std::size_t place : {4U, 5U, 6U}) bytes[place] = 255;

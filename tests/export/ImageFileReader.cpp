@@ -15,7 +15,7 @@ class Reader {
   std::uint32_t U32(std::size_t place) const { return U16(place) | U16(place + 2) << 16U; }
   Color BlueGreenRed(std::size_t place) const { return U8(place) << 16U | U8(place + 1) << 8U | U8(place + 2); }
 
-  // The value of the pixel x in the row that starts at `row`, as many bits a pixel, high bits first.
+  // The value of the pixel x in the row that starts at `row`, high bits first.
   std::uint32_t Bits(std::size_t row, std::size_t x, std::size_t bits) const {
     const std::size_t bit = x * bits;
     return U8(row + bit / 8) >> (8 - bits - bit % 8) & ((1U << bits) - 1);
@@ -27,7 +27,7 @@ class Reader {
 
 struct Header {
   std::size_t width = 0;
-  std::size_t height = 0;  // as the header has it
+  std::size_t height = 0;  // as in the header
   std::size_t bits = 0;
   std::size_t paletteStart = 0;
   std::size_t paletteEntries = 0;

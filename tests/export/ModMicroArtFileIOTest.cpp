@@ -112,7 +112,8 @@ TEST(WriteBitmap, FillsAllPaletteEntriesWith256Colours) {
   const TestRaster raster(16, [](int x, int y) { return static_cast<Color>(0x400001 + (x + 16 * y) * 0x100); });
   ASSERT_TRUE(WriteBitmap(raster, ColorClass::TwoHundredFiftySix, "a.bmp", sink));
   for (std::uint32_t entry = 0; entry < 256; ++entry) {
-    EXPECT_EQ(NumberAt(sink, 54 + 4 * entry, 4), 0x010040U + entry * 0x100U) << entry;  // red, green, blue as read here
+    EXPECT_EQ(NumberAt(sink, 54 + 4 * entry, 4), 0x010040U + entry * 0x100U)
+        << entry;  // red, green, blue in this order of reading
   }
 }
 
@@ -162,7 +163,7 @@ TEST(EveryWriter, WritesNothingMoreAfterAFailureAndSaysNo) {
     for (int step = 0; step < static_cast<int>(whole.steps.size()); ++step) {
       MemorySink sink(step);
       EXPECT_FALSE(writer.write(sink)) << writer.name << " with failing step " << step;
-      // A file that could be opened is closed, whatever became of it.
+      // A file that was opened is closed, whether or not writing failed.
       std::vector<std::string> expected(whole.steps.begin(), whole.steps.begin() + step + 1);
       if (step > 0 && expected.back() != "Close") expected.emplace_back("Close");
       EXPECT_EQ(sink.steps, expected) << writer.name << " with failing step " << step;

@@ -97,7 +97,7 @@ TEST(Classify, TakesTheValueOfAPixelThatCannotBeReadForAColourLikeAnyOther) {
   EXPECT_EQ(Classify(RasterOf(32, colors, black), BlackAndWhite::InFixedSlots), ColorClass::TrueColor);
 }
 
-// Everything that a capture did, one line each.
+// Everything that a capture did, one line per call.
 using Log = std::vector<std::string>;
 
 class NamedSurface final : public DrawSurface {

@@ -13,7 +13,7 @@ namespace {
 using support::RasterOf;
 using support::TestRaster;
 
-// A colour for each number from 0, none of them black or white.
+// A colour for each number from 0, never black or white.
 Color NumberedColor(int number) {
   return 0x400000U + static_cast<Color>(number);
 }
@@ -64,10 +64,10 @@ TEST(IconPalette, KeepsBlackFirstAndWhiteLastAlsoWhereTheyDoNotOccur) {
 
 TEST(IconPalette, GivesEachOtherColourTheNextEntryFromTheTopLeft) {
   TestRaster raster(16, 16, black);
-  raster.Set(3, 0, 0x0000AA);  // first, though another stands further left below
+  raster.Set(3, 0, 0x0000AA);  // first, although another one is further left in a lower row
   raster.Set(0, 1, 0x00BB00);
   raster.Set(5, 1, white);
-  raster.Set(9, 1, 0x0000AA);  // seen before
+  raster.Set(9, 1, 0x0000AA);  // already found
   raster.Set(15, 15, 0xCC0000);
   const Palette256 palette = BuildIconPalette(PixelCopy(raster));
   EXPECT_EQ(palette[1], 0x0000AAU);

@@ -1,5 +1,5 @@
-// Random pictures, always the same ones, written and read back by a general reader. Where a file is what readers expect
-// the picture comes back; where it is meant not to be, what comes back is worked out here.
+// Round trip: random pictures from a fixed seed, written and read back by a general reader. If the file is in the
+// format that readers expect, the picture comes back. If it deliberately is not, the expected result is computed here.
 
 #include <gtest/gtest.h>
 
@@ -45,7 +45,7 @@ int BitsOf(ColorClass colors) {
   }
 }
 
-// Pictures from a fixed seed.
+// Random pictures from a fixed seed.
 class RandomPictures {
  public:
   explicit RandomPictures(std::uint32_t seed) : random_(seed) {}
@@ -53,7 +53,7 @@ class RandomPictures {
   int Number(int least, int most) { return std::uniform_int_distribution<int>(least, most)(random_); }
   Color AnyColor() { return static_cast<Color>(Number(0, 0xFFFFFF)); }
 
-  // A picture of that class, as icons and bitmaps count alike. True colour needs 32 pixels or more.
+  // A picture of that class, counted in the same way for icons and bitmaps. True colour needs 32 pixels or more.
   TestRaster OfClass(int size, ColorClass colors) {
     std::vector<Color> choice{black, white};
     if (colors == ColorClass::Sixteen) choice.assign(standardColors.begin(), standardColors.end());
@@ -70,7 +70,7 @@ class RandomPictures {
     return raster;
   }
 
-  // White where transparent; black and other colours where not.
+  // White if transparent, otherwise black and other colours.
   TestRaster Mask(int size) {
     constexpr std::array<Color, 4> choice{white, white, black, 0xFEFFFF};
     return {size, [&](int, int) { return choice[static_cast<std::size_t>(Number(0, 3))]; }};
@@ -100,7 +100,7 @@ TEST(RoundTrip, IconsAndCursorsUpTo48PixelsComeBackWithImageMaskAndHotSpot) {
       for (int count = 0; count < picturesOfAKind; ++count) {
         const TestRaster image = pictures.OfClass(size, colors);
         const TestRaster mask = pictures.Mask(size);
-        // In 256 pixels there are not always more than 254 other colours: at 16 pixels the class is what it is.
+        // 256 pixels do not always have more than 254 other colours, so at 16 pixels the class may differ.
         const ColorClass found = Classify(image, BlackAndWhite::InFixedSlots);
         ASSERT_TRUE(found == colors || size == 16);
 

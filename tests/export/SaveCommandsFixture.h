@@ -11,7 +11,7 @@
 
 namespace tarvik {
 
-// The save commands over a fake window, with a list of a test's own making.
+// The save commands over a fake window, with the test's own list.
 class SaveCommandsTest : public ::testing::Test {
  protected:
   SaveCommandsTest() { state.CurrentLanguage = "ENG"; }
@@ -20,14 +20,14 @@ class SaveCommandsTest : public ::testing::Test {
     for (int number = 1; number <= entries; ++number) list.Add("C:\\some.dll", number - 1);
     for (const int number : selected) list.Select(number);
   }
-  // What was written, in order.
+  // The written files, in order.
   std::vector<std::string> Files() const {
     std::vector<std::string> paths;
     for (const std::string& line : script)
       if (line.starts_with("file ")) paths.push_back(line.substr(5));
     return paths;
   }
-  // One byte of a file that was written.
+  // One byte of a written file.
   int Byte(const std::string& path, std::size_t place) { return std::to_integer<int>(files.bytes.at(path).at(place)); }
 
   support::Script script;

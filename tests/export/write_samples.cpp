@@ -32,7 +32,7 @@ constexpr std::array<Color, 16> standardColors{0x000000, 0x000080, 0x008000, 0x0
                                                0x808000, 0xC0C0C0, 0x808080, 0x0000FF, 0x00FF00, 0x00FFFF,
                                                0xFF0000, 0xFF00FF, 0xFFFF00, 0xFFFFFF};
 
-// Slanted bands of as many colours as the class has. The first pixel is black and the 256-colour picture has no white,
+// Slanted bands in as many colours as the class has. The first pixel is black and the 256-colour picture has no white,
 // so that its bitmap shows every colour.
 Color ColorAt(ColorClass colors, int x, int y) {
   const int number = (3 * x + 5 * y + x * y / 4) % 240;
@@ -48,7 +48,7 @@ Color ColorAt(ColorClass colors, int x, int y) {
   }
 }
 
-// Transparent corners, lopsided on purpose.
+// Transparent corners, deliberately asymmetric.
 TestRaster MaskOf(int size) {
   return {size, [size](int x, int y) { return x + 2 * y < size || 3 * x + y > 7 * size / 2 ? white : black; }};
 }

@@ -9,7 +9,7 @@
 
 namespace tarvik::support {
 
-// A window stands where one of its size does by the rule.
+// Expects a window to be at the centered position for its size.
 inline void ExpectCentered(HWND window) {
   RECT place{};
   GetWindowRect(window, &place);

@@ -23,7 +23,7 @@ TEST(DesktopScreen, KnowsTheColorDepth) {
   EXPECT_EQ(desktopScreen::BitsPerPixel(), static_cast<int>(mode.dmBitsPerPel));
 }
 
-// A device context that was released is the next one to be given out; one that is kept is not.
+// A device context that was released is the next one to be handed out again; one that was not released is not.
 TEST(DesktopScreen, KeepsTheDeviceContextOfEachMeasurement) {
   const auto nextContext = [] {
     const WindowDc dc(nullptr);

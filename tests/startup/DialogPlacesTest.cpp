@@ -1,4 +1,4 @@
-// Where every dialog stands once it is loaded.
+// The position of every dialog once it is loaded.
 
 #include <gtest/gtest.h>
 

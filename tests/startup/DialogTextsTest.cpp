@@ -1,5 +1,5 @@
-// The texts of every dialog, as a user sees them: no two controls share an access key, none is cut off, and a language
-// that the program does not know leaves them as designed.
+// The texts of every dialog, as a user sees them: no two controls share an access key, no text is cut off, and an
+// unknown language leaves the design texts.
 
 #include <windows.h>
 
@@ -62,7 +62,7 @@ class UnknownLanguageTest : public support::Dialogs, public ::testing::Test {
  protected:
   UnknownLanguageTest() : Dialogs("Chinese") {}
 
-  // Compares with the template itself: the window's caption, and each text that stands in it.
+  // Compares with the template itself: the window's caption, and each text in it.
   void Check(const std::unique_ptr<Form>& form, int dialogId) {
     form->Load();
     Form design(application, dialogId);

@@ -20,7 +20,7 @@
 
 namespace tarvik::support {
 
-// The dialogs, each over as little as it needs.
+// The dialogs, each with the smallest environment that it needs.
 class Dialogs {
  protected:
   explicit Dialogs(const std::string& language) {

@@ -1,4 +1,4 @@
-// The main window's texts, seen as a user sees them.
+// The main window's texts as a user sees them.
 
 #include <gtest/gtest.h>
 

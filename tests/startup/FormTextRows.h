@@ -10,7 +10,7 @@
 
 namespace tarvik::support {
 
-// Expects a window's table of texts to hold these rows and no others, in any order.
+// Expects a window's table of texts to contain exactly these rows, in any order.
 inline void ExpectRows(std::span<const FormText> table, std::initializer_list<FormText> expected) {
   EXPECT_EQ(table.size(), expected.size());
   for (const FormText& row : expected) {

@@ -22,7 +22,7 @@ namespace {
 
 constexpr const char* languages[] = {"ENG", "CHS", "CHT", "CHI"};
 
-// Runs an action from within the message loop, once.
+// Runs an action once, from within the message loop.
 void Later(std::function<void()> action) {
   static std::function<void()> waiting;
   waiting = std::move(action);
@@ -44,8 +44,8 @@ class FrmSpashTest : public ::testing::Test {
     spash->Show();
     application.DoEvents();
   }
-  // Opens the window as the main window's About command does, runs the action once it is up, and returns when it is
-  // closed.
+  // Opens the window as the main window's About command does, runs the action once it is visible, and returns when it
+  // is closed.
   void OpenAbout(const std::function<void()>& action, const std::string& language = "ENG") {
     owner.Show();
     state.ShowAsAbout = true;
@@ -67,7 +67,7 @@ class FrmSpashTest : public ::testing::Test {
     SendMessageW(spash->Window(), message, wParam, lParam);
   }
   void PressKey(WPARAM key) {
-    // Another program's window can have taken the focus, which then is nowhere here or still with the owner.
+    // Another program's window may have taken the focus. Then this thread has no focus, or the owner still has it.
     const HWND focus = IsChild(spash->Window(), GetFocus()) != FALSE ? GetFocus() : spash->Window();
     PostMessageW(focus, WM_KEYDOWN, key, 0);
     application.DoEvents();
@@ -82,7 +82,7 @@ class FrmSpashTest : public ::testing::Test {
 
   ProgramState state;
   Application application{GetModuleHandleW(nullptr)};
-  Form owner{application, Dialog_FrmSpash};  // stands for the main window
+  Form owner{application, Dialog_FrmSpash};  // in place of the main window
   std::optional<FrmSpash> spash;
   int mainWindowShown = 0;
   std::function<void()> onMainWindow;
@@ -197,7 +197,7 @@ TEST_F(FrmSpashTest, HasTheProgramsIconsWithAndWithoutACaption) {
 TEST_F(FrmSpashTest, GivesTheFocusToItsButtonAsAboutBox) {
   OpenAbout([this] {
     EXPECT_EQ(GetFocus(), spash->Item(FrmSpash_CmdOk));
-    // As where the system does not see to it.
+    // As on systems that do not set the focus.
     SetFocus(nullptr);
     spash->Show();
     EXPECT_EQ(GetFocus(), spash->Item(FrmSpash_CmdOk));
@@ -205,7 +205,7 @@ TEST_F(FrmSpashTest, GivesTheFocusToItsButtonAsAboutBox) {
   });
 }
 
-// The system lets timers strike in the order of their times, however late a busy machine serves them.
+// The system fires timers in the order of their times, even if a busy machine processes them late.
 TEST_F(FrmSpashTest, GivesWayToTheMainWindowAfterThreeSeconds) {
   static std::vector<std::string> struck;
   struck.clear();

@@ -9,7 +9,7 @@
 namespace tarvik {
 namespace {
 
-// The values as the platform reads them: into 260 spaces, with the terminating zero.
+// The values as the platform reads them: into a buffer of 260 spaces, with the terminating zero.
 struct FakeLanguageStore {
   std::string operator()(const std::string& name) const {
     if (!opens) return {};

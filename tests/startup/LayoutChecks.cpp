@@ -23,7 +23,7 @@ bool IsGroupBox(HWND control) {
 std::vector<HWND> VisibleControls(HWND window) {
   std::vector<HWND> controls;
   for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-    // Whether the window itself is shown does not matter.
+    // Tests the control's own style, whether or not the window is visible.
     const bool visible = (GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) != 0;
     if (visible && !IsGroupBox(child)) controls.push_back(child);
   }

@@ -7,8 +7,8 @@
 
 namespace tarvik::support {
 
-// Pairs of visible controls of a window that lie over one another, by their ids: "1001 over 1002". A group box has its
-// controls in it, and counts for none.
+// Pairs of visible controls of a window that overlap, by their ids: "1001 over 1002". A group box contains its controls
+// and is ignored.
 std::vector<std::string> OverlappingControls(HWND window);
 
 // Visible list boxes whose rows are lower than the letters of their font, by their ids.

@@ -1,5 +1,5 @@
-// How every window is laid out, at the dots an inch that the tests' display has: no visible control lies over another,
-// no text is cut off, and no list cuts its letters.
+// The layout of every window at the dpi of the tests' display: visible controls do not overlap, no text is cut off, and
+// no list cuts off its letters.
 
 #include <windows.h>
 
@@ -30,7 +30,7 @@ void ExpectInOrder(HWND window) {
   EXPECT_EQ(support::ListsThatCutLetters(window), std::vector<int>{});
 }
 
-// Whoever sets the display's dots an inch says so; the tests of those dots would otherwise prove nothing.
+// The script that sets the display's dpi passes the value on; otherwise the tests at that dpi would prove nothing.
 TEST(Layout, IsLookedAtWithTheDotsAnInchThatWereAskedFor) {
   const char* const asked = std::getenv("TARVIK_TEST_DOTS");
   const WindowDc screen(nullptr);

@@ -21,7 +21,7 @@ struct Row {
   const char* page;
 };
 
-// Has OpenGuide tell what is wrong with each row's page, which is below `folder`.
+// Checks OpenGuide's message about each row's page, which is below `folder`.
 void ExpectMessages(std::span<const Row> rows, const support::TemporaryFolder& folder) {
   for (const Row& row : rows) {
     const support::BoxWatcher boxes;
@@ -32,7 +32,7 @@ void ExpectMessages(std::span<const Row> rows, const support::TemporaryFolder& f
   }
 }
 
-// The system knows web pages as files of a kind that no program opens.
+// Registers web pages as a file type that no program opens.
 class NothingOpensPages : NonCopyable {
  public:
   NothingOpensPages() {

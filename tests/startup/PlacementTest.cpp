@@ -27,7 +27,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Row{{100, 100}, {100, 100}, 0, 0},                 // exactly full
                       Row{{101, 102}, {100, 100}, 0, 0},                 // the remainders are dropped
                       Row{{105, 105}, {100, 100}, 2, 1},                 //
-                      Row{{100, 100}, {105, 105}, -2, -1},               // towards zero, also below it
+                      Row{{100, 100}, {105, 105}, -2, -1},               // rounded towards zero, negative values too
                       Row{{100, 100}, {103, 102}, -1, 0},                //
                       Row{{102.5, 105.5}, {100, 100}, 1, 2},             // 2.5 gives 2, 5.5 gives 6
                       Row{{103.5, 108.4}, {100, 100}, 2, 2},             // 3.5 gives 4, 8.4 gives 8

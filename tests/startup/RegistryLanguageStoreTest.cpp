@@ -12,13 +12,13 @@
 namespace tarvik {
 namespace {
 
-// Takes the language key away, with what a test that was broken off may have left in it.
+// Deletes the language key, with anything that an aborted test may have left in it.
 void DeleteKey() {
   for (const char* key : {registryLanguageKey, R"(Software\Vornhold\Brindle Tarvik)", R"(Software\Vornhold)"})
     RegDeleteKeyA(HKEY_LOCAL_MACHINE, key);
 }
 
-// The language key, new and without a value, for as long as it lives.
+// A language key, new and without a value, while this object lives.
 class LanguageKey : NonCopyable {
  public:
   LanguageKey() {

@@ -9,7 +9,7 @@
 namespace tarvik {
 namespace {
 
-// What a test can hardly bring about on a system that works: the others show in the main window.
+// Errors that a test can hardly cause on a working system; the others are tested in the main window.
 TEST(RunTimeErrorBox, NamesAMissingFunctionAndItsLibraryInEachLanguage) {
   struct Row {
     const char* code;

@@ -13,7 +13,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-// Settings files in memory. Results can be told apart: a write gives 1, a deletion of a key 2, of a section 3.
+// Settings files in memory. The result shows the call: a write returns 1, a deletion of a key 2, of a section 3.
 class FakeIniStore : public IniStore {
  public:
   std::string Read(const std::string& section, const std::string& key, const std::string& defaultValue, int capacity,

@@ -1,5 +1,5 @@
-// A skin component of the tests' own, as the system finds one by its class: it paints nothing, writes down what it is
-// asked for, and fails where it is told to.
+// A skin component of the tests' own, which the system finds by its class id. It paints nothing, logs the calls, and
+// fails when the test asks for it.
 
 #include "startup/SkinComponent.h"
 

@@ -6,7 +6,7 @@
 
 namespace tarvik::support {
 
-// A skin component, known to the system for as long as the object lives: for all programs, so that only one test at a
+// A registered skin component while the object lives. The registration applies to all programs, so only one test at a
 // time may have it. `server` is the component's DLL.
 class SkinRegistration : NonCopyable {
  public:

@@ -20,7 +20,7 @@ namespace {
 
 using support::TemporaryFolder;
 
-// The test's component, known to the system.
+// The registration of the test's component.
 class Registration : public support::SkinRegistration {
  public:
   explicit Registration(const std::wstring& server = ToWide(JoinPath(ProgramFolder(), "skin_component.dll")))

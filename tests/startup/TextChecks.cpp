@@ -14,7 +14,7 @@
 namespace tarvik::support {
 namespace {
 
-// What a button needs beside its text, in dialog units: its edges, or the box and the gap behind it.
+// The width that a button needs besides its text, in dialog units: its edges, or the box and the gap after it.
 constexpr int buttonEdges = 6;
 constexpr int boxAndGap = 11;
 
@@ -46,7 +46,7 @@ std::vector<HWND> ControlsOf(HWND window) {
   return controls;
 }
 
-// The letter behind a single "&", in upper case.
+// The letter after a single "&", in upper case.
 std::optional<wchar_t> AccessKey(const std::wstring& text) {
   for (std::size_t at = 0; at + 1 < text.size(); ++at) {
     if (text[at] != L'&') continue;
@@ -56,7 +56,7 @@ std::optional<wchar_t> AccessKey(const std::wstring& text) {
   return std::nullopt;
 }
 
-// Gathers the texts whose key an earlier one has.
+// Collects the texts whose access key is already used by an earlier one.
 class Keys {
  public:
   void Add(const std::wstring& text) {
@@ -87,7 +87,7 @@ int DialogUnits(HWND window, int across) {
   return units.right;
 }
 
-// What a control needs beside its text across, in pixels.
+// The width that a control needs besides its text, in pixels.
 int Surroundings(HWND control) {
   if (!IsOfClass(control, L"Button")) return 0;
   const LONG type = StyleOf(control) & BS_TYPEMASK;
@@ -109,7 +109,7 @@ bool HasRoom(HWND control, const std::wstring& text) {
   const UINT format =
       DT_CALCRECT | (wraps ? DT_WORDBREAK : DT_SINGLELINE) | (IsLabelWithoutPrefix(control) ? DT_NOPREFIX : 0U);
   DrawTextW(dc.get(), text.c_str(), -1, &needed, format);
-  // A font's line may be a pixel higher than a label of one line and lose nothing but blank.
+  // A line of a font may be a pixel higher than a one-line label; only blank pixels are cut off then.
   return needed.right <= room.right && (isGroup || needed.bottom <= room.bottom + 1);
 }
 

@@ -16,7 +16,7 @@ using support::MenuTextsWithTakenKeys;
 using support::TextsWithTakenKeys;
 using Texts = std::vector<std::string>;
 
-// The checks themselves must see what they look for.
+// Tests the checks themselves: they must find the faults.
 class TextChecksTest : public ::testing::Test {
  protected:
   TextChecksTest()

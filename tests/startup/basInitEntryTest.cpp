@@ -15,7 +15,7 @@ using Calls = std::vector<std::string>;
 constexpr const char* englishColorRefusal =
     "Brindle Tarvik requires at least high color mode.\r\n\r\nPlease adjust your color mode and try again.";
 
-// A computer that writes down, in order, what the start asks of it. Each answer can be told from every other.
+// A computer that logs the calls of the start in order. Each answer differs from all others.
 class FakeComputer : public StartUpSystem {
  public:
   std::string ReadLanguage(const std::string& name) override {
@@ -52,7 +52,7 @@ class FakeComputer : public StartUpSystem {
   void ShowFrmSpash() override { calls.emplace_back("start-up window"); }
 
   std::string language = "CHT";
-  std::vector<int> depths{24};  // one answer after the other, the last one for good
+  std::vector<int> depths{24};  // one answer per call; the last one repeats
   int width = 1024;
   int height = 768;
   Calls calls;
@@ -228,7 +228,7 @@ TEST_F(CheckScreenResolutionTest, FailsWithoutAMessageForASideBeyondSixteenBits)
   EXPECT_EQ(computer.texts, Calls{});
 }
 
-// The texts for a copy that is refused are there in each language, and the start of a second copy shows none of them.
+// The texts for a refused copy exist in each language, and the start of a second copy shows none of them.
 TEST(MessageTexts, NameACopyThatRunsAlready) {
   EXPECT_EQ(Pick(alreadyRunningText, "ENG"), "Program is running !");
   EXPECT_EQ(Pick(alreadyRunningText, "CHS"), "请不要重复运行程序！");

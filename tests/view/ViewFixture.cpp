@@ -9,7 +9,7 @@
 namespace tarvik::support {
 namespace {
 
-constexpr DWORD deadline = 20000;  // milliseconds until a condition counts as never met
+constexpr DWORD deadline = 20000;  // milliseconds until waiting for a condition fails
 constexpr DWORD turn = 20;         // milliseconds of waiting for a message at a time
 
 std::function<void()> pendingBody;

@@ -22,7 +22,7 @@
 
 namespace tarvik::support {
 
-// A main window in memory whose every entry is a picture of its own, no two pixels of it alike.
+// A main window in memory. Each entry has its own picture, in which all pixels differ.
 class PictureHost final : public FakeHost {
  public:
   PictureHost(int count, Integer16 selection, int size) : FakeHost(count, selection), picIcon_(size, size, white) {}
@@ -37,7 +37,7 @@ class PictureHost final : public FakeHost {
   }
 
   std::function<void()> onDraw = [] {};
-  mutable std::optional<int> picturesLeft;  // how often PicIcon gives the picture before memory is out
+  mutable std::optional<int> picturesLeft;  // how often PicIcon succeeds before it runs out of memory
 
  protected:
   bool Draw(int number) override {
@@ -58,21 +58,21 @@ class ViewFixture : public ::testing::Test {
   ViewFixture();
   ~ViewFixture() override;
 
-  // Makes the list: so many entries, one of them selected (counted from 0), icons of that size.
+  // Makes the list: that many entries, one of them selected (counted from 0), icons of that size.
   void MakeList(int count, Integer16 selection = 0, int size = 32);
   // Opens the view on the selected entry, runs `body` in its modal loop, and closes the view unless the body did.
   void WhileOpen(const std::function<void()>& body);
 
   // One whole click of the mouse on a toolbar button.
   void Click(int button);
-  // One key, as it arrives at the zoom list, which has the focus.
+  // One key press, as it arrives at the zoom list, which has the focus.
   void Press(int key, UINT message = WM_KEYDOWN);
   void Tick() const { SendMessageW(view->Window(), WM_TIMER, frmBit_tim_nextpic, 0); }
   void ChooseZoom(int row);
   void Close() const { SendMessageW(view->Window(), WM_CLOSE, 0, 0); }
-  // Serves messages until the condition holds; false where it does not in time.
+  // Processes messages until the condition is true; false if it does not become true in time.
   bool WaitFor(const std::function<bool()>& condition);
-  // Whether the slide show's timer was running; stops it.
+  // Stops the slide show's timer. Returns whether it was running.
   bool TakeTimer() const { return KillTimer(view->Window(), frmBit_tim_nextpic) != FALSE; }
 
   HWND Item(int id) const { return view->Item(id); }
@@ -80,14 +80,14 @@ class ViewFixture : public ::testing::Test {
   std::string Status() const;
   std::string Tooltip(int button) const;
   bool IsButtonEnabled(int button) const;
-  RECT PlaceOf(int id) const;  // in the window's inner pixels
+  RECT PlaceOf(int id) const;  // in client coordinates
   SIZE WindowSize() const;
 
   ProgramState state;
   MemoryIni store;
   Settings settings{store, "C:\\program\\tarvik.exe"};
   Application application{GetModuleHandleW(nullptr)};
-  int errors = 0;  // run-time errors that reached the boundary of a handler
+  int errors = 0;  // run-time errors that reached a handler's boundary
   std::unique_ptr<PictureHost> host;
   std::unique_ptr<frmBit> view;
   HWND owner = nullptr;

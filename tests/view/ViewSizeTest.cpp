@@ -38,7 +38,7 @@ TEST_F(ViewSizeTest, IsStoredAsDecimalTextWithAPoint) {
   EXPECT_EQ(store_.values.at("Bitmapview/Width"), "7507.5");
 }
 
-// The library's own shortest text is the measure.
+// Compared with the standard library's shortest text.
 TEST_F(ViewSizeTest, IsStoredWithAsFewDecimalsAsItNeeds) {
   for (const float side : {0.0F, 0.1F, 1.0F / 3, 7.5F, 99.99F, 4507.5F, 6645.0F, 123456.7F, 16777216.0F, 3e9F, 1.5e-7F,
                            std::numeric_limits<float>::denorm_min(), largest, -largest, -0.25F}) {

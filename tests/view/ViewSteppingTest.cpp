@@ -17,7 +17,7 @@ using ::testing::IsEmpty;
 
 using Host = support::FakeHost;
 
-// What was shown.
+// The displayed state.
 struct Display {
   ViewDisplay Functions() {
     return {[this] {

@@ -1,4 +1,4 @@
-// The enlarged picture, pixel by pixel, and what showing it costs.
+// The enlarged picture, pixel by pixel, and its cost in memory and handles.
 
 #include <windows.h>
 
@@ -14,7 +14,7 @@
 namespace tarvik {
 namespace {
 
-// The memory that this process has in use, in bytes. Wine counts no other kind.
+// The memory that this process uses, in bytes. Wine fills in no other counter.
 std::int64_t UsedBytes() {
   PROCESS_MEMORY_COUNTERS counters{};
   K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
@@ -23,7 +23,7 @@ std::int64_t UsedBytes() {
 
 class frmBitPictureTest : public support::ViewFixture {
  protected:
-  // Compares what stands on the window with the entry's picture at that factor.
+  // Compares the window's pixels with the entry's picture at that factor.
   void ExpectEnlarged(int number, int factor, int size) {
     const RECT place = PlaceOf(frmBit_img);
     ASSERT_EQ(place.left, 100);
@@ -106,7 +106,7 @@ TEST_F(frmBitPictureTest, HoldsNoMoreHandlesAndMemoryAfterAnHourOfTicks) {
     Click(frmBit_tlb_control_Start);
     for (int tick = 0; tick < 100; ++tick) Tick();
     const int objects = support::CountGdiObjects();
-    // What is lost with each tick is lost in every part of the hour; what the system keeps for itself is not.
+    // A leak of every tick shows in every part of the hour; memory that the system caches does not.
     constexpr int parts = 6;
     constexpr int ticks = 3600 / parts;
     std::int64_t leastGrowth = std::numeric_limits<std::int64_t>::max();

@@ -1,4 +1,4 @@
-// The size of the enhanced view's window, and where it is kept.
+// The size of the enhanced view's window, and where it is stored.
 
 #include <gmock/gmock.h>
 
@@ -51,7 +51,7 @@ TEST_F(frmBitSizeTest, KeepsTheSizeBehindAMinimisedWindow) {
   EXPECT_EQ(store.values.at("Bitmapview/Height"), "7605");
 }
 
-// A side in pixels as the system lets a window have it: asked for one of so many twips, at 96 dots an inch.
+// The size in pixels that the system allows for a side of that many twips at 96 dpi.
 int Allowed(float twips, int leastMetric, int mostMetric) {
   const int pixels = NearestPixels(twips, 96);
   return std::clamp(pixels, GetSystemMetrics(leastMetric), GetSystemMetrics(mostMetric));

@@ -367,7 +367,7 @@ TEST_F(frmBitTest, ShowsARunTimeErrorOnceAndStaysUsable) {
   });
 }
 
-// The picture is asked for twice while the view loads and again for what it shows first.
+// The picture is requested twice while the view loads and again for its first display.
 TEST_F(frmBitTest, OpensAfterThereWasNoMemoryForItsPicture) {
   for (int pictures = 0; pictures < 3; ++pictures) {
     host->picturesLeft = pictures;
