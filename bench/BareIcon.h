@@ -13,7 +13,7 @@
 
 namespace tarvik::bench {
 
-// Draws the three pictures of an icon, `size` pixels on a side.
+// Draws the three pictures of an icon at `size` pixels.
 inline void DrawPictures(HICON icon, int size, const IconSurfaces& surfaces) {
   const auto draw = [&](const Surface& surface, UINT part) {
     DrawIconEx(surface.Dc(), 0, 0, icon, size, size, 0, nullptr, part);
@@ -24,7 +24,7 @@ inline void DrawPictures(HICON icon, int size, const IconSurfaces& surfaces) {
   GdiFlush();
 }
 
-// Takes icon `index` (from 0) out of the file by the bare platform calls and draws its three pictures.
+// Extracts icon `index` (from 0) from the file by the bare platform calls and draws its three pictures.
 inline void DrawBareIcon(const std::string& path, int index, int size, const IconSurfaces& surfaces) {
   HICON large = nullptr;
   ExtractIconExA(path.c_str(), index, &large, nullptr, 1);
@@ -32,7 +32,7 @@ inline void DrawBareIcon(const std::string& path, int index, int size, const Ico
   DrawPictures(icon.get(), size, surfaces);
 }
 
-// Takes `count` icons from `first` on with one call.
+// Extracts `count` icons from `first` on with one call.
 inline std::vector<IconHandle> TakeBareIcons(const std::string& path, int first, int count) {
   std::vector<HICON> handles(static_cast<std::size_t>(count));
   std::vector<UINT> numbers(handles.size());

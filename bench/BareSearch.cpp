@@ -16,7 +16,7 @@ namespace tarvik::bench {
 namespace {
 
 constexpr int gridHeight = 12'000;   // pixels; enough for 4,000 icons
-constexpr UINT mostIcons = 100'000;  // more is the answer for a file that the shell cannot read
+constexpr UINT mostIcons = 100'000;  // the shell returns more for a file that it cannot read
 constexpr int groupSize = 64;
 
 using Entries = std::vector<std::wstring>;

@@ -11,11 +11,11 @@
 
 namespace tarvik::bench {
 
-// What a program would do that only wants the icons drawn: list folders twice, count, take, draw and release each icon.
+// The work of a program that only draws the icons: list folders twice, count, extract, draw and release each icon.
 class BareSearch {
  public:
-  // How it takes icons: each file counted in both passes and each icon with a call of its own; or each file counted
-  // once and 64 icons with a call, which is the least that the system lets one do.
+  // How it extracts icons: each file counted in both passes and each icon with a call of its own; or each file counted
+  // once and 64 icons per call, which is the least work that the system permits.
   enum class Taking { OneByOne, SixtyFour };
 
   BareSearch(Scope scope, Taking taking);

@@ -1,5 +1,5 @@
-// What it costs to save many icons, held against the bare platform calls that cannot be spared: taking each icon out of
-// its file, drawing its three pictures, and writing as many bytes to as many files.
+// The cost of saving many icons, compared with the bare platform calls that are needed in any case: extracting each
+// icon from its file, drawing its three pictures, and writing as many bytes to as many files.
 
 #include <windows.h>
 
@@ -28,7 +28,7 @@ using ModMicroArt::BlackAndWhite;
 using ModMicroArt::Classify;
 
 constexpr int icons = 4000;
-constexpr int libraryIcons = 500;  // taken over and over: in a larger library the platform takes longer to find one
+constexpr int libraryIcons = 500;  // used repeatedly: in a larger library the platform takes longer to find one
 constexpr int iconSize = 32;
 constexpr int rounds = 7;
 
@@ -50,7 +50,7 @@ bool WriteBitmap(const IconSurfaces& surfaces, const std::string& path, FileSink
   return ModMicroArtFileIO::WriteBitmap(surfaces.Composed(), colors, path, file);
 }
 
-// Counts the bytes and keeps none.
+// Counts the bytes and discards them.
 class LengthSink final : public FileSink {
  public:
   bool Open(const std::string&, ReadOnlyFile) override { return true; }

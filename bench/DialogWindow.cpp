@@ -1,5 +1,4 @@
-// A program that shows the template of the start-up window and does nothing else: the least that a start with this
-// window can take.
+// A program that only shows the template of the start-up window: the lower bound for a start with this window.
 
 #include <windows.h>
 
@@ -9,7 +8,7 @@
 #include "resource.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*commandLine*/, int /*show*/) {
-  InitCommonControls();  // so that the library is loaded that the manifest names
+  InitCommonControls();  // loads the library that the manifest names
   WNDCLASSW kind{};
   kind.lpfnWndProc = DefWindowProcW;
   kind.hInstance = instance;

@@ -1,4 +1,4 @@
-// A program of one empty window, which Tarvik's start is held against.
+// A program of one empty window, with which Tarvik's start is compared.
 
 #include <windows.h>
 

@@ -1,5 +1,5 @@
-// What it costs to write pictures as JPEG and GIF files, held against the bare calls of the two libraries on the same
-// pixels. Both make the same files; the bare GIF calls are given the picture's colours and indices ready made.
+// The cost of writing pictures as JPEG and GIF files, compared with the bare calls of the two libraries on the same
+// pixels. Both make the same files; the bare GIF calls get the picture's colours and indices precomputed.
 
 #include <algorithm>
 #include <cstddef>
@@ -27,7 +27,7 @@ constexpr int side = 32;
 constexpr int rounds = 5;
 constexpr int quality = 90;
 
-// A picture like an icon: a shaded disc of some dozens of colours on white, each number another.
+// A picture like an icon: a shaded disc of some dozens of colours on white, different for each number.
 class Disc final : public PixelView {
  public:
   explicit Disc(int number) {
@@ -117,7 +117,7 @@ void WriteBareGif(Indexed& picture, const std::string& path) {
   OutputFolder::Write(path, std::as_bytes(std::span(bytes)));
 }
 
-// Two ways to write every picture, each to a file of the number it is called with.
+// Two ways to write every picture, each to the file with the number that it is called with.
 void CompareWays(const support::TemporaryFolder& folder, const std::string& format,
                  const std::function<void(int, const std::string&)>& bare,
                  const std::function<bool(int, const std::string&)>& ours) {

@@ -1,4 +1,4 @@
-// What a whole search costs, against the bare system calls for the same files, and how that grows:
+// The cost of a whole search, compared with the bare system calls for the same files, and how it grows:
 //   find_bench [ROW]
 // ROW is a part of a row's title; without it all rows are measured.
 
@@ -49,15 +49,15 @@ void CompareSearches(Application& application, const std::string& title, const S
   PrintHeld(title, oneByOne.Icons());
 }
 
-// A file that nobody looks at: no 16-bit module is read out of it.
+// A file without content: no 16-bit module is read from it.
 class NoBytes final : public ByteSource {
  public:
   FileStamp Stamp() override { return {}; }
   bool Read(std::uint64_t, std::span<std::byte>) override { return false; }
 };
 
-// What it costs to look for 16-bit modules among files in which the shell finds no icon, none of which is one: in the
-// first search of a run, and in a later one, for which the files are known.
+// The cost of looking for 16-bit modules among files in which the shell finds no icon, if no file is such a module: in
+// the first search of a run, and in a later one, for which the files are already known.
 void CompareModuleLooks(const std::string& title, const Scope& scope) {
   const ShellIcons::OpenBytes openNone = [](const std::string&) { return std::make_unique<NoBytes>(); };
   std::optional<SilentSearch> search;
@@ -71,7 +71,7 @@ void CompareModuleLooks(const std::string& title, const Scope& scope) {
           2 * rounds);
 }
 
-// The libraries of the system under the same names in another folder.
+// Hard links to the libraries of the system, under the same names in another folder.
 std::string LinkSystemLibraries(const std::string& folder) {
   Folders folders;
   for (const std::string& name : folders.Files(SystemFolder(), "*.dll"))
@@ -79,8 +79,8 @@ std::string LinkSystemLibraries(const std::string& folder) {
   return folder;
 }
 
-// One icon, and more and more empty folders next to it: the cost of a folder must not grow with their number, beyond
-// what the file system itself makes of it.
+// One icon and a growing number of empty folders: the cost per folder must not grow with their number, apart from the
+// cost of the file system itself.
 void CompareFolderCounts(Application& application, const std::string& root) {
   double bareForOne = 0;
   double searchForOne = 0;
@@ -96,7 +96,7 @@ void CompareFolderCounts(Application& application, const std::string& root) {
                                                 3);
     std::printf("a folder: bare calls %.4f ms, search with the real window %.4f ms", medians[0] / count,
                 medians[2] / count);
-    // In a hundred, what a search takes once still counts for more than the folders.
+    // With a hundred folders, the fixed cost of a search still outweighs that of the folders.
     if (bareForOne > 0) {
       std::printf("; against the row before: %.3f and %.3f", medians[0] / count / bareForOne,
                   medians[2] / count / searchForOne);
@@ -157,7 +157,7 @@ int main(int count, char** arguments) {
   try {
     Application application(GetModuleHandleW(nullptr));
     const std::string_view wanted = count > 1 ? arguments[1] : "";
-    if (wanted == searchOnce) {  // a process of CompareWholeProcesses
+    if (wanted == searchOnce) {  // in a process of CompareWholeProcesses
       MainWindow(application, {SystemFolder(), "*.dll", false}).Find();
     } else {
       Measure(application, wanted);

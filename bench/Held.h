@@ -13,11 +13,11 @@ namespace tarvik::bench {
 
 inline constexpr double bytesInMegabyte = 1024.0 * 1024.0;
 
-// What this process holds of the system.
+// The system resources that this process holds.
 struct Held {
   support::Holdings holdings{};
   int windows = 0;
-  double peakMegabytes = 0;  // the most memory in use at a time, since the process started
+  double peakMegabytes = 0;  // the maximum memory in use since the process started
 };
 
 inline Held HeldNow() {
@@ -34,7 +34,8 @@ inline Held HeldNow() {
   return held;
 }
 
-// Prints what the process holds after a comparison of so many icons. The peak is of the whole process up to then.
+// Prints the resources of the process after a comparison of that many icons. The peak is that of the whole process up
+// to then.
 inline void PrintHeld(const std::string& title, int icons) {
   const Held held = HeldNow();
   std::printf("%-44s %d icons; peak memory %.1f MB, %d kernel handles, %d GDI objects\n", title.c_str(), icons,

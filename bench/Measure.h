@@ -15,17 +15,17 @@
 
 namespace tarvik::bench {
 
-// One way of doing the work. The first of a comparison is the one that the others are compared with.
+// One way of doing the work. The others are compared with the first one of a comparison.
 struct Way {
   std::string name;
   std::function<void()> run;
-  std::function<void()> prepare = {};  // before each run, and not counted
+  std::function<void()> prepare = {};  // runs before each run; not measured
 };
 
-// What one run took, in milliseconds.
+// The time of one run, in milliseconds.
 struct Cost {
   double wall = 0;
-  double processor = 0;  // of this process and of Wine's server: other programs disturb it less
+  double processor = 0;  // of this process and of Wine's server; less affected by other programs
 };
 
 inline double OwnProcessorTime() {
@@ -40,7 +40,7 @@ inline double OwnProcessorTime() {
   return milliseconds(kernel) + milliseconds(user);
 }
 
-// Wine opens files in its server, so "self" is the server there. 0 on Windows, which has none.
+// Wine's server opens the file, so "self" is the server's process. 0 on Windows, which has no such server.
 inline double ServerProcessorTime() {
   const FileHandle file(CreateFileW(LR"(\\?\unix\proc\self\schedstat)", GENERIC_READ, FILE_SHARE_READ, nullptr,
                                     OPEN_EXISTING, 0, nullptr));
@@ -80,16 +80,16 @@ inline double MedianOf(PartOfCost part, const std::vector<Cost>& costs, const st
   return Median(std::move(values));
 }
 
-// Which times a comparison prints. The processor time says nothing about work that other processes do.
+// The times that a comparison prints. Processor time does not include the work of other processes.
 enum class Times { Clock, ClockAndProcessor };
 
-// Runs the ways in turn, so that the machine's mood falls on all of them alike, and prints each one's median time and
-// the median of its ratio to the first way of the same round. Returns the median times by the clock in milliseconds,
+// Runs the ways in turn, so that the load of the machine affects all of them alike, and prints each one's median time
+// and the median of its ratio to the first way of the same round. Returns the median wall-clock times in milliseconds,
 // one for each way.
 inline std::vector<double> Compare(const std::string& title, const std::vector<Way>& ways, int rounds,
                                    Times times = Times::ClockAndProcessor) {
   std::vector<std::vector<Cost>> costs(ways.size());
-  for (const Way& way : ways) CostOf(way);  // a warm-up that is not counted
+  for (const Way& way : ways) CostOf(way);  // warm-up, not measured
   for (int round = 0; round < rounds; ++round) {
     for (std::size_t i = 0; i < ways.size(); ++i) costs[i].push_back(CostOf(ways[i]));
   }

@@ -13,7 +13,8 @@
 
 namespace tarvik::bench {
 
-// A folder for the files of one way of a comparison. It is emptied before each run, so that every file is a new one.
+// A folder for the files of one way of a comparison. It is emptied before each run, so that every file is newly
+// created.
 class OutputFolder {
  public:
   OutputFolder(const support::TemporaryFolder& folder, const std::string& name) : path_(folder.MakeFolder(name)) {}

@@ -1,5 +1,5 @@
-// What it costs to save every icon of a search from the main window's menu, against the bare platform calls that
-// cannot be spared: taking each icon out of its file, drawing its three pictures, and writing as many bytes.
+// The cost of saving every icon of a search from the main window's menu, compared with the bare platform calls that are
+// needed in any case: extracting each icon from its file, drawing its three pictures, and writing as many bytes.
 
 #include <windows.h>
 
@@ -35,7 +35,7 @@ struct Libraries {
 
 class BareCalls {
  public:
-  // Takes so many icons with one call, and writes as many bytes for each as the files of `saved` have on average.
+  // Extracts that many icons with one call, and writes for each as many bytes as the files of `saved` have on average.
   BareCalls(Libraries libraries, const OutputFolder& saved, int groupSize)
       : libraries_(std::move(libraries)), groupSize_(groupSize), bytes_(AverageSize(saved.Path())) {}
 

@@ -16,7 +16,7 @@
 
 namespace tarvik::bench {
 
-// A grid that is only drawn on.
+// A grid that is drawn on but not shown.
 class SilentGrid final : public GridView {
  public:
   void Clear() override {}
@@ -30,7 +30,7 @@ class SilentGrid final : public GridView {
   Surface picture_{WidestGrid(), 12000, white};
 };
 
-// A window that swallows texts: what is left is the search itself.
+// A window that discards all texts, so that only the search itself is measured.
 class SilentWindow final : public SearchWindow, public SearchFolders {
  public:
   SilentWindow(const Scope& scope, FolderReader& folders) : scope_(scope), folders_(folders), folder_(scope.folder) {}
@@ -62,12 +62,12 @@ class SilentWindow final : public SearchWindow, public SearchFolders {
   std::string folder_;
 };
 
-// The search behind a window that shows nothing.
+// The search with a window that shows nothing.
 class SilentSearch {
  public:
   explicit SilentSearch(const Scope& scope)
       : SilentSearch(scope, [](const std::string& path) { return std::make_unique<FileBytes>(path); }) {}
-  // With `open` for the bytes of files that the program reads itself.
+  // `open` provides the bytes of the files that the program reads itself.
   SilentSearch(const Scope& scope, ShellIcons::OpenBytes open)
       : shellIcons_(std::move(open)),
         window_(scope, folders_),

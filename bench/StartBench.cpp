@@ -1,5 +1,5 @@
-// How long the program takes from the start of its process to its first window on the screen, against a program of one
-// empty window and against one that only shows the dialog of the same window; and how large it is.
+// The time from the start of the program's process to its first window on the screen, compared with a program of one
+// empty window and with one that only shows the dialog of the same window; and the program's size.
 
 #include <windows.h>
 
@@ -40,7 +40,7 @@ bool ShowsWindow(DWORD process) {
   return search.found;
 }
 
-// A started program, ended before the next one starts.
+// A started program; it is ended before the next one starts.
 class Started {
  public:
   void Start(const fs::path& program) {

@@ -28,8 +28,8 @@ double Number(const std::string& text) {
   }
 }
 
-// Milliseconds that a command of the system below Wine takes, by that system's own clock: how it is started from here
-// does not count.
+// Milliseconds that a command of the host system below Wine takes, by that system's own clock, without the time to
+// start it from here.
 double UnixMilliseconds(const std::string& command) {
   const end_to_end::UnixAnswer answer = end_to_end::RunUnix(
       "start=$(date +%s%N); { " + command + "; } >/dev/null 2>&1; echo $((($(date +%s%N) - start) / 1000))");

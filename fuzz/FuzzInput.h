@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-// What the fuzz targets share.
+// Shared by the fuzz targets.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
@@ -16,7 +16,7 @@ inline std::string TextOf(const std::uint8_t* data, std::size_t size) {
   return {data, data + size};
 }
 
-// Ends the run, and so reports the input, unless what must hold does.
+// Aborts the run, which reports the input, unless the condition holds.
 inline void Require(bool holds, std::string_view what) {
   if (holds) return;
   std::cerr << "does not hold: " << what << '\n';

@@ -1,6 +1,6 @@
-// Hands pictures and options by chance to both encoders. Whatever they write must decode: a GIF file to a picture
-// with the right transparent pixels and, where it has at most 256 colours, the very same; a JPEG file to a picture of
-// the same size. What they refuse, they must not have touched.
+// Passes random pictures and options to both encoders. All that they write must decode: a GIF file to a picture with
+// the right transparent pixels, and to exactly the same picture if it has at most 256 colours; a JPEG file to a picture
+// of the same size. If they refuse a picture, they must not have opened the file.
 #include <cstddef>
 #include <cstdint>
 #include <set>
@@ -20,7 +20,7 @@ namespace {
 using support::MemorySink;
 using support::TestRaster;
 
-// The input, byte by byte; zeros once it has ended.
+// The input, byte by byte; zeros after its end.
 class Input {
  public:
   Input(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
@@ -39,8 +39,8 @@ class Input {
   std::size_t at_ = 0;
 };
 
-// A picture of up to 24 x 24 pixels, enough for more colours than a palette holds. Past the input's end its colours
-// repeat with a drift, so that short inputs make pictures of many colours too.
+// A picture of up to 24 x 24 pixels, enough for more colours than a palette holds. After the input's end each colour is
+// the last one plus a fixed step, so that short inputs make pictures of many colours too.
 TestRaster MakePicture(Input& input) {
   TestRaster picture(input.Byte() % 25, input.Byte() % 25);
   const Color drift = input.AnyColor();
@@ -87,7 +87,7 @@ void FuzzJpeg(const TestRaster& picture, Input& input) {
   const int choice = input.Byte();
   JpegSampling sampling = SamplingOf(subSamplings[static_cast<std::size_t>(choice) % 16], choice >= 192);
   const bool offered = choice % 32 < 16;
-  // Beyond what the dialog offers: factors by chance, most of which no file can have.
+  // Beyond what the dialog offers: random factors, most of which are invalid.
   if (!offered)
     for (SamplingFactors& factors : sampling) factors = {input.Byte() % 6, input.Byte() % 6};
   encoder.SetSampling(sampling);

@@ -9,7 +9,7 @@
 namespace tarvik {
 namespace {
 
-constexpr std::size_t longest = 200;  // more only makes the slow answer slower
+constexpr std::size_t longest = 200;  // more would only slow down the reference matcher
 
 std::vector<std::string> CharactersOf(std::string_view text) {
   std::vector<std::string> characters;
@@ -24,7 +24,7 @@ std::vector<std::string> CharactersOf(std::string_view text) {
   return characters;
 }
 
-// The plain answer: which heads of the name does each head of the part match?
+// The reference matcher: determines which prefixes of the name each prefix of the part matches.
 bool MatchesSlowly(const std::string& name, const std::string& part) {
   const auto characters = CharactersOf(name);
   std::vector<bool> heads(characters.size() + 1, false);
@@ -55,7 +55,7 @@ bool MatchesAnySlowly(const std::string& name, const std::string& pattern) {
 }  // namespace
 }  // namespace tarvik
 
-// The input is a name and a pattern, a line each.
+// The input is a name and a pattern, one line each.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string input = tarvik::TextOf(data, std::min(size, tarvik::longest));
   const std::size_t line = std::min(input.find('\n'), input.size());

@@ -27,7 +27,7 @@ class FuzzedFile : public ByteSource {
   std::size_t size_;
 };
 
-// What is handed to the system is a picture that is there as a whole.
+// Only complete pictures may be passed to the system.
 void LookAtPictures(const NewExecutable& module, FuzzedFile& file) {
   for (int index = -1; index <= std::min(module.IconCount(), 50); ++index) {
     file.reads = 0;

@@ -7,7 +7,7 @@
 namespace tarvik {
 namespace {
 
-// The number of a text, or nothing where it is refused; anything but a run-time error ends the run.
+// The number of a text, or nothing if it is refused; any exception but a run-time error aborts the run.
 std::optional<int> NumberOf(const std::string& text) {
   try {
     return ToInteger16(text);

@@ -1,5 +1,5 @@
-// Random pictures, classes and sizes into the three writers and the classification. A picture need not be of the class
-// it is written in. No input may crash, and every file has the length that its format says.
+// Passes random pictures, classes and sizes to the three writers and the classification. A picture need not be of the
+// class in which it is written. No input may crash, and every file has the length that its format requires.
 
 #include <array>
 #include <cstddef>
@@ -33,7 +33,7 @@ class Input {
   std::size_t place_ = 0;
 };
 
-// A picture whose pixels go round and round through the bytes, three for a colour, from `start` on.
+// A picture whose pixels are read from the bytes, three per colour, from `start` on, repeatedly.
 class BytePicture final : public PixelView {
  public:
   BytePicture(int size, std::span<const std::uint8_t> bytes, std::size_t start)
@@ -55,7 +55,7 @@ class BytePicture final : public PixelView {
   std::size_t start_;
 };
 
-// Counts bytes, and fails at one step if told to.
+// Counts bytes, and fails at one step if requested.
 class CountingSink final : public FileSink {
  public:
   explicit CountingSink(int failingStep) : failingStep_(failingStep) {}
@@ -91,7 +91,7 @@ std::size_t PaletteAndPixels(ColorClass colors, std::size_t size) {
   }
 }
 
-// A writer said yes exactly where no step failed, and then wrote that many bytes.
+// A writer must return true exactly if no step failed, and must then have written that many bytes.
 void RequireWritten(bool written, const CountingSink& sink, int failingStep, std::size_t length) {
   const bool failed = failingStep >= 0 && failingStep < sink.steps;
   Require(written != failed, "a writer says no where a step failed, and nowhere else");
@@ -104,7 +104,7 @@ void WriteAll(Input& input) {
                                               ColorClass::TrueColor};
   const int size = sizes[input.Byte() % sizes.size()];
   const std::uint8_t choice = input.Byte();
-  const int failingStep = input.Byte() - 128;  // mostly none
+  const int failingStep = input.Byte() - 128;  // mostly no failure
   const ModMicroArtFileIO::HotSpot hotSpot{input.Byte() - 128, std::int64_t{input.Byte()} * 128};
   const BytePicture image(size, input.Rest(), 0);
   const BytePicture mask(size, input.Rest(), 1);

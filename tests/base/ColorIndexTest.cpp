@@ -21,7 +21,7 @@ TEST(ColorIndex, HasNoNumberForAnyOtherColour) {
   EXPECT_EQ(index.Find(white), std::nullopt);
 }
 
-// Colours one apart, and colours that differ in their high bits alone.
+// Consecutive colours, and colours that differ only in their high bits.
 TEST(ColorIndex, TellsApartAsManyColoursAsAPictureHas) {
   constexpr int count = 60'000;
   for (const Color step : {1U, 0x10000U}) {

@@ -50,7 +50,7 @@ TEST(DisplayScale, IsBelowZeroLeftOfThePicture) {
   EXPECT_EQ(DisplayScale(144).FromDisplay(-1), -1);
 }
 
-// 52500 pixels times 192 dots times 96 would not fit into 32 bits.
+// 52500 pixels times 192 dpi times 96 does not fit into 32 bits.
 TEST(DisplayScale, HoldsTheHighestPictureOnTheFinestDisplay) {
   const DisplayScale scale(768);
   EXPECT_EQ(scale.ToDisplay(32767), 32767 * 8);

@@ -1,4 +1,4 @@
-// What goes through the system's calls that end in A, in a code page that is not UTF-8.
+// Texts passed to the system functions whose names end in A, in a code page other than UTF-8.
 
 #include "platform/CodePage.h"
 
@@ -51,7 +51,7 @@ TEST(CodePage, RefusesWhatItLacksAndReplacesItForReadersAlone) {
 
 class CodePageShellIcons : public ::testing::Test {
  protected:
-  // How many icons each way of asking finds in a file.
+  // How many icons each function finds in a file.
   static std::array<std::size_t, 3> Found(const std::string& path) {
     ShellIcons icons;
     return {static_cast<std::size_t>(icons.CountIcons(path)), icons.Extract(path, 0) != nullptr ? 1U : 0U,
@@ -69,7 +69,7 @@ TEST_F(CodePageShellIcons, AreFoundUnderEveryNameThatItHolds) {
   EXPECT_EQ(Found(path), FoundInEach());
 }
 
-// The system loads these by another call.
+// The system loads these by another function.
 TEST_F(CodePageShellIcons, AreFoundInAnimationsToo) {
   const Color colors[] = {0x0000FF, 0x00FF00};
   const std::string path = folder.MakeFile(Names().held + ".ani", support::AnimationFile(colors));

@@ -1,4 +1,4 @@
-// The main window over real files, in a code page that is not UTF-8.
+// The main window over real files, in a code page other than UTF-8.
 
 #include <gmock/gmock.h>
 #include <windows.h>

@@ -6,7 +6,8 @@
 
 namespace tarvik::support {
 
-// Names for the code page in force: one that it holds, with its bytes in it; and one that no Chinese code page holds.
+// Names for the current code page: one that it can represent, with its bytes in it; and one that no Chinese code page
+// can represent.
 struct CodePageNames {
   std::string held;
   std::string heldBytes;

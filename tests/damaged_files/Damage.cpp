@@ -30,8 +30,8 @@ void Write(Bytes& bytes, const Field& field, std::uint32_t value) {
   for (std::size_t i = 0; i < field.width; ++i) bytes[field.place + i] = static_cast<std::byte>(value >> (8 * i));
 }
 
-// A value that a reader may trust too much: nothing, one too few or too many, double, the size of the file and a
-// little beside it, the highest of each kind of number, or any.
+// A false value that a reader may trust too much: zero, one too low or too high, double, the size of the file or a
+// value near it, the maximum of each integer type, or a random value.
 std::uint32_t Lie(std::uint32_t truth, std::size_t fileSize, Chance& chance) {
   const auto size = static_cast<std::uint32_t>(fileSize);
   const std::array lies{0U,          1U,          truth - 1, truth + 1, truth * 2,   size - 1,    size,

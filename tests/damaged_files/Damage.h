@@ -8,11 +8,11 @@
 
 namespace tarvik::support {
 
-// Chances that come out the same with every compiler.
+// Random numbers that are the same with every compiler.
 class Chance {
  public:
   explicit Chance(std::uint32_t seed) : engine_(seed) {}
-  // A number from 0 up to and without `end`, which is not 0.
+  // A number from 0 up to `end` - 1; `end` is not 0.
   std::size_t Below(std::size_t end) { return engine_() % end; }
   std::uint32_t Any() { return engine_(); }
 
@@ -24,9 +24,9 @@ enum class Damage {
   FlippedBits,    // one to eight, anywhere
   FlippedHeader,  // one to four in the first 128 bytes
   Truncated,      // cut off anywhere
-  Noise,          // a run of up to 64 bytes without any sense
-  Lies,           // one to three fields that say something else
-  Loops,          // a resource tree that leads back into itself
+  Noise,          // a run of up to 64 random bytes
+  Lies,           // one to three fields with a false value
+  Loops,          // a resource tree with a cycle
 };
 struct DamageName {
   Damage damage;
@@ -39,7 +39,7 @@ inline constexpr std::array damageNames{DamageName{Damage::FlippedBits, "flipped
                                         DamageName{Damage::Lies, "lies"},
                                         DamageName{Damage::Loops, "loops"}};
 
-// Whether a file can be damaged that way: without a tree there is no loop in it.
+// Whether a file can be damaged that way: only a resource tree can get a cycle.
 bool CanHave(const IntactFile& file, Damage damage);
 
 // The bytes of the file, damaged that way.

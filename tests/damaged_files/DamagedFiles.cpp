@@ -16,13 +16,13 @@ constexpr int intactInEach = 3;
 constexpr Color red = 0x0000FF;
 constexpr Color blue = 0xFF0000;
 
-// Files of one kind, each damaged so many times in each way.
+// Files of one kind, each damaged that many times in each way.
 struct Kind {
   const char* name;
   const char* extension;
   int copies;
   std::vector<IntactFile> files;
-  // What the intact ones among them are: of one icon, with that extension.
+  // The content of the intact files among them: one icon, with that extension.
   Bytes intact = IconFileOf(red);
   const char* intactExtension = ".ico";
 };
@@ -73,7 +73,7 @@ std::vector<Kind> Kinds() {
           {"64-bit library", ".dll", 270, LibrariesBy(wide)}};
 }
 
-// 16-bit modules alone, and intact ones among them.
+// 16-bit modules only, with intact ones among them.
 std::vector<Kind> ModuleKinds() {
   const std::array one{BitmapPicture(32, 4, red, blue)};
   const Bytes intact = SixteenBitLibrary(one).bytes;

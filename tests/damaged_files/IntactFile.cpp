@@ -76,7 +76,7 @@ void IntactFileWriter::MarkPicture(std::size_t start) {
     Mark(start + 12, 2);
     Mark(start + 14, 2);
   } else {
-    // PNG, behind its signature: the size of the header chunk, its name, width, height, bits; then the next chunk's
+    // PNG, after its signature: the size of the header chunk, its name, width, height, bits; then the next chunk's
     // size.
     for (const std::size_t number : {8U, 16U, 20U, 33U}) Mark(start + number, 4);
     Mark(start + 24, 1);

@@ -9,33 +9,34 @@
 
 namespace tarvik::support {
 
-// A number in a file that says how many, how large or where.
+// A number in a file that states a count, a size or an offset.
 struct Field {
   std::size_t place;
   std::size_t width;  // bytes, little-endian
 };
 
-// A file that is as it should be, and where it can be made to lie.
+// An intact file with the fields that can be falsified.
 struct IntactFile {
   Bytes bytes;
   std::vector<Field> fields;
-  // Of a resource tree: the fields that lead on to a directory, and what each of its directories is led to by.
+  // Of a resource tree: the fields that refer to a directory, and the value that refers to each of its directories.
   std::vector<Field> branches = {};
   std::vector<std::uint32_t> directories = {};
 };
 
-// Appends numbers, little-endian, and notes which of them are fields: the marked ones.
+// Appends numbers, little-endian, and records the marked ones as fields.
 class IntactFileWriter {
  public:
   std::size_t Place() const { return file_.bytes.size(); }
   void Number(std::uint64_t value, std::size_t width);
   void Marked(std::uint64_t value, std::size_t width);
-  // A field that leads on to a directory of a resource tree.
+  // Appends a field that refers to a directory of a resource tree.
   void Branch(std::uint32_t value);
   void Directory(std::uint32_t leadingValue) { file_.directories.push_back(leadingValue); }
   void Append(const Bytes& bytes);
   void PadTo(std::size_t place) { file_.bytes.resize(place); }
-  // The icons or the cursor that follow in the file as an icon file has them, or a bitmap as an icon resource has it.
+  // Marks the fields of the icons or the cursor from `start` on, in the format of an icon file, or of a bitmap in the
+  // format of an icon resource.
   void MarkIconFile(std::size_t start);
   void MarkPicture(std::size_t start);
   IntactFile Take() { return std::move(file_); }
@@ -49,7 +50,7 @@ class IntactFileWriter {
 
 // An icon file or a cursor file with its fields.
 IntactFile IntactIconFile(const Bytes& file);
-// An animated cursor with its fields: the sizes of its chunks, its header, its order, and those of its pictures.
+// An animated cursor with its fields: the sizes of its chunks, its header, its sequence, and those of its pictures.
 IntactFile IntactAnimation(const Bytes& file);
 
 }  // namespace tarvik::support

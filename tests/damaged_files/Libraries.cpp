@@ -8,7 +8,7 @@ namespace {
 constexpr std::uint32_t iconType = 3;
 constexpr std::uint32_t iconGroupType = 14;
 
-constexpr std::size_t newHeaderPlace = 64;  // right behind the DOS header, which ends in this number
+constexpr std::size_t newHeaderPlace = 64;  // right after the DOS header, which ends with this number
 
 void WriteDosHeader(IntactFileWriter& file) {
   file.Number(0x5A4D, 2);  // "MZ"
@@ -191,8 +191,8 @@ IntactFile SixteenBitLibrary(std::span<const IconPicture> pictures) {
   WriteDosHeader(file);
   file.Number(0x454E, 2);  // "NE"
   file.PadTo(newHeaderPlace + 0x24);
-  file.Marked(headerSize, 2);              // where the resource table is
-  file.Marked(headerSize + tableSize, 2);  // and what comes behind it
+  file.Marked(headerSize, 2);              // offset of the resource table
+  file.Marked(headerSize + tableSize, 2);  // and of what follows it
   file.PadTo(newHeaderPlace + 0x36);
   file.Number(2, 1);  // for Windows
   file.PadTo(newHeaderPlace + headerSize);
@@ -209,7 +209,7 @@ IntactFile SixteenBitLibrary(std::span<const IconPicture> pictures) {
     const std::size_t size = aligned(data[index].size());
     file.Marked(place >> shift, 2);
     file.Marked(size >> shift, 2);
-    file.Number(0x1C30, 2);  // may be moved and discarded, is not written to
+    file.Number(0x1C30, 2);  // flags: may be moved and discarded, is read-only
     file.Marked(idBit | (index % names + 1), 2);
     file.Number(0, 4);
     place += size;

@@ -15,7 +15,7 @@ TEST(FolderDialogTexts, NameTheChoosersControlsInThreeLanguages) {
                                        {frmDir_cmdCreate, {"Cr&eate", "创建(&R)", "創建(&R)"}},
                                        {frmDir_lblCaption, {"Selected Directory:", "存储目录为:", "存儲目錄為:"}},
 
-                                       // The names of the controls for whoever has the screen read aloud.
+                                       // The names of the controls for screen readers.
                                        {frmDir_lblDrive, {"Drive", "驱动器", "磁碟機"}},
                                        {frmDir_lblFolder, {"Folder", "文件夹", "資料夾"}},
                                        {frmDir_lblFileType, {"File type", "文件类型", "檔案類型"}},

@@ -30,7 +30,7 @@ class frmDirTest : public ::testing::Test {
   }
   ~frmDirTest() override { DestroyWindow(owner); }
 
-  // Shows the dialog; the steps given before work it. What it returned.
+  // Shows the dialog, which is operated by the steps queued before. Returns the dialog's result.
   std::string Show() {
     const std::string answer = form.ShowDir(owner);
     EXPECT_TRUE(driver.IsDone());
@@ -48,7 +48,7 @@ class frmDirTest : public ::testing::Test {
   HWND owner = nullptr;
   std::string firstFolder = "C:\\work";
   std::map<std::string, std::vector<std::string>> subFolders;
-  std::vector<std::string> made;  // what the new-folder dialog asked for
+  std::vector<std::string> made;  // the folders that the new-folder dialog asked to make
   bool canMake = true;
   std::vector<DriveListBox::Drive> drives{{"C:\\", "c: [SYSTEM]"}, {"D:\\", "d:"}};
   support::ModalDriver driver;
@@ -222,7 +222,7 @@ TEST_F(frmDirTest, TakesAnOpenNewFolderDialogWithItWhereItIsClosed) {
     EXPECT_EQ(Show(), "C:\\work");
   }
   EXPECT_TRUE(made.empty());
-  application.Run();  // returns, as no form is left
+  application.Run();  // returns because no form is left
 }
 
 TEST_F(frmDirTest, DoublesNoBackslashBehindADriveRoot) {

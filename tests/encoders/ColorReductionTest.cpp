@@ -31,14 +31,14 @@ TEST(ColorReduction, CutsBetweenTwoGroupsOfColours) {
 }
 
 TEST(ColorReduction, CutsAsLongAsAnythingIsGained) {
-  // The last cut parts two neighbours, 0 and 1 or 100 and 101, and saves half of one square step.
+  // The last cut separates two neighbours, 0 and 1 or 100 and 101, and saves half of one square step.
   const std::vector<CountedColor> colors{{0, 1}, {1, 1}, {100, 1}, {101, 1}, {200, 1}};
   EXPECT_THAT(ReduceColors(colors, 4).palette, testing::SizeIs(4));
 }
 
 TEST(ColorReduction, MovesColoursToWhereTheyFitBestAfterTheCuts) {
-  // The first cut saves most between 11 and 15, the second between 15 and 28, and so 11 stays with 0 and 2 (mean 4).
-  // It is nearer to 15 than to that mean: the two pairs and the single one are what fits.
+  // The first cut saves most between 11 and 15, the second between 15 and 28, so 11 stays with 0 and 2 (mean 4). But 11
+  // is nearer to 15 than to that mean: the two pairs and the single colour are the better partition.
   const std::vector<CountedColor> colors{{0, 1}, {2, 1}, {11, 1}, {15, 1}, {28, 1}};
   EXPECT_THAT(ReduceColors(colors, 3).palette, UnorderedElementsAre(1, 13, 28));
 }

@@ -13,7 +13,7 @@ namespace {
 
 using support::TestRaster;
 
-// The bytes of a file from one place on. Reading past the end gives zeros and is remembered.
+// The bytes of a file from an offset on. Reading past the end returns zeros and is recorded.
 class Reader {
  public:
   explicit Reader(std::span<const std::byte> file) : file_(file) {}
@@ -73,7 +73,7 @@ void ReadFrame(Reader& reader, int marker, JpegMarkers& markers) {
   }
 }
 
-// Errors of the library's reader, and its warnings: both end the reading.
+// Errors of the library's reader, and its warnings: both end the decoding.
 struct DecodeErrors {
   jpeg_error_mgr manager{};
   std::jmp_buf back{};
@@ -175,7 +175,7 @@ std::optional<GifContent> DecodeGif(std::span<const std::byte> file) {
                            place.Height == gif->SHeight && place.ColorMap == nullptr && gif->SColorMap != nullptr;
   if (!fillsScreen) return std::nullopt;
   GifContent content;
-  // The library's own word on the version is always 87a for a file that is read through a function.
+  // The library always reports 87a for a file that is read through a callback.
   for (const std::byte byte : file.subspan(3, 3)) content.version.push_back(static_cast<char>(byte));
   content.width = place.Width;
   content.height = place.Height;

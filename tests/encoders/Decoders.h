@@ -13,7 +13,7 @@
 
 namespace tarvik {
 
-// What the markers of a JPEG file say, read here without the library that wrote it.
+// The content of a JPEG file's markers, parsed without the library that wrote it.
 struct JpegMarkers {
   struct Component {
     int horizontal = 0;
@@ -32,10 +32,10 @@ struct JpegMarkers {
   std::vector<int> componentsOfScans;
 };
 
-// Nothing where the bytes are no whole JPEG file.
+// Nothing if the bytes are not a complete JPEG file.
 std::optional<JpegMarkers> ReadJpegMarkers(std::span<const std::byte> file);
 
-// The picture as libjpeg-turbo decodes it; nothing where it complains, be it a warning.
+// The picture as libjpeg-turbo decodes it; nothing if it reports an error or a warning.
 std::optional<support::TestRaster> DecodeJpeg(std::span<const std::byte> file);
 
 // A GIF file of one image, as giflib reads it.
@@ -43,7 +43,7 @@ struct GifContent {
   std::string version;  // "87a" or "89a"
   int width = 0;
   int height = 0;
-  std::vector<Color> palette;        // all of the colour map
+  std::vector<Color> palette;        // the whole colour map
   std::vector<std::uint8_t> pixels;  // row by row
   std::optional<int> transparentIndex;
 
@@ -51,10 +51,10 @@ struct GifContent {
   Color Pixel(int x, int y) const { return palette.at(Index(x, y)); }
 };
 
-// Nothing where the library reports an error or the file holds anything but one whole image.
+// Nothing if the library reports an error or the file does not hold exactly one complete image.
 std::optional<GifContent> DecodeGif(std::span<const std::byte> file);
 
-// The mean squared difference of the channels of two pictures of one size.
+// The mean squared difference of the channels of two pictures of the same size.
 template <typename One, typename Other>
 double MeanSquaredError(const One& one, const Other& other, int width, int height) {
   double sum = 0;

@@ -9,8 +9,8 @@ inline int ByteAt(const std::string& bytes, std::size_t place) {
   return static_cast<std::uint8_t>(bytes.at(place));
 }
 
-// The start of a JPEG file's segment with that marker: the place of its first byte behind the length. Nothing where
-// there is none.
+// The start of a JPEG file's segment with that marker: the offset of its first byte after the length. Nothing if there
+// is none.
 inline std::size_t SegmentAt(const std::string& jpeg, int marker) {
   std::size_t place = 2;
   while (place + 4 <= jpeg.size()) {
@@ -20,7 +20,7 @@ inline std::size_t SegmentAt(const std::string& jpeg, int marker) {
   return std::string::npos;
 }
 
-// What the header of a JPEG file says: how many components, and the luminance factors (across in the high half).
+// From the header of a JPEG file: the number of components, and the luminance factors (horizontal in the high half).
 inline int ComponentsOf(const std::string& jpeg) {
   return ByteAt(jpeg, SegmentAt(jpeg, 0xC0) + 5);
 }
@@ -32,7 +32,7 @@ inline std::string CommentOf(const std::string& jpeg) {
   if (place == std::string::npos) return {};
   return jpeg.substr(place, static_cast<std::size_t>(ByteAt(jpeg, place - 2) * 256 + ByteAt(jpeg, place - 1)) - 2);
 }
-// The first entry of the luminance quantisation table: the coarser, the lower the quality.
+// The first entry of the luminance quantisation table: the higher, the lower the quality.
 inline int FirstQuantiser(const std::string& jpeg) {
   return ByteAt(jpeg, SegmentAt(jpeg, 0xDB) + 1);
 }

@@ -112,7 +112,7 @@ TEST_F(FrmConvertGIFTest, WritesNothingWhereItIsCancelledOrClosed) {
   }
 }
 
-// The window is gone as soon as the caption stands, so it is read on its way there.
+// The window closes as soon as the caption is set, so the text is read from the message that sets it.
 std::string captionSet;
 LRESULT CALLBACK WatchCaption(int code, WPARAM wParam, LPARAM lParam) {
   const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);

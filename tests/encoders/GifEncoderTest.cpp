@@ -45,7 +45,7 @@ double ErrorOf(const GifContent& content, const PixelView& picture) {
   return MeanSquaredError(content, picture, picture.Width(), picture.Height());
 }
 
-// The pixels with the transparent index must be the ones of that colour, no more and no less.
+// The pixels with the transparent index must be exactly those of that colour.
 void ExpectSeeThroughExactly(const GifContent& content, const PixelView& picture, Color color) {
   ASSERT_TRUE(content.transparentIndex);
   int wrong = 0;
@@ -82,7 +82,7 @@ TEST(GifEncoder, SaysBeforeTheImageWhichColourIsSeenThroughAndNothingElse) {
   MemorySink sink;
   const TestRaster picture = ManyColors(16, 4);
   ASSERT_TRUE(GifEncoder(sink).WriteFile(picture, path, Transparent(picture.Pixel(0, 0))));
-  // Behind the header of 13 bytes and four colours: the block's kind and length; a flag for the transparent colour and
+  // After the header of 13 bytes and four colours: the block's kind and length; a flag for the transparent colour and
   // none for waiting or clearing; no delay; the colour; the end.
   const std::vector<std::byte> block(sink.Bytes().begin() + 25, sink.Bytes().begin() + 33);
   EXPECT_THAT(block, testing::ElementsAre(std::byte{0x21}, std::byte{0xF9}, std::byte{4}, std::byte{1}, std::byte{0},
@@ -184,7 +184,7 @@ TEST(GifEncoder, IgnoresTheTransparentColourWhereTransparencyIsOff) {
 }
 
 TEST(GifEncoder, LosesNextToNothingOnOneColourTooMany) {
-  // Two of the 257 colours are neighbours; drawing them alike costs a quarter of their squared distance each.
+  // Two of the 257 colours are neighbours; drawing both in one colour costs each a quarter of their squared distance.
   TestRaster picture(64, 64);
   for (int i = 0; i < 4096; ++i) {
     const int color = i % 256;
@@ -192,7 +192,7 @@ TEST(GifEncoder, LosesNextToNothingOnOneColourTooMany) {
   }
   picture.Set(63, 63, 0x010000U + picture.Pixel(63, 63));
   const GifContent content = Written(picture, best);
-  // The odd one out is one pixel, and one step away from its neighbour.
+  // The extra colour is one pixel, and one step away from its neighbour.
   EXPECT_LE(ErrorOf(content, picture), 1.0 / (3 * 4096));
 }
 

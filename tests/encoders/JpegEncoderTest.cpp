@@ -35,7 +35,7 @@ JpegMarkers MarkersOf(const MemorySink& sink) {
   return markers.value_or(JpegMarkers{});
 }
 
-// The file of a picture with the encoder's settings as `prepare` leaves them.
+// The file of a picture with the encoder's settings made by `prepare`.
 template <typename Prepare>
 JpegMarkers MarkersAfter(Prepare prepare) {
   MemorySink sink;
@@ -113,7 +113,7 @@ TEST(JpegEncoder, KeepsAPlainColourInEverySampling) {
     ASSERT_TRUE(encoder.WriteFile(path));
     const auto decoded = DecodeJpeg(sink.Bytes());
     ASSERT_TRUE(decoded);
-    // One step of rounding in each channel.
+    // Only one rounding step in each channel.
     EXPECT_LE(MeanSquaredError(*decoded, TestRaster(33, 18, teal), 33, 18), 1);
   }
 }
@@ -128,7 +128,7 @@ TEST(JpegEncoder, WritesGreysAsOneComponent) {
   EXPECT_THAT(MarkersOf(sink).components, ElementsAre(Component{1, 1, 0}));
   const auto decoded = DecodeJpeg(sink.Bytes());
   ASSERT_TRUE(decoded);
-  // Red is 0.299 of the light: 76 of 255.
+  // Red contributes 0.299 of the luminance: 76 of 255.
   EXPECT_EQ(decoded->Pixel(8, 8), 0x4C4C4CU);
 }
 
@@ -152,8 +152,8 @@ TEST(JpegEncoder, WritesTheRowsFromTheTopWithRedFirst) {
   EXPECT_LE(MeanSquaredError(*decoded, picture, 16, 16), 1);
 }
 
-// The tables of ITU-T T.81, Annex K.1, row by row, as the library's scale changes them: 50 leaves them, below it they
-// grow by 50 / quality, above it they shrink by 2 - quality / 50.
+// The tables of ITU-T T.81, Annex K.1, row by row, scaled as the library does: quality 50 leaves them unchanged, below
+// it they are multiplied by 50 / quality, above it by 2 - quality / 50.
 constexpr std::array<int, 64> luminanceTable{16, 11, 10, 16, 24,  40,  51,  61,  12, 12, 14, 19, 26,  58,  60,  55,
                                              14, 13, 16, 24, 40,  57,  69,  56,  14, 17, 22, 29, 51,  87,  80,  62,
                                              18, 22, 37, 56, 68,  109, 103, 77,  24, 35, 55, 64, 81,  104, 113, 92,
@@ -171,7 +171,7 @@ std::array<int, 64> Scaled(const std::array<int, 64>& table, int quality) {
   return scaled;
 }
 
-// The entries in the order a file holds them: diagonal by diagonal, up and down in turn.
+// The entries in file order: zigzag, diagonal by diagonal, up and down in turn.
 std::array<int, 64> Zigzag(const std::array<int, 64>& rows) {
   std::array<int, 64> places{};
   std::iota(places.begin(), places.end(), 0);
@@ -217,7 +217,7 @@ TEST(JpegEncoder, StaysNearThePictureAtTheBestQualityWithoutSubSampling) {
       ASSERT_TRUE(encoder.WriteFile(path));
       const auto decoded = DecodeJpeg(sink.Bytes());
       ASSERT_TRUE(decoded);
-      // Only rounding is left: of three colour channels, of the transform, and back; noise also leaves the range.
+      // Only rounding is left: of three colour channels, of the transform, and back; noise also exceeds the range.
       EXPECT_LE(MeanSquaredError(*decoded, picture, size, size), 2) << size;
     }
   }
@@ -328,7 +328,7 @@ TEST(JpegEncoder, TouchesNoFileWhereTheSamplingIsNone) {
       {{{1, 1}, {0, 0}, {1, 1}}},  {{{5, 1}, {1, 1}, {1, 1}}},  // over four
       {{{1, 5}, {1, 1}, {1, 1}}},  {{{2, 0}, {1, 1}, {1, 1}}},  // half a pair
       {{{-1, 1}, {1, 1}, {1, 1}}}, {{{1, 1}, {0, 1}, {1, 1}}},
-      {{{3, 1}, {2, 1}, {1, 1}}},  // chroma that does not divide the luminance: the library reports it midway
+      {{{3, 1}, {2, 1}, {1, 1}}},  // chroma that does not divide the luminance: reported by the library midway
   };
   for (const JpegSampling& sampling : rows) {
     MemorySink sink;

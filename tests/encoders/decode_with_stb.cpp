@@ -1,5 +1,5 @@
 // Reads JPEG files with a decoder that shares no code with the library that wrote them, and writes each one's picture
-// beside it as NAME.stb.ppm:  decode_with_stb FILE...
+// next to it as NAME.stb.ppm:  decode_with_stb FILE...
 #include <cstddef>
 #include <cstdlib>
 #include <fstream>

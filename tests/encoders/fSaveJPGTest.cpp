@@ -32,14 +32,14 @@ class fSaveJPGTest : public ::testing::Test {
     application.onRuntimeError = [](Form& /*form*/, const RuntimeError& /*error*/) { ADD_FAILURE(); };
   }
 
-  // Shows the dialog for one file; `work` works it.
+  // Shows the dialog for one file; `work` operates it.
   DialogAnswer ShowSingle(support::ModalDriver::Step work) {
     form.InitJpegExport(picture, path, DialogMode::Single);
     driver.On(fSaveJPG_CboSize, std::move(work));
     return form.ShowFor(DialogMode::Single);
   }
   void MoveTo(int quality) {
-    // As far up as it goes, then step by step.
+    // To the lowest value, then step by step.
     Scroll(SB_TOP);
     for (int step = 1; step < quality; ++step) Scroll(SB_LINEDOWN);
   }
@@ -203,7 +203,7 @@ TEST_F(fSaveJPGTest, KeepsTheOptionsForABatchAndWritesNothingItself) {
   }
   form.FreeObj();
   EXPECT_FALSE(form.IsLoaded());
-  // The picture is the caller's, and need not be there any more.
+  // The picture belongs to the caller and may no longer exist.
   EXPECT_FALSE(form.SaveToJPGForNoSingle(folder.In("3.jpg")));
   EXPECT_EQ(ReadAll(folder.In("3.jpg")), "");
 }
@@ -258,7 +258,7 @@ TEST_F(fSaveJPGTest, TakesEnterInTheCommentForANewLine) {
     SendMessageW(text, EM_SETSEL, 4, 4);
     PostMessageW(text, WM_KEYDOWN, VK_RETURN, 1);
   });
-  // Enter would have pressed the button; then this step never comes.
+  // If Enter pressed the button, this step would never come.
   driver.On(fComment_txtComment, [](HWND window) {
     EXPECT_EQ(TextOf(window, fComment_txtComment), "eins\r\n");
     Command(window, fComment_cmdFinish);
@@ -276,7 +276,7 @@ TEST_F(fSaveJPGTest, TakesAnOpenCommentWithItWhereItIsClosed) {
     EXPECT_EQ(form.ShowFor(DialogMode::Single), DialogAnswer::Cancelled);
     EXPECT_TRUE(driver.IsDone());
   }
-  application.Run();  // returns, as no form is left
+  application.Run();  // returns because no form is left
 }
 
 TEST(fComment, HasTheSizeOf4800By3460Twips) {

@@ -1,5 +1,5 @@
-// Writes samples of what the two encoders write, and the pictures they were given, for programs nobody here wrote to
-// read back:  write_encoded_samples FOLDER
+// Writes sample files of the two encoders, and the source pictures, for independent programs to read back:
+// write_encoded_samples FOLDER
 // Each sample NAME.jpg or NAME.gif belongs to the picture PICTURE.ppm that its name starts with, up to the first ",".
 #include <cstdio>
 #include <exception>

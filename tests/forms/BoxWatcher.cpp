@@ -21,7 +21,7 @@ std::string TextOf(HWND window) {
   return ToUtf8({text.data(), static_cast<std::size_t>(length)});
 }
 
-// The icon beside the text.
+// The icon next to the text.
 HICON SignOf(HWND box) {
   for (HWND item = GetWindow(box, GW_CHILD); item != nullptr; item = GetWindow(item, GW_HWNDNEXT)) {
     const auto icon = reinterpret_cast<HICON>(SendMessageW(item, STM_GETICON, 0, 0));

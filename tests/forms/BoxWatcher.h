@@ -9,14 +9,14 @@
 
 namespace tarvik::support {
 
-// A message box that a test met: its texts, UTF-8, and the system's icon in it.
+// A message box that appeared during a test: its texts, UTF-8, and the system's icon in it.
 struct SeenBox {
   std::string title;
   std::string text;
   HICON sign = nullptr;
 };
 
-// Closes every message box that this thread shows while it lives, by OK, and remembers what stood in it.
+// While it lives, closes every message box of this thread by OK, and records its texts.
 class BoxWatcher : NonCopyable {
  public:
   BoxWatcher();

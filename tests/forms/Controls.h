@@ -9,7 +9,7 @@
 
 #include "platform/Text.h"
 
-// What tests do to the controls of a window, and read off them.
+// What tests do to the controls of a window, and read from them.
 namespace tarvik::support {
 
 inline void Command(HWND window, int id, int code = 0) {
@@ -49,8 +49,8 @@ inline std::string RowText(HWND window, int id, int row) {
   return ToUtf8(text.c_str());
 }
 
-// The changes of the system that a window passes on to its controls, and those of them that reach `control` where the
-// window is told of each.
+// The notifications of system changes that a window forwards to its controls, and those of them that reach `control` if
+// the window receives each.
 inline const std::vector<UINT> allChanges{WM_SYSCOLORCHANGE, WM_THEMECHANGED};
 inline std::vector<UINT> ChangesToldTo(HWND control, HWND window) {
   std::vector<UINT> told;

@@ -83,7 +83,7 @@ TEST_F(FolderListsTest, GoBackToTheLeftForAnotherFolder) {
   EXPECT_GT(ScrollsRight(FrmFindIcon_File1), 0);
 }
 
-// A drawn row is cut at the list's edge only, so that the end of its name is there when it is scrolled to.
+// A drawn row is clipped only at the list's edge, so that the end of its name is visible after scrolling there.
 TEST_F(FolderListsTest, ShowTheEndOfAFoldersNameWhenScrolledToIt) {
   machine.subFolders["C:\\icons"] = {"C:\\icons\\" + std::string(60, 'W') + "MMMMMMMMMM"};
   Open();

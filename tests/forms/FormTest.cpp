@@ -25,7 +25,7 @@ class FormTest : public ::testing::Test {
   Form owned{application, Dialog_frmDirCreate};
 };
 
-// A form whose button does what a test says, and whose loading does too.
+// A form whose button and whose loading run actions of a test.
 class TriedForm final : public Form {
  public:
   explicit TriedForm(Application& application) : Form(application, Dialog_frmDirCreate) {}
@@ -133,7 +133,7 @@ TEST_F(FormErrorsTest, LeavesNoWindowBehindThatCouldNotLoad) {
   EXPECT_TRUE(IsWindowVisible(form.Window()));
 }
 
-// A fault of the processor is no exception that a handler may end by.
+// A fault of the processor is not an exception that a handler may catch.
 TEST_F(FormErrorsTest, LetsAFaultOfTheProgramsOwnEndIt) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   const auto endAtOnce = [](EXCEPTION_POINTERS*) -> LONG { return EXCEPTION_EXECUTE_HANDLER; };
@@ -160,7 +160,7 @@ TEST_F(FormTest, GoesWithItsOwnerAndOpensAgain) {
   owned.Show(owner.Window());
   EXPECT_TRUE(IsWindowVisible(owned.Window()));
   owner.Unload();
-  application.Run();  // returns, as no form is left
+  application.Run();  // returns because no form is left
 }
 
 TEST_F(FormTest, GivesUpWhatWaitedForItWhereItGoesWithItsOwner) {
@@ -186,7 +186,7 @@ TEST_F(FormTest, LetsTheSessionEndAndUnloadsEveryForm) {
   EXPECT_FALSE(owned.IsLoaded());
   application.Run();
   MSG message;
-  PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);  // left for whoever else waits for messages
+  PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);  // stays in the queue for another message loop
 }
 
 }  // namespace

@@ -9,9 +9,9 @@
 
 namespace tarvik::support {
 
-// Works this thread's windows the way a user would while a modal one keeps the test waiting: each step waits until a
-// window with a control of its id is in sight, and then runs once. Steps run in order. Where a window does not come in
-// twenty seconds, the test fails and whatever is in sight is closed.
+// Operates this thread's windows as a user would while a modal one blocks the test: each step waits until a window with
+// a control of its id is visible, and then runs once. Steps run in order. If a window does not appear within twenty
+// seconds, the test fails and the visible window is closed.
 class ModalDriver : NonCopyable {
  public:
   using Step = std::function<void(HWND window)>;
@@ -19,7 +19,7 @@ class ModalDriver : NonCopyable {
   ModalDriver();
   ~ModalDriver();
 
-  // Runs `step` when the window is in sight that has the control `id`.
+  // Runs `step` when the window with the control `id` is visible.
   void On(int id, Step step) { steps_.push_back({id, std::move(step)}); }
   bool IsDone() const { return steps_.empty(); }
 

@@ -9,7 +9,7 @@
 
 namespace tarvik::support {
 
-// A task bar that notes what it is asked for, in order: a state by its name, a share as "1/4".
+// A task bar that logs the calls in order: a state by its name, a share as "1/4".
 class NotedTaskBar final : public TaskBar {
  public:
   void SetState(HWND window, State state) override {

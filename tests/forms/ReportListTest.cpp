@@ -34,7 +34,7 @@ class ReportListTest : public support::FindIconFixture {
     ListView_GetSubItemRect(List(), row, column, LVIR_LABEL, &cell);
     return {(cell.left + cell.right) / 2, (cell.top + cell.bottom) / 2};
   }
-  // What the tip says of the cell; empty for no tip.
+  // The tip's text over the cell; empty if there is no tip.
   std::string TipOf(int row, int column) const {
     const POINT middle = MiddleOf(row, column);
     SendMessageW(List(), WM_MOUSEMOVE, 0, MAKELPARAM(middle.x, middle.y));

@@ -5,7 +5,7 @@
 namespace tarvik {
 namespace {
 
-// The system's object itself. What it shows is outside this program, and Wine's shows nothing.
+// The system's own object. Its display is outside this program, and Wine's displays nothing.
 TEST(SystemTaskBar, TakesEveryStateOfAWindow) {
   const HWND window = CreateWindowExW(0, L"Static", L"progress", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100,
                                       nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);

@@ -1,4 +1,4 @@
-// Saves onto a disk that is full. Where the disk is comes in the environment: the one who mounted it knows.
+// Saves to a full disk. The disk's path is in the environment, set by the script that mounted it.
 
 #include <gmock/gmock.h>
 #include <windows.h>
@@ -38,7 +38,7 @@ class FullDisk : public Saving {
     for (; fillers_ > 0; --fillers_) DeleteFileW(FillerPath(fillers_).c_str());
   }
 
-  // Removes what was saved and has room for so many files, none of which takes more than a block of the disk.
+  // Deletes the saved files and frees room for that many files, each of at most one block of the disk.
   void LeaveRoomFor(int files) {
     Empty();
     Fill();
@@ -54,7 +54,7 @@ class FullDisk : public Saving {
   static constexpr std::size_t block = 4096;
 
   std::wstring FillerPath(int number) const { return ToWide(path_ + "\\full " + std::to_string(number)); }
-  // Whether another block could be taken.
+  // Whether another block could be allocated.
   bool FillBlock() {
     const FileHandle file(CreateFileW(FillerPath(fillers_ + 1).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                                       FILE_ATTRIBUTE_NORMAL, nullptr));

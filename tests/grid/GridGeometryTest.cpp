@@ -55,7 +55,7 @@ TEST(ExtentOf, ScrollsFromSixRowsOn) {
   }
 }
 
-// Six rows of the smallest icons are lower than the viewport, and the picture with them.
+// Six rows of the smallest icons are lower than the viewport, and so is the picture.
 TEST(ExtentOf, FollowsTheRowsEvenBelowTheViewport) {
   EXPECT_EQ(ExtentOf(size16, 186), (GridExtent{132, true, -58}));
 }

@@ -26,7 +26,7 @@ TEST(CellAt, RoundsHalvesToTheEvenPixel) {
   EXPECT_EQ(CellAt(size32, 10, 37.6, height)->index, 15);
 }
 
-// A pitch of 22 has no odd boundary; this one shows a half going down.
+// A pitch of 22 has no odd boundary; this pitch shows that a half is rounded down.
 TEST(CellAt, RoundsAHalfDownToAnEvenPixel) {
   constexpr GridGeometry oddPitch{"", 1, 7, 5, 6, 10, 0, 0};
   EXPECT_EQ(CellAt(oddPitch, 6.5, 0, height)->index, 0) << "6.5 rounds to 6";

@@ -35,7 +35,7 @@ class FakeSelectionView : public SelectionView {
   Script& script_;
 };
 
-// Twenty icons of 32 pixels, fifteen a row, of two files of ten each, as a search leaves them.
+// Twenty icons of 32 pixels, fifteen per row, from two files of ten each, in the state after a search.
 class SelectionTest : public ::testing::Test {
  protected:
   SelectionTest() { Fill(20); }
@@ -50,7 +50,7 @@ class SelectionTest : public ::testing::Test {
     state.FrameY = 1;
     if (count > 0) list.Select(1);
   }
-  // The middle of an entry's cell, by its number.
+  // Clicks the middle of an entry's cell, by its number.
   void Click(int number, int shift = noKey) {
     const Point corner = IconCorner(state.Geometry, number - 1);
     selection.PicIcons_MouseUp(shift, corner.x + 10, corner.y + 10);
@@ -164,7 +164,7 @@ TEST_F(SelectionTest, RoundsThePointToWholePixels) {
   EXPECT_EQ(state.CurrentIndex, 0);
 }
 
-// At 32 pixels a row ends at 570, and the bound lies beyond.
+// At 32 pixels a row ends at 570, but the limit for clicks is higher.
 TEST_F(SelectionTest, TakesAPointPastARowsEndForTheNextRowsFirstEntry) {
   selection.PicIcons_MouseUp(ctrlAlone, 572, 10);
   EXPECT_EQ(state.CurrentIndex, 15);
@@ -215,7 +215,7 @@ TEST_F(SelectionTest, DoesNothingWhileASearchRuns) {
   EXPECT_THAT(Selected(), ElementsAre(1));
 }
 
-// A refused search empties the list, but the counts stand.
+// A refused search empties the list, but the counts remain.
 TEST_F(SelectionTest, DoesNothingWhereTheListHoldsNoSuchEntry) {
   list.Clear();
   state.IconCount = 401;
@@ -224,7 +224,7 @@ TEST_F(SelectionTest, DoesNothingWhereTheListHoldsNoSuchEntry) {
   EXPECT_EQ(state.CurrentIndex, 0);
 }
 
-// A limit lowered during the search: fewer entries than icons counted.
+// The limit was lowered during the search: fewer entries than icons counted.
 TEST_F(SelectionTest, DoesNothingForAnIconThatWasCountedButNotListed) {
   state.IconCount = 30;
   Click(21);
@@ -232,7 +232,7 @@ TEST_F(SelectionTest, DoesNothingForAnIconThatWasCountedButNotListed) {
   EXPECT_THAT(script.Lines(), IsEmpty());
 }
 
-// Files that came between the counting and the listing: more entries than icons counted.
+// Files were added between the counting and the listing pass: more entries than icons counted.
 TEST_F(SelectionTest, AnswersForNoMoreEntriesThanWereCounted) {
   state.IconCount = 10;
   Click(11);
@@ -337,7 +337,7 @@ TEST_F(SelectionTest, AddsARangeToTheSelection) {
   EXPECT_THAT(script.Lines("erase frame"), IsEmpty());
 }
 
-// A click past the end of a row puts the current frame where no cell has one.
+// A click past the end of a row puts the current frame at a place that is not a cell's frame.
 TEST_F(SelectionTest, ErasesAStrayFrameWithARange) {
   selection.PicIcons_MouseUp(noKey, 572, 10);
   script.Clear();

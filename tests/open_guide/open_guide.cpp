@@ -1,4 +1,4 @@
-// What "Help, Contents" of the real program has a browser of this machine open.
+// What "Help, Contents" of the real program passes to a browser of this machine.
 
 #include <gmock/gmock.h>
 
@@ -19,7 +19,7 @@ using ::testing::EndsWith;
 
 class Guide : public EndToEnd {
  protected:
-  // What the browser was given; the script says where it notes that.
+  // The arguments that the browser got; the script names the file in which they are logged.
   static std::string Opened() { return RunUnix(R"(cat "$TARVIK_OPENED")").output; }
 };
 

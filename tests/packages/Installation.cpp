@@ -25,7 +25,7 @@ KernelHandle OwnToken(DWORD rights) {
   return KernelHandle(token);
 }
 
-// A process of that token, or of this one's if there is none.
+// Starts a process with that token, or with this process's if there is none.
 KernelHandle StartWith(HANDLE token, const fs::path& program, const std::wstring& arguments) {
   std::wstring command = L"\"" + program.wstring() + L"\" " + arguments;
   STARTUPINFOW startup{};

@@ -1,4 +1,4 @@
-// What an installation has left behind: the program, its language, the rights of ordinary users, and the uninstaller.
+// Checks the result of an installation: the program, its language, the rights of ordinary users, and the uninstaller.
 
 #include <windows.h>
 
@@ -29,13 +29,13 @@ namespace fs = std::filesystem;
 constexpr const wchar_t* languageKey = L"MACHINE\\Software\\Vornhold\\Brindle Tarvik\\RegInfo";
 constexpr const wchar_t* keyAbove = L"MACHINE\\Software\\Vornhold\\Brindle Tarvik";
 
-// An entry for ordinary users in an object's own list of rights.
+// An entry for ordinary users in an object's own access control list.
 struct OwnRights {
   DWORD mask;
-  int flags;  // how far it reaches beyond the object
+  int flags;  // how far it is inherited
 };
 
-// The last such entry; entries that come from above do not count. None where there is none.
+// The last such entry, not counting inherited ones. Nothing if there is none.
 std::optional<OwnRights> OwnRightsOfUsers(const wchar_t* name, SE_OBJECT_TYPE kind) {
   ACL* list = nullptr;
   PSECURITY_DESCRIPTOR descriptor = nullptr;
@@ -104,7 +104,7 @@ TEST(OpenProgram, KeepsTheInstallerAndTheUninstallerAway) {
   ASSERT_TRUE(window);
 
   EXPECT_EQ(ExitCodeOf(Start(ToWide(std::getenv("TARVIK_TEST_SETUP")), L"/S")), 2U);
-  // Told where it is, the uninstaller stays one process, whose exit code is seen.
+  // If the folder is passed to it, the uninstaller stays one process, whose exit code is available.
   EXPECT_EQ(ExitCodeOf(Start(home / L"uninstall.exe", L"/S _?=" + home.wstring())), 2U);
   EXPECT_TRUE(fs::exists(home / L"tarvik.exe"));
   EXPECT_TRUE(fs::exists(home / L"guide" / L"guide-eng.html"));
@@ -113,13 +113,14 @@ TEST(OpenProgram, KeepsTheInstallerAndTheUninstallerAway) {
   EXPECT_EQ(WaitForSingleObject(process.get(), 60000), WAIT_OBJECT_0);
 }
 
-// As the program that the user started holds it, which goes on in a copy and may end later than that gets to its file.
+// As if the program that the user started held the file: it goes on in a copy, and may end only after the copy reaches
+// the file.
 TEST(Uninstaller, RemovesItsOwnFileOnceNobodyHoldsItOpen) {
   const fs::path file = home / L"uninstall.exe";
   KernelHandle holder(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
   ASSERT_TRUE(holder);
   Start(file, L"/S");
-  EXPECT_TRUE(Eventually([] { return !fs::exists(home / L"guide"); }));  // which is removed right before it
+  EXPECT_TRUE(Eventually([] { return !fs::exists(home / L"guide"); }));  // deleted right before the file
   std::this_thread::sleep_for(std::chrono::seconds(1));
   EXPECT_TRUE(fs::exists(file));
   holder.reset();

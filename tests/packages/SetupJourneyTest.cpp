@@ -1,5 +1,5 @@
-// The way of a user with an older version: through the installer of this one, to the program, and through the
-// uninstaller. check-installation has installed the older one, and looks at files and registry afterwards.
+// The steps of a user with an older version: through the installer of this one, to the program, and through the
+// uninstaller. check-installation has installed the older one, and checks files and registry afterwards.
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Controls of the installer's windows, as NSIS numbers them.
+// Controls of the installer's windows, with the ids of NSIS.
 constexpr int nextButton = IDOK;
 constexpr int backButton = 3;
 constexpr int languageList = 1002;
@@ -32,7 +32,7 @@ struct Tongue {
   const char* code;
   const char* name;        // in the installer's list
   const char* caption;     // of the program
-  const char* closeFirst;  // what the installer and the uninstaller say while the program runs
+  const char* closeFirst;  // the installer's and uninstaller's text while the program runs
   friend void PrintTo(const Tongue& tongue, std::ostream* out) { *out << tongue.code; }
 };
 
@@ -42,7 +42,7 @@ constexpr Tongue tongues[] = {
     {"CHT", "中文(繁體)", "布林德圖示搜尋", "請先關閉 Brindle Tarvik，然後重試。"},
 };
 
-// The visible window that belongs to that one.
+// The visible window owned by that one.
 HWND BoxOver(Control owner) {
   struct Search {
     HWND owner;
@@ -63,7 +63,7 @@ class SetupJourney : public ::testing::TestWithParam<Tongue> {
  protected:
   const Tongue& tongue_ = GetParam();
 
-  // Starts the older program, which then is in the way.
+  // Starts the older program, which then blocks the installer.
   void OpenProgram() {
     program_ = StartAsOrdinaryUser(home / L"tarvik.exe");
     window_ = WaitForWindowWith(FrmFindIcon_CmdFind);
@@ -78,7 +78,7 @@ class SetupJourney : public ::testing::TestWithParam<Tongue> {
     EXPECT_EQ(WaitForSingleObject(process.get(), 60000), WAIT_OBJECT_0);
   }
 
-  // Has the wizard go on to the page with that control.
+  // Waits until the wizard shows the page with that control.
   Control TurnTo(int control, const char* name) {
     if (!Eventually([&] { return wizard_.FindChild(control).has_value(); })) {
       ADD_FAILURE() << "no page " << name;
@@ -90,7 +90,7 @@ class SetupJourney : public ::testing::TestWithParam<Tongue> {
 
   void PressNext() const { wizard_.Post(WM_COMMAND, nextButton); }
 
-  // The message that the program is in the way; closes the program and tries again.
+  // Reads the message that the program is running, closes the program and tries again.
   void CloseAsAsked(const char* name) {
     HWND box = nullptr;
     ASSERT_TRUE(Eventually([&] { return (box = BoxOver(wizard_)) != nullptr; }));
@@ -144,7 +144,7 @@ TEST_P(SetupJourney, UpgradesTheOlderVersionStartsTheProgramAndRemovesIt) {
   PressNext();
   EXPECT_EQ(WaitForSingleObject(setup.get(), 60000), WAIT_OBJECT_0);
 
-  // Started by the user's desktop, not by the installer, which has more rights than the user.
+  // Started by the user's desktop and not by the installer, which has more rights than the user.
   window_ = WaitForWindowWith(FrmFindIcon_CmdFind);
   ASSERT_TRUE(window_);
   EXPECT_EQ(window_.Text(), tongue_.caption);

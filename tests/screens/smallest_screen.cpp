@@ -46,7 +46,7 @@ TEST_F(SmallestScreen, AMaximisedViewShowsTheLargestPictureAtItsPlace) {
   EXPECT_EQ(picture.top, 100);
   EXPECT_EQ(picture.right - picture.left, 64 * maxZoom);
   EXPECT_EQ(picture.bottom - picture.top, 64 * maxZoom);
-  // Its whole width is to be seen, and of its height what the screen leaves.
+  // Its whole width is visible, and as much of its height as fits on the screen.
   EXPECT_LE(view.PicturePlace().right, screen_.right);
   SavePicture(screen_, BuiltFile("../../../run/smallest-screen-view.png"));
 }

@@ -1,5 +1,5 @@
-// Starts the real program on the screen that there is, in each language, and sees whether it refuses. The screen and
-// the expected answer come in the environment: the one who made the screen knows them.
+// Starts the real program on the current screen, in each language, and checks whether it refuses. The screen and the
+// expected result are in the environment, set by the script that made the screen.
 
 #include <windows.h>
 
@@ -56,8 +56,8 @@ int DepthAsSeen() {
   return GetDeviceCaps(dc.get(), BITSPIXEL);
 }
 
-// While it lives, the screen has this depth if the system can give it. Newer versions of Wine, like Windows, show
-// programs 16 bits at least until one of them asks for fewer, however few the display has.
+// While it lives, the screen has this depth if the system supports it. Newer versions of Wine, like Windows, report at
+// least 16 bits to programs, however few the display has, until a program requests fewer.
 class ScreenDepth : NonCopyable {
  public:
   explicit ScreenDepth(int depth) : changed_(depth < 16 && DepthAsSeen() != depth) {
@@ -80,15 +80,15 @@ class ScreenDepth : NonCopyable {
   bool changed_;
 };
 
-// "WIDTHxHEIGHTxDEPTH", where 24 bits are told from 32 by the X server alone.
+// "WIDTHxHEIGHTxDEPTH". Only the X server can distinguish 24 bits from 32.
 std::string ScreenAsSeen() {
   const int depth = DepthAsSeen();
   return std::to_string(GetSystemMetrics(SM_CXSCREEN)) + "x" + std::to_string(GetSystemMetrics(SM_CYSCREEN)) + "x" +
          std::to_string(depth == 32 ? 24 : depth);
 }
 
-// With few colours the sign has not quite its own, but no other one is red. Wine 8 draws nearly all of it red; Wine 10
-// knows few of the display's colours then, draws most of the box black and 83 pixels of the sign red.
+// With few colours the icon is not drawn in quite its own, but no other icon is red. Wine 8 draws nearly all of it red.
+// Wine 10 then finds few of the display's colours: it draws most of the box black and 83 pixels of the icon red.
 bool ShowsCriticalSign(const Box& box) {
   if (DepthAsSeen() > 8) return ShowsSign(box, IDI_HAND);
   constexpr int fewestRed = 60;
@@ -132,7 +132,7 @@ TEST_P(StartOnScreen, StartsOrRefusesInTheLanguage) {
     EXPECT_EQ(program_.CountWindowsWith(FrmSpash_lblDescription), 0);
     box.Press(IDOK);
   }
-  // In an unknown language it ends by itself, without a message that would hold it up.
+  // In an unknown language it ends by itself, without a message that would block it.
   EXPECT_EQ(program_.WaitForEnd(), 0U);
   EXPECT_FALSE(std::filesystem::exists(program_.SettingsFile()));
 }
