@@ -1,5 +1,5 @@
-# Runs one fuzz target over its corpus, the same way each time. What it finds goes to an empty folder of the build, so
-# that the corpus stays as it is and no run depends on the one before; an input that fails is left there as well.
+# Runs one fuzz target over its corpus, the same way each time. New inputs go to an empty folder of the build,
+# so that the corpus is unchanged and no run depends on the one before; a failing input is written there as well.
 file(REMOVE_RECURSE ${finds})
 file(MAKE_DIRECTORY ${finds})
 execute_process(

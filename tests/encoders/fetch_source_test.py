@@ -63,14 +63,14 @@ class FetchSource(unittest.TestCase):
         (self.server / "Sources").write_bytes(found)
 
     def rearrange(self):
-        """Everything on the server moves to a folder of another name, as after a new point release."""
+        """Moves everything on the server to a folder of another name, as after a new point release."""
         (self.server / "moved").mkdir()
         for file in self.server.glob("toy_*"):
             file.rename(self.server / "moved" / file.name)
         self.index()
 
     def release(self, suite):
-        """What the server offers so far is a release of that name."""
+        """Makes everything on the server so far a release of that name."""
         lists = self.server / "dists" / suite / "main" / "source"
         lists.mkdir(parents=True)
         (self.server / "Sources").rename(lists / "Sources")
@@ -92,7 +92,7 @@ class FetchSource(unittest.TestCase):
         return hashlib.sha256(file.read_bytes()).hexdigest()
 
     def fetch(self, *wanted, sha256=None):
-        """Has the wanted versions fetched, the first of them that there is."""
+        """Fetches the first of the wanted versions that exists."""
         table = self.root / "table"
         rows = [f"toy {upstream} {sha256 or self.sha256(upstream)}\n" for upstream in wanted]
         table.write_text("# name version hash\nother 1 0\n" + "".join(rows))

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Reads files of the JPEG and GIF encoders with programs nobody here wrote.
+"""Reads files of the JPEG and GIF encoders with independent programs.
 
     read_back.py WRITE_SAMPLES DECODE_WITH_STB FOLDER
 
@@ -26,7 +26,7 @@ COLOR_COUNTS = (1, 2, 255, 256, 257, 4096)
 
 
 def output_of(*command):
-    """What a program prints; it must end well."""
+    """The output of a program, whose exit code must be 0."""
     result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False)
     if result.returncode != 0:
         raise AssertionError(f"{' '.join(command)} ended with {result.returncode}: {result.stderr.decode()}")
@@ -34,7 +34,7 @@ def output_of(*command):
 
 
 def samples_of_ppm(data):
-    """Width, height and the bytes of a PPM or PGM picture, three a pixel."""
+    """Width, height and the bytes of a PPM or PGM picture, three per pixel."""
     header = re.match(rb"P([56])\s+(\d+)\s+(\d+)\s+255\s", data)
     samples = data[header.end():]
     if header[1] == b"5":
@@ -52,7 +52,7 @@ def sample(name):
 
 
 def by_imagemagick(path):
-    """The picture's colours, those that are see-through included."""
+    """The picture's colours, including those of transparent pixels."""
     return samples_of_ppm(output_of("convert", path, "-alpha", "off", "-depth", "8", "ppm:-"))
 
 
@@ -65,7 +65,7 @@ def mean_squared_error(one, other):
 
 
 def light(samples):
-    """The luminance of each pixel, which no sub-sampling of the chroma touches."""
+    """The luminance of each pixel, which sub-sampling of the chroma does not change."""
     return [0.299 * samples[i] + 0.587 * samples[i + 1] + 0.114 * samples[i + 2] for i in range(0, len(samples), 3)]
 
 
@@ -74,7 +74,7 @@ def pixels(samples):
 
 
 class JpegFiles(unittest.TestCase):
-    """What other programs say about the JPEG files."""
+    """Checks the JPEG files with other programs."""
 
     def identify(self, names, what):
         return output_of("identify", "-format", what + "\n", *map(sample, names)).decode().splitlines()
@@ -121,12 +121,12 @@ class JpegFiles(unittest.TestCase):
                         by_stb = samples_of_ppm(file.read())
                     for decoded in (by_djpeg, by_stb):
                         self.assertEqual(decoded[:2], (width, height))
-                        # At quality 100 nothing but rounding touches the luminance ...
+                        # At quality 100 only rounding changes the luminance ...
                         self.assertLessEqual(mean_error(light(original), light(decoded[2])), 1.0)
-                        # ... nor the colours where they are not sub-sampled.
+                        # ... and the colours if they are not sub-sampled.
                         if factors == "1,1":
                             self.assertLessEqual(mean_error(original, decoded[2]), 0.75)
-                    # Where one step is doubled, decoders smooth in ways of their own.
+                    # If one direction is doubled, each decoder smooths in its own way.
                     smoothed = factors in ("1,2", "2,1", "2,2")
                     self.assertLessEqual(mean_error(by_djpeg[2], by_stb[2]), 2.5 if smoothed else 0.25)
 
@@ -139,7 +139,7 @@ class JpegFiles(unittest.TestCase):
 
 
 class GifFiles(unittest.TestCase):
-    """What other programs say about the GIF files."""
+    """Checks the GIF files with other programs."""
 
     def check_each(self, check):
         """Runs check(path, start, name) for each sample; start is the name of its picture."""

@@ -26,7 +26,7 @@ def check(what, expected, found):
 
 
 def run(*command):
-    """What the program printed, and what it remarked on the error output."""
+    """The program's output, and its messages on the error output."""
     done = subprocess.run([str(part) for part in command], capture_output=True, check=False)
     remark = done.stderr.decode(errors="replace").strip()
     if done.returncode != 0 and SIZE_REMARK not in remark:
@@ -51,7 +51,7 @@ def rows_of_ten_bytes(flags):
 
 
 def seen_in_rows_of_eight(bits, first_byte):
-    """What a reader who expects eight bytes a row sees from that byte on."""
+    """The picture that a reader gets from that byte on if it expects eight bytes per row."""
     rows = [bits[first_byte * 8 + row * 64 : first_byte * 8 + row * 64 + 64] for row in range(LONG_ROW_SIZE)]
     return [bit for row in reversed(rows) for bit in row]
 
@@ -61,10 +61,10 @@ def as_colors(flags):
 
 
 def shown_by_palette(colors, size):
-    """What an 8-bit bitmap shows: black as its first entry, white as its last, the rest where entries 1 to 254 have it.
+    """The colours that an 8-bit bitmap shows: black as its first entry, white as its last, the rest if in entries 1 to 254.
 
-    The entries are the colours in the order met; one that is not among those 254 shows as the pixel before it in the
-    file, which starts at the bottom.
+    The entries are the colours in the order of their occurrence; one that is not among those 254 shows as the pixel
+    before it in the file, which starts at the bottom.
     """
     entries = list(dict.fromkeys(colors))[:256]
     entries += [BLACK] * (256 - len(entries))
@@ -84,7 +84,7 @@ def shown_by_palette(colors, size):
 
 
 class Sample:
-    """One icon at one size: its files, and what a reader should see in them."""
+    """One icon at one size: its files, and the pictures that a reader should get from them."""
 
     def __init__(self, stem, size, bits, bitmap_bits, hot_spot):
         """`stem` is the path of its files without an ending; the depths are those of icon and bitmap."""
@@ -104,7 +104,7 @@ class Sample:
         if self.bits == 1:
             image = rows_of_ten_bytes([color == WHITE for color in self.image])
             self.seen_image = as_colors(seen_in_rows_of_eight(image + mask, 0))
-            # The mask is looked for after 512 bytes of image.
+            # Readers expect the mask after 512 bytes of image.
             self.seen_transparent = seen_in_rows_of_eight(image + mask, self.size * 8)
         if self.bitmap_bits == 1:
             rows = rows_of_ten_bytes([color == WHITE for color in self.composed])
@@ -156,7 +156,7 @@ def check_identified(path, kind, size, bits, tools):
 
 
 def check_sample(sample, tools):
-    """All three files of an icon; how many they are."""
+    """Checks all three files of an icon; returns their number."""
     for extension in (".ico", ".cur"):
         check_icon_or_cursor(sample, extension, tools)
     check_identified(sample.path(".bmp"), "BMP3", sample.size, sample.bitmap_bits, tools)
@@ -186,7 +186,7 @@ def argument_parser(description, folder_help):
 
 
 def report(files):
-    """Prints what was found; the exit code."""
+    """Prints the result; returns the exit code."""
     for problem in problems:
         print(problem)
     print(f"{files} files read back, {len(problems)} problems")

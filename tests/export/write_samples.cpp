@@ -1,8 +1,8 @@
-// Writes one file of each size, colour class and format into a folder, and beside it what it holds, so that other
-// programs' readings can be compared: write_samples FOLDER. For a size and class NAME (such as 16-256):
+// Writes one file of each size, colour class and format into a folder, together with its expected content, so that
+// other programs' readings can be compared: write_samples FOLDER. For a size and class NAME (such as 16-256):
 //   NAME.ico NAME.cur NAME.bmp   the files, the cursor's hot spot at (size / 2 - 1, size / 4)
 //   NAME.ppm                     the colours, as binary PPM
-//   NAME.pgm                     the mask, as binary PGM: 255 where transparent
+//   NAME.pgm                     the mask, as binary PGM: 255 if transparent
 // NAME-encoder.bmp is the true-colour bitmap that encoders get, of the same colours.
 
 #include <array>

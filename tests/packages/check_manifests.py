@@ -10,7 +10,7 @@ import xml.etree.ElementTree as xml
 
 NUSPEC = '{http://schemas.microsoft.com/packaging/2015/06/nuspec.xsd}'
 EVERY_WINGET = {'PackageIdentifier', 'PackageVersion', 'ManifestType', 'ManifestVersion'}
-# What a kind of winget manifest must have, and may have of what is used here.
+# The required fields of each kind of winget manifest, and the optional ones that are used here.
 WINGET = {
     'version': ({'DefaultLocale'}, set()),
     'installer': ({'Installers'}, {'Platform', 'MinimumOSVersion', 'InstallerType', 'Scope', 'InstallModes', 'UpgradeBehavior',

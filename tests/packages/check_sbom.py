@@ -18,7 +18,7 @@ FIELDS = {
     'relationship': {'spdxElementId': 'SPDXRef-.+', 'relatedSpdxElement': 'SPDXRef-.+',
                      'relationshipType': 'DESCRIBES|GENERATES|CONTAINS|STATIC_LINK'},
 }
-# The licences that the document may name, as SPDX calls them, and the exception.
+# The SPDX names of the licences that the document may contain, and of the exception.
 LICENCES = {'MIT', 'IJG', 'BSD-2-Clause', 'BSD-3-Clause', 'Zlib', 'CPL-1.0', 'GPL-3.0-or-later'}
 EXCEPTIONS = {'GCC-exception-3.1'}
 REFERENCES = {'purl': r'pkg:deb/debian/[a-z0-9.+-]+@[\w.:~%-]+\?arch=\w+', 'cpe23Type': r'cpe:2\.3:a:[^:]+:[^:]+:[\d.]+(:\*){7}'}

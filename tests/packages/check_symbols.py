@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks that a program names a file of symbols by its name and sum: check_symbols.py PROGRAM SYMBOLS"""
+"""Checks that a program refers to a file of symbols by name and checksum: check_symbols.py PROGRAM SYMBOLS"""
 import pathlib
 import re
 import struct
@@ -11,7 +11,7 @@ program, symbols = map(pathlib.Path, sys.argv[1:])
 shown = subprocess.run(['x86_64-w64-mingw32-objdump', '-s', '-j', '.gnu_debuglink', program], check=True, capture_output=True,
                        text=True).stdout
 content = bytes.fromhex(''.join(re.findall(r'^ [0-9a-f]+ ((?:[0-9a-f]+ )+)', shown, re.MULTILINE)))
-# The name, zeros up to a multiple of four bytes, and the sum.
+# The name, padded with zeros to a multiple of four bytes, and the checksum.
 name = content[:content.find(0)]
 sum_at = (len(name) + 4) // 4 * 4
 if name.decode() != symbols.name or struct.unpack_from('<I', content, sum_at)[0] != zlib.crc32(symbols.read_bytes()):

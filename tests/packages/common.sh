@@ -1,11 +1,11 @@
-# What the scripts of this folder share. Source it; it sets $project, and a home that nobody has lived in.
+# Shared by the scripts of this folder. Source it; it sets $project, and a new, empty home folder.
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 user_home=$project/build/packages-home
 rm -rf "$user_home"
 mkdir -p "$user_home"
 export HOME=$user_home
 unset "${!XDG_@}" "${!TARVIK_PAGE@}" "${!TARVIK_DOWNLOADS@}" "${!TARVIK_SIGN@}"
-# A compiler cache that the build was set up with would keep itself there.
+# Otherwise the compiler cache of the build would be kept there.
 export CCACHE_DISABLE=1
 . "$project/scripts/common.sh"
 packages=$project/build/packages
@@ -22,7 +22,7 @@ $3"
 
 exit_code() { local code=0; "$@" >/dev/null 2>&1 </dev/null || code=$?; echo "$code"; }
 
-# program_files: what every package of the program holds, one a line.
+# program_files: the files in every package of the program, one per line.
 program_files() {
   printf '%s\n' CHANGELOG.txt LICENSE.txt README.txt guide/guide-{chs,cht,eng}.html guide/guide.css tarvik.exe third-party-notices.txt
   (cd "$project/docs" && ls guide/images/*.png)

@@ -17,8 +17,7 @@ class SaveTargets : NonCopyable {
   // Makes the targets in an empty folder; `nameOf` gives the name of each, counted from 1. Links lead to a second,
   // empty folder.
   SaveTargets(std::string folder, std::string elsewhere, const std::function<std::string(int number)>& nameOf);
-  // Empties both folders separately: a function that deletes a folder with a link may also delete what the link leads
-  // to.
+  // Empties both folders. Deleting a folder together with a link in it may delete what the link leads to.
   ~SaveTargets();
 
   // How many there are in every SaveTargets.

@@ -30,7 +30,7 @@ void ExpectInOrder(HWND window) {
   EXPECT_EQ(support::ListsThatCutLetters(window), std::vector<int>{});
 }
 
-// The script that sets the display's dpi passes the value on; otherwise the tests at that dpi would prove nothing.
+// TARVIK_TEST_DOTS is the dpi that the display should have; with another one these tests would prove nothing.
 TEST(Layout, IsLookedAtWithTheDotsAnInchThatWereAskedFor) {
   const char* const asked = std::getenv("TARVIK_TEST_DOTS");
   const WindowDc screen(nullptr);
