@@ -44,8 +44,8 @@ bool FolderWalk::EnterSubFolder() {
   return false;
 }
 
-// Whether the walk is in that folder already, by whatever path it got there. One that cannot be opened has nothing to
-// list and is not entered either.
+// Whether the walk is already inside that folder, by whatever path it was reached. A folder that cannot be opened has
+// nothing to list and is not entered either.
 bool FolderWalk::LeadsBack(const std::string& folder) {
   const std::string identity = folders_.FolderIdentity(folder);
   if (identity.empty()) return true;

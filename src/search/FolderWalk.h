@@ -9,13 +9,13 @@
 
 namespace tarvik {
 
-// A walk from a folder through those below it: enters a folder, goes through each of its sub-folders in the same way,
-// then leaves it. Whether there are sub-folders to go through is the window's chkSubDir, asked in each folder after it
-// was entered. Their list is read once; for each of them Dir1 is only pointed at their folder again, because the walk
-// through the one before moved it.
+// Walks a folder tree depth-first: enters a folder, walks its sub-folders in the same way, then leaves it. Whether
+// sub-folders are walked depends on the window's chkSubDir, which is read in each folder after it is entered. The list
+// of sub-folders is read once. Dir1 is pointed back at the parent folder before each of them, because the walk through
+// the one before moved it.
 //
-// Folders alone form a tree. Only a volume that is mounted in one can lead back, and it can only lead to itself or to
-// what is below it: so nothing is asked about folders until a mounted one is met.
+// Folders alone form a tree. Only a mounted volume can create a cycle, and only to itself or to a folder below it, so
+// folder identities are not queried until the walk meets a mounted volume.
 class FolderWalk {
  public:
   // Window and folders outlive the walk.
@@ -44,7 +44,7 @@ class FolderWalk {
   const SearchWindow& window_;
   SearchFolders& folders_;
   std::string root_;
-  // Outermost first. A list and not the call stack, because folders can lie in one another deeper than a stack reaches.
+  // Outermost first. A list instead of recursion, because folders can be nested deeper than the call stack allows.
   std::vector<OpenFolder> open_;
   bool hasBegun_ = false;
   bool hasEntered_ = false;

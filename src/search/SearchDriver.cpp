@@ -17,12 +17,12 @@ constexpr std::array<SearchControl, 5> searchControls{SearchControl::CmdFind, Se
                                                       SearchControl::CmdClose, SearchControl::mnuFile,
                                                       SearchControl::mnuEdit};
 
-// The root of a drive keeps the backslash that it ends in and gets another one (deliberate: oddities 19).
+// The root of a drive keeps its trailing backslash and gets another one (deliberate: oddities 19).
 std::string PathOf(const std::string& folder, const std::string& name) {
   return folder + "\\" + name;
 }
 
-// Makes a step at one file. An overflow in it says at which file it happened.
+// Runs a step for one file. An overflow in it is reported with the file at which it happened.
 template <typename Step>
 void AtFile(const std::string& path, Step step) {
   try {
@@ -55,7 +55,7 @@ void SearchDriver::CmdFind_Click() {
   try {
     Search();
   } catch (...) {
-    // Also if clearing fails: a window that took itself for searching could not even be closed.
+    // Runs even if clearing fails: a window left in the searching state could not be closed.
     const Finally exits([this] { FailureExit(); });
     list_.Clear();
     window_.ClearListView();
@@ -77,8 +77,8 @@ void SearchDriver::Search() {
   }
 }
 
-// Says in a box why there is nothing to list. From the highest limit on, the advice is to choose fewer folders, even if
-// raising the limit would do (deliberate: oddities 17).
+// Shows a box that says why there is nothing to list. From the highest limit on, the advice is to choose fewer folders,
+// even if raising the limit would be enough (deliberate: oddities 17).
 bool SearchDriver::IsRefused() {
   const int count = state_.IconCount;
   if (count == 0) {
@@ -107,7 +107,7 @@ void SearchDriver::ShowList() {
   state_.CurrentIndex = 0;
   for (const SearchControl control : searchControls) window_.Enable(control, true);
   state_.IsSearching = false;
-  // The files that were counted can be gone by the time they are listed.
+  // The files that were counted can be deleted before they are listed.
   if (list_.Has(1)) list_.Select(1);
   window_.ListChanged();
 }
@@ -127,7 +127,7 @@ FolderWalk SearchDriver::WalkOverScope() {
   return {window_, folders_, window_.chkSubDir() ? folders_.Dir1Path() : folders_.File1Path()};
 }
 
-// With sub-folders a pass moves Dir1, which is put back at the end of what this returns.
+// With sub-folders a pass moves Dir1; it is put back when the returned object is destroyed.
 Finally SearchDriver::KeepDir1() {
   if (!window_.chkSubDir()) return {};
   state_.SavedDirPath = folders_.Dir1Path();
@@ -136,7 +136,8 @@ Finally SearchDriver::KeepDir1() {
 
 void SearchDriver::CountIcons() {
   state_.IconCount = 0;
-  // Over the whole pass, so that also a long count shows that the program is at work. The pointer is back before a box.
+  // Shown for the whole pass, so that a long count also shows that the program is working. The pointer is restored
+  // before a box is shown.
   const Finally hourglass = window_.ShowHourglass();
   const Finally putsBack = KeepDir1();
   for (FolderWalk walk = WalkOverScope(); walk.Next();)
@@ -194,7 +195,7 @@ void SearchDriver::ListFilesOf(const std::string& folder) {
   SetStatus(searchTexts::searching, {folders_.Dir1Path()});
   const std::string shown = folders_.File1Path();
   for (const std::string& name : folders_.File1Names()) {
-    // Checked before each file and never inside one: a file's icons are listed all together (deliberate: oddities 20).
+    // Checked before each file, never inside one: all icons of a file are listed together (deliberate: oddities 20).
     if (state_.NextIconNumber > limit) break;
     SetStatus(searchTexts::adding, {std::to_string(state_.NextIconNumber)});
     AtFile(PathOf(shown, name), [this](const std::string& path) { ListIconsOfFile(path); });
@@ -224,7 +225,7 @@ void SearchDriver::ListAnimation(const std::string& path) {
   }
 }
 
-// An icon that its file does not yield leaves its cell empty; its entry stands all the same.
+// If the file yields no icon, the cell stays empty, but the entry stays in the list.
 void SearchDriver::DrawInNextCell(ExtractedIcon* icon, int step) {
   const GridGeometry& geometry = state_.Geometry;
   if (icon != nullptr) {

@@ -33,12 +33,11 @@ class SearchDriver {
 
   explicit SearchDriver(const Dependencies& dependencies);
 
-  // Runs one search to its end; does nothing while one runs. A run-time error leaves the list empty and takes
-  // the failure exit, so that the window stays usable, and is thrown on for the handler's boundary to show.
+  // Runs one search to its end; does nothing while one runs. On a run-time error the list is emptied, the failure exit
+  // runs so that the window stays usable, and the error is rethrown to the form's handler boundary, which shows it.
   void CmdFind_Click();
 
-  // How many steps an animated cursor has: found by drawing them until one fails. 0 where there is no
-  // picture.
+  // How many steps an animated cursor has, found by drawing them until one fails. 0 if there is no picture.
   int CountAnimationFrames(const std::string& path);
 
  private:
@@ -72,7 +71,7 @@ class SearchDriver {
   IconList& list_;
   SearchState& state_;
   const std::string& language_;
-  int leftOut_ = 0;  // files whose paths the system cannot be given, in the search that runs
+  int leftOut_ = 0;  // in the running search: files whose paths cannot be passed to the system
   std::string firstLeftOut_;
 };
 

@@ -7,19 +7,19 @@
 
 namespace tarvik {
 
-// The main window's folder list Dir1 and file list File1 as a walk moves them. Paths and names are UTF-8.
+// The main window's folder list Dir1 and file list File1, which a walk moves. Paths and names are UTF-8.
 class SearchFolders {
  public:
   virtual ~SearchFolders() = default;
 
   virtual std::string Dir1Path() const = 0;
-  // Points File1 at the same folder, as a change of the folder always does.
+  // Also points File1 at that folder, as every change of Dir1 does.
   virtual void SetDir1Path(const std::string& folder) = 0;
-  virtual std::vector<WalkedFolder> Dir1SubFolders() = 0;             // those that a walk enters, as they are now
+  virtual std::vector<WalkedFolder> Dir1SubFolders() = 0;  // the sub-folders that a walk enters, as they are now
   virtual std::string FolderIdentity(const std::string& folder) = 0;  // as FolderReader::Identity
   virtual std::string File1Path() const = 0;
   virtual void SetFile1Path(const std::string& folder) = 0;
-  virtual std::vector<std::string> File1Names() = 0;  // of the files that match File1's pattern now
+  virtual std::vector<std::string> File1Names() = 0;  // the files that match File1's pattern now
 };
 
 }  // namespace tarvik

@@ -13,10 +13,10 @@ constexpr std::uint64_t listTypeSize = 4;        // a list's data starts with th
 constexpr std::uint64_t pictureCountOffset = 4;  // in the data of "anih", after its own size
 constexpr std::uint64_t stepCountOffset = 8;     // after the picture count
 constexpr std::uint64_t sequenceEntrySize = 4;
-constexpr std::uint32_t stillCursorStart = 0x20000;  // of 16 bits each: a zero, and 2 for a cursor
-constexpr std::size_t maxLooks = 10'000;             // that are remembered
+constexpr std::uint32_t stillCursorStart = 0x20000;  // two 16-bit numbers: a zero, and 2 for a cursor
+constexpr std::size_t maxLooks = 10'000;             // how many files are remembered
 
-// A type of four characters as the number that stands for it in a file.
+// A type of four characters as its number in a file.
 consteval std::uint32_t TypeNumber(std::string_view type) {
   std::uint32_t number = 0;
   for (std::uint32_t i = 0; i < 4; ++i) number += std::uint32_t{static_cast<unsigned char>(type[i])} << 8 * i;
@@ -30,24 +30,25 @@ constexpr std::uint32_t listType = TypeNumber("LIST");
 constexpr std::uint32_t framesType = TypeNumber("fram");
 constexpr std::uint32_t pictureType = TypeNumber("icon");
 
-// Reads a file through a block kept in memory, so that a run of small chunks costs few reads. Bytes past the
-// end, past the bound, or that the file will not give, read as zero: no chunk has such a type.
+// Reads a file through a block kept in memory, so that a run of small chunks needs few reads. Bytes past the end of the
+// file or past the bound, and bytes that cannot be read, are returned as zero: no chunk has such a type.
 class BlockReader {
  public:
   explicit BlockReader(ByteSource& file) : file_(file), size_(file.Stamp().size) {}
 
   std::uint64_t Size() const { return size_; }
-  // The first offset that was not looked at because of the bounds; past every file if there is none.
+  // The first offset that was not examined because of the bounds; beyond the end of any file if there is none.
   std::uint64_t StopOffset() const { return stopOffset_; }
 
-  // A little-endian number. Its bytes are read upwards, as all of the file is: going back would load blocks twice.
+  // A little-endian number. Its bytes are read in ascending order, like the whole file: going back would load blocks
+  // twice.
   std::uint32_t Number(std::uint64_t offset) {
     std::uint32_t number = 0;
     for (std::uint32_t i = 0; i < 4; ++i) number += Byte(offset + i) << 8 * i;
     return number;
   }
 
-  // Whether one more chunk, or entry of an order, may be looked at: the one at that offset.
+  // Whether one more chunk, or one more entry of an order, may be examined: the one at that offset.
   bool MayTakeChunk(std::uint64_t offset) { return MayTake(chunksLeft_, offset); }
   bool MayTakeEntry(std::uint64_t offset) { return MayTake(entriesLeft_, offset); }
 
@@ -90,11 +91,11 @@ class BlockReader {
   std::array<std::byte, 4096> block_{};
 };
 
-// A chunk as far as it lies inside the file: its data may be cut short.
+// The part of a chunk that lies inside the file: its data may be truncated.
 struct Chunk {
   std::uint32_t type;
   std::uint64_t data;
-  std::uint64_t size;  // of the data that is there
+  std::uint64_t size;  // of the data that is in the file
 };
 
 // Calls `visit` for each chunk between two offsets, as far as the bounds allow.
@@ -109,13 +110,13 @@ void ForEachChunk(BlockReader& file, std::uint64_t from, std::uint64_t end, cons
   }
 }
 
-// What a file says of its steps. If there are several chunks of a kind, the largest counts: whichever of them
-// the platform takes, it draws no more steps.
+// What a file declares about its steps. If there are several chunks of a kind, the largest counts: whichever of them
+// the platform uses, it draws no more steps.
 struct Findings {
   std::uint64_t headerPictures = 0;
   std::uint64_t headerSteps = 0;
   std::uint64_t sequenceEntries = 0;
-  std::uint64_t maxEntry = 0;  // of the order: the number of a picture, from 0
+  std::uint64_t maxEntry = 0;  // of the order: a picture's number, from 0
   std::uint64_t pictures = 0;
   int headers = 0;
   int sequences = 0;
@@ -156,7 +157,7 @@ void Note(BlockReader& file, const Chunk& chunk, Findings& findings) {
 }
 
 bool HoldsWhatItSays(const Findings& findings) {
-  // Of two headers or orders, it is unknown which the platform takes.
+  // If there are two headers or orders, it is unknown which one the platform uses.
   const bool plain = findings.headers == 1 && findings.sequences <= 1;
   return plain && findings.headerPictures > 0 && findings.headerPictures <= findings.pictures &&
          findings.headerSteps > 0 && findings.headerSteps <= findings.StepCount() &&
@@ -173,7 +174,7 @@ AnimationFacts InspectAnimation(ByteSource& source) {
     return {.isStillCursor = start == stillCursorStart};
   }
   Findings findings;
-  // The size that the file states for itself is often wrong, so that what lies behind it is looked at too.
+  // The size that the file declares for itself is often wrong, so the bytes after it are examined too.
   ForEachChunk(file, chunkHeaderSize + listTypeSize, file.Size(),
                [&](const Chunk& chunk) { Note(file, chunk, findings); });
   const std::uint64_t steps = std::min(findings.headerSteps, findings.StepCount());

@@ -9,15 +9,15 @@
 
 namespace tarvik {
 
-// What the file at the path (UTF-8) is known by; nothing if there is none.
+// The stamp of the file at the path (UTF-8); nothing if there is no file.
 std::optional<FileStamp> StampOf(const std::string& path);
 
-// Remembers which system calls on which files had to be cut off (see FaultGuard), so that none is made again: each one
-// leaks what it held, several GDI objects for an icon. A file that was changed since, by its size or the time it was
-// last written, counts as another one.
+// Remembers which system calls on which files had to be aborted (see FaultGuard), so that none is repeated: each one
+// leaks what it had allocated, several GDI objects for an icon. A file whose size or last write time has changed since
+// counts as a different file.
 class CutOffCalls {
  public:
-  // `path` is UTF-8; `call` is any number that stands for the call and its arguments.
+  // `path` is UTF-8; `call` is any number that identifies the call and its arguments.
   void Remember(const std::string& path, int call);
   bool Has(const std::string& path, int call) const;
 

@@ -7,7 +7,7 @@
 namespace tarvik {
 namespace {
 
-// Where the guarded call of this thread was made; null while there is none.
+// Where the guarded call of this thread was made; null outside a guarded call.
 thread_local jmp_buf* returnPoint = nullptr;
 
 [[noreturn]] void LeaveCall() {
@@ -16,9 +16,9 @@ thread_local jmp_buf* returnPoint = nullptr;
   std::longjmp(*point, 1);
 }
 
-// What a damaged file can lead to: an offset or a count beyond it, the file gone from under its mapping, a size of 0
-// that something is divided by, or a quotient that does not fit. Everything else says that more is wrong than a file:
-// an illegal instruction, a breakpoint, a stack that overflows, or a jump to where there is no code.
+// Faults that a damaged file can cause: an offset or a count beyond its end, a file removed from under its mapping, a
+// division by a size of 0, or a quotient that does not fit. Every other exception means that more is wrong than a file:
+// an illegal instruction, a breakpoint, a stack overflow, or a jump to an address without code.
 bool IsFaultOfReading(const EXCEPTION_RECORD& exception) {
   switch (exception.ExceptionCode) {
     case EXCEPTION_ACCESS_VIOLATION:
@@ -38,20 +38,20 @@ void* ModuleOf(PVOID instruction) {
   return RtlPcToFileHeader(instruction, &module);
 }
 
-// Whether the instruction is this program's own, whose faults must not be hidden. All others are the system's: also
-// those in no module, because Wine reads files partly in libraries of the machine below it, which are none.
+// Whether the instruction is this program's own, whose faults must not be hidden. All others are the system's,
+// including those in no module: Wine reads files partly in libraries of the host system, which are not modules.
 bool IsOfProgram(PVOID instruction) {
   return ModuleOf(instruction) == ModuleOf(reinterpret_cast<void*>(&LeaveCall));
 }
 
-// Lets the thread go on in LeaveCall instead of where it faulted. It leaves from there and not from here, so that
-// the system ends its own work on the exception first.
+// Makes the thread continue in LeaveCall instead of at the fault. The jump is made there and not here, so that the
+// system finishes its own exception handling first.
 LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
   if (returnPoint == nullptr) return EXCEPTION_CONTINUE_SEARCH;
   const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
   if (!IsFaultOfReading(record) || IsOfProgram(record.ExceptionAddress)) return EXCEPTION_CONTINUE_SEARCH;
 
-  // A function is entered with its stack 8 bytes off a multiple of 16, above the caller's room for four arguments.
+  // A function is entered with its stack 8 bytes off a multiple of 16, above the caller's space for four arguments.
   constexpr DWORD64 argumentRoom = 32;
   constexpr DWORD64 returnAddressSize = 8;
   CONTEXT& state = *exception->ContextRecord;
@@ -63,12 +63,12 @@ LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
 }  // namespace
 
 bool CallSurvivesFault(void (*call)(void* context), void* context) {
-  // First in line and for the whole run; without a guarded call it passes every exception on.
+  // First in the chain and installed for the whole run; outside a guarded call it passes every exception on.
   [[maybe_unused]] static void* const handler = AddVectoredExceptionHandler(1, OnException);
 
   jmp_buf point;
-  // No frame is given, so that the jump restores the registers and unwinds nothing: frames of the system that were
-  // cut off need not be unwindable.
+  // No frame is given, so that the jump restores the registers and unwinds nothing: the aborted frames of the system
+  // need not be unwindable.
   if (_setjmp(point, nullptr) != 0) return false;
   returnPoint = &point;
   call(context);

@@ -11,12 +11,12 @@ namespace tarvik {
 FileBytes::FileBytes(const std::string& path)
     : file_(CreateFileW(LiteralPath(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                         nullptr, OPEN_EXISTING, 0, nullptr)) {
-  // A pipe or a device would let its reader wait.
+  // Reading from a pipe or a device could block.
   if (file_ && GetFileType(file_.get()) != FILE_TYPE_DISK) file_.reset();
 }
 
 FileStamp FileBytes::Stamp() {
-  // All that the system knows of a file at once takes Wine several times as long as these two.
+  // Querying all file information at once takes Wine several times as long as these two calls.
   LARGE_INTEGER size{};
   FILETIME written{};
   if (!file_ || GetFileSizeEx(file_.get(), &size) == 0 || GetFileTime(file_.get(), nullptr, nullptr, &written) == 0) {

@@ -10,7 +10,8 @@
 
 namespace tarvik {
 
-// The bytes of a file on disk. Others may go on using the file meanwhile. One that cannot be opened has no bytes.
+// The bytes of a file on disk. Other programs may use the file at the same time. A file that cannot be opened has no
+// bytes.
 class FileBytes final : public ByteSource {
  public:
   // `path` is UTF-8.

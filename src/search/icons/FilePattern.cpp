@@ -8,7 +8,7 @@
 namespace tarvik {
 namespace {
 
-// A position in a text that moves on by whole characters.
+// A position in a text that advances by whole characters.
 class Cursor {
  public:
   explicit Cursor(std::string_view text) : rest_(text) {}
@@ -26,7 +26,7 @@ bool SameCharacter(const Cursor& one, const Cursor& other) {
   return std::ranges::equal(one.Character(), other.Character(), {}, LowerAscii, LowerAscii);
 }
 
-// Only the last "*" is ever widened: what an earlier one could take instead, the last one can take too.
+// Backtracking only into the last "*" is enough: whatever an earlier star could absorb, the last one can.
 bool MatchesPart(std::string_view name, std::string_view part) {
   Cursor inName(name);
   Cursor inPart(part);

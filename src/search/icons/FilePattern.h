@@ -16,7 +16,7 @@ struct SearchedType {
   std::string_view part;
 };
 
-// The types in the order of their boxes. The last one stands for all files.
+// The types in the order of their boxes. The last one means all files.
 inline constexpr auto searchedTypes = std::to_array<SearchedType>({
     {FrmFindIcon_ChkFileType0, "*.ico;"},
     {FrmFindIcon_ChkFileType1, "*.ani;"},
@@ -28,7 +28,7 @@ inline constexpr auto searchedTypes = std::to_array<SearchedType>({
 });
 inline constexpr std::size_t allFilesBox = searchedTypes.size() - 1;
 
-// The lowest and the highest id of their boxes. No other control's is between them.
+// The lowest and the highest id of their boxes. No other control has an id between them.
 inline constexpr int minTypeBox = std::ranges::min(searchedTypes, {}, &SearchedType::checkBox).checkBox;
 inline constexpr int maxTypeBox = std::ranges::max(searchedTypes, {}, &SearchedType::checkBox).checkBox;
 static_assert(maxTypeBox - minTypeBox + 1 == static_cast<int>(searchedTypes.size()));
@@ -39,21 +39,21 @@ inline constexpr std::string_view noFilesPattern = "aaa.aaa";  // matches one na
 // Which boxes are ticked, in their order.
 using FileTypeChecks = std::array<bool, searchedTypes.size()>;
 
-// The boxes as they stand after one of them was clicked: "all files" ticks the others too, so none of them
-// can be unticked meanwhile (deliberate: oddities 16).
+// The boxes after one of them was clicked: "all files" ticks the others too, so none of them can be unticked meanwhile
+// (deliberate: oddities 16).
 FileTypeChecks WithAllFilesRule(FileTypeChecks checked);
 
-// The box of the type that a file of that name has; that of all files if it has none of the others.
+// The box of the type of a file with that name; the box of all files if no other type matches.
 std::size_t FileTypeBoxOf(std::string_view name);
 
-// The pattern of the ticked boxes: "*.*" with "all files", the parts one after the other otherwise
-// ("*.dll;*.exe;"), and "aaa.aaa" where none is ticked.
+// The pattern of the ticked boxes: "*.*" with "all files", otherwise the concatenated parts ("*.dll;*.exe;"), or
+// "aaa.aaa" if none is ticked.
 std::string BuildPattern(const FileTypeChecks& checked);
 
-// True when the file name matches any part of the pattern. Parts are split at ";" and empty ones match
-// nothing; "*" stands for any run of characters and "?" for exactly one; "*.*" matches every name, one
-// without a dot included. Both texts are UTF-8. The case of the letters A to Z is ignored, which is all that
-// the built patterns hold; other characters match only themselves. Takes at most name times pattern steps.
+// Returns true if the file name matches any part of the pattern. Parts are split at ";" and empty ones match nothing;
+// "*" matches any run of characters and "?" exactly one; "*.*" matches every name, also one without a dot. Both texts
+// are UTF-8. Only the letters A to Z are compared without case, which is enough for the built patterns; other
+// characters match only themselves. Takes at most name times pattern steps.
 bool MatchesPattern(std::string_view name, std::string_view pattern);
 
 }  // namespace tarvik

@@ -20,27 +20,27 @@
 namespace tarvik {
 namespace {
 
-// The older headers of some compilers do not know these.
+// Older headers of some compilers lack these.
 constexpr DWORD attributeRecallOnOpen = 0x00040000;
 constexpr DWORD attributeRecallOnDataAccess = 0x00400000;
 
 constexpr DWORD unlistedFiles = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_OFFLINE |
                                 attributeRecallOnOpen | attributeRecallOnDataAccess;
 
-// A reparse point whose tag has this bit stands for something elsewhere: a symbolic link, a junction.
+// A reparse point whose tag has this bit refers to something elsewhere: a symbolic link, a junction.
 constexpr DWORD nameSurrogateBit = 0x20000000;
 
-// Until the end of what this returns, a drive that is not ready is an error to the caller, not a system message box.
+// While the returned object exists, a drive that is not ready is an error to the caller, not a system message box.
 Finally StopDriveMessages() {
   DWORD former = 0;
   SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &former);
   return Finally([former] { SetThreadErrorMode(former, nullptr); });
 }
 
-// Starts listing what is in the folder; the first entry is then in `entry`.
+// Starts listing the folder; the first entry is then in `entry`.
 FindHandle FirstEntry(std::wstring folder, WIN32_FIND_DATAW& entry) {
   if (!folder.ends_with(L'\\')) folder += L'\\';
-  // Without short names, which nobody here wants and NTFS needs time for, and in large portions.
+  // Without short names, which are not needed and cost NTFS time, and in large portions.
   return FindHandle(FindFirstFileExW((folder + L'*').c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch, nullptr,
                                      FIND_FIRST_EX_LARGE_FETCH));
 }
@@ -55,7 +55,7 @@ void ForEachEntry(const std::string& folder, const Folders::Dependencies::Visit&
   while (FindNextFileW(find.get(), &entry) != 0);
 }
 
-// Opens a folder, or the reparse point in its place, for questions about it alone.
+// Opens a folder, or the reparse point in its place, to query information about it alone.
 FileHandle OpenForQuestions(const std::string& path, DWORD flags) {
   const Finally quiet = StopDriveMessages();
   return FileHandle(CreateFileW(LiteralPath(path).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
@@ -72,7 +72,7 @@ std::vector<std::byte> ReparseData(const std::string& path) {
   return data;
 }
 
-// A link leads elsewhere, perhaps back to a folder above; a mounted volume looks like one until its data is read. Wine
+// A link leads elsewhere, perhaps back to a parent folder; a mounted volume looks like one until its data is read. Wine
 // gives no tag for its links and for mounted disks; a real reparse point always has one.
 bool IsLinkOrMount(const FolderEntry& entry) {
   if ((entry.attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
@@ -92,14 +92,14 @@ int CompareNames(const std::wstring& a, const std::wstring& b, bool ignoreCase) 
                               static_cast<BOOL>(ignoreCase));
 }
 
-// Ordinal, case ignored; names that differ in case alone, which some file systems hold, stand by their codes.
+// Ordinal, ignoring case; names that differ in case alone, which some file systems allow, are ordered by their codes.
 bool StandsBefore(const std::wstring& a, const std::wstring& b) {
   const int order = CompareNames(a, b, true);
   return order != CSTR_EQUAL ? order == CSTR_LESS_THAN : CompareNames(a, b, false) == CSTR_LESS_THAN;
 }
 
 std::string ShareOf(char letter) {
-  // Without the network's functions a drive is still listed, by its letter alone.
+  // Without the network functions a drive is still listed, by its letter alone.
   const auto connection = late::WNetGetConnectionW.Find();
   if (connection == nullptr) return {};
   const std::wstring device = {static_cast<wchar_t>(letter), L':'};
@@ -120,7 +120,7 @@ std::string LabelOf(const Drive& drive) {
   return ToUtf8(label.data());
 }
 
-// A sub-folder on its way into a list.
+// A sub-folder before it is added to a list.
 struct FoundFolder {
   std::wstring name;
   bool isLinkOrMount = false;
@@ -148,7 +148,7 @@ std::vector<std::string> Folders::Files(const std::string& folder, const std::st
   dependencies_.forEachEntry(folder, [&](const FolderEntry& entry) {
     if (!IsListedFile(entry)) return;
     std::string name = ToUtf8(entry.name);
-    // The pattern is judged here and not by the system, which would also look at short names.
+    // The pattern is matched here and not by the system, which would also match short names.
     if (MatchesPattern(name, pattern)) names.emplace_back(entry.name, std::move(name));
   });
   std::ranges::sort(names, [](const auto& a, const auto& b) { return StandsBefore(a.first, b.first); });
@@ -189,7 +189,7 @@ bool IsReadableFolder(const std::string& path) {
   const Finally quiet = StopDriveMessages();
   WIN32_FIND_DATAW entry;
   if (FirstEntry(LiteralPath(path), entry)) return true;
-  // The root of an empty drive has not even the entries "." and "..".
+  // The root of an empty drive does not even have the entries "." and "..".
   return GetLastError() == ERROR_FILE_NOT_FOUND;
 }
 

@@ -10,17 +10,17 @@
 
 namespace tarvik {
 
-// An entry of a folder as the system gives it.
+// An entry of a folder as the system returns it.
 struct FolderEntry {
   std::wstring_view name;
   unsigned long attributes = 0;  // FILE_ATTRIBUTE_...
   unsigned long reparseTag = 0;  // of a reparse point: IO_REPARSE_TAG_...; 0 if the system gives none
 };
 
-// The folders of this machine. A path may be of any length; one call reads its folder once.
+// The folders of this machine. Paths may be of any length; each call reads its folder once.
 class Folders final : public FolderReader {
  public:
-  // How folders are read.
+  // Functions that read folders.
   struct Dependencies {
     using Visit = std::function<void(const FolderEntry& entry)>;
     // Calls `visit` for each entry of the folder, in any order.
@@ -41,25 +41,25 @@ class Folders final : public FolderReader {
   Dependencies dependencies_;
 };
 
-// True for a folder that exists and whose content this user may see. The path may stand in any form Windows takes.
+// Returns true if the folder exists and this user may list it. The path may have any form that Windows accepts.
 bool IsReadableFolder(const std::string& path);
 
-// True for a folder that exists, whether or not its content may be seen, and for every root. The path is from a root.
+// Returns true if the folder exists, whether or not it may be listed, and for every root. The path is absolute.
 bool IsFolder(const std::string& path);
 
 // A drive of this machine.
 struct Drive {
   char letter = 'c';  // lower case
-  std::string label;  // of the volume; of a network drive, the share it stands for; empty where there is none
+  std::string label;  // of the volume; of a network drive, the share it is connected to; empty if there is none
 
-  // As a drive box shows it: "c: [LABEL]", or "c:" where there is no label.
+  // As a drive box shows it: "c: [LABEL]", or "c:" without a label.
   std::string Display() const;
   // The path of its root: "C:\".
   std::string Root() const;
 };
 
-// All drives by letter. Asks no drive that may be long in answering: network drives and floppy drives are not
-// touched, and a drive without a medium just has no label.
+// All drives by letter. Queries no drive that may be slow to answer: network drives and floppy drives are not accessed,
+// and a drive without a medium has no label.
 std::vector<Drive> Drives();
 
 }  // namespace tarvik

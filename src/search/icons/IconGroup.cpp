@@ -27,7 +27,7 @@ struct Entry {
   std::uint16_t number;
 };
 
-// How far a picture is from the wish; the smaller the better.
+// How far a picture is from what is wanted; smaller is better.
 struct Distance {
   Distance(const Entry& entry, const IconWish& wish)
       : width(std::abs(wish.width - entry.width)),
@@ -46,7 +46,7 @@ bool SuitsBetter(const Distance& one, const Distance& other) {
   return one.Size() < other.Size() || (isAlike && one.bits < other.bits);
 }
 
-// The header of a bitmap (BITMAPINFOHEADER), with its fields' places.
+// The header of a bitmap (BITMAPINFOHEADER) and the offsets of its fields.
 constexpr std::size_t bitmapHeaderSize = 40;
 constexpr std::size_t widthPlace = 4;
 constexpr std::size_t heightPlace = 8;
@@ -55,8 +55,7 @@ constexpr std::size_t compressionPlace = 16;
 constexpr std::size_t usedColorsPlace = 32;
 constexpr std::uint32_t maxColors = 256;
 
-// A PNG picture starts with its signature and the header's length and type; then its width and height, the high byte
-// of each first.
+// A PNG picture starts with its signature and the header's length and type; then its width and height, big-endian.
 constexpr std::array<unsigned char, 16> pngStart{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n',
                                                  0,    0,   0,   13,  'I',  'H',  'D',  'R'};
 constexpr std::size_t pngSidesEnd = pngStart.size() + 8;
@@ -78,7 +77,7 @@ bool HoldsBitmap(std::span<const std::byte> bytes) {
   if (bytes.size() < bitmapHeaderSize) return false;
   const std::size_t headerSize = U32At(bytes, 0);
   const std::size_t width = U32At(bytes, widthPlace);
-  const std::size_t height = U32At(bytes, heightPlace) / 2;  // that of picture and mask is written
+  const std::size_t height = U32At(bytes, heightPlace) / 2;  // the height of picture and mask together is stored
   const std::size_t bits = U16At(bytes, bitsPlace);
   constexpr std::array<std::size_t, 6> depths{1, 4, 8, 16, 24, 32};
   if (headerSize < bitmapHeaderSize || !IsSide(width) || !IsSide(height) ||

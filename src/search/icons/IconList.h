@@ -8,7 +8,7 @@
 
 namespace tarvik {
 
-// One found icon: where it lives, and whether the user selected it.
+// One found icon: where it is, and whether the user selected it.
 struct IconListEntry {
   std::string path;       // the source file, UTF-8
   Integer16 index;        // zero-based index in that file; for an animated cursor, the zero-based animation step
@@ -21,8 +21,7 @@ struct IconListEntry {
 // True for a file whose name ends in ".ani", in any case: its entries are steps of one animation.
 bool IsAnimatedCursorName(std::string_view path);
 
-// What the last search found, in the order of discovery. Entries are numbered from 1; rows are only ever
-// appended.
+// The results of the last search, in the order of discovery. Entries are numbered from 1; rows are only ever appended.
 class IconList {
  public:
   void Clear();

@@ -9,7 +9,7 @@ namespace tarvik {
 namespace {
 
 constexpr int maxHeld = 64;
-constexpr std::size_t maxCounts = 100'000;  // that are remembered
+constexpr std::size_t maxCounts = 100'000;  // how many files are remembered
 constexpr std::size_t maxBroken = 10'000;
 
 }  // namespace
@@ -69,8 +69,8 @@ void IconsAhead::TurnTo(const std::string& path, int next) {
   next_ = next;
 }
 
-// How many icons the file has: as it was counted before if it is as it was then. The file is asked what it is known by
-// before it is counted, so that a change meanwhile is noticed the next time.
+// How many icons the file has: the earlier count if the file has not changed. Its stamp is taken before it is counted,
+// so that a change in between is noticed the next time.
 int IconsAhead::CountOf(const std::string& path) {
   stamp_ = source_.StampOf(path);
   const auto known = counts_.find(path);

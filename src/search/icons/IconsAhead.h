@@ -11,14 +11,14 @@
 
 namespace tarvik {
 
-// An icon source that takes the icons of a file up to 64 at a time if they are asked for one after the other, because
-// each call opens and reads the file from scratch. Whoever asks gets the same icons as without it.
+// An icon source that extracts up to 64 icons of a file at a time if they are requested one after the other, because
+// each call opens and reads the file from scratch. The caller gets the same icons as without it.
 //
-// It does so between the start and the end of InTurn alone, and holds at most 64 icons, of one file. They are dropped
-// when another file is asked for, by LetGo, and by LetGoIfChanged if the file is not as it was. So that little is taken
-// for nothing where that is often, a group is then as large as what was used of the last one, and grows again. A file
-// that does not give a whole group is taken one by one as long as it stays as it is, and so are animations. Within
-// InTurn, a file is counted once as long as it stays as it is.
+// It does so only while an object returned by InTurn exists, and holds at most 64 icons, of one file. They are dropped
+// if another file is requested, by LetGo, and by LetGoIfChanged if the file has changed. To waste little where icons
+// are often dropped, the next group is only as large as what was used of the last one, and grows again. A file that
+// does not yield a whole group is extracted one by one until it changes, and so are animations. Within InTurn, a file
+// is counted once until it changes.
 class IconsAhead final : public IconSource {
  public:
   // `source` outlives this object.
@@ -44,15 +44,15 @@ class IconsAhead final : public IconSource {
   void TakeGroup(int first, int count);
 
   IconSource& source_;
-  int users_ = 0;  // of InTurn
+  int users_ = 0;  // objects returned by InTurn
 
-  std::string path_;                                  // the file asked for last
-  std::optional<FileStamp> stamp_;                    // of it, when it was counted
-  std::optional<int> count_;                          // of its icons, if nothing happened since it was counted
-  int next_ = 0;                                      // the index that would go on in turn
+  std::string path_;                                  // the file requested last
+  std::optional<FileStamp> stamp_;                    // its stamp when it was counted
+  std::optional<int> count_;                          // of its icons, if nothing happened since they were counted
+  int next_ = 0;                                      // the next index in sequence
   std::vector<std::unique_ptr<ExtractedIcon>> held_;  // icons next_ and after, the nearest last
-  int groupSize_ = 0;                                 // of the group that they are from
-  int maxTaken_ = 0;                                  // at a time
+  int groupSize_ = 0;                                 // size of the group that they are from
+  int maxTaken_ = 0;                                  // the most at a time
 
   std::unordered_map<std::string, Count> counts_;      // by path; of one InTurn
   std::unordered_map<std::string, FileStamp> broken_;  // files that did not give a group; of the whole run

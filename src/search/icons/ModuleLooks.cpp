@@ -30,7 +30,7 @@ const NewExecutable& ModuleLooks::Of(const std::string& path, const FileStamp& s
   module_ = NewExecutable(*file, opened.size);
   path_ = path;
   stamp_ = stamp;
-  // What a link is known by says nothing of the file that it leads to.
+  // The stamp of a link does not change with its target.
   if (module_.IconCount() == 0 && opened == stamp) {
     if (without_.size() >= maxRemembered) without_.clear();
     without_.insert_or_assign(path, stamp);

@@ -8,7 +8,7 @@ namespace tarvik {
 namespace {
 
 constexpr std::uint32_t mountPointTag = 0xA0000003;
-constexpr std::size_t targetOffsetField = 8;  // of two bytes, counted from the start of the names
+constexpr std::size_t targetOffsetField = 8;  // two bytes, counted from the start of the names
 constexpr std::size_t targetLengthField = 10;
 constexpr std::size_t namesOffset = 16;
 
@@ -22,7 +22,7 @@ std::uint32_t Number(std::span<const std::byte> bytes) {
   return number;
 }
 
-// Whether UTF-16 characters are these of ASCII.
+// Whether UTF-16 characters equal this ASCII text.
 bool Are(std::span<const std::byte> characters, std::string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (Number(characters.subspan(2 * i, 2)) != static_cast<unsigned char>(text[i])) return false;

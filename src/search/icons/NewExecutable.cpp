@@ -9,7 +9,7 @@
 namespace tarvik {
 namespace {
 
-// The two headers, as far as they are read, and where their fields are.
+// How much of the two headers is read, and the offsets of their fields.
 constexpr std::uint64_t firstBlockSize = 512;
 constexpr std::size_t dosHeaderSize = 64;
 constexpr std::uint32_t dosSignature = 0x5A4D;  // "MZ"
@@ -29,15 +29,15 @@ constexpr std::uint32_t numberBit = 0x8000;
 constexpr std::uint32_t pictureType = numberBit | 3;
 constexpr std::uint32_t groupType = numberBit | 14;
 
-// Bytes of the file from a place on; empty if it will not give them.
+// Bytes of the file from an offset on; empty if they cannot be read.
 std::vector<std::byte> BytesAt(ByteSource& file, std::uint64_t place, std::uint64_t size) {
   std::vector<std::byte> bytes(static_cast<std::size_t>(size));
   if (!file.Read(place, bytes)) bytes.clear();
   return bytes;
 }
 
-// The new header; empty if the file has none. In most files both headers are in the first block, and reading a file
-// once is what costs.
+// The new header; empty if the file has none. In most files both headers are in the first block, so one read is enough;
+// reads are what costs time.
 std::vector<std::byte> NewHeader(ByteSource& file, std::uint64_t fileSize, std::uint64_t& place) {
   const auto block = BytesAt(file, 0, std::min(fileSize, firstBlockSize));
   if (block.size() < dosHeaderSize || U16At(block, 0) != dosSignature) return {};
@@ -48,7 +48,7 @@ std::vector<std::byte> NewHeader(ByteSource& file, std::uint64_t fileSize, std::
   return {start, start + std::ptrdiff_t{newHeaderSize}};
 }
 
-// The table of resources as far as it lies in the file; empty if the file is no such module or has no table.
+// The part of the resource table that lies in the file; empty if the file is no such module or has no table.
 std::vector<std::byte> ResourceTable(ByteSource& file, std::uint64_t fileSize) {
   std::uint64_t start = 0;
   const auto header = NewHeader(file, fileSize, start);
@@ -75,11 +75,11 @@ void NewExecutable::ReadTable(const std::vector<std::byte>& table, std::uint64_t
       const std::uint64_t start = std::uint64_t{U16At(table, place)} << shift;
       const std::uint64_t size = std::uint64_t{U16At(table, place + 2)} << shift;
       if (start >= fileSize) {
-        // Whoever is asked for an icon finds it by its place, so that no group can be left out alone.
+        // Icons are found by their position, so a single group cannot be left out.
         hasAllGroups_ = hasAllGroups_ && type != groupType;
         continue;
       }
-      // The last resource of a file may lack the zeros that fill it up to a whole unit.
+      // The last resource of a file may lack the zeros that pad it to a whole unit.
       Note(type, U16At(table, place + resourceIdPlace), {start, std::min(size, fileSize - start)});
     }
   }

@@ -35,12 +35,12 @@ class NewExecutable {
   // How many icons there are: the groups, in the order of the table. None if there are no pictures.
   int IconCount() const { return pictures_.empty() ? 0 : static_cast<int>(groups_.size()); }
 
-  // The picture of an icon that suits best, to be handed to the system: see ChoosePicture. `index` is zero-based. Empty
-  // if there is no such icon, or no whole picture where it should be.
+  // The best matching picture of an icon, to be passed to the system: see ChoosePicture. `index` is zero-based. Empty
+  // if there is no such icon, or its picture is incomplete.
   std::vector<std::byte> Picture(ByteSource& file, int index, const IconWish& wish) const;
 
  private:
-  // Where in the file a resource is; all of it lies inside.
+  // The position of a resource in the file; all of it lies inside.
   struct Extent {
     std::uint64_t place;
     std::uint64_t size;
@@ -50,8 +50,8 @@ class NewExecutable {
   void Note(std::uint32_t type, std::uint32_t id, const Extent& extent);
 
   std::vector<Extent> groups_;
-  bool hasAllGroups_ = true;                            // that the table has so far
-  std::unordered_map<std::uint32_t, Extent> pictures_;  // by number, with the bit that says so
+  bool hasAllGroups_ = true;                            // whether all of the table's groups so far are there
+  std::unordered_map<std::uint32_t, Extent> pictures_;  // by number, including the bit that marks a number
 };
 
 }  // namespace tarvik

@@ -6,7 +6,7 @@
 
 namespace tarvik {
 
-// The functions of the system that take icons out of files.
+// The functions of the system that extract icons from files.
 struct ShellFunctions {
   decltype(&::ExtractIconExA) extractIconEx;
   decltype(&::PrivateExtractIconsA) privateExtractIcons;

@@ -24,21 +24,21 @@
 namespace tarvik {
 namespace {
 
-constexpr UINT countIndex = UINT_MAX;  // -1: how many icons there are
-constexpr UINT noFile = UINT_MAX;      // what the shell answers for a file it cannot read
+constexpr UINT countIndex = UINT_MAX;  // -1: returns the number of icons
+constexpr UINT noFile = UINT_MAX;      // returned by the shell for a file that it cannot read
 
-// Numbers of calls to remember besides those that take the icon of an index.
+// Numbers of calls to remember, apart from those that extract the icon of an index.
 constexpr int countCall = -1;
 constexpr int cursorCall = -2;
 constexpr int groupCall = -3;      // from any index
-constexpr int firstMakeCall = -4;  // that makes icon 0 of a picture; those of the next icons go on downwards
+constexpr int firstMakeCall = -4;  // that makes icon 0 of a picture; the next icons use the numbers below
 
-// As many icons as one file is believed to hold on its word: a search lists so many at every size. More would have a
-// whole search refused for one file.
+// Counts up to this are taken from the shell unchecked (every size's default limit allows as many). Higher claims are
+// verified, because one lying file would get the whole search refused.
 constexpr int believedCount = 100;
 
-// Throws OutOfMemoryError if the process can make hardly any GDI object more. Asked after a failure only. So many are
-// left for the message that says so.
+// Throws OutOfMemoryError if the process can create hardly any more GDI objects. Called after a failure only. The
+// margin leaves enough for the message that reports it.
 void RequireGdiObjects() {
   constexpr int reserve = 100;
   std::array<BitmapHandle, reserve> probes;
@@ -54,10 +54,10 @@ class PlatformIcon final : public ExtractedIcon {
 
   bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
     if (step < 0 || step >= stepBound_) return false;
-    // Every surface icons are drawn on has a device context.
+    // Every surface that icons are drawn on has a device context.
     const HDC dc = static_cast<Surface&>(surface).Dc();
-    // The system blends an image that has an alpha channel over what is there. Black is the one colour that a
-    // transparent pixel of an icon file may have: any other changes what lies below the icon.
+    // The system blends an image that has an alpha channel over the background. Black is the one colour that a
+    // transparent pixel of an icon file may have: any other changes what is below the icon.
     if (part == DrawPart::Image) PatBlt(dc, corner.x, corner.y, size, size, BLACKNESS);
     const bool drawn = DrawIconEx(dc, corner.x, corner.y, icon_.get(), size, size, static_cast<UINT>(step), nullptr,
                                   static_cast<UINT>(part)) != 0;
@@ -72,21 +72,21 @@ class PlatformIcon final : public ExtractedIcon {
   int stepBound_;
 };
 
-// Takes ownership of what a call for several icons left in `handles`: it may have given fewer than asked, or been cut
-// off in their middle.
+// Takes ownership of what a call for several icons left in `handles`: it may have returned fewer than requested, or
+// been aborted half-way.
 std::vector<IconHandle> TakeOwnership(const std::vector<HICON>& handles, bool finished, UINT extracted) {
   std::vector<IconHandle> icons;
   std::size_t given = extracted == noFile ? 0 : extracted;
   if (!finished) given = handles.size();
   for (const HICON handle : std::span(handles).first(std::min(given, handles.size()))) {
-    // Before Wine makes an icon, it keeps the number of its picture in the handle's place.
+    // Before Wine creates an icon, it keeps the number of its picture in the handle's place.
     constexpr std::uintptr_t maxNumber = 0xFFFF;
     if (reinterpret_cast<std::uintptr_t>(handle) > maxNumber) icons.emplace_back(handle);
   }
   return icons;
 }
 
-// What the shell asks the pictures of an icon for.
+// The size and colour depth that the shell requests for an icon.
 IconWish WishForLargeIcon() {
   const WindowDc screen(nullptr);
   return {.width = GetSystemMetrics(SM_CXICON),
@@ -98,16 +98,15 @@ bool AreAlike(std::string_view one, std::string_view other) {
   return std::ranges::equal(one, other, {}, LowerAscii, LowerAscii);
 }
 
-// The folder of a 64-bit system holds thousands of libraries without icons and no 16-bit module of its own, and opening
-// each of them to see that would make a first search of it a quarter longer. A library of icons that is there was put
-// there by somebody.
+// A 64-bit system folder holds thousands of libraries without icons and no 16-bit module of its own; opening each of
+// them would make a first search of it a quarter longer. An .icl file in it was put there by a user, so it is opened.
 bool IsOfTheSystem(std::string_view path) {
   static const std::string folder = SystemFolder() + '\\';
   return path.size() > folder.size() && AreAlike(path.substr(0, folder.size()), folder) &&
          !AreAlike(path.substr(path.size() - std::string_view(".icl").size()), ".icl");
 }
 
-// Null if there is no icon; throws if that is for lack of GDI objects.
+// Null if there is no icon; throws if the cause is a lack of GDI objects.
 std::unique_ptr<ExtractedIcon> MakeDrawable(IconHandle icon, int stepBound) {
   if (!icon) {
     RequireGdiObjects();
@@ -127,7 +126,7 @@ template <typename Call>
 bool ShellIcons::Survives(const std::string& path, int call, Call&& make) {
   if (cutOff_.Has(path, call)) return false;
   if (SurvivesFault(make)) return true;
-  // Without GDI objects the system may break on any file, and that says nothing about this one.
+  // Without GDI objects the system may fault on any file, so the fault says nothing about this one.
   RequireGdiObjects();
   cutOff_.Remember(path, call);
   return false;
@@ -144,9 +143,9 @@ IconHandle ShellIcons::ExtractByShell(const std::string& path, int index) {
   HICON large = nullptr;
   UINT extracted = 0;
   const auto extract = shell_().extractIconEx;  // the guarded call must not load anything
-  // The small icon is not asked for: it is never drawn, and its handle would have to be destroyed too.
+  // The small icon is not requested: it is never drawn, and its handle would have to be destroyed too.
   const bool finished = Survives(path, index, [&] { extracted = extract(name->c_str(), index, &large, nullptr, 1); });
-  // Only a success says that the handle means something: Wine leaves other values in it than it found.
+  // The handle is valid only after a success: on a failure Wine leaves other values in it.
   return finished && extracted != 0 && extracted != noFile ? IconHandle(large) : IconHandle();
 }
 
@@ -175,8 +174,8 @@ std::unique_ptr<ExtractedIcon> ShellIcons::ExtractSteps(const std::string& path,
   return MakeDrawable(std::move(icon), std::max(facts.maxSteps, 1));
 }
 
-// How many icons the shell says the file has; some systems tell it as it is written in the file. Nothing if the system
-// breaks on the file, or cannot be given its path.
+// How many icons the file has according to the shell; some systems return the number as written in the file. Nothing if
+// the system faults on the file, or its path cannot be passed to the system.
 std::optional<int> ShellIcons::CountByShell(const std::string& path) {
   const std::optional<std::string> name = ToCodePage(path);
   if (!name) return std::nullopt;
@@ -195,8 +194,8 @@ int ShellIcons::CountClaimedIcons(const std::string& path) {
   return FindModule(path).IconCount();
 }
 
-// How many icons can be had of a file that claims more. From the end, it is looked for one that can be had in growing
-// steps, and from there upwards for the last one: only a hundred broken ones in a row hide those behind them.
+// Counts the icons that can really be extracted. Probes backwards from the claimed end in doubling steps until one
+// extracts, then scans upwards for the last; 100 failures in a row end the scan.
 int ShellIcons::CountExtractableIcons(const std::string& path, int claimed) {
   int had = 0;
   for (int step = 1, index = claimed - 1; index > 0 && had == 0; step *= 2) {
@@ -226,8 +225,8 @@ std::vector<IconHandle> ShellIcons::ExtractGroupByShell(const std::string& path,
   std::vector<HICON> handles(static_cast<std::size_t>(count));
   UINT extracted = 0;
   std::vector<UINT> numbers(handles.size());  // of the pictures; filled by the call and not needed
-  // ExtractIconExA takes its large icons the same way, with that size; but of several, Wine's hands over the first
-  // alone.
+  // ExtractIconExA extracts its large icons the same way, with that size; but of several, Wine's returns only the
+  // first.
   const auto extract = shell_().privateExtractIcons;
   const bool finished = Survives(path, groupCall, [&] {
     extracted = extract(name->c_str(), first, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), handles.data(),

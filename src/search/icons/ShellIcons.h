@@ -17,23 +17,23 @@
 
 namespace tarvik {
 
-// The icons in the files of this machine, as the shell takes them out; animated cursors, where the shell will not,
-// as the system loads cursors. A damaged file holds none, whatever the system makes of it; an icon on which the system
-// breaks is asked for once in a run. Icons draw on a Surface.
+// The icons in the files of this machine, extracted by the shell; animated cursors, which the shell does not extract,
+// are loaded as cursors by the system. A damaged file has no icons, whatever the system makes of it; an icon on which
+// the system faults is requested once in a run. Icons draw on a Surface.
 //
-// In a library, program or control of 16-bit Windows, in which the shell finds no icon, this program finds them itself
-// (NewExecutable); of the files in the system's own folder, in .icl files alone. What the shell finds is left to it
-// alone.
+// In a library, program or control of 16-bit Windows, in which the shell finds no icon, this program finds the icons
+// itself (NewExecutable); in the system's own folder, only in .icl files. Icons that the shell finds are left to the
+// shell.
 //
 // Extract and the icons' Draw throw OutOfMemoryError if they fail because there are no GDI objects left, so that no
-// blank picture is taken for an icon.
+// blank picture is mistaken for an icon.
 class ShellIcons final : public IconSource {
  public:
-  // Opens the bytes of a file for a look at them.
+  // Opens the bytes of a file for inspection.
   using OpenBytes = std::function<std::unique_ptr<ByteSource>(const std::string& path)>;
 
   ShellIcons();
-  // `shell` is asked for the functions to call before each use.
+  // `shell` is called before each use and returns the functions to call.
   explicit ShellIcons(OpenBytes open, ShellFunctions (*shell)() = SystemShell);
 
   bool Takes(const std::string& path) const override;
@@ -43,14 +43,15 @@ class ShellIcons final : public IconSource {
   std::optional<FileStamp> StampOf(const std::string& path) override;
 
  private:
-  // Makes the call unless it had to be cut off before, and remembers if it has to be now. `call` is its number there.
+  // Makes the call unless it had to be aborted before, and remembers if it has to be aborted now. `call` is its number
+  // there.
   template <typename Call>
   bool Survives(const std::string& path, int call, Call&& make);
 
   IconHandle ExtractLarge(const std::string& path, int index);
   IconHandle ExtractByShell(const std::string& path, int index);
   std::vector<IconHandle> ExtractGroupByShell(const std::string& path, int first, int count);
-  // Takes icons of a 16-bit module in which the shell finds none: all that are asked for, or none at all.
+  // Extracts icons of a 16-bit module in which the shell finds none: all the requested ones, or none at all.
   std::vector<IconHandle> ExtractGroupFromModule(const std::string& path, int first, int count);
   const NewExecutable& FindModule(const std::string& path);
   IconHandle MakeIcon(const std::string& path, int index, std::vector<std::byte> picture);

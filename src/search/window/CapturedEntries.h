@@ -14,26 +14,26 @@
 
 namespace tarvik {
 
-// The entries of the icon list as pictures: what the enhanced view shows and the save commands write. Everything that
-// it is made from outlives it.
+// The entries of the icon list as pictures: what the enhanced view shows and the save commands write. All constructor
+// arguments outlive it.
 class CapturedEntries final : public EnhancedViewHost {
  public:
   CapturedEntries(IconSource& icons, const IconList& list, const SearchState& search, const ProgramState& state)
       : icons_(icons), list_(list), search_(search), state_(state), surfaces_(search.Geometry.IconSize) {}
 
-  // Takes the pictures at the grid's icon size from now on.
+  // Renders the pictures at the grid's icon size from now on.
   void Resize() { surfaces_.Resize(search_.Geometry.IconSize); }
 
-  // Takes the icon of entry `number`, counted from 1, into the three surfaces. False for a number outside the list,
-  // which leaves the surfaces alone; a file that yields no icon any more leaves them cleared.
+  // Renders the icon of entry `number`, counted from 1, into the three surfaces. Returns false for a number outside the
+  // list and leaves the surfaces unchanged; if the file no longer yields the icon, they are cleared.
   bool RenderEntry(int number) override;
   // PicIcon, PicMask and PicImage.
   const IconSurfaces& Surfaces() const { return surfaces_; }
   const Surface& PicIcon() const override { return surfaces_.Composed(); }
   // The icon in PicIcon magnified by the program's Magnification, at the top-left corner of a square of MagnifiedSide.
   const Surface& PicMain();
-  // Puts the icon of PicMask and PicImage together in PicClip and copies that to the clipboard for `owner`; false if
-  // the clipboard cannot be had.
+  // Combines the icon of PicMask and PicImage in PicClip and copies that to the clipboard for `owner`; returns false if
+  // the clipboard could not be opened.
   bool CopyPicClip(HWND owner) const;
 
   int EntryCount() const override { return list_.Count(); }

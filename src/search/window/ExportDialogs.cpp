@@ -37,7 +37,7 @@ GifDialog& ExportDialogs::NewConvertGIF() {
   return convertGif_.emplace(application_, state_, owner_(), FrmConvertGIF::Dependencies{sink_, FileLength});
 }
 
-// The dialogs themselves stay: one of them may be the caller's caller, where the session ends while it is open.
+// The dialogs themselves are kept: one of them may be further up the call stack, if the session ends while it is open.
 void ExportDialogs::FreeEncoders() {
   if (saveJpg_) saveJpg_->FreeObj();
   if (convertGif_) convertGif_->FreeGifObj();

@@ -19,7 +19,7 @@ namespace tarvik {
 // The real dialogs of the save commands, over the main window.
 class ExportDialogs final : public SaveDialogs {
  public:
-  // `owner` gives the main window when a dialog opens. Everything outlives the dialogs.
+  // `owner` returns the main window when a dialog opens. All arguments outlive the dialogs.
   ExportDialogs(Application& application, ProgramState& state, std::function<HWND()> owner, frmDir::Dependencies disk,
                 FileSink& sink);
 

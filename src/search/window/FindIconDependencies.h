@@ -29,7 +29,7 @@ struct FindIconDependencies {
   SaveCommands::Dependencies saving;
   std::function<bool(const std::string& path)> isFolder = IsFolder;
   TaskBar* taskBar = nullptr;         // shows progress if there is one
-  unsigned long long shownAfter = 0;  // milliseconds of a search or a batch that show none there
+  unsigned long long shownAfter = 0;  // milliseconds; a shorter search or batch shows no progress there
 };
 
 }  // namespace tarvik

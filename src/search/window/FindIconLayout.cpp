@@ -13,7 +13,7 @@
 namespace tarvik {
 namespace {
 
-// How an edge of a control follows the window's room, across and down.
+// How an edge of a control follows the window's extra size, horizontally and vertically.
 enum class Across { Stays, Half, Whole };
 enum class Down { Stays, UpperLists };
 
@@ -26,7 +26,7 @@ struct Following {
   Down bottom;
 };
 
-// Grid and icon list have places of their own.
+// Grid and icon list are placed separately.
 constexpr auto followings = std::to_array<Following>({
     {FrmFindIcon_Drive1, FrmFindIcon_Drive1, Across::Stays, Across::Half, Down::Stays, Down::Stays},
     {FrmFindIcon_Dir1, FrmFindIcon_Dir1, Across::Stays, Across::Half, Down::Stays, Down::UpperLists},
@@ -68,8 +68,8 @@ int TextWidth(HWND item) {
   return bounds.right;
 }
 
-// What the template gives the list of drives: the height with the list open, in dialog units. The closed control keeps
-// a height of its own.
+// The height of the drive list in the template: with the list open, in dialog units. The closed control keeps a height
+// of its own.
 constexpr int openDriveList = 120;
 
 int OpenHeight(HWND form) {
@@ -81,7 +81,7 @@ int OpenHeight(HWND form) {
 }  // namespace
 
 void FindIconLayout::Begin(const Form& form, IconGrid& grid) {
-  form_ = nullptr;  // nothing is arranged while the window becomes as wide as it must be
+  form_ = nullptr;  // nothing is arranged while the window gets its needed width
   const HWND window = form.Window();
   LayOutLimit(form);
   Record(form);
@@ -98,8 +98,8 @@ void FindIconLayout::Begin(const Form& form, IconGrid& grid) {
   Arrange(false);
 }
 
-// The grid is as large as its pixels on this display, whatever the size of the dialog's font, by which the other
-// controls go: the window may have to be larger than they need.
+// The grid has a fixed size in pixels on this display, while the other controls follow the dialog's font: the window
+// may have to be larger than they need.
 SIZE FindIconLayout::NeededWithGrid(const Form& form) const {
   const RECT status = BoundsInParent(form.Item(FrmFindIcon_sbMain));
   const int margin = gridBounds_.left;
@@ -107,8 +107,8 @@ SIZE FindIconLayout::NeededWithGrid(const Form& form) const {
           std::max<LONG>(needed_.cy, gridBounds_.bottom + margin / 2 + status.bottom - status.top)};
 }
 
-// The limit's box stands right behind its label, and the rest of the row behind the box, in every language. Both labels
-// are as wide as their texts: a label that reached under the box would wipe it when it is drawn alone.
+// In every language the limit's box directly follows its label, and the rest of the row follows the box. Both labels
+// are as wide as their texts: a label that extended under the box would erase it when the label alone is repainted.
 void FindIconLayout::LayOutLimit(const Form& form) {
   const HWND label = form.Item(FrmFindIcon_SkinLabel1);
   RECT bounds = BoundsInParent(label);
@@ -141,7 +141,7 @@ void FindIconLayout::Arrange(bool listShown) {
   for (const Placed& placed : placed_) ArrangeControl(placed, room);
   ArrangeGrid(inside.cx, room);
   SendMessageW(form_->Item(FrmFindIcon_sbMain), WM_SIZE, 0, 0);
-  // One control after the other has moved over others on its way.
+  // Controls were moved one by one and may have passed over each other.
   if (room != arranged_) RedrawWindow(form_->Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   arranged_ = room;
 }

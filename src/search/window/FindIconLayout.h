@@ -11,14 +11,14 @@
 
 namespace tarvik {
 
-// Where the controls of the main window are. At first it is as large as its controls need, which is its smallest size;
-// in a larger one the lists grow (see ExtraRoom), and what is to the right of them or below them moves.
+// The layout of the main window. At first the window is as large as its controls need, which is its smallest size; in a
+// larger one the lists grow (see ExtraRoom), and controls to the right of them or below them move.
 class FindIconLayout {
  public:
-  // Lays the loaded window out at its smallest size, with its texts set and its grid attached.
+  // Lays the loaded window out at its smallest size. Its texts are set and its grid is attached before.
   void Begin(const Form& form, IconGrid& grid);
-  // Puts everything into its place for the size that the window has now. Does nothing before Begin, and while the
-  // window is minimised.
+  // Places all controls for the current size of the window. Does nothing before Begin, and while the window is
+  // minimised.
   void Arrange(bool listShown);
   // Of the whole window, in display pixels; none before Begin.
   SIZE SmallestSize() const { return smallest_; }
@@ -27,7 +27,7 @@ class FindIconLayout {
   struct Placed {
     HWND control;
     RECT bounds;
-    std::size_t row;  // of the table that says how it follows the window
+    std::size_t row;  // of the table that says how the control follows the window
   };
 
   static void LayOutLimit(const Form& form);
@@ -39,10 +39,10 @@ class FindIconLayout {
   const Form* form_ = nullptr;
   IconGrid* grid_ = nullptr;
   std::vector<Placed> placed_;  // as they are at the size `needed_`
-  SIZE needed_{};               // the inside of the window that the controls other than the grid need
+  SIZE needed_{};               // client size that the controls other than the grid need
   RECT gridBounds_{};           // of the grid and its bar at the smallest size
   SIZE smallestInside_{};
-  ExtraRoom arranged_;  // what everything was last placed for
+  ExtraRoom arranged_;  // the extra size at the last arrangement
   SIZE smallest_{};
 };
 

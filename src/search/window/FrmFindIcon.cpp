@@ -105,8 +105,8 @@ bool FrmFindIcon::Form_QueryUnload() {
   return !state_.IsSearching && !isSaving_;
 }
 
-// Files are written only while a save command runs and no dialog or message of its own stands over the window. A search
-// writes nothing.
+// Files are written only while a save command runs and no dialog or message of its own is open over the window. A
+// search writes nothing.
 bool FrmFindIcon::Form_QueryEndSession() {
   return !isSaving_ || IsWindowEnabled(Window()) == FALSE;
 }
@@ -122,7 +122,8 @@ void FrmFindIcon::LoadSettings() {
   const std::string& ownFolder = dependencies_.programFolder;
   std::string folder = AbsoluteFolderPath(settings.ReadIniSetting(settingsSection, folderKey, ownFolder), ownFolder);
   const std::string tidyOwnFolder = TidyFolderPath(ownFolder);
-  // Another user of this computer may have written the setting, and to read from a computer is to log on there.
+  // The setting may have been written by another user of this computer, and reading from another computer means logging
+  // on there.
   if (IsOnOtherComputer(folder) && folder != tidyOwnFolder) {
     unreadFolder_ = folder;
   } else if (!dependencies_.isReadableFolder(folder)) {
@@ -135,7 +136,7 @@ void FrmFindIcon::LoadSettings() {
 }
 
 void FrmFindIcon::SaveSettings() {
-  // A walk that the end of the session stops has moved Dir1.
+  // If the end of the session stops a walk, Dir1 is not where the user left it.
   const std::string& folder = state_.SavedDirPath.empty() ? dir1_.Path() : state_.SavedDirPath;
   dependencies_.settings.WriteIniSetting(settingsSection, folderKey, folder);
   dependencies_.settings.WriteIniSetting(settingsSection, subDirKey, TruthText(chkSubDir()));
@@ -189,7 +190,7 @@ bool FrmFindIcon::OnCommand(int id, int code) {
 void FrmFindIcon::OnScroll(HWND scrollBar, int request) {
   if (scrollBar == udMain_.Window() && request != SB_ENDSCROLL) {
     udMain_.Scroll(request);
-    udMain_Change();  // also if the value stays: the box may show a limit beyond it
+    udMain_Change();  // also if the value does not change: the box may show a limit beyond it
   }
   grid_.OnScroll(scrollBar, request);
   gridTip_.Say({});  // another icon is under the pointer now

@@ -97,7 +97,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void DoEvents() override;
   Finally ShowHourglass() override;
 
-  // SaveWindow, where it asks for more than a search does
+  // SaveWindow, as far as it is not part of SearchWindow
   bool RenderEntry(int number) override { return captured_.RenderEntry(number); }
   const PixelView& PicMask() const override { return captured_.Surfaces().Mask(); }
   const PixelView& PicImage() const override { return captured_.Surfaces().Image(); }
@@ -127,28 +127,28 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   HWND chkSubDir_ = nullptr;
   DirListBox dir1_;
   FileListBox file1_;
-  std::string unreadFolder_;  // the settings' folder on another computer, which the user did not open or search so far
+  std::string unreadFolder_;  // the settings' folder, if on another computer and not yet opened or searched
   ShownFolders folders_{dir1_, file1_, dependencies_.folders};
   IconGrid grid_;
-  PictureContent gridContent_;  // the grid read aloud
+  PictureContent gridContent_;  // the grid for screen readers
   PictureTip gridTip_;
   FindIconLayout layout_;
   Surface ownSurface_;
   SearchDriver driver_;
   Selection selection_;
   CapturedEntries captured_;
-  std::optional<frmBit> view_;  // from the first time it opens
+  std::optional<frmBit> view_;  // created when it first opens
   SaveCommands commands_;
-  bool isSaving_ = false;  // a save or copy command runs, and the window takes no other
-  Finally savesInTurn_;    // while it runs, icons are asked for in turn
-  // In milliseconds: how often such a command looks for messages, and how often it serves them even if none is seen.
+  bool isSaving_ = false;  // true while a save or copy command runs; the window then accepts no other command
+  Finally savesInTurn_;    // while such a command runs, icons are requested in turn
+  // In milliseconds: how often such a command checks for messages, and how often it serves them even if none is found.
   Throttle looks_{40};
   Throttle serves_{1'000};
 
   ShownProgress progress_;
   LiveText caption_;
   LiveText status_;                        // panel 1 of sbMain
-  bool releaseBelongsToDblClick_ = false;  // the next release on the grid ends a double click
+  bool releaseBelongsToDblClick_ = false;  // the next button release on the grid ends a double click
 
   DriveListBox drive1_;
   ScrollBar udMain_;

@@ -1,4 +1,4 @@
-// What is dropped on the main window: a folder to search, or a file whose folder is searched.
+// Files and folders dropped on the main window: a folder is searched; of a file, the folder that contains it.
 
 #include <windows.h>
 
@@ -11,7 +11,7 @@
 
 namespace tarvik {
 
-// Refused like every command while a search or a save runs, and while a dialog is over the window.
+// Refused like every command while a search or a save runs, and while a dialog is open over the window.
 void FrmFindIcon::OnDrop(const std::string& path) {
   if (path.empty() || state_.IsSearching || isSaving_ || IsWindowEnabled(Window()) == FALSE) return;
   const std::string dropped = TidyFolderPath(path);

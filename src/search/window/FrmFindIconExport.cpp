@@ -1,4 +1,4 @@
-// The main window as the save and copy commands see it.
+// The SaveWindow side of the main window, used by the save and copy commands.
 
 #include <windows.h>
 
@@ -36,7 +36,7 @@ void FrmFindIcon::OnRuntimeError(const RuntimeError& error) {
 }
 
 Finally FrmFindIcon::HoldCommands() {
-  // First, because it can fail, and a window that took itself for saving would take no input ever after.
+  // First, because it can fail, and a window left in the saving state would never accept input again.
   savesInTurn_ = dependencies_.icons.InTurn();
   isSaving_ = true;
   return Finally([this] {
@@ -45,9 +45,9 @@ Finally FrmFindIcon::HoldCommands() {
   });
 }
 
-// Serving all messages and not the painting alone keeps the system from taking the window for one that hangs; input is
-// taken out before it reaches anything. If nothing waits, icons that were taken ahead are kept: a batch would throw
-// away about as many as it uses.
+// All messages are served and not only WM_PAINT, so that the system does not take the window for a hung one; input is
+// removed before it reaches any control. If no message waits, icons extracted in advance are kept: a batch would
+// otherwise discard about as many as it uses.
 void FrmFindIcon::ServePainting() {
   if (!looks_.IsDue()) return;
   looks_.Note();

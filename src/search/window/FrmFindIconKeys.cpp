@@ -1,4 +1,4 @@
-// The main window's keys beside those of its menus and controls, and the list view's menu.
+// The main window's keys, apart from those of its menus and controls, and the list view's context menu.
 
 #include <windows.h>
 
@@ -15,7 +15,7 @@
 namespace tarvik {
 namespace {
 
-// What the File and Edit menus offer for chosen rows; 0 is a line.
+// The items of the File and Edit menus that act on chosen rows; 0 is a separator.
 constexpr auto rowItems = std::to_array<int>({
     FrmFindIcon_mnuSaveAs,
     FrmFindIcon_MnuSaveAsBitmap,
@@ -43,7 +43,7 @@ bool IsTextBox(HWND control) {
 bool FrmFindIcon::PreviewMessage(const MSG& message) {
   if (isSaving_ && IsInput(message.message)) return true;
   if (message.message == WM_KEYDOWN && Form_KeyDown(message)) return true;
-  // The wheel turns what lies under the pointer, wherever the focus is.
+  // The wheel scrolls the control under the pointer, wherever the focus is.
   if (!grid_.OnWheel(message)) return false;
   gridTip_.Say({});
   return true;
@@ -53,12 +53,12 @@ bool FrmFindIcon::Form_KeyDown(const MSG& message) {
   const ShortcutKey* key = FindShortcut(static_cast<int>(message.wParam), HeldKeys());
   if (key == nullptr || (key->leftToText && IsTextBox(message.hwnd))) return false;
   if (key->menu != 0 && (!TheMenu().IsEnabled(key->menu) || !TheMenu().IsEnabled(key->command))) return true;
-  // Through the window, so that a run-time error meets the boundary that every handler has.
+  // Sent to the window, so that a run-time error meets the boundary that every handler has.
   SendMessageW(Window(), WM_COMMAND, static_cast<WPARAM>(key->command), 0);
   return true;
 }
 
-// Not while files are written: what shows the guide would serve messages.
+// Not while files are written: showing the guide would serve messages.
 void FrmFindIcon::OnHelp() {
   if (Form_QueryEndSession()) MnuContent_Click();
 }
@@ -77,7 +77,7 @@ void FrmFindIcon::SelectAll() {
   selection_.ChooseAll();
 }
 
-// Enter is a double click: a row that the keys went to without choosing it is chosen first.
+// Enter acts as a double click: a row that has the focus but is not chosen is chosen first.
 void FrmFindIcon::OpenFocusedRow() {
   lv_.TellChoice();
   ChooseIfNotCurrent(lv_.FocusedRow());

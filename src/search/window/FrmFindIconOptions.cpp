@@ -90,7 +90,8 @@ void FrmFindIcon::udMain_Change() {
   SetItemText(FrmFindIcon_txtMax, std::to_string(state_.Geometry.MaxLimit - udMain_.Value()));
 }
 
-// The spinner goes on from a limit that was typed, or from its nearer end; a text that is no number leaves it alone.
+// The spinner continues from a typed limit, or from the end nearest to it; a text that is no number leaves it
+// unchanged.
 void FrmFindIcon::txtMax_Change() {
   const int max = state_.Geometry.MaxLimit;
   try {
@@ -104,18 +105,18 @@ void FrmFindIcon::txtMax_Change() {
 void FrmFindIcon::CmdFind_Click() {
   if (state_.IsSearching) return;
   unreadFolder_.clear();
-  // The walk moves both lists through every folder; they show again where it ends.
+  // The walk moves both lists through every folder; they show the folder again when it ends.
   const Finally showsFiles = file1_.Hold();
   const Finally showsFolders = dir1_.Hold();
-  // The button is disabled meanwhile, and a disabled control that has the focus would swallow every key.
+  // The button is disabled during the search, and a disabled control that has the focus would swallow every key.
   const FocusKept focus(Window());
-  // The last texts show at the end, also where an error ends the search.
+  // The last texts are shown at the end, also if an error ends the search.
   const Finally progress([this] { ShowProgress(); });
   const Finally inTurn = dependencies_.icons.InTurn();
   driver_.CmdFind_Click();
 }
 
-// Stores the entry for a caller, which there is not, and closes the program (deliberate: oddities 14).
+// Stores the entry for a caller that does not exist, and closes the program (deliberate: oddities 14).
 void FrmFindIcon::CmdOk_Click() {
   // A disabled button sends nothing, but its command can come from elsewhere.
   if (state_.IsSearching || !list_.Has(state_.CurrentIndex + 1)) return;

@@ -1,4 +1,4 @@
-// The main window as a search sees it.
+// The SearchWindow side of the main window.
 
 #include <windows.h>
 
@@ -13,7 +13,7 @@
 namespace tarvik {
 namespace {
 
-// What needs an entry to act on.
+// Menu items that need an entry to act on.
 constexpr int entryItems[] = {
     FrmFindIcon_mnuSaveAs,   FrmFindIcon_MnuSaveAsBitmap, FrmFindIcon_MnuSaveAsCursor, FrmFindIcon_mnuSaveSel,
     FrmFindIcon_mnuSaveAll,  FrmFindIcon_mnuSaveSel2,     FrmFindIcon_mnuSaveAll2,     FrmFindIcon_mnuSaveSel3,
@@ -46,7 +46,7 @@ void FrmFindIcon::Enable(SearchControl control, bool enabled) {
   EnableItem(IdOf(control), enabled);
 }
 
-// A search asks several times for each folder, and Wine looks for a control by its id among all of them.
+// A search reads this several times per folder, and Wine searches all controls for an id.
 bool FrmFindIcon::chkSubDir() const {
   return SendMessageW(chkSubDir_, BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
@@ -99,7 +99,7 @@ void FrmFindIcon::ListChanged() {
 
 void FrmFindIcon::DoEvents() {
   dependencies_.icons.LetGo();
-  // Rows that nobody sees would cost a search of many folders more than the search itself.
+  // Adding rows to a hidden list would cost a search of many folders more than the search itself.
   if ((GetWindowLongW(lv_.Window(), GWL_STYLE) & WS_VISIBLE) != 0) lv_.GrowTo(list_.Count());
   caption_.ShowIfDue();
   status_.ShowIfDue();

@@ -1,4 +1,4 @@
-// The main window's grid and list, in which icons are chosen, and what the menus do with the choice.
+// The main window's grid and list, in which icons are chosen, and the menu commands that act on the choice.
 
 #include <windows.h>
 
@@ -22,8 +22,9 @@ void FrmFindIcon::OnPicture(const PictureEvent& event) {
         selection_.PicIcons_MouseUp(event.heldKeys, event.x, event.y);
       break;
     case PictureEvent::Kind::DblClick:
-      // The view opens between the second press and its release. The release is the end of the double click and no
-      // click of its own: it goes to whatever lies under the pointer, or, if the view was closed first, nowhere.
+      // The view opens between the second press and its release. The release belongs to the double click and is no
+      // click of its own: with the capture released, it goes to whatever is under the pointer, or, if the view was
+      // closed first, nowhere.
       ReleaseCapture();
       PicIcons_DblClick();
       releaseBelongsToDblClick_ = GetKeyState(VK_LBUTTON) < 0;
@@ -35,7 +36,7 @@ void FrmFindIcon::OnPicture(const PictureEvent& event) {
 }
 
 void FrmFindIcon::ShowTipAt(double x, double y) {
-  constexpr int columns = 80;  // of a line; they fit the smallest screen
+  constexpr int columns = 80;  // characters per line; they fit the smallest screen
   const std::optional<int> number = selection_.EntryAt(x, y);
   if (!number) return gridTip_.Say({});
   const IconListEntry& entry = list_.Item(*number);
@@ -48,8 +49,8 @@ bool FrmFindIcon::NumbersByFile() const {
   return TheMenu().IsChecked(FrmFindIcon_mnuIL2);
 }
 
-// The control changes its own rows before it tells; which rule that was is read off its keys, and its rows are then
-// set to what the rule made of it.
+// The control changes the selection of its rows before it sends the notification. The rule that applies is derived from
+// the keys, and the rows are then set to that rule's result.
 void FrmFindIcon::Lv_Choose(const ReportList::Choice& choice) {
   const int number = choice.row + 1;
   if (!list_.Has(number)) {
@@ -66,9 +67,8 @@ void FrmFindIcon::Lv_Choose(const ReportList::Choice& choice) {
 
 void FrmFindIcon::ShowSelectionInList() {
   lv_.SetSelection([this](int row) { return list_.Has(row + 1) && list_.Item(row + 1).selected; });
-  // So that the keys begin at the current icon after a search. Later the list keeps its own place: Wine would bring a
-  // row that is given it into view with the next click, which would then meet another row than the one below the
-  // pointer.
+  // After a search the keys start at the current icon. Later the list keeps its own focused row: Wine would scroll a
+  // newly focused row into view at the next click, which would then hit another row than the one under the pointer.
   if (lv_.FocusedRow() < 0 && list_.Has(state_.CurrentIndex + 1)) lv_.SetFocusedRow(state_.CurrentIndex);
 }
 
@@ -84,7 +84,7 @@ void FrmFindIcon::mnuIL_Click(int index) {
   selection_.ShowCurrentLabel();
 }
 
-// The release of the same click came before, so the current entry is the icon under the pointer.
+// The release of the same click came first, so the current entry is the icon under the pointer.
 void FrmFindIcon::PicIcons_DblClick() {
   if (state_.IsSearching) return;
   if (!view_) view_.emplace(TheApplication(), captured_, dependencies_.state, dependencies_.settings);

@@ -5,7 +5,7 @@
 
 namespace tarvik {
 
-// The main window's texts. What stands in no row keeps its design text in every language.
+// The main window's texts. A control without a row here keeps its design text in every language.
 inline constexpr FormText findIconTexts[] = {
     {formCaption, {"Brindle Tarvik", "布林德图标搜索", "布林德圖示搜尋"}},
     {FrmFindIcon_chkSubDir, {"Include SubDir", "包含子目录", "包含子目錄"}},
@@ -67,10 +67,10 @@ inline constexpr Text driveNotReady{"Driver Not Ready!", "路径无效!", "路�
 inline constexpr Text folderNotReadable{"The folder cannot be read:\r\n%1", "无法读取文件夹：\r\n%1",
                                         "無法讀取資料夾：\r\n%1"};
 
-// What the grid's tool tip says of an icon: its file, in lines, and its index there.
+// The grid's tool tip for an icon: its file, in lines, and its index there.
 inline constexpr Text gridTip{"%1\r\nIndex %2", "%1\r\n索引 %2", "%1\r\n索引 %2"};
 
-// The current icon as it is read aloud in the grid: its number, its file, its index there.
+// The current icon for screen readers: its number, its file, its index there.
 inline constexpr Text gridItemName{"Icon %1, %2, index %3", "图标 %1，%2，索引 %3", "圖示 %1，%2，索引 %3"};
 
 }  // namespace tarvik

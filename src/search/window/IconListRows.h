@@ -22,7 +22,7 @@ inline constexpr std::array<IconListColumn, 3> iconListColumns{{
     {"图标索引", 80},   // its index in that file
 }};
 
-// What stands in the row of the entry with that number (1 to the list's Count()), by column.
+// The text of a column in the row of the entry with that number (1 to the list's Count()).
 std::string IconListCell(const IconList& list, int number, std::size_t column);
 
 // How a row looks: bold and red (0x00BBGGRR) while its entry is selected, plain and black otherwise.

@@ -8,13 +8,13 @@
 
 namespace tarvik {
 
-// A key of the main window by its virtual-key code, and the command that it gives. No menu shows it.
+// A key of the main window by its virtual-key code, and the command that it triggers. No menu shows it.
 struct ShortcutKey {
   int key;
   bool ctrl;        // with Ctrl alone; otherwise with neither Ctrl, Shift nor Alt
-  int command;      // a menu item's, or one of its own
-  int menu;         // the menu of that item, which can be disabled as a whole; 0 if it has none
-  bool leftToText;  // a text box has this key for itself
+  int command;      // a menu item's id, or one of its own
+  int menu;         // that item's menu, which can be disabled as a whole; 0 if it has none
+  bool leftToText;  // a text box handles this key itself
 };
 
 inline constexpr auto shortcutKeys = std::to_array<ShortcutKey>({

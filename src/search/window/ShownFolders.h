@@ -9,7 +9,7 @@
 
 namespace tarvik {
 
-// The two list boxes of the main window as a search moves them, and what is on the disk. All three outlive this object.
+// The main window's two list boxes, which a search moves, and the folders on disk. All three outlive this object.
 class ShownFolders final : public SearchFolders {
  public:
   ShownFolders(DirListBox& dir1, FileListBox& file1, FolderReader& disk) : dir1_(dir1), file1_(file1), disk_(disk) {}
