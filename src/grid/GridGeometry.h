@@ -11,14 +11,14 @@ namespace tarvik {
 // The grid of one icon size: all lengths in pixels.
 // NOLINTBEGIN(readability-identifier-naming): see Names and ids in docs/design.md
 struct GridGeometry {
-  std::string_view Caption;  // the choice as the size list shows it
+  std::string_view Caption;  // the text of the size list
   int IconSize = 0;          // side of a drawn icon
   int CellPitch = 0;         // from one icon's corner to the next
   int FrameExtent = 0;       // a selection frame's side, measured from corner to corner
   int FirstFrameExtent = 0;  // the far corner of the frame drawn around the first icon right after a search
   int Columns = 0;           // icons in a row
-  int MaxLimit = 0;          // the most icons a search may be allowed to list
-  int DefaultLimit = 0;      // how many it lists unless the user says otherwise
+  int MaxLimit = 0;          // the highest limit that a search can have
+  int DefaultLimit = 0;      // the limit unless the user changes it
 };
 // NOLINTEND(readability-identifier-naming)
 
@@ -60,7 +60,7 @@ struct GridExtent {
   friend bool operator==(const GridExtent&, const GridExtent&) = default;
 };
 
-// From six rows on the scroll range follows the rows, also below 0 (deliberate: oddities 25).
+// With six rows or more the scroll range follows the rows, also below 0 (deliberate: oddities 25).
 constexpr GridExtent ExtentOf(const GridGeometry& geometry, int iconCount) {
   const int rows = GridRows(geometry, iconCount);
   if (rows <= rowsWithoutScrolling) return {};
@@ -68,13 +68,13 @@ constexpr GridExtent ExtentOf(const GridGeometry& geometry, int iconCount) {
   return {height, true, height - viewportHeight};
 }
 
-// Where the icon of the entry with the zero-based `index` is drawn.
+// The top-left corner of the icon of the entry with the zero-based `index`.
 constexpr Point IconCorner(const GridGeometry& geometry, int index) {
   return {gridMargin + index % geometry.Columns * geometry.CellPitch,
           gridMargin + index / geometry.Columns * geometry.CellPitch};
 }
 
-// Where the frame of that entry has its top-left corner.
+// The top-left corner of that entry's frame.
 constexpr Point FrameCorner(const GridGeometry& geometry, int index) {
   return {frameMargin + index % geometry.Columns * geometry.CellPitch,
           frameMargin + index / geometry.Columns * geometry.CellPitch};

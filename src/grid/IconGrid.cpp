@@ -75,7 +75,7 @@ void IconGrid::Vsb_Change() {
   ScrollTo(vsb_.Value());
 }
 
-// While the thumb is dragged.
+// Called while the thumb is dragged.
 void IconGrid::Vsb_Scroll() {
   ScrollTo(vsb_.Value());
 }
@@ -106,8 +106,8 @@ void IconGrid::Clear() {
 void IconGrid::Size(const GridGeometry& geometry, int iconCount) {
   const GridExtent extent = ExtentOf(geometry, iconCount);
   const bool isSized = extent_ == extent && vsb_.SmallStep() == geometry.CellPitch;
-  // A search asks once for each folder, and nearly always for the same. A scroll bar that is given its value is drawn
-  // again even if the value stays, which would cost more than the folder's icons.
+  // A search calls this once for each folder, and nearly always with the same values. A scroll bar repaints even if it
+  // is set to the value that it has, which would cost more than the folder's icons.
   if (isSized && vsb_.Value() == 0) return;
   if (!isSized) Fit(geometry, extent);
   ScrollTo(0);
@@ -129,7 +129,7 @@ void IconGrid::Keep() {
 void IconGrid::DrawFrame(Point corner, Point farCorner, bool shown) {
   const SelectedObject pen(picture_.Dc(), GetStockObject(shown ? BLACK_PEN : WHITE_PEN));
   const SelectedObject brush(picture_.Dc(), GetStockObject(NULL_BRUSH));
-  // The far corner belongs to the frame; GDI leaves its own last row and column out.
+  // The far corner is part of the frame; GDI excludes the last row and column.
   const RECT bounds{corner.x, corner.y, farCorner.x + 1, farCorner.y + 1};
   Rectangle(picture_.Dc(), bounds.left, bounds.top, bounds.right, bounds.bottom);
   picIcons_.Invalidate(bounds);

@@ -12,32 +12,31 @@
 
 namespace tarvik {
 
-// The grid on the main window: a viewport, in it a picture box with the picture PicIcons, and beside it the scroll bar
-// Vsb, whose value is how many pixels the picture is scrolled. The three windows belong to the main window; nothing
-// else sizes or moves them.
+// The grid on the main window: a viewport, in it a picture box with the picture PicIcons, and next to it the scroll bar
+// Vsb, whose value is how many pixels the picture is scrolled. The three windows belong to the main window; no other
+// class sizes or moves them.
 class IconGrid final : public GridView {
  public:
   IconGrid();
 
-  // Takes over the viewport `frame` and the scroll bar `bar`, children of one window, and makes the picture box with
-  // the id `pictureId`. The viewport becomes as many pixels wide and high as the grids need, enlarged as the display
-  // enlarges, whatever the size of the dialog's font, and the bar moves to its right edge. The bar's values are the
-  // picture's pixels.
+  // Takes over the viewport `frame` and the scroll bar `bar`, children of one window, and creates the picture box with
+  // the id `pictureId`. The viewport is sized in pixels for the grids and scaled with the display's dpi, independently
+  // of the dialog's font, and the bar moves to its right edge. The bar's values are the picture's pixels.
   void Attach(HWND frame, HWND bar, int pictureId);
-  // Has the picture read aloud as this list, and tells who listens that another of its items is chosen. The content
-  // outlives the windows.
+  // Exposes the picture to screen readers as this list, and notifies them when another of its items is chosen. The
+  // content outlives the windows.
   void Describe(const PictureContent* content) { picIcons_.Describe(content); }
   void TellChosenItem() const { tarvik::TellChosenItem(picIcons_.Window()); }
   // The rectangle of viewport and bar together, in display pixels of their parent window.
   RECT Bounds() const;
-  // Moves both there and makes them `width` display pixels wide together. The height stays, and so does the picture: a
-  // wider viewport is empty to the right of it.
+  // Moves both there and makes them `width` display pixels wide together. The height and the picture do not change: in
+  // a wider viewport the space to the right of the picture is empty.
   void Place(POINT corner, int width);
   void Show(bool shown) const;
 
-  // Scrolls as the user asks by WM_VSCROLL; nothing if that came from another bar.
+  // Handles WM_VSCROLL; does nothing if it came from another bar.
   void OnScroll(HWND bar, int request);
-  // Scrolls by the mouse wheel if `message` is a turn of it over a grid that scrolls; whether it was.
+  // Scrolls if `message` is a turn of the mouse wheel over a grid that scrolls; returns whether it is one.
   bool OnWheel(const MSG& message);
 
   void Clear() override;
@@ -58,7 +57,7 @@ class IconGrid final : public GridView {
   PictureBox picIcons_;
   Surface picture_;
   WheelScroll wheel_;
-  // What the windows were last sized for, if they were.
+  // The size that the windows were last given, if any.
   std::optional<GridExtent> extent_;
 };
 

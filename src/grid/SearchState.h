@@ -7,9 +7,9 @@
 
 namespace tarvik {
 
-// What a search, the grid and the selection share; the main window owns it. A search starts IconCount anew when
-// it counts, the number and the cell when it lists, and frame and current entry when it has listed; one that is refused
-// goes no further than IconCount. Geometry is the user's choice, which no search changes.
+// State shared by a search, the grid and the selection; the main window owns it. A search resets IconCount when it
+// counts, the number and the cell when it lists, and frame and current entry when it has listed; a refused search
+// resets only IconCount. Geometry is the user's choice and is not changed by a search.
 // NOLINTBEGIN(readability-identifier-naming): see Names and ids in docs/design.md
 struct SearchState {
   Integer16 IconCount;     // icons that the counting pass found
@@ -22,7 +22,7 @@ struct SearchState {
   bool IsSearching = false;
   bool IsAnimatedFile = false;
   GridGeometry Geometry = gridGeometries[1];
-  std::string SavedDirPath;  // while a walk moves Dir1: the folder that it is put back to; otherwise empty
+  std::string SavedDirPath;  // while a walk moves Dir1: the folder that is restored afterwards; otherwise empty
 };
 // NOLINTEND(readability-identifier-naming)
 

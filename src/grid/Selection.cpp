@@ -14,7 +14,7 @@ Selection::Selection(SelectionView& view, GridView& grid, IconList& list, Search
                      const std::string& language)
     : view_(view), grid_(grid), list_(list), state_(state), language_(language) {}
 
-// Any button will do, and only Ctrl alone is Ctrl (deliberate: oddities 28).
+// Every button selects, and Ctrl counts only alone (deliberate: oddities 28).
 void Selection::PicIcons_MouseUp(int heldKeys, double x, double y) {
   if (const auto cell = AnsweringCellAt(x, y)) Choose(*cell, heldKeys == ctrlAlone);
 }

@@ -10,8 +10,8 @@
 
 namespace tarvik {
 
-// The main window as the selection sees it, apart from its grid. The members named as in SearchWindow do the same as
-// there, so that one function of the window serves both.
+// The interface of the main window that the selection uses, apart from its grid. Members with the same name as in
+// SearchWindow do the same, so that one function of the window implements both.
 class SelectionView {
  public:
   virtual ~SelectionView() = default;
@@ -24,42 +24,41 @@ class SelectionView {
   virtual void ListChanged() = 0;
 };
 
-// The held keys that count as Ctrl (see PictureEvent): Ctrl alone. With another key beside it a click is a plain one.
+// The held keys that count as Ctrl (see PictureEvent): Ctrl alone. A click with Ctrl and another key is a plain click.
 inline constexpr int ctrlAlone = 2;
 
-// The number that the label shows for an entry: its own, or with `byFile` its icon's index in its file,
-// counted from 1.
+// The number in the label of an entry: its own, or with `byFile` its icon's index in its file, counted from 1.
 int LabelNumber(const IconListEntry& entry, int number, bool byFile);
 
-// Chooses the current entry and the selection, and keeps rows, frames and texts in step.
+// Chooses the current entry and the selection, and keeps rows, frames and texts consistent.
 //
-// Does nothing while a search runs, nor for an entry that the list does not hold, as after a refused search.
+// Does nothing while a search runs, nor for an entry that is not in the list, as after a refused search.
 class Selection {
  public:
   // All five outlive the selection. `language` is read when a text is chosen.
   Selection(SelectionView& view, GridView& grid, IconList& list, SearchState& state, const std::string& language);
 
-  // A button released on the grid at (x, y), in pixels of PicIcons. Every button acts alike. A plain click
-  // leaves the clicked entry selected alone; with Ctrl it adds the entry or takes it out.
+  // Handles a button release on the grid at (x, y), in pixels of PicIcons. Every button acts alike. A plain click
+  // selects only the clicked entry; with Ctrl it toggles the entry.
   void PicIcons_MouseUp(int heldKeys, double x, double y);
 
   // The number of the entry that a click there chooses; nothing if it chooses none.
   std::optional<int> EntryAt(double x, double y) const;
 
-  // A row chosen in the list view, by its number: the rule of a click on the entry's cell.
+  // Chooses a row in the list view, by its number, with the rules of a click on the entry's cell.
   void ChooseRow(int number, int heldKeys);
 
-  // A range of rows in the list view, from where it was begun to where it now ends, which becomes the current
-  // entry. The other rows are deselected unless `keepOthers`. Frames follow, the first cell's too.
+  // Selects a range of rows in the list view, from its start to its end, which becomes the current entry. The other
+  // rows are deselected unless `keepOthers`. Frames follow, including the first cell's.
   void ChooseRange(int from, int to, bool keepOthers);
 
-  // Selects every entry. The current entry and the texts stay.
+  // Selects every entry. The current entry and the texts do not change.
   void ChooseAll();
 
-  // Shows the current entry's label anew, as after the choice of its numbering changed.
+  // Updates the current entry's label, for example after its numbering was changed.
   void ShowCurrentLabel();
 
-  // Selects what is not selected and the reverse. The current entry and the texts stay.
+  // Inverts the selection. The current entry and the texts do not change.
   void mnuRem_Click();
 
  private:
