@@ -2,7 +2,7 @@
 
 namespace tarvik {
 
-// When the slide show ticks. The clock itself is the window's timer, which follows what this says.
+// When the slide show ticks. The clock itself is the window's timer, which uses this interval.
 class SlideShow {
  public:
   bool IsEnabled() const { return isEnabled_; }
@@ -12,8 +12,8 @@ class SlideShow {
   void Start() { isEnabled_ = true; }
   void Stop() { isEnabled_ = false; }
 
-  // A second less or more, as long as the interval lies within its bounds. Whether the show runs stays as it is. True
-  // where the interval changed; the time to the next tick then counts anew.
+  // Changes the interval by a second if it stays within its bounds; whether the show runs does not change. Returns true
+  // if the interval changed; the time to the next tick then starts again.
   bool Faster();
   bool Slower();
 
@@ -21,7 +21,7 @@ class SlideShow {
   static constexpr int initialInterval = 5000;
   static constexpr int step = 1000;
   static constexpr int minForFaster = 1001;     // a shorter interval is not reduced
-  static constexpr int boundForSlower = 65000;  // an interval that long is not raised
+  static constexpr int boundForSlower = 65000;  // an interval of this length is not raised
 
   bool isEnabled_ = false;
   int interval_ = initialInterval;

@@ -8,7 +8,7 @@
 
 namespace tarvik {
 
-// A key of the enhanced view, by its virtual-key code, and the toolbar button that it stands for.
+// A key of the enhanced view, by its virtual-key code, and the toolbar button that it presses.
 struct ViewKey {
   int key;
   int button;
@@ -22,7 +22,7 @@ inline constexpr auto viewKeys = std::to_array<ViewKey>({
     {189, frmBit_tlb_control_Slower},   // the key with -
 });
 
-// The button that a key stands for, or nothing for every other key.
+// The button that a key presses, or nothing for every other key.
 constexpr std::optional<int> ButtonOfKey(int key) {
   const auto* const row = std::ranges::find(viewKeys, key, &ViewKey::key);
   return row == viewKeys.end() ? std::nullopt : std::optional(row->button);

@@ -12,15 +12,15 @@
 namespace tarvik {
 namespace {
 
-// The section and keys of the settings file, and the values that stand for an absent key.
+// The section and keys of the settings file, and the values of absent keys.
 constexpr const char* settingsSection = "Bitmapview";
 constexpr const char* heightKey = "Height";
 constexpr const char* widthKey = "Width";
 constexpr const char* defaultHeight = "5310";
 constexpr const char* defaultWidth = "6645";
 
-// As many decimals as the number needs to come back the same from LeadingNumber. (std::to_chars would give the same
-// text, but its tables are a tenth of the program.)
+// Writes as many decimals as LeadingNumber needs to read the same number back. (std::to_chars would give the same text,
+// but its tables are a tenth of the program.)
 std::string NumberText(float value) {
   constexpr int mostDecimals = 149;  // of the smallest number
   std::array<char, 200> text{};

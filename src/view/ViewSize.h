@@ -15,17 +15,17 @@ struct ViewSize {
   friend bool operator==(const ViewSize&, const ViewSize&) = default;
 };
 
-// The stored size, 5310 twips high and 6645 wide where none is stored. Each text is read by LeadingNumber, so that any
+// The stored size, or 5310 twips high and 6645 wide if none is stored. Each text is read by LeadingNumber, so that any
 // text gives some size.
 ViewSize ReadViewSize(Settings& settings);
 void WriteViewSize(Settings& settings, const ViewSize& size);
 
-// The number that a text begins with; 0 where it begins with none. Blanks before it do not count, the decimal mark is
-// a point whatever the locale. A number beyond single precision comes out as its largest, one too small for it as 0.
+// The number at the start of a text; 0 if there is none. Blanks before it are skipped, the decimal mark is a point
+// whatever the locale. A number beyond single precision becomes the largest one, one too small for it 0.
 float LeadingNumber(std::string_view text);
 
-// A side in the nearest pixels at that many dots an inch, from twips; what no int holds is its largest or smallest. No
-// other bound is kept here: the system has its own for windows.
+// Converts twips to the nearest pixels at that dpi; results beyond the range of int are clamped. There is no other
+// bound: the system has its own for windows.
 int NearestPixels(float twips, int dotsPerInch);
 
 }  // namespace tarvik

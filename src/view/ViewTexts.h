@@ -23,7 +23,7 @@ inline constexpr auto viewTooltips = std::to_array<FormText>({
     {frmBit_tlb_control_Faster, {"Faster", "加快", "加快"}},
 });
 
-// What its controls are called by whoever reads the screen aloud.
+// The names of its controls for screen readers.
 inline constexpr auto viewNames = std::to_array<FormText>({
     {frmBit_lblZoom, {"Enlargement", "放大倍数", "放大倍率"}},
     {frmBit_lblControl, {"Buttons", "按钮", "按鈕"}},
@@ -38,7 +38,7 @@ inline constexpr Text viewCaption{"Enhanced View - [Height=%1, Width=%2]", "浏�
 // The caption for an enlarged picture of that size in pixels; nothing if `code` is no language.
 std::optional<std::string> ViewCaption(int height, int width, std::string_view code);
 
-// Where an entry comes from, for the status bar: its path, " - " and its index.
+// The source of an entry, for the status bar: its path, " - " and its index.
 std::string SourceText(const IconListEntry& entry);
 
 }  // namespace tarvik

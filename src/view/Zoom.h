@@ -4,13 +4,13 @@
 
 namespace tarvik {
 
-// How the enhanced view enlarges: by whole factors, so that every pixel of an icon becomes a square of that side.
+// The enhanced view enlarges by whole factors, so that every pixel of an icon becomes a square of that side.
 inline constexpr int minZoom = 1;
 inline constexpr int maxZoom = 10;
 // The factor that the view opens with, although its zoom list then shows no choice.
 inline constexpr int openingZoom = 5;
 
-// Where the enlarged picture stands in the view, in pixels from its inner top-left corner, whatever the factor.
+// The top-left corner of the enlarged picture in the view, in pixels of the client area, whatever the factor.
 inline constexpr int pictureLeft = 100;
 inline constexpr int pictureTop = 100;
 

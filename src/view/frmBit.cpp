@@ -24,7 +24,7 @@
 namespace tarvik {
 namespace {
 
-// The buttons with their design texts, which stay where the interface is in no language.
+// The buttons with their design texts, which are kept if the interface is in no language.
 constexpr auto buttons = std::to_array<Toolbar::Button>({
     {frmBit_tlb_control_MoveFirst, "First"},
     {frmBit_tlb_control_MovePrev, "Back"},
@@ -37,8 +37,8 @@ constexpr auto buttons = std::to_array<Toolbar::Button>({
     {frmBit_tlb_control_Exit, "Exit", 0, true},
 });
 
-// The buttons' pictures grow with the display's dots an inch, but toolbar and zoom list together stay above the
-// picture's fixed position.
+// The buttons' pictures grow with the display's dpi, but toolbar and zoom list together stay above the picture's fixed
+// position.
 struct ButtonPicture {
   int minDotsPerInch;
   int side;  // pixels
@@ -81,7 +81,7 @@ void frmBit::ShowSelectedEntry(HWND owner) {
   const int number = host_.CurrentIndex() + 1;
   host_.RenderEntry(number);
   Load(owner);
-  const Finally unloads([this] { Unload(); });  // a view without its picture would count as open and never be seen
+  const Finally unloads([this] { Unload(); });  // a view without its picture would count as open but stay invisible
   ShowPicture();
   stepping_.UpdateStatus(number);
   UpdateCaption();  // with the position that the picture took while the view loaded
@@ -114,9 +114,9 @@ void frmBit::Form_Resize() {
   toolbar_.Resize();
   const RECT formerBar = BoundsInParent(Item(frmBit_sbMain));
   SendMessageW(Item(frmBit_sbMain), WM_SIZE, 0, 0);
-  // Wine 10 keeps the picture of a status bar where the bar was when the window grows.
+  // If the window grows, Wine 10 leaves the old image of a status bar at its former position.
   RedrawWindow(Window(), &formerBar, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-  InvalidateRect(Item(frmBit_sbMain), nullptr, TRUE);  // or its size grip stays where it was as well
+  InvalidateRect(Item(frmBit_sbMain), nullptr, TRUE);  // otherwise its size grip is left there as well
   UpdateCaption();
 }
 
@@ -129,7 +129,7 @@ bool frmBit::OnCommand(int id, int code) {
 }
 
 void frmBit::OnTimer(UINT_PTR id) {
-  // A tick may still be under way when the show stops.
+  // A tick may already be queued when the show stops.
   if (id == frmBit_tim_nextpic && show_.IsEnabled()) tim_nextpic_Timer();
 }
 
@@ -140,7 +140,7 @@ bool frmBit::PreviewMessage(const MSG& message) {
 bool frmBit::Form_KeyDown(int key) {
   const auto button = ButtonOfKey(key);
   if (!button) return false;
-  // Through the window, so that a run-time error meets the boundary that every handler has.
+  // Sent to the window, so that a run-time error meets the boundary that every handler has.
   SendMessageW(Window(), WM_COMMAND, MAKEWPARAM(*button, BN_CLICKED), 0);
   return true;
 }
@@ -201,7 +201,7 @@ void frmBit::Faster() {
 }
 
 void frmBit::Exit() {
-  // The window closes when the toolbar is done with its click.
+  // The window closes after the toolbar has finished its click.
   PostMessageW(Window(), WM_CLOSE, 0, 0);
 }
 
@@ -241,7 +241,7 @@ void frmBit::LoadViewSize() {
   MoveOntoScreen();
 }
 
-// A large window, centred, could reach under the taskbar.
+// A large, centred window could extend under the taskbar.
 void frmBit::MoveOntoScreen() {
   const RECT area = WorkArea();
   RECT bounds{};
@@ -256,7 +256,7 @@ void frmBit::SaveViewSize() {
   WINDOWPLACEMENT placement{};
   placement.length = sizeof placement;
   GetWindowPlacement(Window(), &placement);
-  // A minimised window has no size of its own; it counts with the size that it comes back to.
+  // A minimised window has no useful size; the size to which it is restored is used.
   const SIZE size = IsIconic(Window()) != FALSE ? SizeOf(placement.rcNormalPosition) : WindowSize(Window());
   const int dotsPerInch = DotsPerInchOf(Window()).across;
   WriteViewSize(settings_,
@@ -287,7 +287,7 @@ void frmBit::Zoom(int factor) {
   Enlarge();
 }
 
-// Every pixel of the picture becomes a square block; no colour is mixed.
+// Every pixel of the picture becomes a square block; colours are not interpolated.
 void frmBit::Enlarge() {
   SetStretchBltMode(enlarged_.Dc(), COLORONCOLOR);
   StretchBlt(enlarged_.Dc(), 0, 0, enlarged_.Width(), enlarged_.Height(), picture_.Dc(), 0, 0, picture_.Width(),

@@ -17,25 +17,25 @@
 namespace tarvik {
 
 // The enhanced view: one entry of the icon list enlarged, steps through the list, and a slide show. It has no icons of
-// its own: every picture is rendered by the main window, and copied.
+// its own: every picture is rendered by the main window and copied.
 class frmBit final : public Form {
  public:
   // `host`, `state` and `settings` outlive the view.
   frmBit(Application& application, EnhancedViewHost& host, const ProgramState& state, Settings& settings);
 
-  // What the main window calls on a double click; returns when the view is closed. Does nothing where the list is
-  // empty or the view is open. In this order: the selected entry is rendered, its picture is taken over (which loads
-  // the view: from here on the host's ViewOpen is set), its source goes to the status bar, and the view is shown,
-  // modal to `owner`. The view opens with the slide show off and its initial interval, whatever it was left with, and
-  // at 500 % with no zoom chosen (deliberate: oddities 51).
+  // Called by the main window on a double click; returns when the view is closed. Does nothing if the list is empty or
+  // the view is open. In this order: the selected entry is rendered, its picture is copied (which loads the view: from
+  // here on the host's ViewOpen is set), its source is written to the status bar, and the view is shown, modal to
+  // `owner`. The view opens with the slide show off and its initial interval, whatever its state was when it was
+  // closed, and at 500 % with no zoom chosen (deliberate: oddities 51).
   void ShowSelectedEntry(HWND owner);
 
   // Sets all texts of the loaded view in the current language: the buttons' tooltips and the caption.
   void SetLanguageOfForm();
 
   // Called by the message loop before a key reaches the control that has the focus. The view's keys, pressed without
-  // Alt, act whatever has the focus and go no further. Every other key is left alone: it works the zoom list and the
-  // window's menu as everywhere, and Escape and Enter do nothing.
+  // Alt, act wherever the focus is and are not passed on. Every other key keeps its usual effect on the zoom list and
+  // the window's menu, and Escape and Enter do nothing.
   bool PreviewMessage(const MSG& message) override;
 
  private:
@@ -83,7 +83,7 @@ class frmBit final : public Form {
 
   Toolbar toolbar_;
   PictureBox img_;
-  Surface picture_;   // as the main window drew it
+  Surface picture_;   // as rendered by the main window
   Surface enlarged_;  // what img_ shows
 };
 
