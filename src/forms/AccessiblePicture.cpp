@@ -16,7 +16,7 @@
 namespace tarvik {
 namespace {
 
-// IID_IAccessible, which no library at hand defines.
+// IID_IAccessible, which no available library defines.
 constexpr GUID accessibleInterface{0x618736E0, 0x3C3D, 0x11CF, {0x81, 0x0C, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}};
 
 constexpr LONG itemNumber = 1;
@@ -28,15 +28,15 @@ VARIANT Number(LONG value) {
   return variant;
 }
 
-// The interface has no destructor of its own to be virtual; the object is deleted as what it is.
+// The interface has no virtual destructor; the object is deleted through its own type.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
-// The list itself is child 0 and the chosen item child 1. What is not told here, such as parent and state of the list,
-// the system's own object for the window tells.
+// The list itself is child 0 and the chosen item child 1. Everything else, such as parent and state of the list, is
+// answered by the system's own object for the window.
 class AccessiblePicture final : public IAccessible, NonCopyable {
  public:
-  // Takes over `base`.
+  // Takes ownership of `base`.
   AccessiblePicture(HWND window, const PictureContent* (*content)(HWND), IAccessible* base)
       : window_(window), content_(content), base_(base) {}
 
@@ -121,7 +121,7 @@ class AccessiblePicture final : public IAccessible, NonCopyable {
   HRESULT STDMETHODCALLTYPE put_accValue(VARIANT /*child*/, BSTR /*value*/) override { return E_NOTIMPL; }
 
  private:
-  ~AccessiblePicture() { base_->Release(); }  // by its last user
+  ~AccessiblePicture() { base_->Release(); }  // called by the last Release
 
   static bool IsItem(const VARIANT& child) { return child.vt == VT_I4 && child.lVal == itemNumber; }
   static HRESULT None(BSTR* text) {
@@ -129,7 +129,7 @@ class AccessiblePicture final : public IAccessible, NonCopyable {
     *text = nullptr;
     return S_FALSE;
   }
-  // None too if there is no memory for it: nothing may be thrown out of an object that other processes use.
+  // Also empty if memory runs out: no exception may leave an object that other processes use.
   std::optional<PictureContent::ChosenPart> ChosenItem() const noexcept try {
     const PictureContent* content = content_(window_);
     return content != nullptr ? content->chosenItem() : std::nullopt;
@@ -180,7 +180,7 @@ LRESULT AnswerForPicture(HWND window, WPARAM wParam, const PictureContent* (*con
   const auto makeBase = late::CreateStdAccessibleObject.Find();
   const auto answer = late::LresultFromObject.Find();
   if (makeBase == nullptr || answer == nullptr) return 0;
-  // Others go on using the answer from their processes, for as long as this one runs.
+  // Other processes use the returned object for as long as this one runs.
   static const ComUse use;
   void* base = nullptr;
   if (FAILED(makeBase(window, OBJID_CLIENT, accessibleInterface, &base))) return 0;

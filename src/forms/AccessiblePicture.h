@@ -8,7 +8,7 @@
 
 namespace tarvik {
 
-// What a picture box shows, for whoever has the screen read aloud: a list of which one item is chosen.
+// The content of a picture box for screen readers: a list of which one item is chosen.
 struct PictureContent {
   struct ChosenPart {
     std::string name;  // UTF-8
@@ -20,10 +20,11 @@ struct PictureContent {
 };
 
 // The answer to WM_GETOBJECT for the client area of a picture box; 0, which leaves the answer to the system, if the
-// system cannot pass one on. `content` is asked whenever the answer is used, and returns null once the window is gone.
+// system cannot marshal the object. `content` is called whenever the answer is used, and returns null once the window
+// is destroyed.
 LRESULT AnswerForPicture(HWND window, WPARAM wParam, const PictureContent* (*content)(HWND window));
 
-// Tells those who listen that another item is chosen.
+// Notifies screen readers that another item is chosen.
 void TellChosenItem(HWND window);
 
 }  // namespace tarvik

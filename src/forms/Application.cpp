@@ -12,7 +12,7 @@
 namespace tarvik {
 namespace {
 
-// Alt+F4, which closes the window whatever has the focus: Wine's drop-down lists would keep it for themselves.
+// Alt+F4 closes the window wherever the focus is: Wine's drop-down lists would handle it themselves.
 bool IsCloseKey(const MSG& message) {
   return message.message == WM_SYSKEYDOWN && message.wParam == VK_F4;
 }
@@ -32,7 +32,7 @@ void Application::Run() {
 void Application::RunWhile(const std::function<bool()>& condition) {
   MSG message;
   while (condition()) {
-    // Below zero means an error, which only a wrong argument can cause; zero is the quit message.
+    // Below zero is an error, which only a wrong argument can cause; zero is WM_QUIT.
     if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
       PostQuitMessage(static_cast<int>(message.wParam));
       return;
@@ -59,14 +59,14 @@ void Application::DoEvents() {
 void Application::EndSession() {
   hasEnded_ = true;
   while (!forms_.empty()) forms_.back()->Unload();
-  // The system's dialogs and message boxes have loops of their own, which end with this message.
+  // The system's dialogs and message boxes have their own loops, which end with this message.
   PostQuitMessage(0);
 }
 
 void Application::Serve(MSG& message) {
   if (Form* form = FormOf(message.hwnd)) {
     if (form->TakesMessage(message)) return;
-    // A letter that a menu and a control both underline is the menu's; the system would look for controls first.
+    // If a menu and a control underline the same letter, the menu gets it; the system would search the controls first.
     if (message.message == WM_SYSCHAR && form->TheMenu().OpensBy(static_cast<wchar_t>(message.wParam))) {
       SendMessageW(form->Window(), WM_SYSCOMMAND, SC_KEYMENU, static_cast<LPARAM>(message.wParam));
       return;

@@ -12,11 +12,11 @@ namespace tarvik {
 
 class Form;
 
-// What waited for a form is given up: the form's owner was closed under it, or the session ends. It is no error, and
-// the handler that waited ends without a message.
+// Thrown when waiting for a form is abandoned: the form's owner was closed, or the session ends. It is not an error,
+// and the handler that waited ends without a message.
 class GivenUp {};
 
-// The program's message loop and the forms that are loaded. One per program, on the user-interface thread.
+// The program's message loop and the loaded forms. One per program, on the user-interface thread.
 class Application : NonCopyable {
  public:
   explicit Application(HINSTANCE instance);
@@ -26,19 +26,19 @@ class Application : NonCopyable {
 
   // Shows a run-time error that stopped a handler of `form`. Set once, before the first form loads.
   std::function<void(Form& form, const RuntimeError& error)> onRuntimeError;
-  // Opens the user's guide for a form in which F1 was pressed, if it is set. Set once, before the first form loads.
+  // Opens the user's guide for a form in which F1 was pressed. May be empty. Set once, before the first form loads.
   std::function<void(Form& form)> onHelp;
 
   // Serves messages until no form is loaded.
   void Run();
-  // Serves messages while `condition` holds; waits for the next one.
+  // Serves messages while `condition` is true; blocks until the next one.
   void RunWhile(const std::function<bool()>& condition);
-  // Whether anything waits to be served: a message, one that another thread sent, a timer, a part to paint.
+  // Whether anything is waiting to be served: a posted message, one sent by another thread, a timer, a region to paint.
   static bool HasMessages();
-  // Serves the messages that wait now and returns.
+  // Serves the waiting messages and returns.
   void DoEvents();
 
-  // Unloads every form, the one that was loaded last first, and ends all waiting for messages. Whatever waits gives up.
+  // Unloads every form, the last loaded first, and ends all waiting for messages by GivenUp.
   void EndSession();
   bool HasEnded() const { return hasEnded_; }
 

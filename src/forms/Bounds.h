@@ -4,7 +4,7 @@
 
 namespace tarvik {
 
-// A window's rectangle in the inner pixels of its parent.
+// A window's rectangle in client coordinates of its parent, in pixels.
 inline RECT BoundsInParent(HWND window) {
   RECT bounds{};
   GetWindowRect(window, &bounds);

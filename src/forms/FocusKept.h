@@ -6,8 +6,9 @@
 
 namespace tarvik {
 
-// Takes the keyboard focus from a form's control for as long as it lives, and gives it back unless the user has moved
-// it meanwhile. A control that is disabled by then does not get it, for it would swallow every key: the next one does.
+// Takes the keyboard focus from a form's control during its lifetime, and gives it back unless the user has moved it
+// meanwhile. If the control is disabled by then, the next one gets the focus, because a disabled control would swallow
+// every key.
 class FocusKept : NonCopyable {
  public:
   explicit FocusKept(HWND form) : form_(form), focus_(GetFocus()) {
@@ -27,8 +28,8 @@ class FocusKept : NonCopyable {
 
  private:
   HWND form_;
-  HWND focus_;                // null if it was not the form's to give
-  HWND meanwhile_ = nullptr;  // the form, or the control that a dialog passes its own focus on to
+  HWND focus_;                // null if the focus was not in the form
+  HWND meanwhile_ = nullptr;  // the form, or the control to which a dialog passes the focus
 };
 
 }  // namespace tarvik

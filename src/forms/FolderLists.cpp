@@ -18,13 +18,13 @@ LRESULT Send(HWND window, UINT message, std::size_t wParam = 0, LPARAM lParam = 
   return SendMessageW(window, message, wParam, lParam);
 }
 
-// Where a list stands: its first visible row and the chosen one, each by what it shows.
+// The scroll position of a list: its first visible row and the chosen one, each identified by its text.
 class ListPosition {
  public:
   ListPosition(HWND list, const std::vector<std::string>& rows)
       : list_(list), top_(Row(rows, LB_GETTOPINDEX)), chosen_(Row(rows, LB_GETCURSEL)) {}
 
-  // Has the list, filled with these rows, stand there again as far as they are still there.
+  // Restores the position in the list, filled with these rows, as far as the rows still exist.
   void Restore(const std::vector<std::string>& rows) const {
     Find(rows, chosen_, LB_SETCURSEL);
     Find(rows, top_, LB_SETTOPINDEX);
@@ -45,7 +45,7 @@ class ListPosition {
   std::string chosen_;
 };
 
-// Lets a long list be filled without painting each row, until what this returns ends.
+// Fills a long list without painting each row; painting resumes when the returned object is destroyed.
 Finally StopRedraw(HWND window) {
   Send(window, WM_SETREDRAW, FALSE);
   return Finally([window] {
@@ -54,14 +54,14 @@ Finally StopRedraw(HWND window) {
   });
 }
 
-// Lets a list box scroll as far to the right as its longest row goes. Rows are measured as they are given to it, in its
-// own font.
+// Sets the horizontal scroll range of a list box to its longest row. Rows are measured in the list's font as they are
+// added.
 class RowWidths {
  public:
   explicit RowWidths(HWND list)
       : list_(list), dc_(list), font_(dc_.get(), reinterpret_cast<HGDIOBJ>(Send(list, WM_GETFONT))) {}
 
-  // A text that begins so many pixels from the left.
+  // Adds a text that begins `left` pixels from the left.
   void Add(const std::string& text, int left) {
     const std::wstring wide = ToWide(text);
     SIZE size{};
@@ -69,7 +69,7 @@ class RowWidths {
     widest_ = std::max<int>(widest_, left + size.cx);
   }
 
-  // Also goes back to the left end.
+  // Also scrolls back to the left end.
   void Apply() const {
     const int margin = GetSystemMetrics(SM_CXEDGE) * 2;  // so that the last letter does not touch the edge
     Send(list_, WM_HSCROLL, SB_LEFT);
@@ -88,8 +88,8 @@ void AddRow(HWND window, UINT message, const std::string& text) {
   Send(window, message, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
 }
 
-// The height of an owner-drawn list's rows: that of its font's letters and a quarter more. The list itself takes the
-// system's font instead of its own.
+// The row height of an owner-drawn list: that of its font's letters and a quarter more. By default the list would use
+// the system font instead of its own.
 int RowHeight(HWND list) {
   const WindowDc dc(list);
   const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(list, WM_GETFONT, 0, 0)));
@@ -98,7 +98,7 @@ int RowHeight(HWND list) {
   return metrics.tmHeight * 5 / 4;
 }
 
-// A folder's pictogram, drawn in the row's own height: the tab, the body, and for an open folder the raised flap.
+// Draws a folder's pictogram as high as the row: the tab, the body, and for an open folder the raised flap.
 void DrawFolder(HDC dc, RECT bounds, bool open) {
   const int unit = std::max(1L, (bounds.bottom - bounds.top) / 12);
   const BrushHandle body(CreateSolidBrush(RGB(255, 214, 102)));
@@ -216,7 +216,7 @@ void DirListBox::OpenChosen() {
   SetPath(std::string(shown_[static_cast<std::size_t>(chosen)]));
 }
 
-// The picture takes a quarter more than the row is high.
+// The picture is a quarter wider than the row is high.
 int DirListBox::TextLeft(int row, int rowHeight) const {
   return std::min(row, current_ + 1) * rowHeight / 2 + rowHeight * 5 / 4;
 }
@@ -242,12 +242,12 @@ void DirListBox::Draw(const DRAWITEMSTRUCT& item) const {
 
 LRESULT CALLBACK DirListBox::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
                                        DWORD_PTR /*data*/) {
-  // Enter opens a folder; the window's default button must not take it.
+  // Enter opens a folder instead of pressing the window's default button.
   const bool asksForEnter = message == WM_GETDLGCODE && lParam != 0 &&
                             reinterpret_cast<const MSG*>(lParam)->message == WM_KEYDOWN && wParam == VK_RETURN;
   if (asksForEnter) return DLGC_WANTMESSAGE;
   if (message == WM_KEYDOWN && wParam == VK_RETURN) {
-    // As a double click, so that the form's handler boundary stands around it.
+    // Sent as a double click, so that the form's handler boundary applies.
     SendMessageW(GetParent(window), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(window), LBN_DBLCLK),
                  reinterpret_cast<LPARAM>(window));
     return 0;

@@ -10,8 +10,9 @@
 
 namespace tarvik {
 
-// Three controls that together choose a folder: drives in a drop-down list, folders and files in list boxes. They are
-// told how to read folders, so that they know nothing of the disk. Paths and names are UTF-8.
+// Three controls that together choose a folder: drives in a drop-down list, folders and files in list boxes. The
+// functions that read folders are passed in, so the controls do not access the disk themselves. Paths and names are
+// UTF-8.
 
 // A drop-down list of drives.
 class DriveListBox {
@@ -21,14 +22,14 @@ class DriveListBox {
     std::string text;  // as the list shows it
   };
 
-  // `list` reads the drives each time the list opens, so that one that was plugged in is there.
+  // `list` reads the drives each time the list opens, so that a drive plugged in meanwhile is listed.
   void Attach(HWND comboBox, std::function<std::vector<Drive>()> list);
 
-  // The chosen drive's root, "C:\"; empty where none is chosen.
+  // The chosen drive's root, "C:\"; empty if none is chosen.
   std::string Root() const;
-  // Chooses the drive that a path is on; no choice where the path has no drive of the list.
+  // Chooses the drive of a path; chooses none if that drive is not in the list.
   void ChooseDriveOf(const std::string& path);
-  // Reads the drives anew and keeps the choice.
+  // Reads the drives again and keeps the choice.
   void Refresh();
 
  private:
@@ -48,14 +49,14 @@ class DirListBox {
   void Attach(HWND listBox, ListFolders list, std::function<void()> change);
 
   const std::string& Path() const { return path_; }
-  // Points the list at a folder, which need not be readable; then runs `change` where that is another folder.
+  // Points the list at a folder, which need not be readable; then runs `change` if the folder is a different one.
   void SetPath(const std::string& folder);
-  // Fills the visible list anew.
+  // Fills the visible list again.
   void Refresh() { Show(Rows()); }
-  // Reads the folder again. Rows that are right already keep their place and choice; if others came or went, the chosen
-  // one stays chosen if it is still there.
+  // Reads the folder again. If the rows are unchanged, scroll position and choice are kept; otherwise the chosen row
+  // stays chosen if it still exists.
   void Reread();
-  // Until the end of what this returns, a changed path leaves the visible list alone; then the folder is read again.
+  // While the returned object exists, a changed path does not update the visible list; then the folder is read again.
   Finally Hold();
 
   // Opens the chosen folder.
@@ -68,15 +69,15 @@ class DirListBox {
 
   std::vector<std::string> Rows() const;
   void Show(std::vector<std::string> rows);
-  int TextLeft(int row, int rowHeight) const;  // where a row's text begins, in pixels
+  int TextLeft(int row, int rowHeight) const;  // x position of a row's text, in pixels
 
   HWND window_ = nullptr;
   ListFolders list_;
   std::function<void()> change_;
   std::string path_;
   std::string shownPath_;
-  std::vector<std::string> shown_;  // full paths, one a row
-  int current_ = 0;                 // the row of the shown path; sub-folders stand below it
+  std::vector<std::string> shown_;  // full paths, one per row
+  int current_ = 0;                 // the row of the shown path; its sub-folders follow
   bool held_ = false;
 };
 
@@ -107,7 +108,7 @@ class FileListBox {
   std::string pattern_;
   std::string shownPath_;
   std::string shownPattern_;
-  std::vector<std::string> shown_;  // names, one a row
+  std::vector<std::string> shown_;  // names, one per row
   bool held_ = false;
 };
 

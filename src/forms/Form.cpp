@@ -17,7 +17,7 @@
 namespace tarvik {
 namespace {
 
-// Where a context menu was asked for; a key asks with no point.
+// The point at which a context menu was requested; none if it was requested by a key.
 std::optional<POINT> PointOf(LPARAM request) {
   if (request == -1) return std::nullopt;
   return POINT{GET_X_LPARAM(request), GET_Y_LPARAM(request)};
@@ -28,7 +28,7 @@ std::optional<POINT> PointOf(LPARAM request) {
 Form::Form(Application& application, int dialogId) : application_(application), dialogId_(dialogId) {}
 
 Form::~Form() {
-  // A form that ends while loaded does not run Form_Unload: its derived part is gone by now.
+  // A form that is destroyed while loaded does not run Form_Unload: its derived part no longer exists.
   if (IsLoaded()) Close();
 }
 
@@ -46,7 +46,8 @@ void Form::Load(HWND owner) {
 
 void Form::Show(HWND owner) {
   Load(owner);
-  // A caption shows the icon at once. Without one, the task bar alone does, and the window is up sooner.
+  // A caption shows the icon at once. Without a caption only the task bar shows it, so it is set later and the window
+  // appears sooner.
   const bool hasCaption = (GetWindowLongPtrW(window_, GWL_STYLE) & WS_CAPTION) == WS_CAPTION;
   if (hasCaption) SetIcons();
   ShowWindow(window_, SW_SHOW);
@@ -55,7 +56,7 @@ void Form::Show(HWND owner) {
   FocusFirst();
 }
 
-// The small one comes first: otherwise the system makes one out of the large one.
+// The small one comes first: otherwise the system derives it from the large one.
 void Form::SetIcons() {
   for (const int size : {ICON_SMALL, ICON_BIG}) {
     const int side = GetSystemMetrics(size == ICON_BIG ? SM_CXICON : SM_CXSMICON);
@@ -65,7 +66,7 @@ void Form::SetIcons() {
   }
 }
 
-// Most systems have done it by now, but whoever refuses it in WM_INITDIALOG has to see to it.
+// We returned FALSE from WM_INITDIALOG, so setting the focus is our job; most systems have done it by now.
 void Form::FocusFirst() {
   if (IsChild(window_, GetFocus()) != FALSE) return;
   const HWND first = GetNextDlgTabItem(window_, nullptr, FALSE);
@@ -104,7 +105,7 @@ void Form::Close() {
   Skn.reset();
 }
 
-// The form has no window from here on.
+// From here on the form has no window.
 void Form::Release() {
   application_.Remove(*this);
   window_ = nullptr;
@@ -182,13 +183,13 @@ void Form::OnRuntimeError(const RuntimeError& error) {
 }
 void Form::OnDrop(const std::string& /*path*/) {}
 
-// What the shell's DragAcceptFiles does, without loading the shell at the start.
+// Does what the shell's DragAcceptFiles does, without loading the shell at start-up.
 void Form::AcceptDrops() const {
   SetWindowLongPtrW(window_, GWL_EXSTYLE, GetWindowLongPtrW(window_, GWL_EXSTYLE) | WS_EX_ACCEPTFILES);
 }
 
-// The boundary of every handler: what it throws goes no further, neither through the system nor out of the message
-// loop. An exception of the processor, as for memory that is not there, is no std::exception and ends the program.
+// The boundary of every handler: exceptions do not leave it, neither through the system nor out of the message loop. A
+// processor exception, such as an access violation, is no std::exception and ends the program.
 template <typename Handler>
 INT_PTR Form::Guard(Handler handler) {
   try {
@@ -199,7 +200,7 @@ INT_PTR Form::Guard(Handler handler) {
     }
   } catch (const GivenUp&) {  // NOLINT(bugprone-empty-catch): it is no error
   } catch (const std::exception&) {
-    MessageBeep(MB_ICONEXCLAMATION);  // there is not even the memory for a message
+    MessageBeep(MB_ICONEXCLAMATION);  // memory does not even suffice for a message
   }
   return TRUE;
 }
@@ -215,7 +216,7 @@ INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam,
   return form->Guard([&] { return form->Handle(message, wParam, lParam); });
 }
 
-// Nothing may be thrown through the system, so Load throws it on.
+// Nothing may be thrown through the system, so the exception is stored and Load rethrows it.
 void Form::Initialise(HWND window) {
   window_ = window;
   try {
@@ -281,7 +282,7 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       PassOn(message);
       return FALSE;
     case WM_DESTROY:
-      // Not by Close, which lets the window go first: the system destroys it together with its owner.
+      // Not by Close, which releases the window first: the system destroys it together with its owner.
       Form_Unload();
       return FALSE;
     case WM_NCDESTROY:
@@ -295,7 +296,7 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-// Controls that keep colours or a theme of their own learn of a change from their window alone.
+// Controls that cache colours or a theme learn of a change only from their parent window.
 void Form::PassOn(UINT message) const {
   EnumChildWindows(
       window_,

@@ -17,7 +17,7 @@
 
 namespace tarvik {
 
-// One row of a window's wiring: which notification of which control, or of which run of controls with consecutive
+// One row of a window's event table: which notification of which control, or of which run of controls with consecutive
 // ids, goes to which handler. A menu item's notification code is 0, as a button's click is.
 template <typename Window>
 struct Event {
@@ -50,32 +50,32 @@ void Call(typename detail::OwnerOf<decltype(Method)>::Type& window, int index) {
   }
 }
 
-// A member function of a part of the window, one of its data members, as an event's handler.
+// A member function of one of the window's data members, as an event's handler.
 template <auto Part, auto Method>
 void CallOn(typename detail::OwnerOf<decltype(Part)>::Type& window, int /*index*/) {
   (window.*Part.*Method)();
 }
 
 // A window made from a dialog template. It is loaded (the window exists, hidden, and Form_Load has run), shown modeless
-// or modal, hidden, and unloaded. A std::exception thrown by a handler is shown by the application as a run-time error
-// and leaves the window as it is.
+// or modal, hidden, and unloaded. A std::exception thrown by a handler is shown by the application as a run-time error;
+// the window stays open.
 class Form : NonCopyable {
  public:
   Form(Application& application, int dialogId);
   virtual ~Form();
 
-  // Makes the window, hidden, owned by `owner` or by none, and runs Form_Load. Does nothing where it is loaded. Throws
-  // NoWindowError if the system makes no window, and what Form_Load throws; the form is then not loaded, and
+  // Creates the window, hidden, owned by `owner` or by none, and runs Form_Load. Does nothing if it is loaded. Throws
+  // NoWindowError if the system creates no window, and what Form_Load throws; the form is then not loaded, and
   // Form_Unload does not run.
   void Load(HWND owner = nullptr);
-  // Loads the form where it is not loaded, and shows it.
+  // Loads the form if it is not loaded, and shows it.
   void Show(HWND owner = nullptr);
-  // The same, and serves messages until the form is hidden or unloaded; the owner takes no input meanwhile. Throws
-  // GivenUp where the owner is closed first, or the session ends.
+  // The same, and serves messages until the form is hidden or unloaded; the owner is disabled meanwhile. Throws GivenUp
+  // if the owner is closed first, or the session ends.
   void ShowModal(HWND owner);
   void Hide();
-  // Runs Form_Unload and destroys the window, and with it the windows that it owns: forms among them are unloaded. Does
-  // nothing where it is not loaded.
+  // Runs Form_Unload and destroys the window together with the windows that it owns: forms among them are unloaded.
+  // Does nothing if it is not loaded.
   void Unload();
 
   bool IsLoaded() const { return window_ != nullptr; }
@@ -94,7 +94,7 @@ class Form : NonCopyable {
   void SetChecked(int id, bool checked);
   const Menu& TheMenu() const { return menu_; }
 
-  // What paints the window in a skin, if anything does; held until the window is gone.
+  // The object that paints the window in a skin, or null; kept until the window is destroyed.
   std::shared_ptr<void> Skn;
 
   // Called before a message reaches its window; true swallows it.
@@ -108,11 +108,13 @@ class Form : NonCopyable {
   virtual bool Form_QueryEndSession() { return true; }
   virtual void Form_Unload() {}
   virtual void Form_Resize() {}
-  // The least size that the user can give the window, frame and caption included, in display pixels; 0 asks for none.
+  // The smallest size that the user can give the window, frame and caption included, in display pixels; 0 sets no
+  // limit.
   virtual SIZE SmallestSize() const { return {}; }
   virtual void Form_Paint(HDC) {}
 
-  // A command of a control or menu item; false where nobody handles it. Forms hand it to Dispatch with their table.
+  // A command of a control or menu item; returns false if there is no handler. Forms pass it to Dispatch with their
+  // table.
   virtual bool OnCommand(int id, int code);
   virtual void OnScroll(HWND scrollBar, int request);
   virtual void OnTimer(UINT_PTR id);
@@ -123,12 +125,13 @@ class Form : NonCopyable {
   virtual void OnDrawItem(const DRAWITEMSTRUCT& item);
   // F1, wherever the focus is in the window, in one of its menus or in a message box over it. Opens the user's guide.
   virtual void OnHelp();
-  // A right click on a control, Shift+F10 or the menu key, at a point of the screen; none if a key asked. False leaves
-  // it to the system.
+  // A right click on a control, Shift+F10 or the menu key, at a point of the screen; no point if it was a key. Returns
+  // false to leave it to the system.
   virtual bool OnContextMenu(HWND control, std::optional<POINT> point);
-  // A handler ended with a run-time error, which is shown to the user until this returns.
+  // Called when a handler ended with a run-time error, which is shown to the user until this returns.
   virtual void OnRuntimeError(const RuntimeError& error);
-  // Files or folders were dropped on the window; the path of the first one, UTF-8. AcceptDrops asks for that.
+  // Called when files or folders were dropped on the window, with the path of the first one, UTF-8. Enabled by
+  // AcceptDrops.
   virtual void OnDrop(const std::string& path);
   void AcceptDrops() const;
 
@@ -144,7 +147,7 @@ class Form : NonCopyable {
   }
 
  private:
-  friend class Application;  // hands over messages
+  friend class Application;  // forwards messages
   static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   template <typename Handler>
   INT_PTR Guard(Handler handler);
@@ -163,9 +166,9 @@ class Form : NonCopyable {
   Application& application_;
   int dialogId_;
   HWND window_ = nullptr;
-  HWND modalOwner_ = nullptr;  // the window that takes no input while this one is shown modally
+  HWND modalOwner_ = nullptr;  // the window that is disabled while this one is shown modally
   bool wentWithOwner_ = false;
-  std::exception_ptr loadFailure_;  // what Form_Load threw, while the system makes the window
+  std::exception_ptr loadFailure_;  // what Form_Load threw, until the system has created the window
   Menu menu_;
 };
 

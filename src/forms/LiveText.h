@@ -9,8 +9,8 @@
 
 namespace tarvik {
 
-// A text on the screen that changes faster than anyone reads. Showing a text costs more than most of the work it tells
-// of, so it is shown a few dozen times a second at most; the last one is never lost.
+// A text on the screen that changes faster than it can be read. Showing a text costs more than most of the work it
+// reports, so it is shown at most a few dozen times a second; the last one is always shown.
 class LiveText {
  public:
   // `show` puts the text on the screen.
@@ -21,11 +21,11 @@ class LiveText {
     waiting_ = text;
     ShowIfDue();
   }
-  // Shows a text that waits, if its time has come.
+  // Shows a pending text if it is due.
   void ShowIfDue() {
     if (shows_.IsDue()) Flush();
   }
-  // Shows a text that waits, now.
+  // Shows a pending text now.
   void Flush() {
     if (!waiting_) return;
     const std::string text = std::move(*waiting_);

@@ -10,7 +10,7 @@
 namespace tarvik {
 namespace {
 
-// Where an item stands: the system's own look-up by id does not find sub-menus on every Windows.
+// The position of an item: the system's own look-up by id does not find sub-menus on every Windows.
 struct ItemPosition {
   HMENU menu;
   UINT position;

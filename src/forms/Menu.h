@@ -8,7 +8,7 @@
 
 namespace tarvik {
 
-// A window's menu bar, its items and sub-menus reached by id. The window destroys it.
+// A window's menu bar. Items and sub-menus are accessed by id. The window destroys it.
 class Menu {
  public:
   void Attach(HWND window);
@@ -19,10 +19,10 @@ class Menu {
   bool IsEnabled(int id) const;
   void SetChecked(int id, bool checked);
   bool IsChecked(int id) const;
-  // Shows a menu of its own with copies of these items and sub-menus, in that order, 0 for a line, and its top left
-  // corner at that point of the screen. Returns the id of the item that the user chose, 0 if none.
+  // Shows a pop-up menu with copies of these items and sub-menus, in that order, 0 for a separator, with its top left
+  // corner at that point of the screen. Returns the id of the chosen item, 0 if none.
   int Choose(std::span<const int> ids, POINT corner) const;
-  // Whether the bar has a menu that can be opened and underlines that letter, in either case.
+  // Whether the bar has an enabled menu that underlines that letter, in either case.
   bool OpensBy(wchar_t letter) const;
 
  private:

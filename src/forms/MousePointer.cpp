@@ -5,7 +5,7 @@
 namespace tarvik {
 namespace {
 
-// On the one user-interface thread.
+// Used only on the user-interface thread.
 int hourglasses = 0;
 HCURSOR former = nullptr;
 

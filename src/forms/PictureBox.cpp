@@ -23,7 +23,7 @@ constexpr int altMask = 4;
 struct PointerMessage {
   UINT message;
   PictureEvent::Kind kind;
-  int button;  // 0: whichever are held down
+  int button;  // 0: the buttons that are held
 };
 
 constexpr PointerMessage pointerMessages[] = {
@@ -42,20 +42,20 @@ int HeldKeys(WPARAM keys) {
          (GetKeyState(VK_MENU) < 0 ? altMask : 0);
 }
 
-// What belongs to a box, for as long as its window exists.
+// The data of a box, which lives as long as its window.
 struct Box {
   const Surface* picture = nullptr;
   const PictureContent* content = nullptr;
   DisplayScale scale;
   int rowsAbove = 0;  // display rows of the picture that begin above the window's top, see PictureBox::ScrollTo
-  std::optional<Surface> tile;  // in which enlarged parts are made, one after the other
+  std::optional<Surface> tile;  // reused to make the enlarged parts one by one
 };
 
-// Small enough for a processor's cache.
+// Small enough for the processor's cache.
 constexpr int tileWidth = 256;
 constexpr int tileHeight = 64;
 
-// Sides of windows and positions in messages have 16 bits.
+// Window sides and positions in messages are limited to 16 bits.
 constexpr int maxSide = 32767;
 
 Box* BoxOf(HWND window) {
@@ -118,7 +118,7 @@ void Paint(HWND window) {
   EndPaint(window, &paint);
 }
 
-// Keeps the pointer's messages coming while a button is held, wherever it goes.
+// Captures the mouse while a button is held, so that its messages arrive wherever the pointer goes.
 void Capture(HWND window, const PictureEvent& event, WPARAM keys) {
   if (event.kind == PictureEvent::Kind::MouseDown || event.kind == PictureEvent::Kind::DblClick) SetCapture(window);
   if (event.kind == PictureEvent::Kind::MouseUp && HeldButtons(keys) == 0) ReleaseCapture();
@@ -172,8 +172,8 @@ void PictureBox::FitPicture() {
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// The window is as high as the picture on the display and moves with it. Where that is higher than a window can be, the
-// window stays where it is, and the picture moves in it.
+// The window is as high as the picture on the display and moves with it. If the picture is higher than a window can be,
+// the window does not move, and the picture scrolls inside it.
 void PictureBox::ScrollTo(int row) {
   Box& box = *BoxOf(window_);
   const int top = box.scale.ToDisplay(row);
@@ -214,7 +214,7 @@ LRESULT CALLBACK PictureBox::WindowProcedure(HWND window, UINT message, WPARAM w
     return 0;
   }
   if (message == WM_ERASEBKGND) return 1;
-  // The number of the object has 32 bits, whatever the parameter has.
+  // The object id has 32 bits, whatever the parameter's width.
   if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == OBJID_CLIENT && ContentOf(window) != nullptr) {
     if (const LRESULT answer = AnswerForPicture(window, wParam, ContentOf); answer != 0) return answer;
   }

@@ -19,14 +19,13 @@ struct PictureEvent {
   int y = 0;
 };
 
-// The keys held at the key press or pointer message that is being served, as a mask (see PictureEvent).
+// The keys held during the key or pointer message that is being served, as a mask (see PictureEvent).
 int HeldKeys();
 
-// A child window that shows a picture kept in memory, or its background where it has none. In a dialog template its
-// class is "TarvikPicture". It sends eventMessage to its form, lParam pointing at a PictureEvent.
+// A child window that shows a picture kept in memory, or its background if it has none. Its class in dialog templates
+// is "TarvikPicture". It sends eventMessage to its form, with lParam pointing to a PictureEvent.
 //
-// A box can show its picture enlarged. It alone knows: whoever draws on the picture or gets its events counts in the
-// picture's pixels.
+// A box can show its picture enlarged. The scale is internal to the box: drawing and events use the picture's pixels.
 class PictureBox {
  public:
   static constexpr UINT eventMessage = WM_APP + 1;
@@ -37,27 +36,27 @@ class PictureBox {
   PictureBox() = default;
   explicit PictureBox(HWND window) : window_(window) {}
 
-  // A picture box inside another window, with its top-left corner at (0, 0). Throws NoWindowError if the system makes
-  // none.
+  // Creates a picture box inside another window, with its top-left corner at (0, 0). Throws NoWindowError if the system
+  // creates none.
   static PictureBox Create(HWND parent, int id, int width, int height);
 
   HWND Window() const { return window_; }
-  // Shows `picture` from now on, with its top-left corner in the window's; null for none. The picture belongs to the
+  // Shows `picture` from now on, aligned to the window's top-left corner; null for none. The picture belongs to the
   // caller and must outlive the window or be replaced.
   void Show(const Surface* picture);
-  // Has the box show its pictures enlarged. Throws OutOfMemoryError if there is no memory for it.
+  // Makes the box show its pictures enlarged. Throws OutOfMemoryError if memory runs out.
   void EnlargeBy(const DisplayScale& scale);
-  // Gives the window the size that its picture has on the display.
+  // Resizes the window to the size of its picture on the display.
   void FitPicture();
   // Moves the window so that the picture's row `row` is at the top of the parent window, and its left edge at the left.
   void ScrollTo(int row);
-  // Has the picture read aloud as this list. The content outlives the window.
+  // Exposes the picture to screen readers as this list. The content outlives the window.
   void Describe(const PictureContent* content);
-  // Repaints from the picture, now.
+  // Repaints from the picture immediately.
   void Refresh();
-  // Repaints this part of the picture some time.
+  // Marks this part of the picture for repainting.
   void Invalidate(const RECT& part);
-  // Where a part of the picture of the box `window` is in that window, in display pixels.
+  // The rectangle of a part of the picture in the box `window`, in display pixels of that window.
   static RECT PlaceInWindow(HWND window, const RECT& part);
 
  private:

@@ -9,7 +9,7 @@
 namespace tarvik {
 namespace {
 
-constexpr LPARAM shownFor = 30'000;  // milliseconds; the control takes up to 32767
+constexpr LPARAM shownFor = 30'000;  // milliseconds; the control accepts up to 32767
 
 bool IsMouse(UINT message) {
   return message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
@@ -23,14 +23,14 @@ void PictureTip::Attach(HWND picture) {
   const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(picture, GWLP_HINSTANCE));
   tip_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
                          CW_USEDEFAULT, CW_USEDEFAULT, GetAncestor(picture, GA_ROOT), nullptr, instance, nullptr);
-  // With a greatest width the control shows several lines. It breaks none at this one.
+  // With a maximum width the control shows several lines. At this width it breaks none of them.
   SendMessageW(tip_, TTM_SETMAXTIPWIDTH, 0, GetSystemMetrics(SM_CXVIRTUALSCREEN));
   SendMessageW(tip_, TTM_SETDELAYTIME, TTDT_AUTOPOP, shownFor);
   SetWindowSubclass(picture, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
-// The part is the whole picture box with a number of its own: the control compares numbers, so that no part needs its
-// place on the screen.
+// The tool is the whole picture box with a new id for each text: the control compares ids, so a tool needs no
+// rectangle.
 void PictureTip::Say(const std::string& text) {
   if (text == text_ || tip_ == nullptr) return;
   Remove();
@@ -62,8 +62,8 @@ void PictureTip::Relay(UINT message, WPARAM wParam, LPARAM lParam) const {
   SendMessageW(tip_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
 }
 
-// A press hides the tip before it is served, as it may open a window; of a move the form is told first, so that the tip
-// control finds the part where the pointer has come to rest.
+// A press hides the tip before it is served, because it may open a window; a move is sent to the form first, so that
+// the tip control finds the part under the resting pointer.
 LRESULT CALLBACK PictureTip::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                        DWORD_PTR data) {
   auto& tip = *reinterpret_cast<PictureTip*>(data);

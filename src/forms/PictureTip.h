@@ -8,15 +8,16 @@
 
 namespace tarvik {
 
-// A tool tip of a picture box, shown when the pointer rests over a part of the picture. The form says at each move what
-// is under the pointer.
+// A tool tip of a picture box, shown when the pointer rests over a part of the picture. At each move the form sets the
+// text for the part under the pointer.
 class PictureTip : NonCopyable {
  public:
-  // Makes the tip for a picture box, whose form's window destroys it with itself. This object outlives the picture box.
+  // Creates the tip for a picture box. The form's window owns it and destroys it. This object outlives the picture box.
   void Attach(HWND picture);
 
-  // What is under the pointer now, UTF-8, with "\r\n" between lines; empty for nothing. Another text is another tip:
-  // one that is shown goes, and the new one comes when the pointer rests. Call it also if what is there has changed.
+  // Sets the text for the part under the pointer, UTF-8, with "\r\n" between lines; empty for no tip. A different text
+  // is a different tip: a visible one is hidden, and the new one appears when the pointer rests. Also call it if the
+  // part under the pointer has changed.
   void Say(const std::string& text);
 
  private:
@@ -28,7 +29,7 @@ class PictureTip : NonCopyable {
   HWND tip_ = nullptr;
   HWND picture_ = nullptr;
   std::string text_;
-  UINT_PTR number_ = 0;  // of the part under the pointer; each new text is a new part
+  UINT_PTR number_ = 0;  // of the tool under the pointer; each new text is a new tool
 };
 
 }  // namespace tarvik

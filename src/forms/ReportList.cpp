@@ -17,7 +17,7 @@ FontHandle BoldFontOf(HWND window) {
   return FontHandle(CreateFontIndirectW(&font));
 }
 
-// After it another row can be under the pointer.
+// After these messages another row can be under the pointer.
 bool Scrolls(UINT message) {
   return message == WM_VSCROLL || message == WM_HSCROLL || message == WM_MOUSEWHEEL || message == WM_KEYDOWN;
 }
@@ -45,7 +45,7 @@ LRESULT CALLBACK ReportList::Procedure(HWND window, UINT message, WPARAM wParam,
   return key.message == WM_KEYDOWN && key.wParam == VK_RETURN ? answer | DLGC_WANTMESSAGE : answer;
 }
 
-// Nothing may be thrown through the system; without memory there is no tip.
+// Nothing may be thrown through the system; if memory runs out, there is no tip.
 void ReportList::SayWhatIsCut(POINT pointer) noexcept {
   try {
     tip_.Say(CutTextAt(pointer));
@@ -65,7 +65,7 @@ std::string ReportList::CutTextAt(POINT pointer) const {
   RECT seen{};
   IntersectRect(&seen, &cell, &inside);
   std::string text = cellText(hit.iItem, hit.iSubItem);
-  const int margins = 6 * GetSystemMetrics(SM_CXEDGE);  // what the control leaves free on both sides of a text
+  const int margins = 6 * GetSystemMetrics(SM_CXEDGE);  // the control's padding on both sides of a text
   return TextWidth(hit.iItem, text) + margins > seen.right - seen.left ? text : std::string();
 }
 
@@ -165,8 +165,9 @@ void ReportList::Watch(const NMHDR& header) {
       break;
     case NM_CLICK:
     case NM_RCLICK:
-      // A plain click on the one selected row changes nothing that the control would tell, and Wine's control keeps a
-      // range of one row to itself. With Ctrl alone it always tells, and a row must not be turned round twice.
+      // A plain click on the only selected row sends no LVN_ITEMCHANGED, and Wine's control does not report a range of
+      // one row, so the click itself is noted. With Ctrl alone the control always sends one; a row must not be toggled
+      // twice.
       if (GetKeyState(VK_CONTROL) >= 0 || GetKeyState(VK_SHIFT) < 0) Note();
       choice_.asked = header.code == NM_RCLICK && ListView_GetSelectedCount(window_) > 1;
       break;
@@ -175,7 +176,7 @@ void ReportList::Watch(const NMHDR& header) {
   }
 }
 
-// One choice can bring many notifications; it is told once, with the keys of the first.
+// One choice can send many notifications; it is reported once, with the keys of the first.
 void ReportList::Note() {
   if (choicePending_) return;
   choicePending_ = true;
@@ -205,7 +206,7 @@ LRESULT ReportList::Draw(NMLVCUSTOMDRAW& draw) {
   if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
   const Look look = lookOf(static_cast<int>(draw.nmcd.dwItemSpec));
   if (!look.bold) return CDRF_DODEFAULT;
-  // A bold row is the visible selection; the control's own highlight would hide its colour.
+  // A bold row marks the selection; the control's own highlight would hide its colour.
   draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
   draw.clrText = look.color;
   SelectObject(draw.nmcd.hdc, bold_.get());

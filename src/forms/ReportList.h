@@ -14,64 +14,65 @@
 
 namespace tarvik {
 
-// A report list that holds nothing itself: it asks for each cell when it draws it. Rows are counted from 0. Enter on a
-// row does not press the window's default button but sends NM_RETURN. A cell too narrow for its text shows it in a tool
-// tip when the pointer rests on it.
+// A virtual report list: it stores nothing and requests each cell's text when it draws it. Rows are counted from 0.
+// Enter on a row does not press the window's default button but sends NM_RETURN. A cell too narrow for its text shows
+// it in a tool tip when the pointer rests on it.
 class ReportList {
  public:
   struct Column {
     std::string_view title;  // UTF-8
-    int width;               // pixels, which the display enlarges
+    int width;               // pixels at 96 dpi
   };
 
-  // How a row is written.
+  // The style of a row.
   struct Look {
     bool bold = false;
     COLORREF color = 0;
   };
 
-  // What a row shows, UTF-8, and how it is written.
+  // The text of a cell, UTF-8, and the style of its row.
   std::function<std::string(int row, int column)> cellText;
   std::function<Look(int row)> lookOf;
 
-  // What the user chose: a row with its keys.
+  // The user's choice: a row and the held keys.
   struct Choice {
     int row = -1;     // -1 for a point below the last row
-    int anchor = -1;  // where a range with Shift began
+    int anchor = -1;  // the start of a range with Shift
     bool shift = false;
     bool ctrl = false;
     bool asked = false;  // a right click on one of several selected rows, which stay selected
   };
-  // Runs after the user chose; it decides what is selected and sets it by SetSelection.
+  // Runs after the user chose; decides what is selected and sets it by SetSelection.
   std::function<void(const Choice& choice)> choose;
 
   void Attach(HWND listView);
   HWND Window() const { return window_; }
 
-  // Removes rows and columns, then makes the columns.
+  // Removes all rows and columns, then creates these columns.
   void Clear(std::span<const Column> columns);
-  // Shows that many rows and draws them anew.
+  // Sets the number of rows and redraws them.
   void SetRowCount(int rows);
-  // The same for rows that are only added to: those already there are left alone.
+  // The same if rows are only appended: existing rows are not redrawn.
   void GrowTo(int rows);
-  // Draws what is visible anew.
+  // Redraws the visible rows.
   void Refresh();
 
-  // Selects the rows that `isSelected` names, and no other.
+  // Selects exactly the rows for which `isSelected` returns true.
   void SetSelection(const std::function<bool(int row)>& isSelected);
 
-  // The row that the keys act on, -1 for none; SetFocusedRow has ranges with Shift begin there.
+  // The row with the keyboard focus, -1 for none; after SetFocusedRow, ranges with Shift start there.
   int FocusedRow() const;
   void SetFocusedRow(int row);
   // The row at a point of the screen, -1 for none.
   int RowAt(POINT point) const;
-  // Where a menu for that row opens, on the screen. The row is scrolled into sight.
+  // The screen position at which a menu for that row opens. The row is scrolled into view.
   POINT MenuCorner(int row) const;
 
-  // Answers the control's questions for texts and looks, and watches for choices; the notification's result.
+  // Handles the control's notifications: returns texts and styles, and notes choices. Returns the notification's
+  // result.
   LRESULT Notify(NMHDR& header);
-  // Runs choose for a choice that Notify saw. The form calls it on choiceMessage, which the control's notifications
-  // lead to once for each choice, after the control is done with it.
+  // Runs choose for a choice that Notify noted. The form calls it on choiceMessage, which is posted once for each
+  // choice, so that the control has finished handling it.
   static constexpr UINT choiceMessage = WM_APP + 2;
   void TellChoice();
 

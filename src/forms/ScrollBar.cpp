@@ -11,7 +11,7 @@ void ScrollBar::SetRange(const Range& range, int page) {
   info.cbSize = sizeof info;
   info.fMask = SIF_RANGE | SIF_PAGE;
   info.nMin = range.minimum;
-  // The control stops the thumb one page before its end; adding the page makes the maximum reachable.
+  // The control stops the thumb one page before the end of its range; adding the page makes the maximum reachable.
   info.nMax = range.maximum + page - 1;
   info.nPage = static_cast<UINT>(page);
   SetScrollInfo(window_, SB_CTL, &info, TRUE);
@@ -55,7 +55,7 @@ bool ScrollBar::Scroll(int request) {
 }
 
 int ScrollBar::ThumbValue() const {
-  // The message itself carries 16 bits only.
+  // The message itself carries only 16 bits.
   SCROLLINFO info{};
   info.cbSize = sizeof info;
   info.fMask = SIF_TRACKPOS;

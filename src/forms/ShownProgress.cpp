@@ -34,7 +34,7 @@ Finally ShownProgress::ShowError() {
   if (bar_ == nullptr) return {};
   const bool isEmpty = errors_++ == 0 && shownState_ != TaskBar::State::Normal;
   ShowState(TaskBar::State::Error);
-  if (isEmpty) bar_->SetShare(window_, 1, 1);  // it would show no colour
+  if (isEmpty) bar_->SetShare(window_, 1, 1);  // an empty bar would show no colour
   return Finally([this] {
     if (--errors_ == 0) Show();
   });

@@ -10,15 +10,14 @@
 
 namespace tarvik {
 
-// The progress of a window's commands on its task-bar button. A command that is over soon shows nothing there, and a
-// longer one no more often than it is seen: once for each hundredth.
+// The progress of a window's commands on its task-bar button. A short command shows nothing there; a longer one is
+// updated only when the change is visible: once per hundredth.
 class ShownProgress {
  public:
-  // Milliseconds since any moment.
+  // Milliseconds since an arbitrary moment.
   using Clock = std::function<ULONGLONG()>;
 
-  // Nothing is shown in the first `delay` milliseconds of a command, nor ever without a task bar, which outlives this
-  // object.
+  // Nothing is shown in the first `delay` milliseconds of a command, or if `bar` is null. `bar` outlives this object.
   explicit ShownProgress(TaskBar* bar, ULONGLONG delay, Clock clock = GetTickCount64)
       : bar_(bar), delay_(delay), clock_(std::move(clock)) {}
 
@@ -26,7 +25,7 @@ class ShownProgress {
 
   void Set(const Progress& progress);
 
-  // Shows an error at once, until what this returns ends; then the progress is shown again, if there is any.
+  // Shows an error at once, until the returned object is destroyed; then the progress is shown again, if there is any.
   Finally ShowError();
 
  private:
@@ -39,7 +38,7 @@ class ShownProgress {
   HWND window_ = nullptr;
   Progress progress_;
   ULONGLONG begunAt_ = 0;
-  int errors_ = 0;  // that are shown
+  int errors_ = 0;  // how many are shown
   TaskBar::State shownState_ = TaskBar::State::None;
   int shownHundredths_ = -1;  // in the state Normal
 };

@@ -12,13 +12,14 @@
 
 namespace tarvik {
 
-// The system's task bar. Its object is made at the first call, so that a program that shows no progress loads nothing.
+// The system's task bar. Its COM object is created by the first call, so a program that shows no progress loads
+// nothing.
 class SystemTaskBar final : public TaskBar {
  public:
   void SetState(HWND window, State state) override;
   void SetShare(HWND window, int done, int total) override;
 
-  // Whether the system has such an object, which is then made.
+  // Whether the system provides that object; creates it.
   bool IsThere() { return List() != nullptr; }
 
  private:
@@ -28,7 +29,7 @@ class SystemTaskBar final : public TaskBar {
   ITaskbarList3* List();
 
   bool asked_ = false;
-  std::optional<ComUse> use_;  // ends after the list's release
+  std::optional<ComUse> use_;  // ends after the list is released
   std::unique_ptr<ITaskbarList3, Release> list_;
 };
 

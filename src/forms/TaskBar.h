@@ -4,8 +4,7 @@
 
 namespace tarvik {
 
-// The buttons that windows have in the task bar. Nothing here fails: a system that shows no progress there does
-// nothing.
+// The windows' buttons in the task bar. No call fails: a system without task-bar progress does nothing.
 class TaskBar {
  public:
   enum class State { None, Indeterminate, Normal, Error };
@@ -13,7 +12,7 @@ class TaskBar {
   virtual ~TaskBar() = default;
 
   virtual void SetState(HWND window, State state) = 0;
-  // How full the button is in the states Normal and Error: `done` of `total`, which is above 0.
+  // Sets how full the button is in the states Normal and Error: `done` of `total`, which is above 0.
   virtual void SetShare(HWND window, int done, int total) = 0;
 };
 

@@ -10,7 +10,7 @@
 namespace tarvik {
 namespace {
 
-// A list of the buttons' pictures, in their order; `iconOf` says which icon resource a button shows.
+// An image list with the buttons' pictures, in their order; `iconOf` returns the icon resource of a button.
 template <typename IconOf>
 ImageListHandle Pictures(HINSTANCE instance, int side, std::span<const Toolbar::Button> buttons, IconOf iconOf) {
   ImageListHandle list(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, static_cast<int>(buttons.size()), 0));
@@ -27,7 +27,7 @@ ImageListHandle Pictures(HINSTANCE instance, int side, std::span<const Toolbar::
 void Toolbar::Attach(HWND toolbar, int side, std::span<const Button> buttons) {
   window_ = toolbar;
   AddToolbarKeys(window_);
-  // The pictures outlive the control: they are the same for the next one.
+  // The pictures outlive the control and are used for the next one too.
   if (!pictures_) {
     const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(window_, GWLP_HINSTANCE));
     pictures_ = Pictures(instance, side, buttons, [](const Button& button) { return button.id; });
@@ -36,7 +36,7 @@ void Toolbar::Attach(HWND toolbar, int side, std::span<const Button> buttons) {
     });
   }
   SendMessageW(window_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
-  // In this style a text does not show beside its button, but as its tooltip.
+  // In this style a button's text is not shown next to it, but as its tooltip.
   SendMessageW(window_, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);
   SendMessageW(window_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures_.get()));
   SendMessageW(window_, TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(disabledPictures_.get()));

@@ -15,7 +15,7 @@ int CountButtons(HWND toolbar) {
   return static_cast<int>(SendMessageW(toolbar, TB_BUTTONCOUNT, 0, 0));
 }
 
-// A button by its index, which counts the gaps between groups too.
+// A button by its index, which also counts the separators.
 TBBUTTON ButtonAt(HWND toolbar, int index) {
   TBBUTTON button{};
   SendMessageW(toolbar, TB_GETBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&button));
@@ -26,14 +26,14 @@ bool CanBePressed(const TBBUTTON& button) {
   return (button.fsStyle & BTNS_SEP) == 0 && (button.fsState & TBSTATE_ENABLED) != 0;
 }
 
-// The control's hot button is the one that screen readers take for the focused one.
+// Screen readers treat the control's hot button as the focused one.
 void ShowMark(HWND toolbar, int index, bool focused) {
   SendMessageW(toolbar, TB_SETHOTITEM, focused ? static_cast<WPARAM>(index) : static_cast<WPARAM>(-1), 0);
   InvalidateRect(toolbar, nullptr, TRUE);
   if (focused) NotifyWinEvent(EVENT_OBJECT_FOCUS, toolbar, OBJID_CLIENT, index + 1);
 }
 
-// Marks the first button that can be pressed, from `index` on in the direction of `step`; none if there is none.
+// Marks the first enabled button from `index` on in the direction of `step`; does nothing if there is none.
 void MarkFrom(HWND toolbar, int index, int step) {
   for (; index >= 0 && index < CountButtons(toolbar); index += step) {
     if (!CanBePressed(ButtonAt(toolbar, index))) continue;
@@ -81,7 +81,7 @@ bool OnKey(HWND toolbar, WPARAM key, int marked) {
   }
 }
 
-// Arrow keys always, and of the others Enter, which would press the window's default button.
+// Arrow keys always, and Enter if it is the key, because it would press the window's default button.
 LRESULT WantedKeys(const MSG* key) {
   const bool isEnter = key != nullptr && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
   return DLGC_WANTARROWS | (isEnter ? DLGC_WANTMESSAGE : 0);
