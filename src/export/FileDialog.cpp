@@ -16,8 +16,8 @@
 namespace tarvik {
 namespace {
 
-// What the dialogs give back, in characters, each of which may be three bytes of UTF-8. A path that does not fit is
-// cut, its extension first.
+// The buffer size for paths that the dialogs return, in characters, each of which may be three bytes of UTF-8. A path
+// that does not fit is truncated, beginning with its extension.
 constexpr std::size_t bytesPerCharacter = 3;
 constexpr std::size_t fileBufferSize = 260 * bytesPerCharacter;
 constexpr std::size_t titleBufferSize = 256 * bytesPerCharacter;
@@ -25,7 +25,7 @@ constexpr DWORD saveFlags = OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUS
 constexpr DWORD openFlags = OFN_HIDEREADONLY | OFN_FILEMUSTEXIST;
 static_assert(saveFlags == 2054 && openFlags == 4100);
 
-// The record as it was before fields were added to it, which every version of the dialogs takes.
+// The NT 4 size of OPENFILENAMEA, which every version of the dialogs accepts.
 constexpr DWORD recordSize = offsetof(OPENFILENAMEA, lpTemplateName) + sizeof(OPENFILENAMEA::lpTemplateName);
 static_assert(recordSize == (sizeof(void*) == 4 ? 76 : 136));
 
@@ -35,7 +35,7 @@ std::wstring CurrentFolder() {
   return folder;
 }
 
-// No name holds a "?", but the dialog puts one where the code page lacks a character.
+// A file name cannot contain "?", but the dialog substitutes it for characters missing from the code page.
 std::string Checked(std::string path) {
   if (path.find('?') != std::string::npos) throw UnheldNameError(path);
   return path;
@@ -61,7 +61,7 @@ std::string Ask(BOOL(WINAPI* show)(OPENFILENAMEA*), DWORD flags, HWND owner, con
   record.lpstrTitle = title.c_str();
   record.Flags = flags;
   record.lpstrDefExt = extension.c_str();
-  // The dialogs move the program to the folder that was chosen.
+  // The dialogs change the program's current folder to the chosen one.
   const std::wstring folder = CurrentFolder();
   const Finally movesBack([&folder] { SetCurrentDirectoryW(folder.c_str()); });
   const bool chosen = show(&record) != 0;

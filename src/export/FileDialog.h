@@ -9,10 +9,9 @@
 
 namespace tarvik {
 
-// The platform's dialogs for a file to save and a file to open, modal over `owner`. The chosen path, UTF-8, with the
-// extension that the dialog adds where none was typed; empty where the user cancelled. `code` is the language of the
-// title. Throws UnheldNameError if the dialog cannot give back the name that was chosen. The program's current folder
-// is what it was before.
+// The platform's Save and Open dialogs, modal to `owner`. Return the chosen path, UTF-8, with the extension that the
+// dialog adds if none was typed; empty if the user cancelled. `code` is the language of the title. Throw
+// UnheldNameError if the dialog cannot return the chosen name. The program's current folder is restored afterwards.
 std::string AskForFileToSave(HWND owner, const FileDialogMode& mode, std::string_view code);
 std::string AskForFileToOpen(HWND owner, const FileDialogMode& mode, std::string_view code);
 

@@ -10,9 +10,9 @@
 
 namespace tarvik {
 
-// What one use of the common file dialog looks like.
+// The parameters of one use of the common file dialog.
 struct FileDialogMode {
-  Text titleSuffix;                   // behind the product's name
+  Text titleSuffix;                   // follows the product's name
   std::string_view defaultExtension;  // with its dot
   std::span<const FileType> filters;
 };
@@ -30,7 +30,7 @@ inline constexpr FileDialogMode saveAsCursorMode{
 // The dialog's title in the language of `code`: the product's name and the mode's suffix, or the name alone.
 std::string FileDialogTitle(const FileDialogMode& mode, std::string_view code);
 
-// The filters as the platform takes them: description and pattern in turn, each ended by a NUL, and one more NUL.
+// The filters in the platform's form: description and pattern in turn, each terminated by a NUL, and one more NUL.
 std::string FilterList(std::span<const FileType> filters);
 
 }  // namespace tarvik

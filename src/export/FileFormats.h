@@ -7,12 +7,12 @@
 
 #include "export/ModMicroArt.h"
 
-// The numbers of the icon, cursor and bitmap formats: what each file holds besides sizes and pixels.
+// Constants of the icon, cursor and bitmap formats: what each file contains apart from sizes and pixels.
 namespace tarvik::fileFormats {
 
 using ModMicroArt::ColorClass;
 
-// Sizes of the headers, in bytes, in the order they stand in a file.
+// Sizes of the headers, in bytes, in file order.
 inline constexpr std::uint32_t directoryHeaderBytes = 6;
 inline constexpr std::uint32_t directoryEntryBytes = 16;
 inline constexpr std::uint32_t bitmapFileHeaderBytes = 14;
@@ -27,9 +27,9 @@ inline constexpr std::uint8_t colorCount = 0;       // of a directory entry, at 
 inline constexpr std::uint16_t planes = 1;
 inline constexpr std::uint32_t noCompression = 0;
 inline constexpr std::int32_t resolutionNotGiven = 0;
-inline constexpr std::uint32_t allColors = 0;  // as many as the depth has, all of them important
+inline constexpr std::uint32_t allColors = 0;  // as many as the depth allows, all of them important
 
-// How a colour class is written.
+// The parameters of a colour class in a file.
 struct Depth {
   ColorClass colors = ColorClass::TrueColor;
   std::uint16_t bitsPerPixel = 0;

@@ -18,10 +18,10 @@ namespace {
 
 constexpr int formWidth = 7510;  // twips
 constexpr int formHeight = 6295;
-constexpr int edge = 2;  // pixels that a sunken edge takes on each side
+constexpr int edge = 2;  // pixels of a sunken edge on each side
 constexpr int leftButton = 1;
 
-// A sunken edge on the form, close around a control.
+// Draws a sunken edge on the form, directly around a control.
 void DrawEdgeAround(HDC dc, HWND control) {
   RECT frame = BoundsInParent(control);
   InflateRect(&frame, edge, edge);
@@ -48,8 +48,8 @@ void FrmHotSpot::Form_Load() {
   basInitEntry::CenterForm(*this);
 }
 
-// The picture is counted in pixels, whatever the size of the dialog's font; it stands as far from the left as from the
-// top and the bottom.
+// The picture's size is in pixels, whatever the size of the dialog's font; its left margin equals those at the top and
+// bottom.
 void FrmHotSpot::LayOutPicture() {
   RECT client;
   GetClientRect(Window(), &client);
@@ -74,7 +74,7 @@ bool FrmHotSpot::OnCommand(int id, int code) {
 
 void FrmHotSpot::OnPicture(const PictureEvent& event) {
   if (event.kind == PictureEvent::Kind::MouseMove) return PicCursor_MouseMove(event);
-  // The second press of a double click is a press.
+  // The second press of a double click counts as a press.
   if (event.kind == PictureEvent::Kind::MouseDown || event.kind == PictureEvent::Kind::DblClick)
     PicCursor_MouseDown(event);
 }

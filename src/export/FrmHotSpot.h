@@ -11,15 +11,15 @@
 
 namespace tarvik {
 
-// The hot-spot picker: shows the current icon magnified, and OK makes the pixel that was clicked the hot spot of the
+// The hot-spot picker: shows the current icon magnified, and OK stores the clicked pixel as the hot spot in the
 // program's state. Opening it sets the state's cancel flag; only OK clears it.
 class FrmHotSpot final : public Form {
  public:
   // `state` outlives the form.
   FrmHotSpot(Application& application, ProgramState& state);
 
-  // Sets the picture that the form shows when it loads next: the icon magnified, top-left aligned in a square of the
-  // state's MagnifiedSide. It is copied then.
+  // Sets the picture for the next load of the form: the icon magnified, top-left aligned in a square of the state's
+  // MagnifiedSide. It is copied when the form loads.
   void InitPicture(const PixelView& picMain) { picMain_ = &picMain; }
 
  private:

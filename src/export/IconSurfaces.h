@@ -5,7 +5,7 @@
 
 namespace tarvik {
 
-// The background that icons are captured over: what a bitmap shows where its icon is transparent.
+// The background that icons are captured over: the colour of a bitmap at the icon's transparent pixels.
 inline constexpr Color surfaceBackground = white;
 
 // The three surfaces of a capture, as pictures in memory: square, all of one size.
@@ -17,8 +17,8 @@ class IconSurfaces {
   // Changes the size of all three and clears them.
   void Resize(int size);
 
-  // Makes them those of a blank icon: transparent everywhere, and black there, because any other colour under a
-  // transparent pixel changes what lies below the icon. Returns them, to take an icon into.
+  // Clears them to a blank icon: transparent everywhere, and black there, because any other colour under a transparent
+  // pixel changes what is below the icon. Returns them, ready to capture an icon.
   ModMicroArt::CaptureSurfaces Clear();
   const Surface& Mask() const { return mask_; }
   const Surface& Image() const { return image_; }

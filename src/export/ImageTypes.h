@@ -7,7 +7,7 @@
 
 namespace tarvik {
 
-// A kind of file that a dialog offers: what it says about it, and the pattern of its names.
+// A file type in a dialog: its description, and the pattern of its names.
 struct FileType {
   std::string_view description;
   std::string_view pattern;
@@ -27,8 +27,8 @@ inline constexpr std::array<FileType, 9> imageTypes{{
     {"EMF Files (*.emf)", "*.emf"},
 }};
 
-// The extension of an image type by its row in a list that starts with all of them, ".bmp" for 0; none for a row
-// behind them.
+// The extension of an image type by its row in a list that starts with all of them, ".bmp" for 0; none for a row after
+// them.
 constexpr std::optional<std::string_view> ImageExtension(int row) {
   if (row < 0 || row >= static_cast<int>(imageTypes.size())) return std::nullopt;
   return imageTypes[static_cast<std::size_t>(row)].pattern.substr(1);

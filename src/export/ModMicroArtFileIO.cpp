@@ -58,8 +58,8 @@ void WriteInfoHeader(int width, int height, const Depth& depth, std::uint32_t im
   file.U16(depth.bitsPerPixel);
   file.U32(fileFormats::noCompression);
   file.U32(imageBytes);
-  file.I32(fileFormats::resolutionNotGiven);  // across
-  file.I32(fileFormats::resolutionNotGiven);  // down
+  file.I32(fileFormats::resolutionNotGiven);  // horizontal
+  file.I32(fileFormats::resolutionNotGiven);  // vertical
   file.U32(fileFormats::allColors);           // used
   file.U32(fileFormats::allColors);           // important
 }
@@ -73,7 +73,7 @@ void WritePalette(std::span<const Color> palette, ByteWriter& file) {
   }
 }
 
-// The palette of the class, then the pixels. `buildPalette` makes the palette of a 256-colour picture.
+// Writes the palette of the class, then the pixels. `buildPalette` builds the palette of a 256-colour picture.
 void WritePaletteAndPixels(const PixelCopy& pixels, ColorClass colors, Palette256 (*buildPalette)(const PixelCopy&),
                            ByteWriter& file) {
   switch (colors) {
@@ -97,7 +97,7 @@ void WritePaletteAndPixels(const PixelCopy& pixels, ColorClass colors, Palette25
   }
 }
 
-// Enough for the whole file at once: headers, the largest palette, true-colour pixels and a mask.
+// An upper bound for the size of the file: headers, the largest palette, true-colour pixels and a mask.
 std::size_t SizeBound(const PixelCopy& pixels) {
   constexpr std::size_t headersAndPalette = 2048;
   return headersAndPalette + pixels.Pixels().size() * 4;

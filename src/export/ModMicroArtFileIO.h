@@ -9,24 +9,24 @@
 #include "export/ModMicroArt.h"
 
 // Writes one captured icon as a file: icon, cursor or Windows bitmap, at the size of its surfaces and the depth of its
-// colour class. The layouts are those of Windows icon resources and device-independent bitmaps, with a few
-// deliberate differences, named below. Each writer refuses to replace a read-only file,
-// and returns false if a step of the sink fails; the file may then be there in part. None shows a message.
+// colour class. The layouts are those of Windows icon resources and device-independent bitmaps, with a few deliberate
+// differences, listed below. Each writer refuses to replace a read-only file, and returns false if a step of the sink
+// fails; a partial file may then remain. No writer shows a message.
 namespace tarvik::ModMicroArtFileIO {
 
-// The pixel of a cursor that points, from the top-left corner of the icon.
+// The hot spot of a cursor in pixels, from the top-left corner of the icon.
 struct HotSpot {
   Integer16 x;
   Integer16 y;
   friend bool operator==(const HotSpot&, const HotSpot&) = default;
 };
 
-// Writes an icon file (.ico) of the image and the mask: pixels that are white in the mask are transparent. `colors`
+// Writes an icon file (.ico) from the image and the mask: pixels that are white in the mask are transparent. `colors`
 // is the image's class with black and white in fixed slots.
 bool WriteIcon(const PixelView& mask, const PixelView& image, ModMicroArt::ColorClass colors, const std::string& path,
                FileSink& sink);
 
-// Writes a cursor file (.cur): the same with the hot spot.
+// Writes a cursor file (.cur): the same plus the hot spot.
 bool WriteCursor(const PixelView& mask, const PixelView& image, ModMicroArt::ColorClass colors, HotSpot hotSpot,
                  const std::string& path, FileSink& sink);
 
@@ -37,8 +37,7 @@ bool WriteCursor(const PixelView& mask, const PixelView& image, ModMicroArt::Col
 //  - in 256 colours black is written as 0 and white as 255, wherever the palette has them (deliberate: oddities 37).
 bool WriteBitmap(const PixelView& composed, ModMicroArt::ColorClass colors, const std::string& path, FileSink& sink);
 
-// The bytes of a true-colour bitmap (.bmp) that reads back as exactly the same pixels, whatever the size: what is
-// handed to an encoder.
+// A true-colour bitmap (.bmp) that decodes to exactly the same pixels at any size: the input of an encoder.
 ByteWriter TrueColorBitmap(const PixelView& composed);
 
 }  // namespace tarvik::ModMicroArtFileIO

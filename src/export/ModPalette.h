@@ -11,8 +11,8 @@ namespace tarvik {
 class PixelCopy;
 }
 
-// The palettes of exported files: entry i is the colour that the pixel value i stands for. In a file an entry is four
-// bytes: blue, green, red, 0.
+// The palettes of exported files: entry i is the colour of the pixel value i. In a file an entry is four bytes: blue,
+// green, red, 0.
 namespace tarvik::ModPalette {
 
 inline constexpr std::array<Color, 2> twoColors{black, white};
@@ -32,17 +32,16 @@ constexpr std::optional<int> SixteenColorIndex(Color color) {
 
 using Palette256 = std::array<Color, 256>;
 
-// Where the icon layout keeps black and white. The 8-bit pixel writer puts them there in either layout.
+// The entries of black and white in the icon layout. The 8-bit pixel writer puts them there in either layout.
 inline constexpr int blackEntry = 0;
 inline constexpr int whiteEntry = 255;
 
-// The palette of an 8-bit icon or cursor: black first, white last, and between them the other colours of the picture
-// in the order they are met from the top left, row by row. A colour after the 254th gets no entry; entries left over
-// are 0.
+// The palette of an 8-bit icon or cursor: black first, white last, and between them the other colours of the picture in
+// scan order from the top left. A colour after the 254th gets no entry; unused entries are 0.
 Palette256 BuildIconPalette(const PixelCopy& image);
 
-// The palette of an 8-bit bitmap: every colour, black and white too, in the order met, from entry 0. A colour after the
-// 256th gets no entry; entries left over are 0.
+// The palette of an 8-bit bitmap: every colour, including black and white, in scan order, from entry 0. A colour after
+// the 256th gets no entry; unused entries are 0.
 Palette256 BuildBitmapPalette(const PixelCopy& composed);
 
 }  // namespace tarvik::ModPalette

@@ -16,7 +16,7 @@ constexpr std::size_t pixelsPerByte4Bit = 2;
 constexpr std::size_t bytesPerPixel24Bit = 3;
 constexpr std::size_t wordBytes = 4;
 
-// The one width whose 1-bit rows get no extra bytes, and how many the others get.
+// The one width whose 1-bit rows get no extra bytes, and how many bytes the others get.
 constexpr int widthWithoutExtraBytes = 32;
 constexpr std::size_t extraRowBytes1Bit = 2;
 
@@ -30,7 +30,7 @@ void FillRow24Bit(std::span<const Color> row, std::span<std::byte> bytes) {
   }
 }
 
-// The entries that the 8-bit writer may use for a colour. Black and white are put among them: they have fixed values.
+// The entries that the 8-bit writer may use for a colour. Black and white are added to them: they have fixed values.
 ColorIndex EntriesOf(const ModPalette::Palette256& palette) {
   ColorIndex entries;
   entries.Insert(black, ModPalette::blackEntry);

@@ -21,11 +21,11 @@ constexpr std::string_view iconPrefix = "Icon ";
 constexpr std::string_view imagePrefix = "Images ";
 constexpr std::string_view cursorPrefix = "Curor ";
 
-// What the folder chooser is told is about to be saved.
+// The kinds of files that the folder chooser is opened for.
 constexpr std::string_view iconSaveExtension = ".ICO";
 constexpr std::string_view cursorSaveExtension = ".CUR";
 
-// What stands behind the last dot of the path's last name, in upper case; empty where that name has no dot.
+// The text after the last dot of the path's last name, in upper case; empty if that name has no dot.
 std::string UpperExtension(std::string_view path) {
   const std::string_view name = path.substr(path.find_last_of("\\/:") + 1);
   const std::size_t dot = name.rfind('.');
@@ -37,7 +37,7 @@ std::string UpperExtension(std::string_view path) {
 
 }  // namespace
 
-// The hourglass and the progress text for as long as it lives; then the status text that was there before.
+// Shows the hourglass and the progress text during its lifetime; then restores the former status text.
 class SaveCommands::Saving : NonCopyable {
  public:
   explicit Saving(SaveCommands& commands)
@@ -115,7 +115,7 @@ void SaveCommands::SaveBMPToJPG(const std::string& path) {
   DialogAnswer answer = DialogAnswer::Failed;
   {
     const Finally deletes([this] { dependencies_.temporaryPicture.Delete(); });
-    // A picture that could not be had is not offered to the dialog.
+    // A picture that could not be written or read back is not passed to the dialog.
     if (const PixelView* picture = dependencies_.temporaryPicture.PassThrough(window_.PicIcon())) {
       JpegDialog& dialog = dependencies_.dialogs.NewSaveJPG();
       dialog.InitJpegExport(*picture, path, DialogMode::Single);

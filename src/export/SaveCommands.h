@@ -13,10 +13,10 @@
 namespace tarvik {
 
 // The main window's commands that save and copy icons. Each runs to its end before it returns, shows its own messages,
-// and leaves the pointer and the status text as it found them. A dialog that is cancelled ends its command silently.
+// and restores the pointer and the status text. If its dialog is cancelled, a command ends silently.
 class SaveCommands {
  public:
-  // Everything outlives the commands.
+  // All of them outlive the commands.
   struct Dependencies {
     SaveDialogs& dialogs;
     FileSink& files;
@@ -27,32 +27,32 @@ class SaveCommands {
                ProgramState& state)
       : window_(window), dependencies_(dependencies), list_(list), search_(search), state_(state) {}
 
-  // One icon, the current one, under a name that the user gives. Without a current entry they do nothing.
+  // Save the current icon under a name that the user chooses. Do nothing without a current entry.
   void mnuSaveAs_Click();
   void MnuSaveAsBitmap_Click();
   void MnuSaveAsCursor_Click();
 
-  // Every entry into a folder. Files are numbered as the entries are; those of the same name are replaced.
+  // Save every entry into a folder. Files are numbered like the entries; existing files of the same name are replaced.
   void mnuSaveAll_Click();
   void mnuSaveAll2_Click();
   void mnuSaveAll3_Click();
 
-  // The selected entries into a folder, the files numbered from 1 on. Where none is selected, that is said first.
+  // Save the selected entries into a folder, the files numbered from 1. If none is selected, a message says so first.
   void mnuSaveSel_Click();
   void mnuSaveSel2_Click();
   void mnuSaveSel3_Click();
 
-  // The current icon to the clipboard.
+  // Copies the current icon to the clipboard.
   void mnuCopy_Click();
 
-  // For the end of the main window: deletes a temporary bitmap and lets the encoders go.
+  // Called when the main window closes: deletes a temporary bitmap and frees the encoders.
   void CleanUp();
 
  private:
   enum class Scope { All, Selected };
-  // Writes the icon that the surfaces hold to a path; false where it failed.
+  // Writes the icon on the surfaces to a path; returns false if that fails.
   using Write = std::function<bool(const std::string& path)>;
-  // What a batch names its files and says of one that failed.
+  // The file names of a batch and its message for a failed file.
   struct BatchKind {
     std::string_view prefix;
     std::string_view extension;

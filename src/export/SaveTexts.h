@@ -2,7 +2,7 @@
 
 #include "startup/Language.h"
 
-// What the save and copy commands say. "%1" stands for a path (see Compose).
+// The messages of the save and copy commands. "%1" stands for a path (see Compose).
 namespace tarvik::saveTexts {
 
 inline constexpr Text progress{"Saving...", "正在保存...", "正在存儲..."};

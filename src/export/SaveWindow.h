@@ -10,16 +10,16 @@
 
 namespace tarvik {
 
-// What a message of the commands is: a failure, or a hint.
+// The kind of a message: a failure, or a hint.
 enum class MessageKind { Failure, Hint };
 
-// The main window as the save and copy commands see it. Texts are UTF-8.
+// The interface of the main window that the save and copy commands use. Texts are UTF-8.
 class SaveWindow {
  public:
   virtual ~SaveWindow() = default;
 
-  // Takes the icon of entry `number` into the three surfaces; blank where its file yields none any more, and saved as
-  // they are. False, and the surfaces as they were, where the list holds no entry of that number.
+  // Renders the icon of entry `number` into the three surfaces; they are blank if its file no longer yields the icon,
+  // and are saved like that. Returns false and leaves the surfaces unchanged if the list holds no entry of that number.
   virtual bool RenderEntry(int number) = 0;
   virtual const PixelView& PicMask() const = 0;
   virtual const PixelView& PicImage() const = 0;
@@ -29,44 +29,45 @@ class SaveWindow {
 
   virtual std::string StatusText() const = 0;  // panel 1 of sbMain
   virtual void SetStatusText(const std::string& text) = 0;
-  virtual Finally ShowHourglass() = 0;  // puts the former pointer back at its end
+  virtual Finally ShowHourglass() = 0;  // the former pointer is restored when the returned object is destroyed
   virtual void ShowMessage(const std::string& text, MessageKind kind) = 0;
 
-  virtual void SetProgress(const Progress& progress) = 0;  // how far a batch is
+  virtual void SetProgress(const Progress& progress) = 0;  // progress of a batch
 
-  // Until the end of what this returns the window takes no command. It paints itself whenever ServePainting is called.
+  // While the returned object exists, the window accepts no command. It repaints whenever ServePainting is called.
   virtual Finally HoldCommands() = 0;
   virtual void ServePainting() = 0;
 
-  // Composes the icon of PicMask and PicImage in PicClip and puts that on the clipboard; false where it cannot be had.
+  // Composes the icon of PicMask and PicImage in PicClip and copies that to the clipboard; returns false if the
+  // clipboard could not be opened.
   virtual bool CopyPicClip() = 0;
 };
 
-// The dialogs that the commands open, each modal over the main window.
+// The dialogs that the commands open, each modal to the main window.
 class SaveDialogs {
  public:
   virtual ~SaveDialogs() = default;
 
-  // The path chosen in the platform's Save dialog, or an empty text where it was cancelled.
+  // The path chosen in the platform's Save dialog, or an empty text if it was cancelled.
   virtual std::string AskForPath(const FileDialogMode& mode) = 0;
-  // The folder chosen in the folder chooser, or an empty text where it was cancelled.
+  // The folder chosen in the folder chooser, or an empty text if it was cancelled.
   virtual std::string ShowDir() = 0;
-  // The hot-spot picker over `picMain`, the magnified icon; it leaves its answer in the program's state.
+  // Shows the hot-spot picker with `picMain`, the magnified icon; its answer is stored in the program's state.
   virtual void ShowFrmHotSpot(const PixelView& picMain) = 0;
-  // The dialogs of the two formats that have options, each with a fresh encoder. They last until the next call.
+  // The dialogs of the two formats that have options, each with a new encoder. Valid until the next call.
   virtual JpegDialog& NewSaveJPG() = 0;
   virtual GifDialog& NewConvertGIF() = 0;
-  // Lets every encoder go.
+  // Frees every encoder.
   virtual void FreeEncoders() = 0;
 };
 
-// A bitmap file for the time of a save: the picture goes to the JPEG encoder by way of it.
+// A temporary bitmap file during a save: the picture is passed to the JPEG encoder through it.
 class TemporaryPicture {
  public:
   virtual ~TemporaryPicture() = default;
 
-  // Writes the picture to the file, which is made where there is none yet, and reads it back. Null where that fails.
-  // What it gives lasts until the next call.
+  // Writes the picture to the file, which is created if necessary, and reads it back. Returns null if that fails. The
+  // result is valid until the next call.
   virtual const PixelView* PassThrough(const PixelView& picture) = 0;
   // Deletes the file, if there is one.
   virtual void Delete() = 0;

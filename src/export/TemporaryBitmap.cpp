@@ -20,7 +20,7 @@ namespace {
 
 constexpr const char* preferredPath = "C:\\tmp.bmp";
 
-// Makes the bytes all that the open file holds.
+// Overwrites the whole content of the open file with these bytes.
 bool WriteFromStart(HANDLE file, std::span<const std::byte> bytes) {
   DWORD written = 0;
   return SetFilePointer(file, 0, nullptr, FILE_BEGIN) == 0 && SetEndOfFile(file) != 0 &&
@@ -28,7 +28,7 @@ bool WriteFromStart(HANDLE file, std::span<const std::byte> bytes) {
          written == bytes.size();
 }
 
-// All bytes of an open file; none where they cannot be read.
+// All bytes of an open file; none if they cannot be read.
 std::vector<std::byte> ReadFromStart(HANDLE file) {
   std::vector<std::byte> bytes(GetFileSize(file, nullptr));
   DWORD read = 0;

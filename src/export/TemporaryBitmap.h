@@ -9,12 +9,12 @@
 
 namespace tarvik {
 
-// The bitmap file that pictures go through on their way to the JPEG encoder: "C:\tmp.bmp" where there is no such file
-// and one can be made, otherwise a new file in the user's folder for temporary files. It is never anybody's own file:
-// it is made new, and the system deletes it when the program lets it go, in whatever way the program ends.
+// The bitmap file through which pictures are passed to the JPEG encoder: "C:\tmp.bmp" if no such file exists and one
+// can be created, otherwise a new file in the user's folder for temporary files. It never replaces an existing file: it
+// is always a new one, and the system deletes it when its handle is closed, however the program ends.
 class TemporaryBitmap final : public TemporaryPicture {
  public:
-  // Where the file is made: the path tried first, and the folder (with a backslash at its end) tried next.
+  // The candidate places of the file: the path tried first, and the folder (with a trailing backslash) tried next.
   struct Paths {
     std::string path;
     std::string folder;
@@ -25,7 +25,7 @@ class TemporaryBitmap final : public TemporaryPicture {
   const PixelView* PassThrough(const PixelView& picture) override;
   void Delete() override;
 
-  // Where the file is; empty while there is none.
+  // The file's path; empty if there is none.
   const std::string& Path() const { return path_; }
 
  private:
