@@ -1,10 +1,10 @@
 #pragma once
 
-// The screen of this session: the primary monitor.
+// The screen of this user session: the primary monitor.
 namespace tarvik::desktopScreen {
 
-// Its colour depth. Each call takes a device context of the whole screen and keeps it for the rest of the run
-// (deliberate: oddities 1). The start-up asks twice and never again.
+// The colour depth in bits per pixel. Each call takes a device context of the whole screen and never releases it
+// (deliberate: oddities 1). It is called twice at start-up and never again.
 int BitsPerPixel();
 int Width();   // in pixels
 int Height();  // in pixels

@@ -6,14 +6,14 @@
 
 namespace tarvik {
 
-// The display's dots an inch, as a window's device context has them.
+// The display's dpi, from a window's device context.
 struct DotsPerInch {
   int across;
   int down;
 };
 DotsPerInch DotsPerInchOf(HWND window);
 
-// Gives a loaded form that size on the screen, its frame included, in twips. It stays where it is.
+// Resizes a loaded form, frame included, to a size in twips. Its position does not change.
 void SizeInTwips(Form& form, int width, int height);
 
 }  // namespace tarvik

@@ -17,8 +17,7 @@ struct FormText {
 
 inline constexpr int formCaption = 0;
 
-// Sets the texts of a loaded form in the language of `code`; with a code that is none of the three, all stay as
-// designed.
+// Sets the texts of a loaded form in the language of `code`; for any other code, all keep their design texts.
 void SetTexts(Form& form, std::span<const FormText> texts, std::string_view code);
 
 }  // namespace tarvik

@@ -17,7 +17,7 @@ namespace {
 constexpr UINT startUpTime = 3000;  // milliseconds
 constexpr int aboutLines = 37;      // how much higher the About box is, in dialog units
 
-// Where the version stands in the picture, below the product's name; in parts of a thousand of its sides.
+// The position of the version in the picture, below the product's name, in thousandths of its sides.
 constexpr int versionLeft = 53;
 constexpr int versionTop = 720;
 constexpr COLORREF versionColor = RGB(0xC9, 0xD6, 0xEE);
@@ -26,7 +26,7 @@ int Thousandths(int side, int part) {
   return MulDiv(side, part, 1000);
 }
 
-// Takes bits from a window's style and adds others; the style that it has then.
+// Removes bits from a window's style and adds others; returns the new style.
 DWORD ChangeStyle(HWND window, int which, LONG_PTR taken, LONG_PTR added) {
   const LONG_PTR style = (GetWindowLongPtrW(window, which) & ~taken) | added;
   SetWindowLongPtrW(window, which, style);
@@ -64,7 +64,7 @@ void FrmSpash::Form_Load() {
   if (!state_.ShowAsAbout) SetTimer(Window(), FrmSpash_Timer1, startUpTime, nullptr);
 }
 
-// The window is up before its picture is drawn, and painted after that.
+// The picture is drawn at the first paint, so the window appears before it.
 void FrmSpash::Form_Paint(HDC /*dc*/) {
   if (!picture_) DrawPicture();
 }
@@ -87,11 +87,11 @@ void FrmSpash::Timer1_Timer() {
 }
 
 void FrmSpash::CmdOk_Click() {
-  // Enter and Esc come here too, and the button is hidden while the program starts.
+  // Enter and Esc arrive here too, and the button is hidden during the start-up.
   if (state_.ShowAsAbout) Unload();
 }
 
-// The lines that the start-up window does not show reach below it.
+// The lines that the start-up window does not show are below its bottom edge.
 void FrmSpash::MakeRoomForAbout() {
   RECT bounds;
   GetWindowRect(Window(), &bounds);
@@ -111,7 +111,7 @@ void FrmSpash::RemoveCaption() {
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
-// The picture in the size that its control has at this screen's resolution.
+// Draws the picture at the size that its control has at this screen's dpi.
 void FrmSpash::DrawPicture() {
   const HWND item = Item(FrmSpash_Picture);
   RECT bounds;

@@ -9,11 +9,11 @@
 
 namespace tarvik {
 
-// The start-up window, which gives way to the main window after three seconds; and, where `ShowAsAbout` is set, the
-// About box, which stays until it is closed.
+// The start-up window, which is replaced by the main window after three seconds; or, if `ShowAsAbout` is set, the About
+// box, which stays until it is closed.
 class FrmSpash final : public Form {
  public:
-  // `showMainWindow` runs once the start-up window is gone; it is not run for the About box. `state` outlives the form.
+  // `showMainWindow` runs after the start-up window has closed, but not after the About box. `state` outlives the form.
   FrmSpash(Application& application, const ProgramState& state, std::function<void()> showMainWindow);
 
  private:

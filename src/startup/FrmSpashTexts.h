@@ -5,7 +5,7 @@
 
 namespace tarvik {
 
-// The start-up window's texts. They name no address: the project's page is where the program came from. The
+// The start-up window's texts. They contain no address: the project's page is where the program came from. The
 // copyright line is the same in every language.
 inline constexpr FormText spashTexts[] = {
     {formCaption, {"Brindle Tarvik", "布林德图标搜索", "布林德圖示搜尋"}},

@@ -9,7 +9,7 @@
 namespace tarvik {
 namespace {
 
-// `text` is in the code page already. Null for no key or text.
+// `text` is already in the code page. Null for no key or text.
 int WriteProfile(const std::string& section, const std::string* key, const std::string* text, const std::string& file) {
   const std::optional<std::string> path = ToCodePage(file);
   if (!path) return 0;

@@ -6,10 +6,10 @@
 
 namespace tarvik {
 
-// INI files through the system's own calls for them. A file name should be a full path: the system looks for a bare
-// name in the Windows folder. Reading never fails (a file that is not there gives the default); writing creates the
-// file. A file whose path the code page in force cannot hold is neither read nor written, and no value is written that
-// it cannot hold.
+// INI files, accessed by the system's functions. A file name should be a full path: the system searches for a bare name
+// in the Windows folder. Reading never fails (for a missing file it returns the default); writing creates the file. A
+// file whose path cannot be expressed in the current code page is neither read nor written, and a value that it cannot
+// express is not written.
 class IniFile final : public IniStore {
  public:
   std::string Read(const std::string& section, const std::string& key, const std::string& defaultValue, int capacity,

@@ -11,8 +11,8 @@ namespace tarvik {
 // The code of an interface language.
 using LanguageCode = std::string;
 
-// The codes of the three languages. Any other text is no language: it matches none of them, and windows then
-// keep their design texts.
+// The codes of the three languages. Any other text is not a language: it matches none of them, and windows keep their
+// design texts.
 inline constexpr std::string_view english = "ENG";
 inline constexpr std::string_view simplifiedChinese = "CHS";
 inline constexpr std::string_view traditionalChinese = "CHT";
@@ -27,26 +27,26 @@ struct Text {
       : eng(englishText), chs(simplifiedText), cht(traditionalText) {}
 };
 
-// The text in the language of `code`, or nothing where the code is none of the three.
+// The text in the language of `code`, or nothing for any other code.
 std::optional<std::string_view> Pick(const Text& text, std::string_view code);
 
-// The same with each "%1" to "%9" of the text replaced by the value of that number in `values`. What a value
-// holds is left as it is, a "%1" in a path included.
+// The same with each "%1" to "%9" of the text replaced by the value of that number in `values`. The values themselves
+// are not expanded, for example a "%1" in a path.
 std::optional<std::string> Compose(const Text& text, std::string_view code,
                                    std::initializer_list<std::string_view> values);
 
-// Reads a value from where the interface language is kept: what a buffer of 260 spaces holds after the value of that
-// name was read into it, its terminating zero included. Spaces alone if there is no such value, and an empty text if
-// the store cannot be opened.
+// Reads a value from the store of the interface language: returns a buffer of 260 spaces into which the value of that
+// name was read, including its terminating zero. Only spaces if there is no such value, and an empty text if the store
+// cannot be opened.
 using ReadLanguageBuffer = std::function<std::string(const std::string& name)>;
 
-// The named value without the spaces at its two ends; empty where there is none. The terminating zero of a
-// value that exists is part of it, so a value that exists is never empty (deliberate: oddities 8).
+// The named value without leading and trailing spaces; empty if there is none. The terminating zero of an existing
+// value is part of it, so an existing value is never empty (deliberate: oddities 8).
 std::string ReadLanguageValue(const ReadLanguageBuffer& read, const std::string& name);
 
-// The code that the stored value "Language" gives: "ENG" where there is none, else its first three characters
-// in upper case. Whether there is one is decided by the trimmed value, but the characters are taken from the
-// untrimmed one, so a value with leading blanks matches no language (deliberate: oddities 7).
+// The code for the stored value "Language": "ENG" if there is none, otherwise its first three characters in upper case.
+// Whether there is one is decided by the trimmed value, but the characters are taken from the untrimmed one, so a value
+// with leading blanks matches no language (deliberate: oddities 7).
 LanguageCode ChooseLanguage(const ReadLanguageBuffer& read);
 
 }  // namespace tarvik

@@ -14,12 +14,13 @@ namespace tarvik {
 // What follows the product's name in the title of every failure.
 inline constexpr Text failureSuffix{" - Error", " - 错误", " - 錯誤"};
 
-// For a second copy of the program, if it were refused. It is not, so these are never shown (deliberate: oddities 5).
+// For refusing a second copy of the program. A second copy is not refused, so these are never shown (deliberate:
+// oddities 5).
 inline constexpr Text alreadyRunningTitle{"error!", "错误!", "錯誤!"};
 inline constexpr Text alreadyRunningText{"Program is running !", "请不要重复运行程序！", "請不要重複運行程式！"};
 
-// Shown if the user's guide does not open, followed by an empty line and the path of its page: one text for a page that
-// is not there, the other for one that no program takes.
+// Shown if the user's guide does not open, followed by an empty line and the path of its page: one text if the page is
+// missing, the other if no program opens it.
 inline constexpr Text guideMissing{"The user's guide is missing. Installing the program again brings it back.",
                                    "找不到用户指南。重新安装本程序即可恢复。",
                                    "找不到使用指南。重新安裝本程式即可復原。"};
@@ -43,8 +44,8 @@ inline constexpr Refusal tooSmall{{" requires a screen resolution of at least 80
                                   {"Please adjust your screen resolution and try again.",
                                    "请在调整分辨率后重新运行程序.", "請在調整解析度後重新運行程式."}};
 
-// What a run-time error of a kind is called. Some are followed by a detail of the error: the name of the missing
-// function and of its library, what an unexpected exception says.
+// The name of a kind of run-time error. Some are followed by a detail of the error: the name of the missing function
+// and of its library, or the message of an unexpected exception.
 struct RuntimeErrorText {
   RuntimeErrorKind kind;
   Text text;

@@ -16,7 +16,7 @@
 namespace tarvik {
 namespace {
 
-// ShellExecute gives a number above this one where it could open what it was asked to.
+// ShellExecute returns a number above this one on success.
 constexpr std::intptr_t lastShellError = 32;
 
 bool IsThere(const std::wstring& path) {
@@ -24,7 +24,7 @@ bool IsThere(const std::wstring& path) {
 }
 
 bool Open(HWND owner, const std::wstring& path) {
-  const ComUse use;  // what opens the page may be a COM object
+  const ComUse use;  // the handler of the page may be a COM object
   const HINSTANCE result = late::ShellExecuteW(owner, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
   return reinterpret_cast<std::intptr_t>(result) > lastShellError;
 }

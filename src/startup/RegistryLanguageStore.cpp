@@ -8,9 +8,8 @@
 namespace tarvik {
 namespace {
 
-// Read control and the rights to query and set values, to create and list sub-keys, to be notified and to create
-// links: an account that may not write to the key does not open it, and the program is then in English (deliberate:
-// oddities 9).
+// Read control and the rights to query and set values, to create and list sub-keys, to be notified and to create links.
+// For an account without write access the key does not open, and the program is in English (deliberate: oddities 9).
 constexpr REGSAM accessRights = READ_CONTROL | KEY_QUERY_VALUE | KEY_SET_VALUE | KEY_CREATE_SUB_KEY |
                                 KEY_ENUMERATE_SUB_KEYS | KEY_NOTIFY | KEY_CREATE_LINK;
 static_assert(accessRights == 0x2003F);
@@ -26,7 +25,7 @@ std::string ReadRegistryLanguage(const std::string& name) {
 
   std::string buffer(bufferSize, ' ');
   DWORD size = bufferSize;
-  // Whether there is such a value shows in the buffer alone: what is not written stays blank.
+  // The result is not needed: without such a value the buffer stays blank.
   RegQueryValueExA(opened, ToReadableCodePage(name).c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(buffer.data()),
                    &size);
   return FromCodePage(buffer);

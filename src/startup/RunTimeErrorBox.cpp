@@ -8,7 +8,7 @@
 namespace tarvik {
 namespace {
 
-// What the text does not say by itself, and the file that the error happened at.
+// Details that are not part of the text, and the file at which the error happened.
 std::string DetailsOf(const RuntimeError& error) {
   std::string details;
   if (!error.Detail().empty()) details += "\r\n\r\n" + error.Detail();

@@ -8,9 +8,8 @@
 
 namespace tarvik {
 
-// Tells the user, in the language of `code`, which run-time error stopped a handler, and below it the
-// file that it happened at, if it is about one. Shows nothing where the code is
-// no language, as every message.
+// Tells the user, in the language of `code`, which run-time error stopped a handler, and below it the file at which it
+// happened, if the error concerns one. Like every message, shows nothing for any other code.
 void ShowRuntimeError(HWND owner, const RuntimeError& error, std::string_view code);
 
 }  // namespace tarvik

@@ -17,14 +17,14 @@ namespace {
 
 constexpr const char* skinFile = "\\Skins\\Galaxy.skn";
 
-// The one argument of a call.
+// The single argument of a call.
 class Argument : NonCopyable {
  public:
   explicit Argument(const std::wstring& text) {
     value_.vt = VT_BSTR;
     value_.bstrVal = late::SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
   }
-  // A window's handle goes as a 32-bit number: no handle has more bits than that.
+  // A window handle is passed as a 32-bit number: handles have no more significant bits.
   explicit Argument(HWND window) {
     value_.vt = VT_I4;
     value_.lVal = static_cast<LONG>(reinterpret_cast<LONG_PTR>(window));
@@ -34,7 +34,7 @@ class Argument : NonCopyable {
   VARIANT* Value() { return &value_; }
 
  private:
-  decltype(&::VariantClear) clear_ = late::VariantClear.Get();  // looked up beforehand: a destructor must not throw
+  decltype(&::VariantClear) clear_ = late::VariantClear.Get();  // looked up in advance: a destructor must not throw
   VARIANT value_{};
 };
 
@@ -52,7 +52,7 @@ class Component : NonCopyable {
     if (object_ != nullptr) object_->Release();
   }
 
-  // Calls the method with one argument; whether it is there and succeeds.
+  // Calls the method with one argument; returns whether it exists and succeeds.
   bool Call(const wchar_t* method, Argument argument) {
     if (object_ == nullptr) return false;
     std::wstring name(method);
@@ -65,7 +65,7 @@ class Component : NonCopyable {
   }
 
  private:
-  ComUse use_;  // ends after the object's release
+  ComUse use_;  // ends after the object is released
   IDispatch* object_ = nullptr;
 };
 
@@ -92,7 +92,7 @@ bool Skin::Apply(Form& form) {
   try {
     return Paint(form);
   } catch (const MissingFunctionError&) {
-    return false;  // a system without COM has no component either
+    return false;  // without COM there is no component either
   }
 }
 

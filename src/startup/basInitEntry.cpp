@@ -22,7 +22,7 @@ void Refuse(const Refusal& refusal, const std::string& code, StartUpSystem& syst
                              FailureTitle(code));
 }
 
-// Measures and compares; a measure that does not fit its number stops the check before it can say anything.
+// Measures and compares; a measurement that does not fit its number ends the check before any message.
 template <typename Check>
 bool Succeeds(Check check) {
   try {
