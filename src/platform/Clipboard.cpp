@@ -9,7 +9,7 @@ namespace {
 constexpr int attempts = 10;
 constexpr DWORD pauseMilliseconds = 10;
 
-// The clipboard, open for this program while it lives, where that could be had.
+// Keeps the clipboard open while it lives, if it could be opened.
 class OpenedClipboard : NonCopyable {
  public:
   explicit OpenedClipboard(HWND owner) {
@@ -26,7 +26,7 @@ class OpenedClipboard : NonCopyable {
   bool opened_ = false;
 };
 
-// A bitmap as the screen has them: the memory of a DIB section belongs to this process, so others cannot read one.
+// A device-dependent bitmap: the memory of a DIB section belongs to this process, so other programs cannot read one.
 BitmapHandle ScreenBitmap(const Surface& picture) {
   const WindowDc screen(nullptr);
   BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), picture.Width(), picture.Height()));

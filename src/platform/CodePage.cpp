@@ -28,7 +28,7 @@ bool IsUtf8InForce() {
 
 }  // namespace
 
-// Read back, because a code page may hold a character and give another one back for it.
+// The round trip is checked, because a code page may accept a character and return a different one.
 std::optional<std::string> ToCodePage(std::string_view utf8) {
   if (IsUtf8InForce()) return std::string(utf8);
   const std::wstring wide = ToWide(utf8);

@@ -9,8 +9,8 @@
 
 namespace tarvik {
 
-// A use of COM on this thread, for as long as the object lives. The system counts them, so that nobody else's ends
-// with it. The constructor throws MissingFunctionError on a system without COM.
+// Initialises COM on this thread for as long as the object lives. The system counts the uses, so other users of COM are
+// not affected. The constructor throws MissingFunctionError on a system without COM.
 class ComUse : NonCopyable {
  public:
   ComUse()
@@ -21,7 +21,7 @@ class ComUse : NonCopyable {
   }
 
  private:
-  decltype(&::CoUninitialize) end_;  // looked up beforehand: a destructor must not throw
+  decltype(&::CoUninitialize) end_;  // looked up in advance: a destructor must not throw
   HRESULT result_;
 };
 

@@ -9,7 +9,7 @@
 namespace tarvik {
 namespace {
 
-// A folder's path is shorter than a file's by the room for a short name.
+// The limit for a folder is lower than for a file, to leave space for a short name.
 constexpr std::size_t maxPlainPath = MAX_PATH - 13;
 
 constexpr std::size_t driveColon = 1;
@@ -25,7 +25,7 @@ std::wstring FullPath(const std::wstring& path) {
 
 std::optional<std::string> CreateFolder(const std::string& path) {
   const std::wstring full = FullPath(ToWide(path));
-  // A colon behind the drive's is part of no folder's name, and not every system says so.
+  // A colon after the drive's is not allowed in a folder name, and not every system rejects it.
   if (full.find(L':', driveColon + 1) != std::wstring::npos) return std::nullopt;
   const bool plain = full.size() <= maxPlainPath;
   if (CreateDirectoryW(plain ? full.c_str() : LiteralPath(ToUtf8(full)).c_str(), nullptr) == 0) return std::nullopt;

@@ -5,9 +5,9 @@
 
 namespace tarvik {
 
-// Makes a folder in one that exists; its path as the system took it, without the blanks and dots that it drops at the
-// end of a name. Nothing where there can be none: the name is no name for a folder, something stands there, or this
-// user may not. Paths are UTF-8.
+// Creates a folder in an existing parent. Returns its path as the system stored it, without the trailing blanks and
+// dots that it removes from a name, or nothing if the name is invalid, already taken, or access is denied. Paths are
+// UTF-8.
 std::optional<std::string> CreateFolder(const std::string& path);
 
 }  // namespace tarvik

@@ -25,7 +25,7 @@ FileHandle OpenForAttributes(const std::wstring& path) {
       CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, shareAll, nullptr, OPEN_EXISTING, foldersAndLinksToo, nullptr));
 }
 
-// The path without links, 8.3 names and mounted folders; empty if the system does not know it.
+// The path with links, 8.3 names and mounted folders resolved; empty if the system does not know it.
 std::wstring FinalPath(const FileHandle& file) {
   const DWORD size = file ? GetFinalPathNameByHandleW(file.get(), nullptr, 0, 0) : 0;
   std::wstring path(size, L'\0');
@@ -39,7 +39,7 @@ std::wstring FolderOf(const std::wstring& path) {
   return end == std::wstring::npos ? L"." : path.substr(0, end + 1);
 }
 
-// The path that the entry of this name has in its folder: what FinalPath gives for it if it is not a link.
+// The path of the directory entry of this name: what FinalPath returns for it if it is not a link.
 std::wstring PathOfEntry(const std::wstring& path) {
   WIN32_FIND_DATAW entry{};
   const FindHandle found(FindFirstFileW(path.c_str(), &entry));
@@ -49,12 +49,12 @@ std::wstring PathOfEntry(const std::wstring& path) {
   return folder + static_cast<const wchar_t*>(entry.cFileName);
 }
 
-// What is at the path of a file to be written.
+// What exists at the path of a file to be written.
 struct Existing {
   bool replaceable = false;
   bool isLink = false;
   DWORD attributes = INVALID_FILE_ATTRIBUTES;
-  std::wstring attributesOf;  // the path that they belong to: under Wine that of the file which a link leads to
+  std::wstring attributesOf;  // the path that they belong to: under Wine that of a link's target
 };
 
 Existing LookAt(const std::wstring& path) {
@@ -62,7 +62,7 @@ Existing LookAt(const std::wstring& path) {
   existing.attributes = GetFileAttributesW(path.c_str());
   existing.attributesOf = path;
   if (existing.attributes == INVALID_FILE_ATTRIBUTES) {
-    // Under Wine a link that leads nowhere. A pipe has no attributes there either, but no file can be moved over it.
+    // Under Wine this is a dangling link. A pipe has no attributes there either, but no file can be moved over it.
     existing.replaceable = true;
     existing.isLink = true;
     return existing;
@@ -71,7 +71,7 @@ Existing LookAt(const std::wstring& path) {
   existing.replaceable = (existing.attributes & FILE_ATTRIBUTE_DIRECTORY) == 0 && IsDiskFile(file);
   existing.isLink = (existing.attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
   if (existing.isLink || !existing.replaceable) return existing;
-  // Wine does not say that a file is a link, but opens what it leads to.
+  // Wine does not report that a file is a link, but opens its target.
   const std::wstring finalPath = FinalPath(file);
   const std::wstring own = PathOfEntry(path);
   if (finalPath.empty() || own.empty() ||
@@ -98,7 +98,7 @@ FileHandle DeleteExistingTarget(const std::wstring& path, ReadOnlyFile readOnly)
     return {};
   FileHandle file = SiblingFile(path).MoveTo(path);
   if (!file && !existing.isLink) file = OpenInPlace(path);
-  // What was not replaced keeps its attributes, be it the file itself or the one that a replaced link leads to.
+  // A file that was not replaced gets its attributes back, be it the file itself or the target of a replaced link.
   if (isReadOnly && (!file || existing.attributesOf != path))
     SetFileAttributesW(existing.attributesOf.c_str(), existing.attributes);
   return file;
@@ -133,7 +133,7 @@ bool DiskFile::Close() {
 }
 
 bool DiskFile::WriteThrough(std::span<const std::byte> bytes) {
-  constexpr std::size_t maxAtOnce = std::size_t{1} << 30U;  // the call counts in 32 bits
+  constexpr std::size_t maxAtOnce = std::size_t{1} << 30U;  // the call's byte count has 32 bits
   while (!bytes.empty()) {
     const auto part = bytes.first(std::min(bytes.size(), maxAtOnce));
     DWORD written = 0;

@@ -4,10 +4,10 @@
 
 namespace tarvik {
 
-// The dots an inch of the main screen, which the whole program follows.
+// The dpi of the main screen, which the whole program uses.
 int DotsOfDisplay();
 
-// How the display enlarges what the program counts in pixels.
+// The scale from the program's pixels to display pixels.
 DisplayScale ScaleOfDisplay();
 
 }  // namespace tarvik

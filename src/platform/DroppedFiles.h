@@ -8,9 +8,8 @@
 
 namespace tarvik {
 
-// The path of the first of the files and folders that were dropped, UTF-8, as WM_DROPFILES names them in its wParam;
-// empty if there is none. Releases what the message brought. Throws MissingFunctionError if this system has no such
-// functions.
+// The path of the first of the dropped files and folders, UTF-8, from the wParam of WM_DROPFILES; empty if there is
+// none. Frees the message's data. Throws MissingFunctionError if this system lacks these functions.
 std::string TakeFirstDropped(HDROP dropped);
 
 }  // namespace tarvik

@@ -10,8 +10,8 @@
 
 namespace tarvik {
 
-// The one owner of a system handle: it alone closes the handle, when it ends or takes another. Move-only.
-// Policy names the handle's Type, the value that means none, and how it is closed.
+// The only owner of a system handle: closes it when destroyed or reset. Move-only. Policy defines the handle's Type,
+// the value that means none, and how it is closed.
 template <typename Policy>
 class Owner {
  public:
@@ -32,9 +32,9 @@ class Owner {
   Type get() const { return handle_; }
   explicit operator bool() const { return handle_ != Policy::None(); }
 
-  // Gives the handle up: the caller closes it.
+  // Gives up ownership: the caller closes the handle.
   Type release() { return std::exchange(handle_, Policy::None()); }
-  // Closes the handle and takes another, or none.
+  // Closes the handle and takes ownership of another, or of none.
   void reset(Type handle = Policy::None()) {
     const Type former = std::exchange(handle_, handle);
     if (former != Policy::None()) Policy::Close(former);
@@ -81,7 +81,7 @@ struct MenuPolicy {
   static Type None() { return nullptr; }
   static void Close(Type handle) { DestroyMenu(handle); }
 };
-// A menu that belongs to no window; its sub-menus go with it.
+// A menu that belongs to no window; its sub-menus are destroyed with it.
 using MenuHandle = Owner<MenuPolicy>;
 
 struct FilePolicy {
@@ -96,7 +96,7 @@ struct KernelObjectPolicy {
   static Type None() { return nullptr; }
   static void Close(Type handle) { CloseHandle(handle); }
 };
-// A process, a thread, a job, an event: none is null, and not INVALID_HANDLE_VALUE as of a file.
+// A process, a thread, a job, an event: none is null, not INVALID_HANDLE_VALUE as for a file.
 using KernelHandle = Owner<KernelObjectPolicy>;
 
 struct FindPolicy {
@@ -113,7 +113,7 @@ struct RegistryKeyPolicy {
 };
 using RegistryKey = Owner<RegistryKeyPolicy>;
 
-// A window's device context, given back to that window when it ends.
+// A window's device context, released when this object is destroyed.
 class WindowDc : NonCopyable {
  public:
   explicit WindowDc(HWND window) : window_(window), dc_(GetDC(window)) {}
@@ -126,7 +126,7 @@ class WindowDc : NonCopyable {
   HDC dc_;
 };
 
-// An object selected into a device context; the former one is put back when it ends.
+// An object selected into a device context; the former one is restored when this object is destroyed.
 class SelectedObject : NonCopyable {
  public:
   SelectedObject(HDC dc, HGDIOBJ object) : dc_(dc), former_(SelectObject(dc, object)) {}

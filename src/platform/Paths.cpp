@@ -12,7 +12,7 @@ namespace tarvik {
 namespace {
 
 constexpr DWORD pathBufferSize = 260;
-constexpr DWORD maxWidePath = 32768;  // no path is longer
+constexpr DWORD maxWidePath = 32768;  // the length limit of any path
 
 bool StartsAtDriveRoot(std::string_view path) {
   return path.size() >= 3 && path[1] == ':' && path[2] == '\\';
@@ -22,14 +22,14 @@ bool StartsAtShare(std::string_view path) {
   return path.starts_with(R"(\\)") && !path.starts_with(R"(\\?\)") && !path.starts_with(R"(\\.\)");
 }
 
-// Each run of backslashes as one.
+// Replaces each run of backslashes by one.
 std::wstring WithSingleBackslashes(std::wstring path) {
   const auto isRepeated = [](wchar_t previous, wchar_t letter) { return previous == L'\\' && letter == L'\\'; };
   path.erase(std::unique(path.begin(), path.end(), isRepeated), path.end());
   return path;
 }
 
-// What a call wrote into a buffer: as many characters as it said, never more than there are.
+// The text that a call wrote into a buffer: as many characters as it reported, at most the size of the buffer.
 std::string TakeWritten(const std::string& buffer, UINT count) {
   return buffer.substr(0, std::min<std::size_t>(count, buffer.size()));
 }

@@ -6,20 +6,19 @@
 
 namespace tarvik {
 
-// Paths of the program and the system, UTF-8. Folders come without a backslash at their end, except the root of a
-// drive ("C:\") and where it is said otherwise.
+// Paths of the program and the system, UTF-8. Folders have no trailing backslash, except the root of a drive ("C:\")
+// and where stated otherwise.
 std::string ProgramPath();    // the executable
 std::string ProgramFolder();  // the folder that holds it
 std::string SystemFolder();   // "C:\Windows\System32" on most machines
-std::string TempFolder();     // the user's folder for temporary files, with a backslash at its end
+std::string TempFolder();     // the user's folder for temporary files, with a trailing backslash
 
-// The path in the form that the W functions take to the letter: of any length, and with names that Windows would
-// otherwise trim or take for a device. Repeated backslashes, which such a call would not forgive, become one. A path
-// that is neither on a drive nor on a share, or that has slashes in place of backslashes, stays as it is.
+// The extended-length form (\\?\): any length, and Windows neither trims names nor takes them for devices. Repeated
+// backslashes, which this form does not allow, are reduced to one. A path that is neither on a drive nor on a share, or
+// that has slashes in place of backslashes, is unchanged.
 std::wstring LiteralPath(std::string_view path);
 
-// The path as it is while it is of common length, so that names of devices are known for what they are; a longer one in
-// the literal form.
+// Unchanged below MAX_PATH bytes, so that device names (NUL, COM1) keep their meaning; extended-length from there on.
 std::wstring SystemPath(const std::string& path);
 
 }  // namespace tarvik

@@ -13,7 +13,7 @@ using SetDirectories = BOOL(WINAPI*)(DWORD flags);
 
 void LoadLibrariesFromSystemFolderOnly() {
   SetDllDirectoryW(L"");
-  // Asked for by name, so that the program still starts where it is missing.
+  // Looked up by name, so that the program still starts on systems that lack it.
   const FARPROC address = GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories");
   if (address != nullptr) reinterpret_cast<SetDirectories>(reinterpret_cast<void*>(address))(searchSystemFolder);
 }

@@ -18,7 +18,7 @@ bool MarkForDeletion(const FileHandle& file, bool marked) {
 
 bool Rename(const FileHandle& file, const std::wstring& path) {
   const std::size_t pathBytes = path.size() * sizeof(wchar_t);
-  // Room for the structure with the path behind it. operator new aligns it for any type.
+  // Space for the structure followed by the path. operator new aligns it for any type.
   std::vector<std::byte> buffer(sizeof(FILE_RENAME_INFO) + pathBytes);
   auto& info = *reinterpret_cast<FILE_RENAME_INFO*>(buffer.data());
   info.ReplaceIfExists = TRUE;
@@ -47,8 +47,8 @@ SiblingFile::SiblingFile(const std::wstring& path) {
 
 FileHandle SiblingFile::MoveTo(const std::wstring& path) {
   if (!file_) return {};
-  // Moved with its mark if the system does that, so that there is no moment in which a killed process leaves a file
-  // of this name. Otherwise the mark is taken off just before.
+  // If the system allows it, the file is moved while still marked for deletion, so that a process killed at any moment
+  // leaves no file of this name. Otherwise the mark is removed just before.
   if (!Rename(file_, path)) {
     MarkForDeletion(file_, false);
     if (!Rename(file_, path)) {

@@ -12,7 +12,7 @@
 namespace tarvik {
 namespace {
 
-// A row of a DIB is a whole number of 4-byte words.
+// DIB rows are padded to whole 4-byte words.
 std::size_t RowBytes(int width) {
   return (static_cast<std::size_t>(width) * bytesPerPixel + 3) / 4 * 4;
 }
@@ -29,7 +29,7 @@ void SetColor(std::uint8_t* pixel, Color color) {
 
 }  // namespace
 
-// The DIB section, selected into a device context of its own for as long as both live.
+// The DIB section, selected into a device context of its own for the lifetime of both.
 struct Surface::Section : NonCopyable {
   Section(int width, int height) : dc(CreateCompatibleDC(nullptr)) {
     BITMAPINFO info{};

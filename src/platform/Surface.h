@@ -15,10 +15,10 @@
 namespace tarvik {
 
 // A picture in memory that GDI draws into and the program reads: a 24-bit DIB section, top row first, with its device
-// context. Pixels are read as 0x00BBGGRR straight from memory. It is the one DrawSurface of the program.
+// context. Pixels are read as 0x00BBGGRR directly from memory. It is the program's only DrawSurface.
 class Surface final : public DrawSurface, public PixelView, NonCopyable {
  public:
-  // Both sides in pixels, 1 or more. Throws OutOfMemoryError where the system has no memory for it.
+  // Both sides in pixels, 1 or more. Throws OutOfMemoryError if memory runs out.
   Surface(int width, int height, Color background);
   ~Surface() override;
 
@@ -30,15 +30,15 @@ class Surface final : public DrawSurface, public PixelView, NonCopyable {
 
   // Makes every pixel `color`.
   void Clear(Color color);
-  // Draws `source` over it, corner on corner, as far as both go; `operation` is one of GDI's ternary raster operations
-  // (SRCCOPY, SRCAND, SRCINVERT ...).
+  // Draws `source` over it, aligned at the top-left corner, as far as both extend; `operation` is one of GDI's ternary
+  // raster operations (SRCCOPY, SRCAND, SRCINVERT ...).
   void Combine(const Surface& source, DWORD operation);
-  // Copies the picture over it, corner on corner, as far as both go.
+  // Copies the picture over it, aligned at the top-left corner, as far as both extend.
   void Copy(const PixelView& picture);
-  // Fills it with a part of `picture` as a display of that scale shows it (see Enlarge): the part whose top-left corner
-  // is at `corner`, in display pixels.
+  // Fills it with a part of `picture` at a display's scale (see Enlarge): the part whose top-left corner is at
+  // `corner`, in display pixels.
   void FillEnlarged(const Surface& picture, const DisplayScale& scale, Point corner);
-  // Changes the size. What was drawn stays where both sizes hold it; the rest becomes `background`.
+  // Changes the size. The content is kept where old and new size overlap; the rest becomes `background`.
   void Resize(int width, int height, Color background);
 
  private:

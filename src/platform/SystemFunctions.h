@@ -11,8 +11,8 @@
 
 #include "platform/SystemLibrary.h"
 
-// The functions of the system that the first window does not need, each under its own name. Call them from here: a call
-// of the function itself would have its DLL loaded at every start, which scripts/check-exe refuses.
+// The functions of the system that the first window does not need, each under its own name. Call them through this
+// namespace: a direct call would make the system load the DLL at every start, which scripts/check-exe refuses.
 namespace tarvik::late {
 // NOLINTBEGIN(readability-identifier-naming): each has its function's name
 

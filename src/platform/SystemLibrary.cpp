@@ -7,7 +7,7 @@
 namespace tarvik {
 namespace {
 
-// LOAD_LIBRARY_SEARCH_SYSTEM32, which the headers hide from programs that also start on older systems.
+// LOAD_LIBRARY_SEARCH_SYSTEM32, which the headers hide from programs that also run on older systems.
 constexpr DWORD searchSystemFolder = 0x00000800;
 
 }  // namespace
@@ -19,7 +19,7 @@ HMODULE LoadSystemLibrary(const char* name) {
 }
 
 HMODULE LoadSystemLibraryByPath(const char* name) {
-  // The flag has the DLL's own dependencies looked for in its folder first, not in the program's.
+  // The flag makes the system search the DLL's own folder for its dependencies first, not the program's.
   return LoadLibraryExW(ToWide(JoinPath(SystemFolder(), name)).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
 

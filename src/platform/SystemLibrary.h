@@ -8,13 +8,13 @@
 
 namespace tarvik {
 
-// Loads a DLL from the system's folder, and what that DLL needs from there too; a file of the same name anywhere else
-// is never taken. `name` is the file name with its extension. Null if there is no such DLL. It stays loaded for the
-// rest of the run.
+// Loads a DLL from the system's folder, and its dependencies from there too; a file of the same name anywhere else is
+// never loaded. `name` is the file name with its extension. Null if there is no such DLL. It stays loaded for the rest
+// of the run.
 HMODULE LoadSystemLibrary(const char* name);
 
-// What LoadSystemLibrary does on a Windows 7 without update KB2533623, whose loader cannot be told to search the
-// system's folder only: it loads by the full path.
+// Fallback of LoadSystemLibrary for a Windows 7 without update KB2533623, whose loader cannot be restricted to the
+// system's folder: loads by the full path.
 HMODULE LoadSystemLibraryByPath(const char* name);
 
 // The untyped form of LateFunction::Find.
@@ -24,7 +24,7 @@ template <typename Function>
 class LateFunction;
 
 // A function of a system DLL, called like the function itself. The DLL is loaded by the first call and not when the
-// program starts, so the start does not wait for what the first window does not need. Names are literals.
+// program starts, so the start does not wait for functions that the first window does not need. Names are literals.
 template <typename Result, typename... Arguments>
 class LateFunction<Result(WINAPI*)(Arguments...)> {
  public:

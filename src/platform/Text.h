@@ -5,8 +5,8 @@
 
 namespace tarvik {
 
-// UTF-8 to UTF-16 and back: every text of the program is UTF-8, windows are created and captioned through the W
-// functions. Parts that are no valid text become U+FFFD.
+// UTF-8 to UTF-16 and back: every text of the program is UTF-8, and windows and their texts use the W functions.
+// Invalid sequences become U+FFFD.
 std::wstring ToWide(std::string_view utf8);
 std::string ToUtf8(std::wstring_view utf16);
 
