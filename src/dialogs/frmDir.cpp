@@ -22,7 +22,7 @@ frmDir::frmDir(Application& application, ProgramState& state, Dependencies depen
       create_(application, state, dependencies_.makeFolder,
               [this](const std::string& folder) { dirMain_.SetPath(folder); }) {}
 
-// The close box leaves SelectedDir as it is, so it does not cancel (deliberate: oddities 44).
+// The close box does not change SelectedDir, so it does not cancel (deliberate: oddities 44).
 std::string frmDir::ShowDir(HWND owner) {
   ShowModal(owner);
   return SelectedDir;
@@ -36,7 +36,7 @@ void frmDir::Form_Load() {
   ShowItem(frmDir_CboFileType, images);
 
   drvMain_.Attach(Item(frmDir_drvMain), dependencies_.drives);
-  dirMain_ = DirListBox();  // of this window's own folder, whatever was chosen the last time
+  dirMain_ = DirListBox();  // with this window's own folder, not the one chosen last time
   dirMain_.Attach(Item(frmDir_dirMain), dependencies_.subFolders, [this] { dirMain_Change(); });
   const std::string folder = dependencies_.initialFolder();
   dirMain_.SetPath(folder);
@@ -82,7 +82,7 @@ void frmDir::OnDrawItem(const DRAWITEMSTRUCT& item) {
   if (item.CtlID == frmDir_dirMain) dirMain_.Draw(item);
 }
 
-// Each choice adds all types to the list once more (deliberate: oddities 43). Only the first of each names an
+// Each choice adds all types to the list once more (deliberate: oddities 43). Only the first nine rows have an
 // extension.
 void frmDir::CboFileType_Click() {
   AddFileTypes();

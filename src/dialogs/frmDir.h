@@ -13,11 +13,11 @@
 
 namespace tarvik {
 
-// The folder chooser of the batch saves. Where images are about to be saved, by the state's SaveExtension, it also
-// offers their types and puts the chosen one's extension there.
+// The folder chooser of the batch saves. If images are about to be saved, according to the state's SaveExtension, it
+// also offers their types and stores the chosen one's extension there.
 class frmDir final : public Form {
  public:
-  // How the dialog reads the disk, and where it starts.
+  // The functions that read the disk, and the initial folder.
   struct Dependencies {
     std::function<std::vector<DriveListBox::Drive>()> drives;
     DirListBox::ListFolders subFolders;
@@ -28,8 +28,8 @@ class frmDir final : public Form {
   // `state` outlives the form.
   frmDir(Application& application, ProgramState& state, Dependencies dependencies);
 
-  // Shows the dialog modally over `owner`. The chosen folder; empty where the user cancelled. The close box is no
-  // cancel: it gives the folder last shown.
+  // Shows the dialog modal to `owner`. Returns the chosen folder; empty if the user cancelled. The close box does not
+  // cancel: it returns the folder last shown.
   std::string ShowDir(HWND owner);
 
  private:

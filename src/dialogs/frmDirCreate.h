@@ -11,18 +11,18 @@
 
 namespace tarvik {
 
-// The new-folder dialog: makes a sub-folder of the folder it is given. Where that fails it says so and stays open with
-// the name as it was typed.
+// The new-folder dialog: creates a sub-folder of a given folder. If that fails, it says so and stays open with the
+// typed name.
 class frmDirCreate final : public Form {
  public:
-  // Makes a folder and gives its path, or nothing where it cannot be made.
+  // Creates a folder and returns its path, or nothing if it cannot be created.
   using MakeFolder = std::function<std::optional<std::string>(const std::string& path)>;
 
-  // `created` is told the path of a folder that was made. `state` outlives the form.
+  // `created` is called with the path of a created folder. `state` outlives the form.
   frmDirCreate(Application& application, const ProgramState& state, MakeFolder makeFolder,
                std::function<void(const std::string& folder)> created);
 
-  // Shows the dialog modally over `owner`, for a sub-folder of `parent`.
+  // Shows the dialog modal to `owner`, for a sub-folder of `parent`.
   void CreateDir(HWND owner, const std::string& parent);
 
  private:
