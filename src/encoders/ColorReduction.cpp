@@ -29,7 +29,7 @@ double SquareDistance(const Point& a, const Point& b) {
   return red * red + green * green + blue * blue;
 }
 
-// How many pixels, and the sums of their channels.
+// The number of pixels, and the sums of their channels.
 struct Sums {
   double weight = 0;
   Point sum{};
@@ -48,15 +48,15 @@ struct Sums {
     return {weight - part.weight, {sum[0] - part.sum[0], sum[1] - part.sum[1], sum[2] - part.sum[2]}};
   }
   Point Mean() const { return {sum[0] / weight, sum[1] / weight, sum[2] / weight}; }
-  // The error of pixels drawn in their mean is the sum of their squares less this.
+  // The squared error of pixels drawn in their mean colour is the sum of their squares minus this.
   double SavedError() const { return (sum[0] * sum[0] + sum[1] * sum[1] + sum[2] * sum[2]) / weight; }
 };
 
-// Where to cut a box in two: colours whose channel is at most `last` go to the first part.
+// Where a box is cut in two: colours whose channel is at most `last` go to the first part.
 struct Cut {
   std::size_t channel = 0;
   std::size_t last = 0;
-  double gain = 0;  // by how much the squared error falls
+  double gain = 0;  // the reduction of the squared error
 };
 
 // The colours of one future entry of the palette.
@@ -70,7 +70,7 @@ std::size_t ChannelOf(Color color, std::size_t channel) {
   return color >> (8 * channel) & 0xFFU;
 }
 
-// The best cut across one channel, or one without gain where all colours have the same value there.
+// The best cut across one channel, or a cut without gain if all colours have the same value there.
 Cut BestCutAcross(const Box& box, std::size_t channel) {
   std::size_t min = 255;
   std::size_t max = 0;
@@ -79,7 +79,7 @@ Cut BestCutAcross(const Box& box, std::size_t channel) {
     min = std::min(min, value);
     max = std::max(max, value);
   }
-  // Most boxes are small: what lies outside their range is neither cleared nor looked at.
+  // Most boxes are small: levels outside their range are neither cleared nor read.
   std::array<Sums, 256> levels;  // NOLINT(cppcoreguidelines-pro-type-member-init)
   std::fill(&levels[min], &levels[max] + 1, Sums{});
   for (const CountedColor& counted : box.colors) levels[ChannelOf(counted.color, channel)].Add(counted);
@@ -105,10 +105,10 @@ Box MakeBox(std::span<CountedColor> colors) {
   return box;
 }
 
-// Cuts the colours into at most `maxColors` boxes and gives their means. The colours change their order.
+// Cuts the colours into at most `maxColors` boxes and returns their means. Reorders the colours.
 std::vector<Point> CutIntoBoxes(std::span<CountedColor> colors, std::size_t maxColors) {
   const auto gainsLess = [](const Box& a, const Box& b) { return a.cut.gain < b.cut.gain; };
-  // A heap: the box whose cut gains most stands first.
+  // A heap: the box whose cut gains most comes first.
   std::vector<Box> boxes{MakeBox(colors)};
   while (boxes.size() < maxColors && boxes.front().cut.gain > 0) {
     std::ranges::pop_heap(boxes, gainsLess);
@@ -127,8 +127,9 @@ std::vector<Point> CutIntoBoxes(std::span<CountedColor> colors, std::size_t maxC
   return means;
 }
 
-// Finds the nearest of some points. They are sorted by the sum of their channels: a point whose sum is d away is at
-// least d / sqrt(3) away, so a search outward from the own sum ends early, the earlier the nearer its first guess is.
+// Finds the nearest of some points. They are sorted by the sum of their channels: a point whose sum differs by d is at
+// least d / sqrt(3) away, so the search outward from the colour's own sum can stop early, and the better the first
+// guess the earlier.
 class NearestSearch {
  public:
   explicit NearestSearch(std::span<const Point> points) : points_(points) {
@@ -146,7 +147,7 @@ class NearestSearch {
   Found Find(const Point& point, std::size_t guess) const {
     const double sum = SumOf(point);
     Found best{guess, SquareDistance(points_[guess], point)};
-    // False once no point further that way can be nearer.
+    // Returns false if no point further in that direction can be nearer.
     const auto look = [&](const Entry& entry) {
       const double apart = entry.sum - sum;
       if (apart * apart >= static_cast<double>(channels) * best.squareDistance) return false;
@@ -172,8 +173,8 @@ class NearestSearch {
   std::vector<Entry> entries_;
 };
 
-// Moves each centre to the mean of the colours nearest to it, until the error falls no further to speak of. Sets
-// `nearest` to the index of the centre that each colour was nearest to last.
+// Moves each centre to the mean of the colours nearest to it, until the error no longer falls noticeably. Sets
+// `nearest` to the index of the nearest centre of each colour in the last step.
 void MoveToMeans(std::span<const CountedColor> colors, std::vector<Point>& centres, std::vector<std::size_t>& nearest) {
   constexpr int maxRounds = 4;
   constexpr double worthwhile = 0.98;

@@ -15,7 +15,7 @@
 namespace tarvik {
 namespace {
 
-// What the label says in a batch, whose files have no name yet.
+// The label's text in a batch, whose files have no name yet.
 constexpr const char* batchTarget = "*.gif";
 constexpr COLORREF convertingColor = RGB(0xC0, 0, 0);
 
@@ -63,7 +63,7 @@ bool FrmConvertGIF::OnCommand(int id, int code) {
   return Dispatch<FrmConvertGIF>(*this, events, id, code);
 }
 
-// The label is drawn by the window, so that it can change its colour.
+// The label is owner-drawn, so that it can change its colour.
 void FrmConvertGIF::OnDrawItem(const DRAWITEMSTRUCT& item) {
   if (item.CtlID != FrmConvertGIF_Label1) return;
   RECT bounds = item.rcItem;

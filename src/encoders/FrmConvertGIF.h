@@ -16,7 +16,7 @@
 
 namespace tarvik {
 
-// The GIF options dialog. In mode Single its OK writes the file, in mode NoSingle it only hides and keeps the options
+// The GIF options dialog. In mode Single its OK writes the file; in mode NoSingle it only hides and keeps the options
 // for SaveToGIFNoSingle.
 class FrmConvertGIF final : public Form, public GifDialog {
  public:
@@ -25,7 +25,7 @@ class FrmConvertGIF final : public Form, public GifDialog {
     std::function<std::uint64_t(const std::string& path)> fileLength;  // in bytes
   };
 
-  // Shown over `owner`. Everything outlives the form.
+  // Shown modal to `owner`. All arguments outlive the form.
   FrmConvertGIF(Application& application, const ProgramState& state, HWND owner, Dependencies dependencies);
 
   void InitGifExport(const PixelView& picture, const std::string& target) override;

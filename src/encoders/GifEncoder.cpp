@@ -21,7 +21,7 @@ namespace {
 constexpr int maxSide = 65535;
 constexpr int bitsOfChannel = 8;
 
-// The library's way to write: appends to the vector that the file carries. No exception may pass through it.
+// The library's write callback: appends to the vector that the file carries. No exception may pass through it.
 int AppendToFile(GifFileType* gif, const GifByteType* bytes, int length) noexcept {
   try {
     const auto added = std::as_bytes(std::span(bytes, static_cast<std::size_t>(length)));
@@ -42,7 +42,7 @@ struct FreeColorMap {
 using GifOwner = std::unique_ptr<GifFileType, CloseGif>;
 using ColorMapOwner = std::unique_ptr<ColorMapObject, FreeColorMap>;
 
-// A colour map holds a power of two of entries, 2 at the least; those past the palette stay black.
+// The number of entries of a colour map is a power of two, at least 2; those past the palette stay black.
 ColorMapOwner MakeColorMap(const std::vector<Color>& palette) {
   const std::size_t entries = std::bit_ceil(std::max<std::size_t>(palette.size(), 2));
   ColorMapOwner map(GifMakeMapObject(static_cast<int>(entries), nullptr));
@@ -63,7 +63,7 @@ bool PutTransparency(GifFileType& gif, std::optional<std::uint8_t> index) {
   return EGifPutExtension(&gif, GRAPHICS_EXT_FUNC_CODE, lengthOfBlock, block.data()) == GIF_OK;
 }
 
-// The whole file, or nothing where the library failed.
+// The whole file, or nothing if the library failed.
 std::optional<std::vector<std::byte>> Encode(IndexedPicture& picture) {
   std::vector<std::byte> file;
   GifOwner gif(EGifOpen(&file, AppendToFile, nullptr));
@@ -79,7 +79,7 @@ std::optional<std::vector<std::byte>> Encode(IndexedPicture& picture) {
     std::uint8_t* row = &picture.pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width)];
     if (EGifPutLine(gif.get(), row, picture.width) != GIF_OK) return std::nullopt;
   }
-  // The end of the file is written by closing it.
+  // Closing the file writes its end.
   if (EGifCloseFile(gif.release(), nullptr) != GIF_OK) return std::nullopt;
   return file;
 }

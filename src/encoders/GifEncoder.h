@@ -7,12 +7,12 @@
 
 namespace tarvik {
 
-// The colours a GIF file may use: the 256 that come nearest to the picture's own, or the 216 of the web palette.
+// The colours of a GIF file: the 256 nearest to the picture's own, or the 216 of the web palette.
 enum class GifPalette { BestQuality, Web };
 
 struct GifSettings {
   bool transparent = false;
-  // The colour that is see-through where `transparent` is set.
+  // The transparent colour if `transparent` is set.
   Color transparentColor = black;
   GifPalette palette = GifPalette::BestQuality;
 };
@@ -23,10 +23,9 @@ class GifEncoder {
   // Files are written through the sink, which must outlive the encoder.
   explicit GifEncoder(FileSink& sink) : sink_(sink) {}
 
-  // Writes the picture to the path (UTF-8). With the best palette a picture of at most 256 colours keeps them
-  // exactly. Pixels of the transparent colour get an index that no other colour falls on; where the picture has
-  // none, the file has no transparent index. False where a side is 0 or over 65,535 pixels, and then no file is
-  // touched; and where the sink fails.
+  // Writes the picture to the path (UTF-8). With the best palette a picture of at most 256 colours keeps them exactly.
+  // Pixels of the transparent colour get an index of their own; if the picture has none, the file has no transparent
+  // index. Returns false if a side is 0 or over 65,535 pixels, without touching a file, or if the sink fails.
   bool WriteFile(const PixelView& picture, const std::string& path, const GifSettings& settings);
 
  private:

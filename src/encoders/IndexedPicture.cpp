@@ -18,7 +18,7 @@ constexpr Color ColorOf(int red, int green, int blue) {
   return static_cast<Color>(red + 256 * green + 65536 * blue);
 }
 
-// The different colours of a picture in the order they first appear, and for each pixel the number of its colour.
+// The different colours of a picture in order of first appearance, and for each pixel the number of its colour.
 struct NumberedColors {
   std::vector<CountedColor> colors;
   std::vector<std::uint32_t> pixels;
@@ -47,7 +47,7 @@ Reduction KeepColors(std::span<const CountedColor> colors) {
   return kept;
 }
 
-// Reduces the colours but for one, which keeps its colour and takes the palette's last index.
+// Reduces all colours but one, which is kept exactly and gets the palette's last index.
 Reduction ReduceOtherColors(std::vector<CountedColor> colors, std::size_t kept) {
   const auto at = colors.begin() + static_cast<std::ptrdiff_t>(kept);
   const Color keptColor = at->color;
@@ -64,7 +64,7 @@ Reduction BestPalette(const std::vector<CountedColor>& colors, std::optional<std
   return kept ? ReduceOtherColors(colors, *kept) : ReduceColors(colors, maxColors);
 }
 
-// The step of the web palette's six levels, and how many there are of them.
+// The step between the web palette's levels, and their number: six.
 constexpr int webStep = 51;
 constexpr int webLevels = 6;
 

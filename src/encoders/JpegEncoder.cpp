@@ -20,7 +20,7 @@ namespace {
 constexpr int bytesOfPixel = 3;
 // A segment's length is 16 bits wide and counts its own two bytes.
 constexpr std::size_t maxComment = 65533;
-// An interleaved scan holds at most this many blocks in each of its units (ITU-T T.81, B.2.3).
+// The most blocks in a unit of an interleaved scan (ITU-T T.81, B.2.3).
 constexpr int maxBlocksInterleaved = 10;
 constexpr int lastCoefficient = 63;
 
@@ -33,21 +33,21 @@ bool IsGreyscale(const JpegSampling& sampling) {
 }
 
 int BlocksInterleaved(const JpegSampling& sampling) {
-  // Factors past the bound are the library's to refuse; here they need only not overflow.
+  // Factors above the bound are rejected by the library; here they must only not overflow.
   const auto bounded = [](int factor) { return std::clamp(factor, 0, MAX_SAMP_FACTOR + 1); };
   int blocks = 0;
   for (const SamplingFactors& factors : sampling) blocks += bounded(factors.horizontal) * bounded(factors.vertical);
   return blocks;
 }
 
-// The length of the next piece of a comment: as much as one segment holds, without cutting a character of UTF-8.
+// The length of the next piece of a comment: as much as fits into one segment without splitting a UTF-8 character.
 std::size_t CommentPiece(std::string_view rest) {
   if (rest.size() <= maxComment) return rest.size();
   const auto continues = [&](std::size_t at) { return (static_cast<unsigned char>(rest[at]) & 0xC0U) == 0x80U; };
   constexpr std::size_t maxCharacter = 4;
   std::size_t length = maxComment;
   while (length > maxComment - maxCharacter && continues(length)) --length;
-  // Bytes that are no UTF-8 have no boundary to respect.
+  // Invalid UTF-8 has no boundary to respect.
   return continues(length) ? maxComment : length;
 }
 
@@ -57,8 +57,8 @@ struct Picture {
   std::span<std::uint8_t> rgb;
 };
 
-// One run of the library, from the picture to the bytes of the file. The library reports an error through a call
-// that must not return: it jumps back to Run. So nothing between the two may hold anything with a destructor.
+// One run of the library, from the picture to the bytes of the file. The library reports an error through a callback
+// that must not return: it jumps back to Run by longjmp. So nothing between the two may own anything with a destructor.
 class Compression : NonCopyable {
  public:
   Compression(const Picture& picture, int quality, const JpegSampling& sampling, std::string_view comment)
@@ -69,13 +69,13 @@ class Compression : NonCopyable {
     info_.client_data = this;
   }
   ~Compression() {
-    // A buffer that the library has put in the place of a smaller one is ours only from here on.
+    // If the library has replaced the buffer by a larger one, we own it only from here on.
     if (writesToMemory_) info_.dest->term_destination(&info_);
     jpeg_destroy_compress(&info_);
     std::free(file_);
   }
 
-  // True when the file is whole. Called once.
+  // Returns true if the file is complete. Called once.
   bool Run() {
     if (setjmp(back_) != 0) return false;
     jpeg_CreateCompress(&info_, JPEG_LIB_VERSION, sizeof info_);
@@ -107,7 +107,7 @@ class Compression : NonCopyable {
     info_.input_components = bytesOfPixel;
     info_.in_color_space = JCS_RGB;
     jpeg_set_defaults(&info_);
-    // The tables made for the picture itself save about a quarter of a small file.
+    // Optimised Huffman tables save about a quarter of a small file.
     info_.optimize_coding = TRUE;
     if (IsGreyscale(sampling_)) jpeg_set_colorspace(&info_, JCS_GRAYSCALE);
     jpeg_set_quality(&info_, quality_, TRUE);
@@ -118,7 +118,7 @@ class Compression : NonCopyable {
     if (!IsGreyscale(sampling_) && BlocksInterleaved(sampling_) > maxBlocksInterleaved) WriteScansApart();
   }
 
-  // Each component in a scan of its own, which holds one block at a time whatever the factors are.
+  // Writes each component in a scan of its own, which holds one block at a time whatever the factors are.
   void WriteScansApart() {
     for (int i = 0; i < info_.num_components; ++i) {
       jpeg_scan_info& scan = scans_[static_cast<std::size_t>(i)];
@@ -147,7 +147,7 @@ class Compression : NonCopyable {
   jpeg_compress_struct info_{};
   jpeg_error_mgr errors_{};
   std::array<jpeg_scan_info, 3> scans_{};
-  unsigned char* file_ = nullptr;  // the library takes its memory, and it is freed here
+  unsigned char* file_ = nullptr;  // allocated by the library, freed here
   unsigned long fileSize_ = 0;
   bool writesToMemory_ = false;
   std::jmp_buf back_{};

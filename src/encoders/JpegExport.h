@@ -10,8 +10,8 @@
 
 namespace tarvik {
 
-// What the JPEG options dialog holds and does, without its window: the picture to write, where to, and the encoder
-// with the options.
+// The state and the logic of the JPEG options dialog, without its window: the picture to write, the target path, and
+// the encoder with the options.
 class JpegExport {
  public:
   // The sink outlives the export.
@@ -21,14 +21,14 @@ class JpegExport {
   void SetMode(DialogMode mode) { mode_ = mode; }
   DialogMode Mode() const { return mode_; }
 
-  // The encoder, made on first use. It keeps its options for every file until FreeObj.
+  // The encoder, created on first use. It keeps its options for every file until FreeObj.
   JpegEncoder& Encoder();
-  // Writes the picture to the path, replacing a file there, a read-only one too. False if there is no picture or the
-  // file cannot be written; what was written of it is left.
+  // Writes the picture to the path, replacing an existing file, also a read-only one. Returns false if there is no
+  // picture or the file cannot be written; a partial file is then left.
   bool Save(const std::string& path);
   // The same, to the target.
   bool Save() { return Save(target_); }
-  // Lets the encoder and the picture go.
+  // Frees the encoder and the picture.
   void FreeObj();
 
  private:

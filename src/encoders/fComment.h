@@ -15,8 +15,8 @@ class fComment final : public Form {
   // `state` outlives the form.
   fComment(Application& application, const ProgramState& state);
 
-  // Shows the dialog modally over `owner` with that text (UTF-8). The text as its button left it; as it was where the
-  // dialog was closed otherwise.
+  // Shows the dialog modal to `owner` with that text (UTF-8). Returns the text as left by the button that closed the
+  // dialog; unchanged if it was closed otherwise.
   std::string Edit(HWND owner, const std::string& comment);
 
  private:

@@ -14,7 +14,7 @@
 namespace tarvik {
 namespace {
 
-constexpr int qualityPage = 10;  // beside the thumb
+constexpr int qualityPage = 10;  // by a click next to the thumb
 constexpr int okButton = 1;      // of cmdFinish
 
 }  // namespace

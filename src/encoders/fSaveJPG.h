@@ -14,11 +14,11 @@
 
 namespace tarvik {
 
-// The JPEG options dialog. It sets the encoder with every change; in mode Single its OK writes the file, in mode
+// The JPEG options dialog. Every change is applied to the encoder; in mode Single its OK writes the file, in mode
 // NoSingle it only hides and keeps the encoder for SaveToJPGForNoSingle.
 class fSaveJPG final : public Form, public JpegDialog {
  public:
-  // Shown over `owner`. Everything outlives the form.
+  // Shown modal to `owner`. All arguments outlive the form.
   fSaveJPG(Application& application, const ProgramState& state, HWND owner, FileSink& sink);
 
   void InitJpegExport(const PixelView& picture, const std::string& target, DialogMode mode) override;
