@@ -2,7 +2,7 @@
 
 namespace tarvik {
 
-// The letters A to Z in the other case; any other byte, one of a longer UTF-8 character included, as it is.
+// The letters A to Z in the other case; any other byte, including those of longer UTF-8 characters, is unchanged.
 constexpr char LowerAscii(char character) {
   return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }

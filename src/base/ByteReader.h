@@ -6,8 +6,8 @@
 
 namespace tarvik {
 
-// Numbers in the bytes of a file, the low byte of each first; BigU32At reads the high byte first. The caller has made
-// sure that all bytes of the number are there.
+// Little-endian numbers in the bytes of a file; BigU32At reads big-endian. The caller has checked that all bytes of the
+// number exist.
 
 inline std::uint32_t U8At(std::span<const std::byte> bytes, std::size_t place) {
   return std::to_integer<std::uint32_t>(bytes[place]);

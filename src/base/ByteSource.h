@@ -6,15 +6,15 @@
 
 namespace tarvik {
 
-// What a file is known by without reading it: while both stay, so does its content.
+// Identifies the state of a file without reading it: if both values are unchanged, so is the content.
 struct FileStamp {
   std::uint64_t size = 0;
-  std::uint64_t written = 0;  // when it was last written to, in the file system's own counting
+  std::uint64_t written = 0;  // last write time, in the file system's own units
 
   bool operator==(const FileStamp&) const = default;
 };
 
-// The bytes of a file, read only as they are asked for.
+// The bytes of a file, read on demand.
 class ByteSource {
  public:
   virtual ~ByteSource() = default;

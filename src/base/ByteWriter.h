@@ -7,7 +7,7 @@
 
 namespace tarvik {
 
-// The bytes of a file in memory, appended field by field, the low byte of each number first.
+// The bytes of a file in memory, appended field by field, little-endian.
 class ByteWriter {
  public:
   explicit ByteWriter(std::size_t expectedSize) { bytes_.reserve(expectedSize); }
@@ -17,7 +17,7 @@ class ByteWriter {
   void U32(std::uint32_t value) { LittleEndian(value, 4); }
   void I32(std::int32_t value) { LittleEndian(static_cast<std::uint32_t>(value), 4); }
 
-  // Appends `count` zero bytes and hands them out to be filled. They stay in place until the next append.
+  // Appends `count` zero bytes and returns them to be filled. The span is valid until the next append.
   std::span<std::byte> Zeros(std::size_t count) {
     bytes_.resize(bytes_.size() + count);
     return std::span(bytes_).last(count);

@@ -10,11 +10,11 @@
 
 namespace tarvik {
 
-// A number for each of any colours, found in constant time. A hash table with open addressing, which starts with room
-// for more colours than a palette holds and grows.
+// Maps colours to numbers in constant time. A hash table with open addressing; it initially has space for more colours
+// than a palette holds, and grows.
 class ColorIndex {
  public:
-  // The colour's number; one that has none gets `ifNew`, 0 or more.
+  // The colour's number; a colour without one gets `ifNew`, 0 or more.
   int NumberOf(Color color, int ifNew) {
     Slot& slot = slots_[SlotOf(color)];
     if (slot.numberPlusOne != 0) return static_cast<int>(slot.numberPlusOne - 1);
@@ -23,7 +23,7 @@ class ColorIndex {
     return ifNew;
   }
 
-  // Gives the colour that number. False, and no change, if it has one.
+  // Gives the colour that number. Returns false and changes nothing if it already has one.
   bool Insert(Color color, int number) {
     const std::size_t before = count_;
     NumberOf(color, number);
@@ -47,8 +47,8 @@ class ColorIndex {
 
   static constexpr unsigned initialBits = 10;
 
-  // The slot that holds `color`, or the free one where it belongs. At least half of the slots stay free, so that the
-  // search always ends, and soon.
+  // The slot that holds `color`, or the free one where it belongs. At least half of the slots stay free, so that every
+  // search ends, and quickly.
   std::size_t SlotOf(Color color) const {
     constexpr std::uint32_t goldenRatio = 2654435769U;  // 2^32 divided by the golden ratio: spreads close colours
     std::size_t slot = (color * goldenRatio) >> (32U - bits_);

@@ -20,7 +20,7 @@ bool IsDigit(char character) {
   return character >= '0' && character <= '9';
 }
 
-// The text without the commas that stand between two digits; any other comma stays and makes it no number.
+// Removes the commas between two digits; any other comma is kept and makes the text invalid as a number.
 std::string RemoveThousandsCommas(std::string_view text) {
   std::string digits;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -39,8 +39,8 @@ double ToHexadecimal(std::string_view digits) {
   return static_cast<double>(value);
 }
 
-// Whether a number that no double holds is too large for one, and not too small: by the position of its first digit
-// that is not 0, counted from the decimal point, and its exponent.
+// Whether a number outside a double's range is too large, not too small: decided by the position of its first non-zero
+// digit, counted from the decimal point, and its exponent.
 bool IsTooLarge(std::string_view number) {
   const auto exponentAt = number.find_first_of("eE");
   const std::string_view digits = number.substr(0, exponentAt);
@@ -59,7 +59,7 @@ bool IsTooLarge(std::string_view number) {
 }  // namespace
 
 ReadNumber ReadUnsignedNumber(std::string_view text) {
-  // The library would read "inf", "nan" and a sign as numbers.
+  // The library would accept "inf", "nan" and a sign.
   if (text.empty() || (!IsDigit(text[0]) && text[0] != '.')) return {};
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);

@@ -5,31 +5,32 @@
 
 namespace tarvik {
 
-// How much larger a display shows what the program counts in pixels. The program's pixels are those of a display with
-// 96 dots an inch; one with more shows them enlarged in the same proportion, and one with fewer as they are. All rules
-// count in the program's pixels; only windows and painting ask this class.
+// The scale at which a display shows the program's pixels. The program's pixels are those of a 96-dpi display; a
+// display with a higher dpi shows them enlarged in proportion, one with a lower dpi unscaled. All rules use the
+// program's pixels; only windows and painting use this class.
 //
-// Pixel n of a picture begins at the first display pixel whose corner lies in it, so that the two directions fit
-// together: FromDisplay(ToDisplay(n)) == n.
+// Pixel n of a picture begins at the first display pixel whose corner lies in it, so that the round trip is exact:
+// FromDisplay(ToDisplay(n)) == n.
 class DisplayScale {
  public:
-  static constexpr int usualDots = 96;  // an inch
+  static constexpr int usualDots = 96;  // dpi
 
   constexpr DisplayScale() = default;
   constexpr explicit DisplayScale(int dotsPerInch) : dots_(std::max(dotsPerInch, usualDots)) {}
 
-  // Nothing is enlarged.
+  // True if nothing is enlarged.
   constexpr bool IsOne() const { return dots_ == usualDots; }
 
-  // The display pixel at which pixel `pixels` begins, and so how many display pixels a length of `pixels` takes, a
-  // broken one counted whole. `pixels` is 0 or more, up to millions.
+  // The display pixel at which pixel `pixels` begins, which is also the length of `pixels` pixels in display pixels,
+  // rounded up. `pixels` is 0 or more, up to millions.
   constexpr int ToDisplay(int pixels) const { return DivideUp(pixels * std::int64_t{dots_}, usualDots); }
-  // The pixel under a display pixel; less than 0 left of or above the picture.
+  // The pixel under a display pixel; below 0 to the left of or above the picture.
   constexpr int FromDisplay(int displayPixel) const {
     return DivideDown(displayPixel * std::int64_t{usualDots}, dots_);
   }
 
-  // What a display pixel shows: `first` and, by so many 96ths, the pixel after it. Whole scales mix nothing.
+  // The colour of a display pixel: `first`, mixed with so many 96ths of the pixel after it. Integral scales mix
+  // nothing.
   struct Mixture {
     int first = 0;
     int ofNext = 0;
@@ -42,8 +43,8 @@ class DisplayScale {
     return {first, static_cast<int>(std::max(beyond, std::int64_t{0}))};
   }
 
-  // The display pixels, from `begin` up to before `end`, that show anything of the pixels from `begin` up to before
-  // `end`: with broken scales those at both ends show others as well.
+  // The display pixels, from `begin` to before `end`, that show any part of the pixels from `begin` to before `end`: at
+  // fractional scales those at both ends show other pixels as well.
   struct Range {
     int begin = 0;
     int end = 0;

@@ -2,7 +2,8 @@
 
 namespace tarvik {
 
-// Something icons are drawn on: the grid picture, a capture surface, the main window. The platform knows how.
+// A surface that icons are drawn on: the grid picture, a capture surface, the main window. Implemented by the platform
+// layer.
 class DrawSurface {
  public:
   virtual ~DrawSurface() = default;

@@ -5,10 +5,10 @@
 namespace tarvik {
 namespace {
 
-constexpr int parts = DisplayScale::usualDots;  // shares are counted in these parts of a side
+constexpr int parts = DisplayScale::usualDots;  // shares are counted in these fractions of a side
 
-// Two neighbours along one side of the picture, and the share of the second. At the picture's end both are its last
-// one.
+// Two adjacent pixels along one side of the picture, and the share of the second. At the picture's end both are the
+// last pixel.
 struct Neighbours {
   int first;
   int next;

@@ -8,7 +8,7 @@
 
 namespace tarvik {
 
-// The rows of a picture in memory, the top one first, three bytes a pixel.
+// The rows of a picture in memory, the top one first, three bytes per pixel.
 template <typename Byte>
 struct PixelRows {
   Byte* first = nullptr;     // the top-left pixel
@@ -20,10 +20,10 @@ struct PixelRows {
 
 inline constexpr int bytesPerPixel = 3;
 
-// Fills `part` with a part of `picture` as a display of that scale shows it: the part whose top-left corner is at
-// `corner`, in display pixels, 0 or more. A display pixel has the colours of the pixels that it covers, mixed by the
-// areas that it covers of them. So with a whole scale each pixel becomes a square block, and with a broken one edges
-// stay as sharp as they can be. What reaches beyond the picture repeats its last column and row.
+// Fills `part` with a part of `picture` at a display's scale: the part whose top-left corner is at `corner`, in display
+// pixels, 0 or more. The colour of a display pixel is the area-weighted mean of the pixels that it covers. So at an
+// integral scale each pixel becomes a square block, and at a fractional one edges stay as sharp as possible. Beyond the
+// picture its last column and row are repeated.
 void Enlarge(const PixelRows<const std::uint8_t>& picture, const DisplayScale& scale, Point corner,
              const PixelRows<std::uint8_t>& part);
 

@@ -6,15 +6,15 @@
 
 namespace tarvik {
 
-// Runs an action once when its scope ends, however it ends; Now runs it earlier. It can be moved to where it is to
-// live.
+// Runs an action once when its scope ends, however it ends; Now runs it earlier. It can be moved to the scope in which
+// it is to live.
 //
-// A std::exception that the action throws is dropped: another one may be on its way already, and that is the one to
-// tell of. An action that captures no more than two pointers needs no memory, so that it is made whatever is left of
-// it.
+// A std::exception thrown by the action is dropped: another one may already be propagating, and that is the one to
+// report. An action that captures at most two pointers needs no heap memory, so it can be created even if memory has
+// run out.
 class [[nodiscard]] Finally {
  public:
-  Finally() = default;  // nothing to do
+  Finally() = default;  // no action
   explicit Finally(std::function<void()> action) : action_(std::move(action)) {}
   ~Finally() { Now(); }
   Finally(Finally&& other) noexcept : action_(std::exchange(other.action_, nullptr)) {}

@@ -18,7 +18,7 @@ bool HasDrive(std::string_view path) {
   return path.size() >= 2 && path[1] == ':';
 }
 
-// How many characters of the path are its root: "C:\" or "\\server\share".
+// The length of the path's root in characters: "C:\" or "\\server\share".
 std::size_t RootLength(std::string_view path) {
   if (!IsNetworkPath(path)) return std::min(path.size(), driveRootLength);
   const auto share = path.find(separator, 2);
@@ -30,7 +30,7 @@ bool StartsAtRoot(std::string_view path) {
   return IsNetworkPath(path) || (HasDrive(path) && path.size() >= driveRootLength && path[2] == separator);
 }
 
-// A path from a root with its names alone: without ".", "..", and empty ones.
+// Removes ".", ".." and empty names from an absolute path.
 std::string Resolve(const std::string& path) {
   const std::size_t root = RootLength(path);
   std::vector<std::string_view> names;
@@ -67,7 +67,7 @@ std::string AbsoluteFolderPath(std::string_view path, const std::string& base) {
   return TidyFolderPath(start + separator + tidy);
 }
 
-// "\\?\C:\a" is a longer form of a path with a drive.
+// "\\?\C:\a" is the extended-length form of a path with a drive.
 bool IsOnOtherComputer(std::string_view path) {
   constexpr std::string_view longForm = R"(\\?\)";
   return IsNetworkPath(path) && !(path.starts_with(longForm) && HasDrive(path.substr(longForm.size())));

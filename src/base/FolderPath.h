@@ -6,31 +6,30 @@
 
 namespace tarvik {
 
-// Folder paths as folder lists show them: UTF-8, "\" between names, none at the end but a drive root's ("C:\").
+// Folder paths as folder lists show them: UTF-8, "\" between names, no trailing one except at a drive root ("C:\").
 
-// The path in that form: drive letter in upper case, "/" turned into "\", a trailing "\" kept at a drive root alone,
-// and in a path from a root no "." or "..": such parts are resolved by the names alone, and ".." at the root stays
-// there.
+// The path in that form: drive letter in upper case, "/" replaced by "\", a trailing "\" kept only at a drive root, and
+// in an absolute path no "." or "..": these are resolved textually, and ".." at the root stays at the root.
 std::string TidyFolderPath(std::string_view path);
 
-// The path in that form, from a root: one without is taken to start at `base`, or at its root if it starts with "\".
-// An empty path stays empty.
+// The absolute path in that form: a relative one starts at `base`, or at its root if it starts with "\". An empty path
+// stays empty.
 std::string AbsoluteFolderPath(std::string_view path, const std::string& base);
 
-// Whether the path names a computer: a share of it ("\\server\share"), also in its longer form ("\\?\UNC\..."), or a
-// device of its own. To read there is to contact that computer.
+// Whether the path names a computer: a share ("\\server\share"), also in its extended-length form ("\\?\UNC\..."), or
+// one of its devices. Reading there means contacting that computer.
 bool IsOnOtherComputer(std::string_view path);
 
 // The folders from the root down to `path`, itself included: "C:\", "C:\a", "C:\a\b".
 std::vector<std::string> FolderChain(const std::string& path);
 
-// The folder that holds `path`; the path itself where it is a root.
+// The folder that contains `path`; the path itself if it is a root.
 std::string ParentFolder(const std::string& path);
 
-// The last name of a path, or the path where it is a root.
+// The last name of a path, or the path itself if it is a root.
 std::string FolderName(const std::string& path);
 
-// A folder's or file's path in `folder`: no second "\" behind a root.
+// The path of a folder or file in `folder`: no second "\" after a root.
 std::string JoinPath(std::string_view folder, std::string_view name);
 
 }  // namespace tarvik

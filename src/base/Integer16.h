@@ -7,9 +7,8 @@
 
 namespace tarvik {
 
-// A signed 16-bit whole number that never wraps: a value outside -32768 to 32767 throws OverflowError, and
-// the number keeps what it held. Reads as an int, so that arithmetic on it is done wide and checked when
-// stored.
+// A signed 16-bit integer that never wraps: a value outside -32768 to 32767 throws OverflowError, and the old value is
+// kept. Converts to int, so that arithmetic is done in int and checked on assignment.
 class Integer16 {
  public:
   constexpr Integer16() = default;

@@ -2,8 +2,8 @@
 
 namespace tarvik {
 
-// A base of whatever may be neither copied nor moved, because it owns something that it gives back at its end, or
-// because others hold its address.
+// A base class of types that must not be copied or moved, because they own something that they release on destruction,
+// or because other objects hold their address.
 class NonCopyable {
  public:
   NonCopyable(const NonCopyable&) = delete;

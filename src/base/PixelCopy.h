@@ -8,7 +8,7 @@
 
 namespace tarvik {
 
-// All pixels of a view, copied out once. What looks at each pixel several times looks at them here.
+// A copy of all pixels of a view, for code that reads each pixel several times.
 class PixelCopy {
  public:
   explicit PixelCopy(const PixelView& view) : width_(view.Width()), height_(view.Height()) {

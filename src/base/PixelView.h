@@ -32,7 +32,7 @@ class PixelView {
   // The pixel at (x, y), 0 <= x < Width(), 0 <= y < Height().
   virtual Color Pixel(int x, int y) const = 0;
   // Copies all pixels, row by row from the top, into `pixels`, which holds Width() times Height() colours. A picture in
-  // memory hands them out far quicker than pixel by pixel.
+  // memory overrides this, because copying is much faster than reading pixel by pixel.
   virtual void CopyPixels(std::span<Color> pixels) const {
     std::size_t index = 0;
     for (int y = 0; y < Height(); ++y) {

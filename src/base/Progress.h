@@ -2,11 +2,11 @@
 
 namespace tarvik {
 
-// How far a long command is.
+// The progress of a long command.
 struct Progress {
   enum class Kind {
     None,     // no such command runs
-    Unknown,  // it runs, but nobody knows how long
+    Unknown,  // it runs, and its total is unknown
     Share,    // `done` of `total` is done
   };
 

@@ -8,29 +8,29 @@ namespace tarvik {
 
 // The kinds of run-time errors, each of which has a text (runtimeErrorTexts).
 enum class RuntimeErrorKind {
-  Overflow,         // a value does not fit the 16-bit number it belongs in
-  TypeMismatch,     // a text that should be a number is none
-  OutOfMemory,      // there is no memory, or no room for one more picture
+  Overflow,         // a value does not fit into its 16-bit number
+  TypeMismatch,     // a text that should be a number is not one
+  OutOfMemory,      // memory ran out, or the space for one more picture
   MissingFunction,  // the system lacks a function that the program calls
-  NoWindow,         // the system made no window
-  UnheldName,       // the calls that the program makes cannot take a name
+  NoWindow,         // the system created no window
+  UnheldName,       // the calls that the program makes do not accept a name
   Unexpected,       // any other exception
 };
 
-// A run-time error: it stops the handler that it happens in, unless a rule says what happens instead. The handler's
-// boundary shows it to the user and leaves the window usable.
+// A run-time error: it ends the handler in which it happens, unless documented otherwise. The handler's boundary shows
+// it to the user; the window stays usable.
 class RuntimeError : public std::exception {
  public:
   explicit RuntimeError(RuntimeErrorKind kind, std::string detail = {}) : kind_(kind), detail_(std::move(detail)) {}
 
   RuntimeErrorKind Kind() const { return kind_; }
-  // What the kind does not say by itself, as a user is told it, UTF-8: which function is missing, what an exception
-  // says. Empty for most.
+  // Details beyond the kind, for the user, UTF-8: which function is missing, the message of an exception. Empty for
+  // most kinds.
   const std::string& Detail() const { return detail_; }
-  // The path of the file that it happened at, UTF-8; empty if it is about no file.
+  // The path of the file at which it happened, UTF-8; empty if no file is concerned.
   const std::string& File() const { return file_; }
   void SetFile(const std::string& path) { file_ = path; }
-  // The kind in a few words of English, for whoever reads a trace.
+  // The kind in a few English words, for traces.
   const char* what() const noexcept override;
 
  private:
@@ -66,14 +66,15 @@ class NoWindowError : public RuntimeError {
   NoWindowError() : RuntimeError(RuntimeErrorKind::NoWindow) {}
 };
 
-// A name with characters that the code page in force lacks. Its detail is the path, with "?" in their places.
+// A name with characters that the current code page lacks. Its detail is the path, with "?" in their places.
 class UnheldNameError : public RuntimeError {
  public:
   explicit UnheldNameError(const std::string& path) : RuntimeError(RuntimeErrorKind::UnheldName, path) {}
 };
 
-// What stopped a handler, as a run-time error: a RuntimeError is that itself, a lack of memory and a text or list
-// longer than any can be are OutOfMemory, everything else is Unexpected and says in its detail what it says itself.
+// Converts an exception that stopped a handler to a run-time error: a RuntimeError is returned unchanged,
+// std::bad_alloc and std::length_error become OutOfMemory, everything else becomes Unexpected with its message as
+// detail.
 RuntimeError AsRuntimeError(const std::exception& error);
 
 }  // namespace tarvik

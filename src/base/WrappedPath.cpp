@@ -5,7 +5,7 @@
 namespace tarvik {
 namespace {
 
-// How many bytes of the path go into its first line.
+// How many bytes of the path fit into its first line.
 std::size_t FirstLineLength(std::string_view path, int columns) {
   std::size_t afterName = 0;
   int column = 0;
