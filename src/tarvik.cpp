@@ -1,4 +1,5 @@
-// The program: makes what it stands on, runs it, and ends. Everything else is in the two libraries.
+// The entry point: creates the objects that the program consists of, runs it, and cleans up. Everything else is in the
+// two libraries.
 
 #include <windows.h>
 
@@ -35,7 +36,7 @@
 namespace tarvik {
 namespace {
 
-// Milliseconds: what is over by then is seen in the window.
+// Milliseconds: a command that is over by then shows its result in the window anyway.
 constexpr unsigned long long shownProgressAfter = 300;
 
 std::vector<DriveListBox::Drive> DriveRows() {
@@ -44,12 +45,12 @@ std::vector<DriveListBox::Drive> DriveRows() {
   return rows;
 }
 
-// The program's windows. The start-up window opens the main one, and that one opens it again as About box. Each is made
-// when first shown. They are declared so that none outlives what it uses: the dialogs ask the main window when a
-// command of it opens them, and not after it.
+// The program's windows. The start-up window opens the main one, and that one opens it again as About box. Each is
+// created when first shown. Their order of declaration ensures that none outlives what it uses: the dialogs use the
+// main window only while one of its commands has them open.
 class Windows {
  public:
-  // Everything outlives the windows.
+  // All arguments outlive the windows.
   Windows(Application& application, ProgramState& state, Settings& settings, IconSource& icons, Folders& folders)
       : application_(application), state_(state), settings_(settings), icons_(icons), folders_(folders) {}
 
@@ -139,8 +140,8 @@ void Run(HINSTANCE instance, ProgramState& state) {
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*commandLine*/, int /*show*/) {
   using namespace tarvik;
   LoadLibrariesFromSystemFolderOnly();
-  // The system would cover a window that serves no messages for some seconds with a picture of it, and a long count
-  // could not show how far it is.
+  // If a window served no messages for some seconds, the system would replace it by a ghost image, and a long count
+  // could not show its progress.
   DisableProcessWindowsGhosting();
 
   ProgramState state;
@@ -148,7 +149,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* /*comma
     Run(instance, state);
     return 0;
   } catch (const std::exception& error) {
-    // No handler was there to stop: the start failed.
+    // No handler has been stopped: the start-up failed.
     ShowRuntimeError(nullptr, AsRuntimeError(error), state.CurrentLanguage);
     return 1;
   }

@@ -10,7 +10,7 @@
 
 namespace tarvik {
 
-// Writes a file on disk: the only way in which the program creates or replaces a file, in all formats.
+// Writes a file on disk. All exported files, in every format, are created or replaced by this class.
 //
 // Open takes these steps, in this order:
 //  1. If the name is free, a new file is created. This is first because no other step is then needed, and because the
