@@ -15,7 +15,7 @@ namespace {
 
 constexpr int textCapacity = 2048;  // characters of a cell or panel, terminating zero included
 
-// Memory of the process that a window belongs to, for messages whose pointers the system does not carry over.
+// Memory in the process that owns a window, for messages whose pointers the system does not marshal.
 class RemoteMemory : NonCopyable {
  public:
   RemoteMemory(HWND window, std::size_t size) {
@@ -55,7 +55,7 @@ LPARAM Pointer(const void* address) {
   return reinterpret_cast<LPARAM>(address);
 }
 
-// How a drop-down list tells its parent of a choice.
+// The wParam of the message by which a drop-down list notifies its parent of a choice.
 WPARAM ChoiceOf(HWND comboBox) {
   return MAKEWPARAM(static_cast<WORD>(GetDlgCtrlID(comboBox)), CBN_SELCHANGE);
 }

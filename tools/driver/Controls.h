@@ -8,8 +8,8 @@
 
 namespace tarvik::end_to_end {
 
-// A window or control of another process. Texts are UTF-8. Every question is asked by a message that the other process
-// answers, and waits as long as that process is busy; std::runtime_error where it does not answer at all.
+// A window or control of another process. Texts are UTF-8. Every query is a message that the other process answers; it
+// waits as long as that process is busy, and throws std::runtime_error if there is no answer at all.
 class Control {
  public:
   Control() = default;
@@ -22,32 +22,32 @@ class Control {
   void SetText(const std::string& text) const;
   bool IsEnabled() const { return IsWindowEnabled(window_) != 0; }
   bool IsVisible() const { return IsWindowVisible(window_) != 0; }
-  // Its place on the screen, in pixels: all of it, and what is inside its border.
+  // Its rectangle on the screen, in pixels: the whole window, and the client area.
   RECT Place() const;
   RECT Inside() const;
 
   LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   void Post(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
-  // The control in it with that id, at any depth; nothing, or std::runtime_error, where there is none.
+  // The descendant control with that id; Child throws std::runtime_error if there is none.
   std::optional<Control> FindChild(int id) const;
   Control Child(int id) const;
 
-  // Buttons and boxes. A press is posted: what it starts may take long or open a window.
+  // Buttons and boxes. A press is posted: its handler may take long or open a window.
   void Press() const { Post(BM_CLICK); }
   bool IsChecked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
 
-  // Drop-down lists. A choice is told to the parent as a user's choice is.
+  // Drop-down lists. The parent is notified of a choice as of a user's choice.
   std::vector<std::string> ComboItems() const { return Items(CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT); }
   int ComboChoice() const { return static_cast<int>(Send(CB_GETCURSEL)); }
   void ChooseComboItem(int index) const;
-  // The same, without waiting for what the parent does then: it may open a window.
+  // The same, without waiting for the parent's handler: it may open a window.
   void PostComboChoice(int index) const;
 
   // List boxes.
   std::vector<std::string> ListItems() const { return Items(LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT); }
   int ListChoice() const { return static_cast<int>(Send(LB_GETCURSEL)); }
-  // The middle of a row on the screen; the row is scrolled into sight.
+  // The middle of a row on the screen; the row is scrolled into view.
   POINT ListRowMiddle(int index) const;
 
   // Scroll bars that are controls.
@@ -70,7 +70,7 @@ class ReportView {
   std::vector<std::string> Row(int row) const;
   std::vector<std::string> CellsOf(int column) const;
   bool IsSelected(int row) const;
-  // The row's place on the screen.
+  // The row's rectangle on the screen.
   RECT RowPlace(int row) const;
 
   struct Column {
@@ -87,15 +87,15 @@ class ReportView {
   Control control_;
 };
 
-// A toolbar of another process. Buttons go by their command ids.
+// A toolbar of another process. Buttons are identified by their command ids.
 class ToolbarView {
  public:
   explicit ToolbarView(Control control) : control_(control) {}
 
-  // The button's place on the screen.
+  // The button's rectangle on the screen.
   RECT ButtonPlace(int button) const;
   bool IsEnabled(int button) const;
-  // The button's text, which shows as its tooltip.
+  // The button's text, which is its tooltip.
   std::string ButtonText(int button) const;
 
  private:

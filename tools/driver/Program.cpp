@@ -39,7 +39,7 @@ std::wstring ClassOf(HWND window) {
   return name;
 }
 
-// What every message box of the system has: its class, and its text under an id of its own.
+// Common to all message boxes of the system: the class, and a text with an id of its own.
 bool IsBox(Control window) {
   return ClassOf(window.Window()) == L"#32770" && window.FindChild(boxTextId);
 }
@@ -136,7 +136,7 @@ void Program::PassStartUpWindow() {
 
 void Program::StartWithFilesUpTo(int bytes) {
   constexpr int unit = 512;  // of the shell's limit
-  // The signal that goes with the limit would end the process; ignored, it leaves the write to fail.
+  // Exceeding the limit raises a signal that would end the process; with the signal ignored, the write fails instead.
   RunUnix("trap '' XFSZ\nulimit -f " + std::to_string(bytes / unit) + "\nwine " + UnixQuoted(path_) +
           " >/dev/null 2>&1 &");
   if (!Eventually([this] { return Adopt(); })) throw std::runtime_error("the program does not start");
@@ -189,8 +189,8 @@ void Program::Resume() {
 }
 
 std::string Program::CurrentFolder() const {
-  // Where a 64-bit process keeps it: the environment block names the parameters, these begin with some handles, and the
-  // current folder's text, counted in bytes, comes next.
+  // Offsets in a 64-bit process: of the parameters in the PEB, and of the current folder (a UNICODE_STRING) in the
+  // parameters.
   constexpr std::size_t parametersPlace = 0x20;
   constexpr std::size_t currentFolderPlace = 0x38;
   PROCESS_BASIC_INFORMATION process{};
@@ -213,7 +213,7 @@ Control Program::Item(int id) const {
 }
 
 void Program::BringToFront() const {
-  // Another window that is just coming up may take the place back.
+  // Another window that is just opening may take the foreground back.
   if (!Eventually([&] {
         if (GetForegroundWindow() == window_.Window()) return true;
         SetForegroundWindow(window_.Window());

@@ -22,9 +22,9 @@ class Box {
   std::string Text() const;
   // Ids of its buttons: IDOK, IDYES ...
   std::vector<int> Buttons() const;
-  // The picture left of its text.
+  // The icon to the left of its text.
   Control Sign() const;
-  // Presses a button and waits until the box is gone.
+  // Presses a button and waits until the box has closed.
   void Press(int button) const;
 
  private:
@@ -34,65 +34,65 @@ class Box {
 // A file of this build, by its path relative to the test program's own folder.
 std::filesystem::path BuiltFile(const char* relativePath);
 
-// A copy of tarvik.exe that a test runs from a folder of its own, where its settings file is the test's too.
+// A copy of tarvik.exe that a test runs from a folder of its own, so that the settings file is the test's own too.
 class Program : NonCopyable {
  public:
-  // `folder` is where the copy lies, and must be there; `name` is the copy's file name. Both are UTF-8.
+  // `folder` is the folder of the copy and must exist; `name` is the copy's file name. Both are UTF-8.
   explicit Program(const std::string& folder, const std::string& name = "tarvik.exe");
-  // One more run of a copy that is there.
+  // Another run of an existing copy.
   explicit Program(std::filesystem::path copy);
-  // Ends a program that still runs, by force.
+  // Terminates the program if it still runs.
   ~Program();
 
   const std::filesystem::path& Path() const { return path_; }
   std::filesystem::path SettingsFile() const;
 
-  // Starts the process alone. Its first window is the start-up window.
+  // Only starts the process. Its first window is the start-up window.
   void Launch();
-  // The start-up window, or the same window as About box, once it is there.
+  // Waits for the start-up window, or the same window as About box.
   Control WaitForStartUpWindow() const;
-  // Waits until the main window is up and brings it to the front.
+  // Waits for the main window and brings it to the foreground.
   void WaitForMainWindow();
-  // The visible top-level window that has a control with that id, once there is one.
+  // Waits for a visible top-level window that has a control with that id.
   Control WaitForWindowWith(int id) const;
   // How many visible top-level windows the process has, and how many of them have a control with that id.
   int CountWindows() const;
   int CountWindowsWith(int id) const;
-  // The part of the screen that holds all of them.
+  // The bounding rectangle of all of them on the screen.
   RECT Extent() const;
-  // Starts the program, has the start-up window go at once as it does by itself after some seconds, and waits for the
-  // main window.
+  // Starts the program, closes the start-up window at once instead of after some seconds, and waits for the main
+  // window.
   void Start();
-  // The same for a process that can make no file longer than so many bytes, a multiple of 512: what goes beyond fails
-  // to be written, as on a full disk.
+  // The same for a process whose files are limited to so many bytes, a multiple of 512: writing more fails, as on a
+  // full disk.
   void StartWithFilesUpTo(int bytes);
   // Whether it was ever started, and whether it runs.
   bool WasStarted() const { return static_cast<bool>(process_); }
   bool IsRunning() const;
-  // The process, with all rights to it; owned by this object.
+  // The process handle with all access rights; owned by this object.
   HANDLE Process() const { return process_.get(); }
-  // Waits until the process has ended; its exit code.
+  // Waits until the process has ended; returns its exit code.
   DWORD WaitForEnd();
-  // Asks the main window to close and waits for the end; the exit code.
+  // Asks the main window to close and waits for the end; returns the exit code.
   DWORD Close();
-  // Stops the process where it is, and lets it go on: what is sent meanwhile has surely come during what it does now.
+  // Suspends and resumes the process: messages sent in between are certain to arrive during its current work.
   void Suspend();
   void Resume();
 
-  // The folder that the process stands in, with a backslash at its end.
+  // The current folder of the process, with a trailing backslash.
   std::string CurrentFolder() const;
 
   // The main window; none before Start.
   Control Window() const { return window_; }
-  // The control of the main window with that id. Throws std::runtime_error where there is none.
+  // The control of the main window with that id. Throws std::runtime_error if there is none.
   Control Item(int id) const;
-  // Gives a menu item's or button's command to the main window.
+  // Sends a menu item's or button's command to the main window.
   void Command(int id) const { window_.Post(WM_COMMAND, static_cast<WPARAM>(id)); }
-  // Makes the main window the one that the keyboard goes to.
+  // Brings the main window to the foreground, so that it receives keyboard input.
   void BringToFront() const;
-  // The control that has the keyboard.
+  // The control that has the keyboard focus.
   Control Focus() const;
-  // The menu that is dropped down, if any.
+  // The menu that is open, if any.
   std::optional<Control> OpenMenu() const;
 
   // The message box that the program shows now, if any; or waits for one.
@@ -101,14 +101,14 @@ class Program : NonCopyable {
 
  private:
   void PassStartUpWindow();
-  // Makes the process that runs the copy this object's own; whether there is one yet.
+  // Opens the process that runs the copy; returns whether there is one yet.
   bool Adopt();
   // The visible top-level windows of the process.
   std::vector<Control> TopWindows() const;
 
   std::filesystem::path path_;
   KernelHandle process_;
-  KernelHandle job_;  // takes the process down with the test, however that ends
+  KernelHandle job_;  // ends the process together with the test, however the test ends
   DWORD processId_ = 0;
   DWORD threadId_ = 0;
   Control window_;

@@ -14,7 +14,7 @@
 namespace tarvik::end_to_end {
 namespace {
 
-// The command that takes a picture of `place` and writes it to the file that follows.
+// The command that captures `place` and writes it to the file that follows.
 std::string TakeCommand(const RECT& place) {
   std::ostringstream command;
   command << "import -silent -window root -crop " << place.right - place.left << 'x' << place.bottom - place.top << '+'
@@ -34,7 +34,7 @@ Screenshot::Screenshot(const RECT& place) {
       std::filesystem::temp_directory_path() / (L"tarvik-screen-" + std::to_wstring(GetCurrentProcessId()) + L".ppm");
   Run(TakeCommand(place) + "ppm:" + UnixQuoted(file));
 
-  // The format: "P6", width, height, the highest value, one blank, then red, green and blue of each pixel.
+  // The format: "P6", width, height, the maximum value, one blank, then red, green and blue of each pixel.
   std::ifstream in(file, std::ios::binary);
   std::string kind;
   int highest = 0;
@@ -53,7 +53,7 @@ Screenshot::Screenshot(const RECT& place) {
 
 void SavePicture(const RECT& place, const std::filesystem::path& file) {
   std::filesystem::create_directories(file.parent_path());
-  // Pictures are taken until two in a row are the same; where something moves all the time, the last one counts.
+  // Captures until two pictures in a row are identical; if something moves all the time, the last one is used.
   Run("folder=$(mktemp -d)\ncd $folder\ntake() { " + TakeCommand(place) + R"("ppm:$1"; }
 take former
 for try in 1 2 3 4 5 6 7 8 9 10; do

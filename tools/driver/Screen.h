@@ -10,11 +10,11 @@
 
 namespace tarvik::end_to_end {
 
-// What a part of the screen shows, as pixels.
+// The pixels of a part of the screen.
 class Screenshot : public PixelView {
  public:
-  // Takes the picture of `place`, in screen pixels, which must lie on the screen. It is taken by a program of its own,
-  // because no process may read another one's pixels here.
+  // Captures `place`, in screen pixels, which must lie on the screen. An external program makes the capture, because
+  // here no process can read another one's pixels.
   explicit Screenshot(const RECT& place);
 
   int Width() const override { return width_; }
@@ -29,17 +29,17 @@ class Screenshot : public PixelView {
   std::vector<Color> pixels_;
 };
 
-// Saves a picture of `place`, in screen pixels, for people to look at, once it no longer changes. The file's ending
-// says which kind of picture; its folder is made where it is not there.
+// Saves a picture of `place`, in screen pixels, for viewing, after it has stopped changing. The file's extension
+// chooses the format; its folder is created if necessary.
 void SavePicture(const RECT& place, const std::filesystem::path& file);
 
-// How many pixels have that colour.
+// The number of pixels of that colour.
 int CountPixels(const PixelView& picture, Color color);
 
-// How many pixels of the two differ, where both have them.
+// The number of differing pixels in the area common to both.
 int CountDifferences(const PixelView& one, const PixelView& other);
 
-// Whether the box shows that sign of the system (IDI_INFORMATION ...), compared pixel by pixel.
+// Whether the box shows that icon of the system (IDI_INFORMATION ...), compared pixel by pixel.
 bool ShowsSign(const Box& box, const wchar_t* sign);
 
 }  // namespace tarvik::end_to_end

@@ -34,8 +34,8 @@ void Start(std::wstring commandLine) {
       0) {
     throw std::runtime_error("the shell cannot be started");
   }
-  // The two handles are left alone. For a program of the machine below it Wine makes none and returns what was on its
-  // stack, which can be the number of a handle that somebody here needs.
+  // The two handles are not closed. For a program of the host system Wine creates none and returns uninitialised stack
+  // values, which can equal a handle that is in use here.
 }
 
 }  // namespace
@@ -59,7 +59,8 @@ UnixAnswer RunUnix(const std::string& command) {
   const fs::path output = base + L".out";
   const fs::path answer = base + L".end";
   const std::string unixAnswer = Quoted(UnixPath(answer));
-  // Wine gives no handle to wait for such a program, so the end is told by a file, which appears whole.
+  // Wine provides no handle to wait for such a program, so its end is signalled by a file, which is moved into place
+  // complete.
   std::ofstream(script, std::ios::binary)
       << "exec >" << Quoted(UnixPath(output)) << " 2>&1 </dev/null\n(\n"
       << command << "\n)\necho $? >" << unixAnswer << ".part\nmv " << unixAnswer << ".part " << unixAnswer << "\n";

@@ -1,9 +1,8 @@
-// Has the real program search a folder, as ./run does if there is no display:
+// Makes the real program search a folder; used by ./run if there is no display:
 //   run_search.exe HOME [FOLDER]
-// The program is copied to HOME and run from there. It searches FOLDER (the system folder if left out) and all folders
-// below it for icons in .ico, .dll and .exe files, at 32 x 32 and, where that is too many, at 16 x 16. What it answers
-// is printed, and pictures of its window are left in HOME: grid.png and list.png, or refused.png where it lists
-// nothing.
+// The program is copied to HOME and run from there. It searches FOLDER (by default the system folder) and its
+// sub-folders for icons in .ico, .dll and .exe files, at 32 x 32 and, if there are too many, at 16 x 16. The results
+// are printed, and pictures of its window are saved in HOME: grid.png and list.png, or refused.png if it lists nothing.
 
 #include <fcntl.h>
 #include <io.h>
