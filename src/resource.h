@@ -1,8 +1,8 @@
 #pragma once
 
-// Every control's and menu item's id, one range a window. A control that is a real window carries it as its control
-// id, a menu item as its command id, so that scripts, accessibility tools and tests reach all of them. An id never
-// changes its meaning. Plain macros, because the resource compiler reads this file too.
+// The ids of all controls and menu items, one range per window: control ids and command ids. Scripts, accessibility
+// tools and tests find controls by these ids, so an id never changes its meaning. Macros, because the resource compiler
+// reads this file too.
 
 // Resources.
 #define Icon_Program 1
@@ -50,7 +50,7 @@
 #define FrmFindIcon_OptView1 1045
 #define FrmFindIcon_lblInfo 1046
 #define FrmFindIcon_sbMain 1047
-// Names of the controls behind them.
+// Invisible labels that name the controls after them.
 #define FrmFindIcon_lblDrive1 1050
 #define FrmFindIcon_lblDir1 1051
 #define FrmFindIcon_lblFile1 1052
@@ -89,7 +89,7 @@
 #define FrmFindIcon_MnuHelp 1150
 #define FrmFindIcon_MnuContent 1151
 #define FrmFindIcon_MnuAbout 1152
-// Commands that keys alone give.
+// Commands that only keys trigger.
 #define FrmFindIcon_keyRefresh 1160
 #define FrmFindIcon_keySelectAll 1161
 
