@@ -96,7 +96,7 @@ class ReportList {
   bool choicePending_ = false;
   Choice choice_;
   PictureTip tip_;
-  std::wstring cell_;  // the text last asked for; the control reads it after Notify returns
+  std::wstring cell_;  // the text last requested; the control reads it after Notify returns
 };
 
 }  // namespace tarvik

@@ -47,7 +47,7 @@ constexpr int WidestGrid() {
   return widest;
 }
 
-// How many rows `iconCount` icons take.
+// How many rows `iconCount` icons need.
 constexpr int GridRows(const GridGeometry& geometry, int iconCount) {
   return (iconCount + geometry.Columns - 1) / geometry.Columns;
 }

@@ -57,7 +57,7 @@ class IconGrid final : public GridView {
   PictureBox picIcons_;
   Surface picture_;
   WheelScroll wheel_;
-  // The size that the windows were last given, if any.
+  // The last size of the windows, if any.
   std::optional<GridExtent> extent_;
 };
 

@@ -34,7 +34,7 @@ class FolderWalk {
     bool isBeyondMount = false;  // a mounted volume is on the way to it
     std::vector<WalkedFolder> subFolders{};
     std::size_t next = 0;    // the sub-folder to go to next
-    std::string identity{};  // asked for when it is first needed
+    std::string identity{};  // queried when it is first needed
   };
 
   void ReadSubFolders(OpenFolder& folder);

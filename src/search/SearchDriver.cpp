@@ -127,7 +127,7 @@ FolderWalk SearchDriver::WalkOverScope() {
   return {window_, folders_, window_.chkSubDir() ? folders_.Dir1Path() : folders_.File1Path()};
 }
 
-// With sub-folders a pass moves Dir1; it is put back when the returned object is destroyed.
+// With sub-folders a pass moves Dir1; it is restored when the returned object is destroyed.
 Finally SearchDriver::KeepDir1() {
   if (!window_.chkSubDir()) return {};
   state_.SavedDirPath = folders_.Dir1Path();

@@ -15,7 +15,7 @@
 
 namespace tarvik {
 
-// The search behind the Find button. Two passes over the same folders: the first only counts, so that a
+// The search that the Find button starts. Two passes over the same folders: the first only counts, so that a
 // search over the limit is refused before an icon is drawn; the second lists and draws.
 class SearchDriver {
  public:

@@ -35,7 +35,7 @@ namespace fs = std::filesystem;
 
 constexpr std::chrono::milliseconds pollInterval{50};
 
-// A size of icons with the most icons that it lists.
+// An icon size and its highest limit.
 struct Scale {
   int item;
   const char* name;
@@ -62,7 +62,7 @@ void TickFileTypes(const Program& program) {
   }
 }
 
-// Saves the screen at that place when it has come to rest: windows are drawn a little after they are asked to be.
+// Saves that part of the screen after it has stopped changing: windows are drawn a little later than requested.
 void SavePicture(const RECT& place, const fs::path& file) {
   Screenshot before(place);
   const bool rests = Eventually([&] {
@@ -79,11 +79,11 @@ void SavePicture(const RECT& place, const fs::path& file) {
   if (answer.exitCode != 0) throw std::runtime_error("no picture of the window: " + answer.output);
 }
 
-// Presses Find and waits for the end of the search, however long it takes. The program's message where it lists
+// Presses Find and waits for the end of the search, however long it takes. Returns the program's message if it lists
 // nothing.
 std::optional<std::string> Search(const Program& program, const Scale& scale, const fs::path& picture) {
   const Control limit = program.Item(FrmFindIcon_txtMax);
-  // The choice of a size sets the size's own limit, some time after it is made.
+  // The choice of a size sets that size's own limit, with a delay.
   limit.SetText("");
   program.Item(FrmFindIcon_CboIconSize).ChooseComboItem(scale.item);
   if (!Eventually([&] { return !limit.Text().empty(); })) throw std::runtime_error("the size is not taken");
@@ -102,7 +102,7 @@ std::optional<std::string> Search(const Program& program, const Scale& scale, co
   return message;
 }
 
-// The enhanced view of the icon that a search has made the current one.
+// Saves the enhanced view of the current icon after a search.
 void SaveEnhancedView(const Program& program, const fs::path& picture) {
   program.Item(FrmFindIcon_PicIcons).Post(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(1, 1));
   const Control view = program.WaitForWindowWith(frmBit_img);
@@ -119,7 +119,7 @@ void SaveViews(const Program& program, const fs::path& home) {
 }
 
 void Run(const std::string& home, const std::string& folder) {
-  // In place of a folder that is not there the program would search its own.
+  // If the folder did not exist, the program would search its own.
   if (!fs::is_directory(ToWide(folder))) throw std::runtime_error("there is no folder " + folder);
   const fs::path homePath = ToWide(home);
   Program program(home);
@@ -136,7 +136,7 @@ void Run(const std::string& home, const std::string& folder) {
       break;
     }
     std::printf("At %s, with the limit %s, it answered:\n%s\n", scale.name, scale.limit, message->c_str());
-    // Only too many icons may be fewer than the most at another size.
+    // Another size can help only if there were too many icons.
     if (!message->starts_with("Found ")) break;
   }
   std::fflush(stdout);
@@ -151,7 +151,7 @@ int main(int count, char** arguments) {
     std::fputs("usage: run_search.exe HOME [FOLDER]\n", stderr);
     return 2;
   }
-  // A shell reads this, so lines end as the shell expects.
+  // A shell reads this, so lines end with "\n" alone.
   _setmode(_fileno(stdout), _O_BINARY);
   try {
     tarvik::end_to_end::Run(arguments[1], count == 3 ? arguments[2] : tarvik::SystemFolder());

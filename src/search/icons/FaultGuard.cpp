@@ -7,7 +7,7 @@
 namespace tarvik {
 namespace {
 
-// Where the guarded call of this thread was made; null outside a guarded call.
+// The return point of the guarded call of this thread; null outside a guarded call.
 thread_local jmp_buf* returnPoint = nullptr;
 
 [[noreturn]] void LeaveCall() {

@@ -29,7 +29,7 @@ class ExtractedIcon {
   virtual int StepBound() const = 0;
 };
 
-// Where icons come from: the files of the machine, through the shell. Paths are UTF-8.
+// The source of icons: the files of the machine, read through the shell. Paths are UTF-8.
 class IconSource {
  public:
   virtual ~IconSource() = default;

@@ -15,7 +15,7 @@ namespace tarvik {
 // each call opens and reads the file from scratch. The caller gets the same icons as without it.
 //
 // It does so only while an object returned by InTurn exists, and holds at most 64 icons, of one file. They are dropped
-// if another file is requested, by LetGo, and by LetGoIfChanged if the file has changed. To waste little where icons
+// if another file is requested, by LetGo, and by LetGoIfChanged if the file has changed. To waste little if icons
 // are often dropped, the next group is only as large as what was used of the last one, and grows again. A file that
 // does not yield a whole group is extracted one by one until it changes, and so are animations. Within InTurn, a file
 // is counted once until it changes.
@@ -55,7 +55,7 @@ class IconsAhead final : public IconSource {
   int maxTaken_ = 0;                                  // the most at a time
 
   std::unordered_map<std::string, Count> counts_;      // by path; of one InTurn
-  std::unordered_map<std::string, FileStamp> broken_;  // files that did not give a group; of the whole run
+  std::unordered_map<std::string, FileStamp> broken_;  // files that did not yield a whole group; for the whole run
 };
 
 }  // namespace tarvik

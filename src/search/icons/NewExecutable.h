@@ -10,21 +10,21 @@
 
 namespace tarvik {
 
-// A module of 16-bit Windows (a "New Executable"): a program, a library, or a library of icons and nothing else.
-// Windows has not taken icons out of such files since Vista, so the program reads their table of resources itself.
+// A module of 16-bit Windows (a "New Executable"): a program, a library, or a library that contains only icons.
+// Windows no longer extracts icons from such files since Vista, so the program reads their resource table itself.
 //
-// The format, as Microsoft's "Executable-File Header Format" (Windows 3.1) describes it. All numbers are little-endian:
-//   - the DOS header: "MZ"; at 0x3C, in four bytes, where the new header is;
-//   - the new header: "NE"; at 0x24 and 0x26 where, from its own start, the tables of resources and of resident names
-//     are. The second follows the first, so no table of resources has more than 64 KB;
-//   - the table of resources: a shift, by which places and lengths in it are moved to the left; then, for each type,
-//     its number (0 ends the table), how many resources there are, and four bytes that mean nothing in a file; and for
-//     each of them its place in the file, its length, flags, its number, and again four bytes. Types and resources that
-//     have a number have the highest bit set in it; without that bit, it says where the name is.
-// A group of icons (type 14) names its pictures (type 3) by number.
+// The format, as described in Microsoft's "Executable-File Header Format" (Windows 3.1). All numbers are little-endian:
+//   - the DOS header: "MZ"; at 0x3C, in four bytes, the offset of the new header;
+//   - the new header: "NE"; at 0x24 and 0x26 the offsets, from its own start, of the resource table and of the table of
+//     resident names. The second table follows the first, so no resource table has more than 64 KB;
+//   - the resource table: a shift count for the offsets and lengths in it; then, for each type, its number (0 ends the
+//     table), the number of resources, and four bytes without meaning in a file; and for each resource its offset in
+//     the file, its length, flags, its number, and again four such bytes. The highest bit of a type or a resource
+//     number is set if it is a number; without that bit, it is the offset of a name.
+// A group of icons (type 14) refers to its pictures (type 3) by number.
 //
-// Whatever the file says, nothing is read beyond its end or beyond what the table names. Where the table is damaged, it
-// ends.
+// Whatever the file declares, nothing is read beyond its end or beyond what the table names. A truncated table is read
+// as far as it goes.
 class NewExecutable {
  public:
   // A module without icons.
