@@ -1,6 +1,6 @@
 #pragma once
 
-// The screen of this user session: the primary monitor.
+// The primary monitor.
 namespace tarvik::desktopScreen {
 
 // The colour depth in bits per pixel. Each call takes a device context of the whole screen and never releases it
