@@ -1,11 +1,11 @@
-# What every script shares. Source it; it sets $root to the project's folder.
+# Functions shared by all scripts. Source it; it sets $root to the project's folder.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 say() { printf '==> %s\n' "$*"; }
 fail() { printf 'error: %s\n' "$*" >&2; exit 1; }
 
-# program_version: the version that CMakeLists.txt states, as in 1.0.0.
+# program_version: the version in CMakeLists.txt, as in 1.0.0.
 program_version() {
   local version
   version=$(sed -nE 's/^project\(Tarvik VERSION ([0-9]+\.[0-9]+\.[0-9]+) .*/\1/p' "$root/CMakeLists.txt")
@@ -13,7 +13,7 @@ program_version() {
   printf '%s\n' "$version"
 }
 
-# as_root COMMAND...: runs it as root, through sudo where needed.
+# as_root COMMAND...: runs it as root, with sudo if needed.
 as_root() {
   if [ "$(id -u)" = 0 ]; then "$@"
   elif command -v sudo >/dev/null; then sudo "$@"
@@ -21,8 +21,8 @@ as_root() {
   fi
 }
 
-# need_packages LIST...: installs the Debian packages that the lists name (scripts/packages/LIST.txt), if missing. A row
-# "A | B" is satisfied by any of these packages; if none is there, the first one that this release has is installed.
+# need_packages LIST...: installs the missing Debian packages of the lists (scripts/packages/LIST.txt). A row "A | B" is
+# satisfied by any of these packages; if none is installed, it installs the first one that this release has.
 need_packages() {
   local list row rows=() names=()
   for list in "$@"; do
@@ -51,7 +51,7 @@ is_installed() {
   return 1
 }
 
-# offered ROW: the first package of the row that the package server has, or the first one, for the message.
+# offered ROW: the first package of the row that the package server has, else the first one, for the error message.
 offered() {
   local name
   for name in ${1//|/ }; do
@@ -60,8 +60,8 @@ offered() {
   echo "${1%% *}"
 }
 
-# watch_processes: from here on every process that this script starts carries a mark in its environment, and none
-# outlives the script, however it ends: by itself, by an error, by Ctrl-C or by being asked to.
+# watch_processes: from here on every process that this script starts has a mark in its environment, and all of them are
+# killed when the script ends: normally, by an error, by Ctrl-C or by SIGTERM.
 watch_processes() {
   export TARVIK_SCRIPT="$$-$(date +%s%N)"
   trap end_processes EXIT
@@ -69,7 +69,7 @@ watch_processes() {
   trap 'exit 143' TERM HUP
 }
 
-# marked_processes: the ids of those processes that still run.
+# marked_processes: the ids of the marked processes that still run.
 marked_processes() {
   grep -lszxF "TARVIK_SCRIPT=$TARVIK_SCRIPT" /proc/[0-9]*/environ | cut -d / -f 3 || true
 }
@@ -78,7 +78,7 @@ end_processes() {
   local status=$? process round
   trap - EXIT
   trap '' INT TERM HUP
-  # What is started from here on is not looked for.
+  # Processes started from here on are not marked.
   export -n TARVIK_SCRIPT
   if [ "$(type -t end_wine)" = function ]; then end_wine; fi
   for round in $(seq 100); do
@@ -91,13 +91,13 @@ end_processes() {
   fail "these processes do not end: $(marked_processes | paste -sd ' ')"
 }
 
-# watched COMMAND...: runs it so that a signal to the script is obeyed at once, not when the command is done.
+# watched COMMAND...: runs it so that a signal to the script is handled at once, not only when the command is done.
 watched() {
   "$@" &
   wait $!
 }
 
-# quietly NAME COMMAND...: runs it with its output in build/logs/NAME.log; shows the end of that where it fails.
+# quietly NAME COMMAND...: runs it with its output in build/logs/NAME.log; if it fails, shows the end of that file.
 quietly() {
   local log="$root/build/logs/$1.log"
   mkdir -p "$root/build/logs"

@@ -1,13 +1,13 @@
-# A Wine of the project's own: its prefix, its settings, its virtual display. Source it after common.sh.
+# The project's own Wine: its prefix, its settings, its virtual display. Source it after common.sh.
 export WINEPREFIX=${TARVIK_WINEPREFIX:-$root/build/wine}
 # Silent, unless the caller asks for something.
 export WINEDEBUG=${WINEDEBUG:--all}
-# Without the menu builder nothing that is installed in it gets into the menus and file types of the user's own desktop.
+# The menu builder is off, so programs installed in it are not added to the menus and file types of the user's desktop.
 export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
-# The text of this variable decides how Wine names files; it must be a UTF-8 locale that every machine has.
+# This locale sets the encoding of Wine's file names; it must be a UTF-8 locale that every machine has.
 export LC_ALL=C.UTF-8
 
-# make_prefix: a Windows folder with the fonts and settings that windows look right with; made once.
+# make_prefix: makes the Wine prefix once, with the fonts and settings that windows need to look right.
 make_prefix() {
   [ ! -e "$WINEPREFIX/.ready" ] || return 0
   say "Making a Wine prefix in ${WINEPREFIX#"$root"/}"
@@ -35,7 +35,7 @@ REG
   touch "$WINEPREFIX/.ready"
 }
 
-# lock_wine: one script at a time uses the prefix. What a killed one left running in it ends first.
+# lock_wine: locks the prefix for this script, and first ends the processes that a killed script left in it.
 lock_wine() {
   mkdir -p "$(dirname "$WINEPREFIX")"
   exec 9>"$WINEPREFIX.lock"
@@ -43,7 +43,7 @@ lock_wine() {
   wineserver -k >/dev/null 2>&1 9>&- || true
 }
 
-# start_display [WIDTHxHEIGHTxDEPTH]: a virtual screen of our own; sets DISPLAY.
+# start_display [WIDTHxHEIGHTxDEPTH]: starts a virtual display; sets DISPLAY.
 start_display() {
   local screen=${1:-1280x960x24} number_file
   display_size=${screen%x*}
@@ -59,9 +59,9 @@ start_display() {
   rm -f "$number_file"
 }
 
-# start_wine DESKTOP [DOTS]: keeps one Wine server up, so that each program starts in milliseconds. DESKTOP is "virtual" on
-# a display of start_display, where there is no window manager (Wine then draws a desktop as large as that display, and
-# the title bars), and "own" where there is one. DOTS are the display's dots an inch, 96 where none are given.
+# start_wine DESKTOP [DOTS]: keeps one Wine server running, so that each program starts in milliseconds. DESKTOP is
+# "virtual" on a display of start_display, which has no window manager (Wine then draws a desktop as large as that display,
+# and the title bars), and "own" on a display with one. DOTS is the display's dpi, by default 96.
 start_wine() {
   lock_wine
   make_prefix
@@ -69,15 +69,15 @@ start_wine() {
   choose_desktop "$1"
   choose_browser
   choose_dots "${2:-96}"
-  # Its services would hold this script's output open, so they get none of it.
+  # Its services would keep this script's output open, so their output is redirected.
   wineserver -p >/dev/null 2>&1 </dev/null 9>&- || true
   wine wineboot >/dev/null 2>&1 </dev/null 9>&- || fail "Wine does not start"
   [ "$1" = own ] || { stay_on_desktop && open_desktop; }
 }
 
-# stay_on_desktop: Wine closes its desktop when no program has used it for a second, and whoever started the program that
-# opened it waits for that. So one program, which waits for input that never comes, keeps the desktop open to the end.
-# Its prompt tells that it is up: a busy machine may need longer for that than a whole test takes.
+# stay_on_desktop: Wine closes its desktop when no program has used it for a second, and the parent of the program that
+# opened it waits for that. So one program that waits for input keeps the desktop open to the end. Its prompt shows that it
+# has started: on a busy machine that may take longer than a whole test.
 stay_on_desktop() {
   local said
   said=$(mktemp)
@@ -90,9 +90,9 @@ stay_on_desktop() {
   rm -f "$said"
 }
 
-# open_desktop: opens it before the first program does, whose output it would hold open, so that whoever reads that output
-# would wait for the desktop's end. On a busy machine the program that opens it at times ends without having done so, and is
-# started again.
+# open_desktop: opens it before the first program does; otherwise the desktop would keep that program's output open, and a
+# reader of the output would wait until the desktop ends. On a busy machine the program that opens it sometimes ends
+# without having done so, and is started again.
 open_desktop() {
   local windows=
   for _ in $(seq 4); do
@@ -106,8 +106,8 @@ open_desktop() {
   fail "the desktop does not open; the display shows: $windows"
 }
 
-# choose_desktop DESKTOP: Wine reads the choice only when it starts, so it is made before, and rarely. In what Wine keeps,
-# one "Default" under "Desktops" is the size of the desktop that "Desktop" names.
+# choose_desktop DESKTOP: Wine reads this setting only when it starts, so it is written before, and only if it differs. In
+# Wine's registry, the value "Default" under "Desktops" is the size of the desktop that "Desktop" names.
 choose_desktop() {
   local key='HKCU\Software\Wine\Explorer' chosen size
   chosen=$(grep -q '^"Desktop"="Default"' "$WINEPREFIX/user.reg" && echo virtual || echo own)
@@ -124,9 +124,9 @@ choose_desktop() {
   wineserver -w
 }
 
-# choose_browser: Wine hands pages to a browser of this machine, but knows them as pages only with an HTML engine, which it
-# does not have here. So they are made known, if there is a browser that it would start. Without one the program sees
-# that nothing opens a page, and can say so.
+# choose_browser: Wine opens HTML pages with a browser of this machine, but only its HTML engine, which is not installed
+# here, registers their file type. So it is registered here, if there is a browser that Wine would start. Without a browser
+# the program sees that no program opens a page, and reports it.
 choose_browser() {
   local key='HKLM\Software\Classes\.html' known=no browser wanted=no
   for browser in xdg-open firefox konqueror mozilla opera dillo; do
@@ -139,7 +139,7 @@ choose_browser() {
   esac
 }
 
-# choose_dots DOTS: the same for the dots an inch that programs are told of. Where Wine keeps none, it tells of 96.
+# choose_dots DOTS: the same for the dpi that programs see. Without a setting, Wine reports 96.
 choose_dots() {
   local chosen
   chosen=$(sed -n '/^\[Control Panel\\\\Desktop\]/,/^$/s/^"LogPixels"=dword:0*\([0-9a-f]*\)$/\1/p' "$WINEPREFIX/user.reg")
