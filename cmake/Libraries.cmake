@@ -1,14 +1,14 @@
 # The two libraries the program calls, as the targets tarvik_jpeg (libjpeg-turbo) and tarvik_gif (giflib): static, built
 # with the program from the sources that cmake/libraries.txt names, which come from Debian's package server.
 #
-# Where there is no apt (MSYS2 on Windows, say), unpack an archive of each library yourself into one folder, so that it
-# holds for example libjpeg-turbo-2.1.5/ and giflib-5.2.1/, and configure with -DTARVIK_SOURCES=FOLDER; or configure with
-# -DTARVIK_SYSTEM_LIBRARIES=ON to take the static libraries that the system has installed.
+# Without apt (for example MSYS2 on Windows), unpack an archive of each library yourself into one folder, so that it
+# contains for example libjpeg-turbo-2.1.5/ and giflib-5.2.1/, and configure with -DTARVIK_SOURCES=FOLDER; or configure
+# with -DTARVIK_SYSTEM_LIBRARIES=ON to use the system's installed static libraries.
 set(TARVIK_SOURCES "" CACHE PATH "Folder that holds the unpacked sources of the libraries; empty: fetch them")
 option(TARVIK_SYSTEM_LIBRARIES "Take the libjpeg-turbo and the giflib that the system has installed" OFF)
 
-# tarvik_system_libraries(): the two targets, made of what the system has installed. Only static libraries are looked
-# for, because the program is one file.
+# tarvik_system_libraries(): defines the two targets from the system's installed libraries. It only looks for static ones,
+# because the program is one file.
 function(tarvik_system_libraries)
   set(CMAKE_FIND_LIBRARY_SUFFIXES ${CMAKE_STATIC_LIBRARY_SUFFIX})
   find_package(JPEG REQUIRED)
@@ -24,14 +24,14 @@ if(TARVIK_SYSTEM_LIBRARIES)
   return()
 endif()
 
-# Which sources were taken, a line each, for the list of what the program is made of (packaging/make_sbom.py).
+# Lists the sources used, one per line, for the bill of materials (packaging/make_sbom.py).
 set(libraries_used ${PROJECT_BINARY_DIR}/libraries-used.txt)
 file(WRITE ${libraries_used} "")
 
 set(library_table ${CMAKE_CURRENT_LIST_DIR}/libraries.txt)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${library_table})
 
-# tarvik_unpacked_source(NAME RESULT): the folder in TARVIK_SOURCES with the first of the library's versions that is there.
+# tarvik_unpacked_source(NAME RESULT): the folder in TARVIK_SOURCES of the library's first listed version that exists.
 function(tarvik_unpacked_source name result)
   file(STRINGS ${library_table} rows REGEX "^${name} ")
   foreach(row IN LISTS rows)
@@ -70,7 +70,7 @@ endfunction()
 tarvik_library_source(libjpeg-turbo jpeg_source)
 tarvik_library_source(giflib gif_source)
 
-# Wrong uses of a library show inside it, so it is watched where our own code is.
+# Wrong uses of a library show inside it, so it gets the same sanitizers as our own code.
 set(library_flags "-w")
 if(TARVIK_SANITIZE)
   string(APPEND library_flags " -fsanitize=address -fno-omit-frame-pointer")
@@ -79,10 +79,10 @@ if(TARVIK_FUZZ)
   string(APPEND library_flags " -fsanitize=fuzzer-no-link")
 endif()
 
-# libjpeg-turbo must be configured by itself. It needs no assembler this way: with and without it the files come out
-# the same, and the pictures here are small.
-# Nor does it need what makes it large: loops unrolled, two tables of 64 KB for what the processor has an instruction for,
-# arithmetic coding, which nothing reads, and a limit of memory from the environment with a number reader of its own.
+# libjpeg-turbo must be configured by its own project. This build needs no assembler: the output is the same without SIMD,
+# and the pictures here are small.
+# The size-increasing options are off too: unrolled loops, two 64 KB tables that replace one processor instruction,
+# arithmetic coding, which readers do not support, and a memory limit from the environment with its own number parser.
 include(ExternalProject)
 set(jpeg_flags "${library_flags} -DUSE_CLZ_INTRINSIC -DNO_GETENV -DNO_PUTENV")
 cmake_path(GET jpeg_source FILENAME jpeg_name)
@@ -92,8 +92,8 @@ set(jpeg_compiler -DCMAKE_C_COMPILER=${CMAKE_C_COMPILER})
 if(CMAKE_TOOLCHAIN_FILE)
   set(jpeg_compiler -DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE})
 endif()
-# A build number of its own, and an install folder that nothing is installed to: its defaults are the date of the
-# build and a Windows path. Version 2.1.5 asks for a CMake older than the oldest one whose ways CMake 4 still knows.
+# A fixed build number, and an unused install folder: the defaults are the build date and a Windows path. Version 2.1.5
+# declares a minimum CMake version that CMake 4 no longer supports.
 ExternalProject_Add(tarvik_jpeg_build
   SOURCE_DIR ${jpeg_source}
   BINARY_DIR ${jpeg_build}
@@ -108,15 +108,15 @@ ExternalProject_Add(tarvik_jpeg_build
 
 add_library(tarvik_jpeg STATIC IMPORTED GLOBAL)
 set_target_properties(tarvik_jpeg PROPERTIES IMPORTED_LOCATION ${jpeg_library})
-# jconfig.h is made by the library's build, which the folder must not wait for. From version 3.1 on the other headers are
-# in a folder below.
+# The library's build generates jconfig.h, but its folder must exist when CMake configures. From version 3.1 on the other
+# headers are in a sub-folder.
 file(MAKE_DIRECTORY ${jpeg_build})
 find_path(jpeg_headers jpeglib.h PATHS ${jpeg_source} PATH_SUFFIXES src REQUIRED NO_CACHE NO_DEFAULT_PATH
   NO_CMAKE_FIND_ROOT_PATH)
 target_include_directories(tarvik_jpeg INTERFACE ${jpeg_headers} ${jpeg_build})
 add_dependencies(tarvik_jpeg tarvik_jpeg_build)
 
-# giflib's reader is there for the tests; the linker leaves it out of the program.
+# giflib's reader is for the tests only; the linker leaves it out of the program.
 set(gif_files egif_lib.c dgif_lib.c gif_err.c gif_hash.c gifalloc.c openbsd-reallocarray.c)
 list(TRANSFORM gif_files PREPEND ${gif_source}/)
 add_library(tarvik_gif STATIC ${gif_files})

@@ -1,6 +1,6 @@
 """Writes the manifests of packaging/manifests.txt for finished packages:
 make_manifests.py VERSION SETUP ZIP FOLDER [PAGE DOWNLOADS]
-The last two are addresses. Without them the manifests keep @PAGE@ and @DOWNLOADS@, which nobody takes for an address."""
+The last two are addresses. Without them the manifests keep @PAGE@ and @DOWNLOADS@, which no package manager accepts."""
 import hashlib
 import pathlib
 import re

@@ -1,8 +1,8 @@
-"""Writes the list of what the program and its installer are made of, as an SPDX 2.3 document:
+"""Writes the bill of materials of the program and its installer, as an SPDX 2.3 document:
 make_sbom.py VERSION MAP LIBRARIES PROGRAM INSTALLER ZIP SBOM
-MAP is the linker's map of the program, LIBRARIES the file in which the build says which sources it took of the two
-libraries. What the map names beside them comes from Debian packages, whose versions dpkg knows. An archive that no
-component is known for is an error, so that none is left out."""
+MAP is the linker map of the program, LIBRARIES the file in which the build lists the sources it used of the two
+libraries. All other archives in the map come from Debian packages, whose versions dpkg reports. An archive that belongs
+to no known component is an error, so that none is left out."""
 import datetime
 import hashlib
 import json
@@ -17,13 +17,13 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 NOBODY_SAYS = 'NOASSERTION'
 DEVELOPERS = 'Organization: The Brindle Tarvik developers'
 
-# The libraries: name, licence declared, licence that the program uses it under, name for lists of known faults.
+# The libraries: name, licence declared, licence that the program uses it under, CPE vendor and product.
 LIBRARIES = {
     'libjpeg-turbo': ('IJG AND BSD-3-Clause AND Zlib', 'IJG', 'libjpeg-turbo:libjpeg-turbo'),
     'giflib': ('MIT', 'MIT', 'giflib_project:giflib'),
 }
 
-# What comes with the compiler: name, the files that it is linked from, licence, heading in third-party-notices.md.
+# The compiler's runtime: name, the files it is linked from, licence, heading in third-party-notices.md.
 RUNTIME = (
     ('GCC-runtime', r'libstdc\+\+|libgcc|libgcc_eh|libssp|libssp_nonshared|crtbegin|crtend',
      'GPL-3.0-or-later WITH GCC-exception-3.1', None),
@@ -45,11 +45,11 @@ def version_of(package):
 
 
 def linked_files(text):
-    """What the linker took something from: the archives with a member in the program, and the start-up code."""
+    """The files linked into the program: the archives with a member in it, and the start-up code."""
     members = text[:text.index('Discarded input sections')]
     found = set(re.findall(r'^(\S+\.a)\(', members, re.MULTILINE))
     found |= {path for path in re.findall(r'^LOAD (\S+)', text, re.MULTILINE) if re.match(r'crt\w+\.o$', os.path.basename(path))}
-    # Where two packages of Debian offer the same file by a link, the file itself is owned by one.
+    # If two Debian packages offer the same file through a symbolic link, only one of them owns the file itself.
     return sorted(os.path.realpath(path) if path.startswith('/') else path for path in found)
 
 
@@ -126,7 +126,7 @@ def main(version, map_file, libraries, program, installer, zip_file, target):
     files = [file_entry('program', pathlib.Path(program), 'MIT'), file_entry('installer', pathlib.Path(installer), 'MIT'),
              file_entry('zip', pathlib.Path(zip_file), 'MIT')]
     links = [('SPDXRef-DOCUMENT', 'DESCRIBES', entry['SPDXID']) for entry in (tarvik, *files)]
-    # A package whose files were not analysed may not contain any.
+    # In SPDX a package with filesAnalyzed=false must not have CONTAINS relationships to files.
     links += [(tarvik['SPDXID'], 'GENERATES', entry['SPDXID']) for entry in files]
     links += [('SPDXRef-File-program', 'STATIC_LINK', entry['SPDXID']) for entry in inside]
     links += [('SPDXRef-File-installer', 'CONTAINS', nsis['SPDXID'])]
@@ -140,7 +140,7 @@ def main(version, map_file, libraries, program, installer, zip_file, target):
         'packages': [tarvik, *inside, nsis], 'files': files, 'hasExtractedLicensingInfos': texts,
         'relationships': [{'spdxElementId': one, 'relationshipType': kind, 'relatedSpdxElement': other}
                           for one, kind, other in links]}
-    # Each content has a name of its own, which no two documents may share.
+    # The namespace must be unique for each document, so it is derived from the content.
     content = json.dumps(document, sort_keys=True)
     document['documentNamespace'] = uuid.uuid5(uuid.NAMESPACE_OID, content).urn
     pathlib.Path(target).write_text(json.dumps(document, indent=2, ensure_ascii=False) + '\n', encoding='utf-8')

@@ -3,9 +3,9 @@ import pathlib
 import sys
 import zipfile
 
-# Every entry is from the same moment.
+# All entries have the same fixed time.
 MOMENT = (2026, 1, 1, 0, 0, 0)
-UNIX = 3  # the system that the rights of a file are written for
+UNIX = 3  # the "made by" system of a zip entry, for Unix file modes
 
 folder, target = map(pathlib.Path, sys.argv[1:])
 with zipfile.ZipFile(target, 'w') as package:

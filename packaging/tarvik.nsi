@@ -1,14 +1,14 @@
 ; The installer. scripts/make-installer compiles it:
 ;   makensis -DVERSION=X.Y.Z -DFILES=FOLDER -DOUTPUT=FILE [-DPAGE=ADDRESS] [-DSIGN=COMMAND] packaging/tarvik.nsi
-; FILES holds tarvik.exe, the texts and guide\. PAGE is the address of the project's page. SIGN is a command that signs the
-; file whose name is added to it.
+; FILES contains tarvik.exe, the texts and guide\. PAGE is the address of the project's page. SIGN is a command that signs
+; the file whose name is appended to it.
 ;
-; There is one installation at a time. A new one goes to the folder of an earlier one, unless another folder is chosen:
-; then it takes the settings with it and removes the earlier one.
+; There is only one installation at a time. A new one goes to the folder of an earlier one, unless the user chooses another
+; folder: then it moves the settings there and removes the earlier one.
 ;
-; It asks for the language, which is the installer's own and the program's. Without questions: /S, with the language in
-; /LANGUAGE=ENG, CHS or CHT (left out: that of an earlier installation, else English), and the folder in /D=FOLDER, last.
-; Exit codes: 0 done, 1 cancelled, 2 no such language or not done (without questions also because the program is open).
+; It asks for the language, which is used for the installer and the program. Silent installation: /S, with the language in
+; /LANGUAGE=ENG, CHS or CHT (default: that of an earlier installation, else English), and the folder in /D=FOLDER, last.
+; Exit codes: 0 done, 1 cancelled, 2 unknown language or failed (in silent mode also if the program is running).
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -26,19 +26,19 @@ ManifestDPIAware true
 !define SHORTCUT "$SMPROGRAMS\Brindle Tarvik.lnk"
 !define USUAL_FOLDER "$PROGRAMFILES64\Brindle Tarvik"
 
-; The kinds of object whose access rights are set, as the system numbers them.
+; The SE_OBJECT_TYPE values of the objects whose access rights are set.
 !define FILE_OBJECT 1
 !define REGISTRY_KEY 4
-; The list of rights is set, and what the folder or key above hands down stays.
+; DACL_SECURITY_INFORMATION and UNPROTECTED_DACL_SECURITY_INFORMATION: sets the DACL and keeps inherited entries.
 !define CHANGE_RIGHTS 0x20000004
-; What "users" get: on the key, the rights that the program opens it with; on the file, to read and to write it.
+; What "users" get: on the key, the rights with which the program opens it; on the file, to read and write it.
 !define KEY_RIGHTS "D:(A;;0x2003F;;;BU)"
 !define FILE_RIGHTS "D:(A;;FRFW;;;BU)"
 
 Name "${PRODUCT}"
 OutFile "${OUTPUT}"
 InstallDir "${USUAL_FOLDER}"
-; That of an earlier installation comes before it, and /D= before both.
+; The folder of an earlier installation takes precedence over it, and /D= over both.
 InstallDirRegKey HKLM "${UNINSTALL_KEY}" InstallLocation
 !ifdef SIGN
   !uninstfinalize `${SIGN} "%1"` = 0
@@ -75,7 +75,7 @@ VIAddVersionKey /LANG=1033 LegalCopyright "Copyright 2026 The Brindle Tarvik dev
 !insertmacro MUI_LANGUAGE SimpChinese
 !insertmacro MUI_LANGUAGE TradChinese
 
-; The system's own font for dialogs has Chinese and Latin letters wherever the installer runs.
+; The system's dialog font has Chinese and Latin letters on every system.
 SetFont /LANG=${LANG_SIMPCHINESE} "MS Shell Dlg" 9
 SetFont /LANG=${LANG_TRADCHINESE} "MS Shell Dlg" 9
 
@@ -101,8 +101,8 @@ Var languageCode
   ${EndIf}
 !macroend
 
-; Sets $isSameFolder to 1 if FOLDER is $INSTDIR, else to 0. A folder can be spelt in several ways, so a file is made in one
-; and looked for in the other.
+; Sets $isSameFolder to 1 if FOLDER is $INSTDIR, else to 0. A folder can have several path spellings, so a file is created
+; in one and looked for in the other.
 !macro AskIfSameFolder FOLDER
   StrCpy $isSameFolder 0
   GetTempFileName $R1 "$INSTDIR"
@@ -113,8 +113,8 @@ Var languageCode
   Delete "$R1"
 !macroend
 
-; Removes what the installer and the program put into that folder, name by name: a folder that holds anything else stays,
-; with it. The folder goes last, so that its end is the end of all.
+; Removes the files that the installer and the program put into that folder, by name. A folder that contains anything else
+; is kept with it. The folder itself is removed last, so if it is gone, everything is.
 !macro RemoveFiles FOLDER
   Delete "${FOLDER}\tarvik.exe"
   Delete "${FOLDER}\tarvik.dat"
@@ -127,7 +127,7 @@ Var languageCode
   Delete "${FOLDER}\guide\images\*.png"
   RMDir "${FOLDER}\guide\images"
   RMDir "${FOLDER}\guide"
-  ; An uninstaller that the user started goes on as a copy, and holds its own file until it has ended: asked for again for
+  ; An uninstaller that the user started continues as a copy, and its original file is locked until it has ended: retry for
   ; ten seconds.
   ${For} $R0 1 100
     Delete "${FOLDER}\uninstall.exe"
@@ -139,8 +139,8 @@ Var languageCode
   RMDir "${FOLDER}"
 !macroend
 
-; Goes on only once the program of that folder is closed, whose file cannot be written while it runs. Without questions, or
-; if the user gives up, the section ends.
+; Waits until the program in that folder is closed; its file cannot be written while it runs. In silent mode, or if the
+; user cancels, the section is aborted.
 !macro WaitUntilClosed FOLDER
   ${Do}
     ${IfNot} ${FileExists} "${FOLDER}\tarvik.exe"
@@ -160,7 +160,7 @@ Var languageCode
   ${Loop}
 !macroend
 
-; Gives ordinary users rights on one object, beside those that it has from above, and on nothing below it.
+; Grants ordinary users rights on one object, in addition to inherited ones, and on no child objects.
 !macro GrantUsers NAME KIND RIGHTS
   StrCpy $0 1
   System::Call 'advapi32::ConvertStringSecurityDescriptorToSecurityDescriptorW(w "${RIGHTS}", i 1, *p 0 r1, p 0) i .r2'
@@ -178,7 +178,7 @@ Var languageCode
   ${EndIf}
 !macroend
 
-; Takes the program's code for a language in $R1 into $LANGUAGE; sets the error flag where it is none of the three.
+; Converts the program's language code in $R1 to $LANGUAGE; sets the error flag if it is none of the three.
 Function ChooseLanguage
   ClearErrors
   ${If} $R1 == "ENG"
@@ -195,7 +195,7 @@ FunctionEnd
 Function .onInit
   SetRegView 64
   SetShellVarContext all
-  ; An earlier folder that is gone, perhaps with its drive, is no place for a new installation.
+  ; Do not install to an earlier folder that no longer exists, perhaps because its drive is missing.
   ReadRegStr $R1 HKLM "${UNINSTALL_KEY}" InstallLocation
   ${If} $R1 == $INSTDIR
   ${AndIfNot} ${FileExists} "$INSTDIR\*.*"
@@ -214,7 +214,7 @@ Function .onInit
     Return
   ${EndIf}
 
-  ; That of an earlier installation is kept, or offered first.
+  ; The language of an earlier installation is kept in silent mode, or preselected.
   ReadRegStr $R1 HKLM "${LANGUAGE_KEY}" Language
   Call ChooseLanguage
   ${If} ${Errors}
@@ -225,8 +225,8 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
-; The installer has the rights of an administrator, and the program must not have them. The desktop of the user starts what
-; this program of the system is given.
+; The installer runs elevated, and the program must not. explorer.exe hands the program to the user's desktop, which starts
+; it without elevation.
 Function StartProgram
   Exec '"$WINDIR\explorer.exe" "$INSTDIR\tarvik.exe"'
 FunctionEnd
@@ -315,7 +315,7 @@ Function un.onInit
   ${EndIf}
 FunctionEnd
 
-; The entries of an installation in another folder stay: this one is then a copy that nobody knows of.
+; The entries of an installation in another folder are kept: this one is then an unregistered copy.
 Section Uninstall
   !insertmacro WaitUntilClosed "$INSTDIR"
   !insertmacro FindEarlier
