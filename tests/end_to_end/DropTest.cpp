@@ -82,9 +82,8 @@ TEST_F(Drop, AShareIsOpenedAndSearchedAndKept) {
   const Share share(tree_.Path());
   Start("C:\\windows", true);
   DropOnWindow({R"(\\tarvik\icons)"});
-  ASSERT_TRUE(Eventually([&] {
-    return FolderNames() == std::vector<std::string>{R"(\\tarvik\icons)", "inner"};
-  })) << ::testing::PrintToString(FolderNames());
+  const std::vector<std::string> expected{R"(\\tarvik\icons)", "inner"};
+  ASSERT_TRUE(Eventually([&] { return FolderNames() == expected; })) << ::testing::PrintToString(FolderNames());
   EXPECT_EQ(program_.Item(FrmFindIcon_Drive1).ComboChoice(), -1);
   Find();
   EXPECT_THAT(Entries(), ElementsAre(Entry{R"(\\tarvik\icons\inner\a.ico)", 0}));
