@@ -205,6 +205,7 @@ LRESULT CALLBACK PictureBox::WindowProcedure(HWND window, UINT message, WPARAM w
     if (!box) return FALSE;
     SetWindowLongPtrW(window, 0, reinterpret_cast<LONG_PTR>(box.release()));
   }
+  // The window owns the box until then. NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
   if (message == WM_NCDESTROY) {
     delete BoxOf(window);
     SetWindowLongPtrW(window, 0, 0);
