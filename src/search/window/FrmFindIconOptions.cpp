@@ -48,7 +48,6 @@ void FrmFindIcon::Drive1_Change() {
 }
 
 void FrmFindIcon::Dir1_Change() {
-  if (dir1_.Path() != unreadFolder_) unreadFolder_.clear();
   file1_.SetPath(dir1_.Path());
 }
 

@@ -156,6 +156,17 @@ class FindIconFixture : public ::testing::Test {
     SendMessageW(Item(FrmFindIcon_sbMain), SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(text.data()));
     return ToUtf8(text.c_str());
   }
+  // The rows of a list box, from the top.
+  std::vector<std::string> RowsOf(int id) const {
+    std::vector<std::string> rows;
+    const auto count = SendMessageW(Item(id), LB_GETCOUNT, 0, 0);
+    for (LRESULT row = 0; row < count; ++row) {
+      std::wstring text(512, L'\0');
+      SendMessageW(Item(id), LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+      rows.push_back(ToUtf8(text.c_str()));
+    }
+    return rows;
+  }
   // A pixel of the grid picture as the window paints it.
   Color GridPixel(int x, int y) const {
     application_.DoEvents();

@@ -30,16 +30,6 @@ class FrmFindIconDropTest : public support::FindIconFixture {
     GlobalUnlock(memory);
     return memory;
   }
-  std::vector<std::string> Rows(int id) const {
-    std::vector<std::string> rows;
-    const auto count = SendMessageW(Item(id), LB_GETCOUNT, 0, 0);
-    for (LRESULT row = 0; row < count; ++row) {
-      std::wstring text(512, L'\0');
-      SendMessageW(Item(id), LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
-      rows.push_back(ToUtf8(text.c_str()));
-    }
-    return rows;
-  }
   int Drive() const { return static_cast<int>(SendMessageW(Item(FrmFindIcon_Drive1), CB_GETCURSEL, 0, 0)); }
   std::string Ticked() const {
     std::string ticked;
@@ -62,8 +52,8 @@ TEST_F(FrmFindIconDropTest, OpensADroppedFolderAndChoosesItsDrive) {
   machine.files["E:\\pictures\\图标"] = {"a.ico", "b.ico"};
   Drop({"E:\\pictures\\图标"});
   EXPECT_EQ(window->Dir1Path(), "E:\\pictures\\图标");
-  EXPECT_EQ(Rows(FrmFindIcon_Dir1), (Names{"E:\\", "pictures", "图标", "old"}));
-  EXPECT_EQ(Rows(FrmFindIcon_File1), (Names{"a.ico", "b.ico"}));
+  EXPECT_EQ(RowsOf(FrmFindIcon_Dir1), (Names{"E:\\", "pictures", "图标", "old"}));
+  EXPECT_EQ(RowsOf(FrmFindIcon_File1), (Names{"a.ico", "b.ico"}));
   EXPECT_EQ(Drive(), 2);
   EXPECT_EQ(Ticked(), "x------");
 }
@@ -97,7 +87,7 @@ TEST_F(FrmFindIconDropTest, OpensTheFolderOfADroppedFileAndTicksItsType) {
     machine.files["E:\\tools"] = {row.name};
     Drop({std::string("E:\\tools\\") + row.name});
     EXPECT_EQ(window->Dir1Path(), "E:\\tools") << row.name;
-    EXPECT_EQ(Rows(FrmFindIcon_File1), Names{row.name});
+    EXPECT_EQ(RowsOf(FrmFindIcon_File1), Names{row.name});
     EXPECT_EQ(Drive(), 2) << row.name;
     EXPECT_EQ(Ticked(), row.ticked) << row.name;
     EXPECT_EQ(machine.patterns.back(), row.pattern) << row.name;
@@ -128,22 +118,22 @@ TEST_F(FrmFindIconDropTest, OpensAShareWithoutADrive) {
   machine.files["\\\\server\\share"] = {"a.ico"};
   machine.icons["\\\\server\\share\\a.ico"] = 1;
   Drop({"\\\\server\\share\\"});
-  EXPECT_EQ(Rows(FrmFindIcon_Dir1), Names{"\\\\server\\share"});
-  EXPECT_EQ(Rows(FrmFindIcon_File1), Names{"a.ico"});
+  EXPECT_EQ(RowsOf(FrmFindIcon_Dir1), Names{"\\\\server\\share"});
+  EXPECT_EQ(RowsOf(FrmFindIcon_File1), Names{"a.ico"});
   EXPECT_EQ(Drive(), -1);
   Click(FrmFindIcon_CmdFind);
   EXPECT_EQ(Caption(), "Brindle Tarvik - \\\\server\\share - 1 Icons");
   Drop({"\\\\server\\share\\icons\\b.dll"});
-  EXPECT_EQ(Rows(FrmFindIcon_Dir1), (Names{"\\\\server\\share", "icons"}));
+  EXPECT_EQ(RowsOf(FrmFindIcon_Dir1), (Names{"\\\\server\\share", "icons"}));
 }
 
 TEST_F(FrmFindIconDropTest, ListsADriveAndAFileThatAreNew) {
   Open();
   Drop({"C:\\icons"});
-  EXPECT_EQ(Rows(FrmFindIcon_File1), Names{"some.dll"});
+  EXPECT_EQ(RowsOf(FrmFindIcon_File1), Names{"some.dll"});
   machine.files["C:\\icons"] = {"new.ico", "some.dll"};
   Drop({"C:\\icons\\new.ico"});
-  EXPECT_EQ(Rows(FrmFindIcon_File1), (Names{"new.ico", "some.dll"}));
+  EXPECT_EQ(RowsOf(FrmFindIcon_File1), (Names{"new.ico", "some.dll"}));
   drives.push_back({"F:\\", "f: [STICK]"});
   Drop({"F:\\"});
   EXPECT_EQ(Drive(), 3);

@@ -53,16 +53,6 @@ class FrmFindIconSearchTest : public support::FindIconFixture {
     application.DoEvents();
   }
   int RowCount() const { return ListView_GetItemCount(Item(FrmFindIcon_Lv)); }
-  std::vector<std::string> Rows(int id) const {
-    std::vector<std::string> rows;
-    const auto count = static_cast<int>(SendMessageW(Item(id), LB_GETCOUNT, 0, 0));
-    for (int row = 0; row < count; ++row) {
-      std::wstring text(260, L'\0');
-      SendMessageW(Item(id), LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
-      rows.push_back(ToUtf8(text.c_str()));
-    }
-    return rows;
-  }
 
   support::WatchedMachine watched{machine};
 };
@@ -140,12 +130,12 @@ TEST_F(FrmFindIconSearchTest, PassesTheFocusOnFromAScrollBarThatItDisables) {
 // The lists once showed the folder as it was when it was opened.
 TEST_F(FrmFindIconSearchTest, ShowsInTheListsWhatItFound) {
   Open();
-  ASSERT_EQ(Rows(FrmFindIcon_File1), std::vector<std::string>{"some.dll"});
+  ASSERT_EQ(RowsOf(FrmFindIcon_File1), std::vector<std::string>{"some.dll"});
   machine.files["C:\\icons"] = {"new.dll", "some.dll"};
   machine.subFolders["C:\\icons"] = {"C:\\icons\\new"};
   Find(3);
-  EXPECT_EQ(Rows(FrmFindIcon_File1), (std::vector<std::string>{"new.dll", "some.dll"}));
-  EXPECT_EQ(Rows(FrmFindIcon_Dir1).back(), "new");
+  EXPECT_EQ(RowsOf(FrmFindIcon_File1), (std::vector<std::string>{"new.dll", "some.dll"}));
+  EXPECT_EQ(RowsOf(FrmFindIcon_Dir1).back(), "new");
 }
 
 // The size was once remembered although there was no memory for the bitmap, and the next search believed that the grid

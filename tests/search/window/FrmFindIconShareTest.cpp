@@ -30,23 +30,13 @@ class FrmFindIconShareTest : public support::FindIconFixture {
     machine.icons[std::string(folder) + "\\a.ico"] = 1;
   }
 
-  std::vector<std::string> Rows(int id) const {
-    std::vector<std::string> rows;
-    const auto count = SendMessageW(Item(id), LB_GETCOUNT, 0, 0);
-    for (LRESULT row = 0; row < count; ++row) {
-      std::wstring text(512, L'\0');
-      SendMessageW(Item(id), LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
-      rows.push_back(ToUtf8(text.c_str()));
-    }
-    return rows;
-  }
   void ExpectUnread() const {
-    EXPECT_THAT(Rows(FrmFindIcon_Dir1), ElementsAre(share, "icons"));
-    EXPECT_THAT(Rows(FrmFindIcon_File1), IsEmpty());
+    EXPECT_THAT(RowsOf(FrmFindIcon_Dir1), ElementsAre(share, "icons"));
+    EXPECT_THAT(RowsOf(FrmFindIcon_File1), IsEmpty());
   }
   void ExpectRead() const {
-    EXPECT_THAT(Rows(FrmFindIcon_Dir1), ElementsAre(share, "icons", "more"));
-    EXPECT_THAT(Rows(FrmFindIcon_File1), ElementsAre("a.ico"));
+    EXPECT_THAT(RowsOf(FrmFindIcon_Dir1), ElementsAre(share, "icons", "more"));
+    EXPECT_THAT(RowsOf(FrmFindIcon_File1), ElementsAre("a.ico"));
   }
 };
 
