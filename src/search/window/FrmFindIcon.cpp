@@ -62,7 +62,7 @@ void FrmFindIcon::Form_Load() {
   ComboBox_SetCurSel(sizes, initialSize);
   CboIconSize_Click();
   SetChecked(searchedTypes.front().checkBox, true);
-  file1_.SetPattern(initialPattern);
+  folders_.SetPattern(initialPattern);
   SetStatusText(initialStatus);
   OptView_Click(0);
   LoadSettings();
@@ -71,16 +71,7 @@ void FrmFindIcon::Form_Load() {
 
 void FrmFindIcon::AttachControls() {
   chkSubDir_ = Item(FrmFindIcon_chkSubDir);
-  drive1_.Attach(Item(FrmFindIcon_Drive1), dependencies_.drives);
-  dir1_.Attach(
-      Item(FrmFindIcon_Dir1),
-      [this](const std::string& folder) {
-        return folder == unreadFolder_ ? std::vector<std::string>() : dependencies_.folders.SubFolders(folder);
-      },
-      [this] { Dir1_Change(); });
-  file1_.Attach(Item(FrmFindIcon_File1), [this](const std::string& folder, const std::string& pattern) {
-    return folder == unreadFolder_ ? std::vector<std::string>() : dependencies_.folders.Files(folder, pattern);
-  });
+  folders_.Attach(Item(FrmFindIcon_Drive1), Item(FrmFindIcon_Dir1), Item(FrmFindIcon_File1));
   udMain_.Attach(Item(FrmFindIcon_udMain));
   grid_.Attach(Item(FrmFindIcon_PicFrame), Item(FrmFindIcon_Vsb), FrmFindIcon_PicIcons);
   gridContent_ = {[this] { return ItemText(FrmFindIcon_PicFrame); }, [this] { return ChosenItem(); }};
@@ -120,24 +111,23 @@ void FrmFindIcon::Form_Unload() {
 void FrmFindIcon::LoadSettings() {
   Settings& settings = dependencies_.settings;
   const std::string& ownFolder = dependencies_.programFolder;
-  std::string folder = AbsoluteFolderPath(settings.ReadIniSetting(settingsSection, folderKey, ownFolder), ownFolder);
+  const std::string folder =
+      AbsoluteFolderPath(settings.ReadIniSetting(settingsSection, folderKey, ownFolder), ownFolder);
   const std::string tidyOwnFolder = TidyFolderPath(ownFolder);
   // The setting may have been written by another user of this computer, and reading from another computer means logging
   // on there.
   if (IsOnOtherComputer(folder) && folder != tidyOwnFolder) {
-    unreadFolder_ = folder;
-  } else if (!dependencies_.isReadableFolder(folder)) {
-    folder = tidyOwnFolder;
+    folders_.ShowUnread(folder);
+  } else {
+    folders_.Show(dependencies_.isReadableFolder(folder) ? folder : tidyOwnFolder);
   }
-  dir1_.SetPath(folder);
-  drive1_.ChooseDriveOf(folder);
   const std::string subDir = settings.ReadIniSetting(settingsSection, subDirKey, TruthText(false));
   SetChecked(FrmFindIcon_chkSubDir, IsTruth(subDir));
 }
 
 void FrmFindIcon::SaveSettings() {
   // If the end of the session stops a walk, Dir1 is not where the user left it.
-  const std::string& folder = state_.SavedDirPath.empty() ? dir1_.Path() : state_.SavedDirPath;
+  const std::string folder = state_.SavedDirPath.empty() ? Dir1Path() : state_.SavedDirPath;
   dependencies_.settings.WriteIniSetting(settingsSection, folderKey, folder);
   dependencies_.settings.WriteIniSetting(settingsSection, subDirKey, TruthText(chkSubDir()));
 }
@@ -145,7 +135,8 @@ void FrmFindIcon::SaveSettings() {
 bool FrmFindIcon::OnCommand(int id, int code) {
   static constexpr Event<FrmFindIcon> events[] = {
       {FrmFindIcon_Drive1, FrmFindIcon_Drive1, CBN_SELCHANGE, Call<&FrmFindIcon::Drive1_Change>},
-      {FrmFindIcon_Drive1, FrmFindIcon_Drive1, CBN_DROPDOWN, Call<&FrmFindIcon::Drive1_DropDown>},
+      {FrmFindIcon_Drive1, FrmFindIcon_Drive1, CBN_DROPDOWN,
+       CallOn<&FrmFindIcon::folders_, &ShownFolders::RefreshDrives>},
       {FrmFindIcon_Dir1, FrmFindIcon_Dir1, LBN_DBLCLK, Call<&FrmFindIcon::Dir1_DblClick>},
       {minTypeBox, maxTypeBox, BN_CLICKED, Call<&FrmFindIcon::ChkFileType_Click>},
       {FrmFindIcon_CboIconSize, FrmFindIcon_CboIconSize, CBN_SELCHANGE, Call<&FrmFindIcon::CboIconSize_Click>},
@@ -209,7 +200,7 @@ void FrmFindIcon::OnMessage(UINT message) {
 }
 
 void FrmFindIcon::OnDrawItem(const DRAWITEMSTRUCT& item) {
-  if (item.CtlID == FrmFindIcon_Dir1) dir1_.Draw(item);
+  if (item.CtlID == FrmFindIcon_Dir1) folders_.DrawRow(item);
 }
 
 }  // namespace tarvik

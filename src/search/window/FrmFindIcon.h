@@ -35,7 +35,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   // The entries of the list as pictures.
   CapturedEntries& Captured() { return captured_; }
   // The folder shown in Dir1.
-  const std::string& Dir1Path() const { return dir1_.Path(); }
+  std::string Dir1Path() const { return folders_.Dir1Path(); }
 
  private:
   // Form
@@ -59,8 +59,6 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
 
   // Handlers
   void Drive1_Change();
-  void Drive1_DropDown();
-  void Dir1_Change();
   void Dir1_DblClick();
   void ChkFileType_Click();
   void CboIconSize_Click();
@@ -110,8 +108,6 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void ServePainting() override;
 
   void AttachControls();
-  void TickType(std::size_t box);
-  void ReadUnreadFolder();
   void ShowTipAt(double x, double y);
   void LoadSettings();
   void SaveSettings();
@@ -125,10 +121,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   SearchState state_;
   IconList list_;
   HWND chkSubDir_ = nullptr;
-  DirListBox dir1_;
-  FileListBox file1_;
-  std::string unreadFolder_;  // the settings' folder, if on another computer and not yet opened or searched
-  ShownFolders folders_{dir1_, file1_, dependencies_.folders};
+  ShownFolders folders_{dependencies_};
   IconGrid grid_;
   PictureContent gridContent_;  // the grid for screen readers
   PictureTip gridTip_;
@@ -139,18 +132,16 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   CapturedEntries captured_;
   std::optional<frmBit> view_;  // created when it first opens
   SaveCommands commands_;
-  bool isSaving_ = false;  // true while a save or copy command runs; the window then accepts no other command
-  Finally savesInTurn_;    // while such a command runs, icons are requested in turn
-  // In milliseconds: how often such a command checks for messages, and how often it serves them even if none is found.
-  Throttle looks_{40};
-  Throttle serves_{1'000};
+  bool isSaving_ = false;   // true while a save or copy command runs; the window then accepts no other command
+  Finally savesInTurn_;     // while such a command runs, icons are requested in turn
+  Throttle looks_{40};      // how often such a command checks for messages, in milliseconds
+  Throttle serves_{1'000};  // how often it serves them even if none is found
 
   ShownProgress progress_;
   LiveText caption_;
   LiveText status_;                        // panel 1 of sbMain
   bool releaseBelongsToDblClick_ = false;  // the next button release on the grid ends a double click
 
-  DriveListBox drive1_;
   ScrollBar udMain_;
   ReportList lv_;
 };

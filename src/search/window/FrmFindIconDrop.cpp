@@ -23,15 +23,13 @@ void FrmFindIcon::OnDrop(const std::string& path) {
     if (text) tarvik::ShowMessage(Window(), *text, FailureTitle(language), MessageSign::Exclamation);
     return;
   }
-  dir1_.SetPath(folder);
-  if (!isFolder) TickType(FileTypeBoxOf(FolderName(dropped)));
+  folders_.SetDir1Path(folder);
+  if (!isFolder) {
+    SetChecked(searchedTypes.at(FileTypeBoxOf(FolderName(dropped))).checkBox, true);
+    ChkFileType_Click();
+  }
   Reread();  // the drive or the file may be newer than the lists
-  drive1_.ChooseDriveOf(folder);
-}
-
-void FrmFindIcon::TickType(std::size_t box) {
-  SetChecked(searchedTypes.at(box).checkBox, true);
-  ChkFileType_Click();
+  folders_.ChooseShownDrive();
 }
 
 }  // namespace tarvik

@@ -64,11 +64,7 @@ void FrmFindIcon::OnHelp() {
 }
 
 void FrmFindIcon::Reread() {
-  if (state_.IsSearching) return;  // the walk owns the folder lists
-  unreadFolder_.clear();
-  drive1_.Refresh();
-  dir1_.Reread();
-  file1_.Reread();
+  if (!state_.IsSearching) folders_.Reread();  // the walk owns the folder lists
 }
 
 void FrmFindIcon::SelectAll() {

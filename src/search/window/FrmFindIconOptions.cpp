@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 
 #include "base/Conversion.h"
 #include "base/Finally.h"
@@ -28,39 +27,23 @@ constexpr int limitPage = 100;
 
 }  // namespace
 
-void FrmFindIcon::Drive1_DropDown() {
-  drive1_.Refresh();
-}
-
 void FrmFindIcon::Drive1_Change() {
-  if (state_.IsSearching) return drive1_.ChooseDriveOf(dir1_.Path());  // the walk owns the folder lists
+  if (state_.IsSearching) return folders_.ChooseShownDrive();  // the walk owns the folder lists
   ShowItem(FrmFindIcon_Dir1, true);
   ShowItem(FrmFindIcon_File1, true);
-  const std::string root = drive1_.Root();
+  const std::string root = folders_.ChosenDrive();
   if (!dependencies_.isReadableFolder(root)) {
     const std::string& language = dependencies_.state.CurrentLanguage;
     const auto text = Pick(driveNotReady, language);
     if (text) tarvik::ShowMessage(Window(), *text, FailureTitle(language), MessageSign::Information);
     return;
   }
-  dir1_.SetPath(root);
-  file1_.SetPath(dir1_.Path());
-}
-
-void FrmFindIcon::Dir1_Change() {
-  file1_.SetPath(dir1_.Path());
+  folders_.SetDir1Path(root);
+  folders_.SetFile1Path(folders_.Dir1Path());
 }
 
 void FrmFindIcon::Dir1_DblClick() {
-  if (state_.IsSearching) return;
-  ReadUnreadFolder();
-  dir1_.OpenChosen();
-}
-
-void FrmFindIcon::ReadUnreadFolder() {
-  if (std::exchange(unreadFolder_, {}).empty()) return;
-  dir1_.Reread();
-  file1_.Reread();
+  if (!state_.IsSearching) folders_.OpenChosen();
 }
 
 void FrmFindIcon::ChkFileType_Click() {
@@ -68,7 +51,7 @@ void FrmFindIcon::ChkFileType_Click() {
   for (std::size_t box = 0; box < checks.size(); ++box) checks.at(box) = IsChecked(searchedTypes.at(box).checkBox);
   checks = WithAllFilesRule(checks);
   for (std::size_t box = 0; box < checks.size(); ++box) SetChecked(searchedTypes.at(box).checkBox, checks.at(box));
-  file1_.SetPattern(BuildPattern(checks));
+  folders_.SetPattern(BuildPattern(checks));
 }
 
 // The grid is not redrawn, although clicks already follow the new size (deliberate: oddities 13).
@@ -103,10 +86,8 @@ void FrmFindIcon::txtMax_Change() {
 
 void FrmFindIcon::CmdFind_Click() {
   if (state_.IsSearching) return;
-  unreadFolder_.clear();
   // The walk moves both lists through every folder; they show the folder again when it ends.
-  const Finally showsFiles = file1_.Hold();
-  const Finally showsFolders = dir1_.Hold();
+  const ShownFolders::Held held = folders_.HoldForWalk();
   // The button is disabled during the search, and a disabled control that has the focus would swallow every key.
   const FocusKept focus(Window());
   // The last texts are shown at the end, also if an error ends the search.
