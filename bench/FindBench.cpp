@@ -1,6 +1,6 @@
 // The cost of a whole search, compared with the bare system calls for the same files, and how it grows:
 //   find_bench [ROW]
-// ROW is a part of a row's title; without it all rows are measured.
+// ROW is a part of a row's title; without it all rows are measured, each in a process of its own.
 
 #include <windows.h>
 
@@ -20,6 +20,7 @@
 #include "Held.h"
 #include "MainWindow.h"
 #include "Measure.h"
+#include "RunAgain.h"
 #include "SilentSearch.h"
 #include "WholeProcesses.h"
 #include "base/FolderPath.h"
@@ -124,28 +125,59 @@ void SearchManyTimes(Application& application, const Scope& scope) {
       after.peakMegabytes - before.peakMegabytes, before.peakMegabytes);
 }
 
-void Measure(Application& application, std::string_view wanted) {
+void MeasureModuleLooks(Application& /*application*/, const support::TemporaryFolder& folder,
+                        const std::string& title) {
+  CompareModuleLooks(title, {SystemFolder(), "*.dll", false});
+  const std::string elsewhere = LinkSystemLibraries(folder.MakeFolder("libraries"));
+  CompareModuleLooks(title + " elsewhere", {elsewhere, "*.dll", false});
+}
+
+struct Row {
+  const char* title;
+  void (*measure)(Application& application, const support::TemporaryFolder& folder, const std::string& title);
+};
+
+constexpr Row rows[] = {
+    {"the DLLs of the system folder",
+     [](Application& application, const support::TemporaryFolder&, const std::string& title) {
+       CompareSearches(application, title, {SystemFolder(), "*.dll", false});
+     }},
+    {"16-bit modules looked for", MeasureModuleLooks},
+    {"2,000 icon files in 500 folders",
+     [](Application& application, const support::TemporaryFolder& folder, const std::string& title) {
+       CompareSearches(application, title, {MakeIconFiles(folder, 500, 4), "*.ico", true});
+     }},
+    {"one DLL of 2,000 icons",
+     [](Application& application, const support::TemporaryFolder& folder, const std::string& title) {
+       CompareSearches(application, title, {MakeIconLibrary(folder, 2000, 1), "*.dll", false});
+     }},
+    {"20,000 files of all kinds in 2,000 folders",
+     [](Application& application, const support::TemporaryFolder& folder, const std::string& title) {
+       CompareSearches(application, title, {MakeAllKinds(folder, 2000), "*.*", true}, 3);
+     }},
+    {"folders side by side", [](Application& application, const support::TemporaryFolder& folder,
+                                const std::string&) { CompareFolderCounts(application, folder.MakeFolder("walk")); }},
+    {"100 searches of 4,000 icons",
+     [](Application& application, const support::TemporaryFolder& folder, const std::string&) {
+       SearchManyTimes(application, {MakeIconLibrary(folder, 2000, 2), "*.dll", false});
+     }},
+    {"whole processes",
+     [](Application&, const support::TemporaryFolder& folder, const std::string&) { CompareWholeProcesses(folder); }},
+};
+
+void Measure(std::string_view wanted) {
+  Application application(GetModuleHandleW(nullptr));
   const support::TemporaryFolder folder;
-  const auto isWanted = [wanted](std::string_view title) { return title.find(wanted) != std::string_view::npos; };
-  constexpr const char* system = "the DLLs of the system folder";
-  constexpr const char* modules = "16-bit modules looked for";
-  constexpr const char* iconFiles = "2,000 icon files in 500 folders";
-  constexpr const char* library = "one DLL of 2,000 icons";
-  constexpr const char* allKinds = "20,000 files of all kinds in 2,000 folders";
-  if (isWanted(system)) CompareSearches(application, system, {SystemFolder(), "*.dll", false});
-  if (isWanted(modules)) {
-    CompareModuleLooks(modules, {SystemFolder(), "*.dll", false});
-    const std::string elsewhere = LinkSystemLibraries(folder.MakeFolder("libraries"));
-    CompareModuleLooks(modules + std::string(" elsewhere"), {elsewhere, "*.dll", false});
+  for (const Row& row : rows) {
+    if (std::string_view(row.title).find(wanted) != std::string_view::npos) {
+      row.measure(application, folder, row.title);
+    }
   }
-  if (isWanted(iconFiles)) CompareSearches(application, iconFiles, {MakeIconFiles(folder, 500, 4), "*.ico", true});
-  if (isWanted(library)) CompareSearches(application, library, {MakeIconLibrary(folder, 2000, 1), "*.dll", false});
-  if (isWanted(allKinds)) CompareSearches(application, allKinds, {MakeAllKinds(folder, 2000), "*.*", true}, 3);
-  if (isWanted("folders side by side")) CompareFolderCounts(application, folder.MakeFolder("walk"));
-  if (isWanted("100 searches of 4,000 icons")) {
-    SearchManyTimes(application, {MakeIconLibrary(folder, 2000, 2), "*.dll", false});
-  }
-  if (isWanted("whole processes")) CompareWholeProcesses(folder);
+}
+
+// Each row has a process of its own: what Wine keeps of one row would make the next one slower.
+void MeasureAll() {
+  for (const Row& row : rows) RunAgain(row.title);
 }
 
 }  // namespace
@@ -155,12 +187,13 @@ int main(int count, char** arguments) {
   using namespace tarvik;
   using namespace tarvik::bench;
   try {
-    Application application(GetModuleHandleW(nullptr));
-    const std::string_view wanted = count > 1 ? arguments[1] : "";
-    if (wanted == searchOnce) {  // in a process of CompareWholeProcesses
+    if (count < 2) {
+      MeasureAll();
+    } else if (std::string_view(arguments[1]) == searchOnce) {  // in a process of CompareWholeProcesses
+      Application application(GetModuleHandleW(nullptr));
       MainWindow(application, {SystemFolder(), "*.dll", false}).Find();
     } else {
-      Measure(application, wanted);
+      Measure(arguments[1]);
     }
   } catch (const std::exception& error) {
     std::fprintf(stderr, "find_bench: %s\n", error.what());

@@ -1,16 +1,13 @@
 #include "WholeProcesses.h"
 
-#include <windows.h>
-
-#include <array>
 #include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
 
 #include "Measure.h"
+#include "RunAgain.h"
 #include "driver/UnixProgram.h"
-#include "platform/Handles.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
 
@@ -37,20 +34,7 @@ double UnixMilliseconds(const std::string& command) {
 }
 
 double OwnMilliseconds() {
-  std::array<wchar_t, MAX_PATH> own{};
-  GetModuleFileNameW(nullptr, own.data(), MAX_PATH);
-  std::wstring commandLine = L'"' + std::wstring(own.data()) + L"\" " + ToWide(searchOnce);
-  return Milliseconds({"", [&] {
-                         STARTUPINFOW startup{};
-                         startup.cb = sizeof startup;
-                         PROCESS_INFORMATION process{};
-                         if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                            &startup, &process) == FALSE)
-                           throw std::runtime_error("the search cannot be started");
-                         const KernelHandle thread(process.hThread);
-                         const KernelHandle owner(process.hProcess);
-                         WaitForSingleObject(owner.get(), INFINITE);
-                       }});
+  return Milliseconds({"", [] { RunAgain(searchOnce); }});
 }
 
 }  // namespace
