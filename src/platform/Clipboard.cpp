@@ -6,7 +6,8 @@
 namespace tarvik {
 namespace {
 
-constexpr int attempts = 10;
+// Another program can have the clipboard open for a moment: on a busy system for longer than a tenth of a second.
+constexpr int attempts = 100;
 constexpr DWORD pauseMilliseconds = 10;
 
 // Keeps the clipboard open while it lives, if it could be opened.

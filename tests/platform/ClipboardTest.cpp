@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <future>
 #include <thread>
 #include <vector>
 
@@ -44,6 +46,17 @@ TEST(Clipboard, IsRefusedWhileAnotherHoldsItOpen) {
   CloseClipboard();
   EXPECT_FALSE(copied);
   EXPECT_TRUE(CopyToClipboard(picture, nullptr));
+  DestroyWindow(holder);
+}
+
+TEST(Clipboard, WaitsForAnotherThatHoldsItOpenForAMoment) {
+  using namespace std::chrono_literals;
+  const HWND holder = CreateWindowW(L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+  ASSERT_NE(OpenClipboard(holder), 0);
+  auto copied = std::async(std::launch::async, [] { return CopyToClipboard(Surface(2, 2, white), nullptr); });
+  EXPECT_EQ(copied.wait_for(300ms), std::future_status::timeout);
+  CloseClipboard();
+  EXPECT_TRUE(copied.get());
   DestroyWindow(holder);
 }
 

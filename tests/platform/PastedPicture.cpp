@@ -31,6 +31,8 @@ PastedPicture FromBitmap(const std::byte* bytes) {
 
 PastedPicture Paste() {
   PastedPicture picture;
+  // A test that waits for a picture must not keep the clipboard from the program that is about to copy it.
+  if (IsClipboardFormatAvailable(CF_DIB) == 0) return picture;
   // Another program, or the system itself, may have it open for a moment.
   const ULONGLONG deadline = GetTickCount64() + 60000;
   while (OpenClipboard(nullptr) == 0) {
