@@ -24,6 +24,10 @@ class DisplayScale {
   // The display pixel at which pixel `pixels` begins, which is also the length of `pixels` pixels in display pixels,
   // rounded up. `pixels` is 0 or more, up to millions.
   constexpr int ToDisplay(int pixels) const { return DivideUp(pixels * std::int64_t{dots_}, usualDots); }
+  // The length of `pixels` pixels rounded to the nearest display pixel, a half up.
+  constexpr int Nearest(int pixels) const {
+    return DivideDown(pixels * std::int64_t{dots_} * 2 + usualDots, std::int64_t{2} * usualDots);
+  }
   // The pixel under a display pixel; below 0 to the left of or above the picture.
   constexpr int FromDisplay(int displayPixel) const {
     return DivideDown(displayPixel * std::int64_t{usualDots}, dots_);
@@ -55,7 +59,7 @@ class DisplayScale {
   }
 
  private:
-  static constexpr int DivideDown(std::int64_t number, int by) {
+  static constexpr int DivideDown(std::int64_t number, std::int64_t by) {
     return static_cast<int>(number >= 0 ? number / by : -((by - 1 - number) / by));
   }
   static constexpr int DivideUp(std::int64_t number, int by) { return -DivideDown(-number, by); }

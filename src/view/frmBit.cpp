@@ -11,6 +11,7 @@
 
 #include "base/Finally.h"
 #include "forms/Bounds.h"
+#include "platform/Display.h"
 #include "platform/Text.h"
 #include "resource.h"
 #include "startup/FormPlacement.h"
@@ -37,15 +38,14 @@ constexpr auto buttons = std::to_array<Toolbar::Button>({
     {frmBit_tlb_control_Exit, "Exit", 0, true},
 });
 
-// The buttons' pictures grow with the display's dpi, but toolbar and zoom list together stay above the picture's fixed
-// position.
+// The buttons' pictures grow with the display's dpi, so that toolbar and zoom list together stay above the picture.
 struct ButtonPicture {
   int minDotsPerInch;
   int side;  // pixels
 };
 constexpr auto buttonPictures = std::to_array<ButtonPicture>({{168, 40}, {120, 32}, {0, 24}});
 
-constexpr int zoomListGap = 3;  // pixels between toolbar and zoom list
+constexpr int zoomListGap = 3;  // pixels between toolbar and zoom list at 96 dpi
 
 int ButtonPictureSide(HWND view) {
   const int dotsPerInch = DotsPerInchOf(view).across;
@@ -216,7 +216,8 @@ void frmBit::AttachControls() {
   img_.Show(&enlarged_);
 
   const HWND zoomList = Item(frmBit_CboZoom);
-  SetWindowPos(zoomList, nullptr, BoundsInParent(zoomList).left, toolbar_.Extent().cy + zoomListGap, 0, 0,
+  SetWindowPos(zoomList, nullptr, BoundsInParent(zoomList).left,
+               toolbar_.Extent().cy + ScaleOfDisplay().ToDisplay(zoomListGap), 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -264,8 +265,7 @@ void frmBit::SaveViewSize() {
 }
 
 void frmBit::UpdateCaption() {
-  const SIZE size = WindowSize(img_.Window());
-  if (const auto caption = ViewCaption(size.cy, size.cx, state_.CurrentLanguage)) SetCaption(*caption);
+  if (const auto caption = ViewCaption(imgSize_.cy, imgSize_.cx, state_.CurrentLanguage)) SetCaption(*caption);
 }
 
 void frmBit::ShowPicture() {
@@ -280,10 +280,15 @@ void frmBit::ShowStatusText(const std::string& text) {
 }
 
 void frmBit::Zoom(int factor) {
-  const int width = factor * host_.PicIcon().Width();
-  const int height = factor * host_.PicIcon().Height();
+  const PixelView& icon = host_.PicIcon();
+  const DisplayScale scale = ScaleOfDisplay();
+  const int side = SideOfSquare(factor, scale);
+  const int width = side * icon.Width();
+  const int height = side * icon.Height();
+  imgSize_ = {factor * icon.Width(), factor * icon.Height()};
   enlarged_.Resize(width, height, white);
-  SetWindowPos(img_.Window(), nullptr, pictureLeft, pictureTop, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(img_.Window(), nullptr, scale.ToDisplay(pictureLeft), scale.ToDisplay(pictureTop), width, height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
   Enlarge();
 }
 

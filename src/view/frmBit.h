@@ -83,6 +83,7 @@ class frmBit final : public Form {
 
   Toolbar toolbar_;
   PictureBox img_;
+  SIZE imgSize_{};    // of img_, in the program's pixels
   Surface picture_;   // as rendered by the main window
   Surface enlarged_;  // what img_ shows
 };

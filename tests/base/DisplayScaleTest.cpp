@@ -32,6 +32,24 @@ TEST(DisplayScale, GrowsWithTheDotsAndCountsABrokenPixelWhole) {
   }
 }
 
+TEST(DisplayScale, RoundsALengthToTheNearestDisplayPixel) {
+  struct Row {
+    int dots;
+    int one;
+    int three;
+    int five;
+    int ten;
+  };
+  for (const Row& row :
+       {Row{96, 1, 3, 5, 10}, {120, 1, 4, 6, 13}, {144, 2, 5, 8, 15}, {168, 2, 5, 9, 18}, {192, 2, 6, 10, 20}}) {
+    const DisplayScale scale(row.dots);
+    EXPECT_EQ(scale.Nearest(1), row.one) << row.dots;
+    EXPECT_EQ(scale.Nearest(3), row.three) << row.dots;
+    EXPECT_EQ(scale.Nearest(5), row.five) << row.dots;
+    EXPECT_EQ(scale.Nearest(10), row.ten) << row.dots;
+  }
+}
+
 TEST(DisplayScale, FindsEachPixelAgainWhereItBegins) {
   for (const int dots : displays) {
     const DisplayScale scale(dots);

@@ -367,9 +367,9 @@ TEST_F(frmBitTest, ShowsARunTimeErrorOnceAndStaysUsable) {
   });
 }
 
-// The picture is requested twice while the view loads and again for its first display.
+// The picture is requested once while the view loads and again for its first display.
 TEST_F(frmBitTest, OpensAfterThereWasNoMemoryForItsPicture) {
-  for (int pictures = 0; pictures < 3; ++pictures) {
+  for (int pictures = 0; pictures < 2; ++pictures) {
     host->picturesLeft = pictures;
     EXPECT_THROW(view->ShowSelectedEntry(owner), OutOfMemoryError);
     EXPECT_FALSE(view->IsLoaded());

@@ -1,0 +1,88 @@
+// The enhanced view on displays of a higher dpi: its picture is larger, and its texts are the same. These cases run at
+// the dpi of the current display; tests/CMakeLists.txt lists the values.
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+
+#include "platform/Display.h"
+#include "view/ViewFixture.h"
+
+namespace tarvik {
+namespace {
+
+class ViewOnDisplay : public support::ViewFixture {
+ protected:
+  // The side of an icon's pixel at the factors 1, 3, 5 and 10, and the place of the picture's corner.
+  struct Row {
+    int dots;
+    std::array<int, 4> sides;
+    int corner;
+  };
+  static constexpr std::array factors{1, 3, 5, 10};
+
+  static const Row& OfDisplay() {
+    static constexpr auto rows = std::to_array<Row>({{96, {1, 3, 5, 10}, 100},
+                                                     {120, {1, 4, 6, 13}, 125},
+                                                     {144, {2, 5, 8, 15}, 150},
+                                                     {168, {2, 5, 9, 18}, 175},
+                                                     {192, {2, 6, 10, 20}, 200}});
+    return *std::ranges::find(rows, DotsOfDisplay(), &Row::dots);
+  }
+  // Compares the window's pixels with the entry's picture, each pixel as a square of that side.
+  void ExpectSquares(int number, int side, int size) {
+    const RECT place = PlaceOf(frmBit_img);
+    ASSERT_EQ(place.left, OfDisplay().corner);
+    ASSERT_EQ(place.top, OfDisplay().corner);
+    ASSERT_EQ(place.right - place.left, side * size);
+    ASSERT_EQ(place.bottom - place.top, side * size);
+    application.DoEvents();
+    Surface shown(side * size, side * size, black);
+    const WindowDc dc(Item(frmBit_img));
+    BitBlt(shown.Dc(), 0, 0, shown.Width(), shown.Height(), dc.get(), 0, 0, SRCCOPY);
+    GdiFlush();
+    for (int y = 0; y < shown.Height(); ++y) {
+      for (int x = 0; x < shown.Width(); ++x) {
+        ASSERT_EQ(shown.Pixel(x, y), support::PictureHost::ColorOf(number, x / side, y / side)) << x << ", " << y;
+      }
+    }
+  }
+};
+
+TEST_F(ViewOnDisplay, MakesEveryPixelASquareThatGrowsWithTheDisplay) {
+  MakeList(3, 1, 16);
+  WhileOpen([this] {
+    ShowWindow(view->Window(), SW_MAXIMIZE);
+    ExpectSquares(2, OfDisplay().sides[2], 16);  // at the factor that it opens with
+    for (std::size_t i = 0; i < factors.size(); ++i) {
+      ChooseZoom(factors.at(i) - 1);
+      ExpectSquares(2, OfDisplay().sides.at(i), 16);
+    }
+    Click(frmBit_tlb_control_MoveFirst);
+    ExpectSquares(1, OfDisplay().sides.back(), 16);
+  });
+}
+
+TEST_F(ViewOnDisplay, TellsTheSizeOfThePictureAsOnAnyDisplay) {
+  WhileOpen([this] {
+    EXPECT_EQ(Caption(), "Enhanced View - [Height=160, Width=160]");
+    ChooseZoom(0);
+    EXPECT_EQ(Caption(), "Enhanced View - [Height=32, Width=32]");
+    ChooseZoom(9);
+    EXPECT_EQ(Caption(), "Enhanced View - [Height=320, Width=320]");
+  });
+}
+
+// The window's size is in twips, so it grows with the display too.
+TEST_F(ViewOnDisplay, FillsItsWindowAsFarAsOnAnyDisplay) {
+  WhileOpen([this] {
+    const RECT picture = PlaceOf(frmBit_img);
+    EXPECT_NEAR(100.0 * static_cast<double>(picture.right) / static_cast<double>(WindowSize().cx), 59, 5);
+    EXPECT_NEAR(100.0 * static_cast<double>(picture.bottom) / static_cast<double>(WindowSize().cy), 73, 5);
+    EXPECT_LE(PlaceOf(frmBit_CboZoom).bottom, picture.top);
+  });
+}
+
+}  // namespace
+}  // namespace tarvik
