@@ -9,6 +9,7 @@
 #include "export/HotSpotPick.h"
 #include "export/IconSurfaces.h"
 #include "forms/Bounds.h"
+#include "platform/Display.h"
 #include "resource.h"
 #include "startup/FormPlacement.h"
 #include "startup/FormSize.h"
@@ -20,6 +21,7 @@ constexpr int formWidth = 7510;  // twips
 constexpr int formHeight = 6295;
 constexpr int edge = 2;  // pixels of a sunken edge on each side
 constexpr int leftButton = 1;
+constexpr int minReadingsGap = 8;  // pixels at 96 dpi between the picture and what is to the right of it
 
 // Draws a sunken edge on the form, directly around a control.
 void DrawEdgeAround(HDC dc, HWND control) {
@@ -35,10 +37,10 @@ FrmHotSpot::FrmHotSpot(Application& application, ProgramState& state)
 
 void FrmHotSpot::Form_Load() {
   SizeInTwips(*this, formWidth, formHeight);
-  LayOutPicture();
   picCursor_.emplace(state_.MagnifiedSide, state_.MagnifiedSide, surfaceBackground);
   if (picMain_ != nullptr) picCursor_->Copy(*picMain_);
-  PictureBox(Item(FrmHotSpot_PicCursor)).Show(&*picCursor_);
+  ShowPicture();
+  ClearPicture();
   hotX_ = 0;
   hotY_ = 0;
   ShowHotSpot();
@@ -48,19 +50,37 @@ void FrmHotSpot::Form_Load() {
   basInitEntry::CenterForm(*this);
 }
 
-// The picture's size is in pixels, whatever the size of the dialog's font; its left margin equals those at the top and
-// bottom.
-void FrmHotSpot::LayOutPicture() {
+// The picture's size is in the program's pixels, whatever the size of the dialog's font. Its left margin equals those
+// at the top and bottom.
+void FrmHotSpot::ShowPicture() {
+  PictureBox box(Item(FrmHotSpot_PicCursor));
+  const DisplayScale scale = ScaleOfDisplay();
+  box.Show(&*picCursor_);
+  box.EnlargeBy(scale);
+  box.FitPicture();
   RECT client;
   GetClientRect(Window(), &client);
-  const int side = state_.MagnifiedSide;
-  const int corner = std::max<int>(edge, (client.bottom - side) / 2);
-  SetWindowPos(Item(FrmHotSpot_PicCursor), nullptr, corner, corner, side, side, SWP_NOZORDER | SWP_NOACTIVATE);
+  const int corner = std::max<int>(edge, (client.bottom - scale.ToDisplay(state_.MagnifiedSide)) / 2);
+  SetWindowPos(box.Window(), nullptr, corner, corner, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void FrmHotSpot::Form_Paint(HDC dc) {
   DrawEdgeAround(dc, Item(FrmHotSpot_PicCursor));
   DrawEdgeAround(dc, Item(FrmHotSpot_ImgXY));
+}
+
+// The other controls are placed in dialog units, which grow with the font and not quite with the dpi. So the picture
+// could cover them; they are then moved to the right.
+void FrmHotSpot::ClearPicture() const {
+  const HWND picture = Item(FrmHotSpot_PicCursor);
+  const int minLeft = BoundsInParent(picture).right + ScaleOfDisplay().ToDisplay(minReadingsGap);
+  const int shift = minLeft - BoundsInParent(Item(FrmHotSpot_ImgXY)).left;
+  if (shift <= 0) return;
+  for (HWND item = GetWindow(Window(), GW_CHILD); item != nullptr; item = GetWindow(item, GW_HWNDNEXT)) {
+    const RECT bounds = BoundsInParent(item);
+    if (item == picture) continue;
+    SetWindowPos(item, nullptr, bounds.left + shift, bounds.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
 }
 
 bool FrmHotSpot::OnCommand(int id, int code) {

@@ -33,7 +33,8 @@ class FrmHotSpot final : public Form {
   void CmdOk_Click();
   void CmdCancel_Click();
 
-  void LayOutPicture();
+  void ShowPicture();
+  void ClearPicture() const;
   void ShowHotSpot();
 
   ProgramState& state_;

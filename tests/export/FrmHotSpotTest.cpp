@@ -3,10 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <string>
 
 #include "export/FrmHotSpotTexts.h"
 #include "forms/Controls.h"
 #include "forms/ModalDriver.h"
+#include "platform/Display.h"
 #include "platform/Handles.h"
 #include "resource.h"
 
@@ -189,6 +192,81 @@ TEST_F(FrmHotSpotTest, KeepsTheHotSpotWhereItIsCancelledOrClosed) {
     EXPECT_EQ(state.HotSpotX, 5);
     EXPECT_EQ(state.HotSpotY, 6);
   }
+}
+
+// The picker on displays of a higher dpi: the picture is larger, and a place in it means the same pixel. These cases
+// run at the dpi of the current display; tests/CMakeLists.txt lists the values.
+class HotSpotOnDisplay : public FrmHotSpotTest {
+ protected:
+  const int dots = DotsOfDisplay();
+
+  // The first display pixel that shows a pixel of the picture.
+  int Begin(int pixel) const { return (pixel * dots + 95) / 96; }
+  int Number(int id) const { return std::stoi(Shown(id)); }
+  RECT PlaceOf(int id) const {
+    RECT place;
+    GetWindowRect(form.Item(id), &place);
+    MapWindowPoints(nullptr, form.Window(), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+  }
+};
+
+TEST_F(HotSpotOnDisplay, FillsTheWindowWithItsPicture) {
+  struct Row {
+    int dots;
+    int side;
+  };
+  constexpr auto rows = std::to_array<Row>({{96, 385}, {120, 482}, {144, 578}, {168, 674}, {192, 770}});
+  const auto* const row = std::ranges::find(rows, dots, &Row::dots);
+  ASSERT_NE(row, rows.end()) << dots;
+  Show();
+  const RECT place = PlaceOf(FrmHotSpot_PicCursor);
+  EXPECT_EQ(place.right - place.left, row->side);
+  EXPECT_EQ(place.bottom - place.top, row->side);
+  RECT client;
+  GetClientRect(form.Window(), &client);
+  EXPECT_GE(place.bottom - place.top, client.bottom * 95 / 100);
+  EXPECT_LE(place.top, client.bottom - place.bottom + 3) << "the margins above and below are alike";
+  const RECT readings = PlaceOf(FrmHotSpot_ImgXY);
+  EXPECT_LE(place.right + 2, readings.left - 2) << "the frames do not touch";
+  EXPECT_LE(readings.right + 2, client.right);
+  EXPECT_TRUE(dots != 96 || readings.left == 402) << readings.left << ", not where the dialog has it";
+  for (const int id : {FrmHotSpot_LblHotX, FrmHotSpot_LblHotY, FrmHotSpot_lblxy, FrmHotSpot_CmdOk}) {
+    EXPECT_GE(PlaceOf(id).left, readings.left) << id;
+    EXPECT_LE(PlaceOf(id).right, readings.right + 2) << id;
+  }
+}
+
+TEST_F(HotSpotOnDisplay, EnlargesThePixelsOfThePicture) {
+  const RECT square{6, 12, 12, 18};
+  const BrushHandle brush(CreateSolidBrush(RGB(200, 0, 0)));
+  FillRect(magnified.Dc(), &square, brush.get());
+  Show();
+  const WindowDc dc(Picture());
+  const int y = Begin(15);
+  for (int x = 0; x < Begin(20); ++x) {
+    const int begin = x * 96;
+    const int end = begin + 96;
+    const bool isInside = begin >= 6 * dots && end <= 12 * dots;
+    const bool isOutside = end <= 6 * dots || begin >= 12 * dots;
+    const Color pixel = GetPixel(dc.get(), x, y);
+    EXPECT_TRUE(!isInside || pixel == RGB(200, 0, 0)) << x << ": " << pixel;
+    EXPECT_TRUE(!isOutside || pixel == 0x123456U) << x << ": " << pixel;
+  }
+  EXPECT_EQ(GetPixel(dc.get(), Begin(385) - 1, Begin(385) - 1), 0x123456U);
+}
+
+TEST_F(HotSpotOnDisplay, AClickMeansThePixelUnderThePointer) {
+  state.HotSpotBound = 63;
+  Show();
+  for (int pixel = 1; pixel < 64; ++pixel) {
+    const int edge = Begin(6 * pixel);
+    Send(WM_LBUTTONDOWN, edge - 1, edge);
+    EXPECT_EQ(Number(FrmHotSpot_LblHotX), pixel - 1);
+    EXPECT_EQ(Number(FrmHotSpot_LblHotY), pixel);
+  }
+  Send(WM_MOUSEMOVE, Begin(6 * 7), Begin(6 * 16) - 1);
+  EXPECT_EQ(Shown(FrmHotSpot_lblxy), "07, 15");
 }
 
 }  // namespace
