@@ -4,6 +4,10 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
+#include "base/WrappedPath.h"
+#include "platform/Handles.h"
 #include "platform/Text.h"
 
 namespace tarvik {
@@ -44,6 +48,28 @@ void PictureTip::Say(const std::string& text) {
   GetClientRect(picture_, &part.rect);
   part.lpszText = wide.data();
   SendMessageW(tip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&part));
+}
+
+std::string PictureTip::Wrap(std::string_view path) const {
+  constexpr int minColumns = 2;
+  const int screen = GetSystemMetrics(SM_CXSCREEN);
+  const int maxWidth = screen - screen / 16;  // the rest is for the tip's own margins
+  int columns = 80;                           // longer lines are hard to read, however wide the screen
+  std::string lines = WrapPath(path, columns);
+  for (int width = WidthOf(lines); width > maxWidth && columns > minColumns; width = WidthOf(lines)) {
+    columns = std::max(minColumns, std::min(columns - 1, MulDiv(columns, maxWidth, width)));
+    lines = WrapPath(path, columns);
+  }
+  return lines;
+}
+
+// The width of the widest line, in pixels.
+int PictureTip::WidthOf(const std::string& lines) const {
+  const WindowDc dc(tip_);
+  const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(tip_, WM_GETFONT, 0, 0)));
+  RECT bounds{};
+  DrawTextW(dc.get(), ToWide(lines).c_str(), -1, &bounds, DT_CALCRECT | DT_NOPREFIX);
+  return bounds.right;
 }
 
 void PictureTip::Remove() {

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <string>
+#include <string_view>
 
 #include "base/NonCopyable.h"
 
@@ -19,12 +20,15 @@ class PictureTip : NonCopyable {
   // is a different tip: a visible one is hidden, and the new one appears when the pointer rests. Also call it if the
   // part under the pointer has changed.
   void Say(const std::string& text);
+  // Breaks a path into lines that fit the main screen in the tip's font, as WrapPath does.
+  std::string Wrap(std::string_view path) const;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                     DWORD_PTR data);
   void Relay(UINT message, WPARAM wParam, LPARAM lParam) const;
   void Remove();
+  int WidthOf(const std::string& lines) const;
 
   HWND tip_ = nullptr;
   HWND picture_ = nullptr;

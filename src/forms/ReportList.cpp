@@ -3,6 +3,7 @@
 #include <windowsx.h>
 
 #include <exception>
+#include <utility>
 
 #include "platform/Display.h"
 #include "platform/Text.h"
@@ -27,6 +28,8 @@ bool Scrolls(UINT message) {
 void ReportList::Attach(HWND listView) {
   window_ = listView;
   columns_ = 0;
+  growing_ = -1;
+  extraWidth_ = 0;
   bold_ = BoldFontOf(window_);
   ListView_SetExtendedListViewStyle(window_, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
   SetWindowSubclass(window_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
@@ -48,7 +51,7 @@ LRESULT CALLBACK ReportList::Procedure(HWND window, UINT message, WPARAM wParam,
 // Nothing may be thrown through the system; if memory runs out, there is no tip.
 void ReportList::SayWhatIsCut(POINT pointer) noexcept {
   try {
-    tip_.Say(CutTextAt(pointer));
+    tip_.Say(tip_.Wrap(CutTextAt(pointer)));
   } catch (const std::exception&) {
     return;
   }
@@ -82,14 +85,29 @@ int ReportList::TextWidth(int row, const std::string& text) const {
 void ReportList::Clear(std::span<const Column> columns) {
   SetRowCount(0);
   for (; columns_ > 0; --columns_) ListView_DeleteColumn(window_, columns_ - 1);
+  growing_ = -1;
   const DisplayScale scale = ScaleOfDisplay();
   for (const Column& column : columns) {
     std::wstring title = ToWide(column.title);
     LVCOLUMNW definition{};
     definition.mask = LVCF_TEXT | LVCF_WIDTH;
     definition.cx = scale.ToDisplay(column.width);
+    if (column.grows) {
+      growing_ = columns_;
+      growingWidth_ = std::exchange(definition.cx, definition.cx + extraWidth_);
+    }
     definition.pszText = title.data();
     SendMessageW(window_, LVM_INSERTCOLUMNW, static_cast<WPARAM>(columns_++), reinterpret_cast<LPARAM>(&definition));
+  }
+}
+
+void ReportList::SetExtraWidth(int width) {
+  const int former = std::exchange(extraWidth_, width);
+  if (growing_ < 0 || former == width) return;
+  if (ListView_GetColumnWidth(window_, growing_) != growingWidth_ + former) {
+    growing_ = -1;  // the user has changed it
+  } else {
+    ListView_SetColumnWidth(window_, growing_, growingWidth_ + width);
   }
 }
 

@@ -16,12 +16,13 @@ namespace tarvik {
 
 // A virtual report list: it stores nothing and requests each cell's text when it draws it. Rows are counted from 0.
 // Enter on a row does not press the window's default button but sends NM_RETURN. A cell too narrow for its text shows
-// it in a tool tip when the pointer rests on it.
+// it in a tool tip when the pointer rests on it, a long one in several lines.
 class ReportList {
  public:
   struct Column {
     std::string_view title;  // UTF-8
     int width;               // pixels at 96 dpi
+    bool grows = false;      // wider by the extra width of SetExtraWidth; at most one column is
   };
 
   // The style of a row.
@@ -50,6 +51,9 @@ class ReportList {
 
   // Removes all rows and columns, then creates these columns.
   void Clear(std::span<const Column> columns);
+  // The list is wider than at first by so many display pixels, which the growing column takes, now and after Clear. A
+  // column whose width the user changed keeps it.
+  void SetExtraWidth(int width);
   // Sets the number of rows and redraws them.
   void SetRowCount(int rows);
   // The same if rows are only appended: existing rows are not redrawn.
@@ -91,6 +95,9 @@ class ReportList {
 
   HWND window_ = nullptr;
   int columns_ = 0;
+  int growing_ = -1;      // the column that grows, -1 for none
+  int growingWidth_ = 0;  // of that column without the extra width, in display pixels
+  int extraWidth_ = 0;
   FontHandle bold_;
   bool settingSelection_ = false;
   bool choicePending_ = false;

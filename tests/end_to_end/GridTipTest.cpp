@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <commctrl.h>
-
 #include <optional>
 #include <string>
 
@@ -16,17 +14,7 @@ namespace {
 
 class GridTip : public EndToEnd {
  protected:
-  // The visible tip, if any.
-  std::optional<Control> Shown() const {
-    const DWORD process = GetProcessId(program_.Process());
-    HWND found = nullptr;
-    while ((found = FindWindowExW(nullptr, found, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
-      DWORD owner = 0;
-      GetWindowThreadProcessId(found, &owner);
-      if (owner == process && IsWindowVisible(found) != FALSE) return Control(found);
-    }
-    return std::nullopt;
-  }
+  std::optional<Control> Shown() const { return program_.ShownTip(); }
   bool Shows(const std::string& text) const {
     const auto tip = Shown();
     return tip && tip->Text() == text;

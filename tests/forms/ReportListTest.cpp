@@ -8,6 +8,7 @@
 #include <array>
 #include <string>
 
+#include "platform/Display.h"
 #include "search/window/FindIconFixture.h"
 
 namespace tarvik {
@@ -54,14 +55,19 @@ class ReportListTest : public support::FindIconFixture {
     return {};
   }
 
+  static std::string Joined(std::string lines) {
+    for (std::size_t end = 0; (end = lines.find("\r\n")) != std::string::npos;) lines.erase(end, 2);
+    return lines;
+  }
+
   const std::string folder_ = "C:\\a folder\\" + std::string(150, 'w');
 };
 
 TEST_F(ReportListTest, SaysInATipWhatACellIsTooNarrowFor) {
   ShowList();
-  EXPECT_EQ(TipOf(1, path), folder_ + "\\some.dll");
+  EXPECT_EQ(Joined(TipOf(1, path)), folder_ + "\\some.dll");
   EXPECT_EQ(TipOf(1, 0), "") << "a number fits";
-  EXPECT_EQ(TipOf(2, path), folder_ + "\\some.dll");
+  EXPECT_EQ(Joined(TipOf(2, path)), folder_ + "\\some.dll");
   EXPECT_EQ(TipOf(1, 2), "");
 }
 
@@ -100,6 +106,85 @@ TEST_F(ReportListTest, ShowsTheTipWhereThePointerRests) {
     }
   }
   EXPECT_TRUE(shown);
+}
+
+// Such a path was one line, wider than the screen.
+TEST_F(ReportListTest, BreaksALongTextInItsTipIntoLinesThatFitTheScreen) {
+  const std::string wide = "C:\\a folder\\" + std::string(220, 'W');
+  ini.values["FindIcon/Folder"] = wide;
+  machine.files[wide] = {"some.dll"};
+  machine.icons[wide + "\\some.dll"] = 3;
+  ShowList();
+  const std::string text = TipOf(1, path);
+  EXPECT_EQ(Joined(text), wide + "\\some.dll");
+  const WindowDc dc(List());
+  const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(List(), WM_GETFONT, 0, 0)));
+  RECT lines{};
+  DrawTextW(dc.get(), ToWide(text).c_str(), -1, &lines, DT_CALCRECT | DT_NOPREFIX);
+  EXPECT_LT(lines.right, GetSystemMetrics(SM_CXSCREEN));
+}
+
+// The columns take what a larger window gives the list, in one column.
+class ColumnWidthTest : public ReportListTest {
+ protected:
+  void Enlarge(int width) {
+    RECT place{};
+    GetWindowRect(window->Window(), &place);
+    SetWindowPos(window->Window(), nullptr, 0, 0, place.right - place.left + width, place.bottom - place.top,
+                 SWP_NOZORDER);
+    application.DoEvents();
+  }
+  std::array<int, 3> Widths() const {
+    return {ListView_GetColumnWidth(List(), 0), ListView_GetColumnWidth(List(), 1), ListView_GetColumnWidth(List(), 2)};
+  }
+  int OfDisplay(int width) const { return (width * DotsOfDisplay() + 95) / 96; }
+  std::array<int, 3> First() const { return {OfDisplay(40), OfDisplay(460), OfDisplay(80)}; }
+  std::array<int, 3> WithPathWider(int width) const { return {OfDisplay(40), OfDisplay(460) + width, OfDisplay(80)}; }
+};
+
+TEST_F(ColumnWidthTest, GivesThePathTheWidthOfALargerWindowAndTakesItBack) {
+  ShowList();
+  EXPECT_EQ(Widths(), First());
+  Enlarge(150);
+  EXPECT_EQ(Widths(), WithPathWider(150));
+  Enlarge(33);
+  EXPECT_EQ(Widths(), WithPathWider(183));
+  ShowWindow(window->Window(), SW_MINIMIZE);
+  ShowWindow(window->Window(), SW_RESTORE);
+  EXPECT_EQ(Widths(), WithPathWider(183));
+  Enlarge(-183);
+  EXPECT_EQ(Widths(), First());
+  RECT before{};
+  GetWindowRect(List(), &before);
+  ShowWindow(window->Window(), SW_MAXIMIZE);
+  application.DoEvents();
+  RECT after{};
+  GetWindowRect(List(), &after);
+  EXPECT_EQ(Widths(), WithPathWider(after.right - after.left - (before.right - before.left)));
+  ShowWindow(window->Window(), SW_RESTORE);
+  application.DoEvents();
+  EXPECT_EQ(Widths(), First());
+}
+
+TEST_F(ColumnWidthTest, GivesItToTheColumnsOfTheNextSearchToo) {
+  ShowList();
+  Enlarge(150);
+  Click(FrmFindIcon_CmdFind);
+  EXPECT_EQ(Widths(), WithPathWider(150));
+  Enlarge(-150);
+  EXPECT_EQ(Widths(), First());
+}
+
+TEST_F(ColumnWidthTest, LeavesColumnsAsTheUserMadeThem) {
+  ShowList();
+  ListView_SetColumnWidth(List(), 0, 90);
+  Enlarge(150);
+  EXPECT_EQ(Widths(), (std::array{90, WithPathWider(150)[1], First()[2]})) << "another column";
+  ListView_SetColumnWidth(List(), 1, 300);
+  Enlarge(100);
+  EXPECT_EQ(Widths(), (std::array{90, 300, First()[2]}));
+  Enlarge(-250);
+  EXPECT_EQ(Widths(), (std::array{90, 300, First()[2]}));
 }
 
 }  // namespace

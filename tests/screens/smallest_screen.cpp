@@ -51,5 +51,31 @@ TEST_F(SmallestScreen, AMaximisedViewShowsTheLargestPictureAtItsPlace) {
   SavePicture(screen_, BuiltFile("../../../run/smallest-screen-view.png"));
 }
 
+// A long path of the widest letters, with a name that is wider than the screen: so was its tip.
+TEST_F(SmallestScreen, ShowsTheWholeOfALongPathInATip) {
+  const std::string folder(240 - In("\\a.ico").size(), 'W');
+  tree_.MakeFolder(folder);
+  tree_.MakeFile(folder + "\\a.ico", support::IconFileOf(0xFF));
+  const std::string path = In(folder + "\\a.ico");
+  ASSERT_EQ(path.size(), 240U);
+  Start(In(folder));
+  Find();
+  const auto expectTip = [&](POINT pointer, const std::string& text) {
+    MovePointer(pointer);
+    ASSERT_TRUE(Eventually([&] { return program_.ShownTip().has_value(); }));
+    std::string shown = program_.ShownTip()->Text();
+    for (std::size_t end = 0; (end = shown.find("\r\n")) != std::string::npos;) shown.erase(end, 2);
+    EXPECT_EQ(shown, text);
+    ExpectOnScreen(program_.ShownTip()->Place());
+    SavePicture(screen_, BuiltFile("../../../run/smallest-screen-tip.png"));
+    MovePointer({0, 0});
+    EXPECT_TRUE(Eventually([&] { return !program_.ShownTip(); }));
+  };
+  expectTip(CellMiddle(0), path + "Index 0");
+  program_.Item(FrmFindIcon_OptView1).Press();
+  ASSERT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Lv).IsVisible(); }));
+  expectTip(MiddleOf(List().RowPlace(0)), path);
+}
+
 }  // namespace
 }  // namespace tarvik::end_to_end

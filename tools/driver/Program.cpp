@@ -2,6 +2,8 @@
 
 #include <psapi.h>
 #include <windows.h>
+
+#include <commctrl.h>
 #include <winternl.h>
 
 #include <algorithm>
@@ -232,6 +234,13 @@ Control Program::Focus() const {
 std::optional<Control> Program::OpenMenu() const {
   for (const Control window : TopWindows()) {
     if (ClassOf(window.Window()) == L"#32768") return window;
+  }
+  return std::nullopt;
+}
+
+std::optional<Control> Program::ShownTip() const {
+  for (const Control window : TopWindows()) {
+    if (ClassOf(window.Window()) == TOOLTIPS_CLASSW) return window;
   }
   return std::nullopt;
 }

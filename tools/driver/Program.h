@@ -95,6 +95,9 @@ class Program : NonCopyable {
   // The menu that is open, if any.
   std::optional<Control> OpenMenu() const;
 
+  // The tool tip that is visible, if any.
+  std::optional<Control> ShownTip() const;
+
   // The message box that the program shows now, if any; or waits for one.
   std::optional<Box> FindBox() const;
   Box WaitForBox() const;

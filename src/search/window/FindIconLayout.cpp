@@ -82,6 +82,7 @@ int OpenHeight(HWND form) {
 
 void FindIconLayout::Begin(const Form& form, IconGrid& grid) {
   form_ = nullptr;  // nothing is arranged while the window gets its needed width
+  extraListWidth_ = 0;
   const HWND window = form.Window();
   LayOutLimit(form);
   Record(form);
@@ -139,7 +140,8 @@ void FindIconLayout::Arrange(bool listShown) {
   const SIZE inside = InsideOf(form_->Window());
   const ExtraRoom room = ShareRoom(inside.cx - needed_.cx, inside.cy - smallestInside_.cy, listShown);
   for (const Placed& placed : placed_) ArrangeControl(placed, room);
-  ArrangeGrid(inside.cx, room);
+  extraListWidth_ = std::max<int>(0, inside.cx - smallestInside_.cx);
+  ArrangeGrid(room);
   SendMessageW(form_->Item(FrmFindIcon_sbMain), WM_SIZE, 0, 0);
   // Controls were moved one by one and may have passed over each other.
   if (room != arranged_) RedrawWindow(form_->Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -161,11 +163,11 @@ void FindIconLayout::ArrangeControl(const Placed& placed, const ExtraRoom& room)
   }
 }
 
-void FindIconLayout::ArrangeGrid(int insideWidth, const ExtraRoom& room) const {
+void FindIconLayout::ArrangeGrid(const ExtraRoom& room) const {
   const int height = gridBounds_.bottom - gridBounds_.top;
   const int left = gridBounds_.left;
   const int top = gridBounds_.top + room.upperLists;
-  const int width = gridBounds_.right - left + std::max(0, insideWidth - static_cast<int>(smallestInside_.cx));
+  const int width = gridBounds_.right - left + extraListWidth_;
   grid_->Place({left, top}, width);
   Move(form_->Item(FrmFindIcon_Lv), {left, top, left + width, top + height + room.iconList});
 }

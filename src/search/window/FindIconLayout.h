@@ -22,6 +22,8 @@ class FindIconLayout {
   void Arrange(bool listShown);
   // Of the whole window, in display pixels; none before Begin.
   SIZE SmallestSize() const { return smallest_; }
+  // How much wider grid and icon list are than at the smallest size, in display pixels.
+  int ExtraListWidth() const { return extraListWidth_; }
 
  private:
   struct Placed {
@@ -34,7 +36,7 @@ class FindIconLayout {
   void Record(const Form& form);
   SIZE NeededWithGrid(const Form& form) const;
   void ArrangeControl(const Placed& placed, const ExtraRoom& room) const;
-  void ArrangeGrid(int insideWidth, const ExtraRoom& room) const;
+  void ArrangeGrid(const ExtraRoom& room) const;
 
   const Form* form_ = nullptr;
   IconGrid* grid_ = nullptr;
@@ -44,6 +46,7 @@ class FindIconLayout {
   SIZE smallestInside_{};
   ExtraRoom arranged_;  // the extra size at the last arrangement
   SIZE smallest_{};
+  int extraListWidth_ = 0;
 };
 
 }  // namespace tarvik

@@ -90,6 +90,7 @@ void FrmFindIcon::AttachControls() {
 
 void FrmFindIcon::Form_Resize() {
   layout_.Arrange(IsChecked(FrmFindIcon_OptView1));
+  lv_.SetExtraWidth(layout_.ExtraListWidth());
 }
 
 bool FrmFindIcon::Form_QueryUnload() {

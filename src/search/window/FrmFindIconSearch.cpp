@@ -84,7 +84,7 @@ void FrmFindIcon::ClearListView() {
   gridTip_.Say({});
   std::vector<ReportList::Column> columns;
   columns.reserve(iconListColumns.size());
-  for (const IconListColumn& column : iconListColumns) columns.push_back({column.header, column.width});
+  for (const IconListColumn& column : iconListColumns) columns.push_back({column.header, column.width, column.grows});
   lv_.Clear(columns);
   UpdateSaveMenus();
 }

@@ -4,7 +4,6 @@
 
 #include <utility>
 
-#include "base/WrappedPath.h"
 #include "resource.h"
 #include "search/window/FrmFindIcon.h"
 #include "search/window/FrmFindIconTexts.h"
@@ -36,11 +35,10 @@ void FrmFindIcon::OnPicture(const PictureEvent& event) {
 }
 
 void FrmFindIcon::ShowTipAt(double x, double y) {
-  constexpr int columns = 80;  // characters per line; they fit the smallest screen
   const std::optional<int> number = selection_.EntryAt(x, y);
   if (!number) return gridTip_.Say({});
   const IconListEntry& entry = list_.Item(*number);
-  const std::string path = WrapPath(entry.path, columns);
+  const std::string path = gridTip_.Wrap(entry.path);
   const auto text = Compose(gridTip, dependencies_.state.CurrentLanguage, {path, std::to_string(entry.index)});
   gridTip_.Say(text.value_or(path));
 }

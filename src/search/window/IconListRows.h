@@ -13,13 +13,14 @@ namespace tarvik {
 // oddities 24).
 struct IconListColumn {
   std::string_view header;
-  int width = 0;  // in pixels
+  int width = 0;       // in pixels at the window's first size
+  bool grows = false;  // takes the width that a larger window gives the list
 };
 
 inline constexpr std::array<IconListColumn, 3> iconListColumns{{
-    {"序号", 40},       // the entry's number
-    {"文件路径", 460},  // its file
-    {"图标索引", 80},   // its index in that file
+    {"序号", 40},             // the entry's number
+    {"文件路径", 460, true},  // its file
+    {"图标索引", 80},         // its index in that file
 }};
 
 // The text of a column in the row of the entry with that number (1 to the list's Count()).
