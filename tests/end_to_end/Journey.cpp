@@ -9,8 +9,6 @@
 #include <array>
 #include <vector>
 
-#include "driver/Dialogs.h"
-#include "driver/SeenFiles.h"
 #include "platform/Display.h"
 #include "platform/Text.h"
 
@@ -20,11 +18,6 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::SizeIs;
-namespace {
-
-constexpr const char* root = "R:\\";
-
-}  // namespace
 
 void Journey::SetUp() {
   fs::remove_all(Pictures());
@@ -59,7 +52,18 @@ fs::path Journey::Pictures() const {
 void Journey::Picture(const std::string& name) {
   ++pictures_;
   const std::string number = (pictures_ < 10 ? "0" : "") + std::to_string(pictures_);
-  SavePicture(program_.Extent(), Pictures() / (number + "-" + name + ".png"));
+  // A maximised window extends beyond the screen by its frame.
+  const RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+  const RECT extent = program_.Extent();
+  RECT seen{};
+  IntersectRect(&seen, &extent, &screen);
+  SavePicture(seen, Pictures() / (number + "-" + name + ".png"));
+}
+
+void Journey::PassBox(const std::string& name) {
+  const Box box = program_.WaitForBox();
+  Picture(name);
+  box.Press(IDOK);
 }
 
 void Journey::StartUp() {
@@ -113,6 +117,10 @@ void Journey::TypeLimit(const std::string& limit) const {
 }
 
 void Journey::Search() {
+  TypeLimit("many");
+  PressKey(VK_RETURN);
+  PassBox("no-number");
+  ASSERT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind); }));
   TypeLimit("100");
   PressKey(VK_RETURN);
   const Box refusal = program_.WaitForBox();
@@ -128,6 +136,10 @@ void Journey::Search() {
                            tongue_.foundEnd);
   EXPECT_EQ(List().RowCount(), count_);
   Picture("grid");
+  MovePointer(CellMiddle(1));
+  EXPECT_TRUE(Eventually([&] { return program_.ShownTip().has_value(); }));
+  Picture("grid-tip");
+  MovePointer({0, 0});
 }
 
 void Journey::OpenMenuByKeys(int menu) const {
@@ -181,148 +193,24 @@ void Journey::Select() {
   Picture("inverted");
   program_.Item(FrmFindIcon_OptView1).Press();
   EXPECT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Lv).IsVisible(); }));
-  Picture("list");
-  program_.Command(FrmFindIcon_mnuRem);
-  ExpectRows({3, 6});
+  LookAtTheList();
   program_.Item(FrmFindIcon_OptView0).Press();
   EXPECT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_PicFrame).IsVisible(); }));
 }
 
-void Journey::ChooseInFileMenu(int command) const {
-  // Places are counted from 0, without the lines between the items.
-  struct Item {
-    int command;
-    int place;
-    int placeInSubMenu;  // -1 if there is none
-  };
-  constexpr std::array items{
-      Item{FrmFindIcon_mnuSaveAs, 1, -1},       Item{FrmFindIcon_MnuSaveAsBitmap, 2, -1},
-      Item{FrmFindIcon_MnuSaveAsCursor, 3, -1}, Item{FrmFindIcon_mnuSaveAll, 4, 1},
-      Item{FrmFindIcon_mnuSaveSel2, 5, 0},      Item{FrmFindIcon_mnuSaveSel3, 6, 0},
-  };
-  const auto item = std::ranges::find(items, command, &Item::command);
-  ASSERT_NE(item, items.end()) << command;
-  OpenMenuByKeys(0);
-  PressKey(VK_DOWN, {}, item->place);
-  if (item->placeInSubMenu >= 0) {
-    PressKey(VK_RIGHT);
-    PressKey(VK_DOWN, {}, item->placeInSubMenu);
-  }
-  PressKey(VK_RETURN);
-}
-
-SaveDialog Journey::AskForName(int command) const {
-  ChooseInFileMenu(command);
-  return SaveDialog(program_);
-}
-
-void Journey::WaitForSave(const std::string& status) const {
-  EXPECT_TRUE(Eventually([&] { return program_.Window().IsEnabled() && Status() == status; })) << Status();
-}
-
-void Journey::SaveAsJpeg(const std::string& name) {
-  AskForName(FrmFindIcon_MnuSaveAsBitmap).SaveAs(name);
-  const Dialog jpeg(program_, fSaveJPG_CboSize);
-  jpeg.Press(fSaveJPG_cmdComment);
-  const Dialog comment(program_, fComment_txtComment);
-  comment.Item(fComment_txtComment).SetText(tongue_.file);
-  Picture("jpeg-comment");
-  comment.End(fComment_cmdFinish);
-  Picture("jpeg");
-  jpeg.End(fSaveJPG_cmdFinish1);
-}
-
-void Journey::SaveAsGif(const std::string& name) {
-  AskForName(FrmFindIcon_MnuSaveAsBitmap).SaveAs(name);
-  const Dialog gif(program_, FrmConvertGIF_Option1);
-  Picture("gif");
-  gif.End(FrmConvertGIF_CmdOk);
-}
-
-void Journey::SaveAsCursor(const std::string& name) {
-  ChooseInFileMenu(FrmFindIcon_MnuSaveAsCursor);
-  const Dialog hotSpot(program_, FrmHotSpot_PicCursor);
-  Picture("hot-spot");
-  hotSpot.End(FrmHotSpot_CmdOk);
-  SaveDialog(program_).SaveAs(name);
-}
-
-void Journey::SaveOneIcon() {
-  const std::string folder = home_.MakeFolder("out");
-  const std::string name = folder + "\\" + tongue_.file;
-  const std::string status = Status();
-  const SaveDialog icon = AskForName(FrmFindIcon_mnuSaveAs);
-  icon.Window().Send(WM_NULL);  // it takes a while to show its folder
-  Picture("save-as");
-  icon.SaveAs(name);
-  WaitForSave(status);
-  AskForName(FrmFindIcon_MnuSaveAsBitmap).SaveAs(name + ".bmp");
-  WaitForSave(status);
-  SaveAsJpeg(name + ".jpg");
-  WaitForSave(status);
-  SaveAsGif(name + ".gif");
-  WaitForSave(status);
-  SaveAsCursor(name);
-  WaitForSave(status);
-
-  const auto files = SeeFiles(folder);
-  EXPECT_THAT(files, SizeIs(5));
-  for (const char* extension : {".bmp", ".cur", ".gif", ".ico", ".jpg"})
-    EXPECT_THAT(files.at(tongue_.file + std::string(extension)).pixels, SizeIs(32 * 32)) << extension;
-}
-
-std::string Journey::BatchFolder() const {
-  return std::string(root) + tongue_.folder + "\\" + tongue_.newFolder;
-}
-
-int Journey::CountSaved(const std::wstring& start) const {
-  const fs::directory_iterator files(ToWide(BatchFolder()));
-  return static_cast<int>(std::count_if(begin(files), end(files), [&](const fs::directory_entry& file) {
-    return file.path().filename().wstring().starts_with(start) && file.file_size() > 0;
-  }));
-}
-
-void Journey::SaveAllIcons() {
-  const std::string status = Status();
-  ChooseInFileMenu(FrmFindIcon_mnuSaveAll);
-  const FolderChooser chooser(program_);
-  const NewFolderDialog newFolder(program_, chooser);
-  Picture("new-folder");
-  newFolder.Create(tongue_.newFolder);
-  newFolder.WaitForEnd();
-  EXPECT_EQ(chooser.Path(), BatchFolder());
-  Picture("folder");
-  chooser.Ok();
-  WaitForSave(status);
-}
-
-void Journey::SaveSelected(const Batch& batch) {
-  const std::string status = Status();
-  ChooseInFileMenu(batch.command);
-  const FolderChooser chooser(program_);
-  chooser.Open(tongue_.newFolder);
-  if (batch.type != 0) chooser.ChooseType(batch.type);
-  Picture(batch.picture);
-  chooser.Ok();
-  if (batch.options != 0) Dialog(program_, batch.options).End(batch.finish);
-  WaitForSave(status);
-}
-
-void Journey::SaveMany() {
-  SaveAllIcons();
-  EXPECT_EQ(CountSaved(L"Icon "), count_);
-  int images = 0;
-  for (const Batch& batch : {
-           Batch{FrmFindIcon_mnuSaveSel2, 0, 0, 0, "bitmap-folder"},
-           Batch{FrmFindIcon_mnuSaveSel2, 1, FrmConvertGIF_Option1, FrmConvertGIF_CmdOk, "gif-folder"},
-           Batch{FrmFindIcon_mnuSaveSel2, 2, fSaveJPG_CboSize, fSaveJPG_cmdFinish1, "jpeg-folder"},
-       }) {
-    SaveSelected(batch);
-    images += 2;
-    EXPECT_EQ(CountSaved(L"Images "), images) << batch.picture;
-  }
-  SaveSelected({FrmFindIcon_mnuSaveSel3, 0, 0, 0, "cursor-folder"});
-  EXPECT_EQ(CountSaved(L"Curor "), 2);
+void Journey::LookAtTheList() {
+  Picture("list");
+  program_.Command(FrmFindIcon_mnuRem);
+  ExpectRows({3, 6});
+  RightClick(MiddleOf(List().RowPlace(6)));
+  EXPECT_TRUE(Eventually([&] { return program_.OpenMenu().has_value(); }));
+  Picture("menu-of-a-row");
+  PressKey(VK_ESCAPE);
+  EXPECT_TRUE(Eventually([&] { return !program_.OpenMenu(); }));
+  ExpectRows({3, 6});
+  program_.Window().Send(WM_SYSCOMMAND, SC_MAXIMIZE);
+  Picture("maximised-list");
+  program_.Window().Send(WM_SYSCOMMAND, SC_RESTORE);
 }
 
 void Journey::CopyIcon() const {
@@ -345,6 +233,16 @@ void Journey::ReadTheGuide() const {
       << support::ReadAll(page);
   EXPECT_FALSE(program_.FindBox());
   program_.BringToFront();
+}
+
+void Journey::AskForAMissingGuide() {
+  const fs::path guide = ToWide(home_.In("guide"));
+  const fs::path away = ToWide(home_.In("guide-away"));
+  fs::rename(guide, away);
+  PressKey(VK_F1);
+  PassBox("no-guide");
+  fs::rename(away, guide);
+  ASSERT_TRUE(Eventually([&] { return program_.Window().IsEnabled(); }));
 }
 
 void Journey::LookAtTheAboutBox() {

@@ -45,6 +45,7 @@ class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> 
   void SaveMany();
   void CopyIcon() const;
   void ReadTheGuide() const;
+  void AskForAMissingGuide();
   void LookAtTheAboutBox();
   void Leave() const;
   void ComeBack();
@@ -61,6 +62,8 @@ class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> 
   // Ticks a box, and types a limit, with the mouse and the keys.
   void TickByMouse(int id) const;
   void TypeLimit(const std::string& limit) const;
+  // Waits for a message box, takes a picture of it and closes it.
+  void PassBox(const std::string& name);
   // Opens a menu of the menu bar, counted from 0, by the keyboard.
   void OpenMenuByKeys(int menu) const;
   void CloseMenu() const;
@@ -68,6 +71,7 @@ class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> 
   void ChooseInFileMenu(int command) const;
 
   SaveDialog AskForName(int command) const;
+  void LookAtTheList();
   void SaveAsJpeg(const std::string& name);
   void SaveAsGif(const std::string& name);
   void SaveAsCursor(const std::string& name);
@@ -89,9 +93,10 @@ class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> 
   // How many files in the batches' folder are not empty and have a name that starts with `start`.
   int CountSaved(const std::wstring& start) const;
 
-  const ExtraDrive drive_{tree_.Path(), "icons"};  // R:
-  int count_ = 0;                                  // of all icons
-  int pictures_ = 0;                               // taken so far
+  static constexpr const char* root = "R:\\";
+  const ExtraDrive drive_{tree_.Path(), "icons"};
+  int count_ = 0;     // of all icons
+  int pictures_ = 0;  // taken so far
 };
 
 }  // namespace tarvik::end_to_end

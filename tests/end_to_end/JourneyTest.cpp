@@ -29,6 +29,7 @@ TEST_P(Journey, FromTheFirstStartToTheNext) {
   SaveMany();
   CopyIcon();
   ReadTheGuide();
+  AskForAMissingGuide();
   LookAtTheAboutBox();
   Leave();
   EXPECT_EQ(program_.WaitForEnd(), 0U);
