@@ -2,16 +2,27 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <optional>
 
 #include "platform/CodePage.h"
+#include "platform/DiskFile.h"
 
 namespace tarvik {
 namespace {
 
+// For each value the system reads the whole file into memory, and Wine's functions fault if there is not enough.
+constexpr std::uint64_t maxFileBytes = std::uint64_t{1} << 20U;
+
+// The path for the system's functions; none if they must not be called.
+std::optional<std::string> UsablePath(const std::string& file) {
+  if (FileLength(file) > maxFileBytes) return std::nullopt;
+  return ToCodePage(file);
+}
+
 // `text` is already in the code page. Null for no key or text.
 int WriteProfile(const std::string& section, const std::string* key, const std::string* text, const std::string& file) {
-  const std::optional<std::string> path = ToCodePage(file);
+  const std::optional<std::string> path = UsablePath(file);
   if (!path) return 0;
   const std::string name = key != nullptr ? ToReadableCodePage(*key) : std::string();
   return WritePrivateProfileStringA(ToReadableCodePage(section).c_str(), key != nullptr ? name.c_str() : nullptr,
@@ -22,7 +33,7 @@ int WriteProfile(const std::string& section, const std::string* key, const std::
 
 std::string IniFile::Read(const std::string& section, const std::string& key, const std::string& defaultValue,
                           int capacity, const std::string& file) {
-  const std::optional<std::string> path = ToCodePage(file);
+  const std::optional<std::string> path = UsablePath(file);
   if (!path) return defaultValue;
   std::string buffer(static_cast<std::size_t>(capacity), ' ');
   const DWORD count = GetPrivateProfileStringA(ToReadableCodePage(section).c_str(), ToReadableCodePage(key).c_str(),

@@ -252,62 +252,6 @@ TEST_F(MissingWindow, LeavesTheMainWindowUsableWhereItIsTheView) {
   EXPECT_EQ(damaged_.Close(), 0U);
 }
 
-class SettingsFaults : public Faults {
- protected:
-  // Starts with the sub-folders ticked, searches, and ends with them not ticked.
-  void ChangeOneAndClose() {
-    program_.Start();
-    EXPECT_TRUE(program_.Item(FrmFindIcon_chkSubDir).IsChecked());
-    program_.Item(FrmFindIcon_chkSubDir).Send(BM_CLICK);
-    Find();
-    EXPECT_EQ(List().RowCount(), 1);
-    EXPECT_EQ(program_.Close(), 0U);
-  }
-  std::string File() const { return ToUtf8(program_.SettingsFile().wstring()); }
-};
-
-TEST_F(SettingsFaults, AFileThatAnotherProgramHoldsOpenIsReadAndStaysAsItIs) {
-  tree_.MakeFile("a.ico", IconFileOf(red));
-  WriteSetting("Folder", tree_.Path());
-  WriteSetting("Subdir", "True");
-  const std::string before = support::ReadAll(File());
-  const FileHandle held(
-      CreateFileW(program_.SettingsFile().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-  ASSERT_TRUE(held);
-  ChangeOneAndClose();
-  EXPECT_EQ(support::ReadAll(File()), before);
-}
-
-TEST_F(SettingsFaults, AReadOnlyFileIsReadAndStaysWhole) {
-  tree_.MakeFile("a.ico", IconFileOf(red));
-  WriteSetting("Folder", tree_.Path());
-  WriteSetting("Subdir", "True");
-  support::AddAttributes(File(), FILE_ATTRIBUTE_READONLY);
-  // Under Wine the owner of the machine may write to such a file in spite of its attribute.
-  const bool mayBeWritten = static_cast<bool>(
-      FileHandle(CreateFileW(program_.SettingsFile().c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr)));
-  ChangeOneAndClose();
-  EXPECT_EQ(ReadSetting("Folder"), tree_.Path());
-  EXPECT_EQ(ReadSetting("Subdir"), mayBeWritten ? "False" : "True");
-}
-
-TEST_F(SettingsFaults, AFolderInTheFilesPlaceMeansTheDefaultsAndStays) {
-  ASSERT_NE(CreateDirectoryW(ToWide(File()).c_str(), nullptr), 0);
-  program_.Start();
-  EXPECT_FALSE(program_.Item(FrmFindIcon_chkSubDir).IsChecked());
-  EXPECT_THAT(FolderNames(), ::testing::Contains(FolderName(home_.Path())));
-  EXPECT_EQ(program_.Close(), 0U);
-  EXPECT_TRUE(fs::is_directory(ToWide(File())));
-}
-
-TEST_F(SettingsFaults, AFileOfNonsenseMeansTheDefaultsAndIsMended) {
-  std::ofstream(program_.SettingsFile(), std::ios::binary) << std::string(5000, '\xFF') << "[[=\n\0[FindIcon";
-  program_.Start();
-  EXPECT_FALSE(program_.Item(FrmFindIcon_chkSubDir).IsChecked());
-  EXPECT_EQ(program_.Close(), 0U);
-  EXPECT_EQ(ReadSetting("Subdir"), "False");
-}
-
 // While it lives, programs that are started get a temporary folder that does not exist.
 class NoTemporaryFolder : NonCopyable {
  public:

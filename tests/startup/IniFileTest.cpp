@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <span>
 #include <string>
 
 #include "platform/TemporaryFolder.h"
@@ -53,6 +55,23 @@ TEST(IniFile, DeletesAKeyAndASection) {
 TEST(IniFile, SaysThatAWriteFailed) {
   const TemporaryFolder folder;
   EXPECT_EQ(IniFile().Write("a", "b", "c", folder.In(R"(none\a.dat)")), 0);
+}
+
+// The system would read all of such a file into memory for each value.
+TEST(IniFile, NeitherReadsNorWritesAFileOfMoreThanAMegabyte) {
+  const TemporaryFolder folder;
+  const std::string start = "[Section]\r\nKey=Value\r\n";
+  constexpr std::uint64_t megabyte = std::uint64_t{1} << 20U;
+  IniFile ini;
+  const std::string largest = folder.MakeSparseFile("a.dat", std::as_bytes(std::span(start)), megabyte);
+  EXPECT_EQ(ini.Read("Section", "Key", "default", 100, largest), "Value");
+  const std::string larger = folder.MakeSparseFile("b.dat", std::as_bytes(std::span(start)), megabyte + 1);
+  EXPECT_EQ(ini.Read("Section", "Key", "default", 100, larger), "default");
+  EXPECT_EQ(ini.Write("Section", "Key", "Other", larger), 0);
+  EXPECT_EQ(ini.DeleteKey("Section", "Key", larger), 0);
+  EXPECT_EQ(ini.DeleteSection("Section", larger), 0);
+  EXPECT_TRUE(support::ReadAll(larger).starts_with(start));
+  EXPECT_EQ(support::ReadAll(larger).size(), megabyte + 1);
 }
 
 }  // namespace
