@@ -128,6 +128,9 @@ void Run(HINSTANCE instance, ProgramState& state) {
     ShowRuntimeError(form.Window(), error, state.CurrentLanguage);
   };
   application.onHelp = [&state](Form& form) { OpenGuide(form.Window(), ProgramFolder(), state.CurrentLanguage); };
+  // Everything is saved by now. The system's Save dialog, if it asks a question just then, would return from it to a
+  // window that is gone, and fault.
+  application.onSessionEnd = [] { ExitProcess(0); };
   Windows windows(application, state, settings, icons, folders);
   StartUp startUp(windows);
   basInitEntry::Main(state, startUp);

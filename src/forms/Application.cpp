@@ -59,6 +59,7 @@ void Application::DoEvents() {
 void Application::EndSession() {
   hasEnded_ = true;
   while (!forms_.empty()) forms_.back()->Unload();
+  if (onSessionEnd) onSessionEnd();
   // The system's dialogs and message boxes have their own loops, which end with this message.
   PostQuitMessage(0);
 }

@@ -28,6 +28,8 @@ class Application : NonCopyable {
   std::function<void(Form& form, const RuntimeError& error)> onRuntimeError;
   // Opens the user's guide for a form in which F1 was pressed. May be empty. Set once, before the first form loads.
   std::function<void(Form& form)> onHelp;
+  // Called when the session has ended and every form is unloaded; may end the process. May be empty.
+  std::function<void()> onSessionEnd;
 
   // Serves messages until no form is loaded.
   void Run();
@@ -38,7 +40,7 @@ class Application : NonCopyable {
   // Serves the waiting messages and returns.
   void DoEvents();
 
-  // Unloads every form, the last loaded first, and ends all waiting for messages by GivenUp.
+  // Unloads every form, the last loaded first, and ends all waiting for messages by GivenUp, if onSessionEnd returns.
   void EndSession();
   bool HasEnded() const { return hasEnded_; }
 

@@ -6,10 +6,12 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "driver/Dialogs.h"
+#include "driver/EnhancedView.h"
 #include "end_to_end/SavingTest.h"
 #include "platform/Text.h"
 
@@ -70,39 +72,85 @@ class Ending : public Saving {
   }
 };
 
+// How the main window can be closed while something is open.
+enum class Closable { No, ByRequest, ByRequestAndSystemMenu };
+
 // The parameter names what is open over the main window.
 class EndingOver : public Ending, public ::testing::WithParamInterface<std::string> {
  protected:
-  // Opens it. Returns whether the main window may be closed meanwhile.
-  bool OpenIt() {
+  // Opens it.
+  Closable OpenIt() {
     const std::string& name = GetParam();
-    if (name == "AboutBox") {
-      program_.Command(FrmFindIcon_MnuAbout);
-      program_.WaitForWindowWith(FrmSpash_CmdOk);
-      return true;
-    }
-    if (name == "EnhancedView") {
-      const HWND list = program_.Item(FrmFindIcon_PicIcons).Window();
-      PostMessageW(list, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(10, 10));
-      program_.WaitForWindowWith(frmBit_img);
-      return true;
-    }
-    if (name == "Hint") {
-      program_.Item(FrmFindIcon_PicIcons).Post(WM_LBUTTONUP, MK_CONTROL, MAKELPARAM(10, 10));
-      program_.Command(FrmFindIcon_mnuSaveSel);
-      program_.WaitForBox();
-      return true;
-    }
-    if (name == "RunTimeError") {
-      SetLimit("many");
-      FindAndWaitForBox();
-      return true;
-    }
+    if (OpenMenuOrList(name)) return Closable::ByRequestAndSystemMenu;
+    // The system accepts no command from the window menu while the window is disabled.
+    if (OpenOverTheWindow(name)) return Closable::ByRequest;
     OpenOfCommand(name);
-    return false;
+    return Closable::No;
+  }
+  void ExpectNothingWritten() const {
+    Ending::ExpectNothingWritten();
+    EXPECT_EQ(support::ReadAll(In("0.ico")), picture_) << "it was not to be replaced";
+  }
+  void StartAndFind() {
+    Ending::StartAndFind();
+    picture_ = support::ReadAll(In("0.ico"));
   }
 
  private:
+  // What leaves the main window enabled.
+  bool OpenMenuOrList(const std::string& name) {
+    const Control window = program_.Window();
+    if (name == "Menu") {
+      window.Post(WM_SYSCOMMAND, SC_KEYMENU, 'f');
+    } else if (name == "WindowMenu") {
+      window.Post(WM_SYSCOMMAND, SC_KEYMENU, ' ');
+    } else if (name == "ListMenu") {
+      program_.Item(FrmFindIcon_OptView1).Send(BM_CLICK);
+      const POINT row = MiddleOf(List().RowPlace(0));
+      window.Post(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(program_.Item(FrmFindIcon_Lv).Window()),
+                  MAKELPARAM(row.x, row.y));
+    } else if (name == "SizeList") {
+      const Control sizes = program_.Item(FrmFindIcon_CboIconSize);
+      sizes.Send(CB_SHOWDROPDOWN, TRUE);
+      EXPECT_NE(sizes.Send(CB_GETDROPPEDSTATE), FALSE);
+      return true;
+    } else {
+      return false;
+    }
+    EXPECT_TRUE(Eventually([&] { return program_.OpenMenu().has_value(); }));
+    return true;
+  }
+  // What disables the main window, and no command waits for.
+  bool OpenOverTheWindow(const std::string& name) {
+    if (name == "AboutBox") {
+      program_.Command(FrmFindIcon_MnuAbout);
+      program_.WaitForWindowWith(FrmSpash_CmdOk);
+    } else if (name == "EnhancedView" || name == "SlideShow" || name == "ZoomListOfTheView") {
+      OpenView(name);
+    } else if (name == "Hint") {
+      program_.Item(FrmFindIcon_PicIcons).Post(WM_LBUTTONUP, MK_CONTROL, MAKELPARAM(10, 10));
+      program_.Command(FrmFindIcon_mnuSaveSel);
+      program_.WaitForBox();
+    } else if (name == "RunTimeError") {
+      SetLimit("many");
+      FindAndWaitForBox();
+    } else {
+      return false;
+    }
+    return true;
+  }
+  void OpenView(const std::string& name) {
+    program_.Item(FrmFindIcon_PicIcons).Post(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(10, 10));
+    const EnhancedView view(program_);
+    if (name == "SlideShow") {
+      view.Press(frmBit_tlb_control_Start);
+      view.Tick();
+      EXPECT_TRUE(view.ShowIsOn());
+    } else if (name == "ZoomListOfTheView") {
+      view.ZoomList().Send(CB_SHOWDROPDOWN, TRUE);
+      EXPECT_NE(view.ZoomList().Send(CB_GETDROPPEDSTATE), FALSE);
+    }
+  }
   // Opens what a command opens; the command goes on when that is closed.
   void OpenOfCommand(const std::string& name) {
     if (name == "NoIcons") {
@@ -119,6 +167,9 @@ class EndingOver : public Ending, public ::testing::WithParamInterface<std::stri
       program_.WaitForWindowWith(FrmHotSpot_CmdOk);
     } else if (name == "SaveDialog") {
       AskForName(FrmFindIcon_mnuSaveAs);
+    } else if (name == "OverwriteQuestion") {
+      AskForName(FrmFindIcon_mnuSaveAs).Save(In("0.ico"));
+      program_.WaitForBox();
     } else if (name == "JpegOptions") {
       SaveAs(FrmFindIcon_MnuSaveAsBitmap, Out("a.jpg"));
       program_.WaitForWindowWith(fSaveJPG_CboSize);
@@ -140,13 +191,16 @@ class EndingOver : public Ending, public ::testing::WithParamInterface<std::stri
       RemoveDirectoryW((ToWide(Out("Icon 1.ico"))).c_str());
     }
   }
+
+  std::string picture_;  // the bytes of the first icon's file
 };
 
 TEST_P(EndingOver, TheMainWindowClosesWithTheProcessOrStaysWithWhatIsOverIt) {
   for (const Way way : closing) {
     StartAndFind();
-    // The system accepts no command from the window menu while the window is disabled.
-    const bool closes = OpenIt() && way == Way::Close;
+    const Closable closable = OpenIt();
+    const bool closes =
+        closable == Closable::ByRequestAndSystemMenu || (closable == Closable::ByRequest && way == Way::Close);
     const std::size_t windows = Windows().size();
     Ask(way);
     if (!closes) {
@@ -172,12 +226,48 @@ TEST_P(EndingOver, TheSessionEndsAndNothingIsWritten) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EachOfThem, EndingOver,
-                         ::testing::Values("AboutBox", "EnhancedView", "Hint", "RunTimeError", "NoIcons",
-                                           "FolderChooser", "NewFolder", "HotSpotPicker", "SaveDialog", "JpegOptions",
-                                           "JpegComment", "GifOptions", "GifOptionsOfABatch", "Failure"),
+                         ::testing::Values("Menu", "WindowMenu", "ListMenu", "SizeList", "AboutBox", "EnhancedView",
+                                           "SlideShow", "ZoomListOfTheView", "Hint", "RunTimeError", "NoIcons",
+                                           "FolderChooser", "NewFolder", "HotSpotPicker", "SaveDialog",
+                                           "OverwriteQuestion", "JpegOptions", "JpegComment", "GifOptions",
+                                           "GifOptionsOfABatch", "Failure"),
                          [](const auto& row) { return row.param; });
 
-class EndingAtWork : public Ending {};
+// The start-up window is the only one then.
+class EndingAtStart : public Ending {};
+
+TEST_F(EndingAtStart, TheProgramEndsWithoutAMainWindow) {
+  for (const Way way : {Way::Close, Way::SystemMenu, Way::SessionEnd}) {
+    program_.Launch();
+    const Control startUp = program_.WaitForStartUpWindow();
+    if (way == Way::Close) startUp.Post(WM_CLOSE);
+    if (way == Way::SystemMenu) startUp.Post(WM_SYSCOMMAND, SC_CLOSE);
+    if (way == Way::SessionEnd) {
+      EXPECT_THAT(AnswersToTheEnd(), Each(TRUE));
+      EndSession(false);
+    }
+    EXPECT_EQ(program_.WaitForEnd(), 0U);
+    EXPECT_FALSE(std::filesystem::exists(program_.SettingsFile())) << "there are no settings to keep yet";
+  }
+}
+
+class EndingAtWork : public Ending {
+ protected:
+  static constexpr int many = 2000;
+
+  void StartToSaveMany() {
+    CopyTwoThousandIcons(In("many.dll"));
+    tree_.MakeFolder(outName);
+    Start();
+    Tick({Dll});
+    SetLimit(std::to_string(many));
+    Find();
+    ASSERT_EQ(List().RowCount(), many);
+    KeepAsFound();
+    ChooseOut(FrmFindIcon_mnuSaveAll);
+    ASSERT_TRUE(Eventually([&] { return Status() == "Saving..."; }));
+  }
+};
 
 TEST_F(EndingAtWork, ASearchEndsWithTheSessionWithoutAMessageAndTheFirstFolderIsKept) {
   constexpr int folders = 60;
@@ -206,23 +296,31 @@ TEST_F(EndingAtWork, ASearchEndsWithTheSessionWithoutAMessageAndTheFirstFolderIs
 }
 
 TEST_F(EndingAtWork, ABatchThatWritesRefusesTheEndOfTheSessionAndIsWritten) {
-  constexpr int many = 2000;
-  CopyTwoThousandIcons(In("many.dll"));
-  tree_.MakeFolder(outName);
-  Start();
-  Tick({Dll});
-  SetLimit(std::to_string(many));
-  Find();
-  ASSERT_EQ(List().RowCount(), many);
-  KeepAsFound();
-  ChooseOut(FrmFindIcon_mnuSaveAll);
-  ASSERT_TRUE(Eventually([&] { return Status() == "Saving..."; }));
+  StartToSaveMany();
   EXPECT_EQ(program_.Window().Send(WM_QUERYENDSESSION), FALSE);
   EXPECT_EQ(Status(), "Saving...") << "the batch was over before it was asked";
   program_.Window().Send(WM_ENDSESSION, FALSE);
   ASSERT_TRUE(Eventually([&] { return Status() != "Saving..."; }));
   EXPECT_EQ(SavedNames().size(), static_cast<std::size_t>(many));
   EXPECT_EQ(program_.Window().Send(WM_QUERYENDSESSION), TRUE);
+}
+
+// The system need not follow the refusal.
+TEST_F(EndingAtWork, ABatchThatIsEndedAllTheSameLeavesWholeFiles) {
+  StartToSaveMany();
+  ASSERT_TRUE(Eventually([&] { return SavedNames().size() >= 20; }));
+  program_.Suspend();
+  const std::size_t saved = SavedNames().size();
+  program_.Window().Post(WM_ENDSESSION, TRUE);
+  program_.Resume();
+  EXPECT_LT(saved, static_cast<std::size_t>(many)) << "the batch was over before it could be ended";
+  EXPECT_EQ(program_.WaitForEnd(), 0U);
+  const std::size_t size = support::ReadAll(Out("Icon 1.ico")).size();
+  for (const std::string& name : SavedNames()) {
+    EXPECT_THAT(name, ::testing::EndsWith(".ico"));
+    EXPECT_EQ(support::ReadAll(Out(name)).size(), size) << name;
+  }
+  EXPECT_EQ(ReadSetting("Folder"), tree_.Path());
 }
 
 }  // namespace
