@@ -1,8 +1,10 @@
-// Saving over everything that can exist at a file's name, in each of the five formats.
+// Saving over everything that can exist at a file's name, in each of the five formats: many icons into a folder, and
+// one by its name.
 
 #include <gmock/gmock.h>
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "end_to_end/SavingTest.h"
@@ -13,9 +15,20 @@ namespace {
 
 using support::SaveTargets;
 
-class SaveOver : public Saving {
+struct Format {
+  std::string name;
+  int batchCommand;
+  int command;  // that saves one icon
+  ImageType type;
+  std::string prefix;
+  std::string extension;
+  std::string start;  // of each file
+  ReadOnlyFile readOnly;
+  friend void PrintTo(const Format& format, std::ostream* out) { *out << format.name; }
+};
+
+class SaveOver : public Saving, public ::testing::WithParamInterface<Format> {
  protected:
-  // As many icons as there are targets.
   void SetUp() override {
     const std::array icon{support::BitmapPicture(32, 4, 0x0000FF, 0xFF0000)};
     for (int number = 1; number <= SaveTargets::Count(); ++number)
@@ -26,59 +39,71 @@ class SaveOver : public Saving {
     KeepAsFound();
   }
 
-  struct Format {
-    int command;
-    ImageType type;
-    std::string prefix;
-    std::string extension;
-    std::string start;  // of each file
-    ReadOnlyFile readOnly;
-  };
-
-  // Saves all icons over the targets and expects a message for each target that cannot be replaced or written.
-  void SaveOverTargets(const Format& format) {
-    SCOPED_TRACE(format.extension);
-    const auto nameOf = [&](int number) { return format.prefix + std::to_string(number) + format.extension; };
-    SaveTargets targets(tree_.MakeFolder(outName + format.extension), tree_.MakeFolder("elsewhere" + format.extension),
-                        nameOf);
-    const FolderChooser chooser = AskForFolder(format.command);
-    chooser.Open(outName + format.extension);
-    if (format.type != Bmp) chooser.ChooseType(format.type);
-    chooser.Ok();
-    if (format.type == Jpg) AcceptJpegOptions();
-    if (format.type == Gif) AcceptGifOptions();
-    Names expected;
-    for (int number = 1; number <= SaveTargets::Count(); ++number) {
-      if (SaveTargets::TakesAFile(number, format.readOnly)) continue;
-      expected.push_back(format.command == FrmFindIcon_mnuSaveAll    ? "Unable to save the file " + targets.Path(number)
-                         : format.command == FrmFindIcon_mnuSaveAll3 ? cursorFailed
-                                                                     : imageFailed);
-    }
-    EXPECT_EQ(ReadMessages(static_cast<int>(expected.size())), expected);
-    ExpectAsFound();
-    targets.ExpectSaved(format.start, format.readOnly);
+  // As many targets as there are icons.
+  SaveTargets MakeTargets() const {
+    return {tree_.MakeFolder(outName), tree_.MakeFolder("elsewhere"),
+            [](int number) { return GetParam().prefix + std::to_string(number) + GetParam().extension; }};
+  }
+  void AcceptOptions() const {
+    if (GetParam().type == Jpg) AcceptJpegOptions();
+    if (GetParam().type == Gif) AcceptGifOptions();
+  }
+  static std::string Failure(const std::string& path) {
+    if (GetParam().command == FrmFindIcon_mnuSaveAs) return "Unable to save the file " + path;
+    return GetParam().command == FrmFindIcon_MnuSaveAsCursor ? cursorFailed : imageFailed;
+  }
+  // Enters a path in the file dialog, and agrees if the dialog asks whether to replace the file.
+  void SaveByName(const std::string& path) const {
+    const SaveDialog dialog = AskForName(GetParam().command);
+    dialog.Save(path);
+    std::optional<Box> question;
+    ASSERT_TRUE(Eventually([&] { return !dialog.IsOpen() || (question = program_.FindBox()).has_value(); })) << path;
+    if (question && dialog.IsOpen()) question->Press(IDYES);
+    dialog.WaitForEnd();
   }
 };
 
-TEST_F(SaveOver, IconsReplaceTheTargetItselfOrLeaveItAsItIs) {
-  SaveOverTargets({FrmFindIcon_mnuSaveAll, Bmp, "Icon ", ".ico", std::string("\0\0\1\0", 4), ReadOnlyFile::Refused});
+TEST_P(SaveOver, ABatchReplacesTheTargetItselfOrLeavesItAsItIs) {
+  SaveTargets targets = MakeTargets();
+  ChooseOut(GetParam().batchCommand, GetParam().type);
+  AcceptOptions();
+  Names expected;
+  for (int number = 1; number <= SaveTargets::Count(); ++number) {
+    if (!SaveTargets::TakesAFile(number, GetParam().readOnly)) expected.push_back(Failure(targets.Path(number)));
+  }
+  EXPECT_EQ(ReadMessages(static_cast<int>(expected.size())), expected);
+  ExpectAsFound();
+  targets.ExpectSaved(GetParam().start, GetParam().readOnly);
 }
 
-TEST_F(SaveOver, CursorsReplaceTheTargetItselfOrLeaveItAsItIs) {
-  SaveOverTargets({FrmFindIcon_mnuSaveAll3, Bmp, "Curor ", ".cur", std::string("\0\0\2\0", 4), ReadOnlyFile::Refused});
+// The file dialog opens a folder instead of returning its name.
+TEST_P(SaveOver, OneIconReplacesTheTargetItselfOrLeavesItAsItIs) {
+  SaveTargets targets = MakeTargets();
+  for (int number = 1; number <= SaveTargets::Count() && !HasFailure(); ++number) {
+    if (SaveTargets::IsFolder(number)) continue;
+    SCOPED_TRACE(SaveTargets::What(number));
+    SaveByName(targets.Path(number));
+    AcceptOptions();
+    if (!SaveTargets::TakesAFile(number, GetParam().readOnly)) {
+      EXPECT_EQ(ReadMessages(1), Names{Failure(targets.Path(number))});
+    }
+    ExpectAsFound();
+  }
+  targets.ExpectSaved(GetParam().start, GetParam().readOnly);
 }
 
-TEST_F(SaveOver, BitmapsReplaceTheTargetItselfOrLeaveItAsItIs) {
-  SaveOverTargets({FrmFindIcon_mnuSaveAll2, Bmp, "Images ", ".bmp", "BM", ReadOnlyFile::Refused});
-}
-
-TEST_F(SaveOver, JpegsReplaceTheTargetItselfOrLeaveItAsItIs) {
-  SaveOverTargets({FrmFindIcon_mnuSaveAll2, Jpg, "Images ", ".jpg", "\xFF\xD8", ReadOnlyFile::Replaced});
-}
-
-TEST_F(SaveOver, GifsReplaceTheTargetItselfOrLeaveItAsItIs) {
-  SaveOverTargets({FrmFindIcon_mnuSaveAll2, Gif, "Images ", ".gif", "GIF8", ReadOnlyFile::Replaced});
-}
+INSTANTIATE_TEST_SUITE_P(EachFormat, SaveOver,
+                         ::testing::Values(Format{"Icons", FrmFindIcon_mnuSaveAll, FrmFindIcon_mnuSaveAs, Bmp, "Icon ",
+                                                  ".ico", std::string("\0\0\1\0", 4), ReadOnlyFile::Refused},
+                                           Format{"Cursors", FrmFindIcon_mnuSaveAll3, FrmFindIcon_MnuSaveAsCursor, Bmp,
+                                                  "Curor ", ".cur", std::string("\0\0\2\0", 4), ReadOnlyFile::Refused},
+                                           Format{"Bitmaps", FrmFindIcon_mnuSaveAll2, FrmFindIcon_MnuSaveAsBitmap, Bmp,
+                                                  "Images ", ".bmp", "BM", ReadOnlyFile::Refused},
+                                           Format{"Jpegs", FrmFindIcon_mnuSaveAll2, FrmFindIcon_MnuSaveAsBitmap, Jpg,
+                                                  "Images ", ".jpg", "\xFF\xD8", ReadOnlyFile::Replaced},
+                                           Format{"Gifs", FrmFindIcon_mnuSaveAll2, FrmFindIcon_MnuSaveAsBitmap, Gif,
+                                                  "Images ", ".gif", "GIF8", ReadOnlyFile::Replaced}),
+                         [](const auto& row) { return row.param.name; });
 
 }  // namespace
 }  // namespace tarvik::end_to_end

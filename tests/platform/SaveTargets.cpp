@@ -18,7 +18,7 @@ namespace {
 using end_to_end::RunUnix;
 using end_to_end::UnixQuoted;
 
-enum class Kind { Free, File, Link, LinkToNothing, SecondName, Folder, Pipe };
+enum class Kind { Free, File, Link, LinkToNothing, LinkToItself, LinkToFolder, LinkToPipe, SecondName, Folder, Pipe };
 
 constexpr DWORD notHeld = ~DWORD{0};
 constexpr DWORD readable = FILE_SHARE_READ;
@@ -32,6 +32,7 @@ struct Row {
   DWORD heldWith;  // the sharing mode of another program that has it open
   bool takes;      // whether a format that refuses read-only files replaces it
   bool takesOverReadOnly;
+  DWORD heldTo = GENERIC_READ;  // what the other program does with it
 };
 
 // Under Wine a link has the attributes of its target, so a link to a read-only file is read-only.
@@ -42,6 +43,9 @@ constexpr std::array rows{
     Row{"a link to a file", Kind::Link, false, notHeld, true, true},
     Row{"a link to a read-only file", Kind::Link, true, notHeld, false, true},
     Row{"a link to nothing", Kind::LinkToNothing, false, notHeld, true, true},
+    Row{"a link to itself", Kind::LinkToItself, false, notHeld, true, true},
+    Row{"a link to a folder", Kind::LinkToFolder, false, notHeld, false, false},
+    Row{"a link to a pipe", Kind::LinkToPipe, false, notHeld, false, false},
     Row{"a second name of a file", Kind::SecondName, false, notHeld, true, true},
     Row{"a folder", Kind::Folder, false, notHeld, false, false},
     Row{"a pipe", Kind::Pipe, false, notHeld, false, false},
@@ -54,6 +58,8 @@ constexpr std::array rows{
     Row{"a file held, to be written and removed", Kind::File, false, writable | removable, true, true},
     Row{"a file held, for all", Kind::File, false, readable | writable | removable, true, true},
     Row{"a read-only file held, to be read and removed", Kind::File, true, readable | removable, false, false},
+    Row{"a file that another program writes, for all", Kind::File, false, readable | writable | removable, true, true,
+        GENERIC_READ | GENERIC_WRITE},
     Row{"a link to a file held, to be read and written", Kind::Link, false, readable | writable, false, false},
 };
 
@@ -65,6 +71,14 @@ void WriteKept(const std::string& path) {
   const FileHandle file(CreateFileW(LiteralPath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
   DWORD written = 0;
   EXPECT_NE(WriteFile(file.get(), "kept", 4, &written, nullptr), 0) << path;
+}
+
+bool LeadsElsewhere(Kind kind) {
+  return kind == Kind::Link || kind == Kind::LinkToFolder || kind == Kind::LinkToPipe || kind == Kind::SecondName;
+}
+
+bool IsKeptFolder(Kind kind) {
+  return kind == Kind::Folder || kind == Kind::LinkToFolder;
 }
 
 void Run(const std::string& command) {
@@ -101,6 +115,10 @@ std::string SaveTargets::What(int number) {
   return RowOf(number).what;
 }
 
+bool SaveTargets::IsFolder(int number) {
+  return IsKeptFolder(RowOf(number).kind);
+}
+
 bool SaveTargets::TakesAFile(int number, ReadOnlyFile readOnly) {
   return readOnly == ReadOnlyFile::Replaced ? RowOf(number).takesOverReadOnly : RowOf(number).takes;
 }
@@ -121,33 +139,52 @@ SaveTargets::~SaveTargets() {
 }
 
 std::string SaveTargets::Path(int number) const {
-  return JoinPath(folder_, names_.at(static_cast<std::size_t>(number) - 1));
+  return JoinPath(folder_, Name(number));
 }
 
-// The file that must be kept: the target itself, or the target of a link or of a second name.
+// What must be kept: the target itself, or the target of a link or of a second name.
 std::string SaveTargets::Kept(int number) const {
-  const Kind kind = RowOf(number).kind;
-  return kind == Kind::Link || kind == Kind::SecondName ? JoinPath(elsewhere_, std::to_string(number)) : Path(number);
+  return LeadsElsewhere(RowOf(number).kind) ? JoinPath(elsewhere_, std::to_string(number)) : Path(number);
+}
+
+// The file with the text "kept".
+std::string SaveTargets::KeptFile(int number) const {
+  return IsKeptFolder(RowOf(number).kind) ? JoinPath(Kept(number), "inside") : Kept(number);
+}
+
+std::string SaveTargets::Name(int number) const {
+  return names_.at(static_cast<std::size_t>(number) - 1);
+}
+
+// A target, and what must be kept, in the form of the host system's shell.
+std::string SaveTargets::UnixTarget(int number) const {
+  return Quoted(folder_) + "/'" + Name(number) + '\'';
+}
+std::string SaveTargets::UnixKept(int number) const {
+  return LeadsElsewhere(RowOf(number).kind) ? Quoted(elsewhere_) + '/' + std::to_string(number) : UnixTarget(number);
 }
 
 void SaveTargets::Make(int number) {
   const Row& row = RowOf(number);
   const std::string path = Path(number);
   const std::string kept = Kept(number);
-  if (row.kind == Kind::File || kept != path) WriteKept(kept);
-  if (row.kind == Kind::Link) Run("ln -s " + Quoted(kept) + ' ' + Quoted(folder_) + "/'" + names_.back() + '\'');
-  if (row.kind == Kind::LinkToNothing) Run("ln -s nothing " + Quoted(folder_) + "/'" + names_.back() + '\'');
-  if (row.kind == Kind::Pipe) Run("mkfifo " + Quoted(folder_) + "/'" + names_.back() + '\'');
+  if (IsKeptFolder(row.kind)) {
+    EXPECT_NE(CreateDirectoryW(LiteralPath(kept).c_str(), nullptr), 0);
+    WriteKept(KeptFile(number));
+  }
+  if (row.kind == Kind::File || row.kind == Kind::Link || row.kind == Kind::SecondName) WriteKept(kept);
+  if (row.kind == Kind::Pipe || row.kind == Kind::LinkToPipe) Run("mkfifo " + UnixKept(number));
+  if (row.kind == Kind::LinkToNothing) Run("ln -s nothing " + UnixTarget(number));
+  if (row.kind == Kind::LinkToItself) Run("ln -s '" + Name(number) + "' " + UnixTarget(number));
+  if (LeadsElsewhere(row.kind) && row.kind != Kind::SecondName)
+    Run("ln -s " + UnixKept(number) + ' ' + UnixTarget(number));
   if (row.kind == Kind::SecondName) {
     EXPECT_NE(CreateHardLinkW(LiteralPath(path).c_str(), LiteralPath(kept).c_str(), nullptr), 0);
-  }
-  if (row.kind == Kind::Folder) {
-    EXPECT_NE(CreateDirectoryW(LiteralPath(path).c_str(), nullptr), 0);
   }
   if (row.readOnly) AddAttributes(kept, FILE_ATTRIBUTE_READONLY);
   if (row.heldWith == notHeld) return;
   holders_.emplace_back(
-      CreateFileW(LiteralPath(kept).c_str(), GENERIC_READ, row.heldWith, nullptr, OPEN_EXISTING, 0, nullptr));
+      CreateFileW(LiteralPath(kept).c_str(), row.heldTo, row.heldWith, nullptr, OPEN_EXISTING, 0, nullptr));
   EXPECT_TRUE(holders_.back()) << row.what;
 }
 
@@ -160,15 +197,15 @@ void SaveTargets::ExpectSaved(const std::string& start, ReadOnlyFile readOnly) {
       EXPECT_THAT(ReadAll(path), ::testing::StartsWith(start)) << row.what;
       EXPECT_EQ(AttributesOf(path) & FILE_ATTRIBUTE_READONLY, 0U) << row.what;
     }
-    if (row.kind == Kind::Folder) {
-      EXPECT_NE(AttributesOf(path) & FILE_ATTRIBUTE_DIRECTORY, 0U);
+    if (row.kind == Kind::LinkToFolder || row.kind == Kind::LinkToPipe) Run("test -h " + UnixTarget(number));
+    if (row.kind == Kind::Pipe || row.kind == Kind::LinkToPipe) {
+      Run("test -p " + UnixKept(number));
+      continue;
     }
-    if (row.kind == Kind::Pipe)
-      Run("test -p " + Quoted(folder_) + "/'" + names_.at(static_cast<std::size_t>(number) - 1) + '\'');
-    const bool stays = row.kind == Kind::Link || row.kind == Kind::SecondName ||
-                       (row.kind == Kind::File && !TakesAFile(number, readOnly));
+    const bool stays =
+        LeadsElsewhere(row.kind) || IsKeptFolder(row.kind) || (row.kind == Kind::File && !TakesAFile(number, readOnly));
     if (!stays) continue;
-    EXPECT_EQ(ReadAll(Kept(number)), "kept") << row.what;
+    EXPECT_EQ(ReadAll(KeptFile(number)), "kept") << row.what;
     EXPECT_EQ((AttributesOf(Kept(number)) & FILE_ATTRIBUTE_READONLY) != 0, row.readOnly) << row.what;
   }
   EXPECT_THAT(NamesIn(folder_), ::testing::UnorderedElementsAreArray(names_));

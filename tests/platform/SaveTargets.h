@@ -23,8 +23,11 @@ class SaveTargets : NonCopyable {
   // How many there are in every SaveTargets.
   static int Count();
   std::string Path(int number) const;
+  std::string Name(int number) const;
   // A description for messages: "a link to a read-only file".
   static std::string What(int number);
+  // Whether it is a folder or a link to one.
+  static bool IsFolder(int number);
   // Whether a file can be saved there.
   static bool TakesAFile(int number, ReadOnlyFile readOnly);
 
@@ -35,6 +38,9 @@ class SaveTargets : NonCopyable {
  private:
   void Make(int number);
   std::string Kept(int number) const;
+  std::string KeptFile(int number) const;
+  std::string UnixTarget(int number) const;
+  std::string UnixKept(int number) const;
 
   std::string folder_;
   std::string elsewhere_;
