@@ -1,14 +1,13 @@
-// Saves to a full disk. The disk's path is in the environment, set by the script that mounted it.
+// Saves to a full disk.
 
 #include <gmock/gmock.h>
 #include <windows.h>
 
-#include <algorithm>
-#include <cstdlib>
 #include <string>
 
 #include "driver/SeenFiles.h"
 #include "end_to_end/SavingTest.h"
+#include "full_disk/Disk.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
@@ -17,14 +16,6 @@ namespace {
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-std::string DiskPath() {
-  const char* const path = std::getenv("TARVIK_TEST_DISK");
-  if (path == nullptr) throw std::runtime_error("there is no disk to test on");
-  std::string windowsPath = std::string("Z:") + path;
-  std::ranges::replace(windowsPath, '/', '\\');
-  return windowsPath;
-}
 
 class FullDisk : public Saving {
  protected:
@@ -72,7 +63,7 @@ class FullDisk : public Saving {
     for (const std::string& name : SavedOnDisk()) DeleteFileW(ToWide("R:\\" + name).c_str());
   }
 
-  const std::string path_ = DiskPath();
+  const std::string path_ = MountedDisk("TARVIK_FULL_DISK");
   const ExtraDrive drive_{path_, "full"};
   int fillers_ = 0;
 };
