@@ -7,11 +7,13 @@
 #include <string>
 
 #include "support/BytesInMemory.h"
+#include "support/LongFile.h"
 
 namespace tarvik {
 namespace {
 
 using support::BytesInMemory;
+using support::LongFile;
 
 // Reads beyond the end of the file are allowed: its chunks may claim more data than there is.
 BytesInMemory FileOf(const std::string& bytes) {
@@ -199,29 +201,6 @@ TEST(InspectAnimation, KnowsAStillCursorByItsStart) {
   EXPECT_FALSE(IsStillCursor(""));
 }
 
-// A file of any size that needs no memory: zeros, except for its start.
-class LongFile : public ByteSource {
- public:
-  LongFile(std::uint64_t size, std::string start) : size_(size), start_(std::move(start)) {}
-
-  FileStamp Stamp() override { return {.size = size_}; }
-  bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
-    if (offset > size_ || bytes.size() > size_ - offset) return false;
-    bytesRead += bytes.size();
-    std::ranges::fill(bytes, std::byte{0});
-    if (offset >= start_.size()) return true;
-    const auto count = std::min<std::uint64_t>(start_.size() - offset, bytes.size());
-    std::copy_n(reinterpret_cast<const std::byte*>(start_.data()) + offset, count, bytes.begin());
-    return true;
-  }
-
-  std::uint64_t bytesRead = 0;
-
- private:
-  std::uint64_t size_;
-  std::string start_;
-};
-
 constexpr std::uint64_t fiveGigabytes = std::uint64_t{5} << 30U;
 
 // Each run of eight zeros is a chunk without data. A file of 512 MB once took a search 14 seconds, and with one of 5 GB
@@ -266,6 +245,28 @@ TEST(InspectAnimation, ReadsSoManyBytesAndNoMore) {
   EXPECT_FALSE(InspectAnimation(file).holdsWhatItSays);
   EXPECT_LE(file.bytesRead, maxAnimationBytes);
   EXPECT_GT(file.bytesRead, maxAnimationBytes - 8192) << "the chunks are not as far apart as meant";
+}
+
+// Lists inside lists are chunks like others: nothing is entered twice.
+TEST(InspectAnimation, ReadsNestedListsOnceHoweverDeepTheyAre) {
+  constexpr std::uint32_t depth = 20'000;
+  std::string lists;
+  for (std::uint32_t left = depth; left > 0; --left) lists += "LIST" + Number(12 * left - 8) + "fram";
+  BytesInMemory file = FileOf(Animation(Header(1, 1) + lists));
+  EXPECT_FALSE(InspectAnimation(file).holdsWhatItSays) << "there is no picture";
+  EXPECT_LE(file.bytesRead, lists.size() + 2 * 4096);
+}
+
+TEST(InspectAnimation, ReadsNoMoreOfEightMillionChunksThanItMayLookAt) {
+  constexpr std::size_t chunks = 8'000'000;
+  std::string many;
+  many.reserve(8 * chunks);
+  for (std::size_t i = 0; i < chunks; ++i) many.append("junk\0\0\0\0", 8);
+  BytesInMemory file = FileOf(Animation(Header(1, 1) + many + Pictures(1)));
+  const AnimationFacts facts = InspectAnimation(file);
+  EXPECT_EQ(facts.maxSteps, 0) << "nobody looked as far as the picture";
+  EXPECT_FALSE(facts.holdsWhatItSays);
+  EXPECT_LE(file.bytesRead, maxAnimationChunks * 8U + 4096);
 }
 
 TEST(InspectAnimation, BelievesAnAnimationWithALongTailBehindItsStatedSize) {

@@ -2,17 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "search/icons/Modules.h"
 #include "support/BytesInMemory.h"
+#include "support/LongFile.h"
 
 namespace tarvik {
 namespace {
 
 using support::BytesInMemory;
+using support::LongFile;
 using support::MakeModule;
 using support::ModuleIcon;
 using support::ModuleLayout;
@@ -319,6 +322,28 @@ TEST(NewExecutable, ReadsNoMoreOfAPictureThanAnyHas) {
   file.bytesRead = 0;
   EXPECT_EQ(executable.Picture(file, 0, {}).size(), maxPictureBytes);
   EXPECT_EQ(file.bytesRead, 6 + 20 + maxPictureBytes);
+}
+
+TEST(NewExecutable, ReadsAsLittleOfAFileOfGigabytes) {
+  constexpr std::uint64_t fiveGigabytes = std::uint64_t{5} << 30U;
+  const Bytes module = MakeModule(PlainIcons(20));
+  const auto longFile = [](const Bytes& bytes) {
+    return LongFile(fiveGigabytes, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+  };
+  LongFile intact = longFile(module);
+  EXPECT_EQ(NewExecutable(intact, fiveGigabytes).IconCount(), 20);
+  EXPECT_LT(intact.bytesRead, module.size());
+
+  // A table that claims 65,535 groups and goes on as far as a table can.
+  const std::size_t groups = FirstGroup(20) - 8;
+  LongFile endless = longFile(With(With(module, groups + 2, 0xFFFF), header + 0x26, 0xFFFF));
+  const NewExecutable executable(endless, fiveGigabytes);
+  EXPECT_GT(executable.IconCount(), 5000) << "the zeros behind the table are taken for groups";
+  EXPECT_LE(executable.IconCount(), 65'535 / 12);
+  EXPECT_LE(endless.bytesRead, 512U + 65'535U);
+  endless.bytesRead = 0;
+  EXPECT_TRUE(executable.Picture(endless, executable.IconCount() - 1, {}).empty());
+  EXPECT_LE(endless.bytesRead, 12U);
 }
 
 TEST(NewExecutable, HasNoIconsWhereTheFileCannotBeRead) {

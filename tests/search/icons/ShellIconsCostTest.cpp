@@ -22,7 +22,9 @@
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
 #include "search/icons/FileBytes.h"
+#include "search/icons/Modules.h"
 #include "search/icons/ShellIcons.h"
+#include "search/icons/ShellWithoutModules.h"
 
 namespace tarvik {
 namespace {
@@ -132,6 +134,28 @@ TEST(ShellIcons, ReadsLittleOfALargeAnimationAndThatOnce) {
       icons.Extract(large, 0);
     }
     EXPECT_LE(bytesRead, 2 * megabyte) << size;
+  }
+}
+
+// The program's own reader, as with the shell of current Windows.
+TEST(ShellIcons, ReadsLittleOfALargeModule) {
+  const TemporaryFolder folder;
+  std::uint64_t bytesRead = 0;
+  ShellIcons icons([&](const std::string& path) { return std::make_unique<CountedBytes>(path, bytesRead); },
+                   support::ShellWithoutModules);
+  const support::ModuleBytes module = support::MakeModule(support::PlainIcons(20));
+  for (const char* name : {"a.icl", "a.exe", "a.dll", "a.ocx"}) {
+    const std::string path = folder.MakeSparseFile(name, module, 5 * 1024 * megabyte);
+    bytesRead = 0;
+    const int handles = support::HeldBy(GetCurrentProcess()).kernelHandles;
+    // As often as a search reads the file.
+    for (int look = 0; look < 3; ++look) {
+      EXPECT_EQ(icons.CountIcons(path), 20) << name;
+      EXPECT_NE(icons.Extract(path, 19), nullptr) << name;
+      EXPECT_EQ(icons.ExtractGroup(path, 0, 20).size(), 20U) << name;
+    }
+    EXPECT_LE(bytesRead, megabyte / 8) << name;
+    EXPECT_EQ(support::HeldBy(GetCurrentProcess()).kernelHandles, handles) << name;
   }
 }
 
