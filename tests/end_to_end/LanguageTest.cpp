@@ -1,9 +1,13 @@
 // The interface in three languages, and with a language in the registry that it does not support.
 
+#include <windows.h>
+
 #include <gmock/gmock.h>
 
 #include "end_to_end/EndToEndTest.h"
 #include "platform/IconFiles.h"
+#include "platform/Text.h"
+#include "startup/RegistryLanguageStore.h"
 
 namespace tarvik::end_to_end {
 namespace {
@@ -86,6 +90,35 @@ INSTANTIATE_TEST_SUITE_P(Values, Language,
                                            LanguageRow{"Chinese", &design}, LanguageRow{"中文", &design},
                                            // The value exists, and so does its terminating zero.
                                            LanguageRow{"", &design}));
+
+class LanguageValues : public EndToEnd {};
+
+TEST_F(LanguageValues, OfOtherKindsThanATextLeaveTheProgramUsable) {
+  const LanguageValue language("CHS");
+  const std::string huge(std::size_t{1} << 20U, 'C');
+  const struct {
+    DWORD kind;
+    std::string bytes;
+    const Texts* texts;
+  } rows[] = {{REG_DWORD, std::string("\1\0\0\0", 4), &design},
+              {REG_BINARY, "CHT", &traditional},
+              {REG_MULTI_SZ, std::string("C\0H\0S\0\0\0\0\0", 10), &simplified},
+              {REG_EXPAND_SZ, std::string("C\0H\0S\0", 6), &simplified},
+              {REG_SZ, huge, &english}};
+  tree_.MakeFile("a.ico", IconFileOf(0xFF));
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.kind);
+    ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, ToWide(registryLanguageKey).c_str(), L"Language", row.kind,
+                              row.bytes.data(), static_cast<DWORD>(row.bytes.size())),
+              ERROR_SUCCESS);
+    Start();
+    EXPECT_EQ(Caption(), row.texts->caption);
+    EXPECT_EQ(TextOf(FrmFindIcon_CmdFind), row.texts->CmdFind);
+    Find();
+    EXPECT_EQ(List().RowCount(), 1);
+    EXPECT_EQ(program_.Close(), 0U);
+  }
+}
 
 class SearchTexts : public EndToEnd {
  protected:
