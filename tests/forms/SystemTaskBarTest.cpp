@@ -2,28 +2,131 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
+#include "base/NonCopyable.h"
+#include "platform/ComUse.h"
+
 namespace tarvik {
 namespace {
 
-// The system's own object. Its display is outside this program, and Wine's displays nothing.
-TEST(SystemTaskBar, TakesEveryStateOfAWindow) {
-  const HWND window = CreateWindowExW(0, L"Static", L"progress", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100,
-                                      nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
-  ASSERT_NE(window, nullptr);
+// A task bar that the system makes instead of its own, because this process registered it: it logs each call.
+class NotedList final : public ITaskbarList3, NonCopyable {
+ public:
+  virtual ~NotedList() = default;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+    const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_ITaskbarList3);
+    *object = known ? this : nullptr;
+    if (!known) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+  ULONG STDMETHODCALLTYPE Release() override { return --references; }
+
+  HRESULT STDMETHODCALLTYPE HrInit() override {
+    diary += "begun|";
+    return initResult;
+  }
+  HRESULT STDMETHODCALLTYPE SetProgressValue(HWND window, ULONGLONG done, ULONGLONG total) override {
+    diary += std::to_string(done) + " of " + std::to_string(total) + NameOf(window);
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE SetProgressState(HWND window, TBPFLAG state) override {
+    diary += "state " + std::to_string(state) + NameOf(window);
+    return S_OK;
+  }
+
+  // What the program does not use.
+  HRESULT STDMETHODCALLTYPE AddTab(HWND) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE DeleteTab(HWND) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE ActivateTab(HWND) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE SetActiveAlt(HWND) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE MarkFullscreenWindow(HWND, WINBOOL) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE RegisterTab(HWND, HWND) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE UnregisterTab(HWND) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE SetTabOrder(HWND, HWND) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE SetTabActive(HWND, HWND, DWORD) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE ThumbBarAddButtons(HWND, UINT, LPTHUMBBUTTON) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE ThumbBarUpdateButtons(HWND, UINT, LPTHUMBBUTTON) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE ThumbBarSetImageList(HWND, HIMAGELIST) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE SetOverlayIcon(HWND, HICON, LPCWSTR) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE SetThumbnailTooltip(HWND, LPCWSTR) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE SetThumbnailClip(HWND, RECT*) override { return Unexpected(); }
+
+  std::string diary;
+  ULONG references = 0;
+  HRESULT initResult = S_OK;
+
+ private:
+  static std::string NameOf(HWND window) { return " of " + std::to_string(reinterpret_cast<INT_PTR>(window)) + '|'; }
+  HRESULT Unexpected() {
+    diary += "unexpected|";
+    return S_OK;
+  }
+};
+
+// Gives out that list while it lives.
+class ListFactory final : public IClassFactory, NonCopyable {
+ public:
+  explicit ListFactory(NotedList& list) : list_(list) {
+    EXPECT_EQ(CoRegisterClassObject(CLSID_TaskbarList, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &number_), S_OK);
+  }
+  virtual ~ListFactory() { CoRevokeClassObject(number_); }
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+    const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IClassFactory);
+    *object = known ? this : nullptr;
+    return known ? S_OK : E_NOINTERFACE;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
+  ULONG STDMETHODCALLTYPE Release() override { return 1; }
+  HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID id, void** object) override {
+    return list_.QueryInterface(id, object);
+  }
+  HRESULT STDMETHODCALLTYPE LockServer(WINBOOL) override { return S_OK; }
+
+ private:
+  NotedList& list_;
+  DWORD number_ = 0;
+};
+
+class SystemTaskBarTest : public ::testing::Test {
+ protected:
+  ComUse use_;
+  NotedList list_;
+  ListFactory factory_{list_};
+  HWND window_ = reinterpret_cast<HWND>(INT_PTR{77});
+};
+
+TEST_F(SystemTaskBarTest, PassesOnStateAndShareOfAWindow) {
   {
     SystemTaskBar bar;
-    EXPECT_TRUE(bar.IsThere());
-    bar.SetState(window, TaskBar::State::Indeterminate);
-    bar.SetState(window, TaskBar::State::Normal);
-    bar.SetShare(window, 1, 2);
-    bar.SetState(window, TaskBar::State::Error);
-    bar.SetState(window, TaskBar::State::None);
+    EXPECT_EQ(list_.diary, "") << "it is made with the first use";
+    bar.SetState(window_, TaskBar::State::Indeterminate);
+    bar.SetState(window_, TaskBar::State::Normal);
+    bar.SetShare(window_, 1, 2);
+    bar.SetState(window_, TaskBar::State::Error);
+    bar.SetState(window_, TaskBar::State::None);
+    EXPECT_EQ(list_.references, 1U);
   }
-  EXPECT_NE(IsWindow(window), FALSE);
-  DestroyWindow(window);
+  EXPECT_EQ(list_.diary, "begun|state 1 of 77|state 2 of 77|1 of 2 of 77|state 4 of 77|state 0 of 77|");
+  EXPECT_EQ(list_.references, 0U) << "it is released";
 }
 
-TEST(SystemTaskBar, MindsNoWindowThatIsGone) {
+TEST_F(SystemTaskBarTest, IsAskedOnceAndLeftAloneIfItCannotBegin) {
+  list_.initResult = E_FAIL;
+  SystemTaskBar bar;
+  bar.SetState(window_, TaskBar::State::Normal);
+  bar.SetShare(window_, 1, 2);
+  EXPECT_FALSE(bar.IsThere());
+  EXPECT_EQ(list_.diary, "begun|");
+  EXPECT_EQ(list_.references, 0U);
+}
+
+// The system's own object. Its display is outside this program, and Wine's displays nothing.
+TEST(SystemTaskBar, IsThereAndMindsNoWindowThatIsGone) {
   SystemTaskBar bar;
   bar.SetState(nullptr, TaskBar::State::Normal);
   bar.SetShare(nullptr, 1, 1);
