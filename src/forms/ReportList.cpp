@@ -127,9 +127,14 @@ void ReportList::Refresh() {
 void ReportList::SetSelection(const std::function<bool(int row)>& isSelected) {
   settingSelection_ = true;
   const int rows = ListView_GetItemCount(window_);
+  // Asking for the next selected row takes one message for each of these, not one for each row. Under Wine every
+  // message to a subclassed control costs several server calls.
+  int shown = ListView_GetNextItem(window_, -1, LVNI_SELECTED);
   for (int row = 0; row < rows; ++row) {
+    const bool wasSelected = row == shown;
+    if (wasSelected) shown = ListView_GetNextItem(window_, row, LVNI_SELECTED);
     const bool selected = isSelected(row);
-    if (selected == (ListView_GetItemState(window_, row, LVIS_SELECTED) != 0)) continue;
+    if (selected == wasSelected) continue;
     ListView_SetItemState(window_, row, selected ? static_cast<UINT>(LVIS_SELECTED) : 0U, LVIS_SELECTED);
   }
   settingSelection_ = false;

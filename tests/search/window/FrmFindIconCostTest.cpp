@@ -1,4 +1,4 @@
-// The calls that a search makes to the main window's controls for each folder.
+// The calls to the main window's controls that a search makes for each folder, and a click for each row.
 
 #include <windows.h>
 
@@ -14,11 +14,23 @@
 namespace tarvik {
 namespace {
 
-// Counts the calls that change a scroll bar or move a window.
+// Changes a scroll bar or moves a window.
+bool IsChange(UINT message) {
+  return message == SBM_SETSCROLLINFO || message == SBM_SETPOS || message == WM_WINDOWPOSCHANGING;
+}
+
+// Asks a list view, or changes it.
+bool IsOfListView(UINT message) {
+  return message >= LVM_FIRST && message < LVM_FIRST + 0x100;
+}
+
+// Counts such messages to a window.
 class ChangeCounter : NonCopyable {
  public:
-  explicit ChangeCounter(HWND window) : window_(window) {
-    SetWindowSubclass(window_, Procedure, 0, reinterpret_cast<DWORD_PTR>(&count_));
+  using Counts = bool (*)(UINT message);
+
+  explicit ChangeCounter(HWND window, Counts counts = IsChange) : window_(window), counts_(counts) {
+    SetWindowSubclass(window_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
   }
   ~ChangeCounter() { RemoveWindowSubclass(window_, Procedure, 0); }
 
@@ -26,13 +38,14 @@ class ChangeCounter : NonCopyable {
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
-                                    DWORD_PTR count) {
-    if (message == SBM_SETSCROLLINFO || message == SBM_SETPOS || message == WM_WINDOWPOSCHANGING)
-      ++*reinterpret_cast<int*>(count);
+                                    DWORD_PTR data) {
+    auto& counter = *reinterpret_cast<ChangeCounter*>(data);
+    if (counter.counts_(message)) ++counter.count_;
     return DefSubclassProc(window, message, wParam, lParam);
   }
 
   HWND window_;
+  Counts counts_;
   int count_ = 0;
 };
 
@@ -59,6 +72,16 @@ class FrmFindIconCostTest : public support::FindIconFixture {
     return corner.y;
   }
 };
+
+// A click once asked for the state of each row.
+TEST_F(FrmFindIconCostTest, AClickInALongListAsksItForFewOfItsRows) {
+  Open();
+  Find(200);
+  const ChangeCounter list(Item(FrmFindIcon_Lv), IsOfListView);
+  ReleaseOnGrid(3 + 4 * 38, 10);
+  EXPECT_TRUE(IsRowSelected(5));
+  EXPECT_LT(list.Count(), 20);
+}
 
 // The scroll bar was once drawn again for each folder, which took longer than the folder's icons.
 TEST_F(FrmFindIconCostTest, AFolderLeavesAGridAloneThatIsSizedAndAtItsTop) {
