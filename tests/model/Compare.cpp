@@ -47,7 +47,7 @@ void CompareOptions(Differences& all, const Model& model, const seen::Controls& 
     all.Expect("file type " + std::to_string(i), model.types.at(static_cast<std::size_t>(i)), ticked);
   }
   all.Expect("sub-folders", model.subDir, seen::IsTicked(at.Of(FrmFindIcon_chkSubDir)));
-  const int sizeRow = static_cast<int>(SendMessageW(at.Of(FrmFindIcon_CboIconSize), CB_GETCURSEL, 0, 0));
+  const int sizeRow = static_cast<int>(seen::Ask(at.Of(FrmFindIcon_CboIconSize), CB_GETCURSEL));
   all.Expect("size", model.sizeRow, sizeRow);
   const auto drive = std::ranges::find(Disk::Drives(), model.drive, &Disk::Drive::root);
   all.Expect("drive", drive->text, seen::ChosenComboRow(at.Of(FrmFindIcon_Drive1)));
@@ -60,8 +60,7 @@ void CompareLists(Differences& all, const Model& model, const seen::Controls& at
   std::string shownFolders;
   for (const std::string& row : seen::ListRows(at.Of(FrmFindIcon_Dir1))) shownFolders += row + "|";
   all.Expect("folders", folders, shownFolders);
-  all.Expect("chosen folder", model.folderRow,
-             static_cast<int>(SendMessageW(at.Of(FrmFindIcon_Dir1), LB_GETCURSEL, 0, 0)));
+  all.Expect("chosen folder", model.folderRow, static_cast<int>(seen::Ask(at.Of(FrmFindIcon_Dir1), LB_GETCURSEL)));
   std::string files;
   for (const std::string& name : model.files) files += name + "|";
   std::string shownFiles;
@@ -81,7 +80,8 @@ void CompareEnabled(Differences& all, const Model& model, const seen::Controls& 
                        FrmFindIcon_mnuSaveSel3, FrmFindIcon_mnuSaveAll3, FrmFindIcon_mnuCopy, FrmFindIcon_mnuRem})
     all.Expect("menu item " + std::to_string(id) + " enabled", !model.entries.empty(),
                seen::IsMenuEnabled(at.Window(), id));
-  all.Expect("window enabled", model.Depth() == 0, IsWindowEnabled(at.Window()) != FALSE);
+  const bool isFree = model.Depth() == 0 || model.Foremost() == Front::Menu;
+  all.Expect("window enabled", isFree, IsWindowEnabled(at.Window()) != FALSE);
 }
 
 void CompareView(Differences& all, const Model& model, const seen::Controls& at) {
@@ -102,6 +102,7 @@ void CompareView(Differences& all, const Model& model, const seen::Controls& at)
 void CompareGrid(Differences& all, const Model& model, const seen::Controls& at) {
   const HWND frame = at.Of(FrmFindIcon_PicFrame);
   const HWND picture = at.Of(FrmFindIcon_PicIcons);
+  if (model.tip) all.Expect("tip", *model.tip, seen::TipOf(picture));
   const HWND bar = at.Of(FrmFindIcon_Vsb);
   SCROLLINFO info{};
   info.cbSize = sizeof info;
@@ -136,8 +137,8 @@ struct Look {
 
 // How the list draws a row: the attributes that it is given before it draws.
 Look LookOfRow(const seen::Controls& at, int row) {
+  static const HDC dc = CreateCompatibleDC(nullptr);
   const HWND list = at.Of(FrmFindIcon_Lv);
-  const HDC dc = CreateCompatibleDC(nullptr);
   SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
   NMLVCUSTOMDRAW draw{};
   draw.nmcd.hdr = {list, static_cast<UINT_PTR>(FrmFindIcon_Lv), static_cast<UINT>(NM_CUSTOMDRAW)};
@@ -145,10 +146,11 @@ Look LookOfRow(const seen::Controls& at, int row) {
   draw.nmcd.hdc = dc;
   draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(row);
   SendMessageW(at.Window(), WM_NOTIFY, static_cast<WPARAM>(FrmFindIcon_Lv), reinterpret_cast<LPARAM>(&draw));
-  TEXTMETRICW metrics{};
-  GetTextMetricsW(dc, &metrics);
-  DeleteDC(dc);
-  return {metrics.tmWeight >= FW_BOLD, draw.clrText};
+  LOGFONTW font{};
+  GetObjectW(GetCurrentObject(dc, OBJ_FONT), sizeof font, &font);
+  // The font is the window's, and goes with it.
+  SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
+  return {font.lfWeight >= FW_BOLD, draw.clrText};
 }
 
 void CompareRow(Differences& all, const Model& model, const seen::Controls& at, int row) {
@@ -166,16 +168,21 @@ void CompareRow(Differences& all, const Model& model, const seen::Controls& at, 
 void CompareRows(Differences& all, const Model& model, const seen::Controls& at, bool everything) {
   const HWND list = at.Of(FrmFindIcon_Lv);
   const int count = static_cast<int>(model.entries.size());
-  const int rows = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+  const int rows = static_cast<int>(seen::Ask(list, LVM_GETITEMCOUNT));
   all.Expect("rows", count, rows);
   static const std::string headers[] = {"序号", "文件路径", "图标索引", ""};
   for (int column = 0; column < 4; ++column)
     all.Expect("header", model.hasColumns ? headers[column] : std::string(), seen::Header(list, column));
   if (rows != count) return;
+  // The control finds the next selected row faster than it answers for each of them.
+  const auto nextSelected = [list](int row) {
+    return static_cast<int>(seen::Ask(list, LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED));
+  };
+  int selected = nextSelected(-1);
   for (int row = 0; row < count; ++row) {
-    const bool selected = SendMessageW(list, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0;
-    all.Expect("row " + std::to_string(row + 1) + " selected", model.entries[static_cast<std::size_t>(row)].selected,
-               selected);
+    if (model.entries[static_cast<std::size_t>(row)].selected != (row == selected))
+      all.Expect("row " + std::to_string(row + 1) + " selected", row != selected, row == selected);
+    if (row == selected) selected = nextSelected(row);
   }
   if (count == 0) return;
   const int step = everything ? 1 : std::max(1, count / rowsLookedAt);
@@ -194,7 +201,7 @@ std::string MainDifference(const Model& model, const seen::Controls& at, bool ev
   CompareView(all, model, at);
   CompareGrid(all, model, at);
   CompareRows(all, model, at, everything);
-  return all.Found();
+  return all.Found() + LayoutDifference(model, at);
 }
 
 }  // namespace tarvik::model

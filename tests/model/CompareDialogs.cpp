@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
+#include "model/Compared.h"
 #include "model/Driver.h"
 #include "model/Seen.h"
 #include "resource.h"
@@ -14,14 +16,6 @@ namespace tarvik::model {
 namespace {
 
 constexpr POINT pictureCorner{100, 100};
-
-std::string Compared(const std::string& what, const std::string& expected, const std::string& seen) {
-  return expected == seen ? std::string() : what + ": \"" + seen + "\" and not \"" + expected + "\"\n";
-}
-
-std::string Compared(const std::string& what, int expected, int seen) {
-  return Compared(what, std::to_string(expected), std::to_string(seen));
-}
 
 // The kinds of line ends in a static control are treated as equal.
 std::string Lines(std::string text) {
@@ -38,7 +32,7 @@ std::string BoxDifference(const Model& model) {
 
 // Compares every pixel of the enlarged icon in the part of the window above the status bar.
 std::string PictureDifference(const ViewShown& view, HWND window) {
-  const HWND picture = GetDlgItem(window, frmBit_img);
+  const HWND picture = seen::ControlsOf(window).Of(frmBit_img);
   const int side = view.zoom * view.picture.width;
   RECT place{};
   GetWindowRect(picture, &place);
@@ -51,17 +45,22 @@ std::string PictureDifference(const ViewShown& view, HWND window) {
   RECT inner{};
   GetClientRect(window, &inner);
   RECT bar{};
-  GetWindowRect(GetDlgItem(window, frmBit_sbMain), &bar);
+  GetWindowRect(seen::ControlsOf(window).Of(frmBit_sbMain), &bar);
   const int width = std::min<int>(side, inner.right - pictureCorner.x);
   const int height = std::min<int>(side, inner.bottom - (bar.bottom - bar.top) - pictureCorner.y);
   if (width <= 0 || height <= 0) return {};
   const Picture& shown = seen::Pixels(picture, width, height);
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x) {
-      if (shown.At(x, y) == view.picture.At(x / view.zoom, y / view.zoom)) continue;
-      return "view's pixel (" + std::to_string(x) + ", " + std::to_string(y) + "): " + std::to_string(shown.At(x, y)) +
-             " and not " + std::to_string(view.picture.At(x / view.zoom, y / view.zoom)) + "\n";
+  std::vector<Pixel> expected(static_cast<std::size_t>(width));
+  auto row = shown.pixels.begin();
+  for (int y = 0; y < height; ++y, row += width) {
+    if (y % view.zoom == 0) {
+      for (int x = 0; x < width; ++x)
+        expected[static_cast<std::size_t>(x)] = view.picture.At(x / view.zoom, y / view.zoom);
     }
+    const auto differs = std::mismatch(expected.begin(), expected.end(), row);
+    if (differs.first == expected.end()) continue;
+    return "view's pixel (" + std::to_string(differs.first - expected.begin()) + ", " + std::to_string(y) +
+           "): " + std::to_string(*differs.second) + " and not " + std::to_string(*differs.first) + "\n";
   }
   return {};
 }
@@ -70,16 +69,16 @@ std::string ViewDifference(const Model& model) {
   const HWND window = seen::WindowWith(frmBit_img);
   if (window == nullptr) return "no enhanced view\n";
   const ViewShown& view = model.view;
-  const HWND bar = GetDlgItem(window, frmBit_tlb_control);
+  const HWND bar = seen::ControlsOf(window).Of(frmBit_tlb_control);
   const auto canPress = [bar](int id) {
     return SendMessageW(bar, TB_ISBUTTONENABLED, static_cast<WPARAM>(id), 0) != 0;
   };
   RECT place{};
   GetWindowRect(window, &place);
   return Compared("view's title", view.title, seen::Text(window)) +
-         Compared("view's status", view.status, seen::Status(GetDlgItem(window, frmBit_sbMain))) +
+         Compared("view's status", view.status, seen::Status(seen::ControlsOf(window).Of(frmBit_sbMain))) +
          Compared("view's zoom row", view.zoomRow,
-                  static_cast<int>(SendMessageW(GetDlgItem(window, frmBit_CboZoom), CB_GETCURSEL, 0, 0))) +
+                  static_cast<int>(SendMessageW(seen::ControlsOf(window).Of(frmBit_CboZoom), CB_GETCURSEL, 0, 0))) +
          Compared("Start enabled", view.showRuns ? 0 : 1, canPress(frmBit_tlb_control_Start) ? 1 : 0) +
          Compared("Stop enabled", view.showRuns ? 1 : 0, canPress(frmBit_tlb_control_Stop) ? 1 : 0) +
          Compared("view's width", view.width, place.right - place.left) +
@@ -97,14 +96,14 @@ std::string ChooserDifference(const Model& model) {
   const HWND window = seen::WindowWith(frmDir_dirMain);
   if (window == nullptr) return "no folder chooser\n";
   const ChooserShown& chooser = model.chooser;
-  const HWND types = GetDlgItem(window, frmDir_CboFileType);
+  const HWND types = seen::ControlsOf(window).Of(frmDir_CboFileType);
   std::string all = Compared("chosen path", chooser.answer, seen::Text(window, frmDir_lblDir));
   all += Compared("types offered", chooser.offersTypes ? 1 : 0, seen::IsShown(types) ? 1 : 0);
   if (chooser.offersTypes) {
     all += Compared("types", chooser.types, static_cast<int>(SendMessageW(types, CB_GETCOUNT, 0, 0)));
     all += Compared("type", chooser.type, static_cast<int>(SendMessageW(types, CB_GETCURSEL, 0, 0)));
   }
-  const std::vector<std::string> rows = seen::ListRows(GetDlgItem(window, frmDir_dirMain));
+  const std::vector<std::string> rows = seen::ListRows(seen::ControlsOf(window).Of(frmDir_dirMain));
   std::string chain;
   for (const std::string& path : Chain(chooser.folder)) chain += LastName(path) + "|";
   std::string shown;

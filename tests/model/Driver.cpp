@@ -33,6 +33,7 @@ Driver::Driver(Tongue tongue, std::vector<Action> actions)
   window_ = CreateWindowExW(0, className, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, definition.hInstance, nullptr);
   SetWindowLongPtrW(window_, 0, reinterpret_cast<LONG_PTR>(this));
   SetTimer(window_, watchTimer, watchPeriod, nullptr);
+  SetCursorPos(0, 0);  // not over the grid, which would see it
   settings_["FindIcon/Folder"] = firstFolder;
   model_.kept.folder = firstFolder;
 }
@@ -67,6 +68,7 @@ void Driver::Watch() {
 void Driver::Stop(const std::string& difference) {
   difference_ = difference;
   isDone_ = true;
+  EndMenu();
   program_->End();
   PostQuitMessage(0);  // ends the message loop of a box
 }
@@ -81,6 +83,8 @@ void Driver::RunOnce() {
   program_.reset();
   program_ = std::make_unique<RealProgram>(disk_, settings_, model_.Language());
   controls_.emplace(Main());
+  seen::Forget();
+  seen::DelayTips();
   model_.Start(RealProgram::ownFolder);
   PostTick();
   program_->Serve([this] { return isDone_ || !model_.IsRunning(); });
@@ -111,6 +115,7 @@ std::string Driver::Ended() {
     expect("kept width", std::to_string(model_.kept.viewWidth * twipsOfPixel), kept("Bitmapview/Width"));
     expect("kept height", std::to_string(model_.kept.viewHeight * twipsOfPixel), kept("Bitmapview/Height"));
   }
+  expect("guides", std::to_string(model_.guides), std::to_string(program_->Guides()));
   expect("handed path", model_.handedPath, program_->HandedPath());
   expect("handed index", std::to_string(model_.handedIndex), std::to_string(program_->HandedIndex()));
   return all;
@@ -137,11 +142,16 @@ void Driver::OnTick() {
     tickOwed_ = true;
     return;
   }
-  if (model_.Foremost() == Front::Box && depth_ > 0 && seen::MessageBoxInSight() == nullptr) {
+  const bool isLate = (model_.Foremost() == Front::Box && depth_ > 0 && seen::MessageBoxInSight() == nullptr) ||
+                      (model_.Foremost() == Front::Menu && seen::MenuInSight() == nullptr);
+  if (isLate) {
     SetTimer(window_, retryTimer, retryPeriod, nullptr);
     return;
   }
-  if (!IsSettled()) return PostTick();
+  if (!IsSettled()) {
+    Watch();  // no timer is served as long as there are posted messages
+    return PostTick();
+  }
   movedAt_ = GetTickCount64();
   if (!rest_.empty()) {
     const std::function<void()> part = std::move(rest_.front());
@@ -153,13 +163,16 @@ void Driver::OnTick() {
 
 void Driver::Next() {
   const bool isLast = next_ == actions_.size();
-  const bool everything = isLast || next_ % everythingEach == 0;
-  const std::string difference = Difference(model_, *program_, *controls_, everything);
+  const bool everything = isLast || stepsDone_ % everythingEach == 0;
+  const std::string difference = ofStep_ + Difference(model_, *program_, *controls_, everything);
   if (!difference.empty()) return Stop(difference);
   model_.written.clear();
   program_->Files().written.clear();
   if (isLast) return Stop({});
-  Do(actions_[next_++]);
+  while (next_ < actions_.size()) {
+    if (Do(actions_[next_++])) return;
+  }
+  PostTick();  // none was possible: ends
 }
 
 void Driver::Perform(const std::function<void()>& act) {
@@ -173,7 +186,7 @@ void Driver::Perform(const std::function<void()>& act) {
 }
 
 template <std::size_t count>
-void Driver::DoOneOf(const Choice (&choices)[count], const Action& action) {
+bool Driver::DoOneOf(const Choice (&choices)[count], const Action& action) {
   int total = 0;
   for (const Choice& choice : choices) total += choice.weight;
   int rest = action.what % total;
@@ -182,12 +195,14 @@ void Driver::DoOneOf(const Choice (&choices)[count], const Action& action) {
   log_.push_back(chosen->name);
   if (std::getenv("TARVIK_MODEL_TALK") != nullptr) std::cerr << log_.size() << "  " << chosen->name << "\n";
   const std::size_t line = log_.size() - 1;
-  if ((this->*chosen->act)(action)) return;
+  ++stepsDone_;
+  if ((this->*chosen->act)(action)) return true;
+  --stepsDone_;
   log_[line] += " (cannot be done now)";
-  PostTick();
+  return false;
 }
 
-void Driver::Do(const Action& action) {
+bool Driver::Do(const Action& action) {
   static constexpr Choice main[] = {
       {10, "Find", &Driver::FindByButton},
       {2, "Find by menu", &Driver::FindByMenu},
@@ -196,27 +211,39 @@ void Driver::Do(const Action& action) {
       {30, "Click the grid", &Driver::ClickGrid},
       {5, "Double-click the grid", &Driver::DoubleClickGrid},
       {8, "Scroll", &Driver::Scroll},
+      {3, "Scroll by a key", &Driver::ScrollByKey},
       {6, "Turn the wheel", &Driver::TurnWheel},
+      {4, "Rest on the grid", &Driver::HoverGrid},
       {4, "Tick a file type", &Driver::TickType},
       {3, "Tick sub-folders", &Driver::TickSubDir},
       {4, "Choose a size", &Driver::ChooseSize},
       {4, "Type a limit", &Driver::TypeLimit},
       {3, "Press the spinner", &Driver::Spin},
       {7, "Open a folder", &Driver::OpenFolder},
+      {2, "Click a folder", &Driver::ClickFolder},
       {2, "Choose a drive", &Driver::ChooseDrive},
-      {4, "Switch grid and list", &Driver::SwitchView},
+      {3, "Drop files", &Driver::Drop},
+      {6, "Switch grid and list", &Driver::SwitchView},
       {10, "Click the list", &Driver::ClickList},
       {2, "Double-click the list", &Driver::DoubleClickList},
       {1, "Select all rows", &Driver::SelectAll},
+      {6, "Open a row's menu", &Driver::OpenRowMenu},
+      {4, "Press a shortcut", &Driver::PressShortcut},
       {3, "Invert the selection", &Driver::Invert},
       {3, "Change the labels", &Driver::Labels},
       {4, "Save one", &Driver::SaveOne},
       {3, "Save many", &Driver::SaveMany},
+      {2, "Copy", &Driver::CopyIcon},
       {2, "Open the About box", &Driver::OpenAbout},
+      {1, "Open the guide", &Driver::OpenGuide},
+      {4, "Resize the window", &Driver::ResizeMain},
       {6, "Change the disk", &Driver::ChangeDisk},
       {1, "Close", &Driver::Close},
   };
+  static constexpr Choice menu[] = {{8, "End the menu", &Driver::EndRowMenu},
+                                    {1, "Close the main window below the menu", &Driver::CloseMainBelow}};
   static constexpr Choice box[] = {{30, "Answer the box", &Driver::AnswerBox},
+                                   {1, "Drop a file below the box", &Driver::DropBelow},
                                    {1, "Close the main window below the box", &Driver::CloseMainBelow}};
   static constexpr Choice view[] = {{20, "Step", &Driver::StepView},
                                     {8, "Slide show", &Driver::ShowInView},
@@ -224,26 +251,31 @@ void Driver::Do(const Action& action) {
                                     {3, "Resize the view", &Driver::ResizeView},
                                     {3, "Change the disk", &Driver::ChangeDisk},
                                     {10, "Close the view", &Driver::CloseView},
+                                    {1, "Drop a file below the view", &Driver::DropBelow},
                                     {1, "Close the main window below the view", &Driver::CloseMainBelow}};
-  static constexpr Choice hotSpot[] = {{2, "Pick a hot spot", &Driver::PickHotSpot},
-                                       {4, "End the hot-spot picker", &Driver::EndHotSpot},
+  static constexpr Choice hotSpot[] = {{4, "Pick a hot spot", &Driver::PickHotSpot},
+                                       {8, "End the hot-spot picker", &Driver::EndHotSpot},
+                                       {1, "Drop a file below the picker", &Driver::DropBelow},
                                        {1, "Close the main window below the picker", &Driver::CloseMainBelow}};
-  static constexpr Choice chooser[] = {{5, "Open a folder in the chooser", &Driver::OpenChooserRow},
-                                       {2, "Choose a drive in the chooser", &Driver::ChooseChooserDrive},
-                                       {4, "Choose a type", &Driver::ChooseChooserType},
-                                       {2, "Open the dialog for a new folder", &Driver::OpenNewFolder},
-                                       {8, "End the chooser", &Driver::EndChooser},
+  static constexpr Choice chooser[] = {{10, "Open a folder in the chooser", &Driver::OpenChooserRow},
+                                       {4, "Choose a drive in the chooser", &Driver::ChooseChooserDrive},
+                                       {8, "Choose a type", &Driver::ChooseChooserType},
+                                       {4, "Open the dialog for a new folder", &Driver::OpenNewFolder},
+                                       {16, "End the chooser", &Driver::EndChooser},
+                                       {1, "Drop a file below the chooser", &Driver::DropBelow},
                                        {1, "Close the main window below the chooser", &Driver::CloseMainBelow}};
-  static constexpr Choice newFolder[] = {{2, "Name the folder", &Driver::NameFolder},
-                                         {4, "End the dialog for a new folder", &Driver::EndNewFolder},
+  static constexpr Choice newFolder[] = {{4, "Name the folder", &Driver::NameFolder},
+                                         {8, "End the dialog for a new folder", &Driver::EndNewFolder},
                                          {1, "Close the main window below the dialog", &Driver::CloseMainBelow}};
-  static constexpr Choice options[] = {{6, "End the options", &Driver::EndOptions},
+  static constexpr Choice options[] = {{12, "End the options", &Driver::EndOptions},
                                        {1, "Close the main window below the options", &Driver::CloseMainBelow}};
-  static constexpr Choice about[] = {{2, "Close the About box", &Driver::EndAbout},
+  static constexpr Choice about[] = {{8, "Close the About box", &Driver::EndAbout},
                                      {1, "Close the main window below the About box", &Driver::CloseMainBelow}};
   switch (model_.Foremost()) {
     case Front::Main:
       return DoOneOf(main, action);
+    case Front::Menu:
+      return DoOneOf(menu, action);
     case Front::Box:
       return DoOneOf(box, action);
     case Front::View:
@@ -260,6 +292,7 @@ void Driver::Do(const Action& action) {
     case Front::About:
       return DoOneOf(about, action);
   }
+  return false;
 }
 
 }  // namespace tarvik::model

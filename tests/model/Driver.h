@@ -31,6 +31,8 @@ class Driver : NonCopyable {
   std::string Run();
   // The steps performed, one per line. If TARVIK_MODEL_TALK is set, each is also printed as it is performed.
   const std::vector<std::string>& Log() const { return log_; }
+  // How many of them were possible at their moment.
+  int StepsDone() const { return stepsDone_; }
 
  private:
   // A possible action. `act` returns false if the action is not possible at that moment.
@@ -40,7 +42,7 @@ class Driver : NonCopyable {
     bool (Driver::*act)(const Action& action);
   };
   template <std::size_t count>
-  void DoOneOf(const Choice (&choices)[count], const Action& action);
+  bool DoOneOf(const Choice (&choices)[count], const Action& action);
 
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void OnTick();
@@ -51,7 +53,8 @@ class Driver : NonCopyable {
   std::string Ended();
   bool IsSettled();
   void Next();
-  void Do(const Action& action);
+  // Returns whether the action was possible.
+  bool Do(const Action& action);
   // Runs an action that may open a modal loop. The next steps are performed inside that loop.
   void Perform(const std::function<void()>& act);
   void Note(const std::string& detail) { log_.back() += ": " + detail; }
@@ -81,12 +84,23 @@ class Driver : NonCopyable {
   bool SaveOne(const Action& action);
   bool SaveMany(const Action& action);
   bool OpenAbout(const Action& action);
+  bool OpenGuide(const Action& action);
   bool ChangeDisk(const Action& action);
   bool Close(const Action& action);
+  bool ResizeMain(const Action& action);
+  bool ClickFolder(const Action& action);
+  bool Drop(const Action& action);
+  bool PressShortcut(const Action& action);
+  bool CopyIcon(const Action& action);
+  bool HoverGrid(const Action& action);
+  bool ScrollByKey(const Action& action);
+  bool OpenRowMenu(const Action& action);
 
   // Actions in the windows over it.
   bool AnswerBox(const Action& action);
   bool CloseMainBelow(const Action& action);
+  bool DropBelow(const Action& action);
+  bool EndRowMenu(const Action& action);
   bool StepView(const Action& action);
   bool ShowInView(const Action& action);
   bool ZoomView(const Action& action);
@@ -105,6 +119,10 @@ class Driver : NonCopyable {
   bool EndAbout(const Action& action);
 
   void Find(const std::function<void()>& press);
+  // Serves a key as if it came from the keyboard to that control of the main window.
+  void ServeKey(HWND control, WPARAM key, bool ctrl = false);
+  void DropOnMain(const std::vector<std::string>& paths) const;
+  void ExpectOnClipboard(const Picture& expected);
   void Command(HWND window, int id, int code = 0) const;
   HWND Main() const { return program_->Main(); }
   HWND Item(int id) const { return controls_->Of(id); }
@@ -121,6 +139,7 @@ class Driver : NonCopyable {
   std::optional<seen::Controls> controls_;  // of the main window
   std::vector<Action> actions_;
   std::size_t next_ = 0;
+  int stepsDone_ = 0;
   std::deque<std::function<void()>> rest_;  // parts of a step that run between the program's own messages
   HWND window_ = nullptr;
   int depth_ = 0;  // how many calls of Perform are nested
@@ -128,6 +147,7 @@ class Driver : NonCopyable {
   bool isDone_ = false;
   ULONGLONG movedAt_ = 0;
   std::string difference_;
+  std::string ofStep_;  // a difference that a step found itself
   std::vector<std::string> log_;
 };
 
@@ -135,6 +155,7 @@ class Driver : NonCopyable {
 // comparisons.
 std::string Difference(const Model& model, RealProgram& program, const seen::Controls& controls, bool everything);
 std::string MainDifference(const Model& model, const seen::Controls& at, bool everything);
+std::string LayoutDifference(const Model& model, const seen::Controls& at);
 std::string DialogDifference(const Model& model);
 
 }  // namespace tarvik::model

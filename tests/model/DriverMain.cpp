@@ -35,6 +35,13 @@ void Driver::HoldKeys(bool ctrl, bool shift, bool leftButton) {
   SetKeyboardState(keys.data());
 }
 
+void Driver::ServeKey(HWND control, WPARAM key, bool ctrl) {
+  HoldKeys(ctrl, false);
+  PostMessageW(control, WM_KEYDOWN, key, 0);
+  program_->ServeWaiting();
+  HoldKeys(false, false);
+}
+
 void Driver::Find(const std::function<void()>& press) {
   model_.Find();
   Perform(press);
@@ -55,14 +62,13 @@ bool Driver::FindByMenu(const Action& /*action*/) {
 bool Driver::FindByEnter(const Action& /*action*/) {
   Find([this] {
     SetFocus(Item(FrmFindIcon_txtMax));
-    PostMessageW(Item(FrmFindIcon_txtMax), WM_KEYDOWN, VK_RETURN, 0);
-    program_->ServeWaiting();
+    ServeKey(Item(FrmFindIcon_txtMax), VK_RETURN);
   });
   return true;
 }
 
-// The search processes the waiting messages: clicks, commands and requests to close have no effect then. A search that
-// ended with an error is over when its message box opens.
+// The search processes the waiting messages: clicks, commands, drops and requests to close have no effect then. A
+// search that ended with an error is over when its message box opens.
 bool Driver::FindWithClicksWaiting(const Action& action) {
   const POINT point = PointOnGrid(action);
   Find([this, point] {
@@ -70,6 +76,7 @@ bool Driver::FindWithClicksWaiting(const Action& action) {
     PostMessageW(Grid(), WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
     PostMessageW(Main(), WM_COMMAND, FrmFindIcon_mnuRem, 0);
     PostMessageW(Main(), WM_COMMAND, FrmFindIcon_mnuSaveAs, 0);
+    DropOnMain({"D:\\a\\k.ico"});
     const bool isOver = model_.Foremost() == Front::Box && !model_.IsBusy();
     if (!isOver) PostMessageW(Main(), WM_CLOSE, 0, 0);
     Command(Main(), FrmFindIcon_CmdFind);
@@ -167,6 +174,7 @@ bool Driver::Scroll(const Action& action) {
   } else {
     model_.grid.ScrollBy(steps[action.a % 8]);
   }
+  model_.tip = "";
   Note("request " + NumberText(request) + " to " + NumberText(model_.grid.Scroll()));
   Perform([&] {
     if (request == SB_THUMBPOSITION || request == SB_THUMBTRACK) SetScrollPos(bar, SB_CTL, thumb, FALSE);
@@ -181,7 +189,10 @@ bool Driver::TurnWheel(const Action& action) {
   Note(NumberText(delta));
   UINT lines = 0;
   SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-  if (!model_.listShown && model_.grid.Scrolls()) model_.grid.Turn(delta, static_cast<int>(lines));
+  if (!model_.listShown && model_.grid.Scrolls()) {
+    model_.grid.Turn(delta, static_cast<int>(lines));
+    model_.tip = "";
+  }
   RECT place{};
   GetWindowRect(Item(FrmFindIcon_PicFrame), &place);
   const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};

@@ -3,9 +3,12 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "model/Driver.h"
+#include "platform/PastedPicture.h"
 
 namespace tarvik::model {
 
@@ -47,9 +50,12 @@ bool Driver::DoubleClickList(const Action& action) {
   const Action plain{action.what, action.a, 0, 0};
   ClickList(plain);
   const int row = action.a % static_cast<int>(model_.entries.size());
-  rest_.push_back([this, row] {
+  const bool byKey = action.b % 3 == 0;
+  if (byKey) Note("Enter");
+  rest_.push_back([this, row, byKey] {
     model_.OpenView();
     Perform([&] {
+      if (byKey) return ServeKey(Item(FrmFindIcon_Lv), VK_RETURN);
       const HWND list = Item(FrmFindIcon_Lv);
       RECT place{};
       place.left = LVIR_LABEL;
@@ -64,12 +70,52 @@ bool Driver::DoubleClickList(const Action& action) {
 bool Driver::SelectAll(const Action& /*action*/) {
   if (!model_.listShown || model_.entries.empty()) return false;
   model_.SelectAllRows();
+  Perform([&] { ServeKey(Item(FrmFindIcon_Lv), 'A', true); });
+  return true;
+}
+
+bool Driver::OpenRowMenu(const Action& action) {
+  if (!model_.listShown || model_.entries.empty()) return false;
+  const int row = action.a % static_cast<int>(model_.entries.size());
+  Note("row " + std::to_string(row + 1));
+  const HWND list = Item(FrmFindIcon_Lv);
+  model_.OpenRowMenu(row);
   Perform([&] {
-    HoldKeys(true, false);
-    PostMessageW(Item(FrmFindIcon_Lv), WM_KEYDOWN, 'A', 0);
-    program_->ServeWaiting();
-    HoldKeys(false, false);
+    SendMessageW(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+    RECT place{};
+    place.left = LVIR_LABEL;
+    SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
+    POINT point{place.left + 3, (place.top + place.bottom) / 2};
+    ClientToScreen(list, &point);
+    SendMessageW(Main(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(list), MAKELPARAM(point.x, point.y));
   });
+  return true;
+}
+
+// Chooses an item with the keys of the menu, or none.
+bool Driver::EndRowMenu(const Action& action) {
+  const int way = action.a % 4;
+  static constexpr const char* ways[] = {"by Escape", "by Invert", "by Copy", "by Save As"};
+  Note(ways[way]);
+  model_.CloseMenu();
+  std::vector<WPARAM> keys;
+  if (way == 0) keys = {VK_ESCAPE};
+  if (way == 1) keys = {VK_UP, VK_RETURN};
+  if (way == 2) keys = {VK_UP, VK_UP, VK_RETURN};
+  if (way == 3) keys = {VK_DOWN, VK_RETURN};
+  if (way == 1) model_.Invert();
+  if (way == 3) {
+    program_->AnswerPath("C:\\out.ico");
+    model_.SaveOne(Kind::Icon, "C:\\out.ico");
+  }
+  Perform([&] {
+    for (const WPARAM key : keys) PostMessageW(Main(), WM_KEYDOWN, key, 0);
+  });
+  if (way == 2)
+    rest_.push_back([this] {
+      ExpectOnClipboard(model_.Copied());
+      PostTick();
+    });
   return true;
 }
 
@@ -91,6 +137,23 @@ bool Driver::Labels(const Action& action) {
   static constexpr int items[] = {FrmFindIcon_mnuShowLabel, FrmFindIcon_mnuIL1, FrmFindIcon_mnuIL2};
   Perform([&] { Command(Main(), items[which]); });
   return true;
+}
+
+bool Driver::CopyIcon(const Action& /*action*/) {
+  if (model_.entries.empty()) return false;
+  const Picture expected = model_.Copied();
+  Perform([&] {
+    Command(Main(), FrmFindIcon_mnuCopy);
+    ExpectOnClipboard(expected);
+  });
+  return true;
+}
+
+void Driver::ExpectOnClipboard(const Picture& expected) {
+  const support::PastedPicture seen = support::Paste();
+  const bool isSame = seen.width == expected.width && seen.height == expected.height &&
+                      std::ranges::equal(seen.pixels, expected.pixels);
+  if (!isSame) ofStep_ += "the clipboard's picture is not that of the current icon\n";
 }
 
 bool Driver::SaveOne(const Action& action) {
@@ -119,12 +182,23 @@ bool Driver::SaveMany(const Action& action) {
   return true;
 }
 
-bool Driver::OpenAbout(const Action& action) {
-  if (action.a % 4 == 0) {
-    Note("no, the contents");
-    Perform([&] { Command(Main(), FrmFindIcon_MnuContent); });
-    return true;
-  }
+bool Driver::OpenGuide(const Action& action) {
+  const bool byKey = action.a % 2 == 1;
+  Note(byKey ? "by F1" : "by the menu");
+  model_.OpenGuide();
+  HELPINFO help{};
+  help.cbSize = sizeof help;
+  Perform([&] {
+    if (byKey) {
+      SendMessageW(Main(), WM_HELP, 0, reinterpret_cast<LPARAM>(&help));
+    } else {
+      Command(Main(), FrmFindIcon_MnuContent);
+    }
+  });
+  return true;
+}
+
+bool Driver::OpenAbout(const Action& /*action*/) {
   model_.OpenAbout();
   Perform([&] { Command(Main(), FrmFindIcon_MnuAbout); });
   return true;

@@ -17,6 +17,7 @@
 #include "driver/Waiting.h"
 #include "end_to_end/EndToEndTest.h"
 #include "model/Action.h"
+#include "model/Compared.h"
 #include "model/Model.h"
 #include "platform/IconFiles.h"
 #include "platform/Text.h"
@@ -24,6 +25,7 @@
 namespace tarvik::end_to_end {
 
 using model::Action;
+using model::Compared;
 using model::Front;
 using model::Kind;
 using model::Model;
@@ -62,6 +64,7 @@ class FinishedProgram {
     return KeptDifference();
   }
   const std::vector<std::string>& Log() const { return log_; }
+  int StepsDone() const { return stepsDone_; }
 
  private:
   struct Choice {
@@ -96,9 +99,15 @@ class FinishedProgram {
     const Choice* chosen = choices;
     while (rest >= chosen->weight) rest -= (chosen++)->weight;
     log_.emplace_back(chosen->name);
+    ++stepsDone_;
     (this->*chosen->act)(action);
   }
   void Note(const std::string& detail) { log_.back() += ": " + detail; }
+  // The action is not possible now.
+  void Skip() {
+    log_.back() += " (cannot be done now)";
+    --stepsDone_;
+  }
 
   // --- actions
   void Start() {
@@ -124,7 +133,7 @@ class FinishedProgram {
     Eventually([this] { return IsEnabled(FrmFindIcon_CmdFind); });
   }
   void Click(const Action& action) {
-    if (model_.listShown) return;
+    if (model_.listShown) return Skip();
     const int count = std::max(1, static_cast<int>(model_.entries.size()));
     const int index = action.a % count;
     const model::Geometry& size = model_.Size();
@@ -139,18 +148,13 @@ class FinishedProgram {
     grid.Send(WM_LBUTTONUP, keys, MAKELPARAM(x, y));
   }
   void Scroll(const Action& action) {
-    if (model_.listShown || !model_.grid.Scrolls()) return;
+    if (model_.listShown || !model_.grid.Scrolls()) return Skip();
     static constexpr int requests[] = {SB_LINEDOWN, SB_LINEUP, SB_PAGEDOWN, SB_PAGEUP, SB_BOTTOM, SB_TOP};
     const int way = action.a % 6;
-    const int steps[] = {model_.grid.LineStep(), -model_.grid.LineStep(), model::viewportHeight,
-                         -model::viewportHeight};
-    if (way < 4) {
-      model_.grid.ScrollBy(steps[way]);
-    } else if (way == 4) {
-      model_.grid.ScrollToEnd();
-    } else {
-      model_.grid.ScrollTo(0);
-    }
+    const int line = model_.grid.LineStep();
+    const int whole = model_.grid.InnerHeight();
+    const int steps[] = {line, -line, model::viewportHeight, -model::viewportHeight, whole, -whole};
+    model_.grid.ScrollBy(steps[way]);
     Note("to " + std::to_string(model_.grid.Scroll()));
     SendScroll(requests[way], FrmFindIcon_Vsb);
   }
@@ -197,7 +201,7 @@ class FinishedProgram {
     SendCommand(list ? FrmFindIcon_mnuViewopt1 : FrmFindIcon_mnuViewopt0);
   }
   void Invert(const Action& /*action*/) {
-    if (model_.entries.empty()) return;
+    if (model_.entries.empty()) return Skip();
     model_.Invert();
     SendCommand(FrmFindIcon_mnuRem);
   }
@@ -208,7 +212,7 @@ class FinishedProgram {
     SendCommand(FrmFindIcon_mnuShowLabel + (which == 0 ? 0 : which + 1));
   }
   void View(const Action& action) {
-    if (model_.entries.empty() || model_.listShown) return;
+    if (model_.entries.empty() || model_.listShown) return Skip();
     model_.OpenView();
     program_.Item(FrmFindIcon_PicIcons).Post(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
     const EnhancedView view(program_);
@@ -232,7 +236,7 @@ class FinishedProgram {
   void Save(const Action& action) {
     const auto selected =
         std::ranges::count_if(model_.entries, [](const model::Entry& entry) { return entry.selected; });
-    if (selected == 0 || selected > 5) return;
+    if (selected == 0 || selected > 5) return Skip();
     model_.SaveMany(action.a % 2 == 0 ? Kind::Icon : Kind::Cursor, Scope::Selected);
     program_.Command(action.a % 2 == 0 ? FrmFindIcon_mnuSaveSel : FrmFindIcon_mnuSaveSel3);
     const FolderChooser chooser(program_);
@@ -257,7 +261,7 @@ class FinishedProgram {
     model_.written.clear();
   }
   void Copy(const Action& /*action*/) {
-    if (model_.entries.empty()) return;
+    if (model_.entries.empty()) return Skip();
     SendCommand(FrmFindIcon_mnuCopy);
   }
   void Change(const Action& action) {
@@ -293,13 +297,6 @@ class FinishedProgram {
   std::string Title() const { return program_.Window().Text(); }
   std::string Status() const { return StatusText(program_.Item(FrmFindIcon_sbMain), 0); }
   bool IsEnabled(int id) const { return program_.Item(id).IsEnabled(); }
-
-  static std::string Compared(const std::string& what, const std::string& expected, const std::string& seen) {
-    return expected == seen ? std::string() : what + ": \"" + seen + "\" and not \"" + expected + "\"\n";
-  }
-  static std::string Compared(const std::string& what, int expected, int seen) {
-    return Compared(what, std::to_string(expected), std::to_string(seen));
-  }
 
   std::string Difference(bool picture) {
     std::string all = boxDifference_;
@@ -394,6 +391,7 @@ class FinishedProgram {
   Model model_{disk_, model::Tongue::English};
   std::vector<Action> actions_;
   std::vector<std::string> log_;
+  int stepsDone_ = 0;
   std::string boxDifference_;  // of a window that is closed by the time of the comparison
 };
 

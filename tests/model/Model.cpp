@@ -97,6 +97,10 @@ void Model::OpenFolderRow(int row) {
 
 void Model::TickType(int clicked) {
   types.at(static_cast<std::size_t>(clicked)) = !types.at(static_cast<std::size_t>(clicked));
+  UpdatePattern();
+}
+
+void Model::UpdatePattern() {
   if (types[allFiles]) types.fill(true);
   const std::string former = pattern;
   pattern.clear();
@@ -122,6 +126,7 @@ void Model::TypeLimit(const LimitText& text) {
 void Model::Spin(bool up) {
   spinner = std::clamp(spinner + (up ? spinnerStep : -spinnerStep), 1, Size().highestLimit);
   limitText = std::to_string(spinner);
+  tip.reset();
 }
 
 void Model::NumberByFile(bool yes) {

@@ -14,7 +14,7 @@
 namespace tarvik::model {
 
 // The window that receives the user's input.
-enum class Front { Main, Box, View, HotSpot, Chooser, NewFolder, About, JpegOptions, GifOptions };
+enum class Front { Main, Menu, Box, View, HotSpot, Chooser, NewFolder, About, JpegOptions, GifOptions };
 
 struct Entry {
   std::string path;
@@ -33,6 +33,12 @@ struct Kept {
   std::optional<std::string> subDir;
   int viewWidth = 443;  // pixels
   int viewHeight = 354;
+};
+
+// How much larger than at first the main window is, in pixels.
+struct Room {
+  int across = 0;
+  int down = 0;
 };
 
 struct ViewShown {
@@ -105,18 +111,32 @@ class Model {
   void CloseMain();
   void EndSession();
   void AnswerBox();
+  // Resizes it by its border; at first it has its smallest size.
+  void ResizeMain(Room wanted);
+  // `given` is the system's choice.
+  void MaximiseMain(Room given);
+  void RestoreMain();
+  void OpenGuide() { ++guides; }
   void OpenAbout() { fronts.push_back(Front::About); }
   void CloseAbout() { fronts.pop_back(); }
 
   // --- options
   void ChooseDrive(int row);
+  void ClickFolderRow(int row) { folderRow = row; }
   void OpenFolderRow(int row);
+  // Drops these files and folders on the main window; the first counts.
+  void Drop(const std::vector<std::string>& paths);
+  // Reads folders and files again, and keeps the chosen row as long as it exists.
+  void ReadAgain();
   void TickType(int box);
   void TickSubDir() { subDir = !subDir; }
   void ChooseSize(int row);
   void TypeLimit(const LimitText& text);
   void Spin(bool up);
-  void ShowList(bool list) { listShown = list; }
+  void ShowList(bool list) {
+    listShown = list;
+    tip = "";
+  }
   void ToggleLabel() { labelShown = !labelShown; }
   void NumberByFile(bool yes);
 
@@ -126,6 +146,11 @@ class Model {
   // --- selection
   void ClickGrid(int x, int y, bool ctrlAlone);
   void ClickRow(int row, bool ctrl, bool shift);
+  // Opens the context menu of a row, and with it chooses the row.
+  void OpenRowMenu(int row);
+  void CloseMenu() { fronts.pop_back(); }
+  // Rests the pointer on the grid.
+  void Hover(int x, int y);
   void SelectAllRows();
   void Invert();
 
@@ -143,6 +168,8 @@ class Model {
   // --- saves; `path` is the answer of the Save dialog, empty if it was cancelled
   void SaveOne(Kind kind, const std::string& path);
   void SaveMany(Kind kind, Scope scope);
+  // The picture that a copy puts on the clipboard.
+  Picture Copied() const { return Rendered(current).composed; }
   void EndHotSpot(bool ok);
   void EndEncoderOptions(bool ok);
 
@@ -165,6 +192,9 @@ class Model {
   // --- the visible state
   std::vector<Front> fronts;
   Kept kept;
+  Room room;
+  bool isMaximised = false;
+  int guides = 0;  // how often the guide was opened
 
   std::string title;
   std::string status;
@@ -200,7 +230,8 @@ class Model {
   int current = 0;
   int frameX = 0;
   int frameY = 0;
-  std::optional<int> anchor;  // the row from which Shift extends the selection
+  std::optional<int> anchor;           // the row from which Shift extends the selection
+  std::optional<std::string> tip{""};  // of the grid; nothing if it may or may not be there
 
   Box box;
   ViewShown view;
@@ -217,6 +248,7 @@ class Model {
 
   void SetFolder(const std::string& path);
   void FillLists();
+  void UpdatePattern();
   void SetEnabled(bool enabled);
   void FailureExit();
   void Count(const std::string& root, std::string& dirAt);
@@ -225,6 +257,8 @@ class Model {
   void ShowBox(const std::string& boxTitle, const std::string& text, After after);
 
   void ShowCurrentLabel();
+  // The entry that a click there chooses.
+  std::optional<int> EntryAt(int x, int y) const;
   void Choose(int index, int x, int y, bool ctrl);
   void SetSelected(int row, bool selected);
   int CornerX(int index) const { return index % Size().columns * Size().pitch + 1; }
@@ -240,6 +274,7 @@ class Model {
 
   Disk* disk_;
   Tongue tongue_;
+  Room roomBefore_;  // it was maximised
   After afterBox_ = After::Nothing;
   Kind kind_ = Kind::Icon;
   Scope scope_ = Scope::All;

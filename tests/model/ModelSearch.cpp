@@ -27,7 +27,7 @@ void Model::FailureExit() {
   closeEnabled = true;
   isSearching = false;
   grid.Blank();
-  FillLists();
+  ReadAgain();
 }
 
 // `dirAt` is the folder in the title: the folder list's current folder while the walk reads the files.
@@ -87,6 +87,7 @@ void Model::Find() {
   entries.clear();
   hasColumns = true;
   anchor.reset();
+  tip = "";
   if (IsRefused()) return;
   nextNumber = 1;
   grid.Blank();
@@ -101,7 +102,7 @@ void Model::Find() {
   SetEnabled(true);
   isSearching = false;
   entries.front().selected = true;
-  FillLists();
+  ReadAgain();
 }
 
 }  // namespace tarvik::model

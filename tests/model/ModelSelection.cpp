@@ -16,13 +16,24 @@ void Model::ShowCurrentLabel() {
   label = words::selected.In(tongue_, std::to_string(number));
 }
 
+std::optional<int> Model::EntryAt(int x, int y) const {
+  if (isSearching || x < 0 || x > lastX || y < 0 || y > grid.InnerHeight()) return std::nullopt;
+  const int index = y / Size().pitch * Size().columns + x / Size().pitch;
+  if (index > iconCount - 1 || index + 1 > nextNumber || !Answers(index)) return std::nullopt;
+  return index;
+}
+
 void Model::ClickGrid(int x, int y, bool ctrlAlone) {
-  if (isSearching || x < 0 || x > lastX || y < 0 || y > grid.InnerHeight()) return;
-  const int column = x / Size().pitch;
-  const int row = y / Size().pitch;
-  const int index = row * Size().columns + column;
-  if (index > iconCount - 1 || index + 1 > nextNumber || !Answers(index)) return;
-  Choose(index, column * Size().pitch + 1, row * Size().pitch + 1, ctrlAlone);
+  if (const auto index = EntryAt(x, y))
+    Choose(*index, x / Size().pitch * Size().pitch + 1, y / Size().pitch * Size().pitch + 1, ctrlAlone);
+}
+
+void Model::Hover(int x, int y) {
+  tip = "";
+  const auto index = EntryAt(x, y);
+  if (!index) return;
+  const Entry& entry = entries.at(static_cast<std::size_t>(*index));
+  tip = entry.path + words::tipIndex.In(tongue_, std::to_string(entry.index));
 }
 
 // Row k is deselected, but the frame that is erased is that of the next cell.
@@ -42,6 +53,7 @@ void Model::Choose(int index, int x, int y, bool ctrl) {
   frameY = y;
   grid.Frame(x, y, Size().frame, entry.selected);
   status = entry.path;
+  tip = "";
 }
 
 void Model::SetSelected(int row, bool selected) {
@@ -67,13 +79,21 @@ void Model::ClickRow(int row, bool ctrl, bool shift) {
   frameX = CornerX(row);
   frameY = CornerY(row);
   status = entries.at(static_cast<std::size_t>(row)).path;
+  tip = "";
+}
+
+void Model::OpenRowMenu(int row) {
+  if (row != current && row < iconCount) Choose(row, CornerX(row), CornerY(row), false);
+  fronts.push_back(Front::Menu);
 }
 
 void Model::SelectAllRows() {
+  tip = "";
   for (int k = 0; k < static_cast<int>(entries.size()); ++k) SetSelected(k, true);
 }
 
 void Model::Invert() {
+  tip = "";
   for (int k = 0; k < static_cast<int>(entries.size()); ++k)
     SetSelected(k, !entries.at(static_cast<std::size_t>(k)).selected);
 }

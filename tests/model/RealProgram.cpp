@@ -68,6 +68,7 @@ struct RealProgram::Parts {
                                [this] { return window->Dir1Path(); }},
                               files};
   Dialogs dialogs{exportDialogs};
+  int guides = 0;
 };
 
 RealProgram::RealProgram(Disk& disk, std::map<std::string, std::string>& settings, Tongue tongue)
@@ -87,8 +88,9 @@ RealProgram::RealProgram(Disk& disk, std::map<std::string, std::string>& setting
                            [&parts](const std::string& folder) { return parts.disk.IsReadable(folder); },
                            ownFolder,
                            [&parts] { parts.spash.ShowModal(parts.window->Window()); },
-                           [] {},
-                           {parts.dialogs, parts.files, parts.temporary}});
+                           [&parts] { ++parts.guides; },
+                           {parts.dialogs, parts.files, parts.temporary},
+                           [&parts](const std::string& path) { return parts.disk.IsReadable(path); }});
   parts.window->Show();
 }
 
@@ -133,6 +135,10 @@ void RealProgram::AnswerPath(const std::string& path) {
 
 MadeFiles& RealProgram::Files() {
   return parts_->files;
+}
+
+int RealProgram::Guides() const {
+  return parts_->guides;
 }
 
 std::string RealProgram::HandedPath() const {

@@ -33,6 +33,8 @@ class RealProgram : NonCopyable {
   // Sets the answer of the Save dialog from now on.
   void AnswerPath(const std::string& path);
   MadeFiles& Files();
+  // How often the guide was opened.
+  int Guides() const;
   std::string HandedPath() const;
   int HandedIndex() const;
   Spot HotSpot() const;

@@ -26,6 +26,25 @@ UINT MenuState(HWND window, int item, UINT by) {
   return GetMenuState(GetMenu(window), static_cast<UINT>(item), by);
 }
 
+// By window. A handle is not used twice in a run of the program.
+std::unordered_map<HWND, Controls> knownControls;
+std::vector<HWND> tips;
+
+bool IsOfClass(HWND window, const wchar_t* name) {
+  std::array<wchar_t, 64> text{};
+  GetClassNameW(window, text.data(), static_cast<int>(text.size()));
+  return std::wcscmp(text.data(), name) == 0;
+}
+
+std::string TextOfTip(HWND tip, HWND control) {
+  std::array<wchar_t, longest> text{};
+  TTTOOLINFOW part{};
+  part.cbSize = TTTOOLINFOW_V1_SIZE;
+  part.lpszText = text.data();
+  if (SendMessageW(tip, TTM_ENUMTOOLSW, 0, reinterpret_cast<LPARAM>(&part)) == 0 || part.hwnd != control) return {};
+  return Utf8(text.data());
+}
+
 // A picture in memory into which windows are copied.
 class Copy {
  public:
@@ -79,23 +98,41 @@ class Copy {
 }  // namespace
 
 Controls::Controls(HWND window) : window_(window) {
+  GetWindowRect(window, &first_);
   EnumChildWindows(
       window,
-      [](HWND control, LPARAM all) -> BOOL {
-        reinterpret_cast<std::unordered_map<int, HWND>*>(all)->emplace(GetDlgCtrlID(control), control);
+      [](HWND control, LPARAM data) -> BOOL {
+        auto& controls = *reinterpret_cast<Controls*>(data);
+        controls.all_.emplace(GetDlgCtrlID(control), Control{control, PlaceIn(controls.window_, control)});
         return TRUE;
       },
-      reinterpret_cast<LPARAM>(&all_));
+      reinterpret_cast<LPARAM>(this));
+}
+
+RECT PlaceIn(HWND window, HWND control) {
+  RECT place{};
+  GetWindowRect(control, &place);
+  MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+LRESULT Ask(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto procedure = reinterpret_cast<WNDPROC>(GetClassLongPtrW(control, GCLP_WNDPROC));
+  return CallWindowProcW(procedure, control, message, wParam, lParam);
 }
 
 bool IsTicked(HWND button) {
-  return SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED;
+  return Ask(button, BM_GETCHECK) == BST_CHECKED;
 }
 
 std::string Text(HWND window) {
   std::array<wchar_t, longest> text{};
   SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
   return Utf8(text.data());
+}
+
+std::string Text(HWND window, int id) {
+  return Text(ControlsOf(window).Of(id));
 }
 
 std::string Status(HWND bar) {
@@ -106,20 +143,19 @@ std::string Status(HWND bar) {
 
 std::vector<std::string> ListRows(HWND listBox) {
   std::vector<std::string> rows;
-  const LRESULT count = SendMessageW(listBox, LB_GETCOUNT, 0, 0);
+  const LRESULT count = Ask(listBox, LB_GETCOUNT);
   for (LRESULT row = 0; row < count; ++row) {
     std::array<wchar_t, longest> text{};
-    SendMessageW(listBox, LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+    Ask(listBox, LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
     rows.push_back(Utf8(text.data()));
   }
   return rows;
 }
 
 std::string ChosenComboRow(HWND comboBox) {
-  const LRESULT row = SendMessageW(comboBox, CB_GETCURSEL, 0, 0);
+  const LRESULT row = Ask(comboBox, CB_GETCURSEL);
   std::array<wchar_t, longest> text{};
-  if (row != CB_ERR)
-    SendMessageW(comboBox, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+  if (row != CB_ERR) Ask(comboBox, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
   return Utf8(text.data());
 }
 
@@ -129,7 +165,7 @@ std::string Cell(HWND listView, int row, int column) {
   item.iSubItem = column;
   item.pszText = text.data();
   item.cchTextMax = static_cast<int>(text.size());
-  SendMessageW(listView, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  Ask(listView, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
   return Utf8(text.data());
 }
 
@@ -140,7 +176,7 @@ std::string Header(HWND listView, int column) {
   definition.pszText = text.data();
   definition.cchTextMax = static_cast<int>(text.size());
   const bool isThere =
-      SendMessageW(listView, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&definition)) != 0;
+      Ask(listView, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&definition)) != 0;
   return isThere ? Utf8(text.data()) : std::string();
 }
 
@@ -177,9 +213,47 @@ std::vector<HWND> WindowsInSight() {
   return windows;
 }
 
+const Controls& ControlsOf(HWND window) {
+  return knownControls.try_emplace(window, window).first->second;
+}
+
+void Forget() {
+  knownControls.clear();
+}
+
 HWND WindowWith(int id, const std::vector<HWND>& windows) {
-  const auto found = std::ranges::find_if(windows, [id](HWND window) { return GetDlgItem(window, id) != nullptr; });
+  const auto found = std::ranges::find_if(windows, [id](HWND window) { return ControlsOf(window).Of(id) != nullptr; });
   return found == windows.end() ? nullptr : *found;
+}
+
+HWND MenuInSight() {
+  const std::vector<HWND> windows = WindowsInSight();
+  const auto found = std::ranges::find_if(windows, [](HWND window) { return IsOfClass(window, L"#32768"); });
+  return found == windows.end() ? nullptr : *found;
+}
+
+std::string TipOf(HWND control) {
+  for (const HWND tip : tips) {
+    const std::string text = TextOfTip(tip, control);
+    if (!text.empty()) return text;
+  }
+  return {};
+}
+
+void DelayTips() {
+  tips.clear();
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM) -> BOOL {
+        if (IsOfClass(window, TOOLTIPS_CLASSW)) tips.push_back(window);
+        return TRUE;
+      },
+      0);
+  constexpr LPARAM longestDelay = 32767;  // ms
+  for (const HWND tip : tips) {
+    for (const int when : {TTDT_INITIAL, TTDT_RESHOW})
+      SendMessageW(tip, TTM_SETDELAYTIME, static_cast<WPARAM>(when), longestDelay);
+  }
 }
 
 HWND MessageBoxInSight() {
@@ -187,7 +261,7 @@ HWND MessageBoxInSight() {
 }
 
 std::string BoxText(HWND box) {
-  return Text(GetDlgItem(box, boxText));
+  return Text(box, boxText);
 }
 
 void PaintAll() {

@@ -2,7 +2,12 @@
 
 #include <rapidcheck.h>
 
+#include <cstdint>
+#include <cstdlib>
 #include <ostream>
+#include <sstream>
+#include <string>
+#include <vector>
 
 #include "model/Action.h"
 
@@ -28,3 +33,62 @@ struct Arbitrary<tarvik::model::Action> {
 };
 
 }  // namespace rc
+
+namespace tarvik::model {
+
+// What one run of a sequence tells.
+struct Told {
+  int steps = 0;  // performed; a step that was not possible at its moment does not count
+  std::string difference;
+  std::vector<std::string> log;
+};
+
+struct Wanted {
+  int steps = 0;            // at least so many are performed
+  int longestSequence = 0;  // sequences of all lengths up to it are equally frequent
+  std::uint64_t seed = 0;
+};
+
+struct Outcome {
+  int steps = 0;
+  std::string failure;  // empty if there is none
+};
+
+// Runs random sequences until they have performed the wanted number of steps. Shrinks one that fails. RC_PARAMS in the
+// environment replaces the seed and the number of sequences.
+template <typename Run>
+Outcome RunSequences(const Wanted& wanted, Run run) {
+  rc::detail::TestParams parameters = rc::detail::configuration().testParams;
+  const bool isAgain = std::getenv("RC_PARAMS") != nullptr;
+  if (!isAgain) {
+    parameters.seed = wanted.seed;
+    parameters.disableShrinking = std::getenv("TARVIK_MODEL_NO_SHRINKING") != nullptr;
+    // More than needed: half of the longest is the usual length, and not each step is possible.
+    parameters.maxSuccess = 20 + 6 * wanted.steps / wanted.longestSequence;
+  }
+  Outcome outcome;
+  bool hasFailed = false;  // from then on, sequences are repeated to shrink them
+  const auto isAsTheModel = [&] {
+    const int first = *rc::gen::inRange(0, 1 << 15);
+    const auto actions =
+        *rc::gen::resize(wanted.longestSequence, rc::gen::container<std::vector<Action>>(rc::gen::arbitrary<Action>()));
+    if (!hasFailed && !isAgain && outcome.steps >= wanted.steps) return;
+    const Told told = run(first, actions);
+    outcome.steps += told.steps;
+    if (told.difference.empty()) return;
+    hasFailed = true;
+    RC_FAIL(told.difference + Numbered(told.log));
+  };
+  const auto result = rc::detail::checkTestable(isAsTheModel, rc::detail::TestMetadata{}, parameters);
+  if (!result.template is<rc::detail::SuccessResult>()) {
+    std::ostringstream text;
+    rc::detail::printResultMessage(result, text);
+    text << "\nagain with RC_PARAMS=\"seed=" << parameters.seed << " max_success=" << parameters.maxSuccess << "\"";
+    outcome.failure = text.str();
+  } else if (!isAgain && outcome.steps < wanted.steps) {
+    outcome.failure = "only " + std::to_string(outcome.steps) + " steps";
+  }
+  return outcome;
+}
+
+}  // namespace tarvik::model

@@ -40,6 +40,8 @@ inline constexpr Words added{"# Icons Added. Double click an icon for enhanced v
                              "#个图标被加入列表.双击图标可以浏览.", "#個圖示被加入列表.雙擊圖示可以流覽."};
 inline constexpr Words firstSelected{"Icon No 1 Selected.", "选中NO.1 图标.", "選中NO.1 圖示."};
 inline constexpr Words selected{"Icon No # Selected.", "选中 NO.# 图标.", "選中 NO.# 圖示."};
+inline constexpr Words tipIndex{"\r\nIndex #", "\r\n索引 #", "\r\n索引 #"};
+inline constexpr Words cannotRead{"The folder cannot be read:\r\n#", "无法读取文件夹：\r\n#", "無法讀取資料夾：\r\n#"};
 inline constexpr Words noIcons{"# ... contains no icons.", "#中没有图标.", "#中沒有圖示."};
 inline constexpr Words raiseLimit{
     "Found # icons.\r\nOnce search only support Maximum @ icons!\r\nTry again after increasing  icons number of list.",
