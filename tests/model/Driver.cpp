@@ -10,6 +10,7 @@ namespace tarvik::model {
 namespace {
 
 constexpr UINT tick = WM_APP + 1;
+constexpr UINT caretTimer = 0x0118;  // the message by which the system makes a caret blink
 constexpr UINT_PTR watchTimer = 1;
 constexpr UINT_PTR retryTimer = 2;
 constexpr UINT watchPeriod = 1000;     // ms
@@ -127,7 +128,8 @@ bool Driver::IsSettled() {
   const auto isEmpty = [] {
     MSG message;
     constexpr UINT peek = PM_NOREMOVE | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE;
-    return PeekMessageW(&message, nullptr, 0, 0, peek) == FALSE || message.message == WM_TIMER;
+    return PeekMessageW(&message, nullptr, 0, 0, peek) == FALSE || message.message == WM_TIMER ||
+           message.message == caretTimer;
   };
   if (!isEmpty()) return false;
   if ((HIWORD(GetQueueStatus(QS_PAINT)) & QS_PAINT) == 0) return true;

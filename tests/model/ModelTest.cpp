@@ -16,8 +16,8 @@ namespace tarvik::model {
 namespace {
 
 // Steps in one run of the tests, in all parts together. TARVIK_MODEL_STEPS sets another total.
-constexpr int usualSteps = 50000;
-constexpr int parts = 4;
+constexpr int usualSteps = 24000;
+constexpr int parts = 8;
 constexpr int longestSequence = 300;
 
 int WantedSteps() {
