@@ -98,6 +98,10 @@ bool Driver::Drop(const Action& action) {
                                         "C:\\empty",
                                         "Q:\\gone\\other.ico"};
   std::vector<std::string> paths{all[action.a % 14]};
+  // Sometimes a file of the shown folder, which the list may not have yet.
+  const std::vector<std::string> files = disk_.Files(model_.folder, "*.*");
+  if (action.b % 4 == 1 && !files.empty())
+    paths.front() = Joined(model_.folder, files[static_cast<std::size_t>(action.c) % files.size()]);
   if (action.b % 3 == 0) paths.emplace_back(all[action.c % 14]);
   Note(paths.front() + (paths.size() > 1 ? " and another" : ""));
   model_.Drop(paths);

@@ -13,9 +13,9 @@
 namespace tarvik::end_to_end {
 namespace {
 
-constexpr int parts = 4;
-constexpr int stepsOfPart = 300;
-constexpr int longestSequence = 200;
+constexpr int parts = 8;
+constexpr int stepsOfPart = 150;
+constexpr int longestSequence = 120;
 
 // Each part has its own random seed.
 class FinishedProgramModel : public ::testing::TestWithParam<std::uint64_t> {};
