@@ -97,6 +97,11 @@ std::vector<std::string> Disk::Files(const std::string& folder, const std::strin
   return names;
 }
 
+bool Disk::InAnyCase::operator()(const std::string& one, const std::string& other) const {
+  const auto upper = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
+  return std::ranges::lexicographical_compare(one, other, {}, upper, upper);
+}
+
 std::vector<std::string> Disk::SubFolders(const std::string& folder) const {
   std::vector<std::string> paths;
   for (const auto& [path, files] : folders_) {

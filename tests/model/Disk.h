@@ -58,7 +58,11 @@ class Disk {
   void RemoveFolder(const std::string& path) { folders_.erase(path); }
 
  private:
-  using Folder = std::map<std::string, MadeFile>;
+  // By name in any case, as the system lists and finds files.
+  struct InAnyCase {
+    bool operator()(const std::string& one, const std::string& other) const;
+  };
+  using Folder = std::map<std::string, MadeFile, InAnyCase>;
 
   std::map<std::string, Folder> folders_;
   int nextId_ = 1;
