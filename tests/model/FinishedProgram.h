@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <shellapi.h>
 
 #include <algorithm>
 #include <array>
@@ -253,9 +254,10 @@ class FinishedProgram {
     for (const auto& [path, file] : model_.written) {
       const bool isThere = Eventually([&] { return !support::ReadAll(path).empty(); });
       if (!isThere) boxDifference_ += "not written: " + path + "\n";
-      // A saved icon file is found by the next search.
+      // The next search finds as many icons in it as the shell does: in some saved files none.
       const auto slash = path.rfind('\\');
-      disk_.Put(path.substr(0, slash), path.substr(slash + 1), 1);
+      const UINT icons = ExtractIconExA(path.c_str(), -1, nullptr, nullptr, 0);
+      disk_.Put(path.substr(0, slash), path.substr(slash + 1), static_cast<int>(icons));
     }
     if (!model_.written.empty()) model_.listsAreStale = true;
     model_.written.clear();
