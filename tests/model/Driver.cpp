@@ -229,7 +229,6 @@ bool Driver::Do(const Action& action) {
       {10, "Click the list", &Driver::ClickList},
       {2, "Double-click the list", &Driver::DoubleClickList},
       {1, "Select all rows", &Driver::SelectAll},
-      {6, "Open a row's menu", &Driver::OpenRowMenu},
       {4, "Press a shortcut", &Driver::PressShortcut},
       {3, "Invert the selection", &Driver::Invert},
       {3, "Change the labels", &Driver::Labels},
