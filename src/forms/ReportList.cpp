@@ -30,6 +30,7 @@ void ReportList::Attach(HWND listView) {
   columns_ = 0;
   growing_ = -1;
   extraWidth_ = 0;
+  anchor_ = -1;
   bold_ = BoldFontOf(window_);
   ListView_SetExtendedListViewStyle(window_, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
   SetWindowSubclass(window_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
@@ -150,6 +151,7 @@ void ReportList::SetFocusedRow(int row) {
   settingSelection_ = true;
   ListView_SetItemState(window_, row, LVIS_FOCUSED, LVIS_FOCUSED);
   ListView_SetSelectionMark(window_, row);
+  anchor_ = row;
   settingSelection_ = false;
 }
 
@@ -214,7 +216,9 @@ void ReportList::TellChoice() {
   choicePending_ = false;
   const bool nothingSelected = ListView_GetSelectedCount(window_) == 0;
   choice_.row = nothingSelected && !choice_.ctrl ? -1 : ListView_GetNextItem(window_, -1, LVNI_FOCUSED);
-  choice_.anchor = ListView_GetSelectionMark(window_);
+  // With Ctrl and Shift together Wine's control can move its own mark to the row that was clicked.
+  if (!choice_.shift) anchor_ = ListView_GetSelectionMark(window_);
+  choice_.anchor = anchor_;
   choose(choice_);
 }
 

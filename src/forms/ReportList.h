@@ -99,6 +99,7 @@ class ReportList {
   int growingWidth_ = 0;  // of that column without the extra width, in display pixels
   int extraWidth_ = 0;
   FontHandle bold_;
+  int anchor_ = -1;  // the row from which Shift extends the selection, -1 for none
   bool settingSelection_ = false;
   bool choicePending_ = false;
   Choice choice_;

@@ -144,6 +144,8 @@ TEST(ShellIcons, ReadsLittleOfALargeModule) {
   ShellIcons icons([&](const std::string& path) { return std::make_unique<CountedBytes>(path, bytesRead); },
                    support::ShellWithoutModules);
   const support::ModuleBytes module = support::MakeModule(support::PlainIcons(20));
+  // The first icon of a process also opens handles that the system keeps.
+  EXPECT_EQ(icons.ExtractGroup(folder.MakeSparseFile("first.icl", module, megabyte), 0, 20).size(), 20U);
   for (const char* name : {"a.icl", "a.exe", "a.dll", "a.ocx"}) {
     const std::string path = folder.MakeSparseFile(name, module, 5 * 1024 * megabyte);
     bytesRead = 0;
