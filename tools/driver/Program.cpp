@@ -259,7 +259,9 @@ Box Program::WaitForBox() const {
 }
 
 int Program::CountWindows() const {
-  return static_cast<int>(TopWindows().size());
+  // Not tool tips: one comes up by itself if the pointer rests.
+  return static_cast<int>(
+      std::ranges::count_if(TopWindows(), [](Control window) { return ClassOf(window.Window()) != TOOLTIPS_CLASSW; }));
 }
 
 RECT Program::Extent() const {
