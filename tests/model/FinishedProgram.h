@@ -122,11 +122,13 @@ class FinishedProgram {
   }
   void Find(const Action& /*action*/) {
     model_.Find();
-    program_.Item(FrmFindIcon_CmdFind).Press();
+    const Control find = program_.Item(FrmFindIcon_CmdFind);
     if (model_.Foremost() != Front::Box) {
-      Eventually([this] { return Title() == model_.title && IsEnabled(FrmFindIcon_CmdOk); });
+      // Sent, so that the search is over then: the windows can look as if it were before it begins.
+      find.Send(BM_CLICK);
       return;
     }
+    find.Press();
     const Box box = program_.WaitForBox();
     boxDifference_ = box.Title() == model_.box.title ? "" : "box's title: " + box.Title() + "\n";
     model_.AnswerBox();
@@ -250,7 +252,6 @@ class FinishedProgram {
     } else {
       chooser.Cancel();
     }
-    Eventually([this] { return program_.Window().IsEnabled() && Status() == model_.status; });
     for (const auto& [path, file] : model_.written) {
       const bool isThere = Eventually([&] { return !support::ReadAll(path).empty(); });
       if (!isThere) boxDifference_ += "not written: " + path + "\n";
@@ -259,6 +260,8 @@ class FinishedProgram {
       const UINT icons = ExtractIconExA(path.c_str(), -1, nullptr, nullptr, 0);
       disk_.Put(path.substr(0, slash), path.substr(slash + 1), static_cast<int>(icons));
     }
+    // The status looks like this before the first file is written, too.
+    Eventually([this] { return program_.Window().IsEnabled() && Status() == model_.status; });
     if (!model_.written.empty()) model_.listsAreStale = true;
     model_.written.clear();
   }

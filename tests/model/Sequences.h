@@ -2,8 +2,11 @@
 
 #include <rapidcheck.h>
 
+#include <chrono>
 #include <cstdint>
 #include <cstdlib>
+#include <iostream>
+#include <optional>
 #include <ostream>
 #include <sstream>
 #include <string>
@@ -54,8 +57,12 @@ struct Outcome {
   std::string failure;  // empty if there is none
 };
 
-// Runs random sequences until they have performed the wanted number of steps. Shrinks one that fails. RC_PARAMS in the
-// environment replaces the seed and the number of sequences.
+// How long a sequence that fails is shrunk: then the shortest one found so far is reported, well before the test's
+// time-out.
+inline constexpr std::chrono::minutes maxShrinking{3};
+
+// Runs random sequences until they have performed the wanted number of steps. Prints the first that fails, and shrinks
+// it. RC_PARAMS in the environment replaces the seed and the number of sequences.
 template <typename Run>
 Outcome RunSequences(const Wanted& wanted, Run run) {
   rc::detail::TestParams parameters = rc::detail::configuration().testParams;
@@ -67,17 +74,22 @@ Outcome RunSequences(const Wanted& wanted, Run run) {
     parameters.maxSuccess = 20 + 6 * wanted.steps / wanted.longestSequence;
   }
   Outcome outcome;
-  bool hasFailed = false;  // from then on, sequences are repeated to shrink them
+  using Clock = std::chrono::steady_clock;
+  std::optional<Clock::time_point> failedAt;  // from then on, sequences are repeated to shrink the one that failed
   const auto isAsTheModel = [&] {
     const int first = *rc::gen::inRange(0, 1 << 15);
     const auto actions =
         *rc::gen::resize(wanted.longestSequence, rc::gen::container<std::vector<Action>>(rc::gen::arbitrary<Action>()));
-    if (!hasFailed && !isAgain && outcome.steps >= wanted.steps) return;
+    if (!failedAt && !isAgain && outcome.steps >= wanted.steps) return;
+    if (failedAt && Clock::now() - *failedAt > maxShrinking) return;
     const Told told = run(first, actions);
     outcome.steps += told.steps;
     if (told.difference.empty()) return;
-    hasFailed = true;
-    RC_FAIL(told.difference + Numbered(told.log));
+    const std::string failure = told.difference + Numbered(told.log);
+    // Printed at once: what depends on the timing does not fail a second time.
+    if (!failedAt) std::cout << "failed, and is shrunk now:\n" << failure << std::endl;
+    if (!failedAt) failedAt = Clock::now();
+    RC_FAIL(failure);
   };
   const auto result = rc::detail::checkTestable(isAsTheModel, rc::detail::TestMetadata{}, parameters);
   if (!result.template is<rc::detail::SuccessResult>()) {
