@@ -109,6 +109,7 @@ void Form::Close() {
 void Form::Release() {
   application_.Remove(*this);
   window_ = nullptr;
+  if (std::exchange(isMoving_, false)) PostThreadMessageW(GetCurrentThreadId(), WM_KEYDOWN, VK_ESCAPE, 0);
 }
 
 HWND Form::Item(int id) const {
@@ -267,6 +268,8 @@ INT_PTR Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SIZE:
       Form_Resize();
       return FALSE;
+    case WM_SYSCOMMAND:
+      return MoveOrSize(wParam, lParam);
     case WM_GETMINMAXINFO:
       return Bound(*reinterpret_cast<MINMAXINFO*>(lParam));
     case WM_CLOSE:
@@ -311,6 +314,17 @@ void Form::PassOn(UINT message) const {
 INT_PTR Form::Answer(LRESULT result) {
   if (IsLoaded()) SetWindowLongPtrW(window_, DWLP_MSGRESULT, result);
   return TRUE;
+}
+
+// While the user moves or sizes a window, the system serves all messages, WM_CLOSE among them. Wine's loop for it goes
+// on after the window is destroyed, until a key ends it: see Release.
+INT_PTR Form::MoveOrSize(WPARAM command, LPARAM lParam) {
+  constexpr WPARAM withoutPart = 0xFFF0;  // the low bits say where the mouse holds the window
+  if ((command & withoutPart) != SC_MOVE && (command & withoutPart) != SC_SIZE) return FALSE;
+  isMoving_ = true;
+  DefWindowProcW(window_, WM_SYSCOMMAND, command, lParam);
+  isMoving_ = false;
+  return Answer(0);
 }
 
 INT_PTR Form::Bound(MINMAXINFO& bounds) {

@@ -157,6 +157,7 @@ class Form : NonCopyable {
   bool TakesMessage(const MSG& message);
   void SetIcons();
   void FocusFirst();
+  INT_PTR MoveOrSize(WPARAM command, LPARAM lParam);
   INT_PTR Bound(MINMAXINFO& bounds);
   INT_PTR Paint();
   void Close();
@@ -168,6 +169,7 @@ class Form : NonCopyable {
   HWND window_ = nullptr;
   HWND modalOwner_ = nullptr;  // the window that is disabled while this one is shown modally
   bool wentWithOwner_ = false;
+  bool isMoving_ = false;           // the user is moving or sizing the window, in a message loop of the system
   std::exception_ptr loadFailure_;  // what Form_Load threw, until the system has created the window
   Menu menu_;
 };

@@ -1,5 +1,5 @@
-// How the program ends while another window of its own, a system dialog or a message is open over the main window, or
-// while it searches: by a request to close the main window, and by the end of the session.
+// How the program ends while another window of its own, a system dialog or a message is open over the main window,
+// while the user moves it, or while it searches: by a request to close the main window, and by the end of the session.
 
 #include <windows.h>
 
@@ -97,6 +97,12 @@ class EndingOver : public Ending, public ::testing::WithParamInterface<std::stri
   }
 
  private:
+  static bool IsMovedOrSized(Control window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetWindowThreadProcessId(window.Window(), nullptr), &info) != FALSE &&
+           info.hwndMoveSize == window.Window();
+  }
   // What leaves the main window enabled.
   bool OpenMenuOrList(const std::string& name) {
     const Control window = program_.Window();
@@ -113,6 +119,11 @@ class EndingOver : public Ending, public ::testing::WithParamInterface<std::stri
       const Control sizes = program_.Item(FrmFindIcon_CboIconSize);
       sizes.Send(CB_SHOWDROPDOWN, TRUE);
       EXPECT_NE(sizes.Send(CB_GETDROPPEDSTATE), FALSE);
+      return true;
+    } else if (name == "Moving" || name == "Sizing") {
+      window.Post(WM_SYSCOMMAND, name == "Moving" ? SC_MOVE : SC_SIZE);
+      if (name == "Sizing") window.Post(WM_KEYDOWN, VK_RIGHT);  // chooses the edge
+      EXPECT_TRUE(Eventually([&] { return IsMovedOrSized(window); }));
       return true;
     } else {
       return false;
@@ -226,9 +237,9 @@ TEST_P(EndingOver, TheSessionEndsAndNothingIsWritten) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EachOfThem, EndingOver,
-                         ::testing::Values("Menu", "WindowMenu", "ListMenu", "SizeList", "AboutBox", "EnhancedView",
-                                           "SlideShow", "ZoomListOfTheView", "Hint", "RunTimeError", "NoIcons",
-                                           "FolderChooser", "NewFolder", "HotSpotPicker", "SaveDialog",
+                         ::testing::Values("Menu", "WindowMenu", "ListMenu", "SizeList", "Moving", "Sizing", "AboutBox",
+                                           "EnhancedView", "SlideShow", "ZoomListOfTheView", "Hint", "RunTimeError",
+                                           "NoIcons", "FolderChooser", "NewFolder", "HotSpotPicker", "SaveDialog",
                                            "OverwriteQuestion", "JpegOptions", "JpegComment", "GifOptions",
                                            "GifOptionsOfABatch", "Failure"),
                          [](const auto& row) { return row.param; });
