@@ -82,9 +82,13 @@ Existing LookAt(const std::wstring& path) {
   return existing;
 }
 
+// It must share the file with a program that writes it, so with another copy of this one, too: the lock keeps that
+// away.
 FileHandle OpenInPlace(const std::wstring& path) {
   constexpr DWORD withOthers = FILE_SHARE_READ | FILE_SHARE_WRITE;
-  return FileHandle(CreateFileW(path.c_str(), GENERIC_WRITE, withOthers, nullptr, TRUNCATE_EXISTING, 0, nullptr));
+  FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, withOthers, nullptr, OPEN_EXISTING, 0, nullptr));
+  if (file && (LockFile(file.get(), 0, 0, MAXDWORD, MAXDWORD) == 0 || SetEndOfFile(file.get()) == 0)) file.reset();
+  return file;
 }
 
 // Removes the existing file from its name and opens an empty one there: steps 2 to 5 (see DiskFile).

@@ -20,9 +20,9 @@ namespace tarvik {
 //  3. A new, empty file is moved over the existing one. The existing one is not deleted first: Wine deletes a link's
 //     target instead of the link, and a file that another program has open keeps its name until that program closes it.
 //     A move replaces the link itself, preserves the other names of a file, and fails if the file is open elsewhere.
-//  4. If the move fails, a file that can still be written is truncated and written in place: one that another program
-//     has open and shares for writing, or one in a folder where no file can be created. A link is not: its target was
-//     not meant.
+//  4. If the move fails, a file that can still be written is locked, truncated and written in place: one that another
+//     program has open and shares for writing, or one in a folder where no file can be created. A link is not: its
+//     target was not meant.
 //  5. If that fails too, the file is unchanged, and gets its read-only attribute back.
 //
 // Nothing is ever deleted by name, so two copies of the program never remove each other's file. The open file is not

@@ -93,6 +93,23 @@ TEST(DiskFile, LeavesAFileThatAnotherCopyOfTheProgramIsWriting) {
   EXPECT_EQ(Folders().Files(folder.Path(), "*.*"), std::vector<std::string>{"a.jpg"}) << "and leaves nothing beside it";
 }
 
+// Both must share a file that a third program has open; their bytes once ended up in one file.
+TEST(DiskFile, LeavesAFileThatAnotherCopyIsWritingInPlace) {
+  const TemporaryFolder folder;
+  const std::string path = folder.MakeFile("a.ico", std::string(100, 'f'));
+  const FileHandle third(CreateFileW(ToWide(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                     OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(third);
+  DiskFile first;
+  ASSERT_TRUE(first.Open(path, ReadOnlyFile::Refused));
+  EXPECT_FALSE(WriteWhole(path, "a longer file", ReadOnlyFile::Refused));
+  ASSERT_TRUE(first.Write(BytesOf("first")));
+  EXPECT_TRUE(first.Close());
+  EXPECT_EQ(ReadAll(path), "first");
+  EXPECT_TRUE(WriteWhole(path, "second"));
+  EXPECT_EQ(ReadAll(path), "second");
+}
+
 TEST(DiskFile, LeavesWhatWasWrittenOfAFileThatIsNotFinished) {
   const TemporaryFolder folder;
   const std::string path = folder.MakeFile("a.jpg", "former");

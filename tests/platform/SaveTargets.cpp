@@ -63,14 +63,21 @@ constexpr std::array rows{
     Row{"a link to a file held, to be read and written", Kind::Link, false, readable | writable, false, false},
 };
 
+// What a file that must not change contains. It is longer than any file that is saved over it.
+const std::string& KeptText() {
+  static const std::string text = std::string(20'000, 'k') + "kept";
+  return text;
+}
+
 const Row& RowOf(int number) {
   return rows.at(static_cast<std::size_t>(number) - 1);
 }
 
 void WriteKept(const std::string& path) {
   const FileHandle file(CreateFileW(LiteralPath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
+  const std::string& text = KeptText();
   DWORD written = 0;
-  EXPECT_NE(WriteFile(file.get(), "kept", 4, &written, nullptr), 0) << path;
+  EXPECT_NE(WriteFile(file.get(), text.data(), static_cast<DWORD>(text.size()), &written, nullptr), 0) << path;
 }
 
 bool LeadsElsewhere(Kind kind) {
@@ -147,7 +154,7 @@ std::string SaveTargets::Kept(int number) const {
   return LeadsElsewhere(RowOf(number).kind) ? JoinPath(elsewhere_, std::to_string(number)) : Path(number);
 }
 
-// The file with the text "kept".
+// The file with the text to be kept.
 std::string SaveTargets::KeptFile(int number) const {
   return IsKeptFolder(RowOf(number).kind) ? JoinPath(Kept(number), "inside") : Kept(number);
 }
@@ -194,7 +201,9 @@ void SaveTargets::ExpectSaved(const std::string& start, ReadOnlyFile readOnly) {
     const Row& row = RowOf(number);
     const std::string path = Path(number);
     if (TakesAFile(number, readOnly)) {
-      EXPECT_THAT(ReadAll(path), ::testing::StartsWith(start)) << row.what;
+      const std::string saved = ReadAll(path);
+      EXPECT_EQ(saved.substr(0, start.size()), start) << row.what;
+      EXPECT_FALSE(saved.ends_with("kept")) << row.what << ": the end of the file before";
       EXPECT_EQ(AttributesOf(path) & FILE_ATTRIBUTE_READONLY, 0U) << row.what;
     }
     if (row.kind == Kind::LinkToFolder || row.kind == Kind::LinkToPipe) Run("test -h " + UnixTarget(number));
@@ -205,7 +214,7 @@ void SaveTargets::ExpectSaved(const std::string& start, ReadOnlyFile readOnly) {
     const bool stays =
         LeadsElsewhere(row.kind) || IsKeptFolder(row.kind) || (row.kind == Kind::File && !TakesAFile(number, readOnly));
     if (!stays) continue;
-    EXPECT_EQ(ReadAll(KeptFile(number)), "kept") << row.what;
+    EXPECT_TRUE(ReadAll(KeptFile(number)) == KeptText()) << row.what;
     EXPECT_EQ((AttributesOf(Kept(number)) & FILE_ATTRIBUTE_READONLY) != 0, row.readOnly) << row.what;
   }
   EXPECT_THAT(NamesIn(folder_), ::testing::UnorderedElementsAreArray(names_));

@@ -11,7 +11,7 @@
 namespace tarvik::support {
 
 // One of each thing that can be at the path of a file to be saved, and the expected result. Files that must not change
-// contain the text "kept".
+// end with the text "kept".
 class SaveTargets : NonCopyable {
  public:
   // Makes the targets in an empty folder; `nameOf` gives the name of each, counted from 1. Links lead to a second,
