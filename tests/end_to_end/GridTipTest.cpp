@@ -45,9 +45,12 @@ TEST_F(GridTip, ShowsFileAndIndexOfTheIconUnderThePointer) {
 }
 
 TEST_F(GridTip, ShowsTheWholeOfALongPathOnTheScreen) {
-  std::string folder;
-  for (int depth = 0; depth < 8; ++depth) {
-    folder += (folder.empty() ? "" : "\\") + std::string("a folder with a long name");
+  const std::string name = "a folder with a long name";
+  std::string folder = name;
+  tree_.MakeFolder(folder);
+  // As deep as a path may be below this system's temporary folder.
+  while (In(folder + "\\" + name + "\\a.ico").size() < MAX_PATH) {
+    folder += "\\" + name;
     tree_.MakeFolder(folder);
   }
   tree_.MakeFile(folder + "\\a.ico", support::IconFileOf(0xFF));
