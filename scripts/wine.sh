@@ -43,7 +43,8 @@ lock_wine() {
   wineserver -k >/dev/null 2>&1 9>&- || true
 }
 
-# start_display [WIDTHxHEIGHTxDEPTH]: starts a virtual display; sets DISPLAY.
+# start_display [WIDTHxHEIGHTxDEPTH]: starts a virtual display; sets DISPLAY. Its number is used neither here nor on a bare
+# machine: servers also listen on an abstract socket, and these belong to the network, which bare machines share.
 start_display() {
   local screen=${1:-1280x960x24} number_file
   display_size=${screen%x*}
