@@ -15,6 +15,10 @@ namespace {
 
 class FrmFindIconTipTest : public support::FindIconFixture {
  protected:
+  void SetUp() override {
+    support::FindIconFixture::SetUp();
+    SetCursorPos(0, 0);  // not over the grid, which would see it
+  }
   // The grid's tool tip control, found among those of the other controls.
   HWND TipOfGrid() const {
     HWND found = nullptr;
