@@ -164,13 +164,13 @@ HRESULT AccessiblePicture::accLocation(LONG* left, LONG* top, LONG* width, LONG*
   if (left == nullptr || top == nullptr || width == nullptr || height == nullptr) return E_POINTER;
   const auto item = ChosenItem();
   if (!item) return S_FALSE;
-  const RECT place = PictureBox::PlaceInWindow(window_, item->bounds);
-  POINT corner{place.left, place.top};
+  const RECT bounds = PictureBox::BoundsInWindow(window_, item->bounds);
+  POINT corner{bounds.left, bounds.top};
   ClientToScreen(window_, &corner);
   *left = corner.x;
   *top = corner.y;
-  *width = place.right - place.left;
-  *height = place.bottom - place.top;
+  *width = bounds.right - bounds.left;
+  *height = bounds.bottom - bounds.top;
   return S_OK;
 }
 

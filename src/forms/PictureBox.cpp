@@ -187,11 +187,11 @@ void PictureBox::Refresh() {
 }
 
 void PictureBox::Invalidate(const RECT& part) {
-  const RECT place = PlaceInWindow(window_, part);
-  InvalidateRect(window_, &place, FALSE);
+  const RECT bounds = BoundsInWindow(window_, part);
+  InvalidateRect(window_, &bounds, FALSE);
 }
 
-RECT PictureBox::PlaceInWindow(HWND window, const RECT& part) {
+RECT PictureBox::BoundsInWindow(HWND window, const RECT& part) {
   const Box* box = BoxOf(window);
   if (box == nullptr) return part;
   const DisplayScale::Range across = box->scale.Showing({part.left, part.right});

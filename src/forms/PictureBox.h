@@ -57,7 +57,7 @@ class PictureBox {
   // Marks this part of the picture for repainting.
   void Invalidate(const RECT& part);
   // The rectangle of a part of the picture in the box `window`, in display pixels of that window.
-  static RECT PlaceInWindow(HWND window, const RECT& part);
+  static RECT BoundsInWindow(HWND window, const RECT& part);
 
  private:
   static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

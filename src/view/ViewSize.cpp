@@ -22,9 +22,9 @@ constexpr const char* defaultWidth = "6645";
 // Writes as many decimals as LeadingNumber needs to read the same number back. (std::to_chars would give the same text,
 // but its tables are a tenth of the program.)
 std::string NumberText(float value) {
-  constexpr int mostDecimals = 149;  // of the smallest number
+  constexpr int maxDecimals = 149;  // of the smallest number
   std::array<char, 200> text{};
-  for (int decimals = 0; decimals <= mostDecimals; ++decimals) {
+  for (int decimals = 0; decimals <= maxDecimals; ++decimals) {
     std::snprintf(text.data(), text.size(), "%.*f", decimals, double{value});
     if (LeadingNumber(text.data()) == value) break;
   }

@@ -93,7 +93,7 @@ int CompareNames(const std::wstring& a, const std::wstring& b, bool ignoreCase) 
 }
 
 // Ordinal, ignoring case; names that differ in case alone, which some file systems allow, are ordered by their codes.
-bool StandsBefore(const std::wstring& a, const std::wstring& b) {
+bool ComesBefore(const std::wstring& a, const std::wstring& b) {
   const int order = CompareNames(a, b, true);
   return order != CSTR_EQUAL ? order == CSTR_LESS_THAN : CompareNames(a, b, false) == CSTR_LESS_THAN;
 }
@@ -133,7 +133,7 @@ std::vector<FoundFolder> FoundFolders(const Folders::Dependencies& dependencies,
     if (!IsSubFolder(entry)) return;
     found.push_back({std::wstring(entry.name), IsLinkOrMount(entry), entry.reparseTag == IO_REPARSE_TAG_MOUNT_POINT});
   });
-  std::ranges::sort(found, StandsBefore, &FoundFolder::name);
+  std::ranges::sort(found, ComesBefore, &FoundFolder::name);
   return found;
 }
 
@@ -151,7 +151,7 @@ std::vector<std::string> Folders::Files(const std::string& folder, const std::st
     // The pattern is matched here and not by the system, which would also match short names.
     if (MatchesPattern(name, pattern)) names.emplace_back(entry.name, std::move(name));
   });
-  std::ranges::sort(names, [](const auto& a, const auto& b) { return StandsBefore(a.first, b.first); });
+  std::ranges::sort(names, [](const auto& a, const auto& b) { return ComesBefore(a.first, b.first); });
 
   std::vector<std::string> files;
   files.reserve(names.size());

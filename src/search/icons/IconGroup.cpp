@@ -48,11 +48,11 @@ bool SuitsBetter(const Distance& one, const Distance& other) {
 
 // The header of a bitmap (BITMAPINFOHEADER) and the offsets of its fields.
 constexpr std::size_t bitmapHeaderSize = 40;
-constexpr std::size_t widthPlace = 4;
-constexpr std::size_t heightPlace = 8;
-constexpr std::size_t bitsPlace = 14;
-constexpr std::size_t compressionPlace = 16;
-constexpr std::size_t usedColorsPlace = 32;
+constexpr std::size_t widthAt = 4;
+constexpr std::size_t heightAt = 8;
+constexpr std::size_t bitsAt = 14;
+constexpr std::size_t compressionAt = 16;
+constexpr std::size_t usedColorsAt = 32;
 constexpr std::uint32_t maxColors = 256;
 
 // A PNG picture starts with its signature and the header's length and type; then its width and height, big-endian.
@@ -76,15 +76,15 @@ std::size_t RowSize(std::size_t width, std::size_t bits) {
 bool HoldsBitmap(std::span<const std::byte> bytes) {
   if (bytes.size() < bitmapHeaderSize) return false;
   const std::size_t headerSize = U32At(bytes, 0);
-  const std::size_t width = U32At(bytes, widthPlace);
-  const std::size_t height = U32At(bytes, heightPlace) / 2;  // the height of picture and mask together is stored
-  const std::size_t bits = U16At(bytes, bitsPlace);
+  const std::size_t width = U32At(bytes, widthAt);
+  const std::size_t height = U32At(bytes, heightAt) / 2;  // the height of picture and mask together is stored
+  const std::size_t bits = U16At(bytes, bitsAt);
   constexpr std::array<std::size_t, 6> depths{1, 4, 8, 16, 24, 32};
   if (headerSize < bitmapHeaderSize || !IsSide(width) || !IsSide(height) ||
-      std::ranges::find(depths, bits) == depths.end() || U32At(bytes, compressionPlace) != 0) {
+      std::ranges::find(depths, bits) == depths.end() || U32At(bytes, compressionAt) != 0) {
     return false;
   }
-  const std::uint32_t used = U32At(bytes, usedColorsPlace);
+  const std::uint32_t used = U32At(bytes, usedColorsAt);
   const std::size_t allColors = bits <= 8 ? std::size_t{1} << bits : 0;
   const std::size_t colors = used == 0 ? allColors : std::min(used, maxColors);
   return headerSize + 4 * colors + height * (RowSize(width, bits) + RowSize(width, 1)) <= bytes.size();
@@ -100,8 +100,8 @@ std::size_t IconGroupSize(std::span<const std::byte> start) {
 std::optional<std::uint16_t> ChoosePicture(std::span<const std::byte> group, const IconWish& wish) {
   const std::size_t end = std::min(IconGroupSize(group), group.size());
   std::optional<Entry> best;
-  for (std::size_t place = iconGroupStartSize; place + iconGroupEntrySize <= end; place += iconGroupEntrySize) {
-    const Entry entry(group.subspan(place, iconGroupEntrySize));
+  for (std::size_t offset = iconGroupStartSize; offset + iconGroupEntrySize <= end; offset += iconGroupEntrySize) {
+    const Entry entry(group.subspan(offset, iconGroupEntrySize));
     if (!best || SuitsBetter(Distance(entry, wish), Distance(*best, wish))) best = entry;
   }
   if (!best) return std::nullopt;

@@ -42,7 +42,7 @@ class NewExecutable {
  private:
   // The position of a resource in the file; all of it lies inside.
   struct Extent {
-    std::uint64_t place;
+    std::uint64_t offset;
     std::uint64_t size;
   };
 

@@ -119,10 +119,10 @@ void FindIconLayout::LayOutLimit(const Form& form) {
   const int shift = bounds.right + space / 2 - BoundsInParent(form.Item(FrmFindIcon_txtMax)).left;
   for (const int id : {FrmFindIcon_txtMax, FrmFindIcon_udMain, FrmFindIcon_SkinLabel2}) {
     const HWND item = form.Item(id);
-    RECT place = BoundsInParent(item);
-    OffsetRect(&place, shift, 0);
-    if (id == FrmFindIcon_SkinLabel2) place.right = place.left + TextWidth(item);
-    Move(item, place);
+    RECT itemBounds = BoundsInParent(item);
+    OffsetRect(&itemBounds, shift, 0);
+    if (id == FrmFindIcon_SkinLabel2) itemBounds.right = itemBounds.left + TextWidth(item);
+    Move(item, itemBounds);
   }
 }
 

@@ -180,7 +180,7 @@ TEST_F(FindIconOnDisplay, APictureHigherThanAWindowIsScrolledToItsEndAndClicked)
   EXPECT_LT(y + corner.y, InsideOf(Item(FrmFindIcon_PicFrame)).cy);
   EXPECT_EQ(GridPixel(Shown(3 + 7 * 70 + 20), y), SmallMachine::ColorOf(icons - 1));
   EXPECT_EQ(Clicked(Shown(7 * 70 + 20), y), icons);
-  const RECT place = PictureBox::PlaceInWindow(Grid(), {1, height - 69, 70, height});
+  const RECT place = PictureBox::BoundsInWindow(Grid(), {1, height - 69, 70, height});
   EXPECT_EQ(place.bottom, Shown(height) - above);
   SendMessageW(window->Window(), WM_VSCROLL, SB_TOP, reinterpret_cast<LPARAM>(Item(FrmFindIcon_Vsb)));
   EXPECT_EQ(GridCorner().y, 0);
