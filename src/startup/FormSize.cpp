@@ -2,19 +2,14 @@
 
 #include <windows.h>
 
-#include "platform/Handles.h"
+#include "platform/Display.h"
 #include "startup/Placement.h"
 
 namespace tarvik {
 
-DotsPerInch DotsPerInchOf(HWND window) {
-  const WindowDc dc(window);
-  return {GetDeviceCaps(dc.get(), LOGPIXELSX), GetDeviceCaps(dc.get(), LOGPIXELSY)};
-}
-
 void SizeInTwips(Form& form, int width, int height) {
-  const auto [across, down] = DotsPerInchOf(form.Window());
-  SetWindowPos(form.Window(), nullptr, 0, 0, ToPixels(width, across), ToPixels(height, down),
+  const int dotsPerInch = DotsOfDisplay();
+  SetWindowPos(form.Window(), nullptr, 0, 0, ToPixels(width, dotsPerInch), ToPixels(height, dotsPerInch),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

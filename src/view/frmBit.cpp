@@ -15,7 +15,6 @@
 #include "platform/Text.h"
 #include "resource.h"
 #include "startup/FormPlacement.h"
-#include "startup/FormSize.h"
 #include "startup/Placement.h"
 #include "view/ViewKeys.h"
 #include "view/ViewSize.h"
@@ -47,8 +46,8 @@ constexpr auto buttonPictures = std::to_array<ButtonPicture>({{168, 40}, {120, 3
 
 constexpr int zoomListGap = 3;  // pixels between toolbar and zoom list at 96 dpi
 
-int ButtonPictureSide(HWND view) {
-  const int dotsPerInch = DotsPerInchOf(view).across;
+int ButtonPictureSide() {
+  const int dotsPerInch = DotsOfDisplay();
   return std::ranges::find_if(buttonPictures, [=](const auto& row) { return dotsPerInch >= row.minDotsPerInch; })->side;
 }
 
@@ -211,7 +210,7 @@ void frmBit::RestartTimer() {
 }
 
 void frmBit::AttachControls() {
-  toolbar_.Attach(Item(frmBit_tlb_control), ButtonPictureSide(Window()), buttons);
+  toolbar_.Attach(Item(frmBit_tlb_control), ButtonPictureSide(), buttons);
   img_ = PictureBox(Item(frmBit_img));
   img_.Show(&enlarged_);
 
@@ -235,7 +234,7 @@ void frmBit::ApplyViewLanguage() {
 
 void frmBit::LoadViewSize() {
   const ViewSize size = ReadViewSize(settings_);
-  const int dotsPerInch = DotsPerInchOf(Window()).across;
+  const int dotsPerInch = DotsOfDisplay();
   SetWindowPos(Window(), nullptr, 0, 0, NearestPixels(size.width, dotsPerInch), NearestPixels(size.height, dotsPerInch),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   basInitEntry::CenterForm(*this);
@@ -259,7 +258,7 @@ void frmBit::SaveViewSize() {
   GetWindowPlacement(Window(), &placement);
   // A minimised window has no useful size; the size to which it is restored is used.
   const SIZE size = IsIconic(Window()) != FALSE ? SizeOf(placement.rcNormalPosition) : WindowSize(Window());
-  const int dotsPerInch = DotsPerInchOf(Window()).across;
+  const int dotsPerInch = DotsOfDisplay();
   WriteViewSize(settings_,
                 {static_cast<float>(ToTwips(size.cy, dotsPerInch)), static_cast<float>(ToTwips(size.cx, dotsPerInch))});
 }
