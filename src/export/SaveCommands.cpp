@@ -40,17 +40,14 @@ std::string UpperExtension(std::string_view path) {
 // Shows the hourglass and the progress text during its lifetime; then restores the former status text.
 class SaveCommands::Saving : NonCopyable {
  public:
-  explicit Saving(SaveCommands& commands)
-      : window_(commands.window_), hourglass_(window_.ShowHourglass()), formerStatus_(window_.StatusText()) {
+  explicit Saving(SaveCommands& commands) : hourglass_(commands.window_.ShowHourglass()) {
     if (const auto text = Pick(saveTexts::progress, commands.state_.CurrentLanguage))
-      window_.SetStatusText(std::string(*text));
+      status_ = commands.window_.ShowStatus(std::string(*text));
   }
 
  private:
-  SaveWindow& window_;
   Finally hourglass_;
-  std::string formerStatus_;
-  Finally putsStatusBack_{[this] { window_.SetStatusText(formerStatus_); }};
+  Finally status_;
 };
 
 bool SaveCommands::RenderCurrent() {

@@ -27,9 +27,10 @@ class SaveWindow {
   // The picture of PicIcon magnified, at the top-left corner of a square of MagnifiedSide.
   virtual const PixelView& PicMain() = 0;
 
-  virtual std::string StatusText() const = 0;  // panel 1 of sbMain
-  virtual void SetStatusText(const std::string& text) = 0;
-  virtual Finally ShowHourglass() = 0;  // the former pointer is restored when the returned object is destroyed
+  // Show the text in panel 1 of sbMain, and the hourglass; what was there before is restored when the returned object
+  // is destroyed.
+  virtual Finally ShowStatus(const std::string& text) = 0;
+  virtual Finally ShowHourglass() = 0;
   virtual void ShowMessage(const std::string& text, MessageKind kind) = 0;
 
   virtual void SetProgress(const Progress& progress) = 0;  // progress of a batch

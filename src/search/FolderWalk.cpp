@@ -5,8 +5,7 @@
 
 namespace tarvik {
 
-FolderWalk::FolderWalk(const SearchWindow& window, SearchFolders& folders, std::string root)
-    : window_(window), folders_(folders), root_(std::move(root)) {}
+FolderWalk::FolderWalk(SearchFolders& folders, std::string root) : folders_(folders), root_(std::move(root)) {}
 
 bool FolderWalk::Next() {
   if (!hasBegun_) {
@@ -26,7 +25,7 @@ bool FolderWalk::Next() {
 }
 
 void FolderWalk::ReadSubFolders(OpenFolder& folder) {
-  if (!window_.chkSubDir()) return;
+  if (!folders_.chkSubDir()) return;
   folders_.SetDir1Path(folder.path);
   folder.subFolders = folders_.Dir1SubFolders();
 }

@@ -5,12 +5,11 @@
 #include <vector>
 
 #include "search/SearchFolders.h"
-#include "search/SearchWindow.h"
 
 namespace tarvik {
 
 // Walks a folder tree depth-first: enters a folder, walks its sub-folders in the same way, then leaves it. Whether
-// sub-folders are walked depends on the window's chkSubDir, which is read in each folder after it is entered. The list
+// sub-folders are walked depends on chkSubDir, which is read in each folder after it is entered. The list
 // of sub-folders is read once. Dir1 is pointed back at the parent folder before each of them, because the walk through
 // the one before moved it.
 //
@@ -18,8 +17,8 @@ namespace tarvik {
 // folder identities are not queried until the walk meets a mounted volume.
 class FolderWalk {
  public:
-  // Window and folders outlive the walk.
-  FolderWalk(const SearchWindow& window, SearchFolders& folders, std::string root);
+  // The folders outlive the walk.
+  FolderWalk(SearchFolders& folders, std::string root);
 
   // Enters the next folder, or leaves the one that was entered last and not left yet; false at the end of the walk.
   bool Next();
@@ -41,7 +40,6 @@ class FolderWalk {
   bool EnterSubFolder();  // the next one; false if there is none
   bool LeadsBack(const std::string& folder);
 
-  const SearchWindow& window_;
   SearchFolders& folders_;
   std::string root_;
   // Outermost first. A list instead of recursion, because folders can be nested deeper than the call stack allows.

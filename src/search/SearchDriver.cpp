@@ -124,12 +124,12 @@ void SearchDriver::FailureExit() {
 
 // With sub-folders a pass starts at Dir1's folder.
 FolderWalk SearchDriver::WalkOverScope() {
-  return {window_, folders_, window_.chkSubDir() ? folders_.Dir1Path() : folders_.File1Path()};
+  return {folders_, folders_.chkSubDir() ? folders_.Dir1Path() : folders_.File1Path()};
 }
 
 // With sub-folders a pass moves Dir1; it is restored when the returned object is destroyed.
 Finally SearchDriver::KeepDir1() {
-  if (!window_.chkSubDir()) return {};
+  if (!folders_.chkSubDir()) return {};
   state_.SavedDirPath = folders_.Dir1Path();
   return Finally([this] { folders_.SetDir1Path(std::exchange(state_.SavedDirPath, {})); });
 }
@@ -145,7 +145,7 @@ void SearchDriver::CountIcons() {
 }
 
 void SearchDriver::CountFilesOf(const std::string& folder) {
-  if (window_.chkSubDir()) folders_.SetFile1Path(folder);
+  if (folders_.chkSubDir()) folders_.SetFile1Path(folder);
   const std::string shown = folders_.File1Path();
   for (const std::string& name : folders_.File1Names()) {
     AtFile(PathOf(shown, name), [this](const std::string& path) { CountIconsOfFile(path); });
@@ -188,7 +188,7 @@ void SearchDriver::ListIcons() {
 }
 
 void SearchDriver::ListFilesOf(const std::string& folder) {
-  if (window_.chkSubDir()) folders_.SetFile1Path(folder);
+  if (folders_.chkSubDir()) folders_.SetFile1Path(folder);
   grid_.Size(state_.Geometry, state_.IconCount);
   window_.DoEvents();
   const int limit = ToInteger16(window_.txtMax());

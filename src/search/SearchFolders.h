@@ -7,11 +7,13 @@
 
 namespace tarvik {
 
-// The main window's folder list Dir1 and file list File1, which a walk moves. Paths and names are UTF-8.
+// The folders that a search looks into: the main window's folder list Dir1 and file list File1, which a walk moves, and
+// the option for sub-folders. Paths and names are UTF-8.
 class SearchFolders {
  public:
   virtual ~SearchFolders() = default;
 
+  virtual bool chkSubDir() const = 0;  // the current option; the user can change it during a search
   virtual std::string Dir1Path() const = 0;
   // Also points File1 at that folder, as every change of Dir1 does.
   virtual void SetDir1Path(const std::string& folder) = 0;

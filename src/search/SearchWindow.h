@@ -11,8 +11,8 @@ namespace tarvik {
 // Controls and menus that a search enables and disables.
 enum class SearchControl { CmdFind, CmdOk, CmdClose, mnuFile, mnuEdit };
 
-// The interface of the main window that a search uses, apart from its grid and its folder lists: options, texts and the
-// list of icons. Texts are UTF-8.
+// The interface of the main window that a search uses, apart from its grid and its folder lists: the limit, texts and
+// the list of icons. Texts are UTF-8.
 class SearchWindow {
  public:
   virtual ~SearchWindow() = default;
@@ -20,9 +20,7 @@ class SearchWindow {
   virtual void CloseEnhancedView() = 0;
   virtual void Enable(SearchControl control, bool enabled) = 0;
 
-  // The current options; the user can change them during a search.
-  virtual bool chkSubDir() const = 0;
-  virtual std::string txtMax() const = 0;
+  virtual std::string txtMax() const = 0;  // the current limit; the user can change it during a search
 
   // Texts. The window shows them unchanged.
   virtual void SetCaption(const std::string& text) = 0;

@@ -67,8 +67,7 @@ TEST_F(SaveCommandsTest, ShowsNoTextOfALanguageThatIsNone) {
   dialogs.path = "D:\\a.ico";
   files.refused = {dialogs.path};
   commands.mnuSaveAs_Click();
-  EXPECT_THAT(script, ElementsAre("render 1", "hourglass", "ask - Save As", "refused D:\\a.ico", "status standing",
-                                  "pointer back"));
+  EXPECT_THAT(script, ElementsAre("render 1", "hourglass", "ask - Save As", "refused D:\\a.ico", "pointer back"));
 }
 
 TEST_F(SaveCommandsTest, DoesNothingWithoutACurrentEntry) {

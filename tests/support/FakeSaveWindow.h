@@ -39,10 +39,10 @@ class FakeSaveWindow final : public SaveWindow {
   const PixelView& PicImage() const override { return image_; }
   const PixelView& PicIcon() const override { return icon_; }
   const PixelView& PicMain() override { return magnified_; }
-  std::string StatusText() const override { return status; }
-  void SetStatusText(const std::string& text) override {
-    script_.push_back("status " + text);
-    status = text;
+  Finally ShowStatus(const std::string& text) override {
+    Finally restores([this, former = status] { SetStatus(former); });
+    SetStatus(text);
+    return restores;
   }
   Finally ShowHourglass() override {
     script_.emplace_back("hourglass");
@@ -75,6 +75,11 @@ class FakeSaveWindow final : public SaveWindow {
   std::vector<int> heldWhenServed;  // `held` at each ServePainting
 
  private:
+  void SetStatus(const std::string& text) {
+    script_.push_back("status " + text);
+    status = text;
+  }
+
   Script& script_;
   bool rendersAsSet_ = false;
   TestRaster mask_{2, 2};

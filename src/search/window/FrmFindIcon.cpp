@@ -70,8 +70,8 @@ void FrmFindIcon::Form_Load() {
 }
 
 void FrmFindIcon::AttachControls() {
-  chkSubDir_ = Item(FrmFindIcon_chkSubDir);
-  folders_.Attach(Item(FrmFindIcon_Drive1), Item(FrmFindIcon_Dir1), Item(FrmFindIcon_File1));
+  folders_.Attach(Item(FrmFindIcon_Drive1), Item(FrmFindIcon_Dir1), Item(FrmFindIcon_File1),
+                  Item(FrmFindIcon_chkSubDir));
   udMain_.Attach(Item(FrmFindIcon_udMain));
   grid_.Attach(Item(FrmFindIcon_PicFrame), Item(FrmFindIcon_Vsb), FrmFindIcon_PicIcons);
   gridContent_ = {[this] { return ItemText(FrmFindIcon_PicFrame); }, [this] { return ChosenItem(); }};
@@ -130,7 +130,7 @@ void FrmFindIcon::SaveSettings() {
   // If the end of the session stops a walk, Dir1 is not where the user left it.
   const std::string folder = state_.SavedDirPath.empty() ? Dir1Path() : state_.SavedDirPath;
   dependencies_.settings.WriteIniSetting(settingsSection, folderKey, folder);
-  dependencies_.settings.WriteIniSetting(settingsSection, subDirKey, TruthText(chkSubDir()));
+  dependencies_.settings.WriteIniSetting(settingsSection, subDirKey, TruthText(folders_.chkSubDir()));
 }
 
 bool FrmFindIcon::OnCommand(int id, int code) {

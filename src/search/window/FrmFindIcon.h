@@ -82,7 +82,6 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   // SearchWindow and SelectionView
   void CloseEnhancedView() override;
   void Enable(SearchControl control, bool enabled) override;
-  bool chkSubDir() const override;
   std::string txtMax() const override;
   void SetCaption(const std::string& text) override;
   void SetStatusText(const std::string& text) override;
@@ -102,7 +101,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   const PixelView& PicIcon() const override { return captured_.PicIcon(); }
   const PixelView& PicMain() override { return captured_.PicMain(); }
   bool CopyPicClip() override { return captured_.CopyPicClip(Window()); }
-  std::string StatusText() const override;
+  Finally ShowStatus(const std::string& text) override;
   void ShowMessage(const std::string& text, MessageKind kind) override;
   Finally HoldCommands() override;
   void ServePainting() override;
@@ -120,7 +119,6 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   Dependencies dependencies_;
   SearchState state_;
   IconList list_;
-  HWND chkSubDir_ = nullptr;
   ShownFolders folders_{dependencies_};
   IconGrid grid_;
   PictureContent gridContent_;  // the grid for screen readers

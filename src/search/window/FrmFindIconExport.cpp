@@ -14,13 +14,21 @@
 #include "startup/MessageTexts.h"
 
 namespace tarvik {
+namespace {
 
-std::string FrmFindIcon::StatusText() const {
-  const HWND bar = Item(FrmFindIcon_sbMain);
+std::string StatusText(HWND bar) {
   std::wstring text(LOWORD(SendMessageW(bar, SB_GETTEXTLENGTHW, 0, 0)) + std::size_t{1}, L'\0');
   SendMessageW(bar, SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(text.data()));
   text.pop_back();
   return ToUtf8(text);
+}
+
+}  // namespace
+
+Finally FrmFindIcon::ShowStatus(const std::string& text) {
+  Finally restores([this, former = StatusText(Item(FrmFindIcon_sbMain))] { SetStatusText(former); });
+  SetStatusText(text);
+  return restores;
 }
 
 void FrmFindIcon::ShowMessage(const std::string& text, MessageKind kind) {

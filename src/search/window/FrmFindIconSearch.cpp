@@ -46,11 +46,6 @@ void FrmFindIcon::Enable(SearchControl control, bool enabled) {
   EnableItem(IdOf(control), enabled);
 }
 
-// A search reads this several times per folder, and Wine searches all controls for an id.
-bool FrmFindIcon::chkSubDir() const {
-  return SendMessageW(chkSubDir_, BM_GETCHECK, 0, 0) == BST_CHECKED;
-}
-
 std::string FrmFindIcon::txtMax() const {
   return ItemText(FrmFindIcon_txtMax);
 }

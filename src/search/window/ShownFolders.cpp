@@ -4,7 +4,8 @@
 
 namespace tarvik {
 
-void ShownFolders::Attach(HWND drive1, HWND dir1, HWND file1) {
+void ShownFolders::Attach(HWND drive1, HWND dir1, HWND file1, HWND chkSubDir) {
+  chkSubDir_ = chkSubDir;
   drive1_.Attach(drive1, dependencies_.drives);
   dir1_.Attach(
       dir1,
@@ -15,6 +16,11 @@ void ShownFolders::Attach(HWND drive1, HWND dir1, HWND file1) {
   file1_.Attach(file1, [this](const std::string& folder, const std::string& pattern) {
     return folder == unread_ ? std::vector<std::string>() : dependencies_.folders.Files(folder, pattern);
   });
+}
+
+// A search reads this several times per folder, and Wine searches all controls for an id.
+bool ShownFolders::chkSubDir() const {
+  return SendMessageW(chkSubDir_, BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
 
 void ShownFolders::Dir1_Change() {

@@ -12,14 +12,14 @@
 
 namespace tarvik {
 
-// The main window's list of drives and its two lists of folders and files, of which each follows the one before. The
-// user moves them, and so does a search. Paths are UTF-8.
+// The main window's list of drives and its two lists of folders and files, of which each follows the one before, and
+// the box for sub-folders. The user moves the lists, and so does a search. Paths are UTF-8.
 class ShownFolders final : public SearchFolders {
  public:
   // `dependencies` outlives this object.
   explicit ShownFolders(const FindIconDependencies& dependencies) : dependencies_(dependencies) {}
 
-  void Attach(HWND drive1, HWND dir1, HWND file1);
+  void Attach(HWND drive1, HWND dir1, HWND file1, HWND chkSubDir);
 
   // Shows a folder, which need not be readable, and chooses its drive.
   void Show(const std::string& folder);
@@ -48,6 +48,7 @@ class ShownFolders final : public SearchFolders {
   void DrawRow(const DRAWITEMSTRUCT& item) const { dir1_.Draw(item); }
 
   // SearchFolders
+  bool chkSubDir() const override;
   std::string Dir1Path() const override { return dir1_.Path(); }
   void SetDir1Path(const std::string& folder) override { dir1_.SetPath(folder); }
   std::vector<WalkedFolder> Dir1SubFolders() override { return dependencies_.folders.WalkedFolders(dir1_.Path()); }
@@ -63,6 +64,7 @@ class ShownFolders final : public SearchFolders {
   DriveListBox drive1_;
   DirListBox dir1_;
   FileListBox file1_;
+  HWND chkSubDir_ = nullptr;
   std::string unread_;  // the folder that is shown and not contacted; empty if there is none
 };
 
