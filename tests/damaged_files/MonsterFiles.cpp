@@ -2,29 +2,18 @@
 
 #include <algorithm>
 #include <array>
-#include <span>
 #include <string_view>
+#include <utility>
+
+#include "support/AppendBytes.h"
 
 namespace tarvik::support {
 namespace {
 
 constexpr Color red = 0x0000FF;
 
-void Append(Bytes& bytes, std::uint64_t value, std::size_t width) {
-  for (std::size_t i = 0; i < width; ++i, value >>= 8U) bytes.push_back(static_cast<std::byte>(value));
-}
-void AppendBig32(Bytes& bytes, std::uint32_t value) {
-  for (int shift = 24; shift >= 0; shift -= 8)
-    bytes.push_back(static_cast<std::byte>(value >> static_cast<unsigned>(shift)));
-}
-void Append(Bytes& bytes, std::string_view text) {
-  for (const char letter : text) bytes.push_back(static_cast<std::byte>(letter));
-}
-void Append(Bytes& bytes, const Bytes& more) {
-  bytes.insert(bytes.end(), more.begin(), more.end());
-}
-void Set32(Bytes& bytes, std::size_t place, std::uint64_t value) {
-  for (std::size_t i = 0; i < 4; ++i, value >>= 8U) bytes[place + i] = static_cast<std::byte>(value);
+void Set32(Bytes& bytes, std::size_t offset, std::uint64_t value) {
+  for (std::size_t i = 0; i < 4; ++i, value >>= 8U) bytes[offset + i] = static_cast<std::byte>(value);
 }
 
 // An animation of one picture, split before the list of its pictures; and the size that its header states, corrected.
@@ -92,23 +81,6 @@ Bytes CompressedZeros(std::uint64_t count) {
   // The checksum: of zeros its low half stays 1, and its high half counts them.
   AppendBig32(stream, static_cast<std::uint32_t>(count % 65521) << 16U | 1U);
   return stream;
-}
-
-std::uint32_t Crc(std::span<const std::byte> bytes) {
-  std::uint32_t crc = 0xFFFFFFFF;
-  for (const std::byte value : bytes) {
-    crc ^= static_cast<std::uint32_t>(value);
-    for (int bit = 0; bit < 8; ++bit) crc = crc >> 1U ^ ((crc & 1U) != 0 ? 0xEDB88320 : 0);
-  }
-  return ~crc;
-}
-
-void AppendPngChunk(Bytes& bytes, std::string_view type, const Bytes& content) {
-  AppendBig32(bytes, static_cast<std::uint32_t>(content.size()));
-  const std::size_t start = bytes.size();
-  Append(bytes, type);
-  Append(bytes, content);
-  AppendBig32(bytes, Crc(std::span(bytes).subspan(start)));
 }
 
 }  // namespace

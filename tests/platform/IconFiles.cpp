@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/Text.h"
+#include "support/AppendBytes.h"
 
 namespace tarvik::support {
 namespace {
@@ -15,24 +16,11 @@ namespace {
 constexpr std::size_t directoryHeaderSize = 6;
 constexpr std::size_t directoryEntrySize = 16;
 
-void Append(Bytes& bytes, std::uint64_t value, int count) {
-  for (int i = 0; i < count; ++i) bytes.push_back(static_cast<std::byte>(value >> 8U * static_cast<unsigned>(i)));
-}
 void Append16(Bytes& bytes, std::uint64_t value) {
   Append(bytes, value, 2);
 }
 void Append32(Bytes& bytes, std::uint64_t value) {
   Append(bytes, value, 4);
-}
-void AppendBig32(Bytes& bytes, std::uint32_t value) {
-  for (int shift = 24; shift >= 0; shift -= 8)
-    bytes.push_back(static_cast<std::byte>(value >> static_cast<unsigned>(shift)));
-}
-void Append(Bytes& bytes, std::string_view text) {
-  for (const char c : text) bytes.push_back(static_cast<std::byte>(c));
-}
-void Append(Bytes& bytes, const Bytes& more) {
-  bytes.insert(bytes.end(), more.begin(), more.end());
 }
 
 void AppendBlueGreenRed(Bytes& bytes, Color color) {
@@ -85,23 +73,6 @@ void AppendMask(Bytes& bytes, int size) {
     for (int x = 0; x < size; x += 8) bytes.push_back(y >= size / 2 ? std::byte{0xFF} : std::byte{0});
     PadTo4(bytes, start);
   }
-}
-
-std::uint32_t Crc(std::span<const std::byte> bytes) {
-  std::uint32_t crc = 0xFFFFFFFF;
-  for (const std::byte value : bytes) {
-    crc ^= static_cast<std::uint32_t>(value);
-    for (int bit = 0; bit < 8; ++bit) crc = crc >> 1U ^ (crc & 1U ? 0xEDB88320 : 0);
-  }
-  return ~crc;
-}
-
-void AppendPngChunk(Bytes& bytes, std::string_view type, const Bytes& content) {
-  AppendBig32(bytes, static_cast<std::uint32_t>(content.size()));
-  const std::size_t start = bytes.size();
-  Append(bytes, type);
-  Append(bytes, content);
-  AppendBig32(bytes, Crc(std::span(bytes).subspan(start)));
 }
 
 // A zlib stream in which the bytes are stored uncompressed; at most 65,535 bytes.

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <map>
+#include <string_view>
+
+#include "support/AppendBytes.h"
 
 namespace tarvik::support {
 namespace {
@@ -12,10 +15,6 @@ constexpr std::uint32_t pictureType = 3;
 constexpr std::uint32_t stringType = 6;
 constexpr std::uint32_t groupType = 14;
 
-void Append(ModuleBytes& bytes, std::uint64_t number, std::size_t width) {
-  for (std::size_t i = 0; i < width; ++i, number >>= 8U) bytes.push_back(static_cast<std::byte>(number));
-}
-
 void Write(ModuleBytes& bytes, std::size_t place, std::uint64_t number, std::size_t width) {
   for (std::size_t i = 0; i < width; ++i, number >>= 8U) bytes[place + i] = static_cast<std::byte>(number);
 }
@@ -23,7 +22,7 @@ void Write(ModuleBytes& bytes, std::size_t place, std::uint64_t number, std::siz
 // A string preceded by its length, as in both tables of names.
 void AppendName(ModuleBytes& bytes, const std::string& name) {
   Append(bytes, name.size(), 1);
-  for (const char character : name) bytes.push_back(static_cast<std::byte>(character));
+  Append(bytes, std::string_view(name));
 }
 
 constexpr std::size_t furtherUnits = 3;  // by which a resource reaches into the next one

@@ -7,18 +7,17 @@
 #include <string_view>
 #include <vector>
 
+#include "support/AppendBytes.h"
+
 namespace tarvik {
 namespace {
 
+using support::Append;
 using Bytes = std::vector<std::byte>;
 
 constexpr std::uint32_t mountPointTag = 0xA0000003;
 constexpr std::uint32_t symbolicLinkTag = 0xA000000C;
 constexpr std::string_view volume = R"(\??\Volume{01234567-89ab-cdef-0123-456789abcdef}\)";
-
-void Append(Bytes& bytes, std::uint32_t number, int size) {
-  for (int i = 0; i < size; ++i) bytes.push_back(static_cast<std::byte>(number >> 8 * i));
-}
 
 void AppendText(Bytes& bytes, std::string_view text) {
   for (const char character : text) Append(bytes, static_cast<unsigned char>(character), 2);
