@@ -3,7 +3,6 @@
 #include <winternl.h>
 
 #include <cstddef>
-#include <vector>
 
 namespace tarvik::support {
 
@@ -31,6 +30,10 @@ int CountGdiObjects(HANDLE process) {
   for (std::size_t entry = 0; entry < entryCount; ++entry)
     count += entries[entry * entrySize + typeOffset] != std::byte{0};
   return count;
+}
+
+NoGdiObjects::NoGdiObjects() {
+  while (const HBITMAP bitmap = CreateBitmap(1, 1, 1, 1, nullptr)) bitmaps_.emplace_back(bitmap);
 }
 
 }  // namespace tarvik::support

@@ -18,12 +18,12 @@
 #include "base/RuntimeError.h"
 #include "driver/UnixProgram.h"
 #include "platform/GdiObjects.h"
-#include "platform/Handles.h"
 #include "platform/IconFiles.h"
 #include "platform/Paths.h"
 #include "platform/Surface.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
+#include "search/icons/CountedFiles.h"
 #include "search/icons/FileBytes.h"
 #include "search/icons/Folders.h"
 #include "search/icons/IconsAhead.h"
@@ -35,6 +35,7 @@
 namespace tarvik {
 namespace {
 
+using support::CountedFiles;
 using support::MakeModule;
 using support::ModuleBytes;
 using support::ModuleIcon;
@@ -256,23 +257,12 @@ TEST(ShellIconModules, AreReadAgainWhereTheFileChanged) {
   EXPECT_EQ(icons.Extract(path, 0), nullptr);
 }
 
-// Uses up all GDI objects of the process by tiny bitmaps.
-class NoGdiObjects {
- public:
-  NoGdiObjects() {
-    while (const HBITMAP bitmap = CreateBitmap(1, 1, 1, 1, nullptr)) bitmaps_.emplace_back(bitmap);
-  }
-
- private:
-  std::vector<BitmapHandle> bitmaps_;
-};
-
 TEST(ShellIconModules, AreNotLeftOutForLackOfGdiObjects) {
   const TemporaryFolder folder;
   const std::string path = folder.MakeFile("a.icl", MakeModule(Icons(1)));
   ShellIcons icons(Open, ShellWithoutModules);
   {
-    NoGdiObjects none;
+    const support::NoGdiObjects none;
     EXPECT_THROW(icons.Extract(path, 0), OutOfMemoryError);
   }
   EXPECT_NE(icons.Extract(path, 0), nullptr);
@@ -298,39 +288,10 @@ TEST(ShellIconModules, KeepNoHandlesAndNoFileOpen) {
   EXPECT_NE(DeleteFileW(ToWide(path).c_str()), 0);
 }
 
-// Real files; counts how often one is opened and how much is read.
-class Counted {
- public:
-  ShellIcons::OpenBytes Opener() {
-    return [this](const std::string& path) {
-      ++opened;
-      return std::make_unique<Bytes>(path, read);
-    };
-  }
-
-  int opened = 0;
-  std::uint64_t read = 0;
-
- private:
-  class Bytes final : public ByteSource {
-   public:
-    Bytes(const std::string& path, std::uint64_t& read) : file_(path), read_(read) {}
-    FileStamp Stamp() override { return file_.Stamp(); }
-    bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
-      read_ += bytes.size();
-      return file_.Read(offset, bytes);
-    }
-
-   private:
-    FileBytes file_;
-    std::uint64_t& read_;
-  };
-};
-
 TEST(ShellIconModules, AreLeftToTheShellWhereItReadsThem) {
   const TemporaryFolder folder;
   const std::string path = folder.MakeFile("a.icl", MakeModule(Icons(3)));
-  Counted files;
+  CountedFiles files;
   ShellIcons icons(files.Opener());
   ASSERT_EQ(icons.CountIcons(path), 3) << "this machine's shell reads no 16-bit modules";
   ASSERT_NE(icons.Extract(path, 2), nullptr);
@@ -346,7 +307,7 @@ TEST(ShellIconModules, AreLeftToTheShellWhereItReadsThem) {
 
 TEST(ShellIconModules, AreLookedForInNoFileMoreThanOnceAPass) {
   const TemporaryFolder folder;
-  Counted files;
+  CountedFiles files;
   ShellIcons icons(files.Opener(), ShellWithoutModules);
   IconsAhead ahead(icons);
   const auto search = ahead.InTurn();
@@ -366,7 +327,7 @@ TEST(ShellIconModules, AreLookedForInNoFileMoreThanOnceAPass) {
 
 TEST(ShellIconModules, AreNotLookedForInTheSystemsOwnFolder) {
   const TemporaryFolder folder;
-  Counted files;
+  CountedFiles files;
   ShellIcons icons(files.Opener(), ShellWithoutModules);
   for (const char* name : {"version.dll", "VERSION.DLL", "drivers\\none.dll"}) {
     EXPECT_EQ(icons.CountIcons(JoinPath(SystemFolder(), name)), 0);
@@ -386,7 +347,7 @@ TEST(ShellIconModules, HaveTheirTableReadOnceForAllTheirIcons) {
   const TemporaryFolder folder;
   const ModuleBytes module = MakeModule(Icons(60));
   const std::string path = folder.MakeFile("a.icl", module);
-  Counted files;
+  CountedFiles files;
   ShellIcons icons(files.Opener(), ShellWithoutModules);
   for (int index = 0; index < 60; ++index) ASSERT_NE(icons.Extract(path, index), nullptr);
   EXPECT_LE(files.read, 512 + module.size() + std::size_t{60} * 6) << "the start of each group is read twice";

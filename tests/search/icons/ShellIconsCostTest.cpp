@@ -6,22 +6,18 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <memory>
-#include <span>
 #include <string>
-#include <vector>
 
 #include "base/RuntimeError.h"
 #include "damaged_files/Libraries.h"
 #include "driver/UnixProgram.h"
 #include "platform/GdiObjects.h"
-#include "platform/Handles.h"
 #include "platform/Holdings.h"
 #include "platform/IconFiles.h"
 #include "platform/Surface.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
-#include "search/icons/FileBytes.h"
+#include "search/icons/CountedFiles.h"
 #include "search/icons/Modules.h"
 #include "search/icons/ShellIcons.h"
 #include "search/icons/ShellWithoutModules.h"
@@ -31,6 +27,7 @@ namespace {
 
 using support::AnimationFile;
 using support::Bytes;
+using support::CountedFiles;
 using support::CutOffLibrary;
 using support::IconFileOf;
 using support::LibraryOfOneIcon;
@@ -68,17 +65,6 @@ TEST(ShellIcons, AsksAgainForAFileThatHasChanged) {
   EXPECT_NE(icons.Extract(path, 0), nullptr);
 }
 
-// Uses up all GDI objects of the process by tiny bitmaps.
-class NoGdiObjects {
- public:
-  NoGdiObjects() {
-    while (const HBITMAP bitmap = CreateBitmap(1, 1, 1, 1, nullptr)) bitmaps_.emplace_back(bitmap);
-  }
-
- private:
-  std::vector<BitmapHandle> bitmaps_;
-};
-
 // Once the damaged icons had used up the process's GDI objects, a blank picture was saved instead of a good icon.
 TEST(ShellIcons, SaysThatThereIsNoRoomForAnIconInsteadOfLeavingItOut) {
   const TemporaryFolder folder;
@@ -88,35 +74,20 @@ TEST(ShellIcons, SaysThatThereIsNoRoomForAnIconInsteadOfLeavingItOut) {
   const auto icon = icons.Extract(path, 0);
   ASSERT_NE(icon, nullptr);
   {
-    NoGdiObjects none;
+    const support::NoGdiObjects none;
     EXPECT_THROW(icons.Extract(path, 0), OutOfMemoryError);
   }
   EXPECT_NE(icons.Extract(path, 0), nullptr);
   EXPECT_TRUE(icon->Draw(surface, {0, 0}, 32, 0, DrawPart::Normal));
 }
 
-// Reads real files and counts all bytes that are read.
-class CountedBytes final : public ByteSource {
- public:
-  CountedBytes(const std::string& path, std::uint64_t& count) : file_(path), count_(count) {}
-  FileStamp Stamp() override { return file_.Stamp(); }
-  bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
-    count_ += bytes.size();
-    return file_.Read(offset, bytes);
-  }
-
- private:
-  FileBytes file_;
-  std::uint64_t& count_;
-};
-
 constexpr std::uint64_t megabyte = std::uint64_t{1} << 20U;
 
 // A search of such a file of 512 MB once took 14 seconds, and with one of 5 GB it did not end.
 TEST(ShellIcons, ReadsLittleOfALargeAnimationAndThatOnce) {
   const TemporaryFolder folder;
-  std::uint64_t bytesRead = 0;
-  ShellIcons icons([&](const std::string& path) { return std::make_unique<CountedBytes>(path, bytesRead); });
+  CountedFiles files;
+  ShellIcons icons(files.Opener());
   const Bytes intact = AnimationFile(std::array{red, green, blue});
   // The header claims the length of the whole file.
   Bytes endless = intact;
@@ -125,7 +96,7 @@ TEST(ShellIcons, ReadsLittleOfALargeAnimationAndThatOnce) {
     const std::string end = std::to_string(size) + ".ani";
     const std::string tailed = folder.MakeSparseFile("tailed" + end, intact, size);
     const std::string large = folder.MakeSparseFile("large" + end, endless, size);
-    bytesRead = 0;
+    files.read = 0;
     // As often as a search reads the file.
     for (int look = 0; look < 3; ++look) {
       const auto icon = icons.Extract(tailed, 0);
@@ -133,22 +104,21 @@ TEST(ShellIcons, ReadsLittleOfALargeAnimationAndThatOnce) {
       EXPECT_EQ(icon->StepBound(), 3) << size;
       icons.Extract(large, 0);
     }
-    EXPECT_LE(bytesRead, 2 * megabyte) << size;
+    EXPECT_LE(files.read, 2 * megabyte) << size;
   }
 }
 
 // The program's own reader, as with the shell of current Windows.
 TEST(ShellIcons, ReadsLittleOfALargeModule) {
   const TemporaryFolder folder;
-  std::uint64_t bytesRead = 0;
-  ShellIcons icons([&](const std::string& path) { return std::make_unique<CountedBytes>(path, bytesRead); },
-                   support::ShellWithoutModules);
+  CountedFiles files;
+  ShellIcons icons(files.Opener(), support::ShellWithoutModules);
   const support::ModuleBytes module = support::MakeModule(support::PlainIcons(20));
   // The first icon of a process also opens handles that the system keeps.
   EXPECT_EQ(icons.ExtractGroup(folder.MakeSparseFile("first.icl", module, megabyte), 0, 20).size(), 20U);
   for (const char* name : {"a.icl", "a.exe", "a.dll", "a.ocx"}) {
     const std::string path = folder.MakeSparseFile(name, module, 5 * 1024 * megabyte);
-    bytesRead = 0;
+    files.read = 0;
     const int handles = support::HeldBy(GetCurrentProcess()).kernelHandles;
     // As often as a search reads the file.
     for (int look = 0; look < 3; ++look) {
@@ -156,7 +126,7 @@ TEST(ShellIcons, ReadsLittleOfALargeModule) {
       EXPECT_NE(icons.Extract(path, 19), nullptr) << name;
       EXPECT_EQ(icons.ExtractGroup(path, 0, 20).size(), 20U) << name;
     }
-    EXPECT_LE(bytesRead, megabyte / 8) << name;
+    EXPECT_LE(files.read, megabyte / 8) << name;
     EXPECT_EQ(support::HeldBy(GetCurrentProcess()).kernelHandles, handles) << name;
   }
 }
