@@ -3,52 +3,19 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
 #include <string>
-#include <tuple>
-#include <vector>
+
+#include "support/MemoryIni.h"
 
 namespace tarvik {
 namespace {
 
+using support::MemoryIni;
 using ::testing::ElementsAre;
-
-// Settings files in memory. The result shows the call: a write returns 1, a deletion of a key 2, of a section 3.
-class FakeIniStore : public IniStore {
- public:
-  std::string Read(const std::string& section, const std::string& key, const std::string& defaultValue, int capacity,
-                   const std::string& file) override {
-    files.push_back(file);
-    const auto found = values.find({file, section, key});
-    const std::string& value = found == values.end() ? defaultValue : found->second;
-    return value.substr(0, static_cast<std::size_t>(capacity) - 1);
-  }
-  int Write(const std::string& section, const std::string& key, const std::string& value,
-            const std::string& file) override {
-    files.push_back(file);
-    values[{file, section, key}] = value;
-    return 1;
-  }
-  int DeleteKey(const std::string& section, const std::string& key, const std::string& file) override {
-    files.push_back(file);
-    values.erase({file, section, key});
-    return 2;
-  }
-  int DeleteSection(const std::string& section, const std::string& file) override {
-    files.push_back(file);
-    std::erase_if(values, [&](const auto& entry) {
-      return std::get<0>(entry.first) == file && std::get<1>(entry.first) == section;
-    });
-    return 3;
-  }
-
-  std::map<std::tuple<std::string, std::string, std::string>, std::string> values;
-  std::vector<std::string> files;
-};
 
 class SettingsTest : public ::testing::Test {
  protected:
-  FakeIniStore store;
+  MemoryIni store;
   Settings settings{store, "C:\\Tools\\tarvik.exe"};
 };
 
@@ -104,7 +71,7 @@ TEST_F(SettingsTest, CutsALongValueAtTheBuffer) {
 }
 
 TEST_F(SettingsTest, ReportsAWriteThatFailed) {
-  class FullStore : public FakeIniStore {
+  class FullStore : public MemoryIni {
    public:
     int Write(const std::string&, const std::string&, const std::string&, const std::string&) override { return 0; }
   };
