@@ -1,21 +1,25 @@
 #include "export/ModMicroArt.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <array>
-#include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "base/NonCopyable.h"
+#include "support/FakeSearch.h"
+#include "support/Script.h"
 #include "support/TestRaster.h"
 
 namespace tarvik::ModMicroArt {
 namespace {
 
+using support::FakeIcons;
+using support::FakeSurface;
 using support::RasterOf;
+using support::Script;
 using support::TestRaster;
+using ::testing::ElementsAre;
 
 constexpr std::array<BlackAndWhite, 2> eitherWay{BlackAndWhite::InOrder, BlackAndWhite::InFixedSlots};
 
@@ -97,90 +101,48 @@ TEST(Classify, TakesTheValueOfAPixelThatCannotBeReadForAColourLikeAnyOther) {
   EXPECT_EQ(Classify(RasterOf(32, colors, black), BlackAndWhite::InFixedSlots), ColorClass::TrueColor);
 }
 
-// Everything that a capture did, one line per call.
-using Log = std::vector<std::string>;
-
-class NamedSurface final : public DrawSurface {
- public:
-  explicit NamedSurface(std::string surfaceName) : name(std::move(surfaceName)) {}
-  const std::string name;
-};
-
-class LoggedIcon final : public ExtractedIcon, NonCopyable {
- public:
-  LoggedIcon(Log& log, bool draws) : log_(log), draws_(draws) {}
-  ~LoggedIcon() override { log_.push_back("release"); }
-
-  bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
-    log_.push_back("draw part " + std::to_string(static_cast<int>(part)) + " into " +
-                   dynamic_cast<NamedSurface&>(surface).name + " at " + std::to_string(corner.x) + "," +
-                   std::to_string(corner.y) + " size " + std::to_string(size) + " step " + std::to_string(step));
-    return draws_;
-  }
-  int StepBound() const override { return 1; }
-
- private:
-  Log& log_;
-  bool draws_;
-};
-
-class LoggedSource final : public IconSource {
- public:
-  explicit LoggedSource(Log& log) : log_(log) {}
-  int CountIcons(const std::string&) override { return 0; }
-  std::unique_ptr<ExtractedIcon> Extract(const std::string& path, int index) override {
-    log_.push_back("extract " + path + " " + std::to_string(index));
-    if (!yields) return nullptr;
-    return std::make_unique<LoggedIcon>(log_, draws);
-  }
-  bool yields = true;
-  bool draws = true;
-
- private:
-  Log& log_;
-};
-
-class CaptureEntryTest : public testing::Test {
+class CaptureEntryTest : public ::testing::Test {
  protected:
   bool Capture(const std::string& path, int index, int size) {
     return CaptureEntry(source, {path, Integer16(index), false}, size, {mask, image, composed});
   }
 
-  Log log;
-  LoggedSource source{log};
-  NamedSurface mask{"mask"};
-  NamedSurface image{"image"};
-  NamedSurface composed{"composed"};
+  Script script;
+  FakeIcons source{script};
+  FakeSurface mask{"mask"};
+  FakeSurface image{"image"};
+  FakeSurface composed{"composed"};
 };
 
 TEST_F(CaptureEntryTest, DrawsMaskImageAndWholeIconAndReleasesIt) {
-  EXPECT_TRUE(Capture("C:\\icons\\a.dll", 7, 48));
-  EXPECT_EQ(log, (Log{"extract C:\\icons\\a.dll 7", "draw part 1 into mask at 0,0 size 48 step 0",
-                      "draw part 2 into image at 0,0 size 48 step 0", "draw part 3 into composed at 0,0 size 48 step 0",
-                      "release"}));
+  EXPECT_TRUE(Capture("a.dll", 7, 48));
+  EXPECT_THAT(script, ElementsAre("extract a.dll#7", "draw mask of a.dll#7 on mask at (0,0) size 48 step 0",
+                                  "draw image of a.dll#7 on image at (0,0) size 48 step 0",
+                                  "draw a.dll#7 on composed at (0,0) size 48 step 0", "release a.dll#7"));
 }
 
 TEST_F(CaptureEntryTest, DrawsTheStepOfAnAnimatedCursorFromItsFirstIcon) {
-  for (const std::string path : {"C:\\c\\wait.ani", "C:\\c\\WAIT.ANI", "C:\\c\\wait.aNi"}) {
-    log.clear();
+  for (const std::string path : {"wait.ani", "WAIT.ANI", "wait.aNi"}) {
+    script.Clear();
     EXPECT_TRUE(Capture(path, 3, 32));
-    EXPECT_EQ(log, (Log{"extract " + path + " 0", "draw part 1 into mask at 0,0 size 32 step 3",
-                        "draw part 2 into image at 0,0 size 32 step 3",
-                        "draw part 3 into composed at 0,0 size 32 step 3", "release"}));
+    EXPECT_THAT(script,
+                ElementsAre("extract " + path + "#0", "draw mask of " + path + "#0 on mask at (0,0) size 32 step 3",
+                            "draw image of " + path + "#0 on image at (0,0) size 32 step 3",
+                            "draw " + path + "#0 on composed at (0,0) size 32 step 3", "release " + path + "#0"));
   }
 }
 
 TEST_F(CaptureEntryTest, LeavesTheSurfacesAloneWhereTheFileYieldsNoIconAnyMore) {
-  source.yields = false;
-  EXPECT_FALSE(Capture("C:\\gone.exe", 2, 16));
-  EXPECT_EQ(log, (Log{"extract C:\\gone.exe 2"}));
+  source.files["gone.exe"].yields = false;
+  EXPECT_FALSE(Capture("gone.exe", 2, 16));
+  EXPECT_THAT(script, ElementsAre("extract gone.exe#2"));
 }
 
 TEST_F(CaptureEntryTest, DrawsTheOtherPartsWhereOneCannotBeDrawn) {
-  source.draws = false;
-  EXPECT_TRUE(Capture("C:\\a.ani", 9, 16));
-  EXPECT_EQ(log.size(), 5U);
-  EXPECT_EQ(log.back(), "release");
+  source.files["a.ani"].steps = 0;
+  EXPECT_TRUE(Capture("a.ani", 9, 16));
+  EXPECT_EQ(script.size(), 5U);
+  EXPECT_EQ(script.back(), "release a.ani#0");
 }
 
 }  // namespace

@@ -42,9 +42,10 @@ class FakeIcon : public ExtractedIcon, NonCopyable {
   ~FakeIcon() override { script_.Add("release " + name_); }
 
   bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
-    script_.Add("draw " + name_ + " on " + static_cast<FakeSurface&>(surface).name + " at " + ToText(corner) +
-                " size " + std::to_string(size) + " step " + std::to_string(step) +
-                (part == DrawPart::Normal ? "" : " in part"));
+    const std::string words[] = {"", "mask of ", "image of ", ""};
+    script_.Add("draw " + words[static_cast<std::size_t>(part)] + name_ + " on " +
+                static_cast<FakeSurface&>(surface).name + " at " + ToText(corner) + " size " + std::to_string(size) +
+                " step " + std::to_string(step));
     return step < file_.steps;
   }
   int StepBound() const override { return file_.stepBound; }

@@ -133,12 +133,8 @@ TEST(MaxAnimationSteps, ReadsARunOfEmptyChunksInBlocks) {
 }
 
 TEST(MaxAnimationSteps, FindsNothingInAFileThatCannotBeRead) {
-  class Unreadable : public ByteSource {
-   public:
-    FileStamp Stamp() override { return {.size = 1000}; }
-    bool Read(std::uint64_t, std::span<std::byte>) override { return false; }
-  };
-  Unreadable file;
+  BytesInMemory file = FileOf(Animation(Header(2, 2) + Pictures(2)));
+  file.readsBeforeItFails = 0;
   EXPECT_EQ(InspectAnimation(file).maxSteps, 0);
 }
 
