@@ -264,17 +264,8 @@ TEST_F(EndingAtStart, TheProgramEndsWithoutAMainWindow) {
 
 class EndingAtWork : public Ending {
  protected:
-  static constexpr int many = 2000;
-
   void StartToSaveMany() {
-    CopyTwoThousandIcons(In("many.dll"));
-    tree_.MakeFolder(outName);
-    Start();
-    Tick({Dll});
-    SetLimit(std::to_string(many));
-    Find();
-    ASSERT_EQ(List().RowCount(), many);
-    KeepAsFound();
+    ASSERT_NO_FATAL_FAILURE(FindMany());
     ChooseOut(FrmFindIcon_mnuSaveAll);
     ASSERT_TRUE(Eventually([&] { return Status() == "Saving..."; }));
   }

@@ -22,19 +22,7 @@ struct BatchOfFiles {
 
 class SaveBusy : public Saving {
  protected:
-  static constexpr int many = 2000;
   static constexpr std::size_t few = 20;
-
-  void FindMany() {
-    CopyTwoThousandIcons(In("many.dll"));
-    tree_.MakeFolder(outName);
-    Start();
-    Tick({Dll});
-    SetLimit(std::to_string(many));
-    Find();
-    ASSERT_EQ(List().RowCount(), many);
-    KeepAsFound();
-  }
 
   // Repeats a round twenty times, so that the leak of a single round adds up. The first rounds fill the caches of the
   // system. `keptBySystem` is what the system's own dialog leaks in each round, in handles of each kind.

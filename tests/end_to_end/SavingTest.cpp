@@ -34,6 +34,17 @@ void Saving::FindAll() {
   KeepAsFound();
 }
 
+void Saving::FindMany() {
+  CopyTwoThousandIcons(In("many.dll"));
+  tree_.MakeFolder(outName);
+  Start();
+  Tick({Dll});
+  SetLimit(std::to_string(many));
+  Find();
+  ASSERT_EQ(List().RowCount(), many);
+  KeepAsFound();
+}
+
 void Saving::KeepAsFound() {
   const RECT window = program_.Window().Place();
   const POINT place{window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2};

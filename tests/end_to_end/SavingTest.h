@@ -49,6 +49,10 @@ class Saving : public SelectionByHand {
   // The same after the test itself has started the program.
   void FindAll();
 
+  static constexpr int many = 2000;
+  // Starts the program and finds `many` icons of one library.
+  void FindMany();
+
   static constexpr int withPalette = 2;
 
   // Pixels of an entry, counted from 0: as in its icon, composed over white, and as a bitmap file has the composed
