@@ -54,7 +54,7 @@ class DisplayScale {
     int end = 0;
     friend bool operator==(const Range&, const Range&) = default;
   };
-  constexpr Range Showing(Range pixels) const {
+  constexpr Range DisplayRange(Range pixels) const {
     return {DivideDown(pixels.begin * std::int64_t{dots_}, usualDots), ToDisplay(pixels.end)};
   }
 

@@ -20,7 +20,7 @@ Neighbours NeighboursAt(const DisplayScale& scale, int displayPixel, int length)
   return {std::min(mixture.first, length - 1), std::min(mixture.first + 1, length - 1), mixture.ofNext};
 }
 
-int Mixed(int first, int next, int ofNext) {
+int Mix(int first, int next, int ofNext) {
   return first * (parts - ofNext) + next * ofNext;
 }
 
@@ -38,9 +38,9 @@ void Enlarge(const PixelRows<const std::uint8_t>& picture, const DisplayScale& s
       const int left = columns.first * bytesPerPixel;
       const int right = columns.next * bytesPerPixel;
       for (int color = 0; color < bytesPerPixel; ++color) {
-        const int above = Mixed(upper[left + color], upper[right + color], columns.ofNext);
-        const int below = Mixed(lower[left + color], lower[right + color], columns.ofNext);
-        *out++ = static_cast<std::uint8_t>((Mixed(above, below, rows.ofNext) + parts * parts / 2) / (parts * parts));
+        const int above = Mix(upper[left + color], upper[right + color], columns.ofNext);
+        const int below = Mix(lower[left + color], lower[right + color], columns.ofNext);
+        *out++ = static_cast<std::uint8_t>((Mix(above, below, rows.ofNext) + parts * parts / 2) / (parts * parts));
       }
     }
   }

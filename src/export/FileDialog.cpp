@@ -36,7 +36,7 @@ std::wstring CurrentFolder() {
 }
 
 // A file name cannot contain "?", but the dialog substitutes it for characters missing from the code page.
-std::string Checked(std::string path) {
+std::string RequireAllCharacters(std::string path) {
   if (path.find('?') != std::string::npos) throw UnheldNameError(path);
   return path;
 }
@@ -66,7 +66,7 @@ std::string Ask(BOOL(WINAPI* show)(OPENFILENAMEA*), DWORD flags, HWND owner, con
   const Finally movesBack([&folder] { SetCurrentDirectoryW(folder.c_str()); });
   const bool chosen = show(&record) != 0;
   if (owner != nullptr && IsWindow(owner) == FALSE) throw GivenUp();
-  return chosen ? Checked(FromCodePage(file.data())) : std::string();
+  return chosen ? RequireAllCharacters(FromCodePage(file.data())) : std::string();
 }
 
 }  // namespace

@@ -194,8 +194,8 @@ void PictureBox::Invalidate(const RECT& part) {
 RECT PictureBox::BoundsInWindow(HWND window, const RECT& part) {
   const Box* box = BoxOf(window);
   if (box == nullptr) return part;
-  const DisplayScale::Range across = box->scale.Showing({part.left, part.right});
-  const DisplayScale::Range down = box->scale.Showing({part.top, part.bottom});
+  const DisplayScale::Range across = box->scale.DisplayRange({part.left, part.right});
+  const DisplayScale::Range down = box->scale.DisplayRange({part.top, part.bottom});
   return {across.begin, down.begin - box->rowsAbove, across.end, down.end - box->rowsAbove};
 }
 

@@ -98,12 +98,12 @@ TEST(DisplayScale, MixesNothingAtWholeScales) {
 
 TEST(DisplayScale, ShowsARangeOnAllDisplayPixelsThatTouchIt) {
   using Range = DisplayScale::Range;
-  EXPECT_EQ(DisplayScale(96).Showing({1, 38}), (Range{1, 38}));
-  EXPECT_EQ(DisplayScale(144).Showing({1, 38}), (Range{1, 57}));
-  EXPECT_EQ(DisplayScale(192).Showing({1, 38}), (Range{2, 76}));
+  EXPECT_EQ(DisplayScale(96).DisplayRange({1, 38}), (Range{1, 38}));
+  EXPECT_EQ(DisplayScale(144).DisplayRange({1, 38}), (Range{1, 57}));
+  EXPECT_EQ(DisplayScale(192).DisplayRange({1, 38}), (Range{2, 76}));
   for (const int dots : displays) {
     const DisplayScale scale(dots);
-    const Range shown = scale.Showing({7, 9});
+    const Range shown = scale.DisplayRange({7, 9});
     for (int pixel = 0; pixel < 100; ++pixel) {
       const DisplayScale::Mixture mixture = scale.MixtureAt(pixel);
       const bool touches = mixture.first == 7 || mixture.first == 8 || (mixture.first == 6 && mixture.ofNext > 0);
