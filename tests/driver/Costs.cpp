@@ -22,7 +22,7 @@ Costs CostsOf(const Program& program) {
   std::uint64_t kilobytes = 0;
   std::string more;
   if (!(numbers >> costs.bytesRead >> kilobytes) || numbers >> more)
-    throw std::runtime_error("the host system does not tell what the program used: " + answer.output);
+    throw std::runtime_error("the host system does not report what the program used: " + answer.output);
   costs.peakMemory = kilobytes * 1024;
   return costs;
 }
