@@ -12,12 +12,12 @@ void CheckLanguage(const std::string& text) {
   Require(code.size() <= 3, "a code has at most three characters");
   const bool known = code == english || code == simplifiedChinese || code == traditionalChinese;
   Require(Pick(greeting, code).has_value() == known, "only the three codes have texts");
-  Require(Compose(greeting, english, {text}) == "<" + text + ">", "a value stands in a text as it is");
+  Require(Compose(greeting, english, {text}) == "<" + text + ">", "a value is put into a text unchanged");
 }
 
 void CheckSettings(const std::string& text) {
-  Require(SettingsPath(text).ends_with(".dat"), "settings stand in a .dat file");
-  Require(SettingsPath("C:\\x\\" + text).starts_with("C:\\x"), "settings stand beside the program");
+  Require(SettingsPath(text).ends_with(".dat"), "settings are in a .dat file");
+  Require(SettingsPath("C:\\x\\" + text).starts_with("C:\\x"), "settings are next to the program");
   Require(!IsTruth(text) || text.size() == TruthText(true).size(), "only one word is a yes");
 }
 

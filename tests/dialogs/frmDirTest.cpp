@@ -266,7 +266,7 @@ TEST_F(frmDirTest, NamesTheNewFolderInEachLanguage) {
       SendMessageW(GetDlgItem(window, frmDirCreate_txt), EM_GETSEL, reinterpret_cast<WPARAM>(&start),
                    reinterpret_cast<LPARAM>(&end));
       EXPECT_EQ(start, 0U);
-      EXPECT_EQ(end, ToWide(row.name).size()) << "the name stands selected";
+      EXPECT_EQ(end, ToWide(row.name).size()) << "the name is selected";
       Command(window, frmDirCreate_CmdCancel);
     });
     OnDir(Press(frmDir_CmdCancel));

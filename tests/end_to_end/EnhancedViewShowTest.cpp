@@ -22,7 +22,7 @@ class EnhancedViewShow : public ViewByHand {
   // Waits until the status shows another entry. Returns when that was.
   static Clock::time_point WaitForStep(const EnhancedView& view) {
     const std::string before = view.Status();
-    EXPECT_TRUE(Eventually([&] { return view.Status() != before; })) << "the show stands";
+    EXPECT_TRUE(Eventually([&] { return view.Status() != before; })) << "the show does not go on";
     return Clock::now();
   }
   // Waits for two steps less than `limit` apart. Returns how many steps it waited for in all. Load on the machine can

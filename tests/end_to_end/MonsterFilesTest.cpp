@@ -44,7 +44,7 @@ class MonsterFiles : public EndToEnd, public ::testing::WithParamInterface<Shell
     Find();
     ASSERT_EQ(List().RowCount(), 1);
   }
-  // An intact file of each kind in front of and behind the others in the order of a search.
+  // An intact file of each kind before and after the others in the order of a search.
   void MakeIntactFiles() {
     for (const char* name : {"aaa.ico", "zzz.ico"})
       intact_.push_back({tree_.MakeFile(name, support::IconFileOf(0xFF)), 0});
@@ -82,11 +82,11 @@ class MonsterFiles : public EndToEnd, public ::testing::WithParamInterface<Shell
   std::vector<Entry> intact_;
 };
 
-// An icon file that says where its picture is: beyond what a size of 32 bits can tell.
-Bytes WithPictureAt(std::uint32_t place) {
+// An icon file whose picture is said to be at that offset.
+Bytes WithPictureAt(std::uint32_t offset) {
   Bytes file = support::IconFileOf(0xFF);
-  constexpr std::size_t placeOfPlace = 18;
-  for (std::size_t i = 0; i < 4; ++i) file[placeOfPlace + i] = static_cast<std::byte>(place >> 8U * i);
+  constexpr std::size_t offsetField = 18;
+  for (std::size_t i = 0; i < 4; ++i) file[offsetField + i] = static_cast<std::byte>(offset >> 8U * i);
   return file;
 }
 

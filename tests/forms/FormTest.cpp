@@ -127,7 +127,7 @@ TEST_F(FormErrorsTest, LeavesNoWindowBehindThatCouldNotLoad) {
   EXPECT_FALSE(form.IsLoaded());
   EXPECT_FALSE(IsWindow(former));
   EXPECT_EQ(form.unloaded, 0) << "what was never loaded has nothing to save";
-  EXPECT_TRUE(told.empty()) << "whoever opened it is told";
+  EXPECT_TRUE(told.empty()) << "the caller that opened it gets the error";
   form.onLoad = [] {};
   form.Show();
   EXPECT_TRUE(IsWindowVisible(form.Window()));

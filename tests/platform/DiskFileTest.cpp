@@ -54,7 +54,7 @@ TEST(DiskFile, KeepsNoByteOfALongerFileBefore) {
   const std::string path = folder.MakeFile("a.ico", "a long file that was here");
   EXPECT_TRUE(WriteWhole(path, "short"));
   EXPECT_EQ(ReadAll(path), "short");
-  EXPECT_EQ(Folders().Files(folder.Path(), "*.*"), std::vector<std::string>{"a.ico"}) << "and leaves nothing beside it";
+  EXPECT_EQ(Folders().Files(folder.Path(), "*.*"), std::vector<std::string>{"a.ico"}) << "and leaves no other file";
 }
 
 TEST(DiskFile, ReplacesAHiddenFile) {
@@ -90,7 +90,7 @@ TEST(DiskFile, LeavesAFileThatAnotherCopyOfTheProgramIsWriting) {
   EXPECT_FALSE(WriteWhole(path, "second", ReadOnlyFile::Replaced));
   EXPECT_TRUE(first.Close());
   EXPECT_EQ(ReadAll(path), "first");
-  EXPECT_EQ(Folders().Files(folder.Path(), "*.*"), std::vector<std::string>{"a.jpg"}) << "and leaves nothing beside it";
+  EXPECT_EQ(Folders().Files(folder.Path(), "*.*"), std::vector<std::string>{"a.jpg"}) << "and leaves no other file";
 }
 
 // Both must share a file that a third program has open; their bytes once ended up in one file.

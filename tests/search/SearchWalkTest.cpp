@@ -247,7 +247,7 @@ TEST_F(SearchWalkTest, PutsDir1AndThePointerBackWhenListingFails) {
   EXPECT_THROW(Find(), TypeMismatchError);
   EXPECT_EQ(window.dir1, "C:\\a");
   EXPECT_THAT(script.Lines("pointer"), ElementsAre("pointer back 1", "pointer back 1"));
-  EXPECT_EQ(list.Count(), 0) << "no list beside a blank grid";
+  EXPECT_EQ(list.Count(), 0) << "no list with a blank grid";
   EXPECT_EQ(script.Lines().back(), "clear grid");
 }
 

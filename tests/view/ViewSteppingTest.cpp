@@ -183,7 +183,7 @@ TEST(ViewStepping, NeverWrapsSilentlyAtTheEndsOfASixteenBitNumber) {
   View high(5, 32767);
   high.Next();
   EXPECT_EQ(high.stepping.CurrentEntry(), 32767) << "the sum is an error, and skipped";
-  EXPECT_THAT(high.host.asked, ElementsAre(32767)) << "the step goes on behind the error";
+  EXPECT_THAT(high.host.asked, ElementsAre(32767)) << "the step goes on after the error";
 
   View low(5, -32768);
   low.Previous();

@@ -274,7 +274,7 @@ TEST_F(frmBitTest, OpensAgainAsTheFirstTime) {
     EXPECT_FALSE(TakeTimer());
     EXPECT_EQ(Status(), "C:\\icons\\4.dll - 40");
     Click(frmBit_tlb_control_MoveNext);
-    EXPECT_THAT(host->asked, ElementsAre(4, 4)) << "the selection counts anew";
+    EXPECT_THAT(host->asked, ElementsAre(4, 4)) << "it begins at the selection again";
   });
 }
 

@@ -205,7 +205,7 @@ TEST(InspectAnimation, LooksAtSoManyChunksAndNoMore) {
   LongFile file(fiveGigabytes, "RIFF" + Number(0xFFFFFFFF) + "ACON" + Header(2, 2) + Pictures(2));
   const AnimationFacts facts = InspectAnimation(file);
   EXPECT_EQ(facts.maxSteps, 2);
-  EXPECT_FALSE(facts.holdsWhatItSays) << "it goes on where nobody looked";
+  EXPECT_FALSE(facts.holdsWhatItSays) << "it goes on beyond what was read";
   EXPECT_LE(file.bytesRead, maxAnimationChunks * 8U + 4096);
 }
 
@@ -262,7 +262,7 @@ TEST(InspectAnimation, ReadsNoMoreOfEightMillionChunksThanItMayLookAt) {
   for (std::size_t i = 0; i < chunks; ++i) many.append("junk\0\0\0\0", 8);
   BytesInMemory file = FileOf(Animation(Header(1, 1) + many + Pictures(1)));
   const AnimationFacts facts = InspectAnimation(file);
-  EXPECT_EQ(facts.maxSteps, 0) << "nobody looked as far as the picture";
+  EXPECT_EQ(facts.maxSteps, 0) << "the picture is beyond what was read";
   EXPECT_FALSE(facts.holdsWhatItSays);
   EXPECT_LE(file.bytesRead, maxAnimationChunks * 8U + 4096);
 }

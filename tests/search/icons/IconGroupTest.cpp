@@ -135,7 +135,7 @@ TEST(ChoosePicture, CountsTheEntriesThatAreThere) {
   EXPECT_EQ(ChoosePicture(group, {}), 2);
   EXPECT_EQ(ChoosePicture(Cut(group, 6 + 14 + 13), {}), 1);
   EXPECT_FALSE(ChoosePicture(Cut(group, 6 + 13), {}));
-  EXPECT_EQ(ChoosePicture(With(group, 4, 1, 2), {}), 1) << "what lies behind the last entry is none";
+  EXPECT_EQ(ChoosePicture(With(group, 4, 1, 2), {}), 1) << "what follows the last entry is no entry";
 }
 
 TEST(ChoosePicture, ReadsAllOfAPicturesNumber) {
@@ -155,7 +155,7 @@ TEST(HoldsPicture, IsTrueForAWholeBitmapOfEveryDepth) {
     const Bytes bitmap = PlainBitmap(33, 17, bits);
     ASSERT_EQ(bitmap.size(), bytes);
     EXPECT_TRUE(HoldsPicture(bitmap)) << bits;
-    EXPECT_TRUE(HoldsPicture(Cut(bitmap, bytes + 100))) << "what lies behind does not matter";
+    EXPECT_TRUE(HoldsPicture(Cut(bitmap, bytes + 100))) << "what follows does not matter";
     EXPECT_FALSE(HoldsPicture(Cut(bitmap, bytes - 1))) << bits;
   }
 }

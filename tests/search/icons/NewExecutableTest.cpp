@@ -163,7 +163,7 @@ TEST(NewExecutable, IsFoundWhereTheFirstHeaderSays) {
   const std::size_t place = moved.size();
   moved.insert(moved.end(), module.begin() + header, module.begin() + header + 64);
   moved = With(moved, offsetPlace, static_cast<std::uint32_t>(place), 4);
-  EXPECT_EQ(CountOf(moved), 0) << "its table would be behind the end";
+  EXPECT_EQ(CountOf(moved), 0) << "its table would be beyond the end";
   const Bytes tableBytes(module.begin() + table, module.end());
   moved.insert(moved.end(), tableBytes.begin(), tableBytes.end());
   EXPECT_EQ(Marks(moved), (std::vector{1, 2}));
@@ -338,7 +338,7 @@ TEST(NewExecutable, ReadsAsLittleOfAFileOfGigabytes) {
   const std::size_t groups = FirstGroup(20) - 8;
   LongFile endless = longFile(With(With(module, groups + 2, 0xFFFF), header + 0x26, 0xFFFF));
   const NewExecutable executable(endless, fiveGigabytes);
-  EXPECT_GT(executable.IconCount(), 5000) << "the zeros behind the table are taken for groups";
+  EXPECT_GT(executable.IconCount(), 5000) << "the zeros after the table count as groups";
   EXPECT_LE(executable.IconCount(), 65'535 / 12);
   EXPECT_LE(endless.bytesRead, 512U + 65'535U);
   endless.bytesRead = 0;

@@ -123,7 +123,7 @@ TEST_F(FrmFindIconOptionsTest, TicksTheOthersWithAllFiles) {
   for (const SearchedType& type : searchedTypes) EXPECT_TRUE(window->IsChecked(type.checkBox)) << type.part;
   EXPECT_EQ(machine.patterns.back(), "*.*");
   TickFileType(3, false);
-  EXPECT_TRUE(window->IsChecked(FrmFindIcon_ChkFileType3)) << "the box of all files still stands";
+  EXPECT_TRUE(window->IsChecked(FrmFindIcon_ChkFileType3)) << "the box of all files is still ticked";
   TickFileType(6, false);
   EXPECT_EQ(machine.patterns.back(), "*.ico;*.ani;*.icl;*.ocx;*.dll;*.exe;");
 }
