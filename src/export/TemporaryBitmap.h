@@ -14,7 +14,7 @@ namespace tarvik {
 // is always a new one, and the system deletes it when its handle is closed, however the program ends.
 class TemporaryBitmap final : public TemporaryPicture {
  public:
-  // The candidate places of the file: the path tried first, and the folder (with a trailing backslash) tried next.
+  // Where the file can be: the path tried first, and the folder (with a trailing backslash) tried next.
   struct Paths {
     std::string path;
     std::string folder;

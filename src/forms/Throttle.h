@@ -4,8 +4,8 @@
 
 namespace tarvik {
 
-// Tells when a repeated action is due: at once the first time, then once per period. Time is the system's tick count,
-// which advances in steps of up to 16 milliseconds.
+// Says whether a repeated action is due: at once the first time, then once per period. Time is the system's tick
+// count, which advances in steps of up to 16 milliseconds.
 class Throttle {
  public:
   // `period` in milliseconds.

@@ -8,7 +8,7 @@
 
 namespace tarvik {
 
-// Tells the user, in the language of `code`, which run-time error stopped a handler, and below it the file at which it
+// Shows in a message box, in the language of `code`, which run-time error stopped a handler, and the file at which it
 // happened, if the error concerns one. Like every message, shows nothing for any other code.
 void ShowRuntimeError(HWND owner, const RuntimeError& error, std::string_view code);
 

@@ -13,7 +13,7 @@ struct Costs {
   std::uint64_t peakMemory;  // in bytes: the most that was in use at a time
 };
 
-// Throws std::runtime_error if the host system does not tell.
+// Throws std::runtime_error if the host system does not report it.
 Costs CostsOf(const Program& program);
 
 }  // namespace tarvik::end_to_end

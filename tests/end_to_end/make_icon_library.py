@@ -2,7 +2,7 @@
 """Writes COUNT icons and the resource script that holds them: make_icon_library.py COUNT FOLDER
 
 Each icon is 32 by 32 pixels at 4 bits, in a colour of its own cycle, with a transparent border of 4 pixels, so that
-neighbours in the grid can be told apart and drawing them depends on what lies below.
+neighbours in the grid can be distinguished and drawing them depends on what lies below.
 """
 import pathlib
 import struct

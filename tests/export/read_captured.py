@@ -1,7 +1,7 @@
 """Reads the files of captured icons with icotool and ImageMagick and compares with the surfaces they were written from.
 
 The folder is the one that the test CapturedFiles.AreLeftForOthers fills. Its captured.txt has a line for each icon:
-the name of its files, their size, the depths of icon and bitmap, and the cursor's hot spot. Beside the files stand the
+the name of its files, their size, the depths of icon and bitmap, and the cursor's hot spot. In the same folder are the
 surfaces: NAME.ppm the image, NAME.pgm the mask, NAME-composed.ppm the composed icon.
 """
 
