@@ -39,6 +39,18 @@ class SaveFault : public Saving {
   std::string IconFailed(int number) const {
     return "Unable to save the file " + Out("Icon " + std::to_string(number) + ".ico");
   }
+  // Saves all as icons, as cursors and as bitmaps. One of each fails; of the icons, the one with that number.
+  void SaveAllWithOneFailureEach(int icon) const {
+    ChooseOut(FrmFindIcon_mnuSaveAll);
+    EXPECT_THAT(ReadMessages(1), ElementsAre(IconFailed(icon)));
+    ExpectAsFound();
+    ChooseOut(FrmFindIcon_mnuSaveAll3);
+    EXPECT_THAT(ReadMessages(1), ElementsAre(cursorFailed));
+    ExpectAsFound();
+    ChooseOut(FrmFindIcon_mnuSaveAll2);
+    EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
+    ExpectAsFound();
+  }
 
   static constexpr const wchar_t* temporaryBitmap = L"C:\\tmp.bmp";
 };
@@ -53,15 +65,7 @@ TEST_F(SaveFault, ABatchGoesOnAfterANameThatIsAFolder) {
   FindPictures();
   for (const char* name : {"Icon 2.ico", "Curor 1.cur", "Images 3.bmp", "Images 4.jpg", "Images 5.gif"})
     tree_.MakeFolder(std::string(outName) + "\\" + name);
-  ChooseOut(FrmFindIcon_mnuSaveAll);
-  EXPECT_THAT(ReadMessages(1), ElementsAre(IconFailed(2)));
-  ExpectAsFound();
-  ChooseOut(FrmFindIcon_mnuSaveAll3);
-  EXPECT_THAT(ReadMessages(1), ElementsAre(cursorFailed));
-  ExpectAsFound();
-  ChooseOut(FrmFindIcon_mnuSaveAll2);
-  EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
-  ExpectAsFound();
+  SaveAllWithOneFailureEach(2);
   ChooseOut(FrmFindIcon_mnuSaveAll2, Jpg);
   AcceptJpegOptions();
   EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
@@ -100,15 +104,7 @@ TEST_F(SaveFault, ADriveWithoutADiskIsReportedFileByFile) {
 TEST_F(SaveFault, AWriteThatFailsInTheMiddleIsReportedAndTheBatchGoesOn) {
   // Icons of two and of sixteen colours fit; one with a palette of 256 does not, nor does a true-colour bitmap.
   FindPicturesWithFilesUpTo(1024);
-  ChooseOut(FrmFindIcon_mnuSaveAll);
-  EXPECT_THAT(ReadMessages(1), ElementsAre(IconFailed(3)));
-  ExpectAsFound();
-  ChooseOut(FrmFindIcon_mnuSaveAll3);
-  EXPECT_THAT(ReadMessages(1), ElementsAre(cursorFailed));
-  ExpectAsFound();
-  ChooseOut(FrmFindIcon_mnuSaveAll2);
-  EXPECT_THAT(ReadMessages(1), ElementsAre(imageFailed));
-  ExpectAsFound();
+  SaveAllWithOneFailureEach(3);
   auto files = SeeFiles(Out());
   for (const int entry : {0, 1, 3, 4}) {
     const std::string number = std::to_string(entry + 1);

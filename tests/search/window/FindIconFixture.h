@@ -169,7 +169,7 @@ class FindIconFixture : public ::testing::Test {
   }
   // A pixel of the grid picture as the window paints it.
   Color GridPixel(int x, int y) const {
-    application_.DoEvents();
+    application.DoEvents();
     const WindowDc dc(Grid());
     return GetPixel(dc.get(), x, y);
   }
@@ -184,8 +184,7 @@ class FindIconFixture : public ::testing::Test {
   MemoryIni ini;
   Settings settings{ini, "C:\\program\\tarvik.exe"};
   SmallMachine machine;
-  Application application{GetModuleHandleW(nullptr)};
-  Application& application_ = application;
+  mutable Application application{GetModuleHandleW(nullptr)};  // also serves the messages for looks at the window
   DiskFile files;
   TemporaryBitmap temporaryBitmap{TemporaryBitmapPaths()};
   AnsweredDialogs dialogs{application, state, [this] { return window->Window(); }};

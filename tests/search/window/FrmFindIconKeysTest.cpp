@@ -1,3 +1,5 @@
+// The context menu of the icon list's rows, and F1.
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -15,14 +17,14 @@ class FrmFindIconKeysTest : public support::FindIconFixture {
   using Items = std::vector<std::string>;
   static Items ItemsOf(HMENU menu) {
     Items items;
-    for (int place = 0; place < GetMenuItemCount(menu); ++place) {
+    for (int position = 0; position < GetMenuItemCount(menu); ++position) {
       std::array<wchar_t, 128> text{};
       MENUITEMINFOW item{};
       item.cbSize = sizeof item;
       item.fMask = MIIM_ID | MIIM_STRING | MIIM_STATE | MIIM_SUBMENU;
       item.dwTypeData = text.data();
       item.cch = static_cast<UINT>(text.size());
-      GetMenuItemInfoW(menu, static_cast<UINT>(place), TRUE, &item);
+      GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &item);
       items.push_back(Described(static_cast<int>(item.wID), ToUtf8(text.data()), (item.fState & MFS_DISABLED) == 0));
       if (item.hSubMenu == nullptr) continue;
       for (std::string& below : ItemsOf(item.hSubMenu)) items.push_back(std::move(below));
