@@ -107,20 +107,12 @@ void Selection::ToggleCurrent(Point frameCorner) {
   state_.FrameX = frameCorner.x;
   state_.FrameY = frameCorner.y;
   DrawFrameAt(frameCorner, selected);
-  if (selected) {
-    list_.Select(number);
-  } else {
-    list_.Deselect(number);
-  }
+  list_.SetSelected(number, selected);
 }
 
 void Selection::SetSelected(int number, bool selected) {
   DrawFrameAt(FrameCorner(state_.Geometry, number - 1), selected);
-  if (selected) {
-    list_.Select(number);
-  } else {
-    list_.Deselect(number);
-  }
+  list_.SetSelected(number, selected);
 }
 
 void Selection::DrawFrameAt(Point corner, bool shown) {

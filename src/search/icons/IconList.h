@@ -33,14 +33,13 @@ class IconList {
   // The entry with that number, 1 to Count().
   const IconListEntry& Item(int number) const { return entries_.at(static_cast<std::size_t>(number) - 1); }
 
+  void SetSelected(int number, bool selected) { entries_.at(static_cast<std::size_t>(number) - 1).selected = selected; }
   void Select(int number) { SetSelected(number, true); }
   void Deselect(int number) { SetSelected(number, false); }
   bool AnySelected() const;
   int CountSelected() const;
 
  private:
-  void SetSelected(int number, bool selected) { entries_.at(static_cast<std::size_t>(number) - 1).selected = selected; }
-
   std::vector<IconListEntry> entries_;
 };
 
