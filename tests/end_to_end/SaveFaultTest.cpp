@@ -37,7 +37,7 @@ class SaveFault : public Saving {
     FindAll();
   }
   std::string IconFailed(int number) const {
-    return "Unable to save the file " + Out("Icon " + std::to_string(number) + ".ico");
+    return FailureOf(FrmFindIcon_mnuSaveAs, Out("Icon " + std::to_string(number) + ".ico"));
   }
   // Saves all as icons, as cursors and as bitmaps. One of each fails; of the icons, the one with that number.
   void SaveAllWithOneFailureEach(int icon) const {
@@ -154,7 +154,7 @@ TEST_F(SaveFault, AReadOnlyFileStaysButAJpegOrGifReplacesIt) {
     dialog.WaitForEnd();
   };
   saveOverReadOnly(FrmFindIcon_mnuSaveAs, "a.ico");
-  EXPECT_THAT(ReadMessages(1), ElementsAre("Unable to save the file " + Out("a.ico")));
+  EXPECT_THAT(ReadMessages(1), ElementsAre(FailureOf(FrmFindIcon_mnuSaveAs, Out("a.ico"))));
   ExpectAsFound();
   saveOverReadOnly(FrmFindIcon_MnuSaveAsCursor, "a.cur");
   EXPECT_THAT(ReadMessages(1), ElementsAre(cursorFailed));

@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 
 #include <array>
-#include <optional>
 #include <string>
 
 #include "end_to_end/SavingTest.h"
@@ -44,32 +43,17 @@ class SaveOver : public Saving, public ::testing::WithParamInterface<Format> {
     return {tree_.MakeFolder(outName), tree_.MakeFolder("elsewhere"),
             [](int number) { return GetParam().prefix + std::to_string(number) + GetParam().extension; }};
   }
-  void AcceptOptions() const {
-    if (GetParam().type == Jpg) AcceptJpegOptions();
-    if (GetParam().type == Gif) AcceptGifOptions();
-  }
-  static std::string Failure(const std::string& path) {
-    if (GetParam().command == FrmFindIcon_mnuSaveAs) return "Unable to save the file " + path;
-    return GetParam().command == FrmFindIcon_MnuSaveAsCursor ? cursorFailed : imageFailed;
-  }
-  // Enters a path in the file dialog, and agrees if the dialog asks whether to replace the file.
-  void SaveByName(const std::string& path) const {
-    const SaveDialog dialog = AskForName(GetParam().command);
-    dialog.Save(path);
-    std::optional<Box> question;
-    ASSERT_TRUE(Eventually([&] { return !dialog.IsOpen() || (question = program_.FindBox()).has_value(); })) << path;
-    if (question && dialog.IsOpen()) question->Press(IDYES);
-    dialog.WaitForEnd();
-  }
 };
 
 TEST_P(SaveOver, ABatchReplacesTheTargetItselfOrLeavesItAsItIs) {
   SaveTargets targets = MakeTargets();
   ChooseOut(GetParam().batchCommand, GetParam().type);
-  AcceptOptions();
+  if (GetParam().type == Jpg) AcceptJpegOptions();
+  if (GetParam().type == Gif) AcceptGifOptions();
   Names expected;
   for (int number = 1; number <= SaveTargets::Count(); ++number) {
-    if (!SaveTargets::TakesAFile(number, GetParam().readOnly)) expected.push_back(Failure(targets.Path(number)));
+    if (!SaveTargets::TakesAFile(number, GetParam().readOnly))
+      expected.push_back(FailureOf(GetParam().command, targets.Path(number)));
   }
   EXPECT_EQ(ReadMessages(static_cast<int>(expected.size())), expected);
   ExpectAsFound();
@@ -82,10 +66,9 @@ TEST_P(SaveOver, OneIconReplacesTheTargetItselfOrLeavesItAsItIs) {
   for (int number = 1; number <= SaveTargets::Count() && !HasFailure(); ++number) {
     if (SaveTargets::IsFolder(number)) continue;
     SCOPED_TRACE(SaveTargets::What(number));
-    SaveByName(targets.Path(number));
-    AcceptOptions();
+    SaveOneOver(GetParam().command, targets.Path(number));
     if (!SaveTargets::TakesAFile(number, GetParam().readOnly)) {
-      EXPECT_EQ(ReadMessages(1), Names{Failure(targets.Path(number))});
+      EXPECT_EQ(ReadMessages(1), Names{FailureOf(GetParam().command, targets.Path(number))});
     }
     ExpectAsFound();
   }

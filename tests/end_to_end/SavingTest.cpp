@@ -1,6 +1,7 @@
 #include "end_to_end/SavingTest.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "platform/Handles.h"
 #include "platform/Text.h"
@@ -97,6 +98,22 @@ SaveDialog Saving::AskForName(int command) const {
   program_.Command(command);
   if (command == FrmFindIcon_MnuSaveAsCursor) Dialog(program_, FrmHotSpot_PicCursor).End(FrmHotSpot_CmdOk);
   return SaveDialog(program_);
+}
+
+void Saving::SaveOneOver(int command, const std::string& path) const {
+  const SaveDialog dialog = AskForName(command);
+  dialog.Save(path);
+  std::optional<Box> question;
+  ASSERT_TRUE(Eventually([&] { return !dialog.IsOpen() || (question = program_.FindBox()).has_value(); })) << path;
+  if (question && dialog.IsOpen()) question->Press(IDYES);
+  dialog.WaitForEnd();
+  if (path.ends_with(".jpg")) AcceptJpegOptions();
+  if (path.ends_with(".gif")) AcceptGifOptions();
+}
+
+std::string Saving::FailureOf(int command, const std::string& path) {
+  if (command == FrmFindIcon_mnuSaveAs) return "Unable to save the file " + path;
+  return command == FrmFindIcon_MnuSaveAsCursor ? cursorFailed : imageFailed;
 }
 
 FolderChooser Saving::AskForFolder(int command) const {

@@ -71,6 +71,10 @@ class Saving : public SelectionByHand {
   SaveDialog AskForName(int command) const;
   // Uses one of the three commands that save one icon, up to entering the name.
   void SaveAs(int command, const std::string& path) const { AskForName(command).SaveAs(path); }
+  // The same and to the end: agrees if the dialog asks whether to replace a file, and to the options of JPEG and GIF.
+  void SaveOneOver(int command, const std::string& path) const;
+  // The message of such a command for a file that cannot be written.
+  static std::string FailureOf(int command, const std::string& path);
   FolderChooser AskForFolder(int command) const;
   // Chooses the folder to save to, and the image type if one is given.
   void ChooseOut(int command, ImageType type = Bmp) const;

@@ -24,7 +24,6 @@ class HelpKey : public ViewByHand {
     fs::copy(BuiltFile(TARVIK_GUIDE), fs::path(ToWide(home_.In("guide"))), fs::copy_options::recursive);
     FindFiles(2);
   }
-  void TearDown() override { ViewByHand::TearDown(); }
   void ExpectGuide(const char* where) const {
     const std::string page = home_.In("page.txt");
     const WebPageReader reader(page);

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
-#include <optional>
 #include <string>
 
 #include "driver/SeenFiles.h"
@@ -38,21 +37,6 @@ class UnwritableDisk : public Saving {
   std::string Contents() const {
     return RunUnix("cd " + UnixFolder() + " && ls -lA --time-style=full-iso && tail -n +1 -- *").output;
   }
-  // Saves the first icon by its name, and agrees if the dialog asks whether to replace a file.
-  void SaveByName(const Format& format, const std::string& path) const {
-    const SaveDialog dialog = AskForName(format.command);
-    dialog.Save(path);
-    std::optional<Box> question;
-    ASSERT_TRUE(Eventually([&] { return !dialog.IsOpen() || (question = program_.FindBox()).has_value(); }));
-    if (question && dialog.IsOpen()) question->Press(IDYES);
-    dialog.WaitForEnd();
-    if (path.ends_with(".jpg")) AcceptJpegOptions();
-    if (path.ends_with(".gif")) AcceptGifOptions();
-  }
-  static std::string Failure(const Format& format, const std::string& path) {
-    if (format.command == FrmFindIcon_mnuSaveAs) return "Unable to save the file " + path;
-    return format.command == FrmFindIcon_MnuSaveAsCursor ? cursorFailed : imageFailed;
-  }
 
  private:
   const std::string path_;
@@ -74,8 +58,8 @@ TEST_F(ReadOnlyDisk, KeepsWhatIsOnItAndEachFileIsReported) {
     for (const char* name : {"a new file", "a file", "a read-only file", "a link"}) {
       const std::string path = std::string("R:\\") + name + format.extension;
       SCOPED_TRACE(path);
-      SaveByName(format, path);
-      EXPECT_THAT(ReadMessages(1), ElementsAre(Failure(format, path)));
+      SaveOneOver(format.command, path);
+      EXPECT_THAT(ReadMessages(1), ElementsAre(FailureOf(format.command, path)));
       ExpectAsFound();
     }
   }
@@ -143,12 +127,12 @@ TEST_F(DiskWithoutInodes, OneIconIsSavedOverAFileButNotUnderANewName) {
   for (const Format& format : formats) {
     const std::string path = std::string("R:\\new") + format.extension;
     SCOPED_TRACE(path);
-    SaveByName(format, path);
-    EXPECT_THAT(ReadMessages(1), ElementsAre(Failure(format, path)));
+    SaveOneOver(format.command, path);
+    EXPECT_THAT(ReadMessages(1), ElementsAre(FailureOf(format.command, path)));
     ExpectAsFound();
   }
   EXPECT_EQ(Listing(), names_);
-  SaveByName(formats[0], "R:\\Icon 2.ico");
+  SaveOneOver(formats[0].command, "R:\\Icon 2.ico");
   ExpectOnlyTheSecond("Icon 2.ico", IconPixels(0));
 }
 
