@@ -132,43 +132,79 @@ TEST_F(FrmFindIconSelectionTest, FollowsAChoiceInTheList) {
   EXPECT_TRUE(IsFramed(17));
 }
 
-// Reports Ctrl or Shift as held while this object lives.
-class HeldKey : NonCopyable {
+// Reports Ctrl, Shift or both as held while this object lives: flags MK_CONTROL and MK_SHIFT.
+class HeldKeys : NonCopyable {
  public:
-  explicit HeldKey(int key) {
+  explicit HeldKeys(WPARAM held) {
     std::array<BYTE, 256> keys{};
-    keys.at(static_cast<std::size_t>(key)) = 0x80;
+    if ((held & MK_CONTROL) != 0) keys[VK_CONTROL] = 0x80;
+    if ((held & MK_SHIFT) != 0) keys[VK_SHIFT] = 0x80;
     SetKeyboardState(keys.data());
   }
-  ~HeldKey() {
+  ~HeldKeys() {
     std::array<BYTE, 256> keys{};
     SetKeyboardState(keys.data());
   }
 };
 
-TEST_F(FrmFindIconSelectionTest, SelectsARangeOfOneRowInTheList) {
-  Open20();
-  Click(FrmFindIcon_OptView1);
-  const auto click = [this](WPARAM keys) {
+// The list after a search, clicked with keys held. Rows are counted from 1.
+class FrmFindIconRangeTest : public FrmFindIconSelectionTest {
+ protected:
+  void OpenList() {
+    Open20();
+    Click(FrmFindIcon_OptView1);
+  }
+  void ClickRow(int number, WPARAM held = 0) {
     RECT row{};
-    ListView_GetItemRect(Item(FrmFindIcon_Lv), 2, &row, LVIR_LABEL);
+    ListView_GetItemRect(Item(FrmFindIcon_Lv), number - 1, &row, LVIR_LABEL);
     const LPARAM point = MAKELPARAM(row.left + 3, (row.top + row.bottom) / 2);
-    SendMessageW(Item(FrmFindIcon_Lv), WM_LBUTTONDOWN, keys | MK_LBUTTON, point);
-    SendMessageW(Item(FrmFindIcon_Lv), WM_LBUTTONUP, keys, point);
+    const HeldKeys keys(held);
+    SendMessageW(Item(FrmFindIcon_Lv), WM_LBUTTONDOWN, held | MK_LBUTTON, point);
+    SendMessageW(Item(FrmFindIcon_Lv), WM_LBUTTONUP, held, point);
     application.DoEvents();
-  };
-  click(0);
-  {
-    const HeldKey ctrl(VK_CONTROL);
-    click(MK_CONTROL);
   }
-  {
-    const HeldKey shift(VK_SHIFT);
-    click(MK_SHIFT);
+  Rows FramedCells() {
+    Click(FrmFindIcon_OptView0);
+    Rows cells;
+    for (int number = 1; number <= 20; ++number) {
+      if (IsFramed(number)) cells.push_back(number);
+    }
+    Click(FrmFindIcon_OptView1);
+    return cells;
   }
+};
+
+TEST_F(FrmFindIconRangeTest, IsOneRowIfTheRowOfTheLastClickIsClickedWithShift) {
+  OpenList();
+  ClickRow(3);
+  ClickRow(3, MK_CONTROL);
+  ClickRow(3, MK_SHIFT);
   EXPECT_EQ(SelectedRows(), Rows{3});
-  Click(FrmFindIcon_OptView0);
-  EXPECT_TRUE(IsFramed(3));
+  EXPECT_EQ(FramedCells(), Rows{3});
+}
+
+TEST_F(FrmFindIconRangeTest, StartsAtTheCurrentIconAfterASearch) {
+  OpenList();
+  ClickRow(4, MK_SHIFT);
+  EXPECT_EQ(SelectedRows(), (Rows{1, 2, 3, 4}));
+  Find(20);
+  ClickRow(2, MK_SHIFT);
+  EXPECT_EQ(SelectedRows(), (Rows{1, 2}));
+}
+
+// After Ctrl has removed a row from the selection, Wine's control counts from the row last clicked with both keys.
+TEST_F(FrmFindIconRangeTest, StartsAtTheRowThatWasClickedWithoutShift) {
+  OpenList();
+  ClickRow(2);
+  ClickRow(5, MK_CONTROL);
+  ClickRow(5, MK_CONTROL);
+  ASSERT_EQ(SelectedRows(), Rows{2});
+  ClickRow(8, MK_CONTROL | MK_SHIFT);
+  EXPECT_EQ(SelectedRows(), (Rows{2, 5, 6, 7, 8}));
+  EXPECT_EQ(FramedCells(), (Rows{2, 5, 6, 7, 8}));
+  ClickRow(3, MK_SHIFT);
+  EXPECT_EQ(SelectedRows(), (Rows{3, 4, 5}));
+  EXPECT_EQ(FramedCells(), (Rows{3, 4, 5}));
 }
 
 TEST_F(FrmFindIconSelectionTest, NumbersTheLabelByTheFileOnDemand) {
