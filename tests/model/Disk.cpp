@@ -147,6 +147,11 @@ bool Disk::MakeFolder(const std::string& path) {
   return true;
 }
 
+void Disk::RemoveFolder(const std::string& path) {
+  std::erase_if(folders_,
+                [&path](const auto& folder) { return folder.first == path || folder.first.starts_with(path + "\\"); });
+}
+
 std::string Joined(const std::string& folder, const std::string& name) {
   return folder.ends_with('\\') ? folder + name : folder + "\\" + name;
 }

@@ -55,7 +55,8 @@ class Disk {
   void Remove(const std::string& folder, const std::string& name);
   bool CanMakeFolder(const std::string& path) const;
   bool MakeFolder(const std::string& path);
-  void RemoveFolder(const std::string& path) { folders_.erase(path); }
+  // With all that it contains.
+  void RemoveFolder(const std::string& path);
 
  private:
   // By name in any case, as the system lists and finds files.

@@ -123,6 +123,16 @@ class Driver : NonCopyable {
   void ServeKey(HWND control, WPARAM key, bool ctrl = false);
   void DropOnMain(const std::vector<std::string>& paths) const;
   void ExpectOnClipboard(const Picture& expected);
+  void ExpectOnClipboard(const std::string& expected);
+  // Changes of the disk, without the program's knowledge.
+  void ChangeFiles(const std::string& folder, const Action& action);
+  void ChangeFolders(const std::string& above, const Action& action);
+  void AddFile(const std::string& folder, const std::string& name);
+  void MakeNews(const Action& action);
+  // Clicks this row of the folder list; of a larger number, the remainder counts.
+  void ClickFolderRow(int number);
+  // Moves the pointer to that place of the grid.
+  void RestOn(POINT point) const;
   void Command(HWND window, int id, int code = 0) const;
   HWND Main() const { return program_->Main(); }
   HWND Item(int id) const { return controls_->Of(id); }

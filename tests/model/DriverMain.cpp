@@ -16,6 +16,9 @@ namespace {
 
 constexpr std::array<int, 12> iconCounts{0, 1, 2, 5, 15, 16, 20, 45, 61, 76, 91, 130};
 
+constexpr std::size_t deepest =
+    4;  // folders in a chain that get sub-folders: in a tip, a longer path has several lines
+
 std::string NumberText(int number) {
   return std::to_string(number);
 }
@@ -162,6 +165,8 @@ bool Driver::Scroll(const Action& action) {
   static constexpr int requests[] = {SB_LINEDOWN, SB_LINEUP, SB_PAGEDOWN,      SB_PAGEUP,
                                      SB_BOTTOM,   SB_TOP,    SB_THUMBPOSITION, SB_THUMBTRACK};
   const int request = requests[action.a % 8];
+  const bool rests = action.c / 4 % 2 == 0;
+  const POINT point = PointOnGrid(action);
   const int thumb = action.b % (std::max(0, model_.grid.InnerHeight() - viewportHeight) + 1);
   const HWND bar = Item(FrmFindIcon_Vsb);
   const int steps[] = {model_.grid.LineStep(), -model_.grid.LineStep(), viewportHeight, -viewportHeight};
@@ -177,26 +182,32 @@ bool Driver::Scroll(const Action& action) {
   model_.tip = "";
   Note("request " + NumberText(request) + " to " + NumberText(model_.grid.Scroll()));
   Perform([&] {
+    if (rests) RestOn(point);
     if (request == SB_THUMBPOSITION || request == SB_THUMBTRACK) SetScrollPos(bar, SB_CTL, thumb, FALSE);
     SendMessageW(Main(), WM_VSCROLL, MAKEWPARAM(request, thumb), reinterpret_cast<LPARAM>(bar));
   });
   return true;
 }
 
+// Mostly the wheel is turned over an icon, whose tip is there.
 bool Driver::TurnWheel(const Action& action) {
+  if (model_.listShown) return false;
   static constexpr int deltas[] = {-120, 120, -240, -30, 40, -7, 360};
   const int delta = deltas[action.a % 7];
   Note(NumberText(delta));
   UINT lines = 0;
   SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-  if (!model_.listShown && model_.grid.Scrolls()) {
+  const POINT point = PointOnGrid(action);
+  const bool rests = action.b % 3 != 0;
+  if (rests) model_.Hover(point.x, point.y);
+  if (model_.grid.Scrolls()) {
     model_.grid.Turn(delta, static_cast<int>(lines));
     model_.tip = "";
   }
   RECT place{};
   GetWindowRect(Item(FrmFindIcon_PicFrame), &place);
   const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-  if (model_.listShown) return false;
+  if (rests) RestOn(point);
   PostMessageW(Item(FrmFindIcon_CmdFind), WM_MOUSEWHEEL, MAKEWPARAM(0, delta), MAKELPARAM(middle.x, middle.y));
   PostTick();
   return true;
@@ -272,16 +283,41 @@ bool Driver::ChooseDrive(const Action& action) {
   return true;
 }
 
-// Files are added, changed and deleted without the program's knowledge.
+// Files and folders are added, changed and deleted without the program's knowledge.
 bool Driver::ChangeDisk(const Action& action) {
   static constexpr const char* folders[] = {
       "C:\\", "C:\\icons", "C:\\icons\\deep", "C:\\icons\\deep\\deeper", "C:\\icons\\many", "C:\\program",
       "D:\\", "D:\\a"};
-  static constexpr const char* names[] = {"a.ico", "b.dll", "c.ani", "d.ico", "e.exe", "g.ico", "h.ocx", "z.ico"};
   const std::string folder = action.c % 2 == 0 ? model_.folder : folders[action.a % 8];
+  if (action.b / 8 % 4 == 0) {
+    ChangeFolders(folder, action);
+  } else {
+    ChangeFiles(folder, action);
+  }
+  PostTick();
+  return true;
+}
+
+// A sub-folder appears, with one file, or goes. In the list it comes before or after the others.
+void Driver::ChangeFolders(const std::string& above, const Action& action) {
+  static constexpr const char* names[] = {"after all", "zigzag"};
+  if (Chain(above).size() > deepest) return AddFile(above, "n.ico");
+  const std::string path = Joined(above, names[action.b % 2]);
+  const bool goes = disk_.IsReadable(path);
+  Note((goes ? "no folder " : "folder ") + path);
+  if (goes) {
+    disk_.RemoveFolder(path);
+  } else if (disk_.MakeFolder(path)) {
+    disk_.Put(path, "n.ico", 2);
+  }
+  model_.listsAreStale = true;
+}
+
+void Driver::ChangeFiles(const std::string& folder, const Action& action) {
+  static constexpr const char* names[] = {"a.ico", "b.dll", "c.ani", "d.ico", "e.exe", "g.ico", "h.ocx", "z.ico"};
   const std::string name = names[action.b % 8];
-  const int icons = iconCounts.at(static_cast<std::size_t>(action.c) % iconCounts.size());
-  const bool goes = action.c / 16 % 3 == 0;
+  const int icons = iconCounts.at(static_cast<std::size_t>(action.c) / 2 % iconCounts.size());
+  const bool goes = action.c / 32 % 3 == 0;
   Note((goes ? "no " : "") + Joined(folder, name) + (goes ? "" : " with " + NumberText(icons)));
   if (goes) {
     disk_.Remove(folder, name);
@@ -289,8 +325,6 @@ bool Driver::ChangeDisk(const Action& action) {
     disk_.Put(folder, name, icons);
   }
   model_.listsAreStale = true;
-  PostTick();
-  return true;
 }
 
 }  // namespace tarvik::model

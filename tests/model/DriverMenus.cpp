@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "model/Compared.h"
 #include "model/Driver.h"
 #include "platform/PastedPicture.h"
 
@@ -154,6 +155,10 @@ void Driver::ExpectOnClipboard(const Picture& expected) {
   const bool isSame = seen.width == expected.width && seen.height == expected.height &&
                       std::ranges::equal(seen.pixels, expected.pixels);
   if (!isSame) ofStep_ += "the clipboard's picture is not that of the current icon\n";
+}
+
+void Driver::ExpectOnClipboard(const std::string& expected) {
+  ofStep_ += Compared("text on the clipboard", expected, support::PastedText());
 }
 
 bool Driver::SaveOne(const Action& action) {

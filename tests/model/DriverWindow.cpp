@@ -10,9 +10,12 @@
 
 #include "model/Driver.h"
 #include "platform/DroppedBlock.h"
+#include "platform/PastedPicture.h"
 
 namespace tarvik::model {
 namespace {
+
+constexpr const char* formerText = "copied before";
 
 constexpr Room largestRoom{200, 140};  // that surely fits the screen
 
@@ -59,19 +62,21 @@ bool Driver::ResizeMain(const Action& action) {
 }
 
 bool Driver::ClickFolder(const Action& action) {
-  const int row = action.a % static_cast<int>(model_.folderRows.size());
-  Note(model_.folderRows.at(static_cast<std::size_t>(row)));
-  const HWND list = Item(FrmFindIcon_Dir1);
-  model_.ClickFolderRow(row);
-  Perform([&] {
-    SendMessageW(list, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
-    RECT place{};
-    SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
-    const LPARAM point = MAKELPARAM(place.left + 3, (place.top + place.bottom) / 2);
-    SendMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, point);
-    SendMessageW(list, WM_LBUTTONUP, 0, point);
-  });
+  Perform([&] { ClickFolderRow(action.a); });
   return true;
+}
+
+void Driver::ClickFolderRow(int number) {
+  const int row = number % static_cast<int>(model_.folderRows.size());
+  Note(model_.folderRows.at(static_cast<std::size_t>(row)));
+  model_.ClickFolderRow(row);
+  const HWND list = Item(FrmFindIcon_Dir1);
+  SendMessageW(list, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
+  RECT place{};
+  SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
+  const LPARAM point = MAKELPARAM(place.left + 3, (place.top + place.bottom) / 2);
+  SendMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, point);
+  SendMessageW(list, WM_LBUTTONUP, 0, point);
 }
 
 void Driver::DropOnMain(const std::vector<std::string>& paths) const {
@@ -80,6 +85,12 @@ void Driver::DropOnMain(const std::vector<std::string>& paths) const {
   std::memcpy(GlobalLock(memory), block.data(), block.size());
   GlobalUnlock(memory);
   PostMessageW(Main(), WM_DROPFILES, reinterpret_cast<WPARAM>(memory), 0);
+}
+
+void Driver::AddFile(const std::string& folder, const std::string& name) {
+  Note("new file " + Joined(folder, name));
+  disk_.Put(folder, name, 1);
+  model_.listsAreStale = true;
 }
 
 bool Driver::Drop(const Action& action) {
@@ -99,6 +110,7 @@ bool Driver::Drop(const Action& action) {
                                         "Q:\\gone\\other.ico"};
   std::vector<std::string> paths{all[action.a % 14]};
   // Sometimes a file of the shown folder, which the list may not have yet.
+  if (action.b % 8 == 1) AddFile(model_.folder, "new " + std::to_string(action.c % 20) + ".ico");
   const std::vector<std::string> files = disk_.Files(model_.folder, "*.*");
   if (action.b % 4 == 1 && !files.empty())
     paths.front() = Joined(model_.folder, files[static_cast<std::size_t>(action.c) % files.size()]);
@@ -133,16 +145,33 @@ bool Driver::PressShortcut(const Action& action) {
        (isText ? " in the limit" : ""));
   const bool hasIcon = !model_.entries.empty();
   const bool copies = key == 'C' && hasIcon && !isText;
+  const bool copiesText = key == 'C' && isText;
+  if (key == VK_F5 && action.c % 2 == 0) MakeNews(action);
   const Picture copied = copies ? model_.Copied() : Picture();
   program_->AnswerPath("D:\\refused.ico");
   if (key == VK_F5) model_.ReadAgain();
   if (key == 'S' && hasIcon) model_.SaveOne(Kind::Icon, "D:\\refused.ico");
   if (key == 'A' && model_.listShown && !isText) model_.SelectAllRows();
   Perform([&] {
+    if (copiesText) {
+      support::CopyText(formerText);
+      SendMessageW(Item(control), EM_SETSEL, 0, -1);
+    }
     ServeKey(Item(control), key, key != VK_F5);
     if (copies) ExpectOnClipboard(copied);
+    if (copiesText) ExpectOnClipboard(model_.limitText.empty() ? formerText : model_.limitText);
   });
   return true;
+}
+
+// The reason to press F5: a new file, or a folder that is new or gone. Sometimes a folder is chosen before.
+void Driver::MakeNews(const Action& action) {
+  if (action.c / 2 % 2 == 0) ClickFolderRow(action.a);
+  if (action.c / 4 % 2 == 0) {
+    ChangeFolders(model_.folder, action);
+  } else {
+    AddFile(model_.folder, "new " + std::to_string(action.a % 20) + ".ico");
+  }
 }
 
 bool Driver::HoverGrid(const Action& action) {
@@ -150,8 +179,12 @@ bool Driver::HoverGrid(const Action& action) {
   const POINT point = PointOnGrid(action);
   Note("(" + std::to_string(point.x) + ", " + std::to_string(point.y) + ")");
   model_.Hover(point.x, point.y);
-  Perform([&] { SendMessageW(Grid(), WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y)); });
+  Perform([&] { RestOn(point); });
   return true;
+}
+
+void Driver::RestOn(POINT point) const {
+  SendMessageW(Grid(), WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y));
 }
 
 bool Driver::ScrollByKey(const Action& action) {

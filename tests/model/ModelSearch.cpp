@@ -102,6 +102,7 @@ void Model::Find() {
   SetEnabled(true);
   isSearching = false;
   entries.front().selected = true;
+  anchor = 0;
   ReadAgain();
 }
 

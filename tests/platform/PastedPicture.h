@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "base/PixelView.h"
@@ -15,5 +16,10 @@ struct PastedPicture {
 
 // The bitmap on the clipboard; no pixels if there is none.
 PastedPicture Paste();
+
+// The text on the clipboard, UTF-8; empty if there is none.
+std::string PastedText();
+// Puts a text on the clipboard, instead of what was there, as another program does.
+void CopyText(const std::string& text);
 
 }  // namespace tarvik::support
