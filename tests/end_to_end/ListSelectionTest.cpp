@@ -81,6 +81,22 @@ TEST_F(ListSelection, ShiftSelectsARange) {
   ExpectBoth({2, 3, 4, 5, 6});
 }
 
+TEST_F(ListSelection, CtrlAndShiftAddARangeFromTheRowThatWasClickedWithoutShift) {
+  FindInList();
+  ClickRow(1);
+  ExpectCurrent(1);
+  ClickRow(4, {VK_CONTROL});
+  ExpectCurrent(4);
+  ClickRow(4, {VK_CONTROL});
+  ExpectRows({1});
+  ClickRow(7, {VK_CONTROL, VK_SHIFT});
+  ExpectCurrent(7);
+  ExpectBoth({1, 4, 5, 6, 7});
+  ClickRow(2, {VK_SHIFT});
+  ExpectCurrent(2);
+  ExpectBoth({2, 3, 4});
+}
+
 TEST_F(ListSelection, ShiftWithArrowKeysSelectsARange) {
   FindInList();
   ClickRow(2);
