@@ -123,11 +123,8 @@ class FinishedProgram {
   void Find(const Action& /*action*/) {
     model_.Find();
     const Control find = program_.Item(FrmFindIcon_CmdFind);
-    if (model_.Foremost() != Front::Box) {
-      // Sent, so that the search is over then: the windows can look as if it were before it begins.
-      find.Send(BM_CLICK);
-      return;
-    }
+    // Sent, so that the search is over then: the windows can look as if it were before it begins.
+    if (model_.Foremost() != Front::Box) return static_cast<void>(find.Send(BM_CLICK));
     find.Press();
     const Box box = program_.WaitForBox();
     boxDifference_ = box.Title() == model_.box.title ? "" : "box's title: " + box.Title() + "\n";
