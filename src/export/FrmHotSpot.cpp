@@ -37,9 +37,9 @@ FrmHotSpot::FrmHotSpot(Application& application, ProgramState& state)
 
 void FrmHotSpot::Form_Load() {
   SizeInTwips(*this, formWidth, formHeight);
-  picCursor_.emplace(state_.MagnifiedSide, state_.MagnifiedSide, surfaceBackground);
-  if (picMain_ != nullptr) picCursor_->Copy(*picMain_);
-  ShowPicture();
+  Surface& picture = picCursor_.emplace(state_.MagnifiedSide, state_.MagnifiedSide, surfaceBackground);
+  if (picMain_ != nullptr) picture.Copy(*picMain_);
+  ShowPicture(picture);
   ClearPicture();
   hotX_ = 0;
   hotY_ = 0;
@@ -52,10 +52,10 @@ void FrmHotSpot::Form_Load() {
 
 // The picture's size is in the program's pixels, whatever the size of the dialog's font. Its left margin equals those
 // at the top and bottom.
-void FrmHotSpot::ShowPicture() {
+void FrmHotSpot::ShowPicture(const Surface& picture) {
   PictureBox box(Item(FrmHotSpot_PicCursor));
   const DisplayScale scale = ScaleOfDisplay();
-  box.Show(&*picCursor_);
+  box.Show(&picture);
   box.EnlargeBy(scale);
   box.FitPicture();
   RECT client;

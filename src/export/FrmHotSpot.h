@@ -33,7 +33,7 @@ class FrmHotSpot final : public Form {
   void CmdOk_Click();
   void CmdCancel_Click();
 
-  void ShowPicture();
+  void ShowPicture(const Surface& picture);
   void ClearPicture() const;
   void ShowHotSpot();
 

@@ -150,9 +150,13 @@ HRESULT AccessiblePicture::get_accName(VARIANT child, BSTR* name) try {
   *name = nullptr;
   const PictureContent* content = content_(window_);
   if (content == nullptr) return CO_E_OBJNOTCONNECTED;
-  const auto item = content->chosenItem();
-  if (IsItem(child) && !item) return S_FALSE;
-  const std::wstring text = ToWide(IsItem(child) ? item->name : content->name());
+  std::wstring text;
+  if (!IsItem(child))
+    text = ToWide(content->name());
+  else if (const auto item = content->chosenItem())
+    text = ToWide(item->name);
+  else
+    return S_FALSE;
   *name = late::SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
   return *name != nullptr ? S_OK : E_OUTOFMEMORY;
 } catch (const std::exception&) {
