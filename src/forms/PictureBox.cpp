@@ -84,12 +84,12 @@ SIZE ShownSize(const Box& box) {
   return {box.scale.ToDisplay(box.picture->Width()), box.scale.ToDisplay(box.picture->Height())};
 }
 
-void PaintEnlarged(HDC dc, Box& box, const RECT& part) {
+void PaintEnlarged(HDC dc, const Box& box, Surface& tile, const RECT& part) {
   for (LONG top = part.top; top < part.bottom; top += tileHeight) {
     for (LONG left = part.left; left < part.right; left += tileWidth) {
-      box.tile->FillEnlarged(*box.picture, box.scale, Point{left, top + box.rowsAbove});
+      tile.FillEnlarged(*box.picture, box.scale, Point{left, top + box.rowsAbove});
       BitBlt(dc, left, top, std::min<int>(tileWidth, part.right - left), std::min<int>(tileHeight, part.bottom - top),
-             box.tile->Dc(), 0, 0, SRCCOPY);
+             tile.Dc(), 0, 0, SRCCOPY);
     }
   }
 }
@@ -102,8 +102,8 @@ void PaintPicture(HDC dc, Box& box, const RECT& part) {
   if (box.scale.IsOne()) {
     BitBlt(dc, seen.left, seen.top, seen.right - seen.left, seen.bottom - seen.top, box.picture->Dc(), seen.left,
            seen.top + box.rowsAbove, SRCCOPY);
-  } else {
-    PaintEnlarged(dc, box, seen);
+  } else if (box.tile) {
+    PaintEnlarged(dc, box, *box.tile, seen);
   }
   ExcludeClipRect(dc, whole.left, whole.top, whole.right, whole.bottom);
 }

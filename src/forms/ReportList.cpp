@@ -68,7 +68,7 @@ std::string ReportList::CutTextAt(POINT pointer) const {
   GetClientRect(window_, &inside);
   RECT seen{};
   IntersectRect(&seen, &cell, &inside);
-  std::string text = cellText(hit.iItem, hit.iSubItem);
+  const std::string text = cellText(hit.iItem, hit.iSubItem);
   const int margins = 6 * GetSystemMetrics(SM_CXEDGE);  // the control's padding on both sides of a text
   return TextWidth(hit.iItem, text) + margins > seen.right - seen.left ? text : std::string();
 }
