@@ -16,6 +16,7 @@
 #include "resource.h"
 #include "startup/FormPlacement.h"
 #include "startup/Placement.h"
+#include "view/ButtonPictures.h"
 #include "view/ViewKeys.h"
 #include "view/ViewSize.h"
 #include "view/ViewTexts.h"
@@ -37,19 +38,7 @@ constexpr auto buttons = std::to_array<Toolbar::Button>({
     {frmBit_tlb_control_Exit, "Exit", 0, true},
 });
 
-// The buttons' pictures grow with the display's dpi, so that toolbar and zoom list together stay above the picture.
-struct ButtonPicture {
-  int minDotsPerInch;
-  int side;  // pixels
-};
-constexpr auto buttonPictures = std::to_array<ButtonPicture>({{168, 40}, {120, 32}, {0, 24}});
-
 constexpr int zoomListGap = 3;  // pixels between toolbar and zoom list at 96 dpi
-
-int ButtonPictureSide() {
-  const int dotsPerInch = DotsOfDisplay();
-  return std::ranges::find_if(buttonPictures, [=](const auto& row) { return dotsPerInch >= row.minDotsPerInch; })->side;
-}
 
 SIZE WindowSize(HWND window) {
   RECT bounds{};
@@ -210,7 +199,7 @@ void frmBit::RestartTimer() {
 }
 
 void frmBit::AttachControls() {
-  toolbar_.Attach(Item(frmBit_tlb_control), ButtonPictureSide(), buttons);
+  toolbar_.Attach(Item(frmBit_tlb_control), ButtonPictureSide(ScaleOfDisplay()), buttons);
   img_ = PictureBox(Item(frmBit_img));
   img_.Show(&enlarged_);
 

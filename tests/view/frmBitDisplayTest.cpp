@@ -3,8 +3,12 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+#include <gmock/gmock.h>
+
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include "platform/Display.h"
 #include "view/ViewFixture.h"
@@ -14,21 +18,35 @@ namespace {
 
 class ViewOnDisplay : public support::ViewFixture {
  protected:
-  // The side of an icon's pixel at the factors 1, 3, 5 and 10, and the place of the picture's corner.
+  // The side of an icon's pixel at the factors 1, 3, 5 and 10, the place of the picture's corner, and the side of the
+  // toolbar's pictures.
   struct Row {
     int dots;
     std::array<int, 4> sides;
     int corner;
+    int buttonSide;
   };
   static constexpr std::array factors{1, 3, 5, 10};
 
   static const Row& OfDisplay() {
-    static constexpr auto rows = std::to_array<Row>({{96, {1, 3, 5, 10}, 100},
-                                                     {120, {1, 4, 6, 13}, 125},
-                                                     {144, {2, 5, 8, 15}, 150},
-                                                     {168, {2, 5, 9, 18}, 175},
-                                                     {192, {2, 6, 10, 20}, 200}});
+    static constexpr auto rows = std::to_array<Row>({{96, {1, 3, 5, 10}, 100, 24},
+                                                     {120, {1, 4, 6, 13}, 125, 30},
+                                                     {144, {2, 5, 8, 15}, 150, 36},
+                                                     {168, {2, 5, 9, 18}, 175, 42},
+                                                     {192, {2, 6, 10, 20}, 200, 48}});
     return *std::ranges::find(rows, DotsOfDisplay(), &Row::dots);
+  }
+  // The sides of the pictures that an icon resource has.
+  static std::vector<int> SidesOf(int icon) {
+    const HMODULE program = GetModuleHandleW(nullptr);
+    const HRSRC found = FindResourceW(program, MAKEINTRESOURCEW(icon), RT_GROUP_ICON);
+    const auto* const group = static_cast<const BYTE*>(LockResource(LoadResource(program, found)));
+    constexpr int header = 6;  // bytes; the number of pictures is in the fifth
+    constexpr int entry = 14;  // bytes; the width is in the first
+    std::vector<int> sides;
+    for (int picture = 0; group != nullptr && picture < group[4]; ++picture)
+      sides.push_back(group[header + picture * entry]);
+    return sides;
   }
   // Compares the window's pixels with the entry's picture, each pixel as a square of that side.
   void ExpectSquares(int number, int side, int size) {
@@ -72,6 +90,26 @@ TEST_F(ViewOnDisplay, TellsTheSizeOfThePictureAsOnAnyDisplay) {
     ChooseZoom(9);
     EXPECT_EQ(Caption(), "Enhanced View - [Height=320, Width=320]");
   });
+}
+
+// Pictures of any other size would be stretched.
+TEST_F(ViewOnDisplay, HasToolbarPicturesThatGrowWithTheDisplayAndAreNotStretched) {
+  const int side = OfDisplay().buttonSide;
+  WhileOpen([&] {
+    for (const UINT which : std::array<UINT, 2>{TB_GETIMAGELIST, TB_GETDISABLEDIMAGELIST}) {
+      auto* const pictures = reinterpret_cast<HIMAGELIST>(SendMessageW(Item(frmBit_tlb_control), which, 0, 0));
+      int width = 0;
+      int height = 0;
+      ImageList_GetIconSize(pictures, &width, &height);
+      EXPECT_EQ(width, side);
+      EXPECT_EQ(height, side);
+      EXPECT_EQ(ImageList_GetImageCount(pictures), 9);
+    }
+  });
+  for (int button = frmBit_tlb_control_MoveFirst; button <= frmBit_tlb_control_Exit; ++button)
+    EXPECT_THAT(SidesOf(button), ::testing::Contains(side)) << button;
+  for (const int disabled : {Icon_frmBit_StartDisabled, Icon_frmBit_StopDisabled})
+    EXPECT_THAT(SidesOf(disabled), ::testing::Contains(side)) << disabled;
 }
 
 // The window's size is in twips, so it grows with the display too.
