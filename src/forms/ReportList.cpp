@@ -84,6 +84,7 @@ int ReportList::TextWidth(int row, const std::string& text) const {
 }
 
 void ReportList::Clear(std::span<const Column> columns) {
+  tip_.Say({});
   SetRowCount(0);
   for (; columns_ > 0; --columns_) ListView_DeleteColumn(window_, columns_ - 1);
   growing_ = -1;
@@ -147,12 +148,12 @@ int ReportList::FocusedRow() const {
 }
 
 void ReportList::SetFocusedRow(int row) {
-  if (row == FocusedRow()) return;
   settingSelection_ = true;
   ListView_SetItemState(window_, row, LVIS_FOCUSED, LVIS_FOCUSED);
   ListView_SetSelectionMark(window_, row);
   anchor_ = row;
   settingSelection_ = false;
+  ListView_EnsureVisible(window_, row, FALSE);
 }
 
 int ReportList::RowAt(POINT point) const {

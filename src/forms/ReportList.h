@@ -64,7 +64,7 @@ class ReportList {
   // Selects exactly the rows for which `isSelected` returns true.
   void SetSelection(const std::function<bool(int row)>& isSelected);
 
-  // The row with the keyboard focus, -1 for none; after SetFocusedRow, ranges with Shift start there.
+  // The row with the keyboard focus, -1 for none; after SetFocusedRow it is in view, and ranges with Shift start there.
   int FocusedRow() const;
   void SetFocusedRow(int row);
   // The row at a point of the screen, -1 for none.

@@ -43,6 +43,27 @@ TEST_F(ListKeys, BeginAtTheFirstIconAfterASearch) {
   ExpectRows({1});
 }
 
+// Enter opened the view of the first row, which was chosen instead of the icon that the user had chosen.
+TEST_F(ListKeys, BeginAtTheIconThatWasChosenInTheGrid) {
+  FindFiles(5);
+  ClickCell(1);
+  ClickCell(3, {VK_CONTROL});
+  ExpectRows({1, 3});
+  program_.Item(FrmFindIcon_OptView1).Press();
+  GoTo(FrmFindIcon_Lv);
+  PressKey(VK_APPS);
+  WaitForMenu();
+  CloseMenu();
+  ExpectRows({1, 3});
+  PressKey(VK_RETURN);
+  const EnhancedView view(program_);
+  ExpectEntry(view, 4);
+  view.Close();
+  ExpectRows({1, 3});
+  PressKey(VK_DOWN, {VK_SHIFT});
+  ExpectRows({3, 4});
+}
+
 TEST_F(ListKeys, EnterOpensTheViewOfItsRow) {
   FindInList(5);
   PressKey(VK_DOWN, {}, 2);

@@ -86,6 +86,15 @@ TEST_F(ReportListTest, ForgetsTheTipWhenTheRowsMoveUnderThePointer) {
   EXPECT_EQ(Tip(), "");
 }
 
+// The pointer can rest on the list while a key starts a search.
+TEST_F(ReportListTest, ForgetsTheTipOfRowsThatAreGone) {
+  ShowList();
+  EXPECT_NE(TipOf(1, path), "");
+  machine.icons[folder_ + "\\some.dll"] = 0;
+  Click(FrmFindIcon_CmdFind);
+  EXPECT_EQ(Tip(), "");
+}
+
 TEST_F(ReportListTest, ShowsTheTipWhereThePointerRests) {
   ShowList();
   POINT middle = MiddleOf(1, path);

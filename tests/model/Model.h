@@ -134,6 +134,8 @@ class Model {
   void TypeLimit(const LimitText& text);
   void Spin(bool up);
   void ShowList(bool list) {
+    // The list opens at the current icon, and a range with Shift begins there.
+    if (list && !listShown && current < static_cast<int>(entries.size())) anchor = current;
     listShown = list;
     tip = "";
   }

@@ -111,8 +111,11 @@ void FrmFindIcon::CmdClose_Click() {
   if (Form_QueryUnload()) Unload();
 }
 
+// The list opens at the current icon, which may have been chosen in the grid: Enter and the menu key act on the row with
+// the focus.
 void FrmFindIcon::OptView_Click(int index) {
   const bool list = index == 1;
+  const bool opensList = list && IsWindowVisible(lv_.Window()) == FALSE;
   SetChecked(FrmFindIcon_OptView0, !list);
   SetChecked(FrmFindIcon_OptView1, list);
   SetChecked(FrmFindIcon_mnuViewopt0, !list);
@@ -121,6 +124,7 @@ void FrmFindIcon::OptView_Click(int index) {
   grid_.Show(!list);
   gridTip_.Say({});
   ShowItem(FrmFindIcon_Lv, list);
+  if (opensList && !state_.IsSearching && list_.Has(state_.CurrentIndex + 1)) lv_.SetFocusedRow(state_.CurrentIndex);
 }
 
 // A handler like the others, whatever it leaves alone. NOLINTNEXTLINE(readability-make-member-function-const)

@@ -73,6 +73,33 @@ TEST_F(FrmFindIconSelectionTest, AnswersForNoMoreIconsThanWereCounted) {
   EXPECT_EQ(SelectedRows(), Rows{GrowingFile::counted});
 }
 
+TEST_F(FrmFindIconSelectionTest, OpensTheListAtTheIconThatWasChosenInTheGrid) {
+  Open();
+  Find(100);
+  const HWND list = Item(FrmFindIcon_Lv);
+  const auto isInView = [&](int row) {
+    const int top = ListView_GetTopIndex(list);
+    return row >= top && row < top + ListView_GetCountPerPage(list);
+  };
+  for (const int row : {80, 3}) {
+    ReleaseOnGrid(10 + row % 15 * 38, 10 + row / 15 * 38);
+    Click(FrmFindIcon_OptView1);
+    EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_FOCUSED), row);
+    EXPECT_TRUE(isInView(row)) << row;
+    EXPECT_EQ(SelectedRows(), Rows{row + 1});
+    Click(FrmFindIcon_OptView0);
+  }
+}
+
+TEST_F(FrmFindIconSelectionTest, KeepsTheFocusOfTheListThatIsShown) {
+  Open20();
+  Click(FrmFindIcon_OptView1);
+  ChooseInList(4);
+  ListView_SetItemState(Item(FrmFindIcon_Lv), 9, LVIS_FOCUSED, LVIS_FOCUSED);
+  Click(FrmFindIcon_OptView1);
+  EXPECT_EQ(ListView_GetNextItem(Item(FrmFindIcon_Lv), -1, LVNI_FOCUSED), 9);
+}
+
 TEST_F(FrmFindIconSelectionTest, AddsAndRemovesWithCtrl) {
   Open20();
   ReleaseOnGrid(3 + 38, 10, MK_CONTROL);
