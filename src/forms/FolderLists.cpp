@@ -98,29 +98,30 @@ int RowHeight(HWND list) {
   return metrics.tmHeight * 5 / 4;
 }
 
-// Draws a folder's pictogram as high as the row: the tab, the body, and for an open folder the raised flap.
+// Draws a folder's pictogram as high as the row: the tab, the body, and for an open folder the raised flap. Its lengths
+// are those of a row of 16 pixels, the height at 96 dpi; in a higher row they grow with it.
 void DrawFolder(HDC dc, RECT bounds, bool open) {
-  const int unit = std::max(1L, (bounds.bottom - bounds.top) / 12);
+  const auto length = [height = bounds.bottom - bounds.top](int pixels) { return MulDiv(pixels, height, 16); };
   const BrushHandle body(CreateSolidBrush(RGB(255, 214, 102)));
   const BrushHandle flap(CreateSolidBrush(RGB(255, 238, 180)));
   const PenHandle outline(CreatePen(PS_SOLID, 1, RGB(150, 110, 20)));
   const SelectedObject pen(dc, outline.get());
   const SelectedObject brush(dc, body.get());
-  const int left = bounds.left + unit;
-  const int right = bounds.left + 13 * unit;
-  const int top = bounds.top + 2 * unit;
-  const int bottom = bounds.bottom - 2 * unit;
+  const int left = bounds.left + length(1);
+  const int right = bounds.left + length(13);
+  const int top = bounds.top + length(2);
+  const int bottom = bounds.bottom - length(2);
   const POINT outlinePoints[] = {{left, bottom},
                                  {left, top},
-                                 {left + 4 * unit, top},
-                                 {left + 5 * unit, top + unit},
-                                 {right - 2 * unit, top + unit},
-                                 {right - 2 * unit, bottom}};
+                                 {left + length(4), top},
+                                 {left + length(5), top + length(1)},
+                                 {right - length(2), top + length(1)},
+                                 {right - length(2), bottom}};
   Polygon(dc, outlinePoints, static_cast<int>(std::size(outlinePoints)));
   if (!open) return;
   const SelectedObject light(dc, flap.get());
   const POINT flapPoints[] = {
-      {left, bottom}, {left + 3 * unit, top + 4 * unit}, {right, top + 4 * unit}, {right - 2 * unit, bottom}};
+      {left, bottom}, {left + length(3), top + length(4)}, {right, top + length(4)}, {right - length(2), bottom}};
   Polygon(dc, flapPoints, static_cast<int>(std::size(flapPoints)));
 }
 

@@ -101,5 +101,42 @@ TEST_F(FolderListsTest, ShowTheEndOfAFoldersNameWhenScrolledToIt) {
   EXPECT_GT(inked, 10);
 }
 
+// Runs at the dpi of the current display; tests/CMakeLists.txt lists the values.
+class FolderPictogramOnDisplay : public FolderListsTest {
+ protected:
+  // The part of a row, drawn alone, that has the outline of a pictogram.
+  RECT OutlineOf(UINT row) const {
+    constexpr Color outline = 0x146E96;
+    const int height = static_cast<int>(SendMessageW(Item(FrmFindIcon_Dir1), LB_GETITEMHEIGHT, 0, 0));
+    Surface drawn(300, height, white);
+    DRAWITEMSTRUCT item{};
+    item.CtlType = ODT_LISTBOX;
+    item.CtlID = FrmFindIcon_Dir1;
+    item.itemID = row;
+    item.hDC = drawn.Dc();
+    item.rcItem = {0, 0, drawn.Width(), height};
+    SendMessageW(window->Window(), WM_DRAWITEM, FrmFindIcon_Dir1, reinterpret_cast<LPARAM>(&item));
+    GdiFlush();
+    RECT seen{};
+    for (int y = 0; y < drawn.Height(); ++y) {
+      for (int x = 0; x < drawn.Width(); ++x) {
+        const RECT pixel{x, y, x + 1, y + 1};
+        if (drawn.Pixel(x, y) == outline) UnionRect(&seen, &seen, &pixel);
+      }
+    }
+    return seen;
+  }
+};
+
+// It grew higher with the row, and wider only in whole steps.
+TEST_F(FolderPictogramOnDisplay, KeepsItsShape) {
+  machine.subFolders["C:\\icons"] = {"C:\\icons\\below"};
+  Open();
+  const RECT seen = OutlineOf(2);
+  const auto width = static_cast<double>(seen.right - seen.left);
+  const auto height = static_cast<double>(seen.bottom - seen.top);
+  EXPECT_NEAR(width / height, 11.0 / 13, 0.08) << width << " x " << height;
+}
+
 }  // namespace
 }  // namespace tarvik
