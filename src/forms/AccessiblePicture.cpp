@@ -113,9 +113,7 @@ class AccessiblePicture final : public IAccessible, NonCopyable {
   HRESULT STDMETHODCALLTYPE accNavigate(LONG direction, VARIANT start, VARIANT* end) override {
     return base_->accNavigate(direction, start, end);
   }
-  HRESULT STDMETHODCALLTYPE accHitTest(LONG left, LONG top, VARIANT* child) override {
-    return base_->accHitTest(left, top, child);
-  }
+  HRESULT STDMETHODCALLTYPE accHitTest(LONG left, LONG top, VARIANT* child) override;
   HRESULT STDMETHODCALLTYPE accDoDefaultAction(VARIANT /*child*/) override { return DISP_E_MEMBERNOTFOUND; }
   HRESULT STDMETHODCALLTYPE put_accName(VARIANT /*child*/, BSTR /*name*/) override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE put_accValue(VARIANT /*child*/, BSTR /*value*/) override { return E_NOTIMPL; }
@@ -136,6 +134,9 @@ class AccessiblePicture final : public IAccessible, NonCopyable {
   } catch (const std::exception&) {
     return std::nullopt;
   }
+
+  // The chosen item's rectangle on the screen.
+  std::optional<RECT> ItemBounds() const noexcept;
 
   HWND window_;
   const PictureContent* (*content_)(HWND);
@@ -163,18 +164,31 @@ HRESULT AccessiblePicture::get_accName(VARIANT child, BSTR* name) try {
   return E_OUTOFMEMORY;
 }
 
+std::optional<RECT> AccessiblePicture::ItemBounds() const noexcept {
+  const auto item = ChosenItem();
+  if (!item) return std::nullopt;
+  RECT bounds = PictureBox::BoundsInWindow(window_, item->bounds);
+  MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
+}
+
 HRESULT AccessiblePicture::accLocation(LONG* left, LONG* top, LONG* width, LONG* height, VARIANT child) {
   if (!IsItem(child)) return base_->accLocation(left, top, width, height, child);
   if (left == nullptr || top == nullptr || width == nullptr || height == nullptr) return E_POINTER;
-  const auto item = ChosenItem();
-  if (!item) return S_FALSE;
-  const RECT bounds = PictureBox::BoundsInWindow(window_, item->bounds);
-  POINT corner{bounds.left, bounds.top};
-  ClientToScreen(window_, &corner);
-  *left = corner.x;
-  *top = corner.y;
-  *width = bounds.right - bounds.left;
-  *height = bounds.bottom - bounds.top;
+  const auto bounds = ItemBounds();
+  if (!bounds) return S_FALSE;
+  *left = bounds->left;
+  *top = bounds->top;
+  *width = bounds->right - bounds->left;
+  *height = bounds->bottom - bounds->top;
+  return S_OK;
+}
+
+HRESULT AccessiblePicture::accHitTest(LONG left, LONG top, VARIANT* child) {
+  if (child == nullptr) return E_POINTER;
+  const auto bounds = ItemBounds();
+  if (!bounds || PtInRect(&*bounds, {left, top}) == FALSE) return base_->accHitTest(left, top, child);
+  *child = Number(itemNumber);
   return S_OK;
 }
 

@@ -62,6 +62,12 @@ class Accessible : NonCopyable {
     VARIANT selection{};
     return object_ != nullptr && object_->get_accSelection(&selection) == S_OK ? selection.lVal : 0;
   }
+  // The part at a point of the screen, -1 if there is none.
+  LONG PartAt(POINT point) const {
+    VARIANT part{};
+    const bool found = object_ != nullptr && object_->accHitTest(point.x, point.y, &part) == S_OK;
+    return found && part.vt == VT_I4 ? part.lVal : -1;
+  }
   RECT Place(LONG child) const {
     RECT place{};
     LONG width = 0;
@@ -192,6 +198,17 @@ TEST_P(Names, AreGivenToEveryControlOfTheDialogs) {
   hotSpot.End(FrmHotSpot_CmdCancel);
 }
 
+TEST_P(Names, AreGivenToEveryControlOfTheStartUpWindowAndTheAboutBox) {
+  const LanguageValue language(GetParam());
+  program_.Launch();
+  ExpectNames(program_.WaitForStartUpWindow(), "start-up window");
+  program_.WaitForMainWindow();
+  program_.Command(FrmFindIcon_MnuAbout);
+  const Control about = program_.WaitForStartUpWindow();
+  ExpectNames(about, "About box");
+  about.Child(FrmSpash_CmdOk).Press();
+}
+
 TEST_P(Names, OfTheGridsIconSayNumberFileAndIndex) {
   const LanguageValue language(GetParam());
   FindFiles(5);
@@ -215,7 +232,29 @@ TEST_P(Names, OfTheGridsIconSayNumberFileAndIndex) {
     const RECT place = icons.Place(1);
     EXPECT_TRUE(PtInRect(&place, CellMiddle(entry)));
     EXPECT_EQ(place.right - place.left, geometry_->FrameExtent + 1);
+    EXPECT_EQ(icons.PartAt(CellMiddle(entry)), 1);
+    EXPECT_EQ(icons.PartAt(CellMiddle(1)), CHILDID_SELF);
   }
+}
+
+// The object outlives the list that it tells of.
+TEST_P(Names, OfTheGridsIconFollowTheNextSearch) {
+  const LanguageValue language(GetParam());
+  FindFiles(5);
+  const Accessible icons(program_.Item(FrmFindIcon_PicIcons));
+  ClickCell(3);
+  ExpectRows({3});
+  tree_.MakeFile("0.ico", support::IconFileOf(0xFF));
+  Find();
+  EXPECT_EQ(List().RowCount(), 6);
+  EXPECT_THAT(icons.Name(1), ::testing::HasSubstr(In("0.ico")));
+  EXPECT_EQ(icons.Selection(), 1);
+  program_.Item(FrmFindIcon_ChkFileType0).Send(BM_CLICK);
+  program_.Item(FrmFindIcon_CmdFind).Press();
+  program_.WaitForBox().Press(IDOK);
+  EXPECT_EQ(icons.ChildCount(), 0);
+  EXPECT_EQ(icons.Name(1), "");
+  EXPECT_EQ(icons.Name(), Control(program_.Item(FrmFindIcon_PicFrame)).Text());
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, Names, ::testing::Values("ENG", "CHS", "CHT"),
