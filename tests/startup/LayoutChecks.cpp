@@ -2,10 +2,15 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
+#include <algorithm>
 #include <array>
 #include <cwchar>
+#include <string>
 
 #include "platform/Handles.h"
+#include "platform/Text.h"
 
 namespace tarvik::support {
 namespace {
@@ -46,6 +51,63 @@ LONG LetterHeight(HWND control) {
   return metrics.tmHeight;
 }
 
+LONG WidthIn(HWND control, const std::wstring& text) {
+  const WindowDc dc(control);
+  const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
+  SIZE size{};
+  GetTextExtentPoint32W(dc.get(), text.c_str(), static_cast<int>(text.size()), &size);
+  return size.cx;
+}
+
+SIZE InsideOf(HWND control) {
+  RECT inside{};
+  GetClientRect(control, &inside);
+  return {inside.right, inside.bottom};
+}
+
+// The height that a control has for a row of text; a large one if it is no list and no text box.
+LRESULT RowHeight(HWND control) {
+  if (IsOfClass(control, L"ListBox")) return SendMessageW(control, LB_GETITEMHEIGHT, 0, 0);
+  if (IsOfClass(control, L"Edit")) return InsideOf(control).cy;
+  if (!IsOfClass(control, L"ComboBox")) return 10'000;
+  return std::min(SendMessageW(control, CB_GETITEMHEIGHT, 0, 0),
+                  SendMessageW(control, CB_GETITEMHEIGHT, WPARAM(-1), 0));
+}
+
+bool HasOneLine(HWND textBox) {
+  return (GetWindowLongW(textBox, GWL_STYLE) & ES_MULTILINE) == 0;
+}
+
+// The texts that a drop-down list or a text box shows, and the width that it has for them.
+struct ShownTexts {
+  std::vector<std::wstring> texts;
+  LONG room = 0;
+};
+
+ShownTexts TextsOf(HWND control) {
+  ShownTexts shown;
+  if (IsOfClass(control, L"Edit") && HasOneLine(control)) {
+    std::array<wchar_t, 256> text{};
+    GetWindowTextW(control, text.data(), static_cast<int>(text.size()));
+    RECT room{};
+    SendMessageW(control, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&room));
+    shown = {{text.data()}, room.right - room.left};
+  }
+  if (IsOfClass(control, L"ComboBox")) {
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    GetComboBoxInfo(control, &info);
+    shown.room = info.rcItem.right - info.rcItem.left;
+    const LRESULT rows = SendMessageW(control, CB_GETCOUNT, 0, 0);
+    for (LRESULT row = 0; row < rows; ++row) {
+      std::array<wchar_t, 256> text{};
+      SendMessageW(control, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+      shown.texts.emplace_back(text.data());
+    }
+  }
+  return shown;
+}
+
 }  // namespace
 
 std::vector<std::string> OverlappingControls(HWND window) {
@@ -65,11 +127,50 @@ std::vector<std::string> OverlappingControls(HWND window) {
   return found;
 }
 
+std::vector<std::string> ControlsOutside(HWND window) {
+  std::vector<std::string> found;
+  const SIZE inside = InsideOf(window);
+  for (const HWND control : VisibleControls(window)) {
+    RECT place;
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+    if (place.left < 0 || place.top < 0 || place.right > inside.cx || place.bottom > inside.cy)
+      found.push_back(Described(control));
+  }
+  return found;
+}
+
 std::vector<int> ListsThatCutLetters(HWND window) {
   std::vector<int> found;
   for (const HWND control : VisibleControls(window)) {
-    if (IsOfClass(control, L"ListBox") && SendMessageW(control, LB_GETITEMHEIGHT, 0, 0) < LetterHeight(control))
-      found.push_back(GetDlgCtrlID(control));
+    if (RowHeight(control) < LetterHeight(control)) found.push_back(GetDlgCtrlID(control));
+  }
+  return found;
+}
+
+std::vector<std::string> CutOffChoices(HWND window) {
+  std::vector<std::string> found;
+  for (const HWND control : VisibleControls(window)) {
+    const ShownTexts shown = TextsOf(control);
+    for (const std::wstring& text : shown.texts) {
+      if (WidthIn(control, text) > shown.room) found.push_back(ToUtf8(text));
+    }
+  }
+  return found;
+}
+
+std::vector<std::string> CutOffHeaders(HWND list) {
+  std::vector<std::string> found;
+  const HWND header = ListView_GetHeader(list);
+  const int margins = 6 * GetSystemMetrics(SM_CXEDGE);
+  for (int column = 0; column < Header_GetItemCount(header); ++column) {
+    std::array<wchar_t, 64> text{};
+    HDITEMW item{};
+    item.mask = HDI_TEXT | HDI_WIDTH;
+    item.pszText = text.data();
+    item.cchTextMax = static_cast<int>(text.size());
+    SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+    if (WidthIn(header, text.data()) + margins > item.cxy) found.push_back(ToUtf8(text.data()));
   }
   return found;
 }

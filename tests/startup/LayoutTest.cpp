@@ -1,8 +1,9 @@
-// The layout of every window at the dpi of the tests' display: visible controls do not overlap, no text is cut off, and
-// no list cuts off its letters.
+// The layout of every window at the dpi of the tests' display: visible controls do not overlap and are inside the
+// window, no text is cut off, and no list cuts off its letters.
 
 #include <windows.h>
 
+#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -26,7 +27,9 @@ using Texts = std::vector<std::string>;
 
 void ExpectInOrder(HWND window) {
   EXPECT_EQ(support::OverlappingControls(window), Texts{});
+  EXPECT_EQ(support::ControlsOutside(window), Texts{});
   EXPECT_EQ(support::CutOffTexts(window), Texts{});
+  EXPECT_EQ(support::CutOffChoices(window), Texts{});
   EXPECT_EQ(support::ListsThatCutLetters(window), std::vector<int>{});
 }
 
@@ -91,6 +94,32 @@ TEST_P(MainWindowLayout, IsInOrderWithTheGridAndWithTheList) {
   ExpectInOrder(window->Window());
 }
 
+TEST_P(MainWindowLayout, IsInOrderWhenItIsEnlargedAndMaximised) {
+  Open(GetParam());
+  Find(100);
+  RECT first{};
+  GetWindowRect(window->Window(), &first);
+  for (const int extra : {1, 37, 250}) {
+    SetWindowPos(window->Window(), nullptr, 0, 0, first.right - first.left + extra, first.bottom - first.top + extra,
+                 SWP_NOZORDER);
+    for (const int view : {FrmFindIcon_OptView1, FrmFindIcon_OptView0}) {
+      Click(view);
+      ExpectInOrder(window->Window());
+    }
+  }
+  ShowWindow(window->Window(), SW_MAXIMIZE);
+  for (const int view : {FrmFindIcon_OptView1, FrmFindIcon_OptView0}) {
+    Click(view);
+    ExpectInOrder(window->Window());
+  }
+}
+
+TEST_P(MainWindowLayout, ShowsTheWholeHeadersOfTheList) {
+  Open(GetParam());
+  Find(3);
+  EXPECT_EQ(support::CutOffHeaders(Item(FrmFindIcon_Lv)), Texts{});
+}
+
 INSTANTIATE_TEST_SUITE_P(Languages, MainWindowLayout, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
                          [](const auto& row) { return std::string(row.param); });
 
@@ -98,7 +127,17 @@ class EnhancedViewLayout : public support::ViewFixture, public ::testing::WithPa
 
 TEST_P(EnhancedViewLayout, IsInOrderWhenItOpens) {
   state.CurrentLanguage = GetParam();
-  WhileOpen([this] { ExpectInOrder(view->Window()); });
+  WhileOpen([this] {
+    ExpectInOrder(view->Window());
+    RECT last{};
+    const HWND toolbar = Item(frmBit_tlb_control);
+    const LRESULT buttons = SendMessageW(toolbar, TB_BUTTONCOUNT, 0, 0);
+    SendMessageW(toolbar, TB_GETITEMRECT, static_cast<WPARAM>(buttons - 1), reinterpret_cast<LPARAM>(&last));
+    RECT inside{};
+    GetClientRect(toolbar, &inside);
+    EXPECT_LE(last.right, inside.right);
+    EXPECT_LE(last.bottom, inside.bottom);
+  });
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, EnhancedViewLayout, ::testing::Values("ENG", "CHS", "CHT", "Chinese"),
