@@ -111,8 +111,8 @@ void FrmFindIcon::CmdClose_Click() {
   if (Form_QueryUnload()) Unload();
 }
 
-// The list opens at the current icon, which may have been chosen in the grid: Enter and the menu key act on the row with
-// the focus.
+// The list opens at the current icon, which may have been chosen in the grid: Enter and the menu key act on the row
+// with the focus.
 void FrmFindIcon::OptView_Click(int index) {
   const bool list = index == 1;
   const bool opensList = list && IsWindowVisible(lv_.Window()) == FALSE;
