@@ -285,7 +285,7 @@ TEST_F(EnhancedViewKeys, LeaveTheWindowsMenuItsOwn) {
 TEST_F(EnhancedViewKeys, CloseItWithAltAndF4WhateverHasTheFocus) {
   FindFiles(2);
   const EnhancedView view = OpenOn(2);
-  ASSERT_EQ(program_.Focus().Window(), view.ZoomList().Window());
+  ASSERT_TRUE(Eventually([&] { return program_.Focus().Window() == view.ZoomList().Window(); }));
   PressKey(VK_F4, {VK_MENU});
   EXPECT_TRUE(Eventually([&] { return !view.IsOpen(); }, shortly));
 }

@@ -13,7 +13,7 @@ class ViewToolbarKeys : public ViewByHand {
   EnhancedView OpenAndGoToToolbar() {
     FindFiles(5);
     EnhancedView view = OpenOn(1);
-    EXPECT_EQ(program_.Focus().Window(), view.ZoomList().Window());
+    EXPECT_TRUE(Eventually([&] { return program_.Focus().Window() == view.ZoomList().Window(); }));
     PressKey(VK_TAB);
     EXPECT_TRUE(Eventually([&] { return IsToolbarFocused(view); }));
     return view;

@@ -6,7 +6,19 @@
 namespace tarvik::model {
 namespace {
 
-constexpr std::size_t charactersInBox = 20;
+constexpr int charactersInBox = 20;
+
+// The first characters of a UTF-8 text, each of which has one byte that continues no other.
+std::string FirstCharacters(const std::string& text, int count) {
+  constexpr unsigned continuation = 0x80;
+  std::string first;
+  for (const char byte : text) {
+    const bool continues = (static_cast<unsigned char>(byte) & 0xC0U) == continuation;
+    if (!continues && count-- == 0) break;
+    first += byte;
+  }
+  return first;
+}
 
 // Returns a negative number for a text that is not a number.
 int ReadLimit(const std::string& text) {
@@ -60,7 +72,8 @@ void Model::List(const std::string& root) {
 bool Model::IsRefused() {
   const std::string count = std::to_string(iconCount);
   if (iconCount == 0) {
-    ShowBox("Brindle Tarvik", words::noIcons.In(tongue_, folder.substr(0, charactersInBox)), After::FailureExit);
+    const std::string shown = FirstCharacters(folder, charactersInBox);
+    ShowBox("Brindle Tarvik", words::noIcons.In(tongue_, shown), After::FailureExit);
     return true;
   }
   const int limit = ReadLimit(limitText);
