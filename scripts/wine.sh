@@ -96,7 +96,7 @@ stay_on_desktop() {
 # without having done so, and is started again.
 open_desktop() {
   local windows=
-  for _ in $(seq 4); do
+  for _ in $(seq 10); do
     wine explorer "/desktop=Default,$display_size" >/dev/null 2>&1 </dev/null 9>&- &
     for _ in $(seq 300); do
       windows=$(xwininfo -root -tree 2>/dev/null 9>&- || true)

@@ -13,6 +13,10 @@ class ListKeys : public ViewByHand {
   // Finds that many icon files and switches to the list view, which gets the focus.
   void FindInList(int count) {
     FindFiles(count);
+    GoToList();
+  }
+  // Switches to the list view, which gets the focus.
+  void GoToList() const {
     program_.Item(FrmFindIcon_OptView1).Press();
     ASSERT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Lv).IsVisible(); }));
     GoTo(FrmFindIcon_Lv);
@@ -49,8 +53,7 @@ TEST_F(ListKeys, BeginAtTheIconThatWasChosenInTheGrid) {
   ClickCell(1);
   ClickCell(3, {VK_CONTROL});
   ExpectRows({1, 3});
-  program_.Item(FrmFindIcon_OptView1).Press();
-  GoTo(FrmFindIcon_Lv);
+  GoToList();
   PressKey(VK_APPS);
   WaitForMenu();
   CloseMenu();
