@@ -26,11 +26,12 @@ int WantedSteps() {
 }
 
 // The clipboard belongs to the process's window station, so in one of its own this process shares it with no other
-// test.
+// test. The station has a name of this process: without a name, all processes of one user would get the same.
 class ModelTest : public ::testing::TestWithParam<std::uint64_t> {
  protected:
   static void SetUpTestSuite() {
-    const HWINSTA own = CreateWindowStationW(nullptr, 0, MAXIMUM_ALLOWED, nullptr);
+    const std::wstring name = L"tarvik-model-" + std::to_wstring(GetCurrentProcessId());
+    const HWINSTA own = CreateWindowStationW(name.c_str(), CWF_CREATE_ONLY, MAXIMUM_ALLOWED, nullptr);
     USEROBJECTFLAGS visible{FALSE, FALSE, WSF_VISIBLE};  // otherwise Wine lets it have no display
     ASSERT_NE(SetUserObjectInformationW(own, UOI_FLAGS, &visible, sizeof visible), FALSE);
     ASSERT_NE(SetProcessWindowStation(own), FALSE);
