@@ -11,8 +11,9 @@
 #include <memory>
 #include <string>
 
-#include "base/NonCopyable.h"
+#include "platform/ComObject.h"
 #include "platform/ComUse.h"
+#include "platform/RegisteredObject.h"
 #include "platform/Text.h"
 #include "search/window/FindIconFixture.h"
 #include "startup/Dialogs.h"
@@ -22,19 +23,9 @@ namespace {
 
 // An annotation service that the system makes instead of its own, because this process registered it. It keeps the
 // names that it gets; Wine's own service does nothing.
-class NotedNames final : public IAccPropServices, NonCopyable {
+class NotedNames final : public support::ComObject<IAccPropServices> {
  public:
-  virtual ~NotedNames() = default;
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IAccPropServices);
-    *object = known ? this : nullptr;
-    if (!known) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
-  ULONG STDMETHODCALLTYPE Release() override { return --references; }
+  NotedNames() : ComObject(IID_IAccPropServices) {}
 
   HRESULT STDMETHODCALLTYPE SetHwndPropStr(HWND window, DWORD object, DWORD child, MSAAPROPID property,
                                            LPCWSTR text) override {
@@ -79,39 +70,12 @@ class NotedNames final : public IAccPropServices, NonCopyable {
 
   std::map<int, std::string> names;  // by the control's id
   int calls = 0;
-  ULONG references = 0;
 
  private:
   static HRESULT Unexpected() {
     ADD_FAILURE() << "unexpected call";
     return E_NOTIMPL;
   }
-};
-
-// Gives out that service while it lives.
-class NamesFactory final : public IClassFactory, NonCopyable {
- public:
-  explicit NamesFactory(NotedNames& service) : service_(service) {
-    EXPECT_EQ(CoRegisterClassObject(CLSID_AccPropServices, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &number_),
-              S_OK);
-  }
-  virtual ~NamesFactory() { CoRevokeClassObject(number_); }
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IClassFactory);
-    *object = known ? this : nullptr;
-    return known ? S_OK : E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-  ULONG STDMETHODCALLTYPE Release() override { return 1; }
-  HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID id, void** object) override {
-    return service_.QueryInterface(id, object);
-  }
-  HRESULT STDMETHODCALLTYPE LockServer(WINBOOL) override { return S_OK; }
-
- private:
-  NotedNames& service_;
-  DWORD number_ = 0;
 };
 
 // Asks every control of a window for its accessible object, as a screen reader does.
@@ -124,7 +88,7 @@ class ControlNamesTest : public support::FindIconFixture {
  protected:
   ComUse use_;
   NotedNames service_;
-  NamesFactory factory_{service_};
+  support::RegisteredObject registered_{CLSID_AccPropServices, service_};
 };
 
 TEST_F(ControlNamesTest, AreTheTextsOfTheInvisibleLabelsInEachLanguage) {
@@ -172,7 +136,7 @@ TEST_F(ControlNamesTest, AreGivenOnceWhenTheyAreFirstAskedFor) {
   Click(FrmFindIcon_OptView1);
   AskAll(window->Window());
   EXPECT_EQ(service_.calls, calls);
-  EXPECT_EQ(service_.references, 0U) << "it is released";
+  EXPECT_EQ(service_.References(), 0U) << "it is released";
 }
 
 class ControlNamesOfDialogs : public ControlNamesTest {

@@ -4,26 +4,17 @@
 
 #include <string>
 
-#include "base/NonCopyable.h"
+#include "platform/ComObject.h"
 #include "platform/ComUse.h"
+#include "platform/RegisteredObject.h"
 
 namespace tarvik {
 namespace {
 
 // A task bar that the system makes instead of its own, because this process registered it: it logs each call.
-class NotedList final : public ITaskbarList3, NonCopyable {
+class NotedList final : public support::ComObject<ITaskbarList3> {
  public:
-  virtual ~NotedList() = default;
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_ITaskbarList3);
-    *object = known ? this : nullptr;
-    if (!known) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
-  ULONG STDMETHODCALLTYPE Release() override { return --references; }
+  NotedList() : ComObject(IID_ITaskbarList3) {}
 
   HRESULT STDMETHODCALLTYPE HrInit() override {
     diary += "begun|";
@@ -56,7 +47,6 @@ class NotedList final : public ITaskbarList3, NonCopyable {
   HRESULT STDMETHODCALLTYPE SetThumbnailClip(HWND, RECT*) override { return Unexpected(); }
 
   std::string diary;
-  ULONG references = 0;
   HRESULT initResult = S_OK;
 
  private:
@@ -67,36 +57,11 @@ class NotedList final : public ITaskbarList3, NonCopyable {
   }
 };
 
-// Gives out that list while it lives.
-class ListFactory final : public IClassFactory, NonCopyable {
- public:
-  explicit ListFactory(NotedList& list) : list_(list) {
-    EXPECT_EQ(CoRegisterClassObject(CLSID_TaskbarList, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &number_), S_OK);
-  }
-  virtual ~ListFactory() { CoRevokeClassObject(number_); }
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IClassFactory);
-    *object = known ? this : nullptr;
-    return known ? S_OK : E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-  ULONG STDMETHODCALLTYPE Release() override { return 1; }
-  HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID id, void** object) override {
-    return list_.QueryInterface(id, object);
-  }
-  HRESULT STDMETHODCALLTYPE LockServer(WINBOOL) override { return S_OK; }
-
- private:
-  NotedList& list_;
-  DWORD number_ = 0;
-};
-
 class SystemTaskBarTest : public ::testing::Test {
  protected:
   ComUse use_;
   NotedList list_;
-  ListFactory factory_{list_};
+  support::RegisteredObject registered_{CLSID_TaskbarList, list_};
   HWND window_ = reinterpret_cast<HWND>(INT_PTR{77});
 };
 
@@ -109,10 +74,10 @@ TEST_F(SystemTaskBarTest, PassesOnStateAndShareOfAWindow) {
     bar.SetShare(window_, 1, 2);
     bar.SetState(window_, TaskBar::State::Error);
     bar.SetState(window_, TaskBar::State::None);
-    EXPECT_EQ(list_.references, 1U);
+    EXPECT_EQ(list_.References(), 1U);
   }
   EXPECT_EQ(list_.diary, "begun|state 1 of 77|state 2 of 77|1 of 2 of 77|state 4 of 77|state 0 of 77|");
-  EXPECT_EQ(list_.references, 0U) << "it is released";
+  EXPECT_EQ(list_.References(), 0U) << "it is released";
 }
 
 TEST_F(SystemTaskBarTest, IsAskedOnceAndLeftAloneIfItCannotBegin) {
@@ -122,7 +87,7 @@ TEST_F(SystemTaskBarTest, IsAskedOnceAndLeftAloneIfItCannotBegin) {
   bar.SetShare(window_, 1, 2);
   EXPECT_FALSE(bar.IsThere());
   EXPECT_EQ(list_.diary, "begun|");
-  EXPECT_EQ(list_.references, 0U);
+  EXPECT_EQ(list_.References(), 0U);
 }
 
 // The system's own object. Its display is outside this program, and Wine's displays nothing.

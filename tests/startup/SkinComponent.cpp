@@ -13,7 +13,7 @@
 #include <fstream>
 #include <string>
 
-#include "base/NonCopyable.h"
+#include "platform/ComObject.h"
 #include "platform/Text.h"
 
 namespace tarvik::support {
@@ -36,21 +36,13 @@ bool IsTo(const wchar_t* behaviour) {
   return Variable(skinBehaviour) == behaviour;
 }
 
-class SkinControl final : public IDispatch, NonCopyable {
+class SkinControl final : public ComObject<IDispatch> {
  public:
-  SkinControl() { Note(L"made"); }
-  virtual ~SkinControl() { Note(L"gone"); }
+  SkinControl() : ComObject(IID_IDispatch) { Note(L"made"); }
+  ~SkinControl() override { Note(L"gone"); }
 
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch);
-    *object = known ? this : nullptr;
-    if (!known) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
   ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
+    const ULONG left = ComObject::Release();
     if (left == 0) delete this;
     return left;
   }
@@ -82,26 +74,17 @@ class SkinControl final : public IDispatch, NonCopyable {
     }
     return DISP_E_TYPEMISMATCH;
   }
-
- private:
-  ULONG references_ = 1;
 };
 
-class Factory final : public IClassFactory {
+// The one factory lives as long as the DLL.
+class Factory final : public ComObject<IClassFactory> {
  public:
-  virtual ~Factory() = default;
+  Factory() : ComObject(IID_IClassFactory) {}
 
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IClassFactory);
-    *object = known ? this : nullptr;
-    return known ? S_OK : E_NOINTERFACE;
-  }
-  // The one factory lives as long as the DLL.
-  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-  ULONG STDMETHODCALLTYPE Release() override { return 1; }
   HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID id, void** object) override {
     if (outer != nullptr) return CLASS_E_NOAGGREGATION;
     auto* control = new SkinControl;
+    control->AddRef();
     const HRESULT result = control->QueryInterface(id, object);
     control->Release();
     return result;
