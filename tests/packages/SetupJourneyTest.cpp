@@ -101,7 +101,9 @@ class SetupJourney : public ::testing::TestWithParam<Tongue> {
     Box(Control(box)).Press(IDRETRY);
   }
 
+  // A page is painted some time after it is shown, so it is painted here.
   void Picture(Control window, const std::string& name) {
+    RedrawWindow(window.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
     ++pictures_;
     const std::string number = (pictures_ < 10 ? "0" : "") + std::to_string(pictures_);
     SavePicture(window.Place(), BuiltFile("../../../journeys") / ("setup-" + std::string(tongue_.code)) /
