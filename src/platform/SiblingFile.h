@@ -7,7 +7,8 @@
 namespace tarvik {
 
 // A new, empty file in the folder of another one, created to be moved into that one's place. Until it is moved it is
-// marked for deletion: it disappears with this object, and with the process, however the process ends.
+// marked for deletion: it disappears with this object, and with the process, however the process ends. Only if the
+// process is killed between the two system calls that create and mark the file is it left, empty.
 class SiblingFile {
  public:
   // `path` is the file to be replaced, as a system call takes it.
