@@ -5,6 +5,7 @@
 #include <array>
 
 #include "base/FolderPath.h"
+#include "export/FileFormats.h"
 #include "export/SeenPixels.h"
 #include "platform/DiskFile.h"
 #include "platform/IconFiles.h"
@@ -16,9 +17,6 @@ namespace {
 
 using ModMicroArt::BlackAndWhite;
 using ModMicroArt::ColorClass;
-
-constexpr int longRowSize = 64;             // the size whose 1-bit rows are two bytes too long
-constexpr std::size_t declaredPlane = 512;  // the bytes that readers expect for one 1-bit picture of that size
 
 Bytes OneIcon(const IconPicture& picture) {
   return IconFile({&picture, 1});
@@ -38,6 +36,10 @@ IconPicture ManyColors() {
     }
   }
   return picture;
+}
+
+int BitsOf(ColorClass colors) {
+  return fileFormats::DepthOf(colors).bitsPerPixel;
 }
 
 TestRaster CopyOf(const PixelView& view) {
@@ -92,20 +94,15 @@ bool Capture::WriteBitmap(const std::string& path) const {
 }
 
 std::vector<Color> Capture::SeenImage() const {
-  if (Size() != longRowSize || iconClass_ != ColorClass::Two) return image_.Pixels();
-  return BlackAndWhitePixels(SeenInEightByteRows(TenByteRows({&image_, &mask_}), 0));
+  return tarvik::SeenImage(image_, mask_, BitsOf(iconClass_));
 }
 
 std::vector<bool> Capture::SeenTransparent() const {
-  if (Size() != longRowSize) return WhitePixels(mask_);
-  if (iconClass_ != ColorClass::Two) return SeenInEightByteRows(TenByteRows({&mask_}), 0);
-  return SeenInEightByteRows(TenByteRows({&image_, &mask_}), declaredPlane);
+  return tarvik::SeenTransparent(image_, mask_, BitsOf(iconClass_));
 }
 
 std::vector<Color> Capture::SeenBitmap() const {
-  if (bitmapClass_ == ColorClass::TwoHundredFiftySix) return ShownBy256ColorBitmap(composed_);
-  if (Size() != longRowSize || bitmapClass_ != ColorClass::Two) return composed_.Pixels();
-  return BlackAndWhitePixels(SeenInEightByteRows(TenByteRows({&composed_}), 0));
+  return tarvik::SeenBitmap(composed_, BitsOf(bitmapClass_));
 }
 
 }  // namespace tarvik::support

@@ -6,6 +6,13 @@ namespace tarvik {
 
 using support::TestRaster;
 
+namespace {
+
+constexpr int longRowSize = 64;             // the size whose 1-bit rows are two bytes too long
+constexpr std::size_t declaredPlane = 512;  // the bytes that readers expect for one 1-bit picture of that size
+
+}  // namespace
+
 std::vector<bool> WhitePixels(const TestRaster& raster) {
   std::vector<bool> isWhite;
   for (const Color color : raster.Pixels()) isWhite.push_back(color == white);
@@ -35,6 +42,23 @@ std::vector<Color> BlackAndWhitePixels(const std::vector<bool>& isWhite) {
   colors.reserve(isWhite.size());
   for (const bool pixel : isWhite) colors.push_back(pixel ? white : black);
   return colors;
+}
+
+std::vector<Color> SeenImage(const TestRaster& image, const TestRaster& mask, int bits) {
+  if (image.Width() != longRowSize || bits != 1) return image.Pixels();
+  return BlackAndWhitePixels(SeenInEightByteRows(TenByteRows({&image, &mask}), 0));
+}
+
+std::vector<bool> SeenTransparent(const TestRaster& image, const TestRaster& mask, int bits) {
+  if (mask.Width() != longRowSize) return WhitePixels(mask);
+  if (bits != 1) return SeenInEightByteRows(TenByteRows({&mask}), 0);
+  return SeenInEightByteRows(TenByteRows({&image, &mask}), declaredPlane);
+}
+
+std::vector<Color> SeenBitmap(const TestRaster& composed, int bits) {
+  if (bits == 8) return ShownBy256ColorBitmap(composed);
+  if (composed.Width() != longRowSize || bits != 1) return composed.Pixels();
+  return BlackAndWhitePixels(SeenInEightByteRows(TenByteRows({&composed}), 0));
 }
 
 std::vector<Color> ShownBy256ColorBitmap(const TestRaster& composed) {
