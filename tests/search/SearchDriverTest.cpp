@@ -157,10 +157,11 @@ TEST_F(SearchDriverTest, WalksFromTheFolderOfDir1WithSubFolders) {
   window.subDir = true;
   window.file1 = "C:\\elsewhere";
   AddFile("C:\\a", "x.dll", {.icons = 1});
-  AddFile("C:\\elsewhere", "y.dll", {.icons = 1});
+  AddFile("C:\\elsewhere", "y.dll", {.icons = 2});
   Find();
   ASSERT_EQ(list.Count(), 1);
   EXPECT_EQ(list.Item(1).path, "C:\\a\\x.dll");
+  EXPECT_EQ(state.IconCount, 1);
   EXPECT_EQ(window.dir1, "C:\\a");
 }
 

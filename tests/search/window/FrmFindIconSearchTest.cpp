@@ -138,6 +138,37 @@ TEST_F(FrmFindIconSearchTest, ShowsInTheListsWhatItFound) {
   EXPECT_EQ(RowsOf(FrmFindIcon_Dir1).back(), "new");
 }
 
+// If its box is unticked in a sub-folder, the search leaves the list of files there, and the two lists show different
+// folders from then on.
+TEST_F(FrmFindIconSearchTest, BeginsAtTheFilesShownWithoutSubFoldersAndAtTheFolderShownWithThem) {
+  machine.subFolders["C:\\icons"] = {"C:\\icons\\a"};
+  machine.files["C:\\icons\\a"] = {"more.dll"};
+  machine.icons["C:\\icons\\a\\more.dll"] = 4;
+  OpenWatched();
+  window->SetChecked(FrmFindIcon_chkSubDir, true);
+  // Served where the search yields next: in the sub-folder.
+  watched.onExtract = [&] {
+    PostMessageW(Item(FrmFindIcon_chkSubDir), BM_CLICK, 0, 0);
+    watched.onExtract = nullptr;
+  };
+  Find(3);
+  ASSERT_FALSE(window->IsChecked(FrmFindIcon_chkSubDir));
+  ASSERT_EQ(RowsOf(FrmFindIcon_File1), std::vector<std::string>{"more.dll"});
+  ASSERT_EQ(RowsOf(FrmFindIcon_Dir1).back(), "a");
+
+  Find(3);
+  EXPECT_EQ(Caption(), "Brindle Tarvik - C:\\icons - 4 Icons");
+  EXPECT_EQ(RowCount(), 4);
+  machine.icons["C:\\icons\\a\\more.dll"] = 0;
+  Find(3);
+  ASSERT_THAT(boxes.Boxes(), SizeIs(1));
+  EXPECT_EQ(boxes.Boxes()[0].text, "C:\\icons\\a ... contains no icons.");
+  window->SetChecked(FrmFindIcon_chkSubDir, true);
+  Find(3);
+  EXPECT_EQ(Caption(), "Brindle Tarvik - C:\\icons - 3 Icons");
+  EXPECT_EQ(RowCount(), 3);
+}
+
 // The size was once remembered although there was no memory for the bitmap, and the next search believed that the grid
 // already had it.
 TEST_F(FrmFindIconSearchTest, SizesTheGridAgainAfterItCouldNot) {
