@@ -33,18 +33,19 @@ class FrmFindIconSelectionTest : public support::FindIconFixture {
   }
 };
 
-// A file that holds more icons in the listing pass than in the counting pass.
-class GrowingFile final : public IconSource {
+// A file that holds another number of icons in the listing pass than in the counting pass.
+class ChangedFile final : public IconSource {
  public:
-  static constexpr int counted = 3;
-  static constexpr int listed = 5;
+  ChangedFile(int counted, int listed) : counted_(counted), listed_(listed) {}
 
-  int CountIcons(const std::string& /*path*/) override { return asked_++ == 0 ? counted : listed; }
+  int CountIcons(const std::string& /*path*/) override { return asked_++ == 0 ? counted_ : listed_; }
   std::unique_ptr<ExtractedIcon> Extract(const std::string& /*path*/, int /*index*/) override {
     return std::make_unique<support::SquareIcon>(0x0000FF);
   }
 
  private:
+  int counted_;
+  int listed_;
   int asked_ = 0;
 };
 
@@ -61,16 +62,33 @@ TEST_F(FrmFindIconSelectionTest, SelectsTheClickedIconAlone) {
 }
 
 TEST_F(FrmFindIconSelectionTest, AnswersForNoMoreIconsThanWereCounted) {
-  GrowingFile file;
+  ChangedFile file(3, 5);
   OpenOver(file, machine);
   Click(FrmFindIcon_CmdFind);
   application.DoEvents();
-  ASSERT_EQ(ListView_GetItemCount(Item(FrmFindIcon_Lv)), GrowingFile::listed);
-  ReleaseOnGrid(3 + GrowingFile::counted * 38, 10);
+  ASSERT_EQ(ListView_GetItemCount(Item(FrmFindIcon_Lv)), 5);
+  ReleaseOnGrid(3 + 3 * 38, 10);
   EXPECT_EQ(SelectedRows(), Rows{1});
   EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
-  ReleaseOnGrid(3 + (GrowingFile::counted - 1) * 38, 10);
-  EXPECT_EQ(SelectedRows(), Rows{GrowingFile::counted});
+  ReleaseOnGrid(3 + 2 * 38, 10);
+  EXPECT_EQ(SelectedRows(), Rows{3});
+}
+
+TEST_F(FrmFindIconSelectionTest, AnswersForNoIconThatWasCountedButNotListed) {
+  ChangedFile file(5, 3);
+  OpenOver(file, machine);
+  Click(FrmFindIcon_CmdFind);
+  application.DoEvents();
+  ASSERT_EQ(ListView_GetItemCount(Item(FrmFindIcon_Lv)), 3);
+  // The fourth cell is that of the next icon's number.
+  for (const int column : {3, 4}) {
+    ReleaseOnGrid(3 + column * 38, 10);
+    EXPECT_EQ(SelectedRows(), Rows{1}) << column;
+    EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.") << column;
+  }
+  EXPECT_TRUE(boxes.Boxes().empty()) << boxes.Boxes()[0].text;
+  ReleaseOnGrid(3 + 2 * 38, 10);
+  EXPECT_EQ(SelectedRows(), Rows{3});
 }
 
 TEST_F(FrmFindIconSelectionTest, OpensTheListAtTheIconThatWasChosenInTheGrid) {
