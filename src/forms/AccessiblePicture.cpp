@@ -32,7 +32,7 @@ VARIANT Number(LONG value) {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
-// The list itself is child 0 and the chosen item child 1. Everything else, such as parent and state of the list, is
+// The list itself is child 0 and the current item child 1. Everything else, such as parent and state of the list, is
 // answered by the system's own object for the window.
 class AccessiblePicture final : public IAccessible, NonCopyable {
  public:
@@ -74,7 +74,7 @@ class AccessiblePicture final : public IAccessible, NonCopyable {
   HRESULT STDMETHODCALLTYPE get_accParent(IDispatch** parent) override { return base_->get_accParent(parent); }
   HRESULT STDMETHODCALLTYPE get_accChildCount(LONG* count) override {
     if (count == nullptr) return E_POINTER;
-    *count = ChosenItem() ? itemNumber : 0;
+    *count = CurrentItem() ? itemNumber : 0;
     return S_OK;
   }
   HRESULT STDMETHODCALLTYPE get_accChild(VARIANT /*child*/, IDispatch** object) override {
@@ -93,7 +93,7 @@ class AccessiblePicture final : public IAccessible, NonCopyable {
   HRESULT STDMETHODCALLTYPE get_accState(VARIANT child, VARIANT* state) override {
     if (!IsItem(child)) return base_->get_accState(child, state);
     if (state == nullptr) return E_POINTER;
-    *state = Number(STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_SELECTED);
+    *state = Number(STATE_SYSTEM_SELECTABLE | (IsSelected() ? STATE_SYSTEM_SELECTED : 0));
     return S_OK;
   }
   HRESULT STDMETHODCALLTYPE get_accHelp(VARIANT /*child*/, BSTR* text) override { return None(text); }
@@ -104,7 +104,7 @@ class AccessiblePicture final : public IAccessible, NonCopyable {
   HRESULT STDMETHODCALLTYPE get_accFocus(VARIANT* child) override { return base_->get_accFocus(child); }
   HRESULT STDMETHODCALLTYPE get_accSelection(VARIANT* children) override {
     if (children == nullptr) return E_POINTER;
-    *children = ChosenItem() ? Number(itemNumber) : VARIANT{};
+    *children = IsSelected() ? Number(itemNumber) : VARIANT{};
     return S_OK;
   }
   HRESULT STDMETHODCALLTYPE get_accDefaultAction(VARIANT /*child*/, BSTR* text) override { return None(text); }
@@ -128,14 +128,19 @@ class AccessiblePicture final : public IAccessible, NonCopyable {
     return S_FALSE;
   }
   // Also empty if memory runs out: no exception may leave an object that other processes use.
-  std::optional<PictureContent::ChosenPart> ChosenItem() const noexcept try {
+  std::optional<PictureContent::CurrentPart> CurrentItem() const noexcept try {
     const PictureContent* content = content_(window_);
-    return content != nullptr ? content->chosenItem() : std::nullopt;
+    return content != nullptr ? content->currentItem() : std::nullopt;
   } catch (const std::exception&) {
     return std::nullopt;
   }
 
-  // The chosen item's rectangle on the screen.
+  bool IsSelected() const noexcept {
+    const auto item = CurrentItem();
+    return item && item->selected;
+  }
+
+  // The current item's rectangle on the screen.
   std::optional<RECT> ItemBounds() const noexcept;
 
   HWND window_;
@@ -154,7 +159,7 @@ HRESULT AccessiblePicture::get_accName(VARIANT child, BSTR* name) try {
   std::wstring text;
   if (!IsItem(child))
     text = ToWide(content->name());
-  else if (const auto item = content->chosenItem())
+  else if (const auto item = content->currentItem())
     text = ToWide(item->name);
   else
     return S_FALSE;
@@ -165,7 +170,7 @@ HRESULT AccessiblePicture::get_accName(VARIANT child, BSTR* name) try {
 }
 
 std::optional<RECT> AccessiblePicture::ItemBounds() const noexcept {
-  const auto item = ChosenItem();
+  const auto item = CurrentItem();
   if (!item) return std::nullopt;
   RECT bounds = PictureBox::BoundsInWindow(window_, item->bounds);
   MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&bounds), 2);
@@ -209,8 +214,9 @@ LRESULT AnswerForPicture(HWND window, WPARAM wParam, const PictureContent* (*con
   return result;
 }
 
-void TellChosenItem(HWND window) {
-  NotifyWinEvent(EVENT_OBJECT_SELECTION, window, OBJID_CLIENT, itemNumber);
+void TellCurrentItem(HWND window, bool selected) {
+  const DWORD event = selected ? EVENT_OBJECT_SELECTION : EVENT_OBJECT_SELECTIONREMOVE;
+  NotifyWinEvent(event, window, OBJID_CLIENT, itemNumber);
   NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, itemNumber);
 }
 

@@ -23,10 +23,10 @@ class IconGrid final : public GridView {
   // the id `pictureId`. The viewport is sized in pixels for the grids and scaled with the display's dpi, independently
   // of the dialog's font, and the bar moves to its right edge. The bar's values are the picture's pixels.
   void Attach(HWND frame, HWND bar, int pictureId);
-  // Exposes the picture to screen readers as this list, and notifies them when another of its items is chosen. The
+  // Exposes the picture to screen readers as this list, and notifies them when another of its items is current. The
   // content outlives the windows.
   void Describe(const PictureContent* content) { picIcons_.Describe(content); }
-  void TellChosenItem() const { tarvik::TellChosenItem(picIcons_.Window()); }
+  void TellCurrentItem(bool selected) const { tarvik::TellCurrentItem(picIcons_.Window(), selected); }
   // The rectangle of viewport and bar together, in display pixels of their parent window.
   RECT Bounds() const;
   // Moves both there and makes them `width` display pixels wide together. The height and the picture do not change: in

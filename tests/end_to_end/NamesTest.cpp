@@ -114,6 +114,36 @@ std::string NameOf(HWND window) {
   return label != nullptr && ClassOf(label) == "static" ? WithoutMark(Control(label).Text()) : std::string();
 }
 
+// The notifications for screen readers about the selection in a window.
+class SelectionEvents : NonCopyable {
+ public:
+  explicit SelectionEvents(const Control& window) {
+    window_ = window.Window();
+    last_ = 0;
+  }
+  ~SelectionEvents() { UnhookWinEvent(hook_); }
+
+  // Waits until the last one is this event of item 1. They arrive while messages are served.
+  bool EndWith(DWORD event) const {
+    return hook_ != nullptr && Eventually([&] {
+             MSG message;
+             while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) DispatchMessageW(&message);
+             return last_ == event;
+           });
+  }
+
+ private:
+  static void CALLBACK Note(HWINEVENTHOOK /*hook*/, DWORD event, HWND window, LONG object, LONG child, DWORD /*thread*/,
+                            DWORD /*time*/) {
+    if (window == window_ && object == OBJID_CLIENT && child == 1) last_ = event;
+  }
+
+  static inline HWND window_ = nullptr;
+  static inline DWORD last_ = 0;
+  HWINEVENTHOOK hook_ = SetWinEventHook(EVENT_OBJECT_SELECTION, EVENT_OBJECT_SELECTIONREMOVE, nullptr, &Note, 0, 0,
+                                        WINEVENT_OUTOFCONTEXT);
+};
+
 class Names : public ViewByHand, public ::testing::WithParamInterface<const char*> {
  protected:
   void SetUp() override { CoInitialize(nullptr); }
@@ -135,6 +165,14 @@ class Names : public ViewByHand, public ::testing::WithParamInterface<const char
         },
         reinterpret_cast<LPARAM>(&names));
     return names;
+  }
+  // An entry's frame on the screen: the display's pixels that show any part of it.
+  RECT FrameOf(int entry) const {
+    const int dots = DotsOfDisplay();
+    const Point corner = FrameCorner(*geometry_, entry);
+    const POINT end = GridPlace(corner.x + geometry_->FrameExtent + 1, corner.y + geometry_->FrameExtent + 1);
+    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
+    return {grid.left + corner.x * dots / 96, grid.top + corner.y * dots / 96, end.x, end.y};
   }
   static void ExpectNames(const Control& window, const std::string& where) {
     const auto names = NamesIn(window);
@@ -231,10 +269,34 @@ TEST_P(Names, OfTheGridsIconSayNumberFileAndIndex) {
     EXPECT_THAT(icons.Name(1), ::testing::EndsWith(" 0"));
     const RECT place = icons.Place(1);
     EXPECT_TRUE(PtInRect(&place, CellMiddle(entry)));
-    EXPECT_EQ(place.right - place.left, geometry_->FrameExtent + 1);
+    const RECT frame = FrameOf(entry);
+    EXPECT_TRUE(EqualRect(&place, &frame)) << entry;
     EXPECT_EQ(icons.PartAt(CellMiddle(entry)), 1);
     EXPECT_EQ(icons.PartAt(CellMiddle(1)), CHILDID_SELF);
   }
+}
+
+// It was reported as selected after Ctrl took it out of the selection.
+TEST_P(Names, OfTheGridsIconStayWhenCtrlTakesItOutOfTheSelection) {
+  const LanguageValue language(GetParam());
+  FindFiles(5);
+  const Accessible icons(program_.Item(FrmFindIcon_PicIcons));
+  const SelectionEvents events(program_.Item(FrmFindIcon_PicIcons));
+  ClickCell(4);
+  ClickCell(2, {VK_CONTROL});
+  ExpectRows({2, 4});
+  const std::string name = icons.Name(1);
+  EXPECT_THAT(name, ::testing::HasSubstr(In(FileName(3))));
+  EXPECT_EQ(icons.State(1), STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_SELECTED);
+  EXPECT_EQ(icons.Selection(), 1);
+  EXPECT_TRUE(events.EndWith(EVENT_OBJECT_SELECTION));
+  ClickCell(2, {VK_CONTROL});
+  ExpectRows({4});
+  EXPECT_TRUE(events.EndWith(EVENT_OBJECT_SELECTIONREMOVE));
+  EXPECT_EQ(icons.Name(1), name);
+  EXPECT_EQ(icons.State(1), STATE_SYSTEM_SELECTABLE);
+  EXPECT_EQ(icons.Selection(), 0);
+  EXPECT_EQ(icons.ChildCount(), 1);
 }
 
 // The object outlives the list that it tells of.

@@ -74,7 +74,7 @@ void FrmFindIcon::AttachControls() {
                   Item(FrmFindIcon_chkSubDir));
   udMain_.Attach(Item(FrmFindIcon_udMain));
   grid_.Attach(Item(FrmFindIcon_PicFrame), Item(FrmFindIcon_Vsb), FrmFindIcon_PicIcons);
-  gridContent_ = {[this] { return ItemText(FrmFindIcon_PicFrame); }, [this] { return ChosenItem(); }};
+  gridContent_ = {[this] { return ItemText(FrmFindIcon_PicFrame); }, [this] { return CurrentItem(); }};
   grid_.Describe(&gridContent_);
   gridTip_.Attach(GetDlgItem(Item(FrmFindIcon_PicFrame), FrmFindIcon_PicIcons));
   lv_.Attach(Item(FrmFindIcon_Lv));

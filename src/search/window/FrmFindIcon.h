@@ -111,7 +111,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   void LoadSettings();
   void SaveSettings();
   void UpdateSaveMenus();
-  std::optional<PictureContent::ChosenPart> ChosenItem() const;
+  std::optional<PictureContent::CurrentPart> CurrentItem() const;
   void ShowSelectionInList();
   void ChooseIfNotCurrent(int row);  // counted from 0
   void ShowProgress();

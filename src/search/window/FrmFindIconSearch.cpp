@@ -88,7 +88,8 @@ void FrmFindIcon::ListChanged() {
   gridTip_.Say({});
   lv_.SetRowCount(list_.Count());
   ShowSelectionInList();
-  grid_.TellChosenItem();
+  const auto item = CurrentItem();
+  grid_.TellCurrentItem(item && item->selected);
   UpdateSaveMenus();
 }
 

@@ -90,15 +90,16 @@ void FrmFindIcon::PicIcons_DblClick() {
 }
 
 // The entry in the current frame.
-std::optional<PictureContent::ChosenPart> FrmFindIcon::ChosenItem() const {
+std::optional<PictureContent::CurrentPart> FrmFindIcon::CurrentItem() const {
   const int number = state_.CurrentIndex + 1;
   if (!list_.Has(number)) return std::nullopt;
   const IconListEntry& entry = list_.Item(number);
   const auto name = Compose(gridItemName, dependencies_.state.CurrentLanguage,
                             {std::to_string(number), entry.path, std::to_string(entry.index)});
   const int end = state_.Geometry.FrameExtent + 1;
-  return PictureContent::ChosenPart{name.value_or(entry.path),
-                                    {state_.FrameX, state_.FrameY, state_.FrameX + end, state_.FrameY + end}};
+  return PictureContent::CurrentPart{name.value_or(entry.path),
+                                     {state_.FrameX, state_.FrameY, state_.FrameX + end, state_.FrameY + end},
+                                     entry.selected};
 }
 
 }  // namespace tarvik
