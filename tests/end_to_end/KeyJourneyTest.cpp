@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "driver/SaveDialog.h"
 #include "driver/SeenFiles.h"
 #include "end_to_end/ViewByHand.h"
+#include "platform/Display.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
@@ -32,6 +34,10 @@ struct KeyTongue {
 class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTongue> {
  protected:
   void SetUp() override {
+    // The dpi that the display should have, if it is a display for these tests.
+    if (const char* const asked = std::getenv("TARVIK_TEST_DOTS"); asked != nullptr) {
+      ASSERT_EQ(std::to_string(DotsOfDisplay()), asked);
+    }
     tree_.MakeFolder(tongue_.folder);
     tree_.MakeFolder(tongue_.folder + std::string("\\2"));
     tree_.MakeFile(tongue_.folder + std::string("\\a.ico"), support::IconFileOf(0xFF));
