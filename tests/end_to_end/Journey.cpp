@@ -163,6 +163,11 @@ void Journey::LookAtMenus() {
   }
 }
 
+SIZE Journey::LargerView() {
+  const int dots = DotsOfDisplay();
+  return {600 * dots / 96, 500 * dots / 96};
+}
+
 void Journey::LookAtOneIcon() {
   const EnhancedView view = OpenOn(10);
   EXPECT_THAT(view.Status(), EndsWith(" - 1"));
@@ -176,7 +181,8 @@ void Journey::LookAtOneIcon() {
   EXPECT_TRUE(Eventually([&] { return !view.Status().ends_with(" - 3"); })) << view.Status();
   EXPECT_TRUE(view.ShowIsOn());
   Picture("slide-show");
-  SetWindowPos(view.Window().Window(), nullptr, 0, 0, 600, 500, SWP_NOMOVE | SWP_NOZORDER);
+  const SIZE larger = LargerView();
+  SetWindowPos(view.Window().Window(), nullptr, 0, 0, larger.cx, larger.cy, SWP_NOMOVE | SWP_NOZORDER);
   Picture("larger-view");
   ClickUntil(view, frmBit_tlb_control_Exit, [&] { return !view.IsOpen(); });
 }
@@ -268,8 +274,8 @@ void Journey::ComeBack() {
   Find();
   const EnhancedView view = OpenOn(2);
   const RECT place = view.Window().Place();
-  EXPECT_EQ(place.right - place.left, 600);
-  EXPECT_EQ(place.bottom - place.top, 500);
+  EXPECT_EQ(place.right - place.left, LargerView().cx);
+  EXPECT_EQ(place.bottom - place.top, LargerView().cy);
   Picture("next-day");
   view.Exit();
 }

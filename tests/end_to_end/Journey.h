@@ -70,6 +70,8 @@ class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> 
   // Gives one of the commands that save, by the keyboard.
   void ChooseInFileMenu(int command) const;
 
+  // A size of the enhanced view on this display that is larger than the one it opens with.
+  static SIZE LargerView();
   SaveDialog AskForName(int command) const;
   void LookAtTheList();
   void SaveAsJpeg(const std::string& name);
