@@ -169,6 +169,32 @@ TEST_F(FrmFindIconSearchTest, BeginsAtTheFilesShownWithoutSubFoldersAndAtTheFold
   EXPECT_EQ(RowCount(), 3);
 }
 
+// Two folders deep the list of folders shows the one between.
+TEST_F(FrmFindIconSearchTest, IsGivenUpWhenTheSessionEndsAndKeepsItsFirstFolder) {
+  machine.subFolders["C:\\icons"] = {"C:\\icons\\a"};
+  machine.subFolders["C:\\icons\\a"] = {"C:\\icons\\a\\b"};
+  for (const char* folder : {"C:\\icons\\a", "C:\\icons\\a\\b"}) {
+    machine.files[folder] = {"more.dll"};
+    machine.icons[std::string(folder) + "\\more.dll"] = 1;
+  }
+  OpenWatched();
+  window->SetChecked(FrmFindIcon_chkSubDir, true);
+  int extracted = 0;
+  watched.onExtract = [&] {
+    EXPECT_EQ(SendMessageW(window->Window(), WM_QUERYENDSESSION, 0, 0), TRUE);
+    if (++extracted == 2) PostMessageW(window->Window(), WM_ENDSESSION, TRUE, 0);
+  };
+  int errors = 0;  // a message would end by itself with the session
+  application.onRuntimeError = [&](Form& /*form*/, const RuntimeError& /*error*/) { ++errors; };
+  Find(1);
+  MSG quit;
+  EXPECT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+  EXPECT_FALSE(window->IsLoaded());
+  EXPECT_EQ(extracted, 2);
+  EXPECT_EQ(errors, 0);
+  EXPECT_EQ(ini.values["FindIcon/Folder"], "C:\\icons");
+}
+
 // The size was once remembered although there was no memory for the bitmap, and the next search believed that the grid
 // already had it.
 TEST_F(FrmFindIconSearchTest, SizesTheGridAgainAfterItCouldNot) {
