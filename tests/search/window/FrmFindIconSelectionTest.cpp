@@ -31,6 +31,13 @@ class FrmFindIconSelectionTest : public support::FindIconFixture {
     ListView_SetItemState(Item(FrmFindIcon_Lv), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     application.DoEvents();
   }
+  // Opens the window over that file and lists its icons.
+  void FindIn(IconSource& file, int rows) {
+    OpenOver(file, machine);
+    Click(FrmFindIcon_CmdFind);
+    application.DoEvents();
+    ASSERT_EQ(ListView_GetItemCount(Item(FrmFindIcon_Lv)), rows);
+  }
 };
 
 // A file that holds another number of icons in the listing pass than in the counting pass.
@@ -63,10 +70,7 @@ TEST_F(FrmFindIconSelectionTest, SelectsTheClickedIconAlone) {
 
 TEST_F(FrmFindIconSelectionTest, AnswersForNoMoreIconsThanWereCounted) {
   ChangedFile file(3, 5);
-  OpenOver(file, machine);
-  Click(FrmFindIcon_CmdFind);
-  application.DoEvents();
-  ASSERT_EQ(ListView_GetItemCount(Item(FrmFindIcon_Lv)), 5);
+  ASSERT_NO_FATAL_FAILURE(FindIn(file, 5));
   ReleaseOnGrid(3 + 3 * 38, 10);
   EXPECT_EQ(SelectedRows(), Rows{1});
   EXPECT_EQ(Text(FrmFindIcon_lblInfo), "Icon No 1 Selected.");
@@ -76,10 +80,7 @@ TEST_F(FrmFindIconSelectionTest, AnswersForNoMoreIconsThanWereCounted) {
 
 TEST_F(FrmFindIconSelectionTest, AnswersForNoIconThatWasCountedButNotListed) {
   ChangedFile file(5, 3);
-  OpenOver(file, machine);
-  Click(FrmFindIcon_CmdFind);
-  application.DoEvents();
-  ASSERT_EQ(ListView_GetItemCount(Item(FrmFindIcon_Lv)), 3);
+  ASSERT_NO_FATAL_FAILURE(FindIn(file, 3));
   // The fourth cell is that of the next icon's number.
   for (const int column : {3, 4}) {
     ReleaseOnGrid(3 + column * 38, 10);
