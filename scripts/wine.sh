@@ -70,10 +70,27 @@ start_wine() {
   choose_desktop "$1"
   choose_browser
   choose_dots "${2:-96}"
-  # Its services would keep this script's output open, so their output is redirected.
+  start_server
+  [ "$1" = own ] || keep_desktop_open
+}
+
+# start_server: its services would keep this script's output open, so their output is redirected.
+start_server() {
   wineserver -p >/dev/null 2>&1 </dev/null 9>&- || true
   wine wineboot >/dev/null 2>&1 </dev/null 9>&- || fail "Wine does not start"
-  [ "$1" = own ] || { stay_on_desktop && open_desktop; }
+}
+
+# keep_desktop_open: on a busy machine the program that opens the desktop sometimes hangs, and keeps every other one from
+# opening it. So it is not only started again, but the server and all programs with it.
+keep_desktop_open() {
+  for _ in $(seq 5); do
+    stay_on_desktop
+    if open_desktop; then return 0; fi
+    wineserver -k >/dev/null 2>&1 9>&- || true
+    wineserver -w
+    start_server
+  done
+  fail "the desktop does not open; the display shows: $(xwininfo -root -tree 2>&1 9>&-)"
 }
 
 # stay_on_desktop: Wine closes its desktop when no program has used it for a second, and the parent of the program that
@@ -93,10 +110,10 @@ stay_on_desktop() {
 
 # open_desktop: opens it before the first program does; otherwise the desktop would keep that program's output open, and a
 # reader of the output would wait until the desktop ends. On a busy machine the program that opens it sometimes ends
-# without having done so, and is started again.
+# without having done so, and is started again. Fails if there is no desktop after a minute and a half.
 open_desktop() {
-  local windows=
-  for _ in $(seq 10); do
+  local windows
+  for _ in 1 2 3; do
     wine explorer "/desktop=Default,$display_size" >/dev/null 2>&1 </dev/null 9>&- &
     for _ in $(seq 300); do
       windows=$(xwininfo -root -tree 2>/dev/null 9>&- || true)
@@ -104,7 +121,7 @@ open_desktop() {
       sleep 0.1
     done
   done
-  fail "the desktop does not open; the display shows: $windows"
+  return 1
 }
 
 # choose_desktop DESKTOP: Wine reads this setting only when it starts, so it is written before, and only if it differs. In
