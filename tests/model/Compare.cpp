@@ -125,7 +125,7 @@ void CompareGrid(Differences& all, const Model& model, const seen::Controls& at)
   const auto differs = std::mismatch(shown.pixels.begin(), shown.pixels.end(), from);
   if (differs.first == shown.pixels.end()) return;
   const auto wrong = differs.first - shown.pixels.begin();
-  all.Add("grid pixel (" + std::to_string(wrong % width) + ", " + std::to_string(wrong / width) +
+  all.Add(std::string(wrongPixel) + " (" + std::to_string(wrong % width) + ", " + std::to_string(wrong / width) +
           " of the viewport): " + std::to_string(*differs.first) + " and not " + std::to_string(*differs.second) +
           "\n");
 }

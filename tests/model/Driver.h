@@ -53,6 +53,8 @@ class Driver : NonCopyable {
   std::string Ended();
   bool IsSettled();
   void Next();
+  // Whether the pixels of the grid differ and may still be painted: then they are compared again soon.
+  bool AwaitPaint(const std::string& difference);
   // Returns whether the action was possible.
   bool Do(const Action& action);
   // Runs an action that may open a modal loop. The next steps are performed inside that loop.
@@ -156,10 +158,14 @@ class Driver : NonCopyable {
   bool tickOwed_ = false;
   bool isDone_ = false;
   ULONGLONG movedAt_ = 0;
+  ULONGLONG wrongSince_ = 0;  // when pixels of the grid were first wrong; 0 if they are right
   std::string difference_;
   std::string ofStep_;  // a difference that a step found itself
   std::vector<std::string> log_;
 };
+
+// How a difference of the grid's pixels begins.
+inline constexpr const char* wrongPixel = "grid pixel";
 
 // The differences between the model and the windows; empty if there are none. `everything` includes the expensive
 // comparisons.
