@@ -97,25 +97,6 @@ class Windows {
   std::optional<FrmFindIcon> findIcon_;
 };
 
-class StartUp final : public basInitEntry::StartUpSystem {
- public:
-  explicit StartUp(Windows& windows) : windows_(windows) {}
-
-  std::string ReadLanguage(const std::string& name) override { return ReadRegistryLanguage(name); }
-  int BitsPerPixel() override { return desktopScreen::BitsPerPixel(); }
-  int ScreenWidth() override { return desktopScreen::Width(); }
-  int ScreenHeight() override { return desktopScreen::Height(); }
-  void ShowCriticalMessage(const std::string& text, const std::string& title) override {
-    ShowMessage(nullptr, text, title, MessageSign::Critical);
-  }
-  std::string SystemFolder() override { return tarvik::SystemFolder(); }
-  std::string TempFolder() override { return tarvik::TempFolder(); }
-  void ShowFrmSpash() override { windows_.ShowFrmSpash(); }
-
- private:
-  Windows& windows_;
-};
-
 void Run(HINSTANCE instance, ProgramState& state) {
   IniFile iniFile;
   Settings settings(iniFile, ProgramPath());
@@ -132,8 +113,12 @@ void Run(HINSTANCE instance, ProgramState& state) {
   // window that is gone, and fault.
   application.onSessionEnd = [] { ExitProcess(0); };
   Windows windows(application, state, settings, icons, folders);
-  StartUp startUp(windows);
-  basInitEntry::Main(state, startUp);
+  const auto showCriticalMessage = [](const std::string& text, const std::string& title) {
+    ShowMessage(nullptr, text, title, MessageSign::Critical);
+  };
+  basInitEntry::Main(state,
+                     {ReadRegistryLanguage, desktopScreen::BitsPerPixel, desktopScreen::Width, desktopScreen::Height,
+                      showCriticalMessage, SystemFolder, TempFolder, [&windows] { windows.ShowFrmSpash(); }});
   application.Run();
 }
 

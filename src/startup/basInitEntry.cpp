@@ -14,11 +14,11 @@ constexpr const char* shellLibrary = "\\Shell32.dll";
 constexpr const char* scratchIcon = "Abcdwxyz.ico";
 
 // In an unknown language the start ends without a message (deliberate: oddities 3).
-void Refuse(const Refusal& refusal, const std::string& code, StartUpSystem& system) {
+void Refuse(const Refusal& refusal, const std::string& code, const StartUpSystem& system) {
   const auto first = Pick(refusal.first, code);
   const auto second = Pick(refusal.second, code);
   if (!first || !second) return;
-  system.ShowCriticalMessage(std::string(productTitle).append(*first).append("\r\n\r\n").append(*second),
+  system.showCriticalMessage(std::string(productTitle).append(*first).append("\r\n\r\n").append(*second),
                              FailureTitle(code));
 }
 
@@ -34,30 +34,30 @@ bool Succeeds(Check check) {
 
 }  // namespace
 
-void Main(ProgramState& state, StartUpSystem& system) {
-  state.CurrentLanguage = ChooseLanguage([&system](const std::string& name) { return system.ReadLanguage(name); });
+void Main(ProgramState& state, const StartUpSystem& system) {
+  state.CurrentLanguage = ChooseLanguage(system.readLanguage);
   if (!CheckColorMode(state, system)) return;
   if (!CheckScreenResolution(state, system)) return;
-  state.Shell32Path = system.SystemFolder() + shellLibrary;
-  state.TempIconPath = system.TempFolder() + scratchIcon;
-  system.ShowFrmSpash();
+  state.Shell32Path = system.systemFolder() + shellLibrary;
+  state.TempIconPath = system.tempFolder() + scratchIcon;
+  system.showFrmSpash();
 }
 
-bool CheckColorMode(ProgramState& state, StartUpSystem& system) {
+bool CheckColorMode(ProgramState& state, const StartUpSystem& system) {
   return Succeeds([&] {
     // The first answer is stored, the second decides (deliberate: oddities 2).
-    state.ScreenBitsPerPixel = system.BitsPerPixel();
-    const Integer16 bitsPerPixel = system.BitsPerPixel();
+    state.ScreenBitsPerPixel = system.bitsPerPixel();
+    const Integer16 bitsPerPixel = system.bitsPerPixel();
     if (bitsPerPixel > tooFewBitsPerPixel) return true;
     Refuse(tooFewColors, state.CurrentLanguage, system);
     return false;
   });
 }
 
-bool CheckScreenResolution(const ProgramState& state, StartUpSystem& system) {
+bool CheckScreenResolution(const ProgramState& state, const StartUpSystem& system) {
   return Succeeds([&] {
-    const Integer16 width = system.ScreenWidth();
-    const Integer16 height = system.ScreenHeight();
+    const Integer16 width = system.screenWidth();
+    const Integer16 height = system.screenHeight();
     if (height >= minHeight && width >= minWidth) return true;
     Refuse(tooSmall, state.CurrentLanguage, system);
     return false;

@@ -16,40 +16,32 @@ constexpr const char* englishColorRefusal =
     "Brindle Tarvik requires at least high color mode.\r\n\r\nPlease adjust your color mode and try again.";
 
 // A computer that logs the calls of the start in order. Each answer differs from all others.
-class FakeComputer : public StartUpSystem {
- public:
-  std::string ReadLanguage(const std::string& name) override {
-    calls.push_back("read " + name);
-    return language;
+struct FakeComputer {
+  StartUpSystem System() {
+    return {[this](const std::string& name) { return Log("read " + name, language); },
+            [this] { return Log("depth", NextDepth()); },
+            [this] { return Log("width", width); },
+            [this] { return Log("height", height); },
+            [this](const std::string& text, const std::string& title) {
+              calls.emplace_back("message");
+              texts.push_back(text);
+              titles.push_back(title);
+            },
+            [this] { return Log("system folder", std::string(R"(D:\Winter\System32)")); },
+            [this] { return Log("temporary folder", std::string("D:\\Leaves\\")); },
+            [this] { calls.emplace_back("start-up window"); }};
   }
-  int BitsPerPixel() override {
-    calls.emplace_back("depth");
+
+  template <typename Answer>
+  Answer Log(const std::string& call, Answer answer) {
+    calls.push_back(call);
+    return answer;
+  }
+  int NextDepth() {
     const int depth = depths.front();
     if (depths.size() > 1) depths.erase(depths.begin());
     return depth;
   }
-  int ScreenWidth() override {
-    calls.emplace_back("width");
-    return width;
-  }
-  int ScreenHeight() override {
-    calls.emplace_back("height");
-    return height;
-  }
-  void ShowCriticalMessage(const std::string& text, const std::string& title) override {
-    calls.emplace_back("message");
-    texts.push_back(text);
-    titles.push_back(title);
-  }
-  std::string SystemFolder() override {
-    calls.emplace_back("system folder");
-    return R"(D:\Winter\System32)";
-  }
-  std::string TempFolder() override {
-    calls.emplace_back("temporary folder");
-    return "D:\\Leaves\\";
-  }
-  void ShowFrmSpash() override { calls.emplace_back("start-up window"); }
 
   std::string language = "CHT";
   std::vector<int> depths{24};  // one answer per call; the last one repeats
@@ -62,17 +54,17 @@ class FakeComputer : public StartUpSystem {
 
 class Start : public ::testing::Test {
  protected:
-  void Run() { Main(state, computer); }
+  void Run() { Main(state, computer.System()); }
   bool CheckColors(const std::string& code, int depth) {
     state.CurrentLanguage = code;
     computer.depths = {depth};
-    return CheckColorMode(state, computer);
+    return CheckColorMode(state, computer.System());
   }
   bool CheckSize(const std::string& code, int width, int height) {
     state.CurrentLanguage = code;
     computer.width = width;
     computer.height = height;
-    return CheckScreenResolution(state, computer);
+    return CheckScreenResolution(state, computer.System());
   }
 
   ProgramState state;
@@ -173,7 +165,7 @@ TEST_F(CheckColorModeTest, FailsWithoutAMessageInAnUnknownLanguage) {
 
 TEST_F(CheckColorModeTest, KeepsTheFirstAnswerAndDecidesByTheSecond) {
   computer.depths = {8, 16};
-  EXPECT_TRUE(CheckColorMode(state, computer));
+  EXPECT_TRUE(CheckColorMode(state, computer.System()));
   EXPECT_EQ(state.ScreenBitsPerPixel, 8);
 }
 
