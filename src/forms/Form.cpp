@@ -10,6 +10,7 @@
 
 #include "forms/ControlNames.h"
 #include "forms/MousePointer.h"
+#include "platform/AutomationObject.h"
 #include "platform/DroppedFiles.h"
 #include "platform/Text.h"
 #include "resource.h"

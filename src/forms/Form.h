@@ -17,6 +17,8 @@
 
 namespace tarvik {
 
+class AutomationObject;
+
 // One row of a window's event table: which notification of which control, or of which run of controls with consecutive
 // ids, goes to which handler. A menu item's notification code is 0, as a button's click is.
 template <typename Window>
@@ -94,8 +96,8 @@ class Form : NonCopyable {
   void SetChecked(int id, bool checked);
   const Menu& TheMenu() const { return menu_; }
 
-  // The object that paints the window in a skin, or null; kept until the window is destroyed.
-  std::shared_ptr<void> Skn;
+  // The component that paints the window in a skin, or null; kept until the window is destroyed.
+  std::unique_ptr<AutomationObject> Skn;
 
   // Called before a message reaches its window; true swallows it.
   virtual bool PreviewMessage(const MSG& message);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/FolderPath.h"
+#include "base/NonCopyable.h"
 #include "driver/UnixProgram.h"
 #include "end_to_end/EndToEndTest.h"
 #include "platform/DroppedBlock.h"
@@ -19,14 +20,12 @@ namespace {
 using ::testing::ElementsAre;
 
 // A network share of this machine. Wine looks for it in a folder of its own.
-class Share {
+class Share : NonCopyable {
  public:
   explicit Share(const std::string& folder) {
     Run("mkdir -p " + shares + "/tarvik && ln -s " + UnixQuoted(ToWide(folder)) + " " + shares + "/tarvik/icons");
   }
   ~Share() { Run("rm " + shares + "/tarvik/icons && rmdir -p --ignore-fail-on-non-empty " + shares + "/tarvik"); }
-  Share(const Share&) = delete;
-  Share& operator=(const Share&) = delete;
 
  private:
   static void Run(const std::string& command) {

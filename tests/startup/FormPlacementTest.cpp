@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/Application.h"
+#include "platform/AutomationObject.h"
 #include "resource.h"
 
 namespace tarvik {

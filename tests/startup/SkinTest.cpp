@@ -8,6 +8,7 @@
 
 #include "base/FolderPath.h"
 #include "forms/Application.h"
+#include "platform/AutomationObject.h"
 #include "platform/Paths.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Text.h"
