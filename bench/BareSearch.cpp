@@ -15,8 +15,8 @@
 namespace tarvik::bench {
 namespace {
 
-constexpr int gridHeight = 12'000;   // pixels; enough for 4,000 icons
-constexpr UINT mostIcons = 100'000;  // the shell returns more for a file that it cannot read
+constexpr int gridHeight = 12'000;  // pixels; enough for 4,000 icons
+constexpr UINT maxIcons = 100'000;  // the shell returns more for a file that it cannot read
 constexpr int groupSize = 64;
 
 using Entries = std::vector<std::wstring>;
@@ -59,7 +59,7 @@ int BareSearch::CountOf(const std::string& path) {
   const auto known = counts_.find(path);
   if (taking_ == Taking::SixtyFour && known != counts_.end()) return known->second;
   const UINT count = ExtractIconExA(path.c_str(), -1, nullptr, nullptr, 0);
-  return counts_[path] = count > mostIcons ? 0 : static_cast<int>(count);
+  return counts_[path] = count > maxIcons ? 0 : static_cast<int>(count);
 }
 
 void BareSearch::TakeFile(const std::string& path) {

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 constexpr int rounds = 41;
 
-fs::path Built(const wchar_t* relativePath) {
+fs::path PathInBuild(const wchar_t* relativePath) {
   wchar_t own[MAX_PATH] = {};
   GetModuleFileNameW(nullptr, own, MAX_PATH);
   return (fs::path(own).parent_path() / relativePath).lexically_normal();
@@ -70,9 +70,9 @@ class Started {
 
 int main() {
   using namespace tarvik::bench;
-  const fs::path program = Built(TARVIK_PROGRAM);
-  const fs::path emptyWindow = Built(L"empty_window.exe");
-  const fs::path dialogWindow = Built(L"dialog_window.exe");
+  const fs::path program = PathInBuild(TARVIK_PROGRAM);
+  const fs::path emptyWindow = PathInBuild(L"empty_window.exe");
+  const fs::path dialogWindow = PathInBuild(L"dialog_window.exe");
   Started started;
   const auto way = [&](const char* name, const fs::path& file) {
     return Way{.name = name, .run = [&] { started.Start(file); }, .prepare = [&] { started.End(); }};

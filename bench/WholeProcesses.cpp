@@ -44,9 +44,9 @@ void CompareWholeProcesses(const support::TemporaryFolder& folder) {
     std::printf("%-44s skipped: there is no wrestool (Debian: icoutils)\n", title);
     return;
   }
-  const std::string extracted = end_to_end::UnixQuoted(ToWide(folder.MakeFolder("wrestool")));
+  const std::string extracted = end_to_end::QuoteForUnix(ToWide(folder.MakeFolder("wrestool")));
   const std::string command =
-      "cd " + end_to_end::UnixQuoted(ToWide(SystemFolder())) + " && wrestool -x --type=14 -o " + extracted + " *.dll";
+      "cd " + end_to_end::QuoteForUnix(ToWide(SystemFolder())) + " && wrestool -x --type=14 -o " + extracted + " *.dll";
   std::vector<double> theirs;
   std::vector<double> ratios;
   std::vector<double> own;

@@ -31,7 +31,7 @@ class Input {
     const int green = Byte();
     return static_cast<Color>(red + 256 * green + 65536 * Byte());
   }
-  std::size_t Left() const { return size_ - at_; }
+  std::size_t CountLeft() const { return size_ - at_; }
 
  private:
   const std::uint8_t* data_;
@@ -47,7 +47,7 @@ TestRaster MakePicture(Input& input) {
   Color color = 0;
   for (int y = 0; y < picture.Height(); ++y) {
     for (int x = 0; x < picture.Width(); ++x) {
-      color = input.Left() > 0 ? input.AnyColor() : (color + drift) % 0x1000000;
+      color = input.CountLeft() > 0 ? input.AnyColor() : (color + drift) % 0x1000000;
       picture.Set(x, y, color);
     }
   }

@@ -25,12 +25,12 @@ class Input {
  public:
   explicit Input(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
 
-  std::uint8_t Byte() { return place_ < bytes_.size() ? bytes_[place_++] : std::uint8_t{0}; }
-  std::span<const std::uint8_t> Rest() const { return bytes_.subspan(place_); }
+  std::uint8_t Byte() { return offset_ < bytes_.size() ? bytes_[offset_++] : std::uint8_t{0}; }
+  std::span<const std::uint8_t> Rest() const { return bytes_.subspan(offset_); }
 
  private:
   std::span<const std::uint8_t> bytes_;
-  std::size_t place_ = 0;
+  std::size_t offset_ = 0;
 };
 
 // A picture whose pixels are read from the bytes, three per colour, from `start` on, repeatedly.

@@ -37,7 +37,7 @@ Picture Shades(int width, int height) {
   return picture;
 }
 
-Picture Enlarged(const Picture& picture, int dots, Point corner, int width, int height) {
+Picture EnlargedPart(const Picture& picture, int dots, Point corner, int width, int height) {
   Picture part(width, height);
   Enlarge(picture.ReadRows(), DisplayScale(dots), corner, part.Rows());
   return part;
@@ -46,7 +46,7 @@ Picture Enlarged(const Picture& picture, int dots, Point corner, int width, int 
 TEST(Enlarge, MakesEachPixelABlockAtWholeScales) {
   const Picture picture = Shades(5, 4);
   for (const int times : {1, 2, 3, 4}) {
-    const Picture shown = Enlarged(picture, 96 * times, {}, 5 * times, 4 * times);
+    const Picture shown = EnlargedPart(picture, 96 * times, {}, 5 * times, 4 * times);
     for (int y = 0; y < shown.height; ++y) {
       for (int x = 0; x < shown.width; ++x) ASSERT_EQ(shown.At(x, y), picture.At(x / times, y / times)) << times;
     }
@@ -59,7 +59,7 @@ TEST(Enlarge, MixesNeighboursByTheAreasUnderADisplayPixel) {
   picture.Set(1, 0, 100);
   picture.Set(0, 1, 200);
   picture.Set(1, 1, 40);
-  const Picture shown = Enlarged(picture, 144, {}, 3, 3);
+  const Picture shown = EnlargedPart(picture, 144, {}, 3, 3);
   EXPECT_EQ(shown.At(0, 0), 0);
   EXPECT_EQ(shown.At(1, 0), 50);
   EXPECT_EQ(shown.At(2, 0), 100);
@@ -71,15 +71,15 @@ TEST(Enlarge, MixesNeighboursByTheAreasUnderADisplayPixel) {
 TEST(Enlarge, MixesEachColourForItself) {
   Picture picture(2, 1);
   picture.bytes = {0, 100, 255, 200, 100, 0};
-  const Picture shown = Enlarged(picture, 144, {}, 3, 1);
+  const Picture shown = EnlargedPart(picture, 144, {}, 3, 1);
   EXPECT_EQ(shown.bytes, (std::vector<std::uint8_t>{0, 100, 255, 100, 100, 128, 200, 100, 0}));
 }
 
 TEST(Enlarge, GivesTheSamePixelsWhateverPartIsAskedFor) {
   const Picture picture = Shades(9, 8);
   for (const int dots : {120, 144, 168, 192}) {
-    const Picture whole = Enlarged(picture, dots, {}, 11, 10);
-    const Picture part = Enlarged(picture, dots, {3, 2}, 5, 6);
+    const Picture whole = EnlargedPart(picture, dots, {}, 11, 10);
+    const Picture part = EnlargedPart(picture, dots, {3, 2}, 5, 6);
     for (int y = 0; y < part.height; ++y) {
       for (int x = 0; x < part.width; ++x) ASSERT_EQ(part.At(x, y), whole.At(x + 3, y + 2)) << dots;
     }
@@ -88,7 +88,7 @@ TEST(Enlarge, GivesTheSamePixelsWhateverPartIsAskedFor) {
 
 TEST(Enlarge, RepeatsTheLastColumnAndRowBeyondThePicture) {
   const Picture picture = Shades(3, 3);
-  const Picture shown = Enlarged(picture, 168, {}, 9, 9);
+  const Picture shown = EnlargedPart(picture, 168, {}, 9, 9);
   EXPECT_EQ(shown.At(5, 5), picture.At(2, 2));
   EXPECT_EQ(shown.At(8, 8), picture.At(2, 2));
 }

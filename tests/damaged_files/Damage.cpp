@@ -16,18 +16,18 @@ void FlipBits(Bytes& bytes, std::size_t end, std::size_t most, Chance& chance) {
 void MakeNoise(Bytes& bytes, Chance& chance) {
   const std::size_t start = chance.Below(bytes.size());
   const std::size_t end = std::min(bytes.size(), start + 1 + chance.Below(64));
-  for (std::size_t place = start; place < end; ++place) bytes[place] = static_cast<std::byte>(chance.Any());
+  for (std::size_t offset = start; offset < end; ++offset) bytes[offset] = static_cast<std::byte>(chance.Any());
 }
 
 std::uint32_t Read(const Bytes& bytes, const Field& field) {
   std::uint32_t value = 0;
   for (std::size_t i = 0; i < field.width; ++i)
-    value |= std::to_integer<std::uint32_t>(bytes[field.place + i]) << (8 * i);
+    value |= std::to_integer<std::uint32_t>(bytes[field.offset + i]) << (8 * i);
   return value;
 }
 
 void Write(Bytes& bytes, const Field& field, std::uint32_t value) {
-  for (std::size_t i = 0; i < field.width; ++i) bytes[field.place + i] = static_cast<std::byte>(value >> (8 * i));
+  for (std::size_t i = 0; i < field.width; ++i) bytes[field.offset + i] = static_cast<std::byte>(value >> (8 * i));
 }
 
 // A false value that a reader may trust too much: zero, one too low or too high, double, the size of the file or a
@@ -61,7 +61,7 @@ bool CanHave(const IntactFile& file, Damage damage) {
   return damage != Damage::Loops || !file.branches.empty();
 }
 
-Bytes Damaged(const IntactFile& file, Damage damage, Chance& chance) {
+Bytes ApplyDamage(const IntactFile& file, Damage damage, Chance& chance) {
   Bytes bytes = file.bytes;
   switch (damage) {
     case Damage::FlippedBits:

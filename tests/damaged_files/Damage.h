@@ -43,6 +43,6 @@ inline constexpr std::array damageNames{DamageName{Damage::FlippedBits, "flipped
 bool CanHave(const IntactFile& file, Damage damage);
 
 // The bytes of the file, damaged that way.
-Bytes Damaged(const IntactFile& file, Damage damage, Chance& chance);
+Bytes ApplyDamage(const IntactFile& file, Damage damage, Chance& chance);
 
 }  // namespace tarvik::support

@@ -83,7 +83,7 @@ std::vector<Kind> ModuleKinds() {
           {"module, DLL", ".dll", 300, files, intact, ".icl"}};
 }
 
-std::string Numbered(int number, const char* extension) {
+std::string NumberedName(int number, const char* extension) {
   std::array<char, 16> text{};
   std::snprintf(text.data(), text.size(), "%04d", number);
   return text.data() + std::string(extension);
@@ -99,14 +99,14 @@ class FolderMaker {
     for (int below = 0; below < foldersBelow; ++below) folder_.MakeFolder(Below(below));
     for (int copy = 0; copy < kind_.copies; ++copy) {
       const IntactFile& file = kind_.files[static_cast<std::size_t>(copy) % kind_.files.size()];
-      made.damaged.push_back(folder_.MakeFile(Below(copy % foldersBelow) + "\\" + Numbered(copy, kind_.extension),
-                                              Damaged(file, damage_.damage, chance)));
+      made.damaged.push_back(folder_.MakeFile(Below(copy % foldersBelow) + "\\" + NumberedName(copy, kind_.extension),
+                                              ApplyDamage(file, damage_.damage, chance)));
     }
     for (int below = 0; below < foldersBelow; ++below) {
       // At the start, in the middle and at the end of what is listed.
       for (int i = 0; i < intactInEach; ++i) {
         const std::string name =
-            Numbered(i * (kind_.copies - 1) / (intactInEach - 1), " intact") + kind_.intactExtension;
+            NumberedName(i * (kind_.copies - 1) / (intactInEach - 1), " intact") + kind_.intactExtension;
         made.intact.push_back(folder_.MakeFile(Below(below) + "\\" + name, kind_.intact));
       }
     }

@@ -7,30 +7,30 @@ namespace {
 
 constexpr std::size_t chunkStart = 8;  // name and size
 
-bool IsNamed(const Bytes& file, std::size_t place, const char* name) {
-  return std::memcmp(&file[place], name, 4) == 0;
+bool IsNamed(const Bytes& file, std::size_t offset, const char* name) {
+  return std::memcmp(&file[offset], name, 4) == 0;
 }
 
-std::uint32_t Number32(const Bytes& file, std::size_t place) {
+std::uint32_t Number32(const Bytes& file, std::size_t offset) {
   std::uint32_t value = 0;
-  std::memcpy(&value, &file[place], sizeof value);
+  std::memcpy(&value, &file[offset], sizeof value);
   return value;
 }
 
-void MarkChunks(IntactFileWriter& writer, std::vector<Field>& fields, const Bytes& file, std::size_t place,
+void MarkChunks(IntactFileWriter& writer, std::vector<Field>& fields, const Bytes& file, std::size_t offset,
                 std::size_t end) {
-  while (place + chunkStart <= end) {
-    const std::size_t size = Number32(file, place + 4);
-    const std::size_t content = place + chunkStart;
-    fields.push_back({place + 4, 4});
-    if (IsNamed(file, place, "RIFF") || IsNamed(file, place, "LIST")) {
+  while (offset + chunkStart <= end) {
+    const std::size_t size = Number32(file, offset + 4);
+    const std::size_t content = offset + chunkStart;
+    fields.push_back({offset + 4, 4});
+    if (IsNamed(file, offset, "RIFF") || IsNamed(file, offset, "LIST")) {
       MarkChunks(writer, fields, file, content + 4, content + size);
-    } else if (IsNamed(file, place, "icon")) {
+    } else if (IsNamed(file, offset, "icon")) {
       writer.MarkIconFile(content);
     } else {
       for (std::size_t number = content; number + 4 <= content + size; number += 4) fields.push_back({number, 4});
     }
-    place = content + size + size % 2;
+    offset = content + size + size % 2;
   }
 }
 
@@ -40,14 +40,14 @@ void IntactFileWriter::Number(std::uint64_t value, std::size_t width) {
   for (std::size_t i = 0; i < width; ++i) file_.bytes.push_back(static_cast<std::byte>(value >> (8 * i)));
 }
 
-void IntactFileWriter::Marked(std::uint64_t value, std::size_t width) {
-  Mark(Place(), width);
+void IntactFileWriter::MarkedNumber(std::uint64_t value, std::size_t width) {
+  Mark(Offset(), width);
   Number(value, width);
 }
 
 void IntactFileWriter::Branch(std::uint32_t value) {
-  file_.branches.push_back({Place(), 4});
-  Marked(value, 4);
+  file_.branches.push_back({Offset(), 4});
+  MarkedNumber(value, 4);
 }
 
 void IntactFileWriter::Append(const Bytes& bytes) {
@@ -83,9 +83,9 @@ void IntactFileWriter::MarkPicture(std::size_t start) {
   }
 }
 
-std::uint32_t IntactFileWriter::NumberAt(std::size_t place, std::size_t width) const {
+std::uint32_t IntactFileWriter::NumberAt(std::size_t offset, std::size_t width) const {
   std::uint32_t value = 0;
-  std::memcpy(&value, &file_.bytes[place], width);
+  std::memcpy(&value, &file_.bytes[offset], width);
   return value;
 }
 

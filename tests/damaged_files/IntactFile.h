@@ -11,7 +11,7 @@ namespace tarvik::support {
 
 // A number in a file that states a count, a size or an offset.
 struct Field {
-  std::size_t place;
+  std::size_t offset;
   std::size_t width;  // bytes, little-endian
 };
 
@@ -27,14 +27,14 @@ struct IntactFile {
 // Appends numbers, little-endian, and records the marked ones as fields.
 class IntactFileWriter {
  public:
-  std::size_t Place() const { return file_.bytes.size(); }
+  std::size_t Offset() const { return file_.bytes.size(); }
   void Number(std::uint64_t value, std::size_t width);
-  void Marked(std::uint64_t value, std::size_t width);
+  void MarkedNumber(std::uint64_t value, std::size_t width);
   // Appends a field that refers to a directory of a resource tree.
   void Branch(std::uint32_t value);
   void Directory(std::uint32_t leadingValue) { file_.directories.push_back(leadingValue); }
   void Append(const Bytes& bytes);
-  void PadTo(std::size_t place) { file_.bytes.resize(place); }
+  void PadTo(std::size_t offset) { file_.bytes.resize(offset); }
   // Marks the fields of the icons or the cursor from `start` on, in the format of an icon file, or of a bitmap in the
   // format of an icon resource.
   void MarkIconFile(std::size_t start);
@@ -42,8 +42,8 @@ class IntactFileWriter {
   IntactFile Take() { return std::move(file_); }
 
  private:
-  std::uint32_t NumberAt(std::size_t place, std::size_t width) const;
-  void Mark(std::size_t place, std::size_t width) { file_.fields.push_back({place, width}); }
+  std::uint32_t NumberAt(std::size_t offset, std::size_t width) const;
+  void Mark(std::size_t offset, std::size_t width) { file_.fields.push_back({offset, width}); }
 
   IntactFile file_;
 };

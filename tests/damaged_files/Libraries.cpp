@@ -8,12 +8,12 @@ namespace {
 constexpr std::uint32_t iconType = 3;
 constexpr std::uint32_t iconGroupType = 14;
 
-constexpr std::size_t newHeaderPlace = 64;  // right after the DOS header, which ends with this number
+constexpr std::size_t newHeaderOffset = 64;  // right after the DOS header, which ends with this number
 
 void WriteDosHeader(IntactFileWriter& file) {
   file.Number(0x5A4D, 2);  // "MZ"
-  file.PadTo(newHeaderPlace - 4);
-  file.Marked(newHeaderPlace, 4);
+  file.PadTo(newHeaderOffset - 4);
+  file.MarkedNumber(newHeaderOffset, 4);
 }
 
 // The data of all resources: first the pictures, then the group of each.
@@ -27,27 +27,27 @@ std::vector<Bytes> ResourceData(std::span<const IconPicture> pictures) {
 }
 
 void WriteGroup(IntactFileWriter& file, const Bytes& group) {
-  const auto number = [&group](std::size_t place, std::size_t width) {
+  const auto number = [&group](std::size_t offset, std::size_t width) {
     std::uint64_t value = 0;
-    for (std::size_t i = 0; i < width; ++i) value |= std::to_integer<std::uint64_t>(group[place + i]) << (8 * i);
+    for (std::size_t i = 0; i < width; ++i) value |= std::to_integer<std::uint64_t>(group[offset + i]) << (8 * i);
     return value;
   };
   file.Number(number(0, 4), 4);
-  file.Marked(number(4, 2), 2);   // how many pictures
-  file.Number(number(6, 8), 8);   // of the picture: sides, colours, planes, bits
-  file.Marked(number(14, 4), 4);  // its size
-  file.Marked(number(18, 2), 2);  // its number
+  file.MarkedNumber(number(4, 2), 2);   // how many pictures
+  file.Number(number(6, 8), 8);         // of the picture: sides, colours, planes, bits
+  file.MarkedNumber(number(14, 4), 4);  // its size
+  file.MarkedNumber(number(18, 2), 2);  // its number
 }
 
 void WriteResourceData(IntactFileWriter& file, const std::vector<Bytes>& data, std::size_t index) {
   if (index >= data.size() / 2) return WriteGroup(file, data[index]);
-  const std::size_t start = file.Place();
+  const std::size_t start = file.Offset();
   file.Append(data[index]);
   file.MarkPicture(start);
 }
 
 constexpr std::uint32_t sectionAddress = 0x1000;
-constexpr std::size_t sectionPlace = 0x200;
+constexpr std::size_t sectionOffset = 0x200;
 
 // The resource tree: the types, the names of each type, the one language of each name, the data.
 class ResourceTree {
@@ -85,8 +85,8 @@ class ResourceTree {
   void Directory(std::uint32_t offset, std::uint32_t entries) {
     file_.Directory(subDirectory | offset);
     file_.Number(0, 12);
-    file_.Marked(0, 2);  // entries with a name
-    file_.Marked(entries, 2);
+    file_.MarkedNumber(0, 2);  // entries with a name
+    file_.MarkedNumber(entries, 2);
   }
   void Entry(std::uint32_t id, std::uint32_t leadingValue) {
     file_.Number(id, 4);
@@ -95,8 +95,8 @@ class ResourceTree {
   void WriteDataEntries(std::uint32_t offset) {
     for (const Bytes& data : data_) {
       const auto size = static_cast<std::uint32_t>(data.size());
-      file_.Marked(sectionAddress + offset, 4);
-      file_.Marked(size, 4);
+      file_.MarkedNumber(sectionAddress + offset, 4);
+      file_.MarkedNumber(size, 4);
       file_.Number(0, 8);
       offset += size;
     }
@@ -112,9 +112,9 @@ void WriteFileHeader(IntactFileWriter& file, bool wide) {
   constexpr std::uint32_t machine64 = 0x8664;
   file.Number(0x4550, 4);  // "PE"
   file.Number(wide ? machine64 : machine32, 2);
-  file.Marked(1, 2);  // sections
+  file.MarkedNumber(1, 2);  // sections
   file.Number(0, 12);
-  file.Marked(wide ? 240 : 224, 2);             // the size of the optional header
+  file.MarkedNumber(wide ? 240 : 224, 2);       // the size of the optional header
   file.Number(0x2002 | (wide ? 0 : 0x100), 2);  // a library that can be run, for 32 bits
 }
 
@@ -122,24 +122,24 @@ void WriteOptionalHeader(IntactFileWriter& file, bool wide, std::size_t treeSize
   const std::size_t word = wide ? 8 : 4;
   constexpr std::uint32_t directories = 16;
   constexpr std::uint32_t resourceDirectory = 2;
-  const std::size_t start = file.Place();
+  const std::size_t start = file.Offset();
   file.Number(wide ? 0x20B : 0x10B, 2);
   file.PadTo(start + (wide ? 24 : 28));
-  file.Number(0x400000, word);     // where it is loaded
-  file.Marked(sectionAddress, 4);  // alignment in memory
-  file.Marked(sectionPlace, 4);    // and in the file
+  file.Number(0x400000, word);           // where it is loaded
+  file.MarkedNumber(sectionAddress, 4);  // alignment in memory
+  file.MarkedNumber(sectionOffset, 4);   // and in the file
   file.PadTo(start + 48);
   file.Number(4, 4);  // the oldest system
   file.PadTo(start + 56);
-  file.Marked(sectionAddress + treeSize, 4);
-  file.Marked(sectionPlace, 4);  // headers
+  file.MarkedNumber(sectionAddress + treeSize, 4);
+  file.MarkedNumber(sectionOffset, 4);  // headers
   file.PadTo(start + 68);
   file.Number(2, 2);  // has windows
   file.PadTo(start + 72 + 4 * word + 4);
-  file.Marked(directories, 4);
+  file.MarkedNumber(directories, 4);
   file.Number(0, 8 * resourceDirectory);
-  file.Marked(sectionAddress, 4);
-  file.Marked(treeSize, 4);
+  file.MarkedNumber(sectionAddress, 4);
+  file.MarkedNumber(treeSize, 4);
   file.Number(0, 8);
   file.PadTo(start + (wide ? 240 : 224));
 }
@@ -148,10 +148,10 @@ void WriteSectionHeader(IntactFileWriter& file, std::size_t size) {
   constexpr std::uint64_t name = 0x637273722E;  // ".rsrc"
   constexpr std::uint32_t readableData = 0x40000040;
   file.Number(name, 8);
-  file.Marked(size, 4);
-  file.Marked(sectionAddress, 4);
-  file.Marked(size, 4);
-  file.Marked(sectionPlace, 4);
+  file.MarkedNumber(size, 4);
+  file.MarkedNumber(sectionAddress, 4);
+  file.MarkedNumber(size, 4);
+  file.MarkedNumber(sectionOffset, 4);
   file.Number(0, 12);
   file.Number(readableData, 4);
 }
@@ -159,7 +159,7 @@ void WriteSectionHeader(IntactFileWriter& file, std::size_t size) {
 std::size_t TreeSize(std::span<const IconPicture> pictures) {
   IntactFileWriter alone;
   ResourceTree(alone, pictures).Write();
-  return alone.Place();
+  return alone.Offset();
 }
 
 }  // namespace
@@ -172,7 +172,7 @@ IntactFile Library(Bitness bitness, std::span<const IconPicture> pictures) {
   WriteFileHeader(file, wide);
   WriteOptionalHeader(file, wide, treeSize);
   WriteSectionHeader(file, treeSize);
-  file.PadTo(sectionPlace);
+  file.PadTo(sectionOffset);
   ResourceTree(file, pictures).Write();
   return file.Take();
 }
@@ -190,36 +190,36 @@ IntactFile SixteenBitLibrary(std::span<const IconPicture> pictures) {
   IntactFileWriter file;
   WriteDosHeader(file);
   file.Number(0x454E, 2);  // "NE"
-  file.PadTo(newHeaderPlace + 0x24);
-  file.Marked(headerSize, 2);              // offset of the resource table
-  file.Marked(headerSize + tableSize, 2);  // and of what follows it
-  file.PadTo(newHeaderPlace + 0x36);
+  file.PadTo(newHeaderOffset + 0x24);
+  file.MarkedNumber(headerSize, 2);              // offset of the resource table
+  file.MarkedNumber(headerSize + tableSize, 2);  // and of what follows it
+  file.PadTo(newHeaderOffset + 0x36);
   file.Number(2, 1);  // for Windows
-  file.PadTo(newHeaderPlace + headerSize);
+  file.PadTo(newHeaderOffset + headerSize);
 
-  const auto aligned = [](std::size_t place) { return (place + (1U << shift) - 1) >> shift << shift; };
-  std::size_t place = aligned(newHeaderPlace + headerSize + tableSize);
-  file.Marked(shift, 2);
+  const auto aligned = [](std::size_t offset) { return (offset + (1U << shift) - 1) >> shift << shift; };
+  std::size_t offset = aligned(newHeaderOffset + headerSize + tableSize);
+  file.MarkedNumber(shift, 2);
   for (std::size_t index = 0; index < data.size(); ++index) {
     if (index % names == 0) {
-      file.Marked(idBit | (index == 0 ? iconType : iconGroupType), 2);
-      file.Marked(names, 2);
+      file.MarkedNumber(idBit | (index == 0 ? iconType : iconGroupType), 2);
+      file.MarkedNumber(names, 2);
       file.Number(0, 4);
     }
     const std::size_t size = aligned(data[index].size());
-    file.Marked(place >> shift, 2);
-    file.Marked(size >> shift, 2);
+    file.MarkedNumber(offset >> shift, 2);
+    file.MarkedNumber(size >> shift, 2);
     file.Number(0x1C30, 2);  // flags: may be moved and discarded, is read-only
-    file.Marked(idBit | (index % names + 1), 2);
+    file.MarkedNumber(idBit | (index % names + 1), 2);
     file.Number(0, 4);
-    place += size;
+    offset += size;
   }
-  file.Marked(0, 2);
+  file.MarkedNumber(0, 2);
   for (std::size_t index = 0; index < data.size(); ++index) {
-    file.PadTo(aligned(file.Place()));
+    file.PadTo(aligned(file.Offset()));
     WriteResourceData(file, data, index);
   }
-  file.PadTo(aligned(file.Place()));
+  file.PadTo(aligned(file.Offset()));
   return file.Take();
 }
 

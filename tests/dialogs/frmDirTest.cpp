@@ -46,7 +46,7 @@ class frmDirTest : public ::testing::Test {
   Application application{GetModuleHandleW(nullptr)};
   ProgramState state;
   HWND owner = nullptr;
-  std::string firstFolder = "C:\\work";
+  std::string initialFolder = "C:\\work";
   std::map<std::string, std::vector<std::string>> subFolders;
   std::vector<std::string> made;  // the folders that the new-folder dialog asked to make
   bool canMake = true;
@@ -62,7 +62,7 @@ class frmDirTest : public ::testing::Test {
                  subFolders[ParentFolder(path)].push_back(path);
                  return path;
                },
-               [this] { return firstFolder; }}};
+               [this] { return initialFolder; }}};
 };
 
 TEST_F(frmDirTest, OpensAtTheMainWindowsFolder) {
@@ -226,7 +226,7 @@ TEST_F(frmDirTest, TakesAnOpenNewFolderDialogWithItWhereItIsClosed) {
 }
 
 TEST_F(frmDirTest, DoublesNoBackslashBehindADriveRoot) {
-  firstFolder = "C:\\";
+  initialFolder = "C:\\";
   OnDir([](HWND window) { PostMessageW(window, WM_COMMAND, frmDir_cmdCreate, 0); });
   OnCreate(Press(frmDirCreate_CmdOk));
   OnDir(Press(frmDir_CmdOk));

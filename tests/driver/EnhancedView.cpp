@@ -17,10 +17,10 @@ void EnhancedView::Exit() const {
   WaitUntilGone();
 }
 
-RECT EnhancedView::PicturePlaceInWindow() const {
-  RECT place = PicturePlace();
-  MapWindowPoints(nullptr, window_.Window(), reinterpret_cast<POINT*>(&place), 2);
-  return place;
+RECT EnhancedView::PictureBoundsInWindow() const {
+  RECT bounds = PictureBounds();
+  MapWindowPoints(nullptr, window_.Window(), reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
 }
 
 void EnhancedView::Press(int button, int times) const {
@@ -28,7 +28,7 @@ void EnhancedView::Press(int button, int times) const {
 }
 
 void EnhancedView::Click(int button) const {
-  end_to_end::Click(MiddleOf(Toolbar().ButtonPlace(button)));
+  end_to_end::Click(MiddleOf(Toolbar().ButtonBounds(button)));
 }
 
 void EnhancedView::WaitUntilGone() const {

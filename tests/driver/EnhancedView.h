@@ -33,8 +33,8 @@ class EnhancedView {
   bool ShowIsOn() const { return CanPress(frmBit_tlb_control_Stop) && !CanPress(frmBit_tlb_control_Start); }
 
   // The position of the enlarged picture on the screen, and in the window.
-  RECT PicturePlace() const { return window_.Child(frmBit_img).Place(); }
-  RECT PicturePlaceInWindow() const;
+  RECT PictureBounds() const { return window_.Child(frmBit_img).Place(); }
+  RECT PictureBoundsInWindow() const;
 
   // Sends a toolbar button's command, and returns when it has been handled.
   void Press(int button, int times = 1) const;

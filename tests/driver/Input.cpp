@@ -52,7 +52,7 @@ std::string KeyName(WORD key) {
   throw std::invalid_argument("no name for key " + std::to_string(key));
 }
 
-std::string Held(const std::string& actions, HeldKeys keys) {
+std::string HoldKeys(const std::string& actions, HeldKeys keys) {
   std::string down;
   std::string up;
   for (const WORD key : keys) {
@@ -77,29 +77,29 @@ exit 1)sh")
              .exitCode == 0;
 }
 
-std::string MoveTo(POINT place) {
-  return "mousemove " + std::to_string(place.x) + " " + std::to_string(place.y) + " ";
+std::string MoveTo(POINT point) {
+  return "mousemove " + std::to_string(point.x) + " " + std::to_string(point.y) + " ";
 }
 
 // The last press of the left button.
 struct Press {
-  POINT place;
+  POINT point;
   std::chrono::steady_clock::time_point time;
 };
 Press lastPress{};
 
-// Waits as long as the system would treat a press at that place as the second half of a double click.
-void WaitOutDoubleClick(POINT place) {
-  if (std::abs(place.x - lastPress.place.x) > GetSystemMetrics(SM_CXDOUBLECLK)) return;
-  if (std::abs(place.y - lastPress.place.y) > GetSystemMetrics(SM_CYDOUBLECLK)) return;
+// Waits as long as the system would treat a press at that point as the second half of a double click.
+void WaitOutDoubleClick(POINT point) {
+  if (std::abs(point.x - lastPress.point.x) > GetSystemMetrics(SM_CXDOUBLECLK)) return;
+  if (std::abs(point.y - lastPress.point.y) > GetSystemMetrics(SM_CYDOUBLECLK)) return;
   constexpr std::chrono::milliseconds clockStep{20};
   std::this_thread::sleep_until(lastPress.time + std::chrono::milliseconds(GetDoubleClickTime()) + clockStep);
 }
 
-void PressLeft(POINT place, const std::string& press, HeldKeys held) {
-  WaitOutDoubleClick(place);
-  Do(MoveTo(place) + Held(press, held));
-  lastPress = {.place = place, .time = std::chrono::steady_clock::now()};
+void PressLeft(POINT point, const std::string& press, HeldKeys held) {
+  WaitOutDoubleClick(point);
+  Do(MoveTo(point) + HoldKeys(press, held));
+  lastPress = {.point = point, .time = std::chrono::steady_clock::now()};
 }
 
 void SendUnit(WORD unit, DWORD flags) {
@@ -112,48 +112,48 @@ void SendUnit(WORD unit, DWORD flags) {
 
 }  // namespace
 
-void MovePointer(POINT place) {
-  Do(MoveTo(place));
+void MovePointer(POINT point) {
+  Do(MoveTo(point));
 }
 
-void Click(POINT place, HeldKeys held) {
-  PressLeft(place, "click 1", held);
+void Click(POINT point, HeldKeys held) {
+  PressLeft(point, "click 1", held);
 }
 
-void DoubleClick(POINT place, HeldKeys held) {
-  PressLeft(place, "click --repeat 2 --delay 20 1", held);
+void DoubleClick(POINT point, HeldKeys held) {
+  PressLeft(point, "click --repeat 2 --delay 20 1", held);
 }
 
-void DoubleClickAndHold(POINT place) {
-  PressLeft(place, "click --delay 20 1 mousedown 1", {});
+void DoubleClickAndHold(POINT point) {
+  PressLeft(point, "click --delay 20 1 mousedown 1", {});
 }
 
-void ReleaseLeft(POINT place) {
-  Do(MoveTo(place) + "mouseup 1");
+void ReleaseLeft(POINT point) {
+  Do(MoveTo(point) + "mouseup 1");
 }
 
-void RightClick(POINT place) {
-  Do(MoveTo(place) + "click 3");
+void RightClick(POINT point) {
+  Do(MoveTo(point) + "click 3");
 }
 
 void Drag(POINT from, POINT to) {
   WaitOutDoubleClick(from);
   Do(MoveTo(from) + "mousedown 1 " + MoveTo(to) + "mouseup 1");
-  lastPress = {.place = from, .time = std::chrono::steady_clock::now()};
+  lastPress = {.point = from, .time = std::chrono::steady_clock::now()};
 }
 
 void DragAndHold(POINT from, POINT to) {
   WaitOutDoubleClick(from);
   Do(MoveTo(from) + "mousedown 1 " + MoveTo(to));
-  lastPress = {.place = from, .time = std::chrono::steady_clock::now()};
+  lastPress = {.point = from, .time = std::chrono::steady_clock::now()};
 }
 
-void TurnWheel(POINT place, int notches) {
-  Do(MoveTo(place) + "click --repeat " + std::to_string(std::abs(notches)) + " --delay 1 " + (notches > 0 ? "4" : "5"));
+void TurnWheel(POINT point, int notches) {
+  Do(MoveTo(point) + "click --repeat " + std::to_string(std::abs(notches)) + " --delay 1 " + (notches > 0 ? "4" : "5"));
 }
 
-POINT MiddleOf(const RECT& place) {
-  return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+POINT MiddleOf(const RECT& bounds) {
+  return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
 }
 
 void PressKey(WORD key, HeldKeys held, int times) {
@@ -162,7 +162,7 @@ void PressKey(WORD key, HeldKeys held, int times) {
   if (!Eventually(KeysGoToFront)) throw std::runtime_error("the keys do not go to the window in front");
   std::string presses = "key --delay 1";
   for (int i = 0; i < times; ++i) presses += " " + KeyName(key);
-  Do(Held(presses, held));
+  Do(HoldKeys(presses, held));
 }
 
 void TypeText(const std::string& text) {

@@ -13,22 +13,22 @@ namespace tarvik::end_to_end {
 // Keys held down while the mouse or another key is used: VK_CONTROL, VK_SHIFT, VK_MENU.
 using HeldKeys = std::initializer_list<WORD>;
 
-void MovePointer(POINT place);
-// A separate click or double click: if it follows another one at the same place, it waits until the two no longer count
+void MovePointer(POINT point);
+// A separate click or double click: if it follows another one at the same point, it waits until the two no longer count
 // as one double click.
-void Click(POINT place, HeldKeys held = {});
-void DoubleClick(POINT place, HeldKeys held = {});
+void Click(POINT point, HeldKeys held = {});
+void DoubleClick(POINT point, HeldKeys held = {});
 // A double click whose second press is held until ReleaseLeft, wherever the pointer is by then.
-void DoubleClickAndHold(POINT place);
-void ReleaseLeft(POINT place);
-void RightClick(POINT place);
-// Presses the left button at one place and releases it at the other.
+void DoubleClickAndHold(POINT point);
+void ReleaseLeft(POINT point);
+void RightClick(POINT point);
+// Presses the left button at one point and releases it at the other.
 void Drag(POINT from, POINT to);
-// Presses the left button at one place and moves to the other; the button stays down until ReleaseLeft.
+// Presses the left button at one point and moves to the other; the button stays down until ReleaseLeft.
 void DragAndHold(POINT from, POINT to);
 // Turns the wheel; positive notches turn it away from the user.
-void TurnWheel(POINT place, int notches);
-POINT MiddleOf(const RECT& place);
+void TurnWheel(POINT point, int notches);
+POINT MiddleOf(const RECT& bounds);
 
 // Presses and releases a key (a VK_ code) the given number of times.
 void PressKey(WORD key, HeldKeys held = {}, int times = 1);

@@ -41,8 +41,8 @@ std::vector<std::uint32_t> Pixels(const std::string& bytes) {
 
 std::map<std::string, SeenFile> SeeFiles(const std::string& folder) {
   const support::TemporaryFolder seen;
-  const UnixAnswer answer = RunUnix("seen=" + UnixQuoted(ToWide(seen.Path())) + "\ncd " + UnixQuoted(ToWide(folder)) +
-                                    " || exit\n" + readEach);
+  const UnixAnswer answer = RunUnix("seen=" + QuoteForUnix(ToWide(seen.Path())) + "\ncd " +
+                                    QuoteForUnix(ToWide(folder)) + " || exit\n" + readEach);
   if (answer.exitCode != 0) throw std::runtime_error("the files cannot be read: " + answer.output);
   std::map<std::string, SeenFile> files;
   std::size_t start = 0;

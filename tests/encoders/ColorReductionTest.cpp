@@ -43,7 +43,7 @@ TEST(ColorReduction, MovesColoursToWhereTheyFitBestAfterTheCuts) {
   EXPECT_THAT(ReduceColors(colors, 3).palette, UnorderedElementsAre(1, 13, 28));
 }
 
-TEST(ColorReduction, GivesEachColourThePlaceOfTheNearest) {
+TEST(ColorReduction, GivesEachColourTheIndexOfTheNearest) {
   std::mt19937 random(2);
   std::vector<CountedColor> colors;
   for (Color i = 0; i < 1000; ++i) colors.push_back({static_cast<Color>(random() % 0x1000000), 1 + i % 7});

@@ -170,20 +170,21 @@ std::optional<GifContent> DecodeGif(std::span<const std::byte> file) {
   const std::unique_ptr<GifFileType, CloseGif> gif(DGifOpen(&rest, ReadGif, nullptr));
   if (gif == nullptr || DGifSlurp(gif.get()) != GIF_OK || gif->ImageCount != 1 || !rest.empty()) return std::nullopt;
   const SavedImage& image = gif->SavedImages[0];
-  const GifImageDesc& place = image.ImageDesc;
-  const bool fillsScreen = place.Left == 0 && place.Top == 0 && place.Width == gif->SWidth &&
-                           place.Height == gif->SHeight && place.ColorMap == nullptr && gif->SColorMap != nullptr;
+  const GifImageDesc& descriptor = image.ImageDesc;
+  const bool fillsScreen = descriptor.Left == 0 && descriptor.Top == 0 && descriptor.Width == gif->SWidth &&
+                           descriptor.Height == gif->SHeight && descriptor.ColorMap == nullptr &&
+                           gif->SColorMap != nullptr;
   if (!fillsScreen) return std::nullopt;
   GifContent content;
   // The library always reports 87a for a file that is read through a callback.
   for (const std::byte byte : file.subspan(3, 3)) content.version.push_back(static_cast<char>(byte));
-  content.width = place.Width;
-  content.height = place.Height;
+  content.width = descriptor.Width;
+  content.height = descriptor.Height;
   for (const GifColorType& color :
        std::span(gif->SColorMap->Colors, static_cast<std::size_t>(gif->SColorMap->ColorCount)))
     content.palette.push_back(color.Red + 256U * color.Green + 65536U * color.Blue);
-  const auto pixels =
-      std::span(image.RasterBits, static_cast<std::size_t>(place.Width) * static_cast<std::size_t>(place.Height));
+  const auto pixels = std::span(
+      image.RasterBits, static_cast<std::size_t>(descriptor.Width) * static_cast<std::size_t>(descriptor.Height));
   content.pixels.assign(pixels.begin(), pixels.end());
   GraphicsControlBlock control{};
   if (DGifSavedExtensionToGCB(gif.get(), 0, &control) == GIF_OK && control.TransparentColor != NO_TRANSPARENT_COLOR)

@@ -5,17 +5,17 @@
 
 namespace tarvik::support {
 
-inline int ByteAt(const std::string& bytes, std::size_t place) {
-  return static_cast<std::uint8_t>(bytes.at(place));
+inline int ByteAt(const std::string& bytes, std::size_t offset) {
+  return static_cast<std::uint8_t>(bytes.at(offset));
 }
 
 // The start of a JPEG file's segment with that marker: the offset of its first byte after the length. Nothing if there
 // is none.
 inline std::size_t SegmentAt(const std::string& jpeg, int marker) {
-  std::size_t place = 2;
-  while (place + 4 <= jpeg.size()) {
-    if (ByteAt(jpeg, place + 1) == marker) return place + 4;
-    place += 2 + static_cast<std::size_t>(ByteAt(jpeg, place + 2) * 256 + ByteAt(jpeg, place + 3));
+  std::size_t offset = 2;
+  while (offset + 4 <= jpeg.size()) {
+    if (ByteAt(jpeg, offset + 1) == marker) return offset + 4;
+    offset += 2 + static_cast<std::size_t>(ByteAt(jpeg, offset + 2) * 256 + ByteAt(jpeg, offset + 3));
   }
   return std::string::npos;
 }
@@ -28,9 +28,9 @@ inline int LuminanceFactorsOf(const std::string& jpeg) {
   return ByteAt(jpeg, SegmentAt(jpeg, 0xC0) + 7);
 }
 inline std::string CommentOf(const std::string& jpeg) {
-  const std::size_t place = SegmentAt(jpeg, 0xFE);
-  if (place == std::string::npos) return {};
-  return jpeg.substr(place, static_cast<std::size_t>(ByteAt(jpeg, place - 2) * 256 + ByteAt(jpeg, place - 1)) - 2);
+  const std::size_t offset = SegmentAt(jpeg, 0xFE);
+  if (offset == std::string::npos) return {};
+  return jpeg.substr(offset, static_cast<std::size_t>(ByteAt(jpeg, offset - 2) * 256 + ByteAt(jpeg, offset - 1)) - 2);
 }
 // The first entry of the luminance quantisation table: the higher, the lower the quality.
 inline int FirstQuantiser(const std::string& jpeg) {

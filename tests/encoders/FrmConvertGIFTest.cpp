@@ -130,12 +130,12 @@ TEST_F(FrmConvertGIFTest, TellsTheSizeOfTheFileInItsCaption) {
 
 // How many pixels of a control are clearly red.
 int CountRedPixels(HWND control) {
-  RECT place;
-  GetClientRect(control, &place);
+  RECT bounds;
+  GetClientRect(control, &bounds);
   const WindowDc dc(control);
   int count = 0;
-  for (int y = 0; y < place.bottom; ++y) {
-    for (int x = 0; x < place.right; ++x) {
+  for (int y = 0; y < bounds.bottom; ++y) {
+    for (int x = 0; x < bounds.right; ++x) {
       const COLORREF color = GetPixel(dc.get(), x, y);
       count += GetRValue(color) > GetGValue(color) + 64 && GetRValue(color) > GetBValue(color) + 64 ? 1 : 0;
     }

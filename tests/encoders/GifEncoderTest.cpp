@@ -26,7 +26,7 @@ using testing::Optional;
 
 const std::string path = "C:\\图标\\Images 1.gif";
 
-GifContent Written(const PixelView& picture, const GifSettings& settings) {
+GifContent WriteAndDecode(const PixelView& picture, const GifSettings& settings) {
   MemorySink sink;
   EXPECT_TRUE(GifEncoder(sink).WriteFile(picture, path, settings));
   const auto content = DecodeGif(sink.Bytes());
@@ -89,9 +89,9 @@ TEST(GifEncoder, SaysBeforeTheImageWhichColourIsSeenThroughAndNothingElse) {
                                           std::byte{0}, std::byte{0}, std::byte{0}));
 }
 
-TEST(GifEncoder, UsesEveryPlaceOfThePaletteBesideTheTransparentColour) {
+TEST(GifEncoder, UsesEveryIndexOfThePaletteBesideTheTransparentColour) {
   const TestRaster picture = ManyColors(64, 4000);
-  const GifContent content = Written(picture, Transparent(picture.Pixel(0, 0)));
+  const GifContent content = WriteAndDecode(picture, Transparent(picture.Pixel(0, 0)));
   std::set<int> used;
   for (int y = 0; y < 64; ++y)
     for (int x = 0; x < 64; ++x) used.insert(content.Index(x, y));
@@ -103,7 +103,7 @@ TEST(GifEncoder, WritesOneImageOfThePicturesSize) {
                                                   {17, 5}, {300, 2}, {65535, 1}, {1, 65535}};
   for (const auto& [width, height] : sizes) {
     const TestRaster picture(width, height, 0x123456);
-    const GifContent content = Written(picture, best);
+    const GifContent content = WriteAndDecode(picture, best);
     EXPECT_EQ(content.width, width);
     EXPECT_EQ(content.height, height);
     EXPECT_EQ(ErrorOf(content, picture), 0);
@@ -114,7 +114,7 @@ TEST(GifEncoder, KeepsUpTo256ColoursExactly) {
   for (const int colors : {1, 2, 3, 4, 5, 16, 17, 128, 129, 255, 256}) {
     SCOPED_TRACE(colors);
     const TestRaster picture = ManyColors(64, colors);
-    const GifContent content = Written(picture, best);
+    const GifContent content = WriteAndDecode(picture, best);
     EXPECT_EQ(ErrorOf(content, picture), 0);
     EXPECT_EQ(content.transparentIndex, std::nullopt);
     EXPECT_EQ(content.version, "87a");
@@ -124,14 +124,14 @@ TEST(GifEncoder, KeepsUpTo256ColoursExactly) {
 TEST(GifEncoder, KeepsColoursThatDifferByOneStepExactly) {
   TestRaster picture(16, 16);
   for (int i = 0; i < 256; ++i) picture.Set(i % 16, i / 16, 0x7F7F00U + static_cast<Color>(i));
-  EXPECT_EQ(ErrorOf(Written(picture, best), picture), 0);
+  EXPECT_EQ(ErrorOf(WriteAndDecode(picture, best), picture), 0);
 }
 
 TEST(GifEncoder, MakesTheColourMapNoLargerThanThePaletteNeeds) {
   const std::vector<std::pair<int, std::size_t>> rows = {{1, 2},   {2, 2},     {3, 4},    {16, 16},
                                                          {17, 32}, {129, 256}, {256, 256}};
   for (const auto& [colors, entries] : rows)
-    EXPECT_EQ(Written(ManyColors(64, colors), best).palette.size(), entries) << colors;
+    EXPECT_EQ(WriteAndDecode(ManyColors(64, colors), best).palette.size(), entries) << colors;
 }
 
 TEST(GifEncoder, GivesTheTransparentColourAnIndexOfItsOwnAndKeepsTheOtherColoursExactly) {
@@ -139,7 +139,7 @@ TEST(GifEncoder, GivesTheTransparentColourAnIndexOfItsOwnAndKeepsTheOtherColours
     SCOPED_TRACE(colors);
     const TestRaster picture = ManyColors(64, colors);
     const Color corner = picture.Pixel(0, 0);
-    const GifContent content = Written(picture, Transparent(corner));
+    const GifContent content = WriteAndDecode(picture, Transparent(corner));
     EXPECT_EQ(content.version, "89a");
     EXPECT_EQ(ErrorOf(content, picture), 0);
     ExpectSeeThroughExactly(content, picture, corner);
@@ -152,7 +152,7 @@ TEST(GifEncoder, KeepsTheTransparentIndexUniqueWhereColoursMustBeMerged) {
     const TestRaster picture = ManyColors(64, colors);
     // Once the first colour of the picture, once one in its middle.
     for (const Color color : {picture.Pixel(0, 0), picture.Pixel(100, 1)}) {
-      const GifContent content = Written(picture, Transparent(color));
+      const GifContent content = WriteAndDecode(picture, Transparent(color));
       ExpectSeeThroughExactly(content, picture, color);
       EXPECT_EQ(content.palette.at(static_cast<std::size_t>(*content.transparentIndex)), color);
     }
@@ -164,23 +164,23 @@ TEST(GifEncoder, MakesNoNeighbourOfTheTransparentColourSeeThrough) {
   constexpr Color corner = 0xC0C0C0;
   picture.Set(0, 0, corner);
   for (int x = 1; x < 64; ++x) picture.Set(x, 0, corner + static_cast<Color>(x % 2 == 0 ? 1 : 0x000100));
-  ExpectSeeThroughExactly(Written(picture, Transparent(corner)), picture, corner);
-  ExpectSeeThroughExactly(Written(picture, Transparent(corner, GifPalette::Web)), picture, corner);
+  ExpectSeeThroughExactly(WriteAndDecode(picture, Transparent(corner)), picture, corner);
+  ExpectSeeThroughExactly(WriteAndDecode(picture, Transparent(corner, GifPalette::Web)), picture, corner);
 }
 
 TEST(GifEncoder, SpendsNoIndexOnATransparentColourThatThePictureLacks) {
   const TestRaster picture = ManyColors(64, 256);
   constexpr Color absent = 0xFFFFFF;
-  const GifContent content = Written(picture, Transparent(absent));
+  const GifContent content = WriteAndDecode(picture, Transparent(absent));
   EXPECT_EQ(content.transparentIndex, std::nullopt);
   EXPECT_EQ(ErrorOf(content, picture), 0);
-  EXPECT_EQ(Written(picture, Transparent(absent, GifPalette::Web)).transparentIndex, std::nullopt);
+  EXPECT_EQ(WriteAndDecode(picture, Transparent(absent, GifPalette::Web)).transparentIndex, std::nullopt);
 }
 
 TEST(GifEncoder, IgnoresTheTransparentColourWhereTransparencyIsOff) {
   const TestRaster picture = Gradient(16);
   const GifSettings settings{.transparent = false, .transparentColor = picture.Pixel(0, 0)};
-  EXPECT_EQ(Written(picture, settings).transparentIndex, std::nullopt);
+  EXPECT_EQ(WriteAndDecode(picture, settings).transparentIndex, std::nullopt);
 }
 
 TEST(GifEncoder, LosesNextToNothingOnOneColourTooMany) {
@@ -191,14 +191,14 @@ TEST(GifEncoder, LosesNextToNothingOnOneColourTooMany) {
     picture.Set(i % 64, i / 64, static_cast<Color>(color % 16 * 17 + 256 * (color / 16 * 17)));
   }
   picture.Set(63, 63, 0x010000U + picture.Pixel(63, 63));
-  const GifContent content = Written(picture, best);
+  const GifContent content = WriteAndDecode(picture, best);
   // The extra colour is one pixel, and one step away from its neighbour.
   EXPECT_LE(ErrorOf(content, picture), 1.0 / (3 * 4096));
 }
 
 TEST(GifEncoder, GivesEachPixelTheNearestColourOfItsPalette) {
   for (const TestRaster& picture : {Gradient(64), Noise(48, 9), Photo(64, 2)}) {
-    const GifContent content = Written(picture, best);
+    const GifContent content = WriteAndDecode(picture, best);
     for (int y = 0; y < picture.Height(); ++y) {
       for (int x = 0; x < picture.Width(); ++x) {
         int nearest = std::numeric_limits<int>::max();
@@ -213,11 +213,12 @@ TEST(GifEncoder, GivesEachPixelTheNearestColourOfItsPalette) {
 TEST(GifEncoder, ComesNearerToThePictureThanTheWebPaletteDoes) {
   for (const int size : {32, 48, 64})
     for (const TestRaster& picture : {Gradient(size), Noise(size, 6), Photo(size, 8)})
-      EXPECT_LT(1.5 * ErrorOf(Written(picture, best), picture), ErrorOf(Written(picture, web), picture)) << size;
+      EXPECT_LT(1.5 * ErrorOf(WriteAndDecode(picture, best), picture), ErrorOf(WriteAndDecode(picture, web), picture))
+          << size;
 }
 
 TEST(GifEncoder, WritesTheWholeWebPaletteWithItsRedChangingSlowest) {
-  const GifContent content = Written(Gradient(16), web);
+  const GifContent content = WriteAndDecode(Gradient(16), web);
   ASSERT_EQ(content.palette.size(), 256U);
   EXPECT_EQ(content.palette[0], 0x000000U);
   EXPECT_EQ(content.palette[1], 0x330000U);
@@ -232,7 +233,7 @@ TEST(GifEncoder, DrawsEachPixelInTheNearestWebColour) {
   // Around every border between two levels: 25 is nearer to 0, 26 to 51, and so on.
   for (int channel = 0; channel < 256; ++channel) {
     const Color color = static_cast<Color>(channel) * 0x010101U;
-    const GifContent content = Written(TestRaster(1, 1, color), web);
+    const GifContent content = WriteAndDecode(TestRaster(1, 1, color), web);
     const Color drawn = content.Pixel(0, 0);
     EXPECT_EQ(RedOf(drawn) % 51, 0);
     EXPECT_LE(std::abs(RedOf(drawn) - channel), 25);
@@ -242,7 +243,7 @@ TEST(GifEncoder, DrawsEachPixelInTheNearestWebColour) {
 }
 
 TEST(GifEncoder, NearsEachChannelToTheWebPaletteByItself) {
-  const GifContent content = Written(TestRaster(4, 4, 0x1980E6), web);
+  const GifContent content = WriteAndDecode(TestRaster(4, 4, 0x1980E6), web);
   EXPECT_EQ(content.Pixel(2, 2), 0x0099FFU);
 }
 
@@ -252,7 +253,7 @@ TEST(GifEncoder, AddsTheTransparentColourToTheWebPalette) {
   TestRaster picture = Gradient(32);
   picture.Set(0, 0, nearlyRed);
   picture.Set(1, 0, red);
-  const GifContent content = Written(picture, Transparent(nearlyRed, GifPalette::Web));
+  const GifContent content = WriteAndDecode(picture, Transparent(nearlyRed, GifPalette::Web));
   EXPECT_THAT(content.transparentIndex, Optional(216));
   ExpectSeeThroughExactly(content, picture, nearlyRed);
   EXPECT_EQ(content.Pixel(1, 0), red);

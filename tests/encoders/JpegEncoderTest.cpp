@@ -173,17 +173,17 @@ std::array<int, 64> Scaled(const std::array<int, 64>& table, int quality) {
 
 // The entries in file order: zigzag, diagonal by diagonal, up and down in turn.
 std::array<int, 64> Zigzag(const std::array<int, 64>& rows) {
-  std::array<int, 64> places{};
-  std::iota(places.begin(), places.end(), 0);
-  const auto key = [](int place) {
-    const int row = place / 8;
-    const int column = place % 8;
+  std::array<int, 64> indexes{};
+  std::iota(indexes.begin(), indexes.end(), 0);
+  const auto key = [](int index) {
+    const int row = index / 8;
+    const int column = index % 8;
     const int diagonal = row + column;
     return std::pair(diagonal, diagonal % 2 == 0 ? column : row);
   };
-  std::ranges::sort(places, {}, key);
+  std::ranges::sort(indexes, {}, key);
   std::array<int, 64> ordered{};
-  std::ranges::transform(places, ordered.begin(), [&](int place) { return rows[static_cast<std::size_t>(place)]; });
+  std::ranges::transform(indexes, ordered.begin(), [&](int index) { return rows[static_cast<std::size_t>(index)]; });
   return ordered;
 }
 

@@ -285,11 +285,11 @@ TEST(fComment, HasTheSizeOf4800By3460Twips) {
   state.CurrentLanguage = "CHT";
   fComment form(application, state);
   form.Load();
-  RECT place;
-  GetWindowRect(form.Window(), &place);
+  RECT bounds;
+  GetWindowRect(form.Window(), &bounds);
   const int dots = 96;
-  EXPECT_NEAR(place.right - place.left, 4800 * dots / 1440.0, 0.5);
-  EXPECT_NEAR(place.bottom - place.top, 3460 * dots / 1440.0, 0.7);
+  EXPECT_NEAR(bounds.right - bounds.left, 4800 * dots / 1440.0, 0.5);
+  EXPECT_NEAR(bounds.bottom - bounds.top, 3460 * dots / 1440.0, 0.7);
   EXPECT_EQ(TextOf(form.Window()), "內容");
   EXPECT_EQ(form.ItemText(fComment_cmdFinish), "確定(&O)");
 }

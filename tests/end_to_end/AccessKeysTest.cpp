@@ -43,7 +43,7 @@ std::optional<wchar_t> LetterOf(const std::string& text) {
 class AccessKeys : public EndToEnd, public ::testing::WithParamInterface<Row> {
  protected:
   struct Letters {
-    std::map<wchar_t, int> menus;     // the menus that can be opened, by their places in the bar
+    std::map<wchar_t, int> menus;     // the menus that can be opened, by their positions in the bar
     std::map<wchar_t, int> controls;  // those that can be used
   };
 
@@ -61,7 +61,7 @@ class AccessKeys : public EndToEnd, public ::testing::WithParamInterface<Row> {
     if (GetParam().state == State::WithTheList) program_.Item(FrmFindIcon_OptView1).Send(BM_CLICK);
   }
 
-  Letters Underlined() const {
+  Letters UnderlinedLetters() const {
     Letters letters;
     // A menu of another process cannot be read, so its letters are listed here.
     const std::wstring_view language = ToWide(GetParam().language) == L"CHS" || ToWide(GetParam().language) == L"CHT"
@@ -69,8 +69,8 @@ class AccessKeys : public EndToEnd, public ::testing::WithParamInterface<Row> {
                                            : std::wstring_view(L"FEOVH");
     // After a search without icons File and Edit are disabled.
     const std::size_t first = GetParam().state == State::AfterASearchWithoutIcons ? 2 : 0;
-    for (std::size_t place = first; place < language.size(); ++place)
-      letters.menus[language[place]] = static_cast<int>(place);
+    for (std::size_t position = first; position < language.size(); ++position)
+      letters.menus[language[position]] = static_cast<int>(position);
     for (const Control control : ControlsWithATitle()) {
       if (const auto letter = LetterOf(control.Text()); letter && control.IsEnabled() && control.IsVisible())
         letters.controls[*letter] = GetDlgCtrlID(control.Window());
@@ -94,16 +94,16 @@ class AccessKeys : public EndToEnd, public ::testing::WithParamInterface<Row> {
 
   void Press(wchar_t letter) const { PressKey(static_cast<WORD>(letter), {VK_MENU}); }
 
-  void ExpectMenu(wchar_t letter, int place) {
+  void ExpectMenu(wchar_t letter, int position) {
     Press(letter);
     std::optional<Control> menu;
     ASSERT_TRUE(Eventually([&] { return (menu = program_.OpenMenu()).has_value(); })) << static_cast<char>(letter);
-    lefts_[place] = menu->Place().left;
+    lefts_[position] = menu->Place().left;
     PressKey(VK_ESCAPE, {}, 2);
     ASSERT_TRUE(Eventually([&] { return !program_.OpenMenu(); }));
   }
 
-  std::map<int, LONG> lefts_;  // the left edge on the screen of each opened menu, by its place in the bar
+  std::map<int, LONG> lefts_;  // the left edge on the screen of each opened menu, by its position in the bar
 
   // What a control's letter does: a label's moves the focus to its box, a button's presses the button.
   void ExpectUse(int control) {
@@ -123,9 +123,9 @@ class AccessKeys : public EndToEnd, public ::testing::WithParamInterface<Row> {
 TEST_P(AccessKeys, OpenTheirMenuOrUseTheirControl) {
   const LanguageValue language(GetParam().language);
   Prepare();
-  const Letters letters = Underlined();
+  const Letters letters = UnderlinedLetters();
   EXPECT_FALSE(letters.controls.empty());
-  for (const auto& [letter, place] : letters.menus) ExpectMenu(letter, place);
+  for (const auto& [letter, position] : letters.menus) ExpectMenu(letter, position);
   ASSERT_TRUE(program_.IsRunning());
   // Each opened below its own place of the bar.
   for (auto next = lefts_.begin(), former = next++; next != lefts_.end(); former = next++)

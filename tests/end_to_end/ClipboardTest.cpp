@@ -18,7 +18,7 @@ using ::testing::ElementsAre;
 class Copy : public Saving {
  protected:
   // The picture on the clipboard, read as another program pastes it: the pixels of a composed icon.
-  static Pixels Pasted() {
+  static Pixels PastePixels() {
     Pixels pixels;
     for (const Color color : Paste().pixels) pixels.push_back(0xFF000000U | color);
     return pixels;
@@ -34,7 +34,7 @@ TEST_F(Copy, AnotherProgramPastesTheClickedIcon) {
     ExpectCurrent(entry);
     found_.status = Status();
     program_.Command(FrmFindIcon_mnuCopy);
-    EXPECT_TRUE(Eventually([&] { return Pasted() == ComposedPixels(entry); })) << entry;
+    EXPECT_TRUE(Eventually([&] { return PastePixels() == ComposedPixels(entry); })) << entry;
     ExpectAsFound();
   }
 }
@@ -64,7 +64,7 @@ TEST_F(Copy, PixelsThatInvertDoSoAtEverySize) {
         expected.push_back(0xFF000000U | color);
       }
     }
-    EXPECT_TRUE(Eventually([&] { return Pasted() == expected; }, shortly)) << size;
+    EXPECT_TRUE(Eventually([&] { return PastePixels() == expected; }, shortly)) << size;
   }
 }
 
@@ -74,7 +74,7 @@ TEST_F(Copy, WhatIsCopiedOutlivesTheProgram) {
   program_.Command(FrmFindIcon_mnuCopy);
   ExpectAsFound();
   EXPECT_EQ(program_.Close(), 0U);
-  EXPECT_EQ(Pasted(), ComposedPixels(0));
+  EXPECT_EQ(PastePixels(), ComposedPixels(0));
 }
 
 TEST_F(Copy, AHeldClipboardIsToldAndServesLater) {
@@ -91,9 +91,9 @@ TEST_F(Copy, AHeldClipboardIsToldAndServesLater) {
   DestroyWindow(holder);
   EXPECT_THAT(messages, ElementsAre("The icon was not copied: another program is using the clipboard."));
   ExpectAsFound();
-  EXPECT_THAT(Pasted(), ElementsAre());
+  EXPECT_THAT(PastePixels(), ElementsAre());
   program_.Command(FrmFindIcon_mnuCopy);
-  EXPECT_TRUE(Eventually([&] { return Pasted() == ComposedPixels(0); }));
+  EXPECT_TRUE(Eventually([&] { return PastePixels() == ComposedPixels(0); }));
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ using ::testing::ElementsAre;
 class Share : NonCopyable {
  public:
   explicit Share(const std::string& folder) {
-    Run("mkdir -p " + shares + "/tarvik && ln -s " + UnixQuoted(ToWide(folder)) + " " + shares + "/tarvik/icons");
+    Run("mkdir -p " + shares + "/tarvik && ln -s " + QuoteForUnix(ToWide(folder)) + " " + shares + "/tarvik/icons");
   }
   ~Share() { Run("rm " + shares + "/tarvik/icons && rmdir -p --ignore-fail-on-non-empty " + shares + "/tarvik"); }
 

@@ -18,11 +18,11 @@
 
 namespace tarvik::end_to_end {
 
-// The seven file types, by their check boxes' places.
+// The seven file types, by the index of their check boxes.
 enum FileType { Ico, Ani, Icl, Ocx, Dll, Exe, AllFiles };
 inline constexpr int fileTypeCount = 7;
 
-// The icon sizes, by their places in the list of sizes.
+// The icon sizes, by their index in the list of sizes.
 enum IconSizeChoice { Size16, Size32, Size48, Size64 };
 
 // One entry of the icon list.

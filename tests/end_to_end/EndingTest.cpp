@@ -112,7 +112,7 @@ class EndingOver : public Ending, public ::testing::WithParamInterface<std::stri
       window.Post(WM_SYSCOMMAND, SC_KEYMENU, ' ');
     } else if (name == "ListMenu") {
       program_.Item(FrmFindIcon_OptView1).Send(BM_CLICK);
-      const POINT row = MiddleOf(List().RowPlace(0));
+      const POINT row = MiddleOf(List().RowBounds(0));
       window.Post(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(program_.Item(FrmFindIcon_Lv).Window()),
                   MAKELPARAM(row.x, row.y));
     } else if (name == "SizeList") {

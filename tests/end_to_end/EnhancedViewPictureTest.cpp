@@ -48,11 +48,11 @@ TEST_P(EnhancedViewTexts, AreThoseOfTheLanguageAtEveryFactor) {
   for (int factor = minZoom; factor <= maxZoom; ++factor) {
     view.ChooseFactor(factor);
     EXPECT_EQ(view.Caption(), CaptionAt(factor));
-    const RECT place = view.PicturePlaceInWindow();
-    EXPECT_EQ(place.left, 100);
-    EXPECT_EQ(place.top, 100);
-    EXPECT_EQ(place.right, 100 + 32 * factor);
-    EXPECT_EQ(place.bottom, 100 + 32 * factor);
+    const RECT bounds = view.PictureBoundsInWindow();
+    EXPECT_EQ(bounds.left, 100);
+    EXPECT_EQ(bounds.top, 100);
+    EXPECT_EQ(bounds.right, 100 + 32 * factor);
+    EXPECT_EQ(bounds.bottom, 100 + 32 * factor);
   }
   SaveViewPicture(view, "1000");
   view.Ask(SC_MAXIMIZE);
@@ -131,7 +131,7 @@ TEST_F(EnhancedViewPicture, IsEmptyForAnIconWhoseFileIsGone) {
   MovePointer({0, 0});
   EXPECT_TRUE(Eventually(
       [&] {
-        const Screenshot shown(view.PicturePlace());
+        const Screenshot shown(view.PictureBounds());
         return CountPixels(shown, white) == shown.Width() * shown.Height();
       },
       shortly))
@@ -152,7 +152,7 @@ TEST_F(EnhancedViewPicture, ShowsAnAnimationFrameByFrame) {
   for (int frame = 0; frame < static_cast<int>(colors.size()); ++frame) {
     EXPECT_EQ(view.Status(), path + " - " + std::to_string(frame));
     ExpectPicture(view, {.path = path, .index = frame}, 32, openingZoom);
-    EXPECT_GT(CountPixels(Screenshot(view.PicturePlace()), colors.at(static_cast<std::size_t>(frame))), 0) << frame;
+    EXPECT_GT(CountPixels(Screenshot(view.PictureBounds()), colors.at(static_cast<std::size_t>(frame))), 0) << frame;
     view.Press(frmBit_tlb_control_MoveNext);
   }
 }

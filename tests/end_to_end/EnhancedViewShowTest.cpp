@@ -28,15 +28,15 @@ class EnhancedViewShow : public ViewByHand {
   // Waits for two steps less than `limit` apart. Returns how many steps it waited for in all. Load on the machine can
   // only lengthen the time between steps.
   static int WaitForStepWithin(const EnhancedView& view, milliseconds limit) {
-    constexpr int most = 20;
+    constexpr int maxSteps = 20;
     auto former = WaitForStep(view);
-    for (int steps = 2; steps <= most; ++steps) {
+    for (int steps = 2; steps <= maxSteps; ++steps) {
       const auto now = WaitForStep(view);
       if (now - former < limit) return steps;
       former = now;
     }
     ADD_FAILURE() << "no step within " << limit.count() << " ms";
-    return most;
+    return maxSteps;
   }
 };
 
@@ -135,18 +135,18 @@ TEST_F(EnhancedViewShow, EndsWithTheView) {
 class EnhancedViewSize : public ViewByHand {
  protected:
   static SIZE SizeOf(const EnhancedView& view) {
-    const RECT place = view.Window().Place();
-    return {place.right - place.left, place.bottom - place.top};
+    const RECT bounds = view.Window().Place();
+    return {bounds.right - bounds.left, bounds.bottom - bounds.top};
   }
   // Checks that the whole view is on the screen, with all of its buttons, its list and its status bar.
   static void ExpectUsable(const EnhancedView& view, const std::string& what) {
-    const RECT place = view.Window().Place();
-    EXPECT_GE(place.left, 0) << what;
-    EXPECT_GE(place.top, 0) << what;
-    EXPECT_LE(place.right, GetSystemMetrics(SM_CXSCREEN)) << what;
-    EXPECT_LE(place.bottom, GetSystemMetrics(SM_CYSCREEN)) << what;
+    const RECT bounds = view.Window().Place();
+    EXPECT_GE(bounds.left, 0) << what;
+    EXPECT_GE(bounds.top, 0) << what;
+    EXPECT_LE(bounds.right, GetSystemMetrics(SM_CXSCREEN)) << what;
+    EXPECT_LE(bounds.bottom, GetSystemMetrics(SM_CYSCREEN)) << what;
     const RECT inside = view.Window().Inside();
-    EXPECT_LE(view.Toolbar().ButtonPlace(frmBit_tlb_control_Exit).right, inside.right) << what;
+    EXPECT_LE(view.Toolbar().ButtonBounds(frmBit_tlb_control_Exit).right, inside.right) << what;
     EXPECT_LE(view.ZoomList().Place().bottom, view.Window().Child(frmBit_sbMain).Place().top) << what;
     EXPECT_EQ(view.Window().Child(frmBit_sbMain).Place().bottom, inside.bottom) << what;
   }
@@ -158,9 +158,9 @@ TEST_F(EnhancedViewSize, IsKeptOverARestart) {
   EXPECT_EQ(SizeOf(view).cx, 443);
   EXPECT_EQ(SizeOf(view).cy, 354);
   // Dragged by its corner, as a user enlarges it.
-  const RECT place = view.Window().Place();
+  const RECT bounds = view.Window().Place();
   ASSERT_TRUE(Eventually([&] {
-    Drag({place.right - 2, place.bottom - 2}, {place.right + 98, place.bottom + 48});
+    Drag({bounds.right - 2, bounds.bottom - 2}, {bounds.right + 98, bounds.bottom + 48});
     return Eventually([&] { return SizeOf(view).cx == 543; }, lostAfter);
   }));
   EXPECT_EQ(SizeOf(view).cy, 404);
@@ -217,13 +217,13 @@ TEST_F(EnhancedViewSize, FollowsWhatIsStoredWithinTheSystemsOwnLimits) {
     LONG width;
     LONG height;
   };
-  const LONG leastWidth = GetSystemMetrics(SM_CXMINTRACK);
-  const LONG leastHeight = GetSystemMetrics(SM_CYMINTRACK);
-  const LONG mostWidth = GetSystemMetrics(SM_CXMAXTRACK);
-  const LONG mostHeight = GetSystemMetrics(SM_CYMAXTRACK);
-  for (const Row& row : {Row{"wide", leastWidth, leastHeight}, Row{"-5310", leastWidth, leastHeight},
-                         Row{"1e-400", leastWidth, leastHeight}, Row{"3000", 200, 200},
-                         Row{"99999999", mostWidth, mostHeight}, Row{"1e30", mostWidth, mostHeight}}) {
+  const LONG minWidth = GetSystemMetrics(SM_CXMINTRACK);
+  const LONG minHeight = GetSystemMetrics(SM_CYMINTRACK);
+  const LONG maxWidth = GetSystemMetrics(SM_CXMAXTRACK);
+  const LONG maxHeight = GetSystemMetrics(SM_CYMAXTRACK);
+  for (const Row& row :
+       {Row{"wide", minWidth, minHeight}, Row{"-5310", minWidth, minHeight}, Row{"1e-400", minWidth, minHeight},
+        Row{"3000", 200, 200}, Row{"99999999", maxWidth, maxHeight}, Row{"1e30", maxWidth, maxHeight}}) {
     WriteViewSize(row.text, row.text);
     const EnhancedView view = OpenOn(1);
     EXPECT_EQ(SizeOf(view).cx, row.width) << row.text;

@@ -34,7 +34,7 @@ TEST_F(EnhancedViewOpens, OnADoubleClickOnARowOfTheList) {
   program_.Item(FrmFindIcon_OptView1).Press();
   ASSERT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Lv).IsVisible(); }));
   ASSERT_TRUE(Eventually([&] {
-    DoubleClick(MiddleOf(List().RowPlace(3)));
+    DoubleClick(MiddleOf(List().RowBounds(3)));
     return Eventually([&] { return program_.CountWindowsWith(frmBit_img) == 1; }, lostAfter);
   }));
   const EnhancedView view(program_);

@@ -46,7 +46,7 @@ class GridPicture : public EndToEnd {
   }
 
   // The grid as the platform draws it: every entry's icon, and the frame of the first.
-  std::unique_ptr<Surface> Expected(const Geometry& geometry) const {
+  std::unique_ptr<Surface> ExpectedPicture(const Geometry& geometry) const {
     const auto entries = Entries();
     const int rows = (static_cast<int>(entries.size()) + geometry.columns - 1) / geometry.columns;
     auto picture = std::make_unique<Surface>(viewportWidth, std::max(viewportHeight, rows * geometry.pitch), white);
@@ -69,8 +69,8 @@ class GridPicture : public EndToEnd {
                             program_.Item(FrmFindIcon_PicIcons).Place().top);
   }
   int GridHeight() const {
-    const RECT place = program_.Item(FrmFindIcon_PicIcons).Place();
-    return static_cast<int>(place.bottom - place.top);
+    const RECT bounds = program_.Item(FrmFindIcon_PicIcons).Place();
+    return static_cast<int>(bounds.bottom - bounds.top);
   }
 
   // Whether the viewport shows that picture in the end, scrolled so that row `top` of it is uppermost. Moves the

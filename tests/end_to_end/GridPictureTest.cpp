@@ -18,7 +18,7 @@ TEST_P(GridPictureAtSize, ShowsTheIconsAsThePlatformDrawsThem) {
   ChooseSize(GetParam().choice);
   Find();
   ASSERT_EQ(Entries().size(), 17U);
-  EXPECT_TRUE(Shows(*Expected(GetParam()), 0));
+  EXPECT_TRUE(Shows(*ExpectedPicture(GetParam()), 0));
 }
 
 TEST_P(GridPictureAtSize, ShowsTheLastRowsWhenScrolledToTheEnd) {
@@ -29,7 +29,7 @@ TEST_P(GridPictureAtSize, ShowsTheLastRowsWhenScrolledToTheEnd) {
   ChooseSize(GetParam().choice);
   SetLimit("300");
   Find();
-  const auto expected = Expected(GetParam());
+  const auto expected = ExpectedPicture(GetParam());
   EXPECT_EQ(GridHeight(), expected->Height());
   program_.Item(FrmFindIcon_Vsb).Send(WM_KEYDOWN, VK_END);
   const int end = expected->Height() - viewportHeight;
@@ -44,7 +44,7 @@ TEST_F(GridPicture, SurvivesAnotherWindowOverIt) {
   Start();
   Tick({Ico, Ani, Dll});
   Find();
-  const auto expected = Expected(geometries[1]);
+  const auto expected = ExpectedPicture(geometries[1]);
   Program other(home_.Path(), "other.exe");
   other.Start();
   EXPECT_EQ(other.Close(), 0U);
@@ -56,7 +56,7 @@ TEST_F(GridPicture, KeepsTheOldIconsWhenTheSizeChangesUntilTheNextSearch) {
   Start();
   Tick({Ico, Ani, Dll});
   Find();
-  const auto expected = Expected(geometries[1]);
+  const auto expected = ExpectedPicture(geometries[1]);
   ChooseSize(Size64);
   EXPECT_TRUE(Shows(*expected, 0));
 }
@@ -123,7 +123,7 @@ TEST_F(GridPicture, FollowsTheThumbWhileItIsDragged) {
   Tick({Dll});
   ChooseSize(Size64);
   Find();
-  const auto expected = Expected(geometries[Size64]);
+  const auto expected = ExpectedPicture(geometries[Size64]);
   const int end = expected->Height() - viewportHeight;
   const RECT bar = program_.Item(FrmFindIcon_Vsb).Place();
   const int arrow = GetSystemMetrics(SM_CYVSCROLL);
@@ -146,16 +146,16 @@ TEST_F(GridPicture, PartsOfANotchAddUpToOne) {
   ChooseSize(Size64);
   Find();
   const Control frame = program_.Item(FrmFindIcon_PicFrame);
-  const POINT place = MiddleOf(frame.Place());
+  const POINT point = MiddleOf(frame.Place());
   const auto turn = [&](int delta) {
-    frame.Post(WM_MOUSEWHEEL, static_cast<WPARAM>(delta) << 16U, MAKELPARAM(place.x, place.y));
+    frame.Post(WM_MOUSEWHEEL, static_cast<WPARAM>(delta) << 16U, MAKELPARAM(point.x, point.y));
   };
   turn(-WHEEL_DELTA);
   EXPECT_TRUE(Eventually([&] { return ScrolledPixels() > 0; }));
   const int notch = ScrolledPixels();
   for (int part = 0; part < 12; ++part) turn(-WHEEL_DELTA / 12);
   EXPECT_TRUE(Eventually([&] { return ScrolledPixels() == 2 * notch; })) << ScrolledPixels();
-  EXPECT_TRUE(Shows(*Expected(geometries[Size64]), 2 * notch));
+  EXPECT_TRUE(Shows(*ExpectedPicture(geometries[Size64]), 2 * notch));
   for (int part = 0; part < 48; ++part) turn(WHEEL_DELTA / 24);
   EXPECT_TRUE(Eventually([&] { return ScrolledPixels() == 0; })) << ScrolledPixels();
 }

@@ -32,7 +32,7 @@ class GridSteps : public GridPicture {
   }
   // Checks the whole grid from its top: its height, its scroll bar, its pixels, and a click in it.
   void ExpectFromTheTop(const Geometry& geometry) const {
-    const auto expected = Expected(geometry);
+    const auto expected = ExpectedPicture(geometry);
     EXPECT_EQ(GridHeight(), expected->Height());
     EXPECT_EQ(ScrolledPixels(), 0);
     const bool scrolls = expected->Height() > viewportHeight;
@@ -45,7 +45,7 @@ class GridSteps : public GridPicture {
   }
   // Checks the end of a grid that scrolls.
   void ExpectTheEnd(const Geometry& geometry) const {
-    const auto expected = Expected(geometry);
+    const auto expected = ExpectedPicture(geometry);
     const int end = expected->Height() - viewportHeight;
     EXPECT_EQ(ScrolledPixels(), end);
     EXPECT_EQ(program_.Item(FrmFindIcon_Vsb).Scroll().nPos, end);

@@ -15,9 +15,9 @@ namespace {
 
 class GridTip : public EndToEnd {
  protected:
-  std::optional<Control> Shown() const { return program_.ShownTip(); }
+  std::optional<Control> ShownTip() const { return program_.ShownTip(); }
   bool Shows(const std::string& text) const {
-    const auto tip = Shown();
+    const auto tip = ShownTip();
     return tip && tip->Text() == text;
   }
   // Rests the pointer over the middle of an icon of 32 pixels, by its number; `aside` pixels to the right of it.
@@ -47,10 +47,10 @@ TEST_F(GridTip, ShowsFileAndIndexOfTheIconUnderThePointer) {
   EXPECT_TRUE(ShowsOver(1, In("a & b.ico") + "\r\nIndex 0"));
   EXPECT_TRUE(ShowsOver(3, In("图标.dll") + "\r\nIndex 1"));
   PointAt(5);
-  EXPECT_TRUE(Eventually([&] { return !Shown(); })) << "there is no fifth icon";
+  EXPECT_TRUE(Eventually([&] { return !ShownTip(); })) << "there is no fifth icon";
   EXPECT_TRUE(ShowsOver(4, In("图标.dll") + "\r\nIndex 2"));
   DoubleClick(MiddleOf(program_.Item(FrmFindIcon_PicFrame).Place()));  // an empty cell too
-  EXPECT_TRUE(Eventually([&] { return !Shown(); }));
+  EXPECT_TRUE(Eventually([&] { return !ShownTip(); }));
 }
 
 TEST_F(GridTip, ShowsTheWholeOfALongPathOnTheScreen) {
@@ -66,14 +66,14 @@ TEST_F(GridTip, ShowsTheWholeOfALongPathOnTheScreen) {
   Start(In(folder));
   Find();
   PointAt(1);
-  ASSERT_TRUE(Eventually([&] { return Shown().has_value(); }));
-  std::string text = Shown()->Text();
+  ASSERT_TRUE(Eventually([&] { return ShownTip().has_value(); }));
+  std::string text = ShownTip()->Text();
   for (std::size_t end = 0; (end = text.find("\r\n")) != std::string::npos;) text.erase(end, 2);
   EXPECT_EQ(text, In(folder + "\\a.ico") + "Index 0");
-  const RECT place = Shown()->Place();
-  EXPECT_GE(place.left, 0);
-  EXPECT_LE(place.right, GetSystemMetrics(SM_CXSCREEN));
-  EXPECT_LT(place.right - place.left, 800);
+  const RECT bounds = ShownTip()->Place();
+  EXPECT_GE(bounds.left, 0);
+  EXPECT_LE(bounds.right, GetSystemMetrics(SM_CXSCREEN));
+  EXPECT_LT(bounds.right - bounds.left, 800);
 }
 
 }  // namespace

@@ -208,7 +208,7 @@ void Journey::LookAtTheList() {
   Picture("list");
   program_.Command(FrmFindIcon_mnuRem);
   ExpectRows({3, 6});
-  RightClick(MiddleOf(List().RowPlace(6)));
+  RightClick(MiddleOf(List().RowBounds(6)));
   EXPECT_TRUE(Eventually([&] { return program_.OpenMenu().has_value(); }));
   Picture("menu-of-a-row");
   PressKey(VK_ESCAPE);
@@ -273,9 +273,9 @@ void Journey::ComeBack() {
   EXPECT_TRUE(program_.Item(FrmFindIcon_chkSubDir).IsChecked());
   Find();
   const EnhancedView view = OpenOn(2);
-  const RECT place = view.Window().Place();
-  EXPECT_EQ(place.right - place.left, LargerView().cx);
-  EXPECT_EQ(place.bottom - place.top, LargerView().cy);
+  const RECT bounds = view.Window().Place();
+  EXPECT_EQ(bounds.right - bounds.left, LargerView().cx);
+  EXPECT_EQ(bounds.bottom - bounds.top, LargerView().cy);
   Picture("next-day");
   view.Exit();
 }

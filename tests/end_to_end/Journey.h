@@ -78,7 +78,7 @@ class Journey : public ViewByHand, public ::testing::WithParamInterface<Tongue> 
   void SaveAsGif(const std::string& name);
   void SaveAsCursor(const std::string& name);
   void SaveAllIcons();
-  // Saves the two selected icons to the folder that SaveAllIcons made. `type` is the image type's place in its list.
+  // Saves the two selected icons to the folder that SaveAllIcons made. `type` is the image type's index in its list.
   // `options` is a control of the dialog that asks for options and `finish` its OK button, 0 if there is no such
   // dialog.
   struct Batch {

@@ -17,11 +17,11 @@ namespace fs = std::filesystem;
 using ::testing::SizeIs;
 
 void Journey::ChooseInFileMenu(int command) const {
-  // Places are counted from 0, without the lines between the items.
+  // Positions are counted from 0, without the lines between the items.
   struct Item {
     int command;
-    int place;
-    int placeInSubMenu;  // -1 if there is none
+    int position;
+    int positionInSubMenu;  // -1 if there is none
   };
   constexpr std::array items{
       Item{FrmFindIcon_mnuSaveAs, 1, -1},       Item{FrmFindIcon_MnuSaveAsBitmap, 2, -1},
@@ -31,10 +31,10 @@ void Journey::ChooseInFileMenu(int command) const {
   const auto item = std::ranges::find(items, command, &Item::command);
   ASSERT_NE(item, items.end()) << command;
   OpenMenuByKeys(0);
-  PressKey(VK_DOWN, {}, item->place);
-  if (item->placeInSubMenu >= 0) {
+  PressKey(VK_DOWN, {}, item->position);
+  if (item->positionInSubMenu >= 0) {
     PressKey(VK_RIGHT);
-    PressKey(VK_DOWN, {}, item->placeInSubMenu);
+    PressKey(VK_DOWN, {}, item->positionInSubMenu);
   }
   PressKey(VK_RETURN);
 }

@@ -46,15 +46,15 @@ class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTo
     out_ = home_.MakeFolder("out");
   }
 
-  int Focused() const { return GetDlgCtrlID(program_.Focus().Window()); }
+  int FocusedId() const { return GetDlgCtrlID(program_.Focus().Window()); }
   // Presses Tab until the control has the focus.
   void GoTo(int id) const {
-    for (int step = 0; step < 30 && Focused() != id; ++step) {
+    for (int step = 0; step < 30 && FocusedId() != id; ++step) {
       const Control before = program_.Focus();
       PressKey(VK_TAB);
       ASSERT_TRUE(Eventually([&] { return program_.Focus().Window() != before.Window(); })) << id;
     }
-    ASSERT_EQ(Focused(), id);
+    ASSERT_EQ(FocusedId(), id);
   }
   void TickByKey(int id) const {
     GoTo(id);
@@ -63,12 +63,12 @@ class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTo
     PressKey(VK_SPACE);
     EXPECT_TRUE(Eventually([&] { return box.IsChecked(); })) << id;
   }
-  // Opens a menu by its letter and chooses an item, and one of its sub-menu, by their places, counted from 0 without
+  // Opens a menu by its letter and chooses an item, and one of its sub-menu, by their positions, counted from 0 without
   // separators; `below` is -1 if there is no sub-menu.
-  void Choose(WORD letter, int place, int below = -1) const {
+  void Choose(WORD letter, int position, int below = -1) const {
     PressKey(letter, {VK_MENU});
     ASSERT_TRUE(Eventually([&] { return program_.OpenMenu().has_value(); })) << letter;
-    PressKey(VK_DOWN, {}, place);
+    PressKey(VK_DOWN, {}, position);
     if (below >= 0) {
       PressKey(VK_RIGHT);
       PressKey(VK_DOWN, {}, below);
@@ -106,7 +106,7 @@ class KeyJourney : public ViewByHand, public ::testing::WithParamInterface<KeyTo
     const std::vector<std::string> below{"R:\\", tongue_.folder};
     ASSERT_TRUE(Eventually([&] { return FolderNames() == below; }));
     PressKey(VK_TAB);
-    ASSERT_TRUE(Eventually([&] { return Focused() == FrmFindIcon_Dir1; }));
+    ASSERT_TRUE(Eventually([&] { return FocusedId() == FrmFindIcon_Dir1; }));
     PressKey(VK_DOWN);
     PressKey(VK_RETURN);
     ASSERT_TRUE(Eventually([&] { return FileNames() == std::vector<std::string>{"a.ico"}; }));

@@ -109,7 +109,7 @@ TEST_F(ListKeys, ShiftF10AndTheMenuKeyOpenTheMenuOfTheRow) {
   FindInList(5);
   PressKey(VK_DOWN, {}, 2);
   ExpectCurrent(2);
-  const RECT row = List().RowPlace(2);
+  const RECT row = List().RowBounds(2);
   PressKey(VK_F10, {VK_SHIFT});
   const RECT menu = WaitForMenu().Place();
   EXPECT_GE(menu.left, row.left);
@@ -126,7 +126,7 @@ TEST_F(ListKeys, ShiftF10AndTheMenuKeyOpenTheMenuOfTheRow) {
 
 TEST_F(ListKeys, ARightClickChoosesItsRowAndOpensTheMenu) {
   FindInList(5);
-  RightClick(MiddleOf(List().RowPlace(3)));
+  RightClick(MiddleOf(List().RowBounds(3)));
   WaitForMenu();
   EmptyTheClipboard();
   PressKey('C');  // "Copy to Clipboard"
@@ -139,7 +139,7 @@ TEST_F(ListKeys, ARightClickOnOneOfSeveralSelectedRowsKeepsThem) {
   FindInList(5);
   PressKey(VK_DOWN, {VK_SHIFT}, 2);
   ExpectRows({0, 1, 2});
-  RightClick(MiddleOf(List().RowPlace(1)));
+  RightClick(MiddleOf(List().RowBounds(1)));
   WaitForMenu();
   CloseMenu();
   ExpectRows({0, 1, 2});
@@ -148,7 +148,7 @@ TEST_F(ListKeys, ARightClickOnOneOfSeveralSelectedRowsKeepsThem) {
 
 TEST_F(ListKeys, ARightClickBelowTheRowsOpensNoMenu) {
   FindInList(2);
-  RECT row = List().RowPlace(1);
+  RECT row = List().RowBounds(1);
   OffsetRect(&row, 0, 2 * (row.bottom - row.top));
   RightClick(MiddleOf(row));
   WaitForAllInput();

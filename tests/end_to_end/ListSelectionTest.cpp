@@ -20,7 +20,7 @@ class ListSelection : public SelectionByHand {
     ASSERT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Lv).IsVisible() == list; }));
   }
 
-  RECT RowPlace(int row) const {
+  RECT RowBounds(int row) const {
     const Control list = program_.Item(FrmFindIcon_Lv);
     const auto heightOf = [&](WPARAM rows) { return int{HIWORD(list.Send(LVM_APPROXIMATEVIEWRECT, rows, -1))}; };
     const int height = heightOf(2) - heightOf(1);
@@ -30,10 +30,10 @@ class ListSelection : public SelectionByHand {
     const LONG top = Control(header).Place().bottom + rowsAbove * height;
     return {inside.left, top, inside.right, top + height};
   }
-  void ClickRow(int row, HeldKeys held = {}) const { Click(MiddleOf(RowPlace(row)), held); }
+  void ClickRow(int row, HeldKeys held = {}) const { Click(MiddleOf(RowBounds(row)), held); }
 
   // Checks the selected rows and the frames of the grid, which is shown for a moment.
-  void ExpectBoth(const Places& expected) const {
+  void ExpectBoth(const Indexes& expected) const {
     ExpectRows(expected);
     ShowList(false);
     ExpectFrames(expected);
@@ -112,7 +112,7 @@ TEST_F(ListSelection, CtrlASelectsAllAndKeepsTheCurrentEntry) {
   ClickRow(3);
   ExpectCurrent(3);
   PressKey('A', {VK_CONTROL});
-  Places all;
+  Indexes all;
   for (int row = 0; row < fewIcons; ++row) all.insert(row);
   ExpectBoth(all);
   ExpectCurrent(3);
@@ -138,7 +138,7 @@ TEST_F(ListSelection, SelectedRowsAreRed) {
   ExpectRows({2, 4});
   const auto isRed = [&](int row) {
     constexpr Color red = 0x0000FF;
-    const Screenshot shown(RowPlace(row));
+    const Screenshot shown(RowBounds(row));
     for (int y = 0; y < shown.Height(); ++y) {
       for (int x = 0; x < shown.Width(); ++x) {
         if (shown.Pixel(x, y) == red) return true;

@@ -52,7 +52,7 @@ TEST_P(ModulesInTheGrid, AreShownAsAShellThatReadsThemDrawsThem) {
   ASSERT_GT(Entries().size(), 33U);
   EXPECT_EQ(std::ranges::count(Entries(), In("a.icl"), &Entry::path), 5);
   EXPECT_EQ(std::ranges::count(Entries(), In("other.fon"), &Entry::path), 0);
-  EXPECT_TRUE(Shows(*Expected(GetParam()), 0));
+  EXPECT_TRUE(Shows(*ExpectedPicture(GetParam()), 0));
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, ModulesInTheGrid, ::testing::ValuesIn(geometries));
@@ -119,7 +119,7 @@ TEST_F(CountedModules, HaveAsManyIconsAsAnotherProgramCounts) {
   for (std::uint32_t number = 0; number < 60; ++number)
     tree_.MakeFile("m" + std::to_string(number) + ".icl", support::MakeRandomModule(number).bytes);
   const UnixAnswer answer =
-      RunUnix("cd " + UnixQuoted(ToWide(tree_.Path())) +
+      RunUnix("cd " + QuoteForUnix(ToWide(tree_.Path())) +
               " && for f in *.icl; do echo \"$f $(wrestool -l --type=group_icon $f 2>/dev/null | wc -l)\"; done");
   ASSERT_EQ(answer.exitCode, 0) << answer.output;
   TakeTodaysShell(program_);

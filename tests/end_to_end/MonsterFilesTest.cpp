@@ -128,7 +128,7 @@ TEST_P(MonsterFiles, OfOneHugePictureAreHardlyRead) {
   StartAndFindOne();
   MakeIntactFiles();
   // Another program reads such a picture, if it is not as large.
-  const std::string small = UnixQuoted(ToWide(tree_.MakeFile("small.ico", support::LargePng(300))));
+  const std::string small = QuoteForUnix(ToWide(tree_.MakeFile("small.ico", support::LargePng(300))));
   EXPECT_EQ(
       RunUnix("icotool -x -o - " + small + " | convert png:- -depth 8 gray:- | od -An -v -tu1 -w1 | sort | uniq -c")
           .output,

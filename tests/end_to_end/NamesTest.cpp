@@ -68,14 +68,14 @@ class Accessible : NonCopyable {
     const bool found = object_ != nullptr && object_->accHitTest(point.x, point.y, &part) == S_OK;
     return found && part.vt == VT_I4 ? part.lVal : -1;
   }
-  RECT Place(LONG child) const {
-    RECT place{};
+  RECT Bounds(LONG child) const {
+    RECT bounds{};
     LONG width = 0;
     LONG height = 0;
-    if (object_ != nullptr) object_->accLocation(&place.left, &place.top, &width, &height, Number(child));
-    place.right = place.left + width;
-    place.bottom = place.top + height;
-    return place;
+    if (object_ != nullptr) object_->accLocation(&bounds.left, &bounds.top, &width, &height, Number(child));
+    bounds.right = bounds.left + width;
+    bounds.bottom = bounds.top + height;
+    return bounds;
   }
 
  private:
@@ -170,7 +170,7 @@ class Names : public ViewByHand, public ::testing::WithParamInterface<const char
   RECT FrameOf(int entry) const {
     const int dots = DotsOfDisplay();
     const Point corner = FrameCorner(*geometry_, entry);
-    const POINT end = GridPlace(corner.x + geometry_->FrameExtent + 1, corner.y + geometry_->FrameExtent + 1);
+    const POINT end = GridPoint(corner.x + geometry_->FrameExtent + 1, corner.y + geometry_->FrameExtent + 1);
     const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
     return {grid.left + corner.x * dots / 96, grid.top + corner.y * dots / 96, end.x, end.y};
   }
@@ -267,10 +267,10 @@ TEST_P(Names, OfTheGridsIconSayNumberFileAndIndex) {
     EXPECT_THAT(icons.Name(1), ::testing::StartsWith(word + std::to_string(entry + 1)));
     EXPECT_THAT(icons.Name(1), ::testing::HasSubstr(In(FileName(entry + 1))));
     EXPECT_THAT(icons.Name(1), ::testing::EndsWith(" 0"));
-    const RECT place = icons.Place(1);
-    EXPECT_TRUE(PtInRect(&place, CellMiddle(entry)));
+    const RECT bounds = icons.Bounds(1);
+    EXPECT_TRUE(PtInRect(&bounds, CellMiddle(entry)));
     const RECT frame = FrameOf(entry);
-    EXPECT_TRUE(EqualRect(&place, &frame)) << entry;
+    EXPECT_TRUE(EqualRect(&bounds, &frame)) << entry;
     EXPECT_EQ(icons.PartAt(CellMiddle(entry)), 1);
     EXPECT_EQ(icons.PartAt(CellMiddle(1)), CHILDID_SELF);
   }
@@ -331,8 +331,8 @@ TEST_P(AboutBox, ShowsVersionCopyrightAndLicenceToRead) {
   const Control about = program_.WaitForStartUpWindow();
   for (const int id : {FrmSpash_lblVersion, FrmSpash_lblCopyright, FrmSpash_lblLicence}) {
     EXPECT_TRUE(about.Child(id).IsVisible()) << id;
-    const RECT place = about.Child(id).Place();
-    EXPECT_LE(place.bottom, about.Inside().bottom) << id;
+    const RECT bounds = about.Child(id).Place();
+    EXPECT_LE(bounds.bottom, about.Inside().bottom) << id;
   }
   EXPECT_THAT(about.Child(FrmSpash_lblVersion).Text(), ::testing::EndsWith(TARVIK_VERSION));
   EXPECT_EQ(about.Child(FrmSpash_lblCopyright).Text(), "Copyright 2026 The Brindle Tarvik developers");

@@ -51,9 +51,9 @@ TEST_F(Options, StartWithAnEmptyGridAndNothingToHandOver) {
 
 TEST_F(Options, TheMainWindowFitsASmallScreen) {
   Start();
-  const RECT place = program_.Window().Place();
-  EXPECT_LE(place.right - place.left, 800);
-  EXPECT_LE(place.bottom - place.top, 600);
+  const RECT bounds = program_.Window().Place();
+  EXPECT_LE(bounds.right - bounds.left, 800);
+  EXPECT_LE(bounds.bottom - bounds.top, 600);
 }
 
 TEST_F(Options, TheViewportShowsTheWidestGridAnd190Rows) {
@@ -141,11 +141,11 @@ TEST_F(Options, ASizeSetsTheLimitAndItsHighestValue) {
 
 TEST_F(Options, TheSpinnersArrowsChangeTheLimitByTen) {
   Start();
-  const RECT place = program_.Item(FrmFindIcon_udMain).Place();
-  const LONG x = (place.left + place.right) / 2;
-  Click({x, place.top + 2});
+  const RECT bounds = program_.Item(FrmFindIcon_udMain).Place();
+  const LONG x = (bounds.left + bounds.right) / 2;
+  Click({x, bounds.top + 2});
   EXPECT_TRUE(Eventually([&] { return TextOf(FrmFindIcon_txtMax) == "310"; })) << TextOf(FrmFindIcon_txtMax);
-  Click({x, place.bottom - 3});
+  Click({x, bounds.bottom - 3});
   EXPECT_TRUE(Eventually([&] { return TextOf(FrmFindIcon_txtMax) == "300"; })) << TextOf(FrmFindIcon_txtMax);
 }
 

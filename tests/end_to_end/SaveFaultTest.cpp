@@ -184,11 +184,11 @@ TEST_F(SaveFault, TheIconOfAFileThatIsGoneIsSavedBlank) {
     const std::string bytes = ReadAll(Out(name));
     // Headers and a palette of two colours, then the image and the mask. Transparent pixels that are not black would
     // invert the background below the icon.
-    constexpr std::size_t imagePlace = 6 + 16 + 40 + 8;
+    constexpr std::size_t imageOffset = 6 + 16 + 40 + 8;
     constexpr std::size_t imageBytes = std::size_t{4} * 32;
-    ASSERT_EQ(bytes.size(), imagePlace + 2 * imageBytes) << name;
-    EXPECT_EQ(bytes.substr(imagePlace, imageBytes), std::string(imageBytes, '\0')) << name;
-    EXPECT_EQ(bytes.substr(imagePlace + imageBytes), std::string(imageBytes, '\xFF')) << name;
+    ASSERT_EQ(bytes.size(), imageOffset + 2 * imageBytes) << name;
+    EXPECT_EQ(bytes.substr(imageOffset, imageBytes), std::string(imageBytes, '\0')) << name;
+    EXPECT_EQ(bytes.substr(imageOffset + imageBytes), std::string(imageBytes, '\xFF')) << name;
   }
 }
 

@@ -42,10 +42,10 @@ Bytes IconOf(const Formula& formula) {
     const auto row = static_cast<std::size_t>(side - 1 - y);  // rows are stored from the bottom up
     for (int x = 0; x < side; ++x) {
       const std::optional<Color> color = formula(x, y);
-      std::byte* const place = &picture.data[headerBytes + row * rowBytes + static_cast<std::size_t>(x) * 3];
-      place[0] = std::byte{BlueOf(color.value_or(black))};
-      place[1] = std::byte{GreenOf(color.value_or(black))};
-      place[2] = std::byte{RedOf(color.value_or(black))};
+      std::byte* const pixel = &picture.data[headerBytes + row * rowBytes + static_cast<std::size_t>(x) * 3];
+      pixel[0] = std::byte{BlueOf(color.value_or(black))};
+      pixel[1] = std::byte{GreenOf(color.value_or(black))};
+      pixel[2] = std::byte{RedOf(color.value_or(black))};
       std::byte& mask =
           picture.data[headerBytes + side * rowBytes + row * maskRowBytes + static_cast<std::size_t>(x) / 8];
       const std::byte bit{static_cast<unsigned char>(0x80U >> static_cast<unsigned>(x % 8))};

@@ -17,7 +17,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-// Places of the choices in the JPEG dialog's lists.
+// Indexes of the choices in the JPEG dialog's lists.
 enum Preset { Lowest, Low, Medium, High, Highest };
 enum SubSampling { OneToOne, OneToTwo, TwoToOne };
 
@@ -76,11 +76,11 @@ class SaveIcons : public Saving {
   }
   // Checks the first picture at a size: its image and its mask.
   static void ExpectFirstIcon(const std::string& file, int side) {
-    constexpr std::size_t imagePlace = 6 + 16 + 40 + 8;
+    constexpr std::size_t imageOffset = 6 + 16 + 40 + 8;
     const auto image = [side](int x, int y) { return y < side / 2 && x >= side / 2; };
     const auto mask = [side](int /*x*/, int y) { return y >= side / 2; };
-    ASSERT_GT(file.size(), imagePlace);
-    EXPECT_EQ(file.substr(imagePlace), BitsOf(image, side) + BitsOf(mask, side)) << side;
+    ASSERT_GT(file.size(), imageOffset);
+    EXPECT_EQ(file.substr(imageOffset), BitsOf(image, side) + BitsOf(mask, side)) << side;
   }
   static Pixels FirstComposed(int side) {
     Pixels pixels;
@@ -221,23 +221,23 @@ TEST_F(SaveIcons, TheHotSpotIsPickedWithTheMouse) {
   program_.Command(FrmFindIcon_MnuSaveAsCursor);
   const Dialog picker(program_, FrmHotSpot_PicCursor);
   const RECT picture = picker.Item(FrmHotSpot_PicCursor).Inside();
-  const POINT place{picture.left + 13, picture.top + 29};
+  const POINT point{picture.left + 13, picture.top + 29};
   const auto picked = [&] { return picker.TextOf(FrmHotSpot_LblHotX) + picker.TextOf(FrmHotSpot_LblHotY); };
 
   // The pointer's position is shown, limited like the hot spot.
   EXPECT_TRUE(Eventually([&] {
-    MovePointer(place);
-    MovePointer({place.x + 100, place.y + 100});
+    MovePointer(point);
+    MovePointer({point.x + 100, point.y + 100});
     return picker.TextOf(FrmHotSpot_lblxy) == "00, 00";
   }));
   // The right button picks nothing. A key press follows it: once the focus has moved, the click has been processed.
   const HWND focus = program_.Focus().Window();
-  RightClick(place);
+  RightClick(point);
   PressKey(VK_TAB);
   EXPECT_TRUE(Eventually([&] { return program_.Focus().Window() != focus; }));
   EXPECT_EQ(picked(), "0000");
   EXPECT_TRUE(Eventually([&] {
-    Click(place);
+    Click(point);
     return Eventually([&] { return picked() == "0000"; }, lostAfter);
   }));
   picker.End(FrmHotSpot_CmdOk);

@@ -48,12 +48,12 @@ void Saving::FindMany() {
 
 void Saving::KeepAsFound() {
   const RECT window = program_.Window().Place();
-  const POINT place{window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2};
+  const POINT point{window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2};
   // A program shows its pointer once the mouse moves over it. On a desktop without a mouse movement so far there is no
   // pointer.
   ASSERT_TRUE(Eventually([&] {
-    MovePointer({place.x + 8, place.y - 8});
-    MovePointer(place);
+    MovePointer({point.x + 8, point.y - 8});
+    MovePointer(point);
     return ShownPointer() != nullptr;
   }));
   found_ = Now();
@@ -165,7 +165,7 @@ void Saving::ExpectEachFileReportedOnDriveR() const {
 }
 
 void Saving::SelectByMouse(std::initializer_list<int> entries) const {
-  Places wanted(entries);
+  Indexes wanted(entries);
   for (int entry = 0; entry < List().RowCount(); ++entry) {
     const bool select = wanted.contains(entry);
     // A click that got lost is repeated.

@@ -17,7 +17,7 @@ namespace tarvik::end_to_end {
 using Pixels = std::vector<std::uint32_t>;  // 0xAABBGGRR, from the top-left corner; 0 for a transparent pixel
 using Names = std::vector<std::string>;
 
-// Places of the image types in the chooser's list.
+// Indexes of the image types in the chooser's list.
 enum ImageType { Bmp, Gif, Jpg };
 
 // Five icons found, and a folder to save them to.

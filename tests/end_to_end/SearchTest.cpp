@@ -84,8 +84,8 @@ TEST_F(Search, MarksTheFirstRowOfTheListInRed) {
   Find();
   program_.Item(FrmFindIcon_OptView1).Send(BM_CLICK);
   MovePointer({0, 0});
-  EXPECT_TRUE(Eventually([&] { return CountPixels(Screenshot(List().RowPlace(0)), red) > 0; }));
-  EXPECT_EQ(CountPixels(Screenshot(List().RowPlace(1)), red), 0);
+  EXPECT_TRUE(Eventually([&] { return CountPixels(Screenshot(List().RowBounds(0)), red) > 0; }));
+  EXPECT_EQ(CountPixels(Screenshot(List().RowBounds(1)), red), 0);
 }
 
 TEST_F(Search, GreysFileAndEditInTheMenuBarFromARefusalToTheNextSuccess) {

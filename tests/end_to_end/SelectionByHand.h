@@ -14,7 +14,7 @@
 
 namespace tarvik::end_to_end {
 
-using Places = std::set<int>;  // of entries, counted from 0
+using Indexes = std::set<int>;  // of entries, counted from 0
 
 // Icons found and selected by hand, and how the program then shows the selection.
 class SelectionByHand : public EndToEnd {
@@ -40,14 +40,14 @@ class SelectionByHand : public EndToEnd {
 
   // The position on the screen of a point of the grid's picture, or of the middle of an entry's cell. The display
   // enlarges the picture by its dpi divided by 96.
-  POINT GridPlace(int x, int y) const {
+  POINT GridPoint(int x, int y) const {
     const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
     const int dots = DotsOfDisplay();
     return {grid.left + (x * dots + 95) / 96, grid.top + (y * dots + 95) / 96};
   }
   POINT CellMiddle(int entry) const {
     const Point corner = IconCorner(*geometry_, entry);
-    return GridPlace(corner.x + geometry_->IconSize / 2, corner.y + geometry_->IconSize / 2);
+    return GridPoint(corner.x + geometry_->IconSize / 2, corner.y + geometry_->IconSize / 2);
   }
   void ClickCell(int entry, HeldKeys held = {}) const { Click(CellMiddle(entry), held); }
 
@@ -59,8 +59,8 @@ class SelectionByHand : public EndToEnd {
     ASSERT_TRUE(Eventually([&] { return box.IsChecked() != ticked; }));
   }
 
-  Places SelectedRows() const {
-    Places rows;
+  Indexes SelectedRows() const {
+    Indexes rows;
     const ReportView list = List();
     for (int row = 0; row < list.RowCount(); ++row) {
       if (list.IsSelected(row)) rows.insert(row);
@@ -69,11 +69,11 @@ class SelectionByHand : public EndToEnd {
   }
 
   // The visible entries with a whole black frame. A frame that is neither black nor white is reported as -1.
-  Places Frames() const {
+  Indexes Frames() const {
     const Screenshot shown(program_.Item(FrmFindIcon_PicFrame).Inside());
     const int scrolled = static_cast<int>(program_.Item(FrmFindIcon_PicFrame).Inside().top -
                                           program_.Item(FrmFindIcon_PicIcons).Place().top);
-    Places frames;
+    Indexes frames;
     for (int entry = 0; entry < List().RowCount(); ++entry) {
       const Point corner = FrameCorner(*geometry_, entry);
       const int top = corner.y - scrolled;
@@ -92,11 +92,11 @@ class SelectionByHand : public EndToEnd {
     const std::string path = List().Cell(entry, 1);
     EXPECT_TRUE(Eventually([&] { return Status() == path; })) << Status();
   }
-  void ExpectRows(const Places& expected) const {
+  void ExpectRows(const Indexes& expected) const {
     EXPECT_TRUE(Eventually([&] { return SelectedRows() == expected; }, shortly))
         << ::testing::PrintToString(SelectedRows());
   }
-  void ExpectFrames(const Places& expected) const {
+  void ExpectFrames(const Indexes& expected) const {
     EXPECT_TRUE(Eventually([&] { return Frames() == expected; }, shortly)) << ::testing::PrintToString(Frames());
   }
 

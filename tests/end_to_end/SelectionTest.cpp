@@ -79,9 +79,9 @@ TEST_F(GridSelection, TheRightButtonSelectsAsTheLeftDoes) {
 
 TEST_F(GridSelection, NothingRightOf580PixelsCanBeClicked) {
   FindHundred(Size16);
-  Click(GridPlace(580, 10));
+  Click(GridPoint(580, 10));
   ExpectCurrent(26);
-  for (const int x : {581, 600, 640, 684}) Click(GridPlace(x, 10));
+  for (const int x : {581, 600, 640, 684}) Click(GridPoint(x, 10));
   WaitForAllInput();
   ExpectCurrent(26);
   ExpectRows({26});
@@ -103,11 +103,11 @@ TEST_F(GridSelection, NothingAfterTheLastIconCanBeClicked) {
 
 TEST_F(GridSelection, TheGapBetweenTwoIconsBelongsToTheCellLeftAndAbove) {
   FindIconFiles(fewIcons);
-  Click(GridPlace(37, 37));
+  Click(GridPoint(37, 37));
   ExpectRows({0});
-  Click(GridPlace(38, 37));
+  Click(GridPoint(38, 37));
   ExpectCurrent(1);
-  Click(GridPlace(38, 38));
+  Click(GridPoint(38, 38));
   ExpectCurrent(16);
 }
 
@@ -153,7 +153,7 @@ TEST_F(GridSelection, TheMenuInvertsItWithItsFrames) {
   ClickCell(2);
   ClickCell(18, {VK_CONTROL});
   ExpectRows({2, 18});
-  Places others;
+  Indexes others;
   for (int entry = 0; entry < fewIcons; ++entry) {
     if (entry != 2 && entry != 18) others.insert(entry);
   }

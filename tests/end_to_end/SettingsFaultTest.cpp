@@ -65,7 +65,7 @@ class SettingsFaults : public EndToEnd {
   }
   std::string File() const { return ToUtf8(program_.SettingsFile().wstring()); }
 
-  const std::string unixFile_ = UnixQuoted(program_.SettingsFile());
+  const std::string unixFile_ = QuoteForUnix(program_.SettingsFile());
 };
 
 TEST_F(SettingsFaults, AFileThatAnotherProgramHoldsOpenIsReadAndStaysAsItIs) {
@@ -162,7 +162,7 @@ TEST_F(SettingsFaults, ALinkToNothingMeansTheDefaultsAndIsFollowedAtTheEnd) {
 
 TEST_F(SettingsFaults, ALinkToAFolderMeansTheDefaultsAndStays) {
   const std::string inside = tree_.MakeFile("inside");
-  Run("ln -s " + UnixQuoted(ToWide(tree_.Path())) + ' ' + unixFile_);
+  Run("ln -s " + QuoteForUnix(ToWide(tree_.Path())) + ' ' + unixFile_);
   StartWithDefaults();
   EXPECT_EQ(program_.Close(), 0U);
   Run("test -h " + unixFile_);

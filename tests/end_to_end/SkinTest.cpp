@@ -33,12 +33,12 @@ class Skinned : public ViewByHand {
     EXPECT_TRUE(Eventually([&] { return News() == entries; }, shortly)) << News() << "\ninstead of " << entries;
     known_ += News().size();
   }
-  std::string Applied(const Control& window) const {
+  std::string LogOfApplying(const Control& window) const {
     return "made|LoadSkin " + home_.In("Skins\\Galaxy.skn") + "|ApplySkin " +
            std::to_string(reinterpret_cast<LONG_PTR>(window.Window())) + "|";
   }
   // Checks that a newly opened window has got its skin, and no other window has.
-  void ExpectSkinOf(const Control& window) { ExpectNews(Applied(window)); }
+  void ExpectSkinOf(const Control& window) { ExpectNews(LogOfApplying(window)); }
   // Checks that a closed window released its component.
   void ExpectEnd() { ExpectNews("gone|"); }
   // For the windows that a command opens.
@@ -114,7 +114,7 @@ TEST_F(Skinned, AComponentThatFailsLeavesTheProgramAsItIs) {
   MakeSkinFile();
   SetEnvironmentVariableW(support::skinBehaviour, support::failsInApplySkin);
   FindPictures();
-  ExpectNews(Applied(program_.Window()) + "gone|");
+  ExpectNews(LogOfApplying(program_.Window()) + "gone|");
   EXPECT_FALSE(program_.FindBox());
 }
 

@@ -43,12 +43,12 @@ TEST_F(StartUp, TheAboutBoxStaysUntilOkAndOpensNoSecondMainWindow) {
 
 TEST_F(StartUp, TheMainWindowStandsInTheMiddleAndAThirdDown) {
   Start();
-  const RECT place = program_.Window().Place();
-  const LONG freeWidth = GetSystemMetrics(SM_CXSCREEN) - (place.right - place.left);
-  const LONG freeHeight = GetSystemMetrics(SM_CYSCREEN) - (place.bottom - place.top);
+  const RECT bounds = program_.Window().Place();
+  const LONG freeWidth = GetSystemMetrics(SM_CXSCREEN) - (bounds.right - bounds.left);
+  const LONG freeHeight = GetSystemMetrics(SM_CYSCREEN) - (bounds.bottom - bounds.top);
   // Positions are computed in twentieths of a point, so a pixel may be rounded either way.
-  EXPECT_NEAR(place.left, freeWidth / 2.0, 1.0);
-  EXPECT_NEAR(place.top, freeHeight / 3.0, 1.0);
+  EXPECT_NEAR(bounds.left, freeWidth / 2.0, 1.0);
+  EXPECT_NEAR(bounds.top, freeHeight / 3.0, 1.0);
 }
 
 TEST_F(StartUp, ASecondCopyStartsLikeTheFirst) {

@@ -19,7 +19,7 @@ using Counts = std::map<std::string, int>;  // icons by file name; files without
 
 // What wrestool of the icoutils package counts.
 Counts CountWithWrestool(const std::string& folder) {
-  const UnixAnswer answer = RunUnix("cd " + UnixQuoted(ToWide(folder)) +
+  const UnixAnswer answer = RunUnix("cd " + QuoteForUnix(ToWide(folder)) +
                                     " && for f in *.[dD][lL][lL]; do echo \"$(wrestool -l --type=group_icon \"$f\" "
                                     "2>/dev/null | wc -l) $f\"; done");
   EXPECT_EQ(answer.exitCode, 0) << answer.output;

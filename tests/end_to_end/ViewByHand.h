@@ -69,7 +69,7 @@ class ViewByHand : public SelectionByHand {
     int differences = 0;
     EXPECT_TRUE(Eventually(
         [&] {
-          const Screenshot shown(view.PicturePlace());
+          const Screenshot shown(view.PictureBounds());
           EXPECT_EQ(shown.Width(), size * factor);
           EXPECT_EQ(shown.Height(), size * factor);
           differences = 0;

@@ -22,16 +22,16 @@ class ViewToolbarKeys : public ViewByHand {
     return program_.Focus().Window() == view.Window().Child(frmBit_tlb_control).Window();
   }
   // The id of the highlighted button.
-  static int Marked(const EnhancedView& view) {
+  static int MarkedButton(const EnhancedView& view) {
     const Control toolbar = view.Window().Child(frmBit_tlb_control);
-    const auto place = static_cast<int>(toolbar.Send(TB_GETHOTITEM));
+    const auto index = static_cast<int>(toolbar.Send(TB_GETHOTITEM));
     for (int button = frmBit_tlb_control_MoveFirst; button <= frmBit_tlb_control_Exit; ++button) {
-      if (static_cast<int>(toolbar.Send(TB_COMMANDTOINDEX, static_cast<WPARAM>(button))) == place) return button;
+      if (static_cast<int>(toolbar.Send(TB_COMMANDTOINDEX, static_cast<WPARAM>(button))) == index) return button;
     }
     return 0;
   }
   static void ExpectMarked(const EnhancedView& view, int button) {
-    EXPECT_TRUE(Eventually([&] { return Marked(view) == button; })) << Marked(view);
+    EXPECT_TRUE(Eventually([&] { return MarkedButton(view) == button; })) << MarkedButton(view);
   }
 };
 
@@ -100,7 +100,7 @@ TEST_F(ViewToolbarKeys, TheMarkIsSeen) {
   PressKey(VK_RIGHT);
   ExpectMarked(view, frmBit_tlb_control_MovePrev);
   MovePointer({0, 0});
-  const RECT button = view.Toolbar().ButtonPlace(frmBit_tlb_control_MovePrev);
+  const RECT button = view.Toolbar().ButtonBounds(frmBit_tlb_control_MovePrev);
   EXPECT_TRUE(Eventually([&] {
     const Screenshot shown(button);
     int framed = 0;

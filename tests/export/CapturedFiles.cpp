@@ -29,10 +29,10 @@ IconPicture ManyColors() {
   IconPicture picture = BitmapPicture(32, 24, black, black);
   for (std::size_t row = 16; row < 32; ++row) {  // rows are stored from the bottom up: these are the upper half
     for (std::size_t x = 0; x < 32; ++x) {
-      const std::size_t place = headerBytes + row * rowBytes + x * 3;
-      picture.data[place] = static_cast<std::byte>(x * 8);
-      picture.data[place + 1] = static_cast<std::byte>(row * 7);
-      picture.data[place + 2] = static_cast<std::byte>((x + row) * 3);
+      const std::size_t offset = headerBytes + row * rowBytes + x * 3;
+      picture.data[offset] = static_cast<std::byte>(x * 8);
+      picture.data[offset + 1] = static_cast<std::byte>(row * 7);
+      picture.data[offset + 2] = static_cast<std::byte>((x + row) * 3);
     }
   }
   return picture;

@@ -48,10 +48,10 @@ TEST(FileDialogModes, NamesTheDefaultExtensions) {
   EXPECT_EQ(saveAsCursorMode.defaultExtension, ".cur");
 }
 
-TEST(ImageTypes, GiveAnExtensionForTheFirstNinePlacesOnly) {
+TEST(ImageTypes, GiveAnExtensionForTheFirstNineIndexesOnly) {
   constexpr std::array extensions{".bmp", ".gif", ".jpg", ".png", ".wbmp", ".tif", ".tga", ".wmf", ".emf"};
-  for (int place = 0; place < 9; ++place) {
-    EXPECT_EQ(ImageExtension(place), extensions.at(static_cast<std::size_t>(place)));
+  for (int index = 0; index < 9; ++index) {
+    EXPECT_EQ(ImageExtension(index), extensions.at(static_cast<std::size_t>(index)));
   }
   EXPECT_EQ(ImageExtension(-1), std::nullopt);
   EXPECT_EQ(ImageExtension(9), std::nullopt);

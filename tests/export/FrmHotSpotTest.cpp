@@ -37,7 +37,7 @@ class FrmHotSpotTest : public ::testing::Test {
   void Send(UINT message, int x, int y, WPARAM keys = 0) const {
     SendMessageW(Picture(), message, keys, MAKELPARAM(x, y));
   }
-  std::string Shown(int id) const { return form.ItemText(id); }
+  std::string LabelText(int id) const { return form.ItemText(id); }
 
   Application application{GetModuleHandleW(nullptr)};
   ProgramState state;
@@ -47,17 +47,17 @@ class FrmHotSpotTest : public ::testing::Test {
 
 TEST_F(FrmHotSpotTest, HasTheSizeOf7510By6295Twips) {
   Show();
-  RECT place;
-  GetWindowRect(form.Window(), &place);
+  RECT bounds;
+  GetWindowRect(form.Window(), &bounds);
   const WindowDc dc(form.Window());
-  EXPECT_NEAR(place.right - place.left, 7510 * GetDeviceCaps(dc.get(), LOGPIXELSX) / 1440.0, 0.5);
-  EXPECT_NEAR(place.bottom - place.top, 6295 * GetDeviceCaps(dc.get(), LOGPIXELSY) / 1440.0, 0.5);
+  EXPECT_NEAR(bounds.right - bounds.left, 7510 * GetDeviceCaps(dc.get(), LOGPIXELSX) / 1440.0, 0.5);
+  EXPECT_NEAR(bounds.bottom - bounds.top, 6295 * GetDeviceCaps(dc.get(), LOGPIXELSY) / 1440.0, 0.5);
 }
 
 TEST_F(FrmHotSpotTest, ShowsItsFirstHotSpotFromTheStart) {
   Show();
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "00");
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "00");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotX), "00");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotY), "00");
 }
 
 TEST_F(FrmHotSpotTest, ShowsTheWholeMagnifiedPicture) {
@@ -86,11 +86,11 @@ TEST_F(FrmHotSpotTest, FramesThePictureAndTheReadings) {
   Show();
   const WindowDc dc(form.Window());
   for (const int id : {FrmHotSpot_PicCursor, FrmHotSpot_ImgXY}) {
-    RECT place;
-    GetWindowRect(form.Item(id), &place);
-    MapWindowPoints(nullptr, form.Window(), reinterpret_cast<POINT*>(&place), 2);
-    EXPECT_EQ(GetPixel(dc.get(), place.left - 2, place.top + 20), GetSysColor(COLOR_BTNSHADOW)) << id;
-    EXPECT_EQ(GetPixel(dc.get(), place.right + 1, place.top + 20), GetSysColor(COLOR_BTNHIGHLIGHT)) << id;
+    RECT bounds;
+    GetWindowRect(form.Item(id), &bounds);
+    MapWindowPoints(nullptr, form.Window(), reinterpret_cast<POINT*>(&bounds), 2);
+    EXPECT_EQ(GetPixel(dc.get(), bounds.left - 2, bounds.top + 20), GetSysColor(COLOR_BTNSHADOW)) << id;
+    EXPECT_EQ(GetPixel(dc.get(), bounds.right + 1, bounds.top + 20), GetSysColor(COLOR_BTNHIGHLIGHT)) << id;
   }
 }
 
@@ -99,7 +99,7 @@ TEST_F(FrmHotSpotTest, ShowsItsTextsInEachLanguage) {
     state.CurrentLanguage = language;
     Show();
     for (const FormText& row : hotSpotTexts) {
-      const std::string shown = row.id == formCaption ? TextOf(form.Window()) : Shown(row.id);
+      const std::string shown = row.id == formCaption ? TextOf(form.Window()) : LabelText(row.id);
       EXPECT_EQ(shown, *Pick(row.text, language));
     }
     form.Unload();
@@ -116,8 +116,8 @@ TEST_F(FrmHotSpotTest, ShowsEachClickBoundedAtZero) {
   Show();
   form.SetItemText(FrmHotSpot_LblHotX, "changed by a click");
   Send(WM_LBUTTONDOWN, 200, 300);
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "00");
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "00");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotX), "00");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotY), "00");
   Command(form.Window(), FrmHotSpot_CmdOk, BN_CLICKED);
   EXPECT_FALSE(form.IsLoaded());
   EXPECT_FALSE(state.HotSpotCancelled);
@@ -130,27 +130,27 @@ TEST_F(FrmHotSpotTest, TakesAClickAtScale4ForTheFirstPixel) {
   Show();
   Send(WM_MOUSEMOVE, 13, 29);
   Send(WM_LBUTTONDOWN, 13, 29);
-  EXPECT_EQ(Shown(FrmHotSpot_lblxy), "00, 00");
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "00");
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "00");
+  EXPECT_EQ(LabelText(FrmHotSpot_lblxy), "00, 00");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotX), "00");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotY), "00");
   form.Unload();
   state.HotSpotBound = 40;  // shows the values that the limit hid
   Show();
   Send(WM_LBUTTONDOWN, 13, 29);
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "03");
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "07");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotX), "03");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotY), "07");
 }
 
 TEST_F(FrmHotSpotTest, DividesByTheScaleUpToTheBound) {
   state.HotSpotBound = 40;
   Show();
   Send(WM_LBUTTONDOWN, 6 * 3 + 5, 384);
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "03");
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "40");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotX), "03");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotY), "40");
   Send(WM_MOUSEMOVE, 6 * 7, 6 * 15);
-  EXPECT_EQ(Shown(FrmHotSpot_lblxy), "07, 15");
+  EXPECT_EQ(LabelText(FrmHotSpot_lblxy), "07, 15");
   Send(WM_LBUTTONDBLCLK, 6 * 12, 6);
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "12") << "the second press of a double click too";
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotX), "12") << "the second press of a double click too";
   Command(form.Window(), FrmHotSpot_CmdOk, BN_CLICKED);
   EXPECT_EQ(state.HotSpotX, 12);
   EXPECT_EQ(state.HotSpotY, 1);
@@ -161,15 +161,15 @@ TEST_F(FrmHotSpotTest, TakesNoClickOfAnotherButton) {
   Show();
   Send(WM_RBUTTONDOWN, 200, 300);
   Send(WM_MBUTTONDOWN, 200, 300);
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotX), "00");
-  EXPECT_EQ(Shown(FrmHotSpot_LblHotY), "00");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotX), "00");
+  EXPECT_EQ(LabelText(FrmHotSpot_LblHotY), "00");
 }
 
-TEST_F(FrmHotSpotTest, ShowsThePlaceUnderThePointerBoundedAtZero) {
+TEST_F(FrmHotSpotTest, ShowsThePositionOfThePointerBoundedAtZero) {
   Show();
   for (const int x : {0, 13, 384, -20}) {
     Send(WM_MOUSEMOVE, x, 29);
-    EXPECT_EQ(Shown(FrmHotSpot_lblxy), "00, 00");
+    EXPECT_EQ(LabelText(FrmHotSpot_lblxy), "00, 00");
   }
 }
 
@@ -202,12 +202,12 @@ class HotSpotOnDisplay : public FrmHotSpotTest {
 
   // The first display pixel that shows a pixel of the picture.
   int Begin(int pixel) const { return (pixel * dots + 95) / 96; }
-  int Number(int id) const { return std::stoi(Shown(id)); }
-  RECT PlaceOf(int id) const {
-    RECT place;
-    GetWindowRect(form.Item(id), &place);
-    MapWindowPoints(nullptr, form.Window(), reinterpret_cast<POINT*>(&place), 2);
-    return place;
+  int Number(int id) const { return std::stoi(LabelText(id)); }
+  RECT BoundsOf(int id) const {
+    RECT bounds;
+    GetWindowRect(form.Item(id), &bounds);
+    MapWindowPoints(nullptr, form.Window(), reinterpret_cast<POINT*>(&bounds), 2);
+    return bounds;
   }
 };
 
@@ -220,20 +220,20 @@ TEST_F(HotSpotOnDisplay, FillsTheWindowWithItsPicture) {
   const auto* const row = std::ranges::find(rows, dots, &Row::dots);
   ASSERT_NE(row, rows.end()) << dots;
   Show();
-  const RECT place = PlaceOf(FrmHotSpot_PicCursor);
-  EXPECT_EQ(place.right - place.left, row->side);
-  EXPECT_EQ(place.bottom - place.top, row->side);
+  const RECT bounds = BoundsOf(FrmHotSpot_PicCursor);
+  EXPECT_EQ(bounds.right - bounds.left, row->side);
+  EXPECT_EQ(bounds.bottom - bounds.top, row->side);
   RECT client;
   GetClientRect(form.Window(), &client);
-  EXPECT_GE(place.bottom - place.top, client.bottom * 95 / 100);
-  EXPECT_LE(place.top, client.bottom - place.bottom + 3) << "the margins above and below are alike";
-  const RECT readings = PlaceOf(FrmHotSpot_ImgXY);
-  EXPECT_LE(place.right + 2, readings.left - 2) << "the frames do not touch";
+  EXPECT_GE(bounds.bottom - bounds.top, client.bottom * 95 / 100);
+  EXPECT_LE(bounds.top, client.bottom - bounds.bottom + 3) << "the margins above and below are alike";
+  const RECT readings = BoundsOf(FrmHotSpot_ImgXY);
+  EXPECT_LE(bounds.right + 2, readings.left - 2) << "the frames do not touch";
   EXPECT_LE(readings.right + 2, client.right);
   EXPECT_TRUE(dots != 96 || readings.left == 402) << readings.left << ", not where the dialog has it";
   for (const int id : {FrmHotSpot_LblHotX, FrmHotSpot_LblHotY, FrmHotSpot_lblxy, FrmHotSpot_CmdOk}) {
-    EXPECT_GE(PlaceOf(id).left, readings.left) << id;
-    EXPECT_LE(PlaceOf(id).right, readings.right + 2) << id;
+    EXPECT_GE(BoundsOf(id).left, readings.left) << id;
+    EXPECT_LE(BoundsOf(id).right, readings.right + 2) << id;
   }
 }
 
@@ -266,7 +266,7 @@ TEST_F(HotSpotOnDisplay, AClickMeansThePixelUnderThePointer) {
     EXPECT_EQ(Number(FrmHotSpot_LblHotY), pixel);
   }
   Send(WM_MOUSEMOVE, Begin(6 * 7), Begin(6 * 16) - 1);
-  EXPECT_EQ(Shown(FrmHotSpot_lblxy), "07, 15");
+  EXPECT_EQ(LabelText(FrmHotSpot_lblxy), "07, 15");
 }
 
 }  // namespace

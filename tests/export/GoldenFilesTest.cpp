@@ -121,10 +121,10 @@ TestRaster PaletteRaster(int size) {
 Bytes PaletteBytesOf(std::size_t firstColorEntry) {
   Bytes bytes(1024, 0);
   for (std::size_t n = 0; n < 200; ++n) {
-    const std::size_t place = (firstColorEntry + n) * 4;
-    bytes[place] = static_cast<std::uint8_t>(n + 1);
-    bytes[place + 1] = static_cast<std::uint8_t>(255 - n);
-    bytes[place + 2] = static_cast<std::uint8_t>(7 * n % 256);
+    const std::size_t offset = (firstColorEntry + n) * 4;
+    bytes[offset] = static_cast<std::uint8_t>(n + 1);
+    bytes[offset + 1] = static_cast<std::uint8_t>(255 - n);
+    bytes[offset + 2] = static_cast<std::uint8_t>(7 * n % 256);
   }
   return bytes;
 }
@@ -132,14 +132,14 @@ Bytes PaletteBytesOf(std::size_t firstColorEntry) {
 // Black, the colours, and white at the end.
 Bytes IconPaletteBytes() {
   Bytes bytes = PaletteBytesOf(1);
-  for (const std::size_t place : {1020U, 1021U, 1022U}) bytes[place] = 255;
+  for (const std::size_t offset : {1020U, 1021U, 1022U}) bytes[offset] = 255;
   return bytes;
 }
 
 // Black and white, with which the picture begins, and the colours.
 Bytes BitmapPaletteBytes() {
   Bytes bytes = PaletteBytesOf(2);
-  for (const std::size_t place : {4U, 5U, 6U}) bytes[place] = 255;
+  for (const std::size_t offset : {4U, 5U, 6U}) bytes[offset] = 255;
   return bytes;
 }
 

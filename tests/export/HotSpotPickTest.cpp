@@ -14,7 +14,7 @@ TEST(HotSpotPick, ScalesByA64thOfThePicturesSide) {
   EXPECT_EQ(HotSpotScale(1 + 4 * 64 + 33), 5);
 }
 
-TEST(HotSpotPick, DividesThePlaceByTheScale) {
+TEST(HotSpotPick, DividesThePositionByTheScale) {
   EXPECT_EQ(PickedCoordinate(13, 4, farBound), 3);
   EXPECT_EQ(PickedCoordinate(29, 4, farBound), 7);
   EXPECT_EQ(PickedCoordinate(0, 4, farBound), 0);

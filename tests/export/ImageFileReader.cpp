@@ -10,10 +10,10 @@ class Reader {
  public:
   explicit Reader(const std::vector<std::uint8_t>& file) : file_(file) {}
 
-  std::uint32_t U8(std::size_t place) const { return file_.at(place); }
-  std::uint32_t U16(std::size_t place) const { return U8(place) | U8(place + 1) << 8U; }
-  std::uint32_t U32(std::size_t place) const { return U16(place) | U16(place + 2) << 16U; }
-  Color BlueGreenRed(std::size_t place) const { return U8(place) << 16U | U8(place + 1) << 8U | U8(place + 2); }
+  std::uint32_t U8(std::size_t offset) const { return file_.at(offset); }
+  std::uint32_t U16(std::size_t offset) const { return U8(offset) | U8(offset + 1) << 8U; }
+  std::uint32_t U32(std::size_t offset) const { return U16(offset) | U16(offset + 2) << 16U; }
+  Color BlueGreenRed(std::size_t offset) const { return U8(offset) << 16U | U8(offset + 1) << 8U | U8(offset + 2); }
 
   // The value of the pixel x in the row that starts at `row`, high bits first.
   std::uint32_t Bits(std::size_t row, std::size_t x, std::size_t bits) const {
@@ -57,9 +57,9 @@ std::vector<Color> ReadColors(const Reader& reader, const Header& header, std::s
   for (std::size_t y = 0; y < height; ++y) {
     const std::size_t row = start + (height - 1 - y) * Stride(header.width, header.bits);
     for (std::size_t x = 0; x < header.width; ++x) {
-      const std::size_t place =
+      const std::size_t offset =
           header.bits == 24 ? row + 3 * x : header.paletteStart + std::size_t{4} * reader.Bits(row, x, header.bits);
-      colors.push_back(reader.BlueGreenRed(place));
+      colors.push_back(reader.BlueGreenRed(offset));
     }
   }
   return colors;

@@ -19,8 +19,8 @@ using support::TestRaster;
 
 std::uint32_t NumberAt(const MemorySink& sink, std::size_t offset, int width) {
   std::uint32_t number = 0;
-  for (int place = width - 1; place >= 0; --place) {
-    number = number * 256 + sink.bytes.at(offset + static_cast<std::size_t>(place));
+  for (int index = width - 1; index >= 0; --index) {
+    number = number * 256 + sink.bytes.at(offset + static_cast<std::size_t>(index));
   }
   return number;
 }
@@ -95,8 +95,8 @@ TEST(WriteBitmap, WritesTenByteRowsForTwoColoursAt64Pixels) {
   MemorySink sink;
   ASSERT_TRUE(WriteBitmap(TestRaster(64, 64, white), ColorClass::Two, "a.bmp", sink));
   ASSERT_EQ(sink.bytes.size(), 62U + 640U);
-  for (std::size_t place = 0; place < 640; ++place) {
-    EXPECT_EQ(sink.bytes[62 + place], place % 10 < 8 ? 255 : 0) << place;
+  for (std::size_t index = 0; index < 640; ++index) {
+    EXPECT_EQ(sink.bytes[62 + index], index % 10 < 8 ? 255 : 0) << index;
   }
 }
 
@@ -104,7 +104,7 @@ TEST(WriteBitmap, WritesFourByteRowsForTwoColoursAt32Pixels) {
   MemorySink sink;
   ASSERT_TRUE(WriteBitmap(TestRaster(32, 32, white), ColorClass::Two, "a.bmp", sink));
   ASSERT_EQ(sink.bytes.size(), 62U + 128U);
-  for (std::size_t place = 62; place < sink.bytes.size(); ++place) EXPECT_EQ(sink.bytes[place], 255);
+  for (std::size_t offset = 62; offset < sink.bytes.size(); ++offset) EXPECT_EQ(sink.bytes[offset], 255);
 }
 
 TEST(WriteBitmap, FillsAllPaletteEntriesWith256Colours) {

@@ -20,7 +20,7 @@ Bytes BytesOf(const ByteWriter& file) {
   return bytes;
 }
 
-Bytes Written(void (*writer)(const PixelCopy&, ByteWriter&), const TestRaster& raster) {
+Bytes BytesFrom(void (*writer)(const PixelCopy&, ByteWriter&), const TestRaster& raster) {
   ByteWriter file(0);
   writer(PixelCopy(raster), file);
   return BytesOf(file);
@@ -37,25 +37,25 @@ TEST(Write1Bit, PutsTheLeftmostOfEightPixelsInTheHighBitAndTheBottomRowFirst) {
   raster.Set(0, 1, white);
   raster.Set(15, 1, white);
   raster.Set(31, 0, white);
-  EXPECT_EQ(Written(Write1Bit, raster), (Bytes{0x80, 0x01, 0, 0, 0, 0, 0, 0x01}));
+  EXPECT_EQ(BytesFrom(Write1Bit, raster), (Bytes{0x80, 0x01, 0, 0, 0, 0, 0, 0x01}));
 }
 
 TEST(Write1Bit, TakesOnlyExactWhiteForOne) {
   TestRaster raster(32, 1, 0xFEFFFF);
   raster.Set(1, 0, 0xFFFFFFFF);
   raster.Set(2, 0, white);
-  EXPECT_EQ(Written(Write1Bit, raster), (Bytes{0x20, 0, 0, 0}));
+  EXPECT_EQ(BytesFrom(Write1Bit, raster), (Bytes{0x20, 0, 0, 0}));
 }
 
 TEST(Write1Bit, AddsTwoZeroBytesToEachRowUnlessItIs32PixelsWide) {
-  EXPECT_EQ(Written(Write1Bit, TestRaster(16, 1, white)), (Bytes{255, 255, 0, 0}));
-  EXPECT_EQ(Written(Write1Bit, TestRaster(32, 1, white)), (Bytes{255, 255, 255, 255}));
-  EXPECT_EQ(Written(Write1Bit, TestRaster(48, 1, white)), (Bytes{255, 255, 255, 255, 255, 255, 0, 0}));
-  EXPECT_EQ(Written(Write1Bit, TestRaster(64, 1, white)), (Bytes{255, 255, 255, 255, 255, 255, 255, 255, 0, 0}));
+  EXPECT_EQ(BytesFrom(Write1Bit, TestRaster(16, 1, white)), (Bytes{255, 255, 0, 0}));
+  EXPECT_EQ(BytesFrom(Write1Bit, TestRaster(32, 1, white)), (Bytes{255, 255, 255, 255}));
+  EXPECT_EQ(BytesFrom(Write1Bit, TestRaster(48, 1, white)), (Bytes{255, 255, 255, 255, 255, 255, 0, 0}));
+  EXPECT_EQ(BytesFrom(Write1Bit, TestRaster(64, 1, white)), (Bytes{255, 255, 255, 255, 255, 255, 255, 255, 0, 0}));
 }
 
 TEST(Write1Bit, FillsTheLastByteOfAWidthThatIsNoMultipleOfEightWithZeroBits) {
-  EXPECT_EQ(Written(Write1Bit, TestRaster(11, 1, white)), (Bytes{0xFF, 0xE0, 0, 0}));
+  EXPECT_EQ(BytesFrom(Write1Bit, TestRaster(11, 1, white)), (Bytes{0xFF, 0xE0, 0, 0}));
 }
 
 TEST(Write4Bit, PutsTheFirstOfTwoPixelsInTheHighHalfAndTheBottomRowFirst) {
@@ -64,24 +64,24 @@ TEST(Write4Bit, PutsTheFirstOfTwoPixelsInTheHighHalfAndTheBottomRowFirst) {
   raster.Set(1, 1, 0xC0C0C0);  // 7
   raster.Set(2, 1, 0xFFFFFF);  // 15
   raster.Set(3, 0, 0x808080);  // 8
-  EXPECT_EQ(Written(Write4Bit, raster), (Bytes{0x97, 0xF0, 0x00, 0x08}));
+  EXPECT_EQ(BytesFrom(Write4Bit, raster), (Bytes{0x97, 0xF0, 0x00, 0x08}));
 }
 
 TEST(Write4Bit, KeepsTheIndexLastFoundForThatHalfAcrossRows) {
   TestRaster raster(4, 2, 0x123456);  // a colour without entry
   raster.Set(2, 1, 0x0000FF);         // 9, a left half in the bottom row
   raster.Set(1, 0, 0xFFFFFF);         // 15, a right half in the top row
-  EXPECT_EQ(Written(Write4Bit, raster), (Bytes{0x00, 0x90, 0x9F, 0x9F}));
+  EXPECT_EQ(BytesFrom(Write4Bit, raster), (Bytes{0x00, 0x90, 0x9F, 0x9F}));
 }
 
 TEST(Write4Bit, RepeatsTheRightHalfLastFoundAfterTheLastPixelOfAnOddRow) {
   TestRaster raster(3, 1, 0x0000FF);  // 9
   raster.Set(1, 0, 0xC0C0C0);         // 7
-  EXPECT_EQ(Written(Write4Bit, raster), (Bytes{0x97, 0x97}));
+  EXPECT_EQ(BytesFrom(Write4Bit, raster), (Bytes{0x97, 0x97}));
 }
 
 TEST(Write4Bit, ComparesOnlyBlueGreenAndRed) {
-  EXPECT_EQ(Written(Write4Bit, TestRaster(2, 1, 0xFFFFFFFF)), (Bytes{0xFF}));
+  EXPECT_EQ(BytesFrom(Write4Bit, TestRaster(2, 1, 0xFFFFFFFF)), (Bytes{0xFF}));
 }
 
 TEST(Write8Bit, GivesBlackZeroAndWhite255WhereverThePaletteHasThem) {
@@ -122,12 +122,12 @@ TEST(Write8Bit, FindsNoColourInTheFirstAndTheLastEntry) {
 TEST(Write24Bit, WritesBlueGreenRedAndNoPadding) {
   TestRaster raster(1, 2, 0x332211);
   raster.Set(0, 1, 0xFFEEDD);
-  EXPECT_EQ(Written(Write24Bit, raster), (Bytes{0xFF, 0xEE, 0xDD, 0x33, 0x22, 0x11}));
+  EXPECT_EQ(BytesFrom(Write24Bit, raster), (Bytes{0xFF, 0xEE, 0xDD, 0x33, 0x22, 0x11}));
 }
 
 TEST(WritePadded24Bit, FillsEachRowToWholeWords) {
-  EXPECT_EQ(Written(WritePadded24Bit, TestRaster(1, 2, 0x332211)), (Bytes{0x33, 0x22, 0x11, 0, 0x33, 0x22, 0x11, 0}));
-  EXPECT_EQ(Written(WritePadded24Bit, TestRaster(4, 1, 0x332211)), Written(Write24Bit, TestRaster(4, 1, 0x332211)));
+  EXPECT_EQ(BytesFrom(WritePadded24Bit, TestRaster(1, 2, 0x332211)), (Bytes{0x33, 0x22, 0x11, 0, 0x33, 0x22, 0x11, 0}));
+  EXPECT_EQ(BytesFrom(WritePadded24Bit, TestRaster(4, 1, 0x332211)), BytesFrom(Write24Bit, TestRaster(4, 1, 0x332211)));
 }
 
 }  // namespace

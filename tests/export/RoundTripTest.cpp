@@ -50,7 +50,7 @@ class RandomPictures {
  public:
   explicit RandomPictures(std::uint32_t seed) : random_(seed) {}
 
-  int Number(int least, int most) { return std::uniform_int_distribution<int>(least, most)(random_); }
+  int Number(int min, int max) { return std::uniform_int_distribution<int>(min, max)(random_); }
   Color AnyColor() { return static_cast<Color>(Number(0, 0xFFFFFF)); }
 
   // A picture of that class, counted in the same way for icons and bitmaps. True colour needs 32 pixels or more.

@@ -28,7 +28,9 @@ class SaveCommandsTest : public ::testing::Test {
     return paths;
   }
   // One byte of a written file.
-  int Byte(const std::string& path, std::size_t place) { return std::to_integer<int>(files.bytes.at(path).at(place)); }
+  int Byte(const std::string& path, std::size_t offset) {
+    return std::to_integer<int>(files.bytes.at(path).at(offset));
+  }
 
   support::Script script;
   ProgramState state;

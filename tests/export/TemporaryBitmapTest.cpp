@@ -40,7 +40,7 @@ TEST_F(TemporaryBitmapTest, GivesThePictureBackAsItIs) {
   }
 }
 
-TEST_F(TemporaryBitmapTest, IsAtItsFirstPlaceWhileItLives) {
+TEST_F(TemporaryBitmapTest, IsAtItsFirstPathWhileItLives) {
   ASSERT_NE(bitmap.PassThrough(TestRaster(16, 16)), nullptr);
   EXPECT_EQ(bitmap.Path(), first);
   EXPECT_TRUE(Exists(first));
@@ -60,11 +60,11 @@ TEST_F(TemporaryBitmapTest, IsTrueColourAndAsLongAsItsPicture) {
 TEST_F(TemporaryBitmapTest, LeavesAFileOfTheUsersAlone) {
   folder.MakeFile("tmp.bmp", "mine");
   ASSERT_NE(bitmap.PassThrough(TestRaster(16, 16)), nullptr);
-  const std::string place = bitmap.Path();
-  EXPECT_TRUE(place.starts_with(second)) << place;
-  EXPECT_TRUE(Exists(place));
+  const std::string path = bitmap.Path();
+  EXPECT_TRUE(path.starts_with(second)) << path;
+  EXPECT_TRUE(Exists(path));
   bitmap.Delete();
-  EXPECT_FALSE(Exists(place));
+  EXPECT_FALSE(Exists(path));
   EXPECT_EQ(ReadAll(first), "mine");
 }
 

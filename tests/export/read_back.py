@@ -72,14 +72,14 @@ def shown_by_palette(colors, size):
     shown = [BLACK] * len(colors)
     previous = entries[0]
     for y in reversed(range(size)):
-        for place in range(y * size, (y + 1) * size):
-            if colors[place] == BLACK:
+        for index in range(y * size, (y + 1) * size):
+            if colors[index] == BLACK:
                 previous = entries[0]
-            elif colors[place] == WHITE:
+            elif colors[index] == WHITE:
                 previous = entries[255]
-            elif colors[place] in usable:
-                previous = colors[place]
-            shown[place] = previous
+            elif colors[index] in usable:
+                previous = colors[index]
+            shown[index] = previous
     return shown
 
 

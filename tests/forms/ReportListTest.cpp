@@ -55,7 +55,7 @@ class ReportListTest : public support::FindIconFixture {
     return {};
   }
 
-  static std::string Joined(std::string lines) {
+  static std::string JoinLines(std::string lines) {
     for (std::size_t end = 0; (end = lines.find("\r\n")) != std::string::npos;) lines.erase(end, 2);
     return lines;
   }
@@ -65,9 +65,9 @@ class ReportListTest : public support::FindIconFixture {
 
 TEST_F(ReportListTest, SaysInATipWhatACellIsTooNarrowFor) {
   ShowList();
-  EXPECT_EQ(Joined(TipOf(1, path)), folder_ + "\\some.dll");
+  EXPECT_EQ(JoinLines(TipOf(1, path)), folder_ + "\\some.dll");
   EXPECT_EQ(TipOf(1, 0), "") << "a number fits";
-  EXPECT_EQ(Joined(TipOf(2, path)), folder_ + "\\some.dll");
+  EXPECT_EQ(JoinLines(TipOf(2, path)), folder_ + "\\some.dll");
   EXPECT_EQ(TipOf(1, 2), "");
 }
 
@@ -125,7 +125,7 @@ TEST_F(ReportListTest, BreaksALongTextInItsTipIntoLinesThatFitTheScreen) {
   machine.icons[wide + "\\some.dll"] = 3;
   ShowList();
   const std::string text = TipOf(1, path);
-  EXPECT_EQ(Joined(text), wide + "\\some.dll");
+  EXPECT_EQ(JoinLines(text), wide + "\\some.dll");
   const WindowDc dc(List());
   const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageW(List(), WM_GETFONT, 0, 0)));
   RECT lines{};
@@ -137,9 +137,9 @@ TEST_F(ReportListTest, BreaksALongTextInItsTipIntoLinesThatFitTheScreen) {
 class ColumnWidthTest : public ReportListTest {
  protected:
   void Enlarge(int width) {
-    RECT place{};
-    GetWindowRect(window->Window(), &place);
-    SetWindowPos(window->Window(), nullptr, 0, 0, place.right - place.left + width, place.bottom - place.top,
+    RECT bounds{};
+    GetWindowRect(window->Window(), &bounds);
+    SetWindowPos(window->Window(), nullptr, 0, 0, bounds.right - bounds.left + width, bounds.bottom - bounds.top,
                  SWP_NOZORDER);
     application.DoEvents();
   }

@@ -30,28 +30,28 @@ class NotedList final : public support::ComObject<ITaskbarList3> {
   }
 
   // What the program does not use.
-  HRESULT STDMETHODCALLTYPE AddTab(HWND) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE DeleteTab(HWND) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE ActivateTab(HWND) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE SetActiveAlt(HWND) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE MarkFullscreenWindow(HWND, WINBOOL) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE RegisterTab(HWND, HWND) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE UnregisterTab(HWND) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE SetTabOrder(HWND, HWND) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE SetTabActive(HWND, HWND, DWORD) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE ThumbBarAddButtons(HWND, UINT, LPTHUMBBUTTON) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE ThumbBarUpdateButtons(HWND, UINT, LPTHUMBBUTTON) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE ThumbBarSetImageList(HWND, HIMAGELIST) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE SetOverlayIcon(HWND, HICON, LPCWSTR) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE SetThumbnailTooltip(HWND, LPCWSTR) override { return Unexpected(); }
-  HRESULT STDMETHODCALLTYPE SetThumbnailClip(HWND, RECT*) override { return Unexpected(); }
+  HRESULT STDMETHODCALLTYPE AddTab(HWND) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE DeleteTab(HWND) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE ActivateTab(HWND) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE SetActiveAlt(HWND) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE MarkFullscreenWindow(HWND, WINBOOL) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE RegisterTab(HWND, HWND) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE UnregisterTab(HWND) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE SetTabOrder(HWND, HWND) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE SetTabActive(HWND, HWND, DWORD) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE ThumbBarAddButtons(HWND, UINT, LPTHUMBBUTTON) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE ThumbBarUpdateButtons(HWND, UINT, LPTHUMBBUTTON) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE ThumbBarSetImageList(HWND, HIMAGELIST) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE SetOverlayIcon(HWND, HICON, LPCWSTR) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE SetThumbnailTooltip(HWND, LPCWSTR) override { return LogUnexpected(); }
+  HRESULT STDMETHODCALLTYPE SetThumbnailClip(HWND, RECT*) override { return LogUnexpected(); }
 
   std::string diary;
   HRESULT initResult = S_OK;
 
  private:
   static std::string NameOf(HWND window) { return " of " + std::to_string(reinterpret_cast<INT_PTR>(window)) + '|'; }
-  HRESULT Unexpected() {
+  HRESULT LogUnexpected() {
     diary += "unexpected|";
     return S_OK;
   }

@@ -32,7 +32,7 @@ class UnwritableDisk : public Saving {
  protected:
   explicit UnwritableDisk(const char* variable) : path_(MountedDisk(variable)) {}
 
-  std::string UnixFolder() const { return UnixQuoted(ToWide(path_)); }
+  std::string UnixFolder() const { return QuoteForUnix(ToWide(path_)); }
   // Everything on the disk with its content, as the host system reports it.
   std::string Contents() const {
     return RunUnix("cd " + UnixFolder() + " && ls -lA --time-style=full-iso && tail -n +1 -- *").output;

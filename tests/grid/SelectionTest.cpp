@@ -51,11 +51,11 @@ class SelectionTest : public ::testing::Test {
     if (count > 0) list.Select(1);
   }
   // Clicks the middle of an entry's cell, by its number.
-  void Click(int number, int shift = noKey) {
+  void Click(int number, int heldKeys = noKey) {
     const Point corner = IconCorner(state.Geometry, number - 1);
-    selection.PicIcons_MouseUp(shift, corner.x + 10, corner.y + 10);
+    selection.PicIcons_MouseUp(heldKeys, corner.x + 10, corner.y + 10);
   }
-  std::vector<int> Selected() const {
+  std::vector<int> SelectedNumbers() const {
     std::vector<int> numbers;
     for (int number = 1; number <= list.Count(); ++number) {
       if (list.Item(number).selected) numbers.push_back(number);
@@ -79,7 +79,7 @@ TEST_F(SelectionTest, SelectsTheClickedEntryAloneInThisOrder) {
               ElementsAre("label Icon No 2 Selected.", "erase frame (39,1)(75,37)", "erase frame (77,1)(113,37)",
                           "erase frame (115,1)(151,37)", "erase frame (1,1)(37,37)", "show frame (39,1)(75,37)",
                           "list changed", "status C:\\one.dll"));
-  EXPECT_THAT(Selected(), ElementsAre(2));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(2));
   EXPECT_EQ(state.CurrentIndex, 1);
   EXPECT_EQ(state.FrameX, 39);
   EXPECT_EQ(state.FrameY, 1);
@@ -89,7 +89,7 @@ TEST_F(SelectionTest, AddsAnEntryWithCtrl) {
   Click(17, ctrlAlone);
   EXPECT_THAT(script.Lines(), ElementsAre("label Icon No 17 Selected.", "show frame (39,39)(75,75)", "list changed",
                                           "status C:\\two.dll"));
-  EXPECT_THAT(Selected(), ElementsAre(1, 17));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(1, 17));
   EXPECT_EQ(state.CurrentIndex, 16);
   EXPECT_EQ(state.FrameX, 39);
   EXPECT_EQ(state.FrameY, 39);
@@ -103,23 +103,23 @@ TEST_F(SelectionTest, TakesASelectedEntryOutWithCtrlAndMakesItCurrent) {
   Click(3, ctrlAlone);
   EXPECT_THAT(script.Lines("erase frame"), ElementsAre("erase frame (77,1)(113,37)"));
   EXPECT_THAT(script.Lines("show frame"), IsEmpty());
-  EXPECT_THAT(Selected(), ElementsAre(4, 5));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(4, 5));
   EXPECT_EQ(state.CurrentIndex, 2);
   EXPECT_EQ(state.FrameX, 77);
 }
 
 TEST_F(SelectionTest, TakesCtrlWithAnotherKeyForAPlainClick) {
-  for (const int shift : {ctrlAndShift, 1, 4, 6, 7}) {
+  for (const int heldKeys : {ctrlAndShift, 1, 4, 6, 7}) {
     Click(5);
-    Click(6, shift);
-    EXPECT_THAT(Selected(), ElementsAre(6)) << shift;
+    Click(6, heldKeys);
+    EXPECT_THAT(SelectedNumbers(), ElementsAre(6)) << heldKeys;
   }
 }
 
 TEST_F(SelectionTest, SelectsAgainWhatIsSelectedWithAPlainClick) {
   Click(4);
   Click(4);
-  EXPECT_THAT(Selected(), ElementsAre(4));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(4));
   EXPECT_EQ(script.Lines().end()[-3], "show frame (115,1)(151,37)");
 }
 
@@ -129,7 +129,7 @@ TEST_F(SelectionTest, LeavesTheFirstCellsFrameWhenOthersWereAddedToIt) {
   script.Clear();
   Click(3);
   EXPECT_THAT(script.Lines("erase frame (1,1)"), IsEmpty());
-  EXPECT_THAT(Selected(), ElementsAre(3));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(3));
 }
 
 TEST_F(SelectionTest, ErasesTheFirstCellsFrameWhenItIsTheCurrentOne) {
@@ -169,7 +169,7 @@ TEST_F(SelectionTest, TakesAPointPastARowsEndForTheNextRowsFirstEntry) {
   selection.PicIcons_MouseUp(ctrlAlone, 572, 10);
   EXPECT_EQ(state.CurrentIndex, 15);
   EXPECT_THAT(script.Lines("show frame"), ElementsAre("show frame (571,1)(607,37)"));
-  EXPECT_THAT(Selected(), ElementsAre(1, 16));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(1, 16));
 }
 
 struct DeadPoint {
@@ -189,7 +189,7 @@ TEST_F(SelectionTest, NeverReachesTheLastColumnsAtTheSmallestSize) {
   state.Geometry = gridGeometries[0];
   Fill(31);
   Click(26, ctrlAlone);
-  EXPECT_THAT(Selected(), ElementsAre(1, 26));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(1, 26));
   script.Clear();
   for (const int number : {28, 29, 30, 31}) Click(number, ctrlAlone);
   EXPECT_THAT(script.Lines(), IsEmpty());
@@ -200,7 +200,7 @@ TEST_F(SelectionTest, DoesNothingAfterTheLastIcon) {
   script.Clear();
   Click(21);
   EXPECT_THAT(script.Lines(), IsEmpty());
-  EXPECT_THAT(Selected(), ElementsAre(20));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(20));
   EXPECT_EQ(state.CurrentIndex, 19);
 }
 
@@ -212,7 +212,7 @@ TEST_F(SelectionTest, DoesNothingWhileASearchRuns) {
   selection.ChooseAll();
   selection.mnuRem_Click();
   EXPECT_THAT(script.Lines(), IsEmpty());
-  EXPECT_THAT(Selected(), ElementsAre(1));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(1));
 }
 
 // A refused search empties the list, but the counts remain.
@@ -238,7 +238,7 @@ TEST_F(SelectionTest, AnswersForNoMoreEntriesThanWereCounted) {
   Click(11);
   EXPECT_THAT(script.Lines(), IsEmpty());
   Click(10);
-  EXPECT_THAT(Selected(), ElementsAre(10));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(10));
 }
 
 TEST_F(SelectionTest, AnswersForNoEntryBeyondTheNextIconsNumber) {
@@ -278,20 +278,20 @@ TEST_F(SelectionTest, ChoosesARowAsAClickOnItsCellDoes) {
   Fill(3);
   selection.ChooseRow(2, noKey);
   const auto byRow = script.Lines();
-  const auto selectedByRow = Selected();
+  const auto selectedByRow = SelectedNumbers();
   Fill(3);
   script.Clear();
   Click(2);
   EXPECT_EQ(byRow, script.Lines());
-  EXPECT_EQ(selectedByRow, Selected());
+  EXPECT_EQ(selectedByRow, SelectedNumbers());
   EXPECT_EQ(state.FrameX, 39);
 }
 
 TEST_F(SelectionTest, AddsAndRemovesRowsWithCtrl) {
   selection.ChooseRow(3, ctrlAlone);
-  EXPECT_THAT(Selected(), ElementsAre(1, 3));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(1, 3));
   selection.ChooseRow(1, ctrlAlone);
-  EXPECT_THAT(Selected(), ElementsAre(3));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(3));
   EXPECT_EQ(state.CurrentIndex, 0);
 }
 
@@ -299,7 +299,7 @@ TEST_F(SelectionTest, ReachesEveryRowWhateverTheGridsBound) {
   state.Geometry = gridGeometries[0];
   Fill(31);
   selection.ChooseRow(31, noKey);
-  EXPECT_THAT(Selected(), ElementsAre(31));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(31));
   EXPECT_EQ(state.FrameX, 661);
 }
 
@@ -309,7 +309,7 @@ TEST_F(SelectionTest, ChoosesNoRowThatIsNotThere) {
   selection.ChooseRange(0, 3, false);
   selection.ChooseRange(3, 21, false);
   EXPECT_THAT(script.Lines(), IsEmpty());
-  EXPECT_THAT(Selected(), ElementsAre(1));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(1));
 }
 
 TEST_F(SelectionTest, ChoosesARangeWithItsFrames) {
@@ -319,7 +319,7 @@ TEST_F(SelectionTest, ChoosesARangeWithItsFrames) {
               ElementsAre("label Icon No 3 Selected.", "erase frame (1,1)(37,37)", "erase frame (1,1)(37,37)",
                           "show frame (39,1)(75,37)", "show frame (77,1)(113,37)", "erase frame (115,1)(151,37)",
                           "list changed", "status C:\\one.dll"));
-  EXPECT_THAT(Selected(), ElementsAre(2, 3));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(2, 3));
   EXPECT_EQ(state.CurrentIndex, 2);
   EXPECT_EQ(state.FrameX, 77);
   EXPECT_EQ(state.FrameY, 1);
@@ -327,13 +327,13 @@ TEST_F(SelectionTest, ChoosesARangeWithItsFrames) {
 
 TEST_F(SelectionTest, ChoosesARangeUpwards) {
   selection.ChooseRange(16, 14, false);
-  EXPECT_THAT(Selected(), ElementsAre(14, 15, 16));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(14, 15, 16));
   EXPECT_EQ(state.CurrentIndex, 13);
 }
 
 TEST_F(SelectionTest, AddsARangeToTheSelection) {
   selection.ChooseRange(5, 6, true);
-  EXPECT_THAT(Selected(), ElementsAre(1, 5, 6));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(1, 5, 6));
   EXPECT_THAT(script.Lines("erase frame"), IsEmpty());
 }
 
@@ -349,7 +349,7 @@ TEST_F(SelectionTest, ChoosesAllAndKeepsTheCurrentEntry) {
   Click(2);
   script.Clear();
   selection.ChooseAll();
-  EXPECT_EQ(Selected().size(), 20U);
+  EXPECT_EQ(SelectedNumbers().size(), 20U);
   EXPECT_EQ(script.Lines("show frame").size(), 20U);
   EXPECT_THAT(script.Lines("label"), IsEmpty());
   EXPECT_THAT(script.Lines("status"), IsEmpty());
@@ -363,7 +363,7 @@ TEST_F(SelectionTest, InvertsEveryEntryWithItsFrame) {
   selection.mnuRem_Click();
   EXPECT_THAT(script.Lines(), ElementsAre("erase frame (1,1)(37,37)", "erase frame (39,1)(75,37)",
                                           "show frame (77,1)(113,37)", "list changed"));
-  EXPECT_THAT(Selected(), ElementsAre(3));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(3));
   EXPECT_EQ(state.CurrentIndex, 1);
   EXPECT_EQ(state.FrameX, 39);
 }
@@ -373,7 +373,7 @@ TEST_F(SelectionTest, IsAsItWasAfterInvertingTwice) {
   Click(11, ctrlAlone);
   selection.mnuRem_Click();
   selection.mnuRem_Click();
-  EXPECT_THAT(Selected(), ElementsAre(9, 11));
+  EXPECT_THAT(SelectedNumbers(), ElementsAre(9, 11));
 }
 
 TEST_F(SelectionTest, DoesNothingOnAnEmptyList) {

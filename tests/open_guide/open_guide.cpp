@@ -20,15 +20,15 @@ using ::testing::EndsWith;
 class Guide : public EndToEnd {
  protected:
   // The arguments that the browser got; the script names the file in which they are logged.
-  static std::string Opened() { return RunUnix(R"(cat "$TARVIK_OPENED")").output; }
+  static std::string OpenedAddress() { return RunUnix(R"(cat "$TARVIK_OPENED")").output; }
 };
 
 TEST_F(Guide, OpensInABrowserOfThisMachine) {
   fs::copy(BuiltFile(TARVIK_GUIDE), fs::path(ToWide(home_.In("guide"))), fs::copy_options::recursive);
   program_.Start();
   program_.Window().Post(WM_COMMAND, FrmFindIcon_MnuContent);
-  EXPECT_TRUE(Eventually([] { return !Opened().empty(); }));
-  EXPECT_THAT(Opened(), EndsWith("/guide/guide-eng.html\n"));
+  EXPECT_TRUE(Eventually([] { return !OpenedAddress().empty(); }));
+  EXPECT_THAT(OpenedAddress(), EndsWith("/guide/guide-eng.html\n"));
   EXPECT_FALSE(program_.FindBox());
 }
 

@@ -54,20 +54,20 @@ def check(fact, told):
         wrong.append(told)
 
 
-def check_form(value, form, place):
+def check_form(value, form, where):
     """Whether a value has a form: a pattern for a text, a list of one form, or keys with their forms."""
     if isinstance(form, dict):
         keys = {key.lstrip('?') for key in form}
-        check(isinstance(value, dict) and {key for key in form if key[0] != '?'} <= set(value) <= keys, f'{place}: {value}')
+        check(isinstance(value, dict) and {key for key in form if key[0] != '?'} <= set(value) <= keys, f'{where}: {value}')
         for key, its_form in form.items():
             if isinstance(value, dict) and key.lstrip('?') in value:
-                check_form(value[key.lstrip('?')], its_form, f'{place}, {key.lstrip("?")}')
+                check_form(value[key.lstrip('?')], its_form, f'{where}, {key.lstrip("?")}')
     elif isinstance(form, list):
-        check(isinstance(value, list) and len(value) > 0 and len(value) == len({str(each) for each in value}), f'{place}: {value}')
+        check(isinstance(value, list) and len(value) > 0 and len(value) == len({str(each) for each in value}), f'{where}: {value}')
         for each in value if isinstance(value, list) else []:
-            check_form(each, form[0], place)
+            check_form(each, form[0], where)
     else:
-        check(isinstance(value, str) and re.fullmatch(form, value), f'{place}: {value}')
+        check(isinstance(value, str) and re.fullmatch(form, value), f'{where}: {value}')
 
 
 def read_yaml(written):

@@ -12,7 +12,7 @@
 namespace tarvik {
 namespace {
 
-HGLOBAL Dropped(const std::vector<std::string>& paths) {
+HGLOBAL MakeDrop(const std::vector<std::string>& paths) {
   const std::vector<std::byte> block = support::DroppedBlock(paths);
   const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, block.size());
   std::memcpy(GlobalLock(memory), block.data(), block.size());
@@ -22,7 +22,7 @@ HGLOBAL Dropped(const std::vector<std::string>& paths) {
 
 TEST(DroppedFiles, GiveTheFirstPathOfAnyLengthAndScript) {
   const auto take = [](const std::vector<std::string>& paths) {
-    return TakeFirstDropped(static_cast<HDROP>(Dropped(paths)));
+    return TakeFirstDropped(static_cast<HDROP>(MakeDrop(paths)));
   };
   EXPECT_EQ(take({"C:\\图标 😀.ico", "C:\\other"}), "C:\\图标 😀.ico");
   const std::string deep = "C:\\" + std::string(5'000, 'a');
@@ -31,7 +31,7 @@ TEST(DroppedFiles, GiveTheFirstPathOfAnyLengthAndScript) {
 }
 
 TEST(DroppedFiles, AreReleased) {
-  const HGLOBAL memory = Dropped({"C:\\a"});
+  const HGLOBAL memory = MakeDrop({"C:\\a"});
   TakeFirstDropped(static_cast<HDROP>(memory));
   EXPECT_EQ(GlobalFlags(memory), static_cast<UINT>(GMEM_INVALID_HANDLE));
 }

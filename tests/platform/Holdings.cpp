@@ -57,9 +57,9 @@ int CountUserHandles(HANDLE process) {
   const auto number = [&probes] { return reinterpret_cast<ULONG_PTR>(probes.back()); };
   do probes.push_back(CreateMenu());
   while (probes.back() != nullptr && HIWORD(number()) != 1);
-  const int places = LOWORD(number()) / 2;  // positions are even numbers
+  const int positions = LOWORD(number()) / 2;  // positions are even numbers
   for (const HMENU probe : probes) DestroyMenu(probe);
-  return places - static_cast<int>(probes.size());
+  return positions - static_cast<int>(probes.size());
 }
 
 std::int64_t UsedBytes(HANDLE process) {

@@ -76,7 +76,7 @@ void AppendMask(Bytes& bytes, int size) {
 }
 
 // A zlib stream in which the bytes are stored uncompressed; at most 65,535 bytes.
-Bytes Stored(const Bytes& content) {
+Bytes ZlibStreamOf(const Bytes& content) {
   Bytes stream{std::byte{0x78}, std::byte{0x01}, std::byte{1}};
   Append16(stream, content.size());
   Append16(stream, ~content.size());
@@ -142,7 +142,7 @@ IconPicture PngPicture(int size, Color left, Color right) {
   IconPicture picture{size, 32, {}};
   Append(picture.data, "\x89PNG\r\n\x1A\n");
   AppendPngChunk(picture.data, "IHDR", header);
-  AppendPngChunk(picture.data, "IDAT", Stored(rows));
+  AppendPngChunk(picture.data, "IDAT", ZlibStreamOf(rows));
   AppendPngChunk(picture.data, "IEND", {});
   return picture;
 }

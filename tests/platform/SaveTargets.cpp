@@ -15,8 +15,8 @@
 namespace tarvik::support {
 namespace {
 
+using end_to_end::QuoteForUnix;
 using end_to_end::RunUnix;
-using end_to_end::UnixQuoted;
 
 enum class Kind { Free, File, Link, LinkToNothing, LinkToItself, LinkToFolder, LinkToPipe, SecondName, Folder, Pipe };
 
@@ -93,8 +93,8 @@ void Run(const std::string& command) {
   EXPECT_EQ(answer.exitCode, 0) << command << ": " << answer.output;
 }
 
-std::string Quoted(const std::string& path) {
-  return UnixQuoted(ToWide(path));
+std::string Quote(const std::string& path) {
+  return QuoteForUnix(ToWide(path));
 }
 
 DWORD AttributesOf(const std::string& path) {
@@ -142,7 +142,7 @@ SaveTargets::SaveTargets(std::string folder, std::string elsewhere,
 SaveTargets::~SaveTargets() {
   holders_.clear();
   for (const std::string& folder : {folder_, elsewhere_})
-    RunUnix("cd " + Quoted(folder) + " && chmod -R u+w . && rm -rf -- *");
+    RunUnix("cd " + Quote(folder) + " && chmod -R u+w . && rm -rf -- *");
 }
 
 std::string SaveTargets::Path(int number) const {
@@ -150,13 +150,13 @@ std::string SaveTargets::Path(int number) const {
 }
 
 // What must be kept: the target itself, or the target of a link or of a second name.
-std::string SaveTargets::Kept(int number) const {
+std::string SaveTargets::KeptPath(int number) const {
   return LeadsElsewhere(RowOf(number).kind) ? JoinPath(elsewhere_, std::to_string(number)) : Path(number);
 }
 
 // The file with the text to be kept.
 std::string SaveTargets::KeptFile(int number) const {
-  return IsKeptFolder(RowOf(number).kind) ? JoinPath(Kept(number), "inside") : Kept(number);
+  return IsKeptFolder(RowOf(number).kind) ? JoinPath(KeptPath(number), "inside") : KeptPath(number);
 }
 
 std::string SaveTargets::Name(int number) const {
@@ -165,26 +165,26 @@ std::string SaveTargets::Name(int number) const {
 
 // A target, and what must be kept, in the form of the host system's shell.
 std::string SaveTargets::UnixTarget(int number) const {
-  return Quoted(folder_) + "/'" + Name(number) + '\'';
+  return Quote(folder_) + "/'" + Name(number) + '\'';
 }
-std::string SaveTargets::UnixKept(int number) const {
-  return LeadsElsewhere(RowOf(number).kind) ? Quoted(elsewhere_) + '/' + std::to_string(number) : UnixTarget(number);
+std::string SaveTargets::UnixKeptPath(int number) const {
+  return LeadsElsewhere(RowOf(number).kind) ? Quote(elsewhere_) + '/' + std::to_string(number) : UnixTarget(number);
 }
 
 void SaveTargets::Make(int number) {
   const Row& row = RowOf(number);
   const std::string path = Path(number);
-  const std::string kept = Kept(number);
+  const std::string kept = KeptPath(number);
   if (IsKeptFolder(row.kind)) {
     EXPECT_NE(CreateDirectoryW(LiteralPath(kept).c_str(), nullptr), 0);
     WriteKept(KeptFile(number));
   }
   if (row.kind == Kind::File || row.kind == Kind::Link || row.kind == Kind::SecondName) WriteKept(kept);
-  if (row.kind == Kind::Pipe || row.kind == Kind::LinkToPipe) Run("mkfifo " + UnixKept(number));
+  if (row.kind == Kind::Pipe || row.kind == Kind::LinkToPipe) Run("mkfifo " + UnixKeptPath(number));
   if (row.kind == Kind::LinkToNothing) Run("ln -s nothing " + UnixTarget(number));
   if (row.kind == Kind::LinkToItself) Run("ln -s '" + Name(number) + "' " + UnixTarget(number));
   if (LeadsElsewhere(row.kind) && row.kind != Kind::SecondName)
-    Run("ln -s " + UnixKept(number) + ' ' + UnixTarget(number));
+    Run("ln -s " + UnixKeptPath(number) + ' ' + UnixTarget(number));
   if (row.kind == Kind::SecondName) {
     EXPECT_NE(CreateHardLinkW(LiteralPath(path).c_str(), LiteralPath(kept).c_str(), nullptr), 0);
   }
@@ -208,14 +208,14 @@ void SaveTargets::ExpectSaved(const std::string& start, ReadOnlyFile readOnly) {
     }
     if (row.kind == Kind::LinkToFolder || row.kind == Kind::LinkToPipe) Run("test -h " + UnixTarget(number));
     if (row.kind == Kind::Pipe || row.kind == Kind::LinkToPipe) {
-      Run("test -p " + UnixKept(number));
+      Run("test -p " + UnixKeptPath(number));
       continue;
     }
     const bool stays =
         LeadsElsewhere(row.kind) || IsKeptFolder(row.kind) || (row.kind == Kind::File && !TakesAFile(number, readOnly));
     if (!stays) continue;
     EXPECT_TRUE(ReadAll(KeptFile(number)) == KeptText()) << row.what;
-    EXPECT_EQ((AttributesOf(Kept(number)) & FILE_ATTRIBUTE_READONLY) != 0, row.readOnly) << row.what;
+    EXPECT_EQ((AttributesOf(KeptPath(number)) & FILE_ATTRIBUTE_READONLY) != 0, row.readOnly) << row.what;
   }
   EXPECT_THAT(NamesIn(folder_), ::testing::UnorderedElementsAreArray(names_));
 }

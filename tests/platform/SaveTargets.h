@@ -37,10 +37,10 @@ class SaveTargets : NonCopyable {
 
  private:
   void Make(int number);
-  std::string Kept(int number) const;
+  std::string KeptPath(int number) const;
   std::string KeptFile(int number) const;
   std::string UnixTarget(int number) const;
-  std::string UnixKept(int number) const;
+  std::string UnixKeptPath(int number) const;
 
   std::string folder_;
   std::string elsewhere_;

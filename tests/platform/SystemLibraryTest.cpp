@@ -40,7 +40,7 @@ class PlantedLibrary : NonCopyable {
 
   const std::string& Name() const { return name_; }
   // Whether the DLL is valid: it loads by its full path.
-  bool LoadsFromItsPlace() const {
+  bool LoadsByItsPath() const {
     const HMODULE module = LoadLibraryW(beside_.c_str());
     if (module != nullptr) FreeLibrary(module);
     return module != nullptr;
@@ -63,7 +63,7 @@ TEST_P(EachWayOfLoading, TakesTheSystemsLibrary) {
 
 TEST_P(EachWayOfLoading, TakesNoLibraryFromTheProgramsFolderOrTheCurrentOne) {
   const PlantedLibrary planted("planted" + std::to_string(GetCurrentProcessId()) + ".dll");
-  ASSERT_TRUE(planted.LoadsFromItsPlace());
+  ASSERT_TRUE(planted.LoadsByItsPath());
   EXPECT_EQ(GetParam()(planted.Name().c_str()), nullptr);
 }
 

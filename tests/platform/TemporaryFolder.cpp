@@ -67,13 +67,13 @@ void RunBelowWine(const wchar_t* program, std::wstring command, const std::wstri
     Sleep(1);
 }
 
-std::wstring Quoted(const char* text) {
+std::wstring Quote(const char* text) {
   return L" \"" + ToWide(text) + L"\"";
 }
 
 void MakeSystemLink(const std::wstring& link, const std::wstring& target) {
   if (const UnixName unixName = UnixNameFunction()) {
-    RunBelowWine(L"Z:\\bin\\ln", L"ln -s" + Quoted(unixName(target.c_str())) + Quoted(unixName(link.c_str())), link,
+    RunBelowWine(L"Z:\\bin\\ln", L"ln -s" + Quote(unixName(target.c_str())) + Quote(unixName(link.c_str())), link,
                  true);
     return;
   }
@@ -85,7 +85,7 @@ void MakeSystemLink(const std::wstring& link, const std::wstring& target) {
 // Wine would delete the link's target.
 void RemoveLink(const std::wstring& link) {
   if (const UnixName unixName = UnixNameFunction())
-    RunBelowWine(L"Z:\\bin\\rm", L"rm -f" + Quoted(unixName(link.c_str())), link, false);
+    RunBelowWine(L"Z:\\bin\\rm", L"rm -f" + Quote(unixName(link.c_str())), link, false);
 }
 
 }  // namespace

@@ -16,11 +16,11 @@ class SmallestScreen : public ViewByHand {
     ASSERT_EQ(GetSystemMetrics(SM_CXSCREEN), screen_.right);
     ASSERT_EQ(GetSystemMetrics(SM_CYSCREEN), screen_.bottom);
   }
-  void ExpectOnScreen(const RECT& place) const {
-    EXPECT_GE(place.left, screen_.left);
-    EXPECT_GE(place.top, screen_.top);
-    EXPECT_LE(place.right, screen_.right);
-    EXPECT_LE(place.bottom, screen_.bottom);
+  void ExpectOnScreen(const RECT& bounds) const {
+    EXPECT_GE(bounds.left, screen_.left);
+    EXPECT_GE(bounds.top, screen_.top);
+    EXPECT_LE(bounds.right, screen_.right);
+    EXPECT_LE(bounds.bottom, screen_.bottom);
   }
 
   const RECT screen_{0, 0, 800, 600};
@@ -41,13 +41,13 @@ TEST_F(SmallestScreen, AMaximisedViewShowsTheLargestPictureAtItsPlace) {
   EXPECT_EQ(inside.left, screen_.left);
   EXPECT_EQ(inside.right, screen_.right);
   EXPECT_LE(inside.bottom, screen_.bottom);
-  const RECT picture = view.PicturePlaceInWindow();
+  const RECT picture = view.PictureBoundsInWindow();
   EXPECT_EQ(picture.left, 100);
   EXPECT_EQ(picture.top, 100);
   EXPECT_EQ(picture.right - picture.left, 64 * maxZoom);
   EXPECT_EQ(picture.bottom - picture.top, 64 * maxZoom);
   // Its whole width is visible, and as much of its height as fits on the screen.
-  EXPECT_LE(view.PicturePlace().right, screen_.right);
+  EXPECT_LE(view.PictureBounds().right, screen_.right);
   SavePicture(screen_, BuiltFile("../../../run/smallest-screen-view.png"));
 }
 
@@ -74,7 +74,7 @@ TEST_F(SmallestScreen, ShowsTheWholeOfALongPathInATip) {
   expectTip(CellMiddle(0), path + "Index 0");
   program_.Item(FrmFindIcon_OptView1).Press();
   ASSERT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Lv).IsVisible(); }));
-  expectTip(MiddleOf(List().RowPlace(0)), path);
+  expectTip(MiddleOf(List().RowBounds(0)), path);
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ inline Lines Refusing() {
   return {"enable CmdFind", "enable CmdClose", "disable CmdOk", "disable mnuFile", "disable mnuEdit", "clear grid"};
 }
 
-inline Lines Joined(std::initializer_list<Lines> pieces) {
+inline Lines Join(std::initializer_list<Lines> pieces) {
   Lines all;
   for (const Lines& piece : pieces) all.insert(all.end(), piece.begin(), piece.end());
   return all;

@@ -284,11 +284,11 @@ TEST_F(SearchDriverTest, TakesTheFailureExitWhenTheCountOverflows) {
   AddFile("C:\\a", "1.dll", {.icons = 32767});
   AddFile("C:\\a", "2.dll", {.icons = 1});
   EXPECT_THROW(Find(), OverflowError);
-  EXPECT_EQ(script.Lines(), Joined({Starting(),
-                                    {"hourglass 1", "files of C:\\a", "count C:\\a\\1.dll",
-                                     "caption Brindle Tarvik - C:\\a - 32767 Icons", "count C:\\a\\2.dll",
-                                     "pointer back 1", "clear list view"},
-                                    Refusing()}));
+  EXPECT_EQ(script.Lines(), Join({Starting(),
+                                  {"hourglass 1", "files of C:\\a", "count C:\\a\\1.dll",
+                                   "caption Brindle Tarvik - C:\\a - 32767 Icons", "count C:\\a\\2.dll",
+                                   "pointer back 1", "clear list view"},
+                                  Refusing()}));
   EXPECT_FALSE(state.IsSearching);
 }
 

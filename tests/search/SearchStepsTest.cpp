@@ -52,24 +52,24 @@ TEST_P(FilledSearchTest, RunsItsStepsInOrder) {
                           "draw C:\\a\\move.ANI#0 on grid at (117,3) size 32 step 1", "release C:\\a\\move.ANI#0"};
   const Lines ending{"keep picture",    "show frame (1,1)(37,37)", "enable CmdFind", "enable CmdOk",
                      "enable CmdClose", "enable mnuFile",          "enable mnuEdit", "list changed"};
-  const Lines expected = Joined({Starting(),
-                                 counting,
-                                 Optional("caption ", texts.count[0]),
-                                 trying,
-                                 Optional("caption ", texts.count[1]),
-                                 readyToList,
-                                 Optional("status ", texts.searching),
-                                 {"files of C:\\a"},
-                                 Optional("status ", texts.adding1),
-                                 drawingTwo,
-                                 Optional("status ", texts.adding3),
-                                 trying,
-                                 drawingMove,
-                                 Optional("status ", texts.added),
-                                 {"pointer back 1"},
-                                 Optional("caption ", texts.title),
-                                 Optional("label ", texts.label),
-                                 ending});
+  const Lines expected = Join({Starting(),
+                               counting,
+                               Optional("caption ", texts.count[0]),
+                               trying,
+                               Optional("caption ", texts.count[1]),
+                               readyToList,
+                               Optional("status ", texts.searching),
+                               {"files of C:\\a"},
+                               Optional("status ", texts.adding1),
+                               drawingTwo,
+                               Optional("status ", texts.adding3),
+                               trying,
+                               drawingMove,
+                               Optional("status ", texts.added),
+                               {"pointer back 1"},
+                               Optional("caption ", texts.title),
+                               Optional("label ", texts.label),
+                               ending});
   EXPECT_EQ(script.Lines(), expected);
 }
 
@@ -122,12 +122,12 @@ TEST_P(RefusedSearchTest, RunsItsStepsInOrder) {
 
   Find();
 
-  EXPECT_EQ(script.Lines(), Joined({Starting(),
-                                    {"hourglass 1", "files of C:\\a", "count C:\\a\\x.dll"},
-                                    Optional("caption ", refused.caption),
-                                    {"pointer back 1", "clear list view"},
-                                    Optional("box ", refused.box),
-                                    Refusing()}));
+  EXPECT_EQ(script.Lines(), Join({Starting(),
+                                  {"hourglass 1", "files of C:\\a", "count C:\\a\\x.dll"},
+                                  Optional("caption ", refused.caption),
+                                  {"pointer back 1", "clear list view"},
+                                  Optional("box ", refused.box),
+                                  Refusing()}));
   EXPECT_EQ(list.Count(), 0);
   EXPECT_FALSE(state.IsSearching);
 }

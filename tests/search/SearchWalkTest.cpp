@@ -48,7 +48,7 @@ TEST_F(SearchWalkTest, MovesTheListsThroughEachFolderInOrderInBothPasses) {
       "File1 C:\\a\\b\\c", "files of C:\\a\\b\\c", "Dir1 C:\\a\\b\\c", "sub-folders of C:\\a\\b\\c", "Dir1 C:\\a",
       "File1 C:\\a\\d",    "files of C:\\a\\d",    "Dir1 C:\\a\\d",    "sub-folders of C:\\a\\d",    "Dir1 C:\\a"};
   Find();
-  EXPECT_EQ(Moves(), Joined({pass, {"clear grid"}, pass}));
+  EXPECT_EQ(Moves(), Join({pass, {"clear grid"}, pass}));
   EXPECT_EQ(window.dir1, "C:\\a");
   EXPECT_EQ(window.file1, "C:\\a");
 }

@@ -31,10 +31,10 @@ TEST_F(FindIconFixture, HasRoomForItsTextsInEveryLanguage) {
 
 TEST_F(FindIconFixture, StandsInTheMiddleAThirdOfTheSpareHeightDown) {
   Open();
-  RECT place;
-  GetWindowRect(window->Window(), &place);
-  EXPECT_NEAR(place.left * 2, GetSystemMetrics(SM_CXSCREEN) - (place.right - place.left), 1);
-  EXPECT_NEAR(place.top * 3, GetSystemMetrics(SM_CYSCREEN) - (place.bottom - place.top), 1);
+  RECT bounds;
+  GetWindowRect(window->Window(), &bounds);
+  EXPECT_NEAR(bounds.left * 2, GetSystemMetrics(SM_CXSCREEN) - (bounds.right - bounds.left), 1);
+  EXPECT_NEAR(bounds.top * 3, GetSystemMetrics(SM_CYSCREEN) - (bounds.bottom - bounds.top), 1);
 }
 
 TEST_F(FindIconFixture, OpensTheAboutBoxAndTheGuideFromItsHelpMenu) {

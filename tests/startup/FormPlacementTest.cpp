@@ -13,13 +13,13 @@ namespace {
 
 class FormPlacementTest : public ::testing::Test {
  protected:
-  RECT PlaceAfterCentering(int width, int height) {
+  RECT BoundsAfterCentering(int width, int height) {
     form.Load();
     SetWindowPos(form.Window(), nullptr, 5, 7, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
     basInitEntry::CenterForm(form);
-    RECT place;
-    GetWindowRect(form.Window(), &place);
-    return place;
+    RECT bounds;
+    GetWindowRect(form.Window(), &bounds);
+    return bounds;
   }
 
   const int screenWidth = GetSystemMetrics(SM_CXSCREEN);
@@ -29,21 +29,21 @@ class FormPlacementTest : public ::testing::Test {
 };
 
 TEST_F(FormPlacementTest, CentersAWindowAThirdOfTheSpareHeightDown) {
-  const RECT place = PlaceAfterCentering(screenWidth - 300, screenHeight - 300);
-  EXPECT_EQ(place.left, 150);
-  EXPECT_EQ(place.top, 100);
+  const RECT bounds = BoundsAfterCentering(screenWidth - 300, screenHeight - 300);
+  EXPECT_EQ(bounds.left, 150);
+  EXPECT_EQ(bounds.top, 100);
 }
 
 TEST_F(FormPlacementTest, LeavesTheSizeAlone) {
-  const RECT place = PlaceAfterCentering(501, 377);
-  EXPECT_EQ(place.right - place.left, 501);
-  EXPECT_EQ(place.bottom - place.top, 377);
+  const RECT bounds = BoundsAfterCentering(501, 377);
+  EXPECT_EQ(bounds.right - bounds.left, 501);
+  EXPECT_EQ(bounds.bottom - bounds.top, 377);
 }
 
 TEST_F(FormPlacementTest, PutsAWindowAsLargeAsTheScreenIntoItsCorner) {
-  const RECT place = PlaceAfterCentering(screenWidth, screenHeight);
-  EXPECT_EQ(place.left, 0);
-  EXPECT_EQ(place.top, 0);
+  const RECT bounds = BoundsAfterCentering(screenWidth, screenHeight);
+  EXPECT_EQ(bounds.left, 0);
+  EXPECT_EQ(bounds.top, 0);
 }
 
 TEST_F(FormPlacementTest, AppliesNoSkinWhereThereIsNone) {

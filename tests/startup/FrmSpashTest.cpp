@@ -56,11 +56,11 @@ class FrmSpashTest : public ::testing::Test {
   }
   void ExpectPicture() {
     application.DoEvents();
-    RECT place;
-    GetClientRect(spash->Item(FrmSpash_Picture), &place);
+    RECT bounds;
+    GetClientRect(spash->Item(FrmSpash_Picture), &bounds);
     const WindowDc dc(spash->Item(FrmSpash_Picture));
     EXPECT_EQ(GetPixel(dc.get(), 0, 0), RGB(0x1D, 0x2D, 0x52));
-    const COLORREF corner = GetPixel(dc.get(), place.right - 1, place.bottom - 1);
+    const COLORREF corner = GetPixel(dc.get(), bounds.right - 1, bounds.bottom - 1);
     EXPECT_NEAR(GetBValue(corner), 0x86, 2);
   }
   void Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
@@ -136,12 +136,12 @@ TEST_F(FrmSpashTest, HasRoomForItsTextsInEveryLanguage) {
 
 TEST_F(FrmSpashTest, StandsInTheMiddleAThirdOfTheSpareHeightDown) {
   const auto check = [this] {
-    RECT place;
-    GetWindowRect(spash->Window(), &place);
-    const int spareWidth = GetSystemMetrics(SM_CXSCREEN) - (place.right - place.left);
-    const int spareHeight = GetSystemMetrics(SM_CYSCREEN) - (place.bottom - place.top);
-    EXPECT_NEAR(place.left * 2, spareWidth, 1);
-    EXPECT_NEAR(place.top * 3, spareHeight, 1);
+    RECT bounds;
+    GetWindowRect(spash->Window(), &bounds);
+    const int spareWidth = GetSystemMetrics(SM_CXSCREEN) - (bounds.right - bounds.left);
+    const int spareHeight = GetSystemMetrics(SM_CYSCREEN) - (bounds.bottom - bounds.top);
+    EXPECT_NEAR(bounds.left * 2, spareWidth, 1);
+    EXPECT_NEAR(bounds.top * 3, spareHeight, 1);
   };
   Open();
   check();

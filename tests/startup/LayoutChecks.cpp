@@ -35,12 +35,12 @@ std::vector<HWND> VisibleControls(HWND window) {
   return controls;
 }
 
-std::string Described(HWND control) {
-  RECT place;
-  GetWindowRect(control, &place);
-  MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
-  return std::to_string(GetDlgCtrlID(control)) + " (" + std::to_string(place.left) + "," + std::to_string(place.top) +
-         ")-(" + std::to_string(place.right) + "," + std::to_string(place.bottom) + ")";
+std::string Describe(HWND control) {
+  RECT bounds;
+  GetWindowRect(control, &bounds);
+  MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&bounds), 2);
+  return std::to_string(GetDlgCtrlID(control)) + " (" + std::to_string(bounds.left) + "," + std::to_string(bounds.top) +
+         ")-(" + std::to_string(bounds.right) + "," + std::to_string(bounds.bottom) + ")";
 }
 
 LONG LetterHeight(HWND control) {
@@ -121,7 +121,7 @@ std::vector<std::string> OverlappingControls(HWND window) {
       GetWindowRect(controls[first], &one);
       GetWindowRect(controls[second], &other);
       if (IntersectRect(&both, &one, &other) != FALSE)
-        found.push_back(Described(controls[first]) + " over " + Described(controls[second]));
+        found.push_back(Describe(controls[first]) + " over " + Describe(controls[second]));
     }
   }
   return found;
@@ -131,11 +131,11 @@ std::vector<std::string> ControlsOutside(HWND window) {
   std::vector<std::string> found;
   const SIZE inside = InsideOf(window);
   for (const HWND control : VisibleControls(window)) {
-    RECT place;
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
-    if (place.left < 0 || place.top < 0 || place.right > inside.cx || place.bottom > inside.cy)
-      found.push_back(Described(control));
+    RECT bounds;
+    GetWindowRect(control, &bounds);
+    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&bounds), 2);
+    if (bounds.left < 0 || bounds.top < 0 || bounds.right > inside.cx || bounds.bottom > inside.cy)
+      found.push_back(Describe(control));
   }
   return found;
 }

@@ -20,9 +20,9 @@ class LayoutChecksTest : public ::testing::Test {
       : window_(CreateWindowExW(0, L"#32770", L"", WS_POPUP, 0, 0, 400, 200, nullptr, nullptr, nullptr, nullptr)) {}
   ~LayoutChecksTest() override { DestroyWindow(window_); }
 
-  HWND Add(const wchar_t* name, const wchar_t* text, DWORD style, const RECT& place, int id = 0) {
-    return CreateWindowExW(0, name, text, WS_CHILD | WS_VISIBLE | style, place.left, place.top,
-                           place.right - place.left, place.bottom - place.top, window_,
+  HWND Add(const wchar_t* name, const wchar_t* text, DWORD style, const RECT& bounds, int id = 0) {
+    return CreateWindowExW(0, name, text, WS_CHILD | WS_VISIBLE | style, bounds.left, bounds.top,
+                           bounds.right - bounds.left, bounds.bottom - bounds.top, window_,
                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
   }
 

@@ -42,9 +42,9 @@ class SkinTest : public ::testing::Test {
   }
   static void Have(const wchar_t* behaviour) { SetEnvironmentVariableW(support::skinBehaviour, behaviour); }
   std::string Diary() const { return support::ReadAll(folder.In("diary")); }
-  std::string Loaded() const { return "made|LoadSkin " + folder.In("Skins\\Galaxy.skn") + "|"; }
-  std::string Applied() const {
-    return Loaded() + "ApplySkin " + std::to_string(reinterpret_cast<LONG_PTR>(form.Window())) + "|";
+  std::string LogOfLoading() const { return "made|LoadSkin " + folder.In("Skins\\Galaxy.skn") + "|"; }
+  std::string LogOfApplying() const {
+    return LogOfLoading() + "ApplySkin " + std::to_string(reinterpret_cast<LONG_PTR>(form.Window())) + "|";
   }
 
   TemporaryFolder folder;
@@ -56,14 +56,14 @@ TEST_F(SkinTest, LoadsTheSkinFileAndAppliesItToTheWindow) {
   const Registration registration;
   MakeSkinFile();
   EXPECT_TRUE(Skin(folder.Path()).Apply(form));
-  EXPECT_EQ(Diary(), Applied());
+  EXPECT_EQ(Diary(), LogOfApplying());
 }
 
 TEST_F(SkinTest, KeepsTheComponentForAsLongAsTheFormIsLoaded) {
   const Registration registration;
   MakeSkinFile();
   Skin(folder.Path()).Apply(form);
-  const std::string applied = Applied();
+  const std::string applied = LogOfApplying();
   EXPECT_EQ(Diary(), applied);
   form.Unload();
   EXPECT_EQ(Diary(), applied + "gone|");
@@ -109,7 +109,7 @@ TEST_F(SkinTest, IsFalseWhereTheSkinFileDoesNotLoad) {
   MakeSkinFile();
   Have(support::failsInLoadSkin);
   EXPECT_FALSE(Skin(folder.Path()).Apply(form));
-  EXPECT_EQ(Diary(), Loaded() + "gone|");
+  EXPECT_EQ(Diary(), LogOfLoading() + "gone|");
   EXPECT_EQ(form.Skn, nullptr);
 }
 
@@ -118,7 +118,7 @@ TEST_F(SkinTest, IsFalseWhereTheSkinDoesNotApply) {
   MakeSkinFile();
   Have(support::failsInApplySkin);
   EXPECT_FALSE(Skin(folder.Path()).Apply(form));
-  EXPECT_EQ(Diary(), Applied() + "gone|");
+  EXPECT_EQ(Diary(), LogOfApplying() + "gone|");
 }
 
 TEST_F(SkinTest, IsFalseWhereTheComponentLacksAMethod) {
@@ -126,7 +126,7 @@ TEST_F(SkinTest, IsFalseWhereTheComponentLacksAMethod) {
   MakeSkinFile();
   Have(support::lacksApplySkin);
   EXPECT_FALSE(Skin(folder.Path()).Apply(form));
-  EXPECT_EQ(Diary(), Loaded() + "gone|");
+  EXPECT_EQ(Diary(), LogOfLoading() + "gone|");
 }
 
 TEST_F(SkinTest, GivesEachFormAComponentOfItsOwn) {

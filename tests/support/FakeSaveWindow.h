@@ -28,10 +28,10 @@ class FakeSaveWindow final : public SaveWindow {
   bool RenderEntry(int number) override {
     script_.push_back("render " + std::to_string(number));
     if (rendersAsSet_) return true;
-    for (int place = 0; place < 4; ++place) {
-      mask_.SetNumber(place, place == 0 ? white : black);
-      image_.SetNumber(place, 0x010000U * static_cast<Color>(number));
-      icon_.SetNumber(place, 0x000100U * static_cast<Color>(number));
+    for (int index = 0; index < 4; ++index) {
+      mask_.SetNumber(index, index == 0 ? white : black);
+      image_.SetNumber(index, 0x010000U * static_cast<Color>(number));
+      icon_.SetNumber(index, 0x000100U * static_cast<Color>(number));
     }
     return true;
   }

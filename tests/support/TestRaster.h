@@ -24,8 +24,8 @@ class TestRaster final : public PixelView {
 
   int Width() const override { return width_; }
   int Height() const override { return height_; }
-  Color Pixel(int x, int y) const override { return pixels_.at(Place(x, y)); }
-  void Set(int x, int y, Color color) { pixels_.at(Place(x, y)) = color; }
+  Color Pixel(int x, int y) const override { return pixels_.at(IndexOf(x, y)); }
+  void Set(int x, int y, Color color) { pixels_.at(IndexOf(x, y)) = color; }
 
   // Row by row from the top.
   const std::vector<Color>& Pixels() const { return pixels_; }
@@ -33,7 +33,7 @@ class TestRaster final : public PixelView {
   void SetNumber(int number, Color color) { pixels_.at(static_cast<std::size_t>(number)) = color; }
 
  private:
-  std::size_t Place(int x, int y) const {
+  std::size_t IndexOf(int x, int y) const {
     return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x);
   }
 

@@ -54,9 +54,8 @@ void ViewFixture::WhileOpen(const std::function<void()>& body) {
 }
 
 void ViewFixture::Click(int button) {
-  RECT place{};
-  SendMessageW(Item(frmBit_tlb_control), TB_GETRECT, static_cast<WPARAM>(button), reinterpret_cast<LPARAM>(&place));
-  const LPARAM middle = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+  const RECT bounds = ButtonBounds(button);
+  const LPARAM middle = MAKELPARAM((bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2);
   PostMessageW(Item(frmBit_tlb_control), WM_LBUTTONDOWN, MK_LBUTTON, middle);
   PostMessageW(Item(frmBit_tlb_control), WM_LBUTTONUP, 0, middle);
   application.DoEvents();
@@ -113,17 +112,23 @@ bool ViewFixture::IsButtonEnabled(int button) const {
   return SendMessageW(Item(frmBit_tlb_control), TB_ISBUTTONENABLED, static_cast<WPARAM>(button), 0) != 0;
 }
 
-RECT ViewFixture::PlaceOf(int id) const {
-  RECT place{};
-  GetWindowRect(Item(id), &place);
-  MapWindowPoints(nullptr, view->Window(), reinterpret_cast<POINT*>(&place), 2);
-  return place;
+RECT ViewFixture::ButtonBounds(int button) const {
+  RECT bounds{};
+  SendMessageW(Item(frmBit_tlb_control), TB_GETRECT, static_cast<WPARAM>(button), reinterpret_cast<LPARAM>(&bounds));
+  return bounds;
+}
+
+RECT ViewFixture::BoundsOf(int id) const {
+  RECT bounds{};
+  GetWindowRect(Item(id), &bounds);
+  MapWindowPoints(nullptr, view->Window(), reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
 }
 
 SIZE ViewFixture::WindowSize() const {
-  RECT place{};
-  GetWindowRect(view->Window(), &place);
-  return {place.right - place.left, place.bottom - place.top};
+  RECT bounds{};
+  GetWindowRect(view->Window(), &bounds);
+  return {bounds.right - bounds.left, bounds.bottom - bounds.top};
 }
 
 }  // namespace tarvik::support

@@ -80,7 +80,8 @@ class ViewFixture : public ::testing::Test {
   std::string Status() const;
   std::string Tooltip(int button) const;
   bool IsButtonEnabled(int button) const;
-  RECT PlaceOf(int id) const;  // in client coordinates
+  RECT BoundsOf(int id) const;          // in client coordinates
+  RECT ButtonBounds(int button) const;  // in the toolbar's client coordinates
   SIZE WindowSize() const;
 
   ProgramState state;

@@ -83,7 +83,7 @@ TEST(ViewStepping, ShowsTheSameEntryAgainAtTheFirstNext) {
   EXPECT_THAT(view.host.asked, ElementsAre(3));
 }
 
-TEST(ViewStepping, GoesTwoPlacesBackAtTheFirstPrevious) {
+TEST(ViewStepping, GoesTwoEntriesBackAtTheFirstPrevious) {
   View view(5, 2);
   view.Previous();
   EXPECT_THAT(view.host.asked, ElementsAre(1));

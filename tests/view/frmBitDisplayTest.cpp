@@ -18,8 +18,8 @@ namespace {
 
 class ViewOnDisplay : public support::ViewFixture {
  protected:
-  // The side of an icon's pixel at the factors 1, 3, 5 and 10, the place of the picture's corner, and the side of the
-  // toolbar's pictures.
+  // The side of an icon's pixel at the factors 1, 3, 5 and 10, the picture's corner, and the side of the toolbar's
+  // pictures.
   struct Row {
     int dots;
     std::array<int, 4> sides;
@@ -50,11 +50,11 @@ class ViewOnDisplay : public support::ViewFixture {
   }
   // Compares the window's pixels with the entry's picture, each pixel as a square of that side.
   void ExpectSquares(int number, int side, int size) {
-    const RECT place = PlaceOf(frmBit_img);
-    ASSERT_EQ(place.left, OfDisplay().corner);
-    ASSERT_EQ(place.top, OfDisplay().corner);
-    ASSERT_EQ(place.right - place.left, side * size);
-    ASSERT_EQ(place.bottom - place.top, side * size);
+    const RECT bounds = BoundsOf(frmBit_img);
+    ASSERT_EQ(bounds.left, OfDisplay().corner);
+    ASSERT_EQ(bounds.top, OfDisplay().corner);
+    ASSERT_EQ(bounds.right - bounds.left, side * size);
+    ASSERT_EQ(bounds.bottom - bounds.top, side * size);
     application.DoEvents();
     Surface shown(side * size, side * size, black);
     const WindowDc dc(Item(frmBit_img));
@@ -115,10 +115,10 @@ TEST_F(ViewOnDisplay, HasToolbarPicturesThatGrowWithTheDisplayAndAreNotStretched
 // The window's size is in twips, so it grows with the display too.
 TEST_F(ViewOnDisplay, FillsItsWindowAsFarAsOnAnyDisplay) {
   WhileOpen([this] {
-    const RECT picture = PlaceOf(frmBit_img);
+    const RECT picture = BoundsOf(frmBit_img);
     EXPECT_NEAR(100.0 * static_cast<double>(picture.right) / static_cast<double>(WindowSize().cx), 59, 5);
     EXPECT_NEAR(100.0 * static_cast<double>(picture.bottom) / static_cast<double>(WindowSize().cy), 73, 5);
-    EXPECT_LE(PlaceOf(frmBit_CboZoom).bottom, picture.top);
+    EXPECT_LE(BoundsOf(frmBit_CboZoom).bottom, picture.top);
   });
 }
 

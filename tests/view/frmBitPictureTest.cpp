@@ -25,11 +25,11 @@ class frmBitPictureTest : public support::ViewFixture {
  protected:
   // Compares the window's pixels with the entry's picture at that factor.
   void ExpectEnlarged(int number, int factor, int size) {
-    const RECT place = PlaceOf(frmBit_img);
-    ASSERT_EQ(place.left, 100);
-    ASSERT_EQ(place.top, 100);
-    ASSERT_EQ(place.right, 100 + factor * size);
-    ASSERT_EQ(place.bottom, 100 + factor * size);
+    const RECT bounds = BoundsOf(frmBit_img);
+    ASSERT_EQ(bounds.left, 100);
+    ASSERT_EQ(bounds.top, 100);
+    ASSERT_EQ(bounds.right, 100 + factor * size);
+    ASSERT_EQ(bounds.bottom, 100 + factor * size);
     application.DoEvents();
     Surface shown(factor * size, factor * size, black);
     const WindowDc dc(Item(frmBit_img));
@@ -94,7 +94,7 @@ TEST_F(frmBitPictureTest, StaysBelowToolbarZoomListAndStatusBar) {
   MakeList(1, 0, 64);
   WhileOpen([this] {
     ChooseZoom(9);
-    const RECT bar = PlaceOf(frmBit_sbMain);
+    const RECT bar = BoundsOf(frmBit_sbMain);
     const POINT inBar{(bar.left + bar.right) / 2, (bar.top + bar.bottom) / 2};
     EXPECT_EQ(ChildWindowFromPoint(view->Window(), inBar), Item(frmBit_sbMain));
   });
@@ -109,15 +109,15 @@ TEST_F(frmBitPictureTest, HoldsNoMoreHandlesAndMemoryAfterAnHourOfTicks) {
     // A leak of every tick shows in every part of the hour; memory that the system caches does not.
     constexpr int parts = 6;
     constexpr int ticks = 3600 / parts;
-    std::int64_t leastGrowth = std::numeric_limits<std::int64_t>::max();
+    std::int64_t minGrowth = std::numeric_limits<std::int64_t>::max();
     for (int part = 0; part < parts; ++part) {
       const std::int64_t bytes = UsedBytes();
       ASSERT_GT(bytes, 0);
       for (int tick = 0; tick < ticks; ++tick) Tick();
-      leastGrowth = std::min(leastGrowth, UsedBytes() - bytes);
+      minGrowth = std::min(minGrowth, UsedBytes() - bytes);
     }
     EXPECT_EQ(support::CountGdiObjects(), objects);
-    EXPECT_LT(leastGrowth, std::int64_t{100} * ticks) << "100 bytes a tick";
+    EXPECT_LT(minGrowth, std::int64_t{100} * ticks) << "100 bytes a tick";
   });
 }
 

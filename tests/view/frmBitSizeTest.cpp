@@ -52,9 +52,9 @@ TEST_F(frmBitSizeTest, KeepsTheSizeBehindAMinimisedWindow) {
 }
 
 // The size in pixels that the system allows for a side of that many twips at 96 dpi.
-int Allowed(float twips, int leastMetric, int mostMetric) {
+int AllowedPixels(float twips, int minMetric, int maxMetric) {
   const int pixels = NearestPixels(twips, 96);
-  return std::clamp(pixels, GetSystemMetrics(leastMetric), GetSystemMetrics(mostMetric));
+  return std::clamp(pixels, GetSystemMetrics(minMetric), GetSystemMetrics(maxMetric));
 }
 
 TEST_F(frmBitSizeTest, FollowsWhateverIsStoredWithinTheSystemsOwnLimits) {
@@ -63,8 +63,8 @@ TEST_F(frmBitSizeTest, FollowsWhateverIsStoredWithinTheSystemsOwnLimits) {
     store.values["Bitmapview/Height"] = text;
     store.values["Bitmapview/Width"] = text;
     WhileOpen([&] {
-      EXPECT_EQ(WindowSize().cx, Allowed(LeadingNumber(text), SM_CXMINTRACK, SM_CXMAXTRACK)) << text;
-      EXPECT_EQ(WindowSize().cy, Allowed(LeadingNumber(text), SM_CYMINTRACK, SM_CYMAXTRACK)) << text;
+      EXPECT_EQ(WindowSize().cx, AllowedPixels(LeadingNumber(text), SM_CXMINTRACK, SM_CXMAXTRACK)) << text;
+      EXPECT_EQ(WindowSize().cy, AllowedPixels(LeadingNumber(text), SM_CYMINTRACK, SM_CYMAXTRACK)) << text;
     });
   }
 }
@@ -76,12 +76,12 @@ TEST_F(frmBitSizeTest, BeginsOnTheScreenHoweverLargeItIs) {
     store.values["Bitmapview/Height"] = text;
     store.values["Bitmapview/Width"] = text;
     WhileOpen([&] {
-      RECT place{};
-      GetWindowRect(view->Window(), &place);
-      EXPECT_GE(place.left, area.left) << text;
-      EXPECT_GE(place.top, area.top) << text;
-      EXPECT_LT(place.left, area.right) << text;
-      EXPECT_LT(place.top, area.bottom) << text;
+      RECT bounds{};
+      GetWindowRect(view->Window(), &bounds);
+      EXPECT_GE(bounds.left, area.left) << text;
+      EXPECT_GE(bounds.top, area.top) << text;
+      EXPECT_LT(bounds.left, area.right) << text;
+      EXPECT_LT(bounds.top, area.bottom) << text;
     });
   }
 }

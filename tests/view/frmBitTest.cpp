@@ -347,9 +347,8 @@ TEST_F(frmBitTest, TellsItsControlsOfNewColorsAndThemes) {
 TEST_F(frmBitTest, ShowsNoTextBesideAButtonsPicture) {
   WhileOpen([this] {
     for (int button = firstButton; button <= lastButton; ++button) {
-      RECT place{};
-      SendMessageW(Item(frmBit_tlb_control), TB_GETRECT, static_cast<WPARAM>(button), reinterpret_cast<LPARAM>(&place));
-      EXPECT_LE(place.right - place.left, place.bottom - place.top + 8) << button;
+      const RECT bounds = ButtonBounds(button);
+      EXPECT_LE(bounds.right - bounds.left, bounds.bottom - bounds.top + 8) << button;
     }
   });
 }
@@ -386,12 +385,12 @@ TEST_F(frmBitTest, HasItsToolbarOnTopTheZoomListUnderItAndTheStatusBarBelow) {
       if (maximised) ShowWindow(view->Window(), SW_MAXIMIZE);
       RECT inner{};
       GetClientRect(view->Window(), &inner);
-      EXPECT_EQ(PlaceOf(frmBit_tlb_control).top, 0);
-      EXPECT_EQ(PlaceOf(frmBit_tlb_control).right, inner.right);
-      EXPECT_GE(PlaceOf(frmBit_CboZoom).top, PlaceOf(frmBit_tlb_control).bottom);
-      EXPECT_LE(PlaceOf(frmBit_CboZoom).bottom, 100) << "above the picture";
-      EXPECT_EQ(PlaceOf(frmBit_sbMain).bottom, inner.bottom);
-      EXPECT_EQ(PlaceOf(frmBit_sbMain).right, inner.right);
+      EXPECT_EQ(BoundsOf(frmBit_tlb_control).top, 0);
+      EXPECT_EQ(BoundsOf(frmBit_tlb_control).right, inner.right);
+      EXPECT_GE(BoundsOf(frmBit_CboZoom).top, BoundsOf(frmBit_tlb_control).bottom);
+      EXPECT_LE(BoundsOf(frmBit_CboZoom).bottom, 100) << "above the picture";
+      EXPECT_EQ(BoundsOf(frmBit_sbMain).bottom, inner.bottom);
+      EXPECT_EQ(BoundsOf(frmBit_sbMain).right, inner.right);
     }
   });
 }

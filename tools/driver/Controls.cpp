@@ -85,9 +85,9 @@ void Control::SetText(const std::string& text) const {
 }
 
 RECT Control::Place() const {
-  RECT place{};
-  GetWindowRect(window_, &place);
-  return place;
+  RECT bounds{};
+  GetWindowRect(window_, &bounds);
+  return bounds;
 }
 
 RECT Control::Inside() const {
@@ -195,15 +195,15 @@ bool ReportView::IsSelected(int row) const {
   return control_.Send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) == LVIS_SELECTED;
 }
 
-RECT ReportView::RowPlace(int row) const {
-  RECT place{};
-  place.left = LVIR_BOUNDS;
-  const RemoteMemory memory(control_.Window(), sizeof place);
-  memory.Write(0, place);
+RECT ReportView::RowBounds(int row) const {
+  RECT bounds{};
+  bounds.left = LVIR_BOUNDS;
+  const RemoteMemory memory(control_.Window(), sizeof bounds);
+  memory.Write(0, bounds);
   control_.Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), Pointer(memory.At(0)));
-  memory.Read(0, place);
-  MapWindowPoints(control_.Window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
-  return place;
+  memory.Read(0, bounds);
+  MapWindowPoints(control_.Window(), nullptr, reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
 }
 
 std::vector<ReportView::Column> ReportView::Columns() const {
@@ -221,13 +221,13 @@ std::vector<ReportView::Column> ReportView::Columns() const {
   }
 }
 
-RECT ToolbarView::ButtonPlace(int button) const {
-  RECT place{};
-  const RemoteMemory memory(control_.Window(), sizeof place);
+RECT ToolbarView::ButtonBounds(int button) const {
+  RECT bounds{};
+  const RemoteMemory memory(control_.Window(), sizeof bounds);
   control_.Send(TB_GETRECT, static_cast<WPARAM>(button), Pointer(memory.At(0)));
-  memory.Read(0, place);
-  MapWindowPoints(control_.Window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
-  return place;
+  memory.Read(0, bounds);
+  MapWindowPoints(control_.Window(), nullptr, reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
 }
 
 bool ToolbarView::IsEnabled(int button) const {

@@ -71,7 +71,7 @@ class ReportView {
   std::vector<std::string> CellsOf(int column) const;
   bool IsSelected(int row) const;
   // The row's rectangle on the screen.
-  RECT RowPlace(int row) const;
+  RECT RowBounds(int row) const;
 
   struct Column {
     std::string title;
@@ -93,7 +93,7 @@ class ToolbarView {
   explicit ToolbarView(Control control) : control_(control) {}
 
   // The button's rectangle on the screen.
-  RECT ButtonPlace(int button) const;
+  RECT ButtonBounds(int button) const;
   bool IsEnabled(int button) const;
   // The button's text, which is its tooltip.
   std::string ButtonText(int button) const;

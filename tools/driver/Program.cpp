@@ -139,7 +139,7 @@ void Program::PassStartUpWindow() {
 void Program::StartWithFilesUpTo(int bytes) {
   constexpr int unit = 512;  // of the shell's limit
   // Exceeding the limit raises a signal that would end the process; with the signal ignored, the write fails instead.
-  RunUnix("trap '' XFSZ\nulimit -f " + std::to_string(bytes / unit) + "\nwine " + UnixQuoted(path_) +
+  RunUnix("trap '' XFSZ\nulimit -f " + std::to_string(bytes / unit) + "\nwine " + QuoteForUnix(path_) +
           " >/dev/null 2>&1 &");
   if (!Eventually([this] { return Adopt(); })) throw std::runtime_error("the program does not start");
   PassStartUpWindow();
@@ -193,18 +193,18 @@ void Program::Resume() {
 std::string Program::CurrentFolder() const {
   // Offsets in a 64-bit process: of the parameters in the PEB, and of the current folder (a UNICODE_STRING) in the
   // parameters.
-  constexpr std::size_t parametersPlace = 0x20;
-  constexpr std::size_t currentFolderPlace = 0x38;
+  constexpr std::size_t parametersOffset = 0x20;
+  constexpr std::size_t currentFolderOffset = 0x38;
   PROCESS_BASIC_INFORMATION process{};
   NtQueryInformationProcess(process_.get(), ProcessBasicInformation, &process, sizeof process, nullptr);
-  const auto read = [this](const std::byte* place, void* target, std::size_t size) {
-    if (ReadProcessMemory(process_.get(), place, target, size, nullptr) == 0)
+  const auto read = [this](const std::byte* address, void* target, std::size_t size) {
+    if (ReadProcessMemory(process_.get(), address, target, size, nullptr) == 0)
       throw std::runtime_error("the program's memory cannot be read");
   };
   const std::byte* parameters = nullptr;
-  read(reinterpret_cast<const std::byte*>(process.PebBaseAddress) + parametersPlace, &parameters, sizeof parameters);
+  read(reinterpret_cast<const std::byte*>(process.PebBaseAddress) + parametersOffset, &parameters, sizeof parameters);
   UNICODE_STRING folder{};
-  read(parameters + currentFolderPlace, &folder, sizeof folder);
+  read(parameters + currentFolderOffset, &folder, sizeof folder);
   std::wstring text(folder.Length / sizeof(wchar_t), L'\0');
   read(reinterpret_cast<const std::byte*>(folder.Buffer), text.data(), folder.Length);
   return ToUtf8(text);
@@ -267,9 +267,9 @@ int Program::CountWindows() const {
 RECT Program::Extent() const {
   RECT extent{};
   for (const Control window : TopWindows()) {
-    const RECT place = window.Place();
+    const RECT bounds = window.Place();
     const RECT former = extent;
-    UnionRect(&extent, &former, &place);
+    UnionRect(&extent, &former, &bounds);
   }
   return extent;
 }

@@ -14,11 +14,11 @@
 namespace tarvik::end_to_end {
 namespace {
 
-// The command that captures `place` and writes it to the file that follows.
-std::string TakeCommand(const RECT& place) {
+// The command that captures `bounds` and writes it to the file that follows.
+std::string TakeCommand(const RECT& bounds) {
   std::ostringstream command;
-  command << "import -silent -window root -crop " << place.right - place.left << 'x' << place.bottom - place.top << '+'
-          << place.left << '+' << place.top << " +repage -depth 8 ";
+  command << "import -silent -window root -crop " << bounds.right - bounds.left << 'x' << bounds.bottom - bounds.top
+          << '+' << bounds.left << '+' << bounds.top << " +repage -depth 8 ";
   return command.str();
 }
 
@@ -29,10 +29,10 @@ void Run(const std::string& command) {
 
 }  // namespace
 
-Screenshot::Screenshot(const RECT& place) {
+Screenshot::Screenshot(const RECT& bounds) {
   const auto file =
       std::filesystem::temp_directory_path() / (L"tarvik-screen-" + std::to_wstring(GetCurrentProcessId()) + L".ppm");
-  Run(TakeCommand(place) + "ppm:" + UnixQuoted(file));
+  Run(TakeCommand(bounds) + "ppm:" + QuoteForUnix(file));
 
   // The format: "P6", width, height, the maximum value, one blank, then red, green and blue of each pixel.
   std::ifstream in(file, std::ios::binary);
@@ -51,10 +51,10 @@ Screenshot::Screenshot(const RECT& place) {
   std::filesystem::remove(file);
 }
 
-void SavePicture(const RECT& place, const std::filesystem::path& file) {
+void SavePicture(const RECT& bounds, const std::filesystem::path& file) {
   std::filesystem::create_directories(file.parent_path());
   // Captures until two pictures in a row are identical; if something moves all the time, the last one is used.
-  Run("folder=$(mktemp -d)\ncd $folder\ntake() { " + TakeCommand(place) + R"("ppm:$1"; }
+  Run("folder=$(mktemp -d)\ncd $folder\ntake() { " + TakeCommand(bounds) + R"("ppm:$1"; }
 take former
 for try in 1 2 3 4 5 6 7 8 9 10; do
   take shown
@@ -63,7 +63,7 @@ for try in 1 2 3 4 5 6 7 8 9 10; do
 done
 [ -e shown ] || mv former shown
 convert ppm:shown )" +
-      UnixQuoted(file) + "\nstatus=$?\nrm -r $folder\nexit $status");
+      QuoteForUnix(file) + "\nstatus=$?\nrm -r $folder\nexit $status");
 }
 
 int CountPixels(const PixelView& picture, Color color) {
@@ -89,11 +89,11 @@ int CountDifferences(const PixelView& one, const PixelView& other) {
 bool ShowsSign(const Box& box, const wchar_t* sign) {
   const Control control = box.Sign();
   if (!control) return false;
-  const RECT place = control.Inside();
-  Surface expected(place.right - place.left, place.bottom - place.top, GetSysColor(COLOR_3DFACE));
+  const RECT bounds = control.Inside();
+  Surface expected(bounds.right - bounds.left, bounds.bottom - bounds.top, GetSysColor(COLOR_3DFACE));
   DrawIconEx(expected.Dc(), 0, 0, LoadIconW(nullptr, sign), 0, 0, 0, nullptr, DI_NORMAL);
   GdiFlush();
-  return Eventually([&] { return CountDifferences(Screenshot(place), expected) == 0; });
+  return Eventually([&] { return CountDifferences(Screenshot(bounds), expected) == 0; });
 }
 
 }  // namespace tarvik::end_to_end

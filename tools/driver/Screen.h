@@ -13,9 +13,9 @@ namespace tarvik::end_to_end {
 // The pixels of a part of the screen.
 class Screenshot : public PixelView {
  public:
-  // Captures `place`, in screen pixels, which must lie on the screen. An external program makes the capture, because
+  // Captures `bounds`, in screen pixels, which must lie on the screen. An external program makes the capture, because
   // here no process can read another one's pixels.
-  explicit Screenshot(const RECT& place);
+  explicit Screenshot(const RECT& bounds);
 
   int Width() const override { return width_; }
   int Height() const override { return height_; }
@@ -29,9 +29,9 @@ class Screenshot : public PixelView {
   std::vector<Color> pixels_;
 };
 
-// Saves a picture of `place`, in screen pixels, for viewing, after it has stopped changing. The file's extension
+// Saves a picture of `bounds`, in screen pixels, for viewing, after it has stopped changing. The file's extension
 // chooses the format; its folder is created if necessary.
-void SavePicture(const RECT& place, const std::filesystem::path& file);
+void SavePicture(const RECT& bounds, const std::filesystem::path& file);
 
 // The number of pixels of that colour.
 int CountPixels(const PixelView& picture, Color color);

@@ -20,7 +20,7 @@ std::string ReadAll(const fs::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string Quoted(const std::string& text) {
+std::string Quote(const std::string& text) {
   std::string quoted = "'";
   for (const char character : text) quoted += character == '\'' ? std::string("'\\''") : std::string(1, character);
   return quoted + "'";
@@ -58,11 +58,11 @@ UnixAnswer RunUnix(const std::string& command) {
   const fs::path script = base + L".sh";
   const fs::path output = base + L".out";
   const fs::path answer = base + L".end";
-  const std::string unixAnswer = Quoted(UnixPath(answer));
+  const std::string unixAnswer = Quote(UnixPath(answer));
   // Wine provides no handle to wait for such a program, so its end is signalled by a file, which is moved into place
   // complete.
   std::ofstream(script, std::ios::binary)
-      << "exec >" << Quoted(UnixPath(output)) << " 2>&1 </dev/null\n(\n"
+      << "exec >" << Quote(UnixPath(output)) << " 2>&1 </dev/null\n(\n"
       << command << "\n)\necho $? >" << unixAnswer << ".part\nmv " << unixAnswer << ".part " << unixAnswer << "\n";
   Start(L"\"Z:\\bin\\sh\" \"" + ToWide(UnixPath(script)) + L"\"");
   if (!Eventually([&] { return fs::exists(answer); })) throw std::runtime_error("does not end: " + command);
@@ -71,8 +71,8 @@ UnixAnswer RunUnix(const std::string& command) {
   return result;
 }
 
-std::string UnixQuoted(const fs::path& path) {
-  return Quoted(UnixPath(path));
+std::string QuoteForUnix(const fs::path& path) {
+  return Quote(UnixPath(path));
 }
 
 }  // namespace tarvik::end_to_end

@@ -18,6 +18,6 @@ UnixAnswer RunUnix(const std::string& command);
 
 // The path in the host system's form; and the same quoted for its shell.
 std::string UnixPath(const std::filesystem::path& path);
-std::string UnixQuoted(const std::filesystem::path& path);
+std::string QuoteForUnix(const std::filesystem::path& path);
 
 }  // namespace tarvik::end_to_end

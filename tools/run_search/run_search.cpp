@@ -63,19 +63,20 @@ void TickFileTypes(const Program& program) {
 }
 
 // Saves that part of the screen after it has stopped changing: windows are drawn a little later than requested.
-void SavePicture(const RECT& place, const fs::path& file) {
-  Screenshot before(place);
+void SavePicture(const RECT& bounds, const fs::path& file) {
+  Screenshot before(bounds);
   const bool rests = Eventually([&] {
     Sleep(static_cast<DWORD>(pollInterval.count()));
-    Screenshot now(place);
+    Screenshot now(bounds);
     const bool same = CountDifferences(before, now) == 0;
     before = std::move(now);
     return same;
   });
   if (!rests) throw std::runtime_error("the window does not come to rest");
-  const std::string area = std::to_string(place.right - place.left) + "x" + std::to_string(place.bottom - place.top) +
-                           "+" + std::to_string(place.left) + "+" + std::to_string(place.top);
-  const UnixAnswer answer = RunUnix("import -silent -window root -crop " + area + " +repage " + UnixQuoted(file));
+  const std::string area = std::to_string(bounds.right - bounds.left) + "x" +
+                           std::to_string(bounds.bottom - bounds.top) + "+" + std::to_string(bounds.left) + "+" +
+                           std::to_string(bounds.top);
+  const UnixAnswer answer = RunUnix("import -silent -window root -crop " + area + " +repage " + QuoteForUnix(file));
   if (answer.exitCode != 0) throw std::runtime_error("no picture of the window: " + answer.output);
 }
 

@@ -224,10 +224,10 @@ class FarApart : public LongFile {
   FarApart() : LongFile(fiveGigabytes, "RIFF" + Number(0xFFFFFFFF) + "ACON") {}
   bool Read(std::uint64_t offset, std::span<std::byte> bytes) override {
     if (!LongFile::Read(offset, bytes)) return false;
-    const std::uint64_t place = span - 1 - (offset + span - 1 - firstChunk) % span;
+    const std::uint64_t start = span - 1 - (offset + span - 1 - firstChunk) % span;
     const std::string chunk = "icon" + Number(span - 8);
-    if (place + chunk.size() > bytes.size()) return true;
-    std::copy_n(reinterpret_cast<const std::byte*>(chunk.data()), chunk.size(), &bytes[place]);
+    if (start + chunk.size() > bytes.size()) return true;
+    std::copy_n(reinterpret_cast<const std::byte*>(chunk.data()), chunk.size(), &bytes[start]);
     return true;
   }
 

@@ -16,7 +16,7 @@ namespace {
 
 using support::TemporaryFolder;
 
-TEST(FileBytes, ReadsFromAnyPlace) {
+TEST(FileBytes, ReadsFromAnyOffset) {
   const TemporaryFolder folder;
   FileBytes file(folder.MakeFile("光标😀.ani", "0123456789"));
   std::array<std::byte, 3> bytes{};

@@ -48,8 +48,8 @@ int Chosen(std::initializer_list<Listed> entries, const IconWish& wish = {.width
   return ChoosePicture(Group(entries), wish).value_or(0);
 }
 
-Bytes With(Bytes bytes, std::size_t place, std::uint32_t number, std::size_t width) {
-  for (std::size_t i = 0; i < width; ++i) bytes[place + i] = static_cast<std::byte>(number >> (8 * i));
+Bytes With(Bytes bytes, std::size_t offset, std::uint32_t number, std::size_t width) {
+  for (std::size_t i = 0; i < width; ++i) bytes[offset + i] = static_cast<std::byte>(number >> (8 * i));
   return bytes;
 }
 
@@ -228,8 +228,8 @@ TEST(HoldsPicture, IsTrueForTheStartOfAPngWithSuchSides) {
     EXPECT_FALSE(HoldsPicture(Png(side, 32))) << side;
     EXPECT_FALSE(HoldsPicture(Png(32, side))) << side;
   }
-  for (std::size_t place = 0; place < 16; ++place) {
-    EXPECT_FALSE(HoldsPicture(With(Cut(Png(48, 48), 3000), place, 0x55, 1))) << place;
+  for (std::size_t offset = 0; offset < 16; ++offset) {
+    EXPECT_FALSE(HoldsPicture(With(Cut(Png(48, 48), 3000), offset, 0x55, 1))) << offset;
   }
 }
 

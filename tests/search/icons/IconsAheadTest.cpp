@@ -69,7 +69,7 @@ class CountingShell final : public IconSource {
   Script script;
   std::map<std::string, ShellFile> files;
   int alive = 0;
-  int mostAlive = 0;
+  int maxAlive = 0;
   int taken = 0;
 
  private:
@@ -79,7 +79,7 @@ class CountingShell final : public IconSource {
   }
   std::unique_ptr<ExtractedIcon> Take(const std::string& path, int index) {
     auto icon = std::make_unique<NamedIcon>(Name(path, index) + " of " + std::to_string(files[path].written), alive);
-    mostAlive = std::max(mostAlive, alive);
+    maxAlive = std::max(maxAlive, alive);
     ++taken;
     return icon;
   }
@@ -100,7 +100,7 @@ class IconsAheadTest : public ::testing::Test {
     for (int index = 0; index < count; ++index) names.push_back(Icon(path, index));
     return names;
   }
-  Lines Expected(const std::string& path, int count, int written = 1) const {
+  Lines ExpectedIcons(const std::string& path, int count, int written = 1) const {
     Lines names;
     for (int index = 0; index < count; ++index)
       names.push_back(path + "#" + std::to_string(index) + " of " + std::to_string(written));
@@ -114,10 +114,10 @@ class IconsAheadTest : public ::testing::Test {
 TEST_F(IconsAheadTest, TakesTheIconsOfAFileInGroupsOfSixtyFour) {
   shell.files["a.dll"] = {.icons = 150};
   const auto search = icons.InTurn();
-  EXPECT_EQ(List("a.dll"), Expected("a.dll", 150));
+  EXPECT_EQ(List("a.dll"), ExpectedIcons("a.dll", 150));
   EXPECT_THAT(shell.script.Lines(),
               ElementsAre("count a.dll", "take a.dll#0 to 63", "take a.dll#64 to 127", "take a.dll#128 to 149"));
-  EXPECT_EQ(shell.mostAlive, 64);
+  EXPECT_EQ(shell.maxAlive, 64);
   EXPECT_EQ(shell.alive, 0);
 }
 
@@ -125,16 +125,16 @@ TEST_F(IconsAheadTest, TakesASingleIconAsOne) {
   shell.files["one.ico"] = {.icons = 1};
   shell.files["more.dll"] = {.icons = 65};
   const auto search = icons.InTurn();
-  EXPECT_EQ(List("one.ico"), Expected("one.ico", 1));
-  EXPECT_EQ(List("more.dll"), Expected("more.dll", 65));
+  EXPECT_EQ(List("one.ico"), ExpectedIcons("one.ico", 1));
+  EXPECT_EQ(List("more.dll"), ExpectedIcons("more.dll", 65));
   EXPECT_THAT(shell.script.Lines("take"), ElementsAre("take one.ico#0", "take more.dll#0 to 63", "take more.dll#64"));
 }
 
 TEST_F(IconsAheadTest, TakesOneByOneOutsideASearchOrBatch) {
   shell.files["a.dll"] = {.icons = 3};
-  EXPECT_EQ(List("a.dll"), Expected("a.dll", 3));
+  EXPECT_EQ(List("a.dll"), ExpectedIcons("a.dll", 3));
   static_cast<void>(icons.InTurn());
-  EXPECT_EQ(List("a.dll"), Expected("a.dll", 3));
+  EXPECT_EQ(List("a.dll"), ExpectedIcons("a.dll", 3));
   const Lines oneByOne{"count a.dll", "take a.dll#0", "take a.dll#1", "take a.dll#2"};
   Lines twice = oneByOne;
   twice.insert(twice.end(), oneByOne.begin(), oneByOne.end());
@@ -272,7 +272,7 @@ TEST_F(IconsAheadTest, AsksForNoIconBeyondWhatTheFileHasByThen) {
 TEST_F(IconsAheadTest, TakesAFileThatGivesNoWholeGroupOneByOne) {
   shell.files["a.dll"] = {.icons = 100, .broken = {40}};
   const auto search = icons.InTurn();
-  Lines expected = Expected("a.dll", 100);
+  Lines expected = ExpectedIcons("a.dll", 100);
   expected[40] = "none";
   EXPECT_EQ(List("a.dll"), expected);
   EXPECT_EQ(shell.script.Lines("take").size(), 1U + 100U) << "one try, then each icon";
@@ -291,7 +291,7 @@ TEST_F(IconsAheadTest, RemembersSuchAFileForTheRunAsLongAsItStaysAsItIs) {
   EXPECT_THAT(shell.script.Lines("take a.dll#0 to"), ElementsAre("take a.dll#0 to 2"));
   shell.files["a.dll"] = {.icons = 3, .written = 2};
   const auto inTurn = icons.InTurn();
-  EXPECT_EQ(List("a.dll"), Expected("a.dll", 3, 2));
+  EXPECT_EQ(List("a.dll"), ExpectedIcons("a.dll", 3, 2));
   EXPECT_EQ(shell.script.Lines("take a.dll#0 to").size(), 2U);
 }
 

@@ -15,8 +15,8 @@ constexpr std::uint32_t pictureType = 3;
 constexpr std::uint32_t stringType = 6;
 constexpr std::uint32_t groupType = 14;
 
-void Write(ModuleBytes& bytes, std::size_t place, std::uint64_t number, std::size_t width) {
-  for (std::size_t i = 0; i < width; ++i, number >>= 8U) bytes[place + i] = static_cast<std::byte>(number);
+void Write(ModuleBytes& bytes, std::size_t offset, std::uint64_t number, std::size_t width) {
+  for (std::size_t i = 0; i < width; ++i, number >>= 8U) bytes[offset + i] = static_cast<std::byte>(number);
 }
 
 // A string preceded by its length, as in both tables of names.
@@ -88,7 +88,7 @@ class TableWriter {
       Append(file_, type.resources.size(), 2);
       Append(file_, 0, 4);
       for (const Resource& resource : type.resources) {
-        places_.push_back(file_.size());
+        entryOffsets_.push_back(file_.size());
         Append(file_, 0, 4);       // its position and length, which are not known yet
         Append(file_, 0x1C30, 2);  // flags: may be moved and discarded, is read-only
         NameOrNumber(resource.name, resource.number);
@@ -96,8 +96,8 @@ class TableWriter {
       }
     }
     Append(file_, 0, 2);
-    for (const auto& [place, name] : names_) {
-      Write(file_, place, file_.size() - tableOfModule, 2);
+    for (const auto& [offset, name] : names_) {
+      Write(file_, offset, file_.size() - tableOfModule, 2);
       AppendName(file_, name);
     }
     Append(file_, 0, 1);
@@ -105,7 +105,7 @@ class TableWriter {
 
   void WriteData(const std::vector<Type>& types) {
     std::map<ModuleBytes, std::size_t> written;
-    auto place = places_.begin();
+    auto entryOffset = entryOffsets_.begin();
     for (const Type& type : types) {
       for (const Resource& resource : type.resources) {
         PadToUnit();
@@ -117,9 +117,9 @@ class TableWriter {
           file_.insert(file_.end(), resource.data.begin(), resource.data.end());
         }
         const std::size_t further = layout_.overlappingData ? furtherUnits : 0;
-        Write(file_, *place, start >> layout_.shift, 2);
-        Write(file_, *place + 2, Units(resource.data.size()) + further, 2);
-        ++place;
+        Write(file_, *entryOffset, start >> layout_.shift, 2);
+        Write(file_, *entryOffset + 2, Units(resource.data.size()) + further, 2);
+        ++entryOffset;
       }
     }
     PadToUnit();
@@ -136,8 +136,8 @@ class TableWriter {
 
   ModuleBytes& file_;
   const ModuleLayout& layout_;
-  std::vector<std::size_t> places_;                         // of the resources' entries
-  std::vector<std::pair<std::size_t, std::string>> names_;  // and the positions of the references to each
+  std::vector<std::size_t> entryOffsets_;                   // of the resources' entries
+  std::vector<std::pair<std::size_t, std::string>> names_;  // and the offsets of the references to each
 };
 
 }  // namespace

@@ -68,10 +68,10 @@ TEST(IsVolumeMount, IsFalseOfDataThatIsCutShortOrPointsBeyondItsEnd) {
   for (std::size_t size = 0; size < whole.size() - 4; ++size) {
     EXPECT_FALSE(IsVolumeMount(std::span(whole).first(size))) << size;
   }
-  for (const std::size_t place : {8U, 9U, 10U, 11U}) {
+  for (const std::size_t offset : {8U, 9U, 10U, 11U}) {
     Bytes damaged = whole;
-    damaged[place] = std::byte{0xFF};
-    EXPECT_FALSE(IsVolumeMount(damaged)) << place;
+    damaged[offset] = std::byte{0xFF};
+    EXPECT_FALSE(IsVolumeMount(damaged)) << offset;
   }
 }
 

@@ -24,7 +24,7 @@ using support::PlainBitmap;
 using support::PlainIcons;
 using Bytes = std::vector<std::byte>;
 
-constexpr std::size_t offsetPlace = 0x3C;
+constexpr std::size_t headerOffsetField = 0x3C;  // of the first header
 constexpr std::size_t table = support::tableOfModule;
 constexpr std::size_t header = support::newHeaderOfModule;
 // In a plain module, the entries of pictures and groups: after the shift and the start of the first type.
@@ -35,13 +35,13 @@ std::size_t FirstGroup(std::size_t pictures) {
   return firstPicture + entrySize * pictures + 8;
 }
 
-Bytes With(Bytes bytes, std::size_t place, std::uint32_t number, std::size_t width = 2) {
-  for (std::size_t i = 0; i < width; ++i) bytes[place + i] = static_cast<std::byte>(number >> (8 * i));
+Bytes With(Bytes bytes, std::size_t offset, std::uint32_t number, std::size_t width = 2) {
+  for (std::size_t i = 0; i < width; ++i) bytes[offset + i] = static_cast<std::byte>(number >> (8 * i));
   return bytes;
 }
 
-std::uint32_t U16(const Bytes& bytes, std::size_t place) {
-  return std::to_integer<std::uint32_t>(bytes[place]) | std::to_integer<std::uint32_t>(bytes[place + 1]) << 8U;
+std::uint32_t U16(const Bytes& bytes, std::size_t offset) {
+  return std::to_integer<std::uint32_t>(bytes[offset]) | std::to_integer<std::uint32_t>(bytes[offset + 1]) << 8U;
 }
 
 Bytes Cut(Bytes bytes, std::size_t size) {
@@ -146,13 +146,13 @@ TEST(NewExecutable, IsNoneWithoutItsTwoHeaders) {
   EXPECT_EQ(CountOf(With(module, 0, 0x4D5A)), 0) << "ZM";
   EXPECT_EQ(CountOf(With(module, header, 0x4550)), 0) << "PE";
   EXPECT_EQ(CountOf(With(module, header, 0x454C)), 0) << "LE";
-  EXPECT_EQ(CountOf(With(module, offsetPlace, 0, 4)), 0);
-  EXPECT_EQ(CountOf(With(module, offsetPlace, 0xFFFFFFFF, 4)), 0);
-  EXPECT_EQ(CountOf(With(module, offsetPlace, header + 0x10000, 4)), 0);
-  EXPECT_EQ(CountOf(With(module, offsetPlace, header + 0x1000000, 4)), 0);
+  EXPECT_EQ(CountOf(With(module, headerOffsetField, 0, 4)), 0);
+  EXPECT_EQ(CountOf(With(module, headerOffsetField, 0xFFFFFFFF, 4)), 0);
+  EXPECT_EQ(CountOf(With(module, headerOffsetField, header + 0x10000, 4)), 0);
+  EXPECT_EQ(CountOf(With(module, headerOffsetField, header + 0x1000000, 4)), 0);
   const auto size = static_cast<std::uint32_t>(module.size());
   for (const std::uint32_t start : {size, size - 1, size - 63}) {
-    EXPECT_EQ(CountOf(With(module, offsetPlace, start, 4)), 0) << start;
+    EXPECT_EQ(CountOf(With(module, headerOffsetField, start, 4)), 0) << start;
   }
 }
 
@@ -160,9 +160,9 @@ TEST(NewExecutable, IsNoneWithoutItsTwoHeaders) {
 TEST(NewExecutable, IsFoundWhereTheFirstHeaderSays) {
   const Bytes module = MakeModule(PlainIcons(2));
   Bytes moved = module;
-  const std::size_t place = moved.size();
+  const std::size_t offset = moved.size();
   moved.insert(moved.end(), module.begin() + header, module.begin() + header + 64);
-  moved = With(moved, offsetPlace, static_cast<std::uint32_t>(place), 4);
+  moved = With(moved, headerOffsetField, static_cast<std::uint32_t>(offset), 4);
   EXPECT_EQ(CountOf(moved), 0) << "its table would be beyond the end";
   const Bytes tableBytes(module.begin() + table, module.end());
   moved.insert(moved.end(), tableBytes.begin(), tableBytes.end());
@@ -181,8 +181,8 @@ TEST(NewExecutable, HasNoIconsWithoutATable) {
 
 TEST(NewExecutable, TakesNothingBehindTheEndOfItsTable) {
   const Bytes module = MakeModule(PlainIcons(3));
-  const auto ending = [&](std::size_t place) {
-    return CountOf(With(module, header + 0x26, static_cast<std::uint32_t>(place - header)));
+  const auto ending = [&](std::size_t offset) {
+    return CountOf(With(module, header + 0x26, static_cast<std::uint32_t>(offset - header)));
   };
   const std::size_t groups = FirstGroup(3);
   EXPECT_EQ(ending(groups + 3 * entrySize), 3);
@@ -220,7 +220,7 @@ TEST(NewExecutable, HasNoMoreIconsThanThereIsRoomForInItsTable) {
 TEST(NewExecutable, HasNoIconsWithoutPictures) {
   const Bytes module = MakeModule(PlainIcons(3));
   EXPECT_EQ(CountOf(With(module, firstPicture - 8, 0x8002)), 0);
-  EXPECT_EQ(CountOf(With(module, firstPicture - 8, 3)), 0) << "the place of a name, not a number";
+  EXPECT_EQ(CountOf(With(module, firstPicture - 8, 3)), 0) << "the offset of a name, not a number";
   EXPECT_EQ(CountOf(With(module, FirstGroup(3) - 8, 14)), 0);
 }
 
@@ -264,7 +264,7 @@ TEST(NewExecutable, FindsAPictureByItsNumber) {
     return Marks(With(module, firstPicture + entrySize * picture + 6, id));
   };
   EXPECT_EQ(numbered(0, 0x8009), (std::vector{-1, 2, 3}));
-  EXPECT_EQ(numbered(1, 2), (std::vector{1, -1, 3})) << "the place of a name, not a number";
+  EXPECT_EQ(numbered(1, 2), (std::vector{1, -1, 3})) << "the offset of a name, not a number";
   EXPECT_EQ(numbered(1, 0x8001), (std::vector{1, -1, 3})) << "the first of two";
 }
 
@@ -307,10 +307,10 @@ TEST(NewExecutable, ReadsTheHeadersAloneOfAFileThatIsNoModule) {
   EXPECT_EQ(readOf(With(MakeModule(PlainIcons(20)), header, 0x4550)), 512U);
   // The new header is in the first block; if not, it is read separately.
   const Bytes library = With(Bytes(5000), 0, 0x5A4D);
-  EXPECT_EQ(readOf(With(library, offsetPlace, 512 - 64, 4)), 512U);
-  EXPECT_EQ(readOf(With(library, offsetPlace, 512 - 63, 4)), 512U + 64U);
-  EXPECT_EQ(readOf(With(library, offsetPlace, 5000 - 64, 4)), 512U + 64U);
-  EXPECT_EQ(readOf(With(library, offsetPlace, 5000 - 63, 4)), 512U);
+  EXPECT_EQ(readOf(With(library, headerOffsetField, 512 - 64, 4)), 512U);
+  EXPECT_EQ(readOf(With(library, headerOffsetField, 512 - 63, 4)), 512U + 64U);
+  EXPECT_EQ(readOf(With(library, headerOffsetField, 5000 - 64, 4)), 512U + 64U);
+  EXPECT_EQ(readOf(With(library, headerOffsetField, 5000 - 63, 4)), 512U);
 }
 
 TEST(NewExecutable, ReadsNoMoreOfAPictureThanAnyHas) {

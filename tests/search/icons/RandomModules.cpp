@@ -12,8 +12,8 @@ constexpr std::size_t bitmapHeaderSize = 40;
 ModuleBytes RandomBitmap(int width, int height, int bits, std::uint32_t seed) {
   std::mt19937 chance(seed);
   ModuleBytes bitmap = PlainBitmap(width, height, bits);
-  for (std::size_t place = bitmapHeaderSize; place < bitmap.size(); ++place)
-    bitmap[place] = static_cast<std::byte>(chance());
+  for (std::size_t offset = bitmapHeaderSize; offset < bitmap.size(); ++offset)
+    bitmap[offset] = static_cast<std::byte>(chance());
   return bitmap;
 }
 

@@ -32,7 +32,7 @@ using Pixels = std::vector<Color>;
 constexpr Color red = 0x0000FF;
 constexpr Color background = 0x808080;
 
-Pixels Drawn(ExtractedIcon* icon) {
+Pixels PixelsOf(ExtractedIcon* icon) {
   Surface surface(32, 32, background);
   if (icon == nullptr) return {};
   EXPECT_TRUE(icon->Draw(surface, {0, 0}, 32, 0, DrawPart::Normal));
@@ -44,7 +44,7 @@ Pixels Drawn(ExtractedIcon* icon) {
 std::string MakeLibrary(const TemporaryFolder& folder, int count, const std::vector<std::size_t>& broken = {}) {
   std::vector<IconPicture> pictures;
   for (int i = 0; i < count; ++i) pictures.push_back(BitmapPicture(32, 24, 0x010101U * static_cast<Color>(i + 1), red));
-  for (const std::size_t place : broken) pictures[place].data.clear();
+  for (const std::size_t index : broken) pictures[index].data.clear();
   return folder.MakeFile("icons.dll", support::Library(support::Bitness::Bits64, pictures).bytes);
 }
 
@@ -55,9 +55,9 @@ TEST(ShellIconGroups, AreTheIconsOneByOne) {
   const auto group = icons.ExtractGroup(path, 3, 64);
   ASSERT_EQ(group.size(), 64U);
   for (int i = 0; i < 64; ++i) {
-    const Pixels expected = Drawn(icons.Extract(path, i + 3).get());
+    const Pixels expected = PixelsOf(icons.Extract(path, i + 3).get());
     ASSERT_FALSE(expected.empty());
-    EXPECT_EQ(Drawn(group[static_cast<std::size_t>(i)].get()), expected) << i;
+    EXPECT_EQ(PixelsOf(group[static_cast<std::size_t>(i)].get()), expected) << i;
   }
 }
 
@@ -148,7 +148,8 @@ TEST(ShellIconGroups, ReadAheadAreTheIconsOneByOne) {
     ASSERT_EQ(count, oneByOne.CountIcons(path));
     ASSERT_GT(count, 64);
     for (int index = 0; index < count; ++index) {
-      ASSERT_EQ(Drawn(ahead.Extract(path, index).get()), Drawn(oneByOne.Extract(path, index).get())) << path << index;
+      ASSERT_EQ(PixelsOf(ahead.Extract(path, index).get()), PixelsOf(oneByOne.Extract(path, index).get()))
+          << path << index;
     }
     EXPECT_EQ(shell.calls, isIntact ? (count + 63) / 64 : 1 + 1 + (count - 64)) << path << ": a group is 64 icons";
   }

@@ -135,8 +135,8 @@ TEST(ShellIconModules, AreReadAsAProgramFromElsewhereReadsThem) {
                    {.shift = number % 10, .groupsFirst = number % 2 == 0, .otherResources = true});
     const std::string path = folder.MakeFile("a" + std::to_string(number) + ".icl", module);
     const auto answer = end_to_end::RunUnix(
-        "cd " + end_to_end::UnixQuoted(ToWide(folder.Path())) + " && wrestool -x -t14 -o . a" + std::to_string(number) +
-        ".icl 2>/dev/null && ls a" + std::to_string(number) + ".icl_14_*.ico | wc -l");
+        "cd " + end_to_end::QuoteForUnix(ToWide(folder.Path())) + " && wrestool -x -t14 -o . a" +
+        std::to_string(number) + ".icl 2>/dev/null && ls a" + std::to_string(number) + ".icl_14_*.ico | wc -l");
     ASSERT_EQ(answer.exitCode, 0) << answer.output;
     const int count = icons.CountIcons(path);
     ASSERT_EQ(std::atoi(answer.output.c_str()), count) << answer.output;
@@ -160,14 +160,14 @@ TEST(ShellIconModules, HaveThePictureThatTheSystemWouldChoose) {
     std::vector<std::byte> group(6 + 14 * (1 + static_cast<std::size_t>(below(8))));
     group[2] = std::byte{1};
     group[4] = static_cast<std::byte>((group.size() - 6) / 14);
-    for (std::size_t place = 6; place < group.size(); place += 14) {
+    for (std::size_t offset = 6; offset < group.size(); offset += 14) {
       const int width = sides[below(std::size(sides))];
-      group[place] = static_cast<std::byte>(width);
+      group[offset] = static_cast<std::byte>(width);
       // Most of the pictures are square. A width of 0 always comes with a height of 0: one of them alone has no
       // meaning.
-      group[place + 1] = static_cast<std::byte>(width != 0 && below(5) == 0 ? 1 + below(64) : width);
-      group[place + 6] = static_cast<std::byte>(depths[below(std::size(depths))]);
-      group[place + 12] = static_cast<std::byte>(place / 14 + 1);
+      group[offset + 1] = static_cast<std::byte>(width != 0 && below(5) == 0 ? 1 + below(64) : width);
+      group[offset + 6] = static_cast<std::byte>(depths[below(std::size(depths))]);
+      group[offset + 12] = static_cast<std::byte>(offset / 14 + 1);
     }
     const int side = sides[1 + below(std::size(sides) - 1)];
     const int expected =

@@ -58,10 +58,10 @@ TEST(ShellIcons, AsksAgainForAFileThatHasChanged) {
   ASSERT_EQ(icons.Extract(path, 0), nullptr);
   // The call that was cut off still holds the file, so the file can only be changed from outside Wine.
   const std::string intact = folder.MakeFile("intact.dll", LibraryOfOneIcon());
-  ASSERT_EQ(
-      end_to_end::RunUnix("cp " + end_to_end::UnixQuoted(ToWide(intact)) + ' ' + end_to_end::UnixQuoted(ToWide(path)))
-          .exitCode,
-      0);
+  ASSERT_EQ(end_to_end::RunUnix("cp " + end_to_end::QuoteForUnix(ToWide(intact)) + ' ' +
+                                end_to_end::QuoteForUnix(ToWide(path)))
+                .exitCode,
+            0);
   EXPECT_NE(icons.Extract(path, 0), nullptr);
 }
 

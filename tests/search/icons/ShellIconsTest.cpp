@@ -43,7 +43,7 @@ Bytes OneIcon(const IconPicture& picture) {
   return IconFile(std::span(&picture, 1));
 }
 
-Bytes Truncated(Bytes file, std::size_t size) {
+Bytes Truncate(Bytes file, std::size_t size) {
   file.resize(size);
   return file;
 }
@@ -60,12 +60,12 @@ Bytes Nonsense() {
 }
 
 // The colours of the first steps, read from the upper half of the icon's left side: as many as can be drawn, at most
-// `most`.
-std::vector<Color> StepColors(const std::string& path, int most = 20) {
+// `maxCount`.
+std::vector<Color> StepColors(const std::string& path, int maxCount = 20) {
   std::vector<Color> colors;
   ShellIcons icons;
   const auto icon = icons.Extract(path, 0);
-  for (int step = 0; icon && step < most; ++step) {
+  for (int step = 0; icon && step < maxCount; ++step) {
     Surface surface(32, 32, background);
     if (!icon->Draw(surface, {0, 0}, 32, step, DrawPart::Normal)) break;
     colors.push_back(surface.Pixel(4, 4));
@@ -156,7 +156,7 @@ INSTANTIATE_TEST_SUITE_P(ShellIcons, EveryDepth, ::testing::Values(1, 4, 8, 24, 
   return depth.param == pngDepth ? "Png" : "Bits" + std::to_string(depth.param);
 });
 
-TEST(ShellIcons, DrawsScaledAtItsPlace) {
+TEST(ShellIcons, DrawsScaledAtItsCorner) {
   const TemporaryFolder folder;
   const auto icon = ShellIcons().Extract(folder.MakeFile("a.ico", IconFileOf(red)), 0);
   ASSERT_NE(icon, nullptr);
@@ -206,7 +206,7 @@ TEST(ShellIcons, YieldsNothingForAnAniThatIsNoPicture) {
        {folder.MakeFile("empty.ani", ""), folder.MakeFile("text.ani", "no picture"),
         folder.MakeFile("nonsense.ani", Nonsense()), folder.MakeFile("wave.ani", "RIFF$...WAVEfmt "),
         folder.MakeFile("pictureless.ani", AnimationFile({})),
-        folder.MakeFile("cut.ani", Truncated(AnimationFile(eightColors), 30)), folder.In("none.ani")}) {
+        folder.MakeFile("cut.ani", Truncate(AnimationFile(eightColors), 30)), folder.In("none.ani")}) {
     EXPECT_EQ(icons.Extract(path, 0), nullptr) << path;
   }
 }
@@ -217,9 +217,9 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
   const std::array onePicture{red};
   const std::array twoPictures{red, blue};
   const IconPicture picture = BitmapPicture(32, 32, red, blue);
-  Bytes manyEntries = Truncated(OneIcon(picture), 22);
+  Bytes manyEntries = Truncate(OneIcon(picture), 22);
   manyEntries[4] = manyEntries[5] = std::byte{0xFF};
-  Bytes farOffset = Truncated(OneIcon(picture), 22);
+  Bytes farOffset = Truncate(OneIcon(picture), 22);
   farOffset[21] = std::byte{0x7F};
   Bytes noHeight = AnimationFile(onePicture);
   // After the starts of the file, header, list and picture chunks, the directory, and two numbers.
@@ -231,7 +231,7 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
   ShellIcons icons;
   for (const std::string& path :
        {folder.MakeFile("entries.ico", manyEntries), folder.MakeFile("offset.ico", farOffset),
-        folder.MakeFile("height.ani", noHeight), folder.MakeFile("cut.ico", Truncated(OneIcon(picture), 40)),
+        folder.MakeFile("height.ani", noHeight), folder.MakeFile("cut.ico", Truncate(OneIcon(picture), 40)),
         folder.MakeFile("half.dll", halfLibrary),
         folder.MakeFile("list.ani", AnimationFile(onePicture, {.frames = 2, .listSize = 0xFFFFFFFF})),
         folder.MakeFile("frames.ani", AnimationFile(twoPictures, {.frames = 100000, .steps = 100000})),
@@ -243,7 +243,7 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
     EXPECT_EQ(icons.Extract(path, 0), nullptr) << path;
   }
   // From a picture that is cut off some systems use the rest (Wine 10), others nothing.
-  const std::string cutOff = folder.MakeFile("cut2.ico", Truncated(OneIcon(picture), 3000));
+  const std::string cutOff = folder.MakeFile("cut2.ico", Truncate(OneIcon(picture), 3000));
   EXPECT_LE(icons.CountIcons(cutOff), 1);
   if (const auto icon = icons.Extract(cutOff, 0)) {
     Surface surface(32, 32, background);
@@ -258,12 +258,12 @@ TEST(ShellIcons, OutlivesDamagedFiles) {
 
 // A library of icons whose resource tree claims another number of icons.
 Bytes LyingLibrary(std::span<const IconPicture> pictures, std::uint16_t claimed) {
-  constexpr std::size_t sectionPlace = 0x200;  // the tree's offset in the file
-  constexpr std::size_t countPlace = 14;       // in a directory
+  constexpr std::size_t sectionOffset = 0x200;  // the tree's offset in the file
+  constexpr std::size_t countOffset = 14;       // in a directory
   support::IntactFile library = support::Library(support::Bitness::Bits64, pictures);
   const std::size_t groups = library.directories[2] & 0x7FFFFFFF;
-  library.bytes[sectionPlace + groups + countPlace] = static_cast<std::byte>(claimed);
-  library.bytes[sectionPlace + groups + countPlace + 1] = static_cast<std::byte>(claimed >> 8U);
+  library.bytes[sectionOffset + groups + countOffset] = static_cast<std::byte>(claimed);
+  library.bytes[sectionOffset + groups + countOffset + 1] = static_cast<std::byte>(claimed >> 8U);
   return library.bytes;
 }
 

@@ -12,12 +12,12 @@ namespace {
 bool IsModule(const char* path) {
   FileBytes file(path);
   std::array<char, 2> signature{};
-  std::uint32_t place = 0;
+  std::uint32_t offset = 0;
   const auto has = [&](std::uint64_t where, const char* expected) {
     return file.Read(where, std::as_writable_bytes(std::span(signature))) &&
            std::memcmp(signature.data(), expected, signature.size()) == 0;
   };
-  return has(0, "MZ") && file.Read(0x3C, std::as_writable_bytes(std::span(&place, 1))) && has(place, "NE");
+  return has(0, "MZ") && file.Read(0x3C, std::as_writable_bytes(std::span(&offset, 1))) && has(offset, "NE");
 }
 
 UINT WINAPI Extract(LPCSTR path, int index, HICON* large, HICON* small, UINT count) {

@@ -31,9 +31,9 @@ class SquareIcon final : public ExtractedIcon {
   explicit SquareIcon(Color color) : color_(color) {}
   bool Draw(DrawSurface& surface, Point corner, int size, int step, DrawPart part) override {
     if (step >= 1) return false;
-    const RECT place{corner.x, corner.y, corner.x + size, corner.y + size};
+    const RECT bounds{corner.x, corner.y, corner.x + size, corner.y + size};
     const BrushHandle brush(CreateSolidBrush(part == DrawPart::Mask ? black : color_));
-    FillRect(static_cast<Surface&>(surface).Dc(), &place, brush.get());
+    FillRect(static_cast<Surface&>(surface).Dc(), &bounds, brush.get());
     return true;
   }
   int StepBound() const override { return 1; }

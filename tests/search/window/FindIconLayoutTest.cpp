@@ -19,18 +19,18 @@ using Bounds = std::map<int, RECT>;  // of the visible controls, by their ids
 
 class FindIconLayoutTest : public FindIconFixture {
  protected:
-  RECT PlaceOf(int id) const {
-    RECT place{};
-    GetWindowRect(Item(id), &place);
-    MapWindowPoints(nullptr, window->Window(), reinterpret_cast<POINT*>(&place), 2);
-    return place;
+  RECT BoundsOf(int id) const {
+    RECT bounds{};
+    GetWindowRect(Item(id), &bounds);
+    MapWindowPoints(nullptr, window->Window(), reinterpret_cast<POINT*>(&bounds), 2);
+    return bounds;
   }
-  static int WidthOf(const RECT& place) { return static_cast<int>(place.right - place.left); }
-  static int HeightOf(const RECT& place) { return static_cast<int>(place.bottom - place.top); }
+  static int WidthOf(const RECT& bounds) { return static_cast<int>(bounds.right - bounds.left); }
+  static int HeightOf(const RECT& bounds) { return static_cast<int>(bounds.bottom - bounds.top); }
   SIZE Size() const {
-    RECT place{};
-    GetWindowRect(window->Window(), &place);
-    return {place.right - place.left, place.bottom - place.top};
+    RECT bounds{};
+    GetWindowRect(window->Window(), &bounds);
+    return {bounds.right - bounds.left, bounds.bottom - bounds.top};
   }
   void Resize(SIZE size) {
     // In the screen's corner, so that all of it is on the screen.
@@ -45,7 +45,7 @@ class FindIconLayoutTest : public FindIconFixture {
     Bounds all;
     for (HWND child = GetWindow(window->Window(), GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
       const int id = GetDlgCtrlID(child);
-      if ((GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) != 0) all[id] = PlaceOf(id);
+      if ((GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) != 0) all[id] = BoundsOf(id);
     }
     return all;
   }
@@ -101,14 +101,14 @@ TEST_F(FindIconLayoutTest, GivesTheListsOfFoldersAndFilesTheRoomOfALargerWindow)
 TEST_F(FindIconLayoutTest, KeepsTheGridsHeightAndPicture) {
   Open();
   Find(90);
-  const RECT before = PlaceOf(FrmFindIcon_PicFrame);
+  const RECT before = BoundsOf(FrmFindIcon_PicFrame);
   RECT picture{};
   GetClientRect(Grid(), &picture);
   Enlarge(300, 250);
-  const RECT after = PlaceOf(FrmFindIcon_PicFrame);
+  const RECT after = BoundsOf(FrmFindIcon_PicFrame);
   EXPECT_EQ(HeightOf(after), HeightOf(before));
   EXPECT_EQ(WidthOf(after), WidthOf(before) + 300);
-  EXPECT_EQ(PlaceOf(FrmFindIcon_Vsb).left, after.right);
+  EXPECT_EQ(BoundsOf(FrmFindIcon_Vsb).left, after.right);
   RECT pictureAfter{};
   GetClientRect(Grid(), &pictureAfter);
   EXPECT_NE(EqualRect(&picture, &pictureAfter), FALSE);
@@ -119,16 +119,16 @@ TEST_F(FindIconLayoutTest, KeepsTheGridsHeightAndPicture) {
 TEST_F(FindIconLayoutTest, SharesTheHeightBetweenTheIconListAndTheListsAbove) {
   Open();
   Click(FrmFindIcon_OptView1);
-  const RECT list = PlaceOf(FrmFindIcon_Lv);
-  const RECT folders = PlaceOf(FrmFindIcon_Dir1);
+  const RECT list = BoundsOf(FrmFindIcon_Lv);
+  const RECT folders = BoundsOf(FrmFindIcon_Dir1);
   Enlarge(300, 250);
-  const RECT larger = PlaceOf(FrmFindIcon_Lv);
+  const RECT larger = BoundsOf(FrmFindIcon_Lv);
   EXPECT_EQ(WidthOf(larger), WidthOf(list) + 300);
   EXPECT_EQ(HeightOf(larger), HeightOf(list) + 125);
-  EXPECT_EQ(HeightOf(PlaceOf(FrmFindIcon_Dir1)), HeightOf(folders) + 125);
+  EXPECT_EQ(HeightOf(BoundsOf(FrmFindIcon_Dir1)), HeightOf(folders) + 125);
   EXPECT_EQ(support::OverlappingControls(window->Window()), std::vector<std::string>{});
   Click(FrmFindIcon_OptView0);
-  EXPECT_EQ(HeightOf(PlaceOf(FrmFindIcon_Dir1)), HeightOf(folders) + 250) << "the grid takes none of it";
+  EXPECT_EQ(HeightOf(BoundsOf(FrmFindIcon_Dir1)), HeightOf(folders) + 250) << "the grid takes none of it";
   EXPECT_EQ(support::OverlappingControls(window->Window()), std::vector<std::string>{});
 }
 
@@ -142,7 +142,7 @@ TEST_F(FindIconLayoutTest, IsAsItWasWhenTheWindowIsAsItWas) {
   Resize(first);
   const Bounds after = All();
   ASSERT_EQ(before.size(), after.size());
-  for (const auto& [id, place] : before) EXPECT_NE(EqualRect(&place, &after.at(id)), FALSE) << id;
+  for (const auto& [id, bounds] : before) EXPECT_NE(EqualRect(&bounds, &after.at(id)), FALSE) << id;
 }
 
 TEST_F(FindIconLayoutTest, OpensTheDriveListAsFarAsBefore) {
@@ -168,8 +168,8 @@ TEST_F(FindIconLayoutTest, FillsAMaximisedWindowAndSurvivesAMinimisedOne) {
   EXPECT_GE(whole.top, -GetSystemMetrics(SM_CYSIZEFRAME)) << "the caption is on the screen";
   RECT inside{};
   GetClientRect(window->Window(), &inside);
-  const RECT bar = PlaceOf(FrmFindIcon_Vsb);
-  const RECT status = PlaceOf(FrmFindIcon_sbMain);
+  const RECT bar = BoundsOf(FrmFindIcon_Vsb);
+  const RECT status = BoundsOf(FrmFindIcon_sbMain);
   EXPECT_GT(inside.right, before.at(FrmFindIcon_Vsb).right + 20);
   EXPECT_GE(bar.right, inside.right - 20);
   EXPECT_LE(bar.right, inside.right);
@@ -183,7 +183,7 @@ TEST_F(FindIconLayoutTest, FillsAMaximisedWindowAndSurvivesAMinimisedOne) {
   ShowWindow(window->Window(), SW_RESTORE);
   application.DoEvents();
   const Bounds after = All();
-  for (const auto& [id, place] : before) EXPECT_NE(EqualRect(&place, &after.at(id)), FALSE) << id;
+  for (const auto& [id, bounds] : before) EXPECT_NE(EqualRect(&bounds, &after.at(id)), FALSE) << id;
 }
 
 // Labels and boxes once stayed blank after another control had moved across them.

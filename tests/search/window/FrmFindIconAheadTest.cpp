@@ -124,9 +124,9 @@ TEST_F(FrmFindIconAheadTest, ABatchLetsGoBeforeEachMessage) {
   Click(FrmFindIcon_mnuSaveAll);
   EXPECT_EQ(boxes.Boxes().size(), 3U);
   for (const char* taken : {"take 0", "take 1", "take 2"}) {
-    const auto place = std::ranges::find(icons.script, taken);
-    ASSERT_NE(place, icons.script.end()) << taken;
-    EXPECT_EQ(*(place + 1), "let go") << taken;
+    const auto found = std::ranges::find(icons.script, taken);
+    ASSERT_NE(found, icons.script.end()) << taken;
+    EXPECT_EQ(*(found + 1), "let go") << taken;
   }
   EXPECT_EQ(icons.script.back(), "end");
 }

@@ -29,7 +29,7 @@ class FindIconOnDisplay : public FindIconFixture {
   }
 
   // The first display pixel that shows a pixel of the picture.
-  int Shown(int pixel) const { return (pixel * dots + 95) / 96; }
+  int DisplayPixel(int pixel) const { return (pixel * dots + 95) / 96; }
   bool IsWhole() const { return dots % 96 == 0; }
   void ChooseSize(int size) {
     SendMessageW(Item(FrmFindIcon_CboIconSize), CB_SETCURSEL, static_cast<WPARAM>(size), 0);
@@ -39,7 +39,7 @@ class FindIconOnDisplay : public FindIconFixture {
     SendMessageW(window->Window(), WM_VSCROLL, SB_BOTTOM, reinterpret_cast<LPARAM>(Item(FrmFindIcon_Vsb)));
   }
   // Hit test: the number of the entry that a click at a display pixel of the picture box selects, 0 if none.
-  int Clicked(int x, int y) {
+  int ClickEntryAt(int x, int y) {
     SetText(FrmFindIcon_lblInfo, "none");
     ReleaseOnGrid(x, y);
     const std::string text = Text(FrmFindIcon_lblInfo);
@@ -48,7 +48,8 @@ class FindIconOnDisplay : public FindIconFixture {
   // The darkest of the display pixels that show a column of the picture.
   Color DarkestOf(int column, int y) const {
     Color darkest = white;
-    for (int x = Shown(column) - 1; x < Shown(column + 1); ++x) darkest = std::min(darkest, GridPixel(x, y));
+    for (int x = DisplayPixel(column) - 1; x < DisplayPixel(column + 1); ++x)
+      darkest = std::min(darkest, GridPixel(x, y));
     return darkest;
   }
   SIZE InsideOf(HWND control) const {
@@ -89,7 +90,7 @@ TEST_F(FindIconOnDisplay, APixelOfThePictureIsABlockAtWholeScalesAndMixedAtOther
   Find(3);
   // The first frame: black from 1 to 37; the first icon: from 3 to 34.
   const Color icon = SmallMachine::ColorOf(0);
-  const int middle = Shown(18);
+  const int middle = DisplayPixel(18);
   if (IsWhole()) {
     const int times = dots / 96;
     const auto colorAt = [&](int x) { return x == 1 || x == 37 ? black : x >= 3 && x < 35 ? icon : white; };
@@ -104,44 +105,44 @@ TEST_F(FindIconOnDisplay, APixelOfThePictureIsABlockAtWholeScalesAndMixedAtOther
     EXPECT_EQ(GridPixel(5, middle), icon);
   }
   EXPECT_EQ(GridPixel(middle, middle), icon);
-  EXPECT_EQ(GridPixel(Shown(33), Shown(33)), icon);
-  EXPECT_EQ(GridPixel(Shown(36), Shown(39)), white);
+  EXPECT_EQ(GridPixel(DisplayPixel(33), DisplayPixel(33)), icon);
+  EXPECT_EQ(GridPixel(DisplayPixel(36), DisplayPixel(39)), white);
 }
 
 TEST_F(FindIconOnDisplay, AClickMeansThePixelUnderThePointer) {
   Open();
   Find(40);
-  const int y = Shown(20);
-  EXPECT_EQ(Clicked(0, 0), 1);
+  const int y = DisplayPixel(20);
+  EXPECT_EQ(ClickEntryAt(0, 0), 1);
   for (int column = 1; column < 15; ++column) {
-    const int edge = Shown(column * pitch);
-    EXPECT_EQ(Clicked(edge - 1, y), column) << column;
-    EXPECT_EQ(Clicked(edge, y), column + 1) << column;
+    const int edge = DisplayPixel(column * pitch);
+    EXPECT_EQ(ClickEntryAt(edge - 1, y), column) << column;
+    EXPECT_EQ(ClickEntryAt(edge, y), column + 1) << column;
   }
-  EXPECT_EQ(Clicked(y, Shown(pitch) - 1), 1);
-  EXPECT_EQ(Clicked(y, Shown(pitch)), 16);
-  EXPECT_EQ(Clicked(y, Shown(2 * pitch)), 31);
+  EXPECT_EQ(ClickEntryAt(y, DisplayPixel(pitch) - 1), 1);
+  EXPECT_EQ(ClickEntryAt(y, DisplayPixel(pitch)), 16);
+  EXPECT_EQ(ClickEntryAt(y, DisplayPixel(2 * pitch)), 31);
 }
 
 TEST_F(FindIconOnDisplay, TheBoundOf580IsOneOfThePicture) {
   Open();
   ChooseSize(0);
   Find(31);
-  EXPECT_EQ(Clicked(Shown(581) - 1, Shown(10)), 27);
-  EXPECT_EQ(Clicked(Shown(581), Shown(10)), 0);
-  EXPECT_EQ(Clicked(-1, Shown(10)), 0);
+  EXPECT_EQ(ClickEntryAt(DisplayPixel(581) - 1, DisplayPixel(10)), 27);
+  EXPECT_EQ(ClickEntryAt(DisplayPixel(581), DisplayPixel(10)), 0);
+  EXPECT_EQ(ClickEntryAt(-1, DisplayPixel(10)), 0);
 }
 
 TEST_F(FindIconOnDisplay, AFrameIsDrawnAndErasedWhole) {
   Open();
   Find(20);
   GridPixel(0, 0);  // paints everything
-  const int y = Shown(20);
-  Clicked(Shown(2 * pitch + 10), y);
+  const int y = DisplayPixel(20);
+  ClickEntryAt(DisplayPixel(2 * pitch + 10), y);
   // A vertical line of the frame covers at least half of a display pixel.
-  const Color atMost = IsWhole() ? black : 0x808080;
-  EXPECT_LE(DarkestOf(2 * pitch + 1, y), atMost);
-  EXPECT_LE(DarkestOf(2 * pitch + 37, y), atMost);
+  const Color maxColor = IsWhole() ? black : 0x808080;
+  EXPECT_LE(DarkestOf(2 * pitch + 1, y), maxColor);
+  EXPECT_LE(DarkestOf(2 * pitch + 37, y), maxColor);
   EXPECT_EQ(DarkestOf(1, y), white);
   EXPECT_EQ(DarkestOf(37, y), white);
 }
@@ -156,11 +157,11 @@ TEST_F(FindIconOnDisplay, TheScrollBarCountsInPixelsOfThePicture) {
   EXPECT_EQ(bar.nMax, 38 + 190 - 1);
   EXPECT_EQ(bar.nPage, 190U);
   ScrollToTheEnd();
-  EXPECT_EQ(GridCorner().y, -Shown(38));
-  EXPECT_EQ(InsideOf(Grid()).cy, Shown(228));
+  EXPECT_EQ(GridCorner().y, -DisplayPixel(38));
+  EXPECT_EQ(InsideOf(Grid()).cy, DisplayPixel(228));
   // The last row of the picture is visible.
-  EXPECT_LE(GridCorner().y + Shown(228), InsideOf(Item(FrmFindIcon_PicFrame)).cy);
-  EXPECT_EQ(Clicked(Shown(10), Shown(228) - 1), 76);
+  EXPECT_LE(GridCorner().y + DisplayPixel(228), InsideOf(Item(FrmFindIcon_PicFrame)).cy);
+  EXPECT_EQ(ClickEntryAt(DisplayPixel(10), DisplayPixel(228) - 1), 76);
 }
 
 // A window has 32767 pixels at most.
@@ -173,19 +174,20 @@ TEST_F(FindIconOnDisplay, APictureHigherThanAWindowIsScrolledToItsEndAndClicked)
   Find(icons);
   ScrollToTheEnd();
   const POINT corner = GridCorner();
-  const int above = Shown(height - 190) + static_cast<int>(corner.y);  // display pixels of the picture above the window
-  const int y = Shown(height - 35) - above;                            // in the window, of the last row's middle
+  const int above =
+      DisplayPixel(height - 190) + static_cast<int>(corner.y);  // display pixels of the picture above the window
+  const int y = DisplayPixel(height - 35) - above;              // in the window, of the last row's middle
   ASSERT_LT(y, 32767);
   EXPECT_GE(y + corner.y, 0);
   EXPECT_LT(y + corner.y, InsideOf(Item(FrmFindIcon_PicFrame)).cy);
-  EXPECT_EQ(GridPixel(Shown(3 + 7 * 70 + 20), y), SmallMachine::ColorOf(icons - 1));
-  EXPECT_EQ(Clicked(Shown(7 * 70 + 20), y), icons);
-  const RECT place = PictureBox::BoundsInWindow(Grid(), {1, height - 69, 70, height});
-  EXPECT_EQ(place.bottom, Shown(height) - above);
+  EXPECT_EQ(GridPixel(DisplayPixel(3 + 7 * 70 + 20), y), SmallMachine::ColorOf(icons - 1));
+  EXPECT_EQ(ClickEntryAt(DisplayPixel(7 * 70 + 20), y), icons);
+  const RECT bounds = PictureBox::BoundsInWindow(Grid(), {1, height - 69, 70, height});
+  EXPECT_EQ(bounds.bottom, DisplayPixel(height) - above);
   SendMessageW(window->Window(), WM_VSCROLL, SB_TOP, reinterpret_cast<LPARAM>(Item(FrmFindIcon_Vsb)));
   EXPECT_EQ(GridCorner().y, 0);
-  EXPECT_EQ(GridPixel(Shown(20), Shown(20)), SmallMachine::ColorOf(0));
-  EXPECT_EQ(Clicked(Shown(20), Shown(20)), 1);
+  EXPECT_EQ(GridPixel(DisplayPixel(20), DisplayPixel(20)), SmallMachine::ColorOf(0));
+  EXPECT_EQ(ClickEntryAt(DisplayPixel(20), DisplayPixel(20)), 1);
 }
 
 TEST_F(FindIconOnDisplay, TheListTakesTheGridsPlaceAndItsColumnsGrow) {
@@ -204,7 +206,7 @@ TEST_F(FindIconOnDisplay, TheListTakesTheGridsPlaceAndItsColumnsGrow) {
   constexpr std::array widths{40, 460, 80};
   for (int column = 0; column < 3; ++column) {
     EXPECT_EQ(ListView_GetColumnWidth(Item(FrmFindIcon_Lv), column),
-              Shown(widths.at(static_cast<std::size_t>(column))));
+              DisplayPixel(widths.at(static_cast<std::size_t>(column))));
   }
 }
 
@@ -216,11 +218,11 @@ TEST_F(FindIconOnDisplay, EverythingIsInsideTheWindow) {
   MapWindowPoints(nullptr, window->Window(), reinterpret_cast<POINT*>(&status), 2);
   for (HWND child = GetWindow(window->Window(), GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
     if ((GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) == 0) continue;
-    RECT place{};
-    GetWindowRect(child, &place);
-    MapWindowPoints(nullptr, window->Window(), reinterpret_cast<POINT*>(&place), 2);
-    EXPECT_LE(place.right, inside.cx) << GetDlgCtrlID(child);
-    EXPECT_LE(place.bottom, child == Item(FrmFindIcon_sbMain) ? inside.cy : status.top) << GetDlgCtrlID(child);
+    RECT bounds{};
+    GetWindowRect(child, &bounds);
+    MapWindowPoints(nullptr, window->Window(), reinterpret_cast<POINT*>(&bounds), 2);
+    EXPECT_LE(bounds.right, inside.cx) << GetDlgCtrlID(child);
+    EXPECT_LE(bounds.bottom, child == Item(FrmFindIcon_sbMain) ? inside.cy : status.top) << GetDlgCtrlID(child);
   }
 }
 

@@ -31,7 +31,7 @@ class FrmFindIconDropTest : public support::FindIconFixture {
     return memory;
   }
   int Drive() const { return static_cast<int>(SendMessageW(Item(FrmFindIcon_Drive1), CB_GETCURSEL, 0, 0)); }
-  std::string Ticked() const {
+  std::string TickedTypes() const {
     std::string ticked;
     for (int id = FrmFindIcon_ChkFileType0; id <= FrmFindIcon_ChkFileType6; ++id)
       ticked += window->IsChecked(id) ? 'x' : '-';
@@ -55,7 +55,7 @@ TEST_F(FrmFindIconDropTest, OpensADroppedFolderAndChoosesItsDrive) {
   EXPECT_EQ(RowsOf(FrmFindIcon_Dir1), (Names{"E:\\", "pictures", "图标", "old"}));
   EXPECT_EQ(RowsOf(FrmFindIcon_File1), (Names{"a.ico", "b.ico"}));
   EXPECT_EQ(Drive(), 2);
-  EXPECT_EQ(Ticked(), "x------");
+  EXPECT_EQ(TickedTypes(), "x------");
 }
 
 TEST_F(FrmFindIconDropTest, OpensTheRootOfADrive) {
@@ -89,7 +89,7 @@ TEST_F(FrmFindIconDropTest, OpensTheFolderOfADroppedFileAndTicksItsType) {
     EXPECT_EQ(window->Dir1Path(), "E:\\tools") << row.name;
     EXPECT_EQ(RowsOf(FrmFindIcon_File1), Names{row.name});
     EXPECT_EQ(Drive(), 2) << row.name;
-    EXPECT_EQ(Ticked(), row.ticked) << row.name;
+    EXPECT_EQ(TickedTypes(), row.ticked) << row.name;
     EXPECT_EQ(machine.patterns.back(), row.pattern) << row.name;
   }
 }
@@ -107,7 +107,7 @@ TEST_F(FrmFindIconDropTest, TakesTheFirstOfSeveralAndNothingOfNone) {
   Open();
   Drop({"E:\\tools\\a.dll", "C:\\other", "C:\\icons\\a.exe"});
   EXPECT_EQ(window->Dir1Path(), "E:\\tools");
-  EXPECT_EQ(Ticked(), "x---x--");
+  EXPECT_EQ(TickedTypes(), "x---x--");
   Drop({});
   EXPECT_EQ(window->Dir1Path(), "E:\\tools");
   EXPECT_TRUE(boxes.Boxes().empty());
@@ -155,7 +155,7 @@ TEST_F(FrmFindIconDropTest, SaysInEachLanguageThatAFolderCannotBeRead) {
     EXPECT_EQ(boxes.Boxes().back().title, row.title);
     EXPECT_EQ(boxes.Boxes().back().text, row.text);
     EXPECT_EQ(window->Dir1Path(), "C:\\icons");
-    EXPECT_EQ(Ticked(), "x------");
+    EXPECT_EQ(TickedTypes(), "x------");
   }
 }
 

@@ -44,8 +44,8 @@ class FrmFindIconExportTest : public FindIconFixture {
     } while (FindNextFileW(find.get(), &data) != 0);
     return names;
   }
-  static std::uint8_t Byte(const std::string& bytes, std::size_t place) {
-    return static_cast<std::uint8_t>(bytes.at(place));
+  static std::uint8_t Byte(const std::string& bytes, std::size_t offset) {
+    return static_cast<std::uint8_t>(bytes.at(offset));
   }
 
   TemporaryFolder folder;
@@ -227,8 +227,8 @@ TEST_F(FrmFindIconExportTest, SavesABlankWhereTheFileYieldsNoIconAnyMore) {
   dialogs.path = folder.In("a.ico");
   Click(FrmFindIcon_mnuSaveAs);
   const std::string icon = ReadAll(dialogs.path);
-  constexpr std::size_t imagePlace = 6 + 16 + 40 + 8;
-  EXPECT_EQ(icon.substr(imagePlace), std::string(128, '\0') + std::string(128, '\xFF')) << "image and mask";
+  constexpr std::size_t imageOffset = 6 + 16 + 40 + 8;
+  EXPECT_EQ(icon.substr(imageOffset), std::string(128, '\0') + std::string(128, '\xFF')) << "image and mask";
   dialogs.path = folder.In("a.bmp");
   Click(FrmFindIcon_MnuSaveAsBitmap);
   EXPECT_EQ(ReadAll(dialogs.path).size(), 14U + 40U + 2U * 4U + 32U * 4U) << "black and white alone";
@@ -245,9 +245,9 @@ class HalfIcon final : public ExtractedIcon {
     if (step >= 1) return false;
     const HDC dc = static_cast<Surface&>(surface).Dc();
     const auto fill = [&](int from, int to, Color color) {
-      const RECT place{corner.x + from, corner.y, corner.x + to, corner.y + size};
+      const RECT bounds{corner.x + from, corner.y, corner.x + to, corner.y + size};
       const BrushHandle brush(CreateSolidBrush(color));
-      FillRect(dc, &place, brush.get());
+      FillRect(dc, &bounds, brush.get());
     };
     fill(0, size / 2, part == DrawPart::Mask ? black : opaque);
     if (part != DrawPart::Normal) fill(size / 2, size, part == DrawPart::Mask ? white : inverting);

@@ -25,17 +25,17 @@ class FrmFindIconKeysTest : public support::FindIconFixture {
       item.dwTypeData = text.data();
       item.cch = static_cast<UINT>(text.size());
       GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &item);
-      items.push_back(Described(static_cast<int>(item.wID), ToUtf8(text.data()), (item.fState & MFS_DISABLED) == 0));
+      items.push_back(Describe(static_cast<int>(item.wID), ToUtf8(text.data()), (item.fState & MFS_DISABLED) == 0));
       if (item.hSubMenu == nullptr) continue;
       for (std::string& below : ItemsOf(item.hSubMenu)) items.push_back(std::move(below));
     }
     return items;
   }
-  static std::string Described(int id, const std::string& text, bool enabled) {
+  static std::string Describe(int id, const std::string& text, bool enabled) {
     return std::to_string(id) + " " + text + (enabled ? "" : " (disabled)");
   }
   // The item as the menu bar shows it.
-  std::string InBar(int id) const { return Described(id, window->TheMenu().Text(id), window->TheMenu().IsEnabled(id)); }
+  std::string InBar(int id) const { return Describe(id, window->TheMenu().Text(id), window->TheMenu().IsEnabled(id)); }
   // Opens the menu of the focused row and closes it. Returns its items.
   Items RowMenu() {
     static Items seen;
@@ -58,7 +58,7 @@ TEST_F(FrmFindIconKeysTest, OffersForARowWhatItsMenusOffer) {
     Open(language);
     Find(3);
     Click(FrmFindIcon_OptView1);
-    const std::string line = Described(0, "", true);
+    const std::string line = Describe(0, "", true);
     const Items expected{InBar(FrmFindIcon_mnuSaveAs),       InBar(FrmFindIcon_MnuSaveAsBitmap),
                          InBar(FrmFindIcon_MnuSaveAsCursor), line,
                          InBar(FrmFindIcon_mnuBatch),        InBar(FrmFindIcon_mnuSaveSel),

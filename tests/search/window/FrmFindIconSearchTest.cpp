@@ -46,10 +46,10 @@ class FrmFindIconSearchTest : public support::FindIconFixture {
   }
   // Turns the wheel over the middle of the grid, in 120ths of a notch.
   void TurnWheel(int delta) {
-    RECT place;
-    GetWindowRect(Item(FrmFindIcon_PicFrame), &place);
+    RECT bounds;
+    GetWindowRect(Item(FrmFindIcon_PicFrame), &bounds);
     PostMessageW(Item(FrmFindIcon_CmdFind), WM_MOUSEWHEEL, static_cast<WPARAM>(delta) << 16U,
-                 MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2));
+                 MAKELPARAM((bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2));
     application.DoEvents();
   }
   int RowCount() const { return ListView_GetItemCount(Item(FrmFindIcon_Lv)); }

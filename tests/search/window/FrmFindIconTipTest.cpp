@@ -118,10 +118,10 @@ TEST_F(FrmFindIconTipTest, FollowsTheGridThatScrollsUnderThePointer) {
   SendMessageW(window->Window(), WM_VSCROLL, SB_LINEDOWN, reinterpret_cast<LPARAM>(Item(FrmFindIcon_Vsb)));
   EXPECT_EQ(Tip(), "") << "before the pointer moves";
   EXPECT_EQ(TipOf(16), "C:\\icons\\some.dll\r\nIndex 15");
-  RECT place{};
-  GetWindowRect(Item(FrmFindIcon_PicFrame), &place);
+  RECT bounds{};
+  GetWindowRect(Item(FrmFindIcon_PicFrame), &bounds);
   PostMessageW(Grid(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)),
-               MAKELPARAM(place.left + 20, place.top + 20));
+               MAKELPARAM(bounds.left + 20, bounds.top + 20));
   application.DoEvents();
   EXPECT_EQ(Tip(), "") << "before the pointer moves";
 }

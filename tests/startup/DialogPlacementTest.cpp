@@ -10,9 +10,9 @@
 namespace tarvik {
 namespace {
 
-class DialogPlacesTest : public support::Dialogs, public ::testing::Test {
+class DialogPlacementTest : public support::Dialogs, public ::testing::Test {
  protected:
-  DialogPlacesTest() : Dialogs("ENG") {}
+  DialogPlacementTest() : Dialogs("ENG") {}
 
   static void Check(const std::unique_ptr<Form>& form, const char* name) {
     const ::testing::ScopedTrace trace(__FILE__, __LINE__, name);
@@ -21,7 +21,7 @@ class DialogPlacesTest : public support::Dialogs, public ::testing::Test {
   }
 };
 
-TEST_F(DialogPlacesTest, AreInTheMiddleAThirdOfTheSpareHeightDown) {
+TEST_F(DialogPlacementTest, AreInTheMiddleAThirdOfTheSpareHeightDown) {
   Check(FolderChooser(), "frmDir");
   Check(NewFolder(), "frmDirCreate");
   Check(HotSpotPicker(), "FrmHotSpot");
