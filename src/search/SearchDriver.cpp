@@ -1,5 +1,6 @@
 #include "search/SearchDriver.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -96,22 +97,6 @@ bool SearchDriver::IsRefused() {
   return true;
 }
 
-void SearchDriver::ShowList() {
-  UpdateTitle();
-  if (const auto text = Pick(searchTexts::firstSelected, language_)) window_.SetInfoText(std::string(*text));
-  grid_.Keep();
-  state_.FrameX = frameMargin;
-  state_.FrameY = frameMargin;
-  const int farCorner = state_.Geometry.FirstFrameExtent;
-  grid_.DrawFrame({frameMargin, frameMargin}, {farCorner, farCorner}, true);
-  state_.CurrentIndex = 0;
-  for (const SearchControl control : searchControls) window_.Enable(control, true);
-  state_.IsSearching = false;
-  // The files that were counted can be deleted before they are listed.
-  if (list_.Has(1)) list_.Select(1);
-  window_.ListChanged();
-}
-
 void SearchDriver::FailureExit() {
   window_.Enable(SearchControl::CmdFind, true);
   window_.Enable(SearchControl::CmdClose, true);
@@ -185,6 +170,22 @@ void SearchDriver::ListIcons() {
       SetStatus(searchTexts::added, {std::to_string(list_.Count())});
     }
   }
+}
+
+void SearchDriver::ShowList() {
+  UpdateTitle();
+  if (const auto text = Pick(searchTexts::firstSelected, language_)) window_.SetInfoText(std::string(*text));
+  grid_.Keep();
+  state_.FrameX = frameMargin;
+  state_.FrameY = frameMargin;
+  const int farCorner = state_.Geometry.FirstFrameExtent;
+  grid_.DrawFrame({frameMargin, frameMargin}, {farCorner, farCorner}, true);
+  state_.CurrentIndex = 0;
+  for (const SearchControl control : searchControls) window_.Enable(control, true);
+  state_.IsSearching = false;
+  // The files that were counted can be deleted before they are listed.
+  if (list_.Has(1)) list_.Select(1);
+  window_.ListChanged();
 }
 
 void SearchDriver::ListFilesOf(const std::string& folder) {

@@ -114,7 +114,7 @@ class FrmFindIcon final : public Form, private SearchWindow, private SelectionVi
   std::optional<PictureContent::CurrentPart> CurrentItem() const;
   void ShowSelectionInList();
   void ChooseIfNotCurrent(int row);  // counted from 0
-  void ShowProgress();
+  void ShowLastTexts();              // of the caption and the status bar, if they are not shown yet
 
   Dependencies dependencies_;
   SearchState state_;

@@ -8,8 +8,6 @@
 #include <string>
 
 #include "base/Conversion.h"
-#include "base/Finally.h"
-#include "forms/FocusKept.h"
 #include "forms/MessageBox.h"
 #include "resource.h"
 #include "search/icons/FilePattern.h"
@@ -82,18 +80,6 @@ void FrmFindIcon::txtMax_Change() {
   } catch (const RuntimeError&) {
     return;
   }
-}
-
-void FrmFindIcon::CmdFind_Click() {
-  if (state_.IsSearching) return;
-  // The walk moves both lists through every folder; they show the folder again when it ends.
-  const ShownFolders::Held held = folders_.HoldForWalk();
-  // The button is disabled during the search, and a disabled control that has the focus would swallow every key.
-  const FocusKept focus(Window());
-  // The last texts are shown at the end, also if an error ends the search.
-  const Finally progress([this] { ShowProgress(); });
-  const Finally inTurn = dependencies_.icons.InTurn();
-  driver_.CmdFind_Click();
 }
 
 // Stores the entry for a caller that does not exist, and closes the program (deliberate: oddities 14).

@@ -1,9 +1,11 @@
-// The SearchWindow side of the main window.
+// The Find button, and the SearchWindow side of the main window.
 
 #include <windows.h>
 
 #include <string>
 
+#include "base/Finally.h"
+#include "forms/FocusKept.h"
 #include "forms/MessageBox.h"
 #include "forms/MousePointer.h"
 #include "resource.h"
@@ -38,6 +40,18 @@ int IdOf(SearchControl control) {
 
 }  // namespace
 
+void FrmFindIcon::CmdFind_Click() {
+  if (state_.IsSearching) return;
+  // The walk moves both lists through every folder; they show the folder again when it ends.
+  const ShownFolders::Held held = folders_.HoldForWalk();
+  // The button is disabled during the search, and a disabled control that has the focus would swallow every key.
+  const FocusKept focus(Window());
+  // The last texts are shown at the end, also if an error ends the search.
+  const Finally lastTexts([this] { ShowLastTexts(); });
+  const Finally inTurn = dependencies_.icons.InTurn();
+  driver_.CmdFind_Click();
+}
+
 void FrmFindIcon::CloseEnhancedView() {
   if (view_) view_->Unload();
 }
@@ -60,7 +74,7 @@ void FrmFindIcon::SetStatusText(const std::string& text) {
   if (!state_.IsSearching) status_.Flush();
 }
 
-void FrmFindIcon::ShowProgress() {
+void FrmFindIcon::ShowLastTexts() {
   caption_.Flush();
   status_.Flush();
 }
@@ -71,7 +85,7 @@ void FrmFindIcon::SetInfoText(const std::string& text) {
 
 void FrmFindIcon::ShowInformation(const std::string& text) {
   dependencies_.icons.LetGo();
-  ShowProgress();
+  ShowLastTexts();
   tarvik::ShowMessage(Window(), text, productTitle, MessageSign::Information);
 }
 
