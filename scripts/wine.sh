@@ -80,8 +80,9 @@ start_server() {
   wine wineboot >/dev/null 2>&1 </dev/null 9>&- || fail "Wine does not start"
 }
 
-# keep_desktop_open: on a busy machine the program that opens the desktop sometimes hangs, and keeps every other one from
-# opening it. So it is not only started again, but the server and all programs with it.
+# keep_desktop_open: on a busy machine the program that opens the desktop sometimes ends while it starts. The server then
+# knows a desktop that belongs to no program, and no other program can open it as long as any program runs. So the server
+# and all programs are started again.
 keep_desktop_open() {
   for _ in $(seq 5); do
     stay_on_desktop
@@ -109,17 +110,16 @@ stay_on_desktop() {
 }
 
 # open_desktop: opens it before the first program does; otherwise the desktop would keep that program's output open, and a
-# reader of the output would wait until the desktop ends. On a busy machine the program that opens it sometimes ends
-# without having done so, and is started again. Fails if there is no desktop after a minute and a half.
+# reader of the output would wait until the desktop ends. Fails if the program that opens it ends, or takes two minutes.
 open_desktop() {
-  local windows
-  for _ in 1 2 3; do
-    wine explorer "/desktop=Default,$display_size" >/dev/null 2>&1 </dev/null 9>&- &
-    for _ in $(seq 300); do
-      windows=$(xwininfo -root -tree 2>/dev/null 9>&- || true)
-      if grep -qi 'wine desktop' <<<"$windows"; then return 0; fi
-      sleep 0.1
-    done
+  local opener windows
+  wine explorer "/desktop=Default,$display_size" >/dev/null 2>&1 </dev/null 9>&- &
+  opener=$!
+  for _ in $(seq 1200); do
+    windows=$(xwininfo -root -tree 2>/dev/null 9>&- || true)
+    if grep -qi 'wine desktop' <<<"$windows"; then return 0; fi
+    kill -0 "$opener" 2>/dev/null || return 1
+    sleep 0.1
   done
   return 1
 }
