@@ -243,6 +243,17 @@ TEST_F(FrmFindIconTest, FramesTheFirstIconAfterASearch) {
   EXPECT_EQ(GridPixel(2, 2), white);
 }
 
+// As when the system gets another theme.
+TEST_F(FrmFindIconTest, PaintsItsGridAgainIfTheWholeWindowIsInvalid) {
+  Open();
+  Find(3);
+  ASSERT_EQ(GridPixel(1, 1), black);
+  RedrawWindow(window->Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+  EXPECT_EQ(GridPixel(1, 1), black);
+  EXPECT_EQ(GridPixel(2, 2), white);
+  EXPECT_EQ(GridPixel(3, 3), support::SmallMachine::ColorOf(0));
+}
+
 TEST_F(FrmFindIconTest, ScrollsFromTheSixthRowOn) {
   Open();
   Find(75);
