@@ -179,9 +179,8 @@ void Driver::Next() {
   PostTick();  // none was possible: ends
 }
 
-// A system under load may ask for a repaint only after the windows seemed painted: under Wine 10 about once in 50,000
-// steps a strip of the grid still has its frame's colour. So wrong pixels are compared again, and fail if they stay
-// wrong.
+// A repaint may still be on its way when the windows seem painted. So wrong pixels are compared again, and fail if they
+// stay wrong; how late the repaint was is printed.
 bool Driver::AwaitPaint(const std::string& difference) {
   const ULONGLONG now = GetTickCount64();
   if (difference.find(wrongPixel) == std::string::npos) {
