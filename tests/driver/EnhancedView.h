@@ -33,7 +33,7 @@ class EnhancedView {
   bool ShowIsOn() const { return CanPress(frmBit_tlb_control_Stop) && !CanPress(frmBit_tlb_control_Start); }
 
   // The position of the enlarged picture on the screen, and in the window.
-  RECT PictureBounds() const { return window_.Child(frmBit_img).Place(); }
+  RECT PictureBounds() const { return window_.Child(frmBit_img).Bounds(); }
   RECT PictureBoundsInWindow() const;
 
   // Sends a toolbar button's command, and returns when it has been handled.

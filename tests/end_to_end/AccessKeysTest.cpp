@@ -98,7 +98,7 @@ class AccessKeys : public EndToEnd, public ::testing::WithParamInterface<Row> {
     Press(letter);
     std::optional<Control> menu;
     ASSERT_TRUE(Eventually([&] { return (menu = program_.OpenMenu()).has_value(); })) << static_cast<char>(letter);
-    lefts_[position] = menu->Place().left;
+    lefts_[position] = menu->Bounds().left;
     PressKey(VK_ESCAPE, {}, 2);
     ASSERT_TRUE(Eventually([&] { return !program_.OpenMenu(); }));
   }

@@ -48,7 +48,7 @@ TEST_F(Busy, TheWindowDoesNotCloseByItsSystemMenu) {
 TEST_F(Busy, TheWindowDoesNotCloseByAltF4) {
   StartOnManyFolders();
   // An open drop-down list would receive the keys.
-  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Bounds()));
   BehindFind([&] { PressKey(VK_F4, {VK_MENU}); });
   ExpectTheSearchWentOn();
   PressKey(VK_F4, {VK_MENU});
@@ -57,14 +57,14 @@ TEST_F(Busy, TheWindowDoesNotCloseByAltF4) {
 
 TEST_F(Busy, TheWindowDoesNotCloseByItsCloseBox) {
   StartOnManyFolders();
-  const RECT window = program_.Window().Place();
+  const RECT window = program_.Window().Bounds();
   const POINT closeBox{window.right - GetSystemMetrics(SM_CXSIZE) / 2 - GetSystemMetrics(SM_CXFRAME),
                        window.top + GetSystemMetrics(SM_CYFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2};
   BehindFind([&] { Click(closeBox); });
   ExpectTheSearchWentOn();
   // The program handles that click only after the search. A click elsewhere keeps the next one from being taken for the
   // second half of a double click.
-  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Bounds()));
   // After the search the same place closes the window, so it was the close box.
   Click(closeBox);
   EXPECT_EQ(program_.WaitForEnd(), 0U);

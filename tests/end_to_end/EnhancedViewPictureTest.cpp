@@ -28,7 +28,7 @@ class EnhancedViewTexts : public ViewByHand, public ::testing::WithParamInterfac
   static void SaveViewPicture(const EnhancedView& view, const std::string& name) {
     MovePointer({0, 0});
     const std::string file = "enhanced-view-" + std::string(GetParam().code) + "-" + name + ".png";
-    SavePicture(view.Window().Place(), BuiltFile("../../../run") / ToWide(file));
+    SavePicture(view.Window().Bounds(), BuiltFile("../../../run") / ToWide(file));
   }
   static std::string CaptionAt(int factor) {
     const auto& [before, between, after] = GetParam().caption;

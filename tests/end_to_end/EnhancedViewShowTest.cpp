@@ -135,20 +135,20 @@ TEST_F(EnhancedViewShow, EndsWithTheView) {
 class EnhancedViewSize : public ViewByHand {
  protected:
   static SIZE SizeOf(const EnhancedView& view) {
-    const RECT bounds = view.Window().Place();
+    const RECT bounds = view.Window().Bounds();
     return {bounds.right - bounds.left, bounds.bottom - bounds.top};
   }
   // Checks that the whole view is on the screen, with all of its buttons, its list and its status bar.
   static void ExpectUsable(const EnhancedView& view, const std::string& what) {
-    const RECT bounds = view.Window().Place();
+    const RECT bounds = view.Window().Bounds();
     EXPECT_GE(bounds.left, 0) << what;
     EXPECT_GE(bounds.top, 0) << what;
     EXPECT_LE(bounds.right, GetSystemMetrics(SM_CXSCREEN)) << what;
     EXPECT_LE(bounds.bottom, GetSystemMetrics(SM_CYSCREEN)) << what;
     const RECT inside = view.Window().Inside();
     EXPECT_LE(view.Toolbar().ButtonBounds(frmBit_tlb_control_Exit).right, inside.right) << what;
-    EXPECT_LE(view.ZoomList().Place().bottom, view.Window().Child(frmBit_sbMain).Place().top) << what;
-    EXPECT_EQ(view.Window().Child(frmBit_sbMain).Place().bottom, inside.bottom) << what;
+    EXPECT_LE(view.ZoomList().Bounds().bottom, view.Window().Child(frmBit_sbMain).Bounds().top) << what;
+    EXPECT_EQ(view.Window().Child(frmBit_sbMain).Bounds().bottom, inside.bottom) << what;
   }
 };
 
@@ -158,7 +158,7 @@ TEST_F(EnhancedViewSize, IsKeptOverARestart) {
   EXPECT_EQ(SizeOf(view).cx, 443);
   EXPECT_EQ(SizeOf(view).cy, 354);
   // Dragged by its corner, as a user enlarges it.
-  const RECT bounds = view.Window().Place();
+  const RECT bounds = view.Window().Bounds();
   ASSERT_TRUE(Eventually([&] {
     Drag({bounds.right - 2, bounds.bottom - 2}, {bounds.right + 98, bounds.bottom + 48});
     return Eventually([&] { return SizeOf(view).cx == 543; }, lostAfter);

@@ -56,7 +56,7 @@ TEST_F(Folders, ADriveThatIsPluggedInShowsWhenTheListOpens) {
   const Control drives = program_.Item(FrmFindIcon_Drive1);
   EXPECT_THAT(drives.ComboItems(), Not(Contains("r: [stick]")));
   const ExtraDrive drive(tree_.Path(), "stick");
-  Click(MiddleOf(drives.Place()));
+  Click(MiddleOf(drives.Bounds()));
   EXPECT_TRUE(Eventually([&] { return std::ranges::count(drives.ComboItems(), "r: [stick]") == 1; }));
   PressKey(VK_ESCAPE);
 }

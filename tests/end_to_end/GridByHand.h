@@ -66,10 +66,10 @@ class GridPicture : public EndToEnd {
 
   int ScrolledPixels() const {
     return static_cast<int>(program_.Item(FrmFindIcon_PicFrame).Inside().top -
-                            program_.Item(FrmFindIcon_PicIcons).Place().top);
+                            program_.Item(FrmFindIcon_PicIcons).Bounds().top);
   }
   int GridHeight() const {
-    const RECT bounds = program_.Item(FrmFindIcon_PicIcons).Place();
+    const RECT bounds = program_.Item(FrmFindIcon_PicIcons).Bounds();
     return static_cast<int>(bounds.bottom - bounds.top);
   }
 

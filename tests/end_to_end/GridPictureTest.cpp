@@ -108,11 +108,11 @@ TEST_F(GridPicture, TheWheelAndTheScrollBarMoveIt) {
   Start();
   Tick({Dll});
   Find();
-  TurnWheel(MiddleOf(program_.Item(FrmFindIcon_PicFrame).Place()), -1);
+  TurnWheel(MiddleOf(program_.Item(FrmFindIcon_PicFrame).Bounds()), -1);
   EXPECT_TRUE(Eventually([&] { return ScrolledPixels() > 0; }));
-  TurnWheel(MiddleOf(program_.Item(FrmFindIcon_PicFrame).Place()), 5);
+  TurnWheel(MiddleOf(program_.Item(FrmFindIcon_PicFrame).Bounds()), 5);
   EXPECT_TRUE(Eventually([&] { return ScrolledPixels() == 0; }));
-  const RECT bar = program_.Item(FrmFindIcon_Vsb).Place();
+  const RECT bar = program_.Item(FrmFindIcon_Vsb).Bounds();
   Click({(bar.left + bar.right) / 2, bar.bottom - 4});
   EXPECT_TRUE(Eventually([&] { return ScrolledPixels() > 0; }));
 }
@@ -125,7 +125,7 @@ TEST_F(GridPicture, FollowsTheThumbWhileItIsDragged) {
   Find();
   const auto expected = ExpectedPicture(geometries[Size64]);
   const int end = expected->Height() - viewportHeight;
-  const RECT bar = program_.Item(FrmFindIcon_Vsb).Place();
+  const RECT bar = program_.Item(FrmFindIcon_Vsb).Bounds();
   const int arrow = GetSystemMetrics(SM_CYVSCROLL);
   const POINT thumb{(bar.left + bar.right) / 2, bar.top + arrow + 3};
   DragAndHold(thumb, {thumb.x, (bar.top + bar.bottom) / 2});
@@ -146,7 +146,7 @@ TEST_F(GridPicture, PartsOfANotchAddUpToOne) {
   ChooseSize(Size64);
   Find();
   const Control frame = program_.Item(FrmFindIcon_PicFrame);
-  const POINT point = MiddleOf(frame.Place());
+  const POINT point = MiddleOf(frame.Bounds());
   const auto turn = [&](int delta) {
     frame.Post(WM_MOUSEWHEEL, static_cast<WPARAM>(delta) << 16U, MAKELPARAM(point.x, point.y));
   };

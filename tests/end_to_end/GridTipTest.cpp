@@ -22,7 +22,7 @@ class GridTip : public EndToEnd {
   }
   // Rests the pointer over the middle of an icon of 32 pixels, by its number; `aside` pixels to the right of it.
   void PointAt(int number, int aside = 0) const {
-    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
+    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Bounds();
     MovePointer({grid.left + 3 + (number - 1) % 15 * 38 + 16 + aside, grid.top + 3 + (number - 1) / 15 * 38 + 16});
   }
   // Whether this tip appears over an icon. A window that is not active when the pointer comes to rest shows none, so
@@ -49,7 +49,7 @@ TEST_F(GridTip, ShowsFileAndIndexOfTheIconUnderThePointer) {
   PointAt(5);
   EXPECT_TRUE(Eventually([&] { return !ShownTip(); })) << "there is no fifth icon";
   EXPECT_TRUE(ShowsOver(4, In("图标.dll") + "\r\nIndex 2"));
-  DoubleClick(MiddleOf(program_.Item(FrmFindIcon_PicFrame).Place()));  // an empty cell too
+  DoubleClick(MiddleOf(program_.Item(FrmFindIcon_PicFrame).Bounds()));  // an empty cell too
   EXPECT_TRUE(Eventually([&] { return !ShownTip(); }));
 }
 
@@ -70,7 +70,7 @@ TEST_F(GridTip, ShowsTheWholeOfALongPathOnTheScreen) {
   std::string text = ShownTip()->Text();
   for (std::size_t end = 0; (end = text.find("\r\n")) != std::string::npos;) text.erase(end, 2);
   EXPECT_EQ(text, In(folder + "\\a.ico") + "Index 0");
-  const RECT bounds = ShownTip()->Place();
+  const RECT bounds = ShownTip()->Bounds();
   EXPECT_GE(bounds.left, 0);
   EXPECT_LE(bounds.right, GetSystemMetrics(SM_CXSCREEN));
   EXPECT_LT(bounds.right - bounds.left, 800);

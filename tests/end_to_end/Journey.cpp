@@ -94,7 +94,7 @@ void Journey::TickByMouse(int id) const {
   const Control box = program_.Item(id);
   EXPECT_FALSE(box.IsChecked()) << id;
   EXPECT_TRUE(Eventually([&] {
-    Click(MiddleOf(box.Place()));
+    Click(MiddleOf(box.Bounds()));
     return Eventually([&] { return box.IsChecked(); }, lostAfter);
   })) << id;
 }
@@ -110,7 +110,7 @@ void Journey::ChooseTypes() {
 void Journey::TypeLimit(const std::string& limit) const {
   const Control box = program_.Item(FrmFindIcon_txtMax);
   EXPECT_TRUE(Eventually([&] {
-    DoubleClick(MiddleOf(box.Place()));  // selects its text
+    DoubleClick(MiddleOf(box.Bounds()));  // selects its text
     TypeText(limit);
     return Eventually([&] { return box.Text() == limit; }, lostAfter);
   })) << box.Text();
@@ -130,7 +130,7 @@ void Journey::Search() {
   refusal.Press(IDOK);
   ASSERT_TRUE(Eventually([&] { return IsEnabled(FrmFindIcon_CmdFind); }));
   TypeLimit("200");
-  Click(MiddleOf(program_.Item(FrmFindIcon_CmdFind).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_CmdFind).Bounds()));
   ASSERT_TRUE(Eventually([&] { return List().RowCount() == count_ && IsEnabled(FrmFindIcon_CmdFind); }));
   EXPECT_EQ(Caption(), "Brindle Tarvik - " + std::string(root) + tongue_.folder + " - " + std::to_string(count_) +
                            tongue_.foundEnd);
@@ -273,7 +273,7 @@ void Journey::ComeBack() {
   EXPECT_TRUE(program_.Item(FrmFindIcon_chkSubDir).IsChecked());
   Find();
   const EnhancedView view = OpenOn(2);
-  const RECT bounds = view.Window().Place();
+  const RECT bounds = view.Window().Bounds();
   EXPECT_EQ(bounds.right - bounds.left, LargerView().cx);
   EXPECT_EQ(bounds.bottom - bounds.top, LargerView().cy);
   Picture("next-day");

@@ -35,7 +35,7 @@ class Keyboard : public EndToEnd {
 TEST_F(Keyboard, TabReachesEveryControlThatCanBeUsedFromTopToBottom) {
   Start();
   ASSERT_TRUE(Eventually([&] { return program_.Focus().Window() != nullptr; }));
-  Click(MiddleOf(program_.Item(FrmFindIcon_Dir1).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_Dir1).Bounds()));
   ASSERT_TRUE(Focuses(FrmFindIcon_Dir1));
   const std::vector<int> expected{FrmFindIcon_Dir1,         FrmFindIcon_File1,        FrmFindIcon_ChkFileType0,
                                   FrmFindIcon_ChkFileType1, FrmFindIcon_ChkFileType2, FrmFindIcon_ChkFileType3,
@@ -51,7 +51,7 @@ TEST_F(Keyboard, TabReachesGridsScrollBarAndOkAfterASearch) {
   Start();
   Tick({Dll});
   Find();
-  Click(MiddleOf(program_.Item(FrmFindIcon_Dir1).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_Dir1).Bounds()));
   ASSERT_TRUE(Focuses(FrmFindIcon_Dir1));
   const auto reached = TabRound();
   EXPECT_THAT(reached, ::testing::Contains(static_cast<int>(FrmFindIcon_CmdOk)));
@@ -61,7 +61,7 @@ TEST_F(Keyboard, TabReachesGridsScrollBarAndOkAfterASearch) {
 TEST_F(Keyboard, TabReachesTheListWhereItIsShown) {
   Start();
   program_.Item(FrmFindIcon_OptView1).Send(BM_CLICK);
-  Click(MiddleOf(program_.Item(FrmFindIcon_Dir1).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_Dir1).Bounds()));
   ASSERT_TRUE(Focuses(FrmFindIcon_Dir1));
   EXPECT_THAT(TabRound(), ::testing::Contains(static_cast<int>(FrmFindIcon_Lv)));
 }
@@ -69,7 +69,7 @@ TEST_F(Keyboard, TabReachesTheListWhereItIsShown) {
 TEST_F(Keyboard, EnterFinds) {
   tree_.MakeFile("a.ico", IconFileOf(0xFF));
   Start();
-  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Bounds()));
   ASSERT_TRUE(Focuses(FrmFindIcon_File1));
   PressKey(VK_RETURN);
   EXPECT_TRUE(Eventually([&] { return List().RowCount() == 1; }));
@@ -84,7 +84,7 @@ TEST_F(Keyboard, AltCCloses) {
 TEST_F(Keyboard, AltF4ClosesWhateverHasTheFocus) {
   for (const int id : {FrmFindIcon_File1, FrmFindIcon_CboIconSize}) {
     Start();
-    Click(MiddleOf(program_.Item(id).Place()));
+    Click(MiddleOf(program_.Item(id).Bounds()));
     ASSERT_TRUE(Focuses(id));
     PressKey(VK_F4, {VK_MENU});
     EXPECT_EQ(program_.WaitForEnd(), 0U);
@@ -135,7 +135,7 @@ TEST_F(Keyboard, TheViewMenuShowsTheList) {
 
 TEST_F(Keyboard, SpaceTicksABox) {
   Start();
-  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_File1).Bounds()));
   PressKey(VK_TAB);
   ASSERT_TRUE(Focuses(FrmFindIcon_ChkFileType0));
   PressKey(VK_SPACE);

@@ -96,7 +96,7 @@ TEST_F(Limit, ListsAsManyAsTheHighestLimitOnceTheLimitIsRaisedToIt) {
   EXPECT_EQ(List().RowCount(), 4000);
   EXPECT_EQ(List().Row(3999), (std::vector<std::string>{"4000", In("1002.dll"), "1999"}));
   // 130 rows of 31 icons.
-  const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
+  const RECT grid = program_.Item(FrmFindIcon_PicIcons).Bounds();
   EXPECT_EQ(grid.bottom - grid.top, 2860);
 }
 

@@ -111,7 +111,7 @@ TEST_F(ListKeys, ShiftF10AndTheMenuKeyOpenTheMenuOfTheRow) {
   ExpectCurrent(2);
   const RECT row = List().RowBounds(2);
   PressKey(VK_F10, {VK_SHIFT});
-  const RECT menu = WaitForMenu().Place();
+  const RECT menu = WaitForMenu().Bounds();
   EXPECT_GE(menu.left, row.left);
   EXPECT_LT(menu.left, MiddleOf(row).x);
   EXPECT_EQ(menu.top, row.bottom);

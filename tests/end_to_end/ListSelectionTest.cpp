@@ -27,7 +27,7 @@ class ListSelection : public SelectionByHand {
     const RECT inside = list.Inside();
     const auto header = reinterpret_cast<HWND>(list.Send(LVM_GETHEADER));
     const int rowsAbove = row - static_cast<int>(list.Send(LVM_GETTOPINDEX));
-    const LONG top = Control(header).Place().bottom + rowsAbove * height;
+    const LONG top = Control(header).Bounds().bottom + rowsAbove * height;
     return {inside.left, top, inside.right, top + height};
   }
   void ClickRow(int row, HeldKeys held = {}) const { Click(MiddleOf(RowBounds(row)), held); }

@@ -171,7 +171,7 @@ class Names : public ViewByHand, public ::testing::WithParamInterface<const char
     const int dots = DotsOfDisplay();
     const Point corner = FrameCorner(*geometry_, entry);
     const POINT end = GridPoint(corner.x + geometry_->FrameExtent + 1, corner.y + geometry_->FrameExtent + 1);
-    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
+    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Bounds();
     return {grid.left + corner.x * dots / 96, grid.top + corner.y * dots / 96, end.x, end.y};
   }
   static void ExpectNames(const Control& window, const std::string& where) {
@@ -231,7 +231,7 @@ TEST_P(Names, AreGivenToEveryControlOfTheDialogs) {
   gif.End(FrmConvertGIF_CmdCancel);
   program_.Command(FrmFindIcon_MnuSaveAsCursor);
   const Dialog hotSpot(program_, FrmHotSpot_PicCursor);
-  MovePointer(MiddleOf(hotSpot.Item(FrmHotSpot_PicCursor).Place()));
+  MovePointer(MiddleOf(hotSpot.Item(FrmHotSpot_PicCursor).Bounds()));
   ExpectNames(hotSpot.Window(), "hot spot");
   hotSpot.End(FrmHotSpot_CmdCancel);
 }
@@ -331,7 +331,7 @@ TEST_P(AboutBox, ShowsVersionCopyrightAndLicenceToRead) {
   const Control about = program_.WaitForStartUpWindow();
   for (const int id : {FrmSpash_lblVersion, FrmSpash_lblCopyright, FrmSpash_lblLicence}) {
     EXPECT_TRUE(about.Child(id).IsVisible()) << id;
-    const RECT bounds = about.Child(id).Place();
+    const RECT bounds = about.Child(id).Bounds();
     EXPECT_LE(bounds.bottom, about.Inside().bottom) << id;
   }
   EXPECT_THAT(about.Child(FrmSpash_lblVersion).Text(), ::testing::EndsWith(TARVIK_VERSION));

@@ -51,7 +51,7 @@ TEST_F(Options, StartWithAnEmptyGridAndNothingToHandOver) {
 
 TEST_F(Options, TheMainWindowFitsASmallScreen) {
   Start();
-  const RECT bounds = program_.Window().Place();
+  const RECT bounds = program_.Window().Bounds();
   EXPECT_LE(bounds.right - bounds.left, 800);
   EXPECT_LE(bounds.bottom - bounds.top, 600);
 }
@@ -117,7 +117,7 @@ TEST_F(Options, UntickingAllFilesLeavesTheSixTypesTicked) {
 TEST_F(Options, AClickWithTheMouseTicksABox) {
   MakeOneFileOfEachType();
   Start();
-  Click(MiddleOf(program_.Item(FrmFindIcon_ChkFileType4).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_ChkFileType4).Bounds()));
   EXPECT_TRUE(Eventually([&] { return IsTicked(Dll); }));
   EXPECT_TRUE(Eventually([&] { return FileNames() == std::vector<std::string>{"a.ico", "e.dll"}; }));
 }
@@ -141,7 +141,7 @@ TEST_F(Options, ASizeSetsTheLimitAndItsHighestValue) {
 
 TEST_F(Options, TheSpinnersArrowsChangeTheLimitByTen) {
   Start();
-  const RECT bounds = program_.Item(FrmFindIcon_udMain).Place();
+  const RECT bounds = program_.Item(FrmFindIcon_udMain).Bounds();
   const LONG x = (bounds.left + bounds.right) / 2;
   Click({x, bounds.top + 2});
   EXPECT_TRUE(Eventually([&] { return TextOf(FrmFindIcon_txtMax) == "310"; })) << TextOf(FrmFindIcon_txtMax);
@@ -172,9 +172,9 @@ TEST_F(Options, TheViewSwitchesBetweenGridAndList) {
     return !program_.Item(FrmFindIcon_Lv).IsVisible() && program_.Item(FrmFindIcon_PicFrame).IsVisible() &&
            !program_.Item(FrmFindIcon_OptView1).IsChecked() && program_.Item(FrmFindIcon_OptView0).IsChecked();
   };
-  Click(MiddleOf(program_.Item(FrmFindIcon_OptView1).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_OptView1).Bounds()));
   EXPECT_TRUE(Eventually(showsList));
-  Click(MiddleOf(program_.Item(FrmFindIcon_OptView0).Place()));
+  Click(MiddleOf(program_.Item(FrmFindIcon_OptView0).Bounds()));
   EXPECT_TRUE(Eventually(showsGrid));
   program_.Command(FrmFindIcon_mnuViewopt1);
   EXPECT_TRUE(Eventually(showsList));

@@ -47,7 +47,7 @@ void Saving::FindMany() {
 }
 
 void Saving::KeepAsFound() {
-  const RECT window = program_.Window().Place();
+  const RECT window = program_.Window().Bounds();
   const POINT point{window.left + GetSystemMetrics(SM_CXFRAME) + 2, window.bottom - GetSystemMetrics(SM_CYFRAME) - 2};
   // A program shows its pointer once the mouse moves over it. On a desktop without a mouse movement so far there is no
   // pointer.

@@ -41,7 +41,7 @@ class SelectionByHand : public EndToEnd {
   // The position on the screen of a point of the grid's picture, or of the middle of an entry's cell. The display
   // enlarges the picture by its dpi divided by 96.
   POINT GridPoint(int x, int y) const {
-    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
+    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Bounds();
     const int dots = DotsOfDisplay();
     return {grid.left + (x * dots + 95) / 96, grid.top + (y * dots + 95) / 96};
   }
@@ -55,7 +55,7 @@ class SelectionByHand : public EndToEnd {
   void WaitForAllInput() const {
     const Control box = program_.Item(FrmFindIcon_chkSubDir);
     const bool ticked = box.IsChecked();
-    Click(MiddleOf(box.Place()));
+    Click(MiddleOf(box.Bounds()));
     ASSERT_TRUE(Eventually([&] { return box.IsChecked() != ticked; }));
   }
 
@@ -72,7 +72,7 @@ class SelectionByHand : public EndToEnd {
   Indexes Frames() const {
     const Screenshot shown(program_.Item(FrmFindIcon_PicFrame).Inside());
     const int scrolled = static_cast<int>(program_.Item(FrmFindIcon_PicFrame).Inside().top -
-                                          program_.Item(FrmFindIcon_PicIcons).Place().top);
+                                          program_.Item(FrmFindIcon_PicIcons).Bounds().top);
     Indexes frames;
     for (int entry = 0; entry < List().RowCount(); ++entry) {
       const Point corner = FrameCorner(*geometry_, entry);

@@ -107,7 +107,7 @@ class ShortcutKeys : public SelectionByHand {
     ASSERT_TRUE(Eventually([&] { return program_.Item(FrmFindIcon_Lv).IsVisible(); }));
   }
   void FocusOn(int id) const {
-    Click(MiddleOf(program_.Item(id).Place()));
+    Click(MiddleOf(program_.Item(id).Bounds()));
     ASSERT_TRUE(Eventually([&] { return program_.Focus().Window() == program_.Item(id).Window(); }));
   }
   static bool HasPicture() { return IsClipboardFormatAvailable(CF_BITMAP) != FALSE; }

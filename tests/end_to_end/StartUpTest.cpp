@@ -43,7 +43,7 @@ TEST_F(StartUp, TheAboutBoxStaysUntilOkAndOpensNoSecondMainWindow) {
 
 TEST_F(StartUp, TheMainWindowStandsInTheMiddleAndAThirdDown) {
   Start();
-  const RECT bounds = program_.Window().Place();
+  const RECT bounds = program_.Window().Bounds();
   const LONG freeWidth = GetSystemMetrics(SM_CXSCREEN) - (bounds.right - bounds.left);
   const LONG freeHeight = GetSystemMetrics(SM_CYSCREEN) - (bounds.bottom - bounds.top);
   // Positions are computed in twentieths of a point, so a pixel may be rounded either way.

@@ -29,7 +29,7 @@ void PrintTo(const SpashRow& row, std::ostream* out) {
 
 // A picture of a window, for people to look at: start-up-ENG.png and so on in the build's folder "run".
 void SaveWindowPicture(const Control& window, const std::string& name) {
-  SavePicture(window.Place(), BuiltFile("../../../run") / ToWide(name + ".png"));
+  SavePicture(window.Bounds(), BuiltFile("../../../run") / ToWide(name + ".png"));
 }
 
 class StartUpTexts : public EndToEnd, public ::testing::WithParamInterface<SpashRow> {

@@ -346,7 +346,7 @@ class FinishedProgram {
 
   std::string GridDifference(bool picture) const {
     const RECT frame = program_.Item(FrmFindIcon_PicFrame).Inside();
-    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Place();
+    const RECT grid = program_.Item(FrmFindIcon_PicIcons).Bounds();
     std::string all = Compared("scrolled", model_.grid.Scroll(), static_cast<int>(frame.top - grid.top)) +
                       Compared("grid's height", model_.grid.InnerHeight(), static_cast<int>(grid.bottom - grid.top));
     if (!all.empty() || !picture || model_.listShown) return all;

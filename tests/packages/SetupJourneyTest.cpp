@@ -106,8 +106,8 @@ class SetupJourney : public ::testing::TestWithParam<Tongue> {
     RedrawWindow(window.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
     ++pictures_;
     const std::string number = (pictures_ < 10 ? "0" : "") + std::to_string(pictures_);
-    SavePicture(window.Place(), BuiltFile("../../../journeys") / ("setup-" + std::string(tongue_.code)) /
-                                    (number + "-" + name + ".png"));
+    SavePicture(window.Bounds(), BuiltFile("../../../journeys") / ("setup-" + std::string(tongue_.code)) /
+                                     (number + "-" + name + ".png"));
   }
 
   Control wizard_;

@@ -28,13 +28,13 @@ class SmallestScreen : public ViewByHand {
 
 TEST_F(SmallestScreen, HoldsTheWholeMainWindow) {
   Start();
-  ExpectOnScreen(program_.Window().Place());
+  ExpectOnScreen(program_.Window().Bounds());
 }
 
 TEST_F(SmallestScreen, AMaximisedViewShowsTheLargestPictureAtItsPlace) {
   FindPictures(Size64);
   const EnhancedView view = OpenOn(1);
-  ExpectOnScreen(view.Window().Place());
+  ExpectOnScreen(view.Window().Bounds());
   view.ChooseFactor(maxZoom);
   view.Ask(SC_MAXIMIZE);
   const RECT inside = view.Window().Inside();
@@ -66,7 +66,7 @@ TEST_F(SmallestScreen, ShowsTheWholeOfALongPathInATip) {
     std::string shown = program_.ShownTip()->Text();
     for (std::size_t end = 0; (end = shown.find("\r\n")) != std::string::npos;) shown.erase(end, 2);
     EXPECT_EQ(shown, text);
-    ExpectOnScreen(program_.ShownTip()->Place());
+    ExpectOnScreen(program_.ShownTip()->Bounds());
     SavePicture(screen_, BuiltFile("../../../run/smallest-screen-tip.png"));
     MovePointer({0, 0});
     EXPECT_TRUE(Eventually([&] { return !program_.ShownTip(); }));

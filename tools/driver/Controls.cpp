@@ -84,7 +84,7 @@ void Control::SetText(const std::string& text) const {
   Send(WM_SETTEXT, 0, Pointer(ToWide(text).c_str()));
 }
 
-RECT Control::Place() const {
+RECT Control::Bounds() const {
   RECT bounds{};
   GetWindowRect(window_, &bounds);
   return bounds;

@@ -23,7 +23,7 @@ class Control {
   bool IsEnabled() const { return IsWindowEnabled(window_) != 0; }
   bool IsVisible() const { return IsWindowVisible(window_) != 0; }
   // Its rectangle on the screen, in pixels: the whole window, and the client area.
-  RECT Place() const;
+  RECT Bounds() const;
   RECT Inside() const;
 
   LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;

@@ -267,7 +267,7 @@ int Program::CountWindows() const {
 RECT Program::Extent() const {
   RECT extent{};
   for (const Control window : TopWindows()) {
-    const RECT bounds = window.Place();
+    const RECT bounds = window.Bounds();
     const RECT former = extent;
     UnionRect(&extent, &former, &bounds);
   }

@@ -95,7 +95,7 @@ std::optional<std::string> Search(const Program& program, const Scale& scale, co
   while (search.wait_for(pollInterval) != std::future_status::ready) {
     if (const auto box = program.FindBox()) {
       message = box->Text();
-      SavePicture(program.Window().Place(), picture);
+      SavePicture(program.Window().Bounds(), picture);
       box->Press(IDOK);
     }
   }
@@ -107,16 +107,16 @@ std::optional<std::string> Search(const Program& program, const Scale& scale, co
 void SaveEnhancedView(const Program& program, const fs::path& picture) {
   program.Item(FrmFindIcon_PicIcons).Post(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(1, 1));
   const Control view = program.WaitForWindowWith(frmBit_img);
-  SavePicture(view.Place(), picture);
+  SavePicture(view.Bounds(), picture);
   view.Post(WM_CLOSE);
   if (!Eventually([&] { return IsWindow(view.Window()) == 0; })) throw std::runtime_error("the enhanced view stays");
 }
 
 void SaveViews(const Program& program, const fs::path& home) {
-  SavePicture(program.Window().Place(), home / L"grid.png");
+  SavePicture(program.Window().Bounds(), home / L"grid.png");
   SaveEnhancedView(program, home / L"view.png");
   program.Item(FrmFindIcon_OptView1).Send(BM_CLICK);
-  SavePicture(program.Window().Place(), home / L"list.png");
+  SavePicture(program.Window().Bounds(), home / L"list.png");
 }
 
 void Run(const std::string& home, const std::string& folder) {
