@@ -116,9 +116,14 @@ void Run(HINSTANCE instance, ProgramState& state) {
   const auto showCriticalMessage = [](const std::string& text, const std::string& title) {
     ShowMessage(nullptr, text, title, MessageSign::Critical);
   };
-  basInitEntry::Main(state,
-                     {ReadRegistryLanguage, desktopScreen::BitsPerPixel, desktopScreen::Width, desktopScreen::Height,
-                      showCriticalMessage, SystemFolder, TempFolder, [&windows] { windows.ShowFrmSpash(); }});
+  basInitEntry::Main(state, {.readLanguage = ReadRegistryLanguage,
+                             .bitsPerPixel = desktopScreen::BitsPerPixel,
+                             .screenWidth = desktopScreen::Width,
+                             .screenHeight = desktopScreen::Height,
+                             .showCriticalMessage = showCriticalMessage,
+                             .systemFolder = SystemFolder,
+                             .tempFolder = TempFolder,
+                             .showFrmSpash = [&windows] { windows.ShowFrmSpash(); }});
   application.Run();
 }
 

@@ -110,11 +110,11 @@ void CompareGrid(Differences& all, const Model& model, const seen::Controls& at)
   GetScrollInfo(bar, SB_CTL, &info);
   all.Expect("scroll bar", model.grid.Scroll(), info.nPos);
   all.Expect("bar enabled", model.grid.Scrolls(), IsWindowEnabled(bar) != FALSE);
-  RECT place{};
-  GetWindowRect(picture, &place);
-  MapWindowPoints(nullptr, frame, reinterpret_cast<POINT*>(&place), 2);
-  all.Expect("picture's top", -model.grid.Scroll(), static_cast<int>(place.top));
-  all.Expect("picture's height", model.grid.InnerHeight(), static_cast<int>(place.bottom - place.top));
+  RECT bounds{};
+  GetWindowRect(picture, &bounds);
+  MapWindowPoints(nullptr, frame, reinterpret_cast<POINT*>(&bounds), 2);
+  all.Expect("picture's top", -model.grid.Scroll(), static_cast<int>(bounds.top));
+  all.Expect("picture's height", model.grid.InnerHeight(), static_cast<int>(bounds.bottom - bounds.top));
   if (model.listShown) return;
 
   const int height = std::min(viewportHeight, model.grid.InnerHeight() - model.grid.Scroll());

@@ -34,13 +34,13 @@ std::string BoxDifference(const Model& model) {
 std::string PictureDifference(const ViewShown& view, HWND window) {
   const HWND picture = seen::ControlsOf(window).Of(frmBit_img);
   const int side = view.zoom * view.picture.width;
-  RECT place{};
-  GetWindowRect(picture, &place);
-  MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
-  std::string all = Compared("picture's left", pictureCorner.x, place.left) +
-                    Compared("picture's top", pictureCorner.y, place.top) +
-                    Compared("picture's width", side, place.right - place.left) +
-                    Compared("picture's height", side, place.bottom - place.top);
+  RECT bounds{};
+  GetWindowRect(picture, &bounds);
+  MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&bounds), 2);
+  std::string all = Compared("picture's left", pictureCorner.x, bounds.left) +
+                    Compared("picture's top", pictureCorner.y, bounds.top) +
+                    Compared("picture's width", side, bounds.right - bounds.left) +
+                    Compared("picture's height", side, bounds.bottom - bounds.top);
   if (!all.empty()) return all;
   RECT inner{};
   GetClientRect(window, &inner);
@@ -73,16 +73,16 @@ std::string ViewDifference(const Model& model) {
   const auto canPress = [bar](int id) {
     return SendMessageW(bar, TB_ISBUTTONENABLED, static_cast<WPARAM>(id), 0) != 0;
   };
-  RECT place{};
-  GetWindowRect(window, &place);
+  RECT bounds{};
+  GetWindowRect(window, &bounds);
   return Compared("view's title", view.title, seen::Text(window)) +
          Compared("view's status", view.status, seen::Status(seen::ControlsOf(window).Of(frmBit_sbMain))) +
          Compared("view's zoom row", view.zoomRow,
                   static_cast<int>(SendMessageW(seen::ControlsOf(window).Of(frmBit_CboZoom), CB_GETCURSEL, 0, 0))) +
          Compared("Start enabled", view.showRuns ? 0 : 1, canPress(frmBit_tlb_control_Start) ? 1 : 0) +
          Compared("Stop enabled", view.showRuns ? 1 : 0, canPress(frmBit_tlb_control_Stop) ? 1 : 0) +
-         Compared("view's width", view.width, place.right - place.left) +
-         Compared("view's height", view.height, place.bottom - place.top) + PictureDifference(view, window);
+         Compared("view's width", view.width, bounds.right - bounds.left) +
+         Compared("view's height", view.height, bounds.bottom - bounds.top) + PictureDifference(view, window);
 }
 
 std::string HotSpotDifference() {

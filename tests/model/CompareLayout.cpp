@@ -1,4 +1,4 @@
-// The places of the main window's controls compared with the model.
+// The bounds of the main window's controls compared with the model.
 #include <windows.h>
 
 #include <cstdlib>
@@ -47,9 +47,9 @@ int Shift(Down edge, const Room& room, bool listShown) {
   return edge == Down::Stays ? 0 : edge == Down::Lists ? room.down - iconList : room.down;
 }
 
-std::string Text(const RECT& place) {
-  return std::to_string(place.left) + ", " + std::to_string(place.top) + " to " + std::to_string(place.right) + ", " +
-         std::to_string(place.bottom);
+std::string Text(const RECT& bounds) {
+  return std::to_string(bounds.left) + ", " + std::to_string(bounds.top) + " to " + std::to_string(bounds.right) +
+         ", " + std::to_string(bounds.bottom);
 }
 
 // Half of an odd number of pixels may be rounded either way.
@@ -75,11 +75,11 @@ std::string LayoutDifference(const Model& model, const seen::Controls& at) {
     const RECT expected{from.left + Shift(row.left, model.room), from.top + Shift(row.top, model.room, model.listShown),
                         from.right + Shift(row.right, model.room),
                         from.bottom + Shift(row.bottom, model.room, model.listShown)};
-    const RECT seen = seen::PlaceIn(at.Window(), at.Of(row.id));
+    const RECT seen = seen::BoundsIn(at.Window(), at.Of(row.id));
     if (IsNear(seen.left, expected.left, row.left) && IsNear(seen.right, expected.right, row.right) &&
         seen.top == expected.top && seen.bottom == expected.bottom)
       continue;
-    all += std::string("place of the ") + row.name + ": " + Text(seen) + " and not " + Text(expected) + "\n";
+    all += std::string("bounds of the ") + row.name + ": " + Text(seen) + " and not " + Text(expected) + "\n";
   }
   return all;
 }

@@ -133,7 +133,7 @@ class Driver : NonCopyable {
   void MakeNews(const Action& action);
   // Clicks this row of the folder list; of a larger number, the remainder counts.
   void ClickFolderRow(int number);
-  // Moves the pointer to that place of the grid.
+  // Moves the pointer to that point of the grid.
   void RestOn(POINT point) const;
   void Command(HWND window, int id, int code = 0) const;
   HWND Main() const { return program_->Main(); }

@@ -162,11 +162,11 @@ bool Driver::CloseView(const Action& action) {
 
 bool Driver::PickHotSpot(const Action& action) {
   const HWND picture = GetDlgItem(seen::WindowWith(FrmHotSpot_PicCursor), FrmHotSpot_PicCursor);
-  const LPARAM place = MAKELPARAM(action.a % 385, action.b % 385);
+  const LPARAM point = MAKELPARAM(action.a % 385, action.b % 385);
   Perform([&] {
-    SendMessageW(picture, WM_MOUSEMOVE, 0, place);
-    SendMessageW(picture, action.c % 3 == 0 ? WM_RBUTTONDOWN : WM_LBUTTONDOWN, MK_LBUTTON, place);
-    SendMessageW(picture, action.c % 3 == 0 ? WM_RBUTTONUP : WM_LBUTTONUP, 0, place);
+    SendMessageW(picture, WM_MOUSEMOVE, 0, point);
+    SendMessageW(picture, action.c % 3 == 0 ? WM_RBUTTONDOWN : WM_LBUTTONDOWN, MK_LBUTTON, point);
+    SendMessageW(picture, action.c % 3 == 0 ? WM_RBUTTONUP : WM_LBUTTONUP, 0, point);
   });
   return true;
 }

@@ -87,7 +87,7 @@ bool Driver::FindWithClicksWaiting(const Action& action) {
   return true;
 }
 
-// A place in the part of the picture that the viewport shows, mostly on an icon.
+// A point in the part of the picture that the viewport shows, mostly on an icon.
 POINT Driver::PointOnGrid(const Action& action) const {
   const int top = model_.grid.Scroll();
   const int x = action.a % gridWidth;
@@ -137,7 +137,7 @@ bool Driver::DoubleClickGrid(const Action& action) {
   Note("(" + NumberText(point.x) + ", " + NumberText(point.y) + ")" + (ctrl ? " Ctrl" : "") +
        (later ? ", held until the view is closed" : ""));
   const WPARAM keys = ctrl ? MK_CONTROL : 0U;
-  const LPARAM place = MAKELPARAM(point.x, point.y);
+  const LPARAM at = MAKELPARAM(point.x, point.y);
   const LPARAM further = MAKELPARAM(point.x + 2 * model_.Size().pitch, point.y);
   model_.ClickGrid(point.x, point.y, ctrl);
   model_.OpenView();
@@ -149,13 +149,12 @@ bool Driver::DoubleClickGrid(const Action& action) {
     });
   }
   Perform([&] {
-    SendMessageW(Grid(), WM_LBUTTONDOWN, keys | MK_LBUTTON, place);
-    SendMessageW(Grid(), WM_LBUTTONUP, keys, place);
+    SendMessageW(Grid(), WM_LBUTTONDOWN, keys | MK_LBUTTON, at);
+    SendMessageW(Grid(), WM_LBUTTONUP, keys, at);
     HoldKeys(ctrl, false, later);
-    SendMessageW(Grid(), WM_LBUTTONDBLCLK, keys | MK_LBUTTON, place);
+    SendMessageW(Grid(), WM_LBUTTONDBLCLK, keys | MK_LBUTTON, at);
     HoldKeys(false, false);
-    if (IsWindow(Grid()) != FALSE && (later || !opens))
-      SendMessageW(Grid(), WM_LBUTTONUP, keys, opens ? further : place);
+    if (IsWindow(Grid()) != FALSE && (later || !opens)) SendMessageW(Grid(), WM_LBUTTONUP, keys, opens ? further : at);
   });
   return true;
 }
@@ -204,9 +203,9 @@ bool Driver::TurnWheel(const Action& action) {
     model_.grid.Turn(delta, static_cast<int>(lines));
     model_.tip = "";
   }
-  RECT place{};
-  GetWindowRect(Item(FrmFindIcon_PicFrame), &place);
-  const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+  RECT frame{};
+  GetWindowRect(Item(FrmFindIcon_PicFrame), &frame);
+  const POINT middle{(frame.left + frame.right) / 2, (frame.top + frame.bottom) / 2};
   if (rests) RestOn(point);
   PostMessageW(Item(FrmFindIcon_CmdFind), WM_MOUSEWHEEL, MAKEWPARAM(0, delta), MAKELPARAM(middle.x, middle.y));
   PostTick();

@@ -33,10 +33,10 @@ bool Driver::ClickList(const Action& action) {
   model_.ClickRow(row, ctrl, shift);
   Perform([&] {
     SendMessageW(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
-    RECT place{};
-    place.left = LVIR_LABEL;
-    SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
-    const LPARAM point = MAKELPARAM(place.left + 3, (place.top + place.bottom) / 2);
+    RECT label{};
+    label.left = LVIR_LABEL;
+    SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&label));
+    const LPARAM point = MAKELPARAM(label.left + 3, (label.top + label.bottom) / 2);
     const WPARAM keys = (ctrl ? MK_CONTROL : 0U) | (shift ? MK_SHIFT : 0U);
     HoldKeys(ctrl, shift);
     SendMessageW(list, WM_LBUTTONDOWN, keys | MK_LBUTTON, point);
@@ -58,10 +58,10 @@ bool Driver::DoubleClickList(const Action& action) {
     Perform([&] {
       if (byKey) return ServeKey(Item(FrmFindIcon_Lv), VK_RETURN);
       const HWND list = Item(FrmFindIcon_Lv);
-      RECT place{};
-      place.left = LVIR_LABEL;
-      SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
-      const LPARAM point = MAKELPARAM(place.left + 3, (place.top + place.bottom) / 2);
+      RECT label{};
+      label.left = LVIR_LABEL;
+      SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&label));
+      const LPARAM point = MAKELPARAM(label.left + 3, (label.top + label.bottom) / 2);
       SendMessageW(list, WM_LBUTTONDBLCLK, MK_LBUTTON, point);
     });
   });
@@ -83,10 +83,10 @@ bool Driver::OpenRowMenu(const Action& action) {
   model_.OpenRowMenu(row);
   Perform([&] {
     SendMessageW(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
-    RECT place{};
-    place.left = LVIR_LABEL;
-    SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
-    POINT point{place.left + 3, (place.top + place.bottom) / 2};
+    RECT label{};
+    label.left = LVIR_LABEL;
+    SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&label));
+    POINT point{label.left + 3, (label.top + label.bottom) / 2};
     ClientToScreen(list, &point);
     SendMessageW(Main(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(list), MAKELPARAM(point.x, point.y));
   });

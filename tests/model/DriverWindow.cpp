@@ -72,9 +72,9 @@ void Driver::ClickFolderRow(int number) {
   model_.ClickFolderRow(row);
   const HWND list = Item(FrmFindIcon_Dir1);
   SendMessageW(list, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
-  RECT place{};
-  SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
-  const LPARAM point = MAKELPARAM(place.left + 3, (place.top + place.bottom) / 2);
+  RECT bounds{};
+  SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&bounds));
+  const LPARAM point = MAKELPARAM(bounds.left + 3, (bounds.top + bounds.bottom) / 2);
   SendMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, point);
   SendMessageW(list, WM_LBUTTONUP, 0, point);
 }

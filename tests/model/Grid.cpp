@@ -20,9 +20,9 @@ void Grid::SizeFor(const Geometry& geometry, int icons) {
   ScrollTo(0);
 }
 
-void Grid::DrawIcon(const Geometry& geometry, int place, const IconLook& look) {
-  const int left = margin + place % geometry.columns * geometry.pitch;
-  const int top = margin + place / geometry.columns * geometry.pitch;
+void Grid::DrawIcon(const Geometry& geometry, int index, const IconLook& look) {
+  const int left = margin + index % geometry.columns * geometry.pitch;
+  const int top = margin + index / geometry.columns * geometry.pitch;
   for (int y = 0; y < geometry.size; ++y) {
     for (int x = 0; x < geometry.size; ++x) {
       if (!IsTransparent(geometry.size, x, y)) picture_.Set(left + x, top + y, ColorAt(look, geometry.size, x, y));

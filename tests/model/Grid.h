@@ -37,7 +37,7 @@ class Grid {
 
   void Blank() { picture_.Fill(whitePixel); }
   void SizeFor(const Geometry& geometry, int icons);
-  void DrawIcon(const Geometry& geometry, int place, const IconLook& look);
+  void DrawIcon(const Geometry& geometry, int index, const IconLook& look);
   // The frame with that corner, shown in black or erased in white.
   void Frame(int x, int y, int extent, bool shown);
 

@@ -30,13 +30,13 @@ class MadeIcon final : public ExtractedIcon {
   int StepBound() const override { return isAnimation_ ? file_.icons : 1; }
 
  private:
-  static void DrawPixels(HDC dc, Point corner, const RECT& place, int size, const IconLook& look, DrawPart part) {
-    const int width = place.right - place.left;
-    const int height = place.bottom - place.top;
+  static void DrawPixels(HDC dc, Point corner, const RECT& bounds, int size, const IconLook& look, DrawPart part) {
+    const int width = bounds.right - bounds.left;
+    const int height = bounds.bottom - bounds.top;
     std::vector<Pixel> pixels;
     pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-    for (int y = place.top; y < place.bottom; ++y) {
-      for (int x = place.left; x < place.right; ++x) {
+    for (int y = bounds.top; y < bounds.bottom; ++y) {
+      for (int x = bounds.left; x < bounds.right; ++x) {
         const Pixel color = part == DrawPart::Mask ? blackPixel : ColorAt(look, size, x, y);
         pixels.push_back((color & 0xFFU) << 16 | (color & 0xFF00U) | color >> 16);
       }
@@ -47,7 +47,7 @@ class MadeIcon final : public ExtractedIcon {
     info.bmiHeader.biHeight = -height;
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
-    SetDIBitsToDevice(dc, corner.x + place.left, corner.y + place.top, static_cast<DWORD>(width),
+    SetDIBitsToDevice(dc, corner.x + bounds.left, corner.y + bounds.top, static_cast<DWORD>(width),
                       static_cast<DWORD>(height), 0, 0, 0, static_cast<UINT>(height), pixels.data(), &info,
                       DIB_RGB_COLORS);
   }

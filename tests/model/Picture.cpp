@@ -8,7 +8,7 @@ Picture::Picture(int wide, int high, Pixel color)
     : width(wide), height(high), pixels(static_cast<std::size_t>(wide) * static_cast<std::size_t>(high), color) {}
 
 void Picture::Set(int x, int y, Pixel color) {
-  if (x >= 0 && x < width && y >= 0 && y < height) pixels[Place(x, y)] = color;
+  if (x >= 0 && x < width && y >= 0 && y < height) pixels[OffsetOf(x, y)] = color;
 }
 
 void Picture::Fill(Pixel color) {

@@ -16,7 +16,7 @@ struct Picture {
   Picture() = default;
   Picture(int wide, int high, Pixel color);
 
-  Pixel At(int x, int y) const { return pixels[Place(x, y)]; }
+  Pixel At(int x, int y) const { return pixels[OffsetOf(x, y)]; }
   void Set(int x, int y, Pixel color);
   void Fill(Pixel color);
   // The one-pixel outline of a box; both corners belong to it.
@@ -31,7 +31,7 @@ struct Picture {
   std::vector<Pixel> pixels;
 
  private:
-  std::size_t Place(int x, int y) const {
+  std::size_t OffsetOf(int x, int y) const {
     return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
   }
 };

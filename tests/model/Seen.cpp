@@ -103,17 +103,17 @@ Controls::Controls(HWND window) : window_(window) {
       window,
       [](HWND control, LPARAM data) -> BOOL {
         auto& controls = *reinterpret_cast<Controls*>(data);
-        controls.all_.emplace(GetDlgCtrlID(control), Control{control, PlaceIn(controls.window_, control)});
+        controls.all_.emplace(GetDlgCtrlID(control), Control{control, BoundsIn(controls.window_, control)});
         return TRUE;
       },
       reinterpret_cast<LPARAM>(this));
 }
 
-RECT PlaceIn(HWND window, HWND control) {
-  RECT place{};
-  GetWindowRect(control, &place);
-  MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
-  return place;
+RECT BoundsIn(HWND window, HWND control) {
+  RECT bounds{};
+  GetWindowRect(control, &bounds);
+  MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
 }
 
 LRESULT Ask(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -184,8 +184,8 @@ bool IsMenuEnabled(HWND window, int id) {
   return (MenuState(window, id, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
 }
 
-bool IsBarMenuEnabled(HWND window, int place) {
-  return (MenuState(window, place, MF_BYPOSITION) & (MF_GRAYED | MF_DISABLED)) == 0;
+bool IsBarMenuEnabled(HWND window, int position) {
+  return (MenuState(window, position, MF_BYPOSITION) & (MF_GRAYED | MF_DISABLED)) == 0;
 }
 
 bool IsMenuChecked(HWND window, int id) {

@@ -12,7 +12,7 @@
 namespace tarvik::model::seen {
 
 // A window's controls by their ids, looked up once, because each lookup is a request to Wine's server. It also keeps
-// the places that they had then.
+// the bounds that they had then.
 class Controls {
  public:
   explicit Controls(HWND window);
@@ -21,7 +21,7 @@ class Controls {
     const auto found = all_.find(id);
     return found == all_.end() ? nullptr : found->second.window;
   }
-  // The window's first place on the screen, and that of a control in the window.
+  // The window's first bounds on the screen, and that of a control in the window.
   const RECT& First() const { return first_; }
   const RECT& FirstOf(int id) const { return all_.at(id).first; }
 
@@ -36,8 +36,8 @@ class Controls {
   std::unordered_map<int, Control> all_;
 };
 
-// The place of a control in the client area of its top-level window.
-RECT PlaceIn(HWND window, HWND control);
+// The bounds of a control in the client area of its top-level window.
+RECT BoundsIn(HWND window, HWND control);
 
 // The answer of the control's own window procedure. Under Wine a message to a subclassed control costs several requests
 // to the server, and the program's subclasses change none of these answers.
@@ -53,7 +53,7 @@ std::string ChosenComboRow(HWND comboBox);
 std::string Cell(HWND listView, int row, int column);
 std::string Header(HWND listView, int column);
 bool IsMenuEnabled(HWND window, int id);
-bool IsBarMenuEnabled(HWND window, int place);
+bool IsBarMenuEnabled(HWND window, int position);
 bool IsMenuChecked(HWND window, int id);
 // Whether the control is visible by its own style, even if its window is hidden.
 bool IsShown(HWND control);
