@@ -60,6 +60,18 @@ start_display() {
   rm -f "$number_file"
 }
 
+# stay_on_processor NUMBER: from here on this script and the programs that it starts run on one of the processors that it
+# may use: 1 is the first, 0 the last, and a number beyond the last begins again at the first. The programs of one Wine and
+# its server mostly wait for each other. On one processor such a switch takes microseconds; on two, each wakes up the
+# other's processor, and on a virtual machine that takes several times as long as all the rest of a test.
+stay_on_processor() {
+  local range processors=()
+  for range in $(sed -n 's/^Cpus_allowed_list:\s*//p' /proc/self/status | tr , ' '); do
+    mapfile -t -O ${#processors[@]} processors < <(seq "${range%-*}" "${range#*-}")
+  done
+  taskset -cp "${processors[$((($1 + ${#processors[@]} - 1) % ${#processors[@]}))]}" $$ >/dev/null
+}
+
 # start_wine DESKTOP [DOTS]: keeps one Wine server running, so that each program starts in milliseconds. DESKTOP is
 # "virtual" on a display of start_display, which has no window manager (Wine then draws a desktop as large as that display,
 # and the title bars), and "own" on a display with one. DOTS is the display's dpi, by default 96.

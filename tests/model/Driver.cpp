@@ -5,22 +5,31 @@
 #include <cstdlib>
 #include <iostream>
 #include <iterator>
+#include <utility>
 
 namespace tarvik::model {
 namespace {
 
 constexpr UINT tick = WM_APP + 1;
-constexpr UINT caretTimer = 0x0118;  // the message by which the system makes a caret blink
 constexpr UINT_PTR watchTimer = 1;
 constexpr UINT_PTR retryTimer = 2;
 constexpr UINT watchPeriod = 1000;           // ms
 constexpr UINT retryPeriod = 20;             // ms
+constexpr UINT boxPeriod = 500;              // ms; a message box is noticed when it is activated
 constexpr ULONGLONG patience = 30000;        // ms without any progress
 constexpr ULONGLONG longestPainting = 1000;  // ms until wrong pixels count as wrong
 constexpr int everythingEach = 16;           // steps between two complete comparisons
 
 constexpr const char* firstFolder = "C:\\icons";
 constexpr const wchar_t* className = L"TarvikModelDriver";
+
+HWND awaitsBox = nullptr;  // the driver's window that gets a tick when a window is activated; null if none waits
+
+// A message box activates itself when it is shown.
+LRESULT CALLBACK OnWindowEvent(int code, WPARAM wParam, LPARAM lParam) {
+  if (code == HCBT_ACTIVATE && awaitsBox != nullptr) PostMessageW(std::exchange(awaitsBox, nullptr), tick, 0, 0);
+  return CallNextHookEx(nullptr, code, wParam, lParam);
+}
 
 }  // namespace
 
@@ -34,6 +43,7 @@ Driver::Driver(Tongue tongue, std::vector<Action> actions)
   RegisterClassW(&definition);
   window_ = CreateWindowExW(0, className, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, definition.hInstance, nullptr);
   SetWindowLongPtrW(window_, 0, reinterpret_cast<LONG_PTR>(this));
+  hook_ = SetWindowsHookExW(WH_CBT, OnWindowEvent, nullptr, GetCurrentThreadId());
   SetTimer(window_, watchTimer, watchPeriod, nullptr);
   SetCursorPos(0, 0);  // not over the grid, which would see it
   settings_["FindIcon/Folder"] = firstFolder;
@@ -42,6 +52,8 @@ Driver::Driver(Tongue tongue, std::vector<Action> actions)
 
 Driver::~Driver() {
   program_.reset();
+  awaitsBox = nullptr;
+  UnhookWindowsHookEx(hook_);
   DestroyWindow(window_);
   HoldKeys(false, false);
 }
@@ -124,18 +136,13 @@ std::string Driver::Ended() {
 }
 
 // Whether the program is idle: no messages are pending and nothing has to be painted. Input and timers have lower
-// priority than posted messages, and these steps are posted.
+// priority than posted messages, and these steps are posted. Under Wine the queue's state costs one request to the
+// server, and looking at a message several.
 bool Driver::IsSettled() {
-  const auto isEmpty = [] {
-    MSG message;
-    constexpr UINT peek = PM_NOREMOVE | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE;
-    return PeekMessageW(&message, nullptr, 0, 0, peek) == FALSE || message.message == WM_TIMER ||
-           message.message == caretTimer;
-  };
-  if (!isEmpty()) return false;
-  if ((HIWORD(GetQueueStatus(QS_PAINT)) & QS_PAINT) == 0) return true;
-  seen::PaintAll();
-  return isEmpty();
+  const auto waiting = [] { return HIWORD(GetQueueStatus(QS_POSTMESSAGE | QS_SENDMESSAGE | QS_PAINT)); };
+  const WORD first = waiting();
+  if ((first & QS_PAINT) != 0) seen::PaintAll();
+  return first == 0 || (first == QS_PAINT && (waiting() & (QS_POSTMESSAGE | QS_SENDMESSAGE)) == 0);
 }
 
 void Driver::OnTick() {
@@ -145,10 +152,11 @@ void Driver::OnTick() {
     tickOwed_ = true;
     return;
   }
-  const bool isLate = (model_.Foremost() == Front::Box && depth_ > 0 && seen::MessageBoxInSight() == nullptr) ||
-                      (model_.Foremost() == Front::Menu && seen::MenuInSight() == nullptr);
-  if (isLate) {
-    SetTimer(window_, retryTimer, retryPeriod, nullptr);
+  const bool boxIsLate = model_.Foremost() == Front::Box && depth_ > 0 && seen::MessageBoxInSight() == nullptr;
+  const bool menuIsLate = model_.Foremost() == Front::Menu && seen::MenuInSight() == nullptr;
+  if (boxIsLate) awaitsBox = window_;
+  if (boxIsLate || menuIsLate) {
+    SetTimer(window_, retryTimer, boxIsLate ? boxPeriod : retryPeriod, nullptr);
     return;
   }
   if (!IsSettled()) {
@@ -257,6 +265,7 @@ bool Driver::Do(const Action& action) {
       {1, "Open the guide", &Driver::OpenGuide},
       {4, "Resize the window", &Driver::ResizeMain},
       {6, "Change the disk", &Driver::ChangeDisk},
+      {2, "Change the theme or colours", &Driver::ChangeTheme},
       {1, "Close", &Driver::Close},
   };
   static constexpr Choice menu[] = {{8, "End the menu", &Driver::EndRowMenu},

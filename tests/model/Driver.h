@@ -90,6 +90,7 @@ class Driver : NonCopyable {
   bool ChangeDisk(const Action& action);
   bool Close(const Action& action);
   bool ResizeMain(const Action& action);
+  bool ChangeTheme(const Action& action);
   bool ClickFolder(const Action& action);
   bool Drop(const Action& action);
   bool PressShortcut(const Action& action);
@@ -154,6 +155,7 @@ class Driver : NonCopyable {
   int stepsDone_ = 0;
   std::deque<std::function<void()>> rest_;  // parts of a step that run between the program's own messages
   HWND window_ = nullptr;
+  HHOOK hook_ = nullptr;
   int depth_ = 0;  // how many calls of Perform are nested
   bool tickOwed_ = false;
   bool isDone_ = false;

@@ -61,6 +61,18 @@ bool Driver::ResizeMain(const Action& action) {
   return true;
 }
 
+// As the system does it for every window when another program changes the theme or the colours: it sends the message,
+// and the whole window becomes invalid without the windows in it.
+bool Driver::ChangeTheme(const Action& action) {
+  const UINT message = action.a % 2 == 0 ? WM_THEMECHANGED : WM_SYSCOLORCHANGE;
+  Note(message == WM_THEMECHANGED ? "theme" : "colours");
+  Perform([&] {
+    SendMessageW(Main(), message, 0, 0);
+    RedrawWindow(Main(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+  });
+  return true;
+}
+
 bool Driver::ClickFolder(const Action& action) {
   Perform([&] { ClickFolderRow(action.a); });
   return true;
