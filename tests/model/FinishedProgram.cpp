@@ -3,13 +3,28 @@
 
 #include <windows.h>
 
+#include <stdexcept>
+#include <string>
 #include <utility>
 
+#include "driver/Dialogs.h"
 #include "driver/Input.h"
+#include "driver/Waiting.h"
+#include "model/Compared.h"
+#include "model/Texts.h"
 #include "platform/IconFiles.h"
 #include "platform/Text.h"
 
 namespace tarvik::end_to_end {
+namespace {
+
+// A text as a box shows it: some of its lines may be divided further.
+std::string Lines(std::string text) {
+  std::erase_if(text, [](char letter) { return letter == '\r' || letter == '\n' || letter == ' '; });
+  return text;
+}
+
+}  // namespace
 
 FinishedProgram::FinishedProgram(std::vector<Action> actions) : actions_(std::move(actions)) {
   for (const char* name : {"deep", "deep\\deeper", "many", "out"}) {
@@ -41,23 +56,32 @@ std::string FinishedProgram::Run() {
 
 void FinishedProgram::Do(const Action& action) {
   static constexpr Choice choices[] = {
-      {10, "Find", &FinishedProgram::Find},
+      {14, "Find", &FinishedProgram::Find},
       {20, "Click", &FinishedProgram::Click},
-      {8, "Scroll", &FinishedProgram::Scroll},
+      {6, "Scroll", &FinishedProgram::Scroll},
+      {4, "Scroll by the wheel", &FinishedProgram::TurnWheel},
+      {4, "Scroll by a key", &FinishedProgram::ScrollByKey},
       {5, "Tick a type", &FinishedProgram::Tick},
       {3, "Sub-folders", &FinishedProgram::SubDir},
       {4, "Size", &FinishedProgram::Size},
       {4, "Limit", &FinishedProgram::Limit},
       {3, "Spinner", &FinishedProgram::Spin},
-      {6, "Open a folder", &FinishedProgram::Open},
-      {3, "Grid or list", &FinishedProgram::Switch},
+      {4, "Open a folder", &FinishedProgram::Open},
+      {4, "Click a folder", &FinishedProgram::ClickFolder},
+      {3, "Drop", &FinishedProgram::Drop},
+      {5, "Grid or list", &FinishedProgram::Switch},
+      {12, "Click the list", &FinishedProgram::ClickList},
+      {3, "Select all", &FinishedProgram::SelectAll},
       {3, "Invert", &FinishedProgram::Invert},
       {3, "Labels", &FinishedProgram::Labels},
       {5, "View", &FinishedProgram::View},
-      {3, "Save many", &FinishedProgram::Save},
+      {4, "Save one", &FinishedProgram::SaveOne},
+      {5, "Save many", &FinishedProgram::SaveMany},
       {6, "Change a file", &FinishedProgram::Change},
-      {1, "Copy", &FinishedProgram::Copy},
-      {1, "Start again", &FinishedProgram::StartAgain},
+      {2, "Copy", &FinishedProgram::Copy},
+      {1, "About", &FinishedProgram::About},
+      {1, "Guide", &FinishedProgram::Guide},
+      {2, "Start again", &FinishedProgram::StartAgain},
   };
   int total = 0;
   for (const Choice& choice : choices) total += choice.weight;
@@ -74,10 +98,82 @@ void FinishedProgram::Start() {
   model_.Start(ToUtf8(program_.Path().parent_path().wstring()));
 }
 
-void FinishedProgram::StartAgain(const Action& /*action*/) {
+void FinishedProgram::StartAgain(const Action& action) {
+  const int way = action.a % 5;
+  static constexpr const char* ways[] = {"WM_CLOSE", "the close box", "the button", "the menu", "Alt+F4"};
+  if ((way == 2 && !model_.closeEnabled) || (way == 3 && !model_.fileEnabled)) return Skip();
+  Note(std::string("closed by ") + ways[way]);
   model_.CloseMain();
-  program_.Close();
+  CloseBy(way);
+  if (program_.WaitForEnd() != 0) Tell("the program ends with a failure\n");
+  Tell(KeptDifference());
   Start();
+}
+
+void FinishedProgram::CloseBy(int way) {
+  switch (way) {
+    case 0:
+      return program_.Window().Post(WM_CLOSE);
+    case 1:
+      return program_.Window().Post(WM_SYSCOMMAND, SC_CLOSE);
+    case 2:
+      return program_.Item(FrmFindIcon_CmdClose).Press();
+    case 3:
+      return program_.Command(FrmFindIcon_mnuExit);
+    default:
+      program_.BringToFront();
+      PressKey(VK_F4, {VK_MENU});
+  }
+}
+
+// What is posted is handled in its order, and a sent message before all that. So the last one posted has an effect that
+// can be seen.
+void FinishedProgram::WaitForPosted() const {
+  const Control box = program_.Item(FrmFindIcon_chkSubDir);
+  box.Post(BM_SETSTATE, TRUE);
+  if (!Eventually([&] { return (box.Send(BM_GETSTATE) & BST_PUSHED) != 0; }))
+    throw std::runtime_error("the program does not handle what was posted");
+  box.Send(BM_SETSTATE, FALSE);
+}
+
+void FinishedProgram::PassBox() {
+  const Box box = program_.WaitForBox();
+  Tell(model::Compared("box's title", model_.box.title, box.Title()));
+  Tell(model::Compared("box's text", Lines(model_.box.text), Lines(box.Text())));
+  model_.AnswerBox();
+  box.Press(IDOK);
+  Eventually([this] { return program_.Window().IsEnabled(); });
+}
+
+void FinishedProgram::About(const Action& action) {
+  model_.OpenAbout();
+  program_.Command(FrmFindIcon_MnuAbout);
+  const Dialog about(program_, FrmSpash_LblEmail);
+  if (program_.Window().IsEnabled()) Tell("the main window does not wait for the About box\n");
+  model_.CloseAbout();
+  if (action.a % 2 == 0) {
+    about.End(FrmSpash_CmdOk);
+  } else {
+    about.EndByCloseBox();
+  }
+  Eventually([this] { return program_.Window().IsEnabled(); });
+}
+
+// The program's folder has no guide.
+void FinishedProgram::Guide(const Action& action) {
+  const bool byKey = action.a % 2 == 1;
+  Note(byKey ? "by F1" : "by the menu");
+  model_.OpenGuide();
+  if (byKey) {
+    program_.Window().Post(WM_KEYDOWN, VK_F1);
+  } else {
+    program_.Command(FrmFindIcon_MnuContent);
+  }
+  const Box box = program_.WaitForBox();
+  Tell(model::Compared("box's title", std::string(model::words::errorTitle.english), box.Title()));
+  if (box.Text().find("guide") == std::string::npos) Tell("the box is not about the guide: " + box.Text() + "\n");
+  box.Press(IDOK);
+  Eventually([this] { return program_.Window().IsEnabled(); });
 }
 
 void FinishedProgram::Change(const Action& action) {

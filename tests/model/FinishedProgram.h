@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "driver/EnhancedView.h"
 #include "end_to_end/EndToEndTest.h"
 #include "model/Action.h"
 #include "model/Model.h"
@@ -42,10 +43,19 @@ class FinishedProgram {
     --stepsDone_;
   }
   void Start();
+  // Closes the program by one of the ways of the user.
+  void CloseBy(int way);
+  // Waits until the program has handled all that was posted so far.
+  void WaitForPosted() const;
+  // Compares the message box that the model shows, and closes it.
+  void PassBox();
+  void Tell(const std::string& difference) { boxDifference_ += difference; }
 
   // --- actions
   void StartAgain(const Action& action);
   void Change(const Action& action);
+  void About(const Action& action);
+  void Guide(const Action& action);
 
   // On the options, and the search.
   void Find(const Action& action);
@@ -55,18 +65,35 @@ class FinishedProgram {
   void Limit(const Action& action);
   void Spin(const Action& action);
   void Open(const Action& action);
+  void ClickFolder(const Action& action);
+  void Drop(const Action& action);
 
   // On the grid, the list and the enhanced view.
   void Click(const Action& action);
   void Scroll(const Action& action);
+  void TurnWheel(const Action& action);
+  void ScrollByKey(const Action& action);
+  void ClickList(const Action& action);
+  void SelectAll(const Action& action);
   void Switch(const Action& action);
   void Invert(const Action& action);
   void Labels(const Action& action);
   void View(const Action& action);
   void Copy(const Action& action);
 
+  void LookAround(const EnhancedView& view, const Action& action);
+  void RunShow(const EnhancedView& view);
+  void CompareView(const EnhancedView& view);
+  // A row in the folders that the test made.
+  int FolderRow(int number) const;
+
   // Saving.
-  void Save(const Action& action);
+  void SaveOne(const Action& action);
+  void SaveMany(const Action& action);
+  void EndOptions(bool jpeg, bool ok);
+  // Compares what was written with the icons of those rows, and adds it to the model's disk.
+  void CompareWritten(const std::vector<int>& rows);
+  model::Capture Captured(int row) const;
 
   // A file that comes or goes.
   void Put(const std::string& folder, int kind);
@@ -83,6 +110,7 @@ class FinishedProgram {
   bool IsEnabled(int id) const { return program_.Item(id).IsEnabled(); }
 
   std::string Difference(bool picture);
+  std::string ListsDifference() const;
   std::string RowsDifference() const;
   std::string GridDifference(bool picture) const;
   std::string FrameDifference(const RECT& frame) const;

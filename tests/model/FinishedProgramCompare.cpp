@@ -33,14 +33,22 @@ std::string FinishedProgram::Difference(bool picture) {
     const bool ticked = program_.Item(FrmFindIcon_ChkFileType0 + i).IsChecked();
     all += Compared("type " + std::to_string(i), model_.types.at(static_cast<std::size_t>(i)) ? 1 : 0, ticked ? 1 : 0);
   }
-  if (!model_.listsAreStale) {
-    std::string files;
-    for (const std::string& name : model_.files) files += name + "|";
-    std::string shown;
-    for (const std::string& name : program_.Item(FrmFindIcon_File1).ListItems()) shown += name + "|";
-    all += Compared("files", files, shown);
-  }
-  return all + RowsDifference() + GridDifference(picture);
+  return all + ListsDifference() + RowsDifference() + GridDifference(picture);
+}
+
+std::string FinishedProgram::ListsDifference() const {
+  if (model_.listsAreStale) return {};
+  const auto lines = [](const std::vector<std::string>& names) {
+    std::string all;
+    for (const std::string& name : names) all += name + "|";
+    return all;
+  };
+  std::vector<std::string> folders;
+  for (const std::string& path : model_.folderRows) folders.push_back(model::LastName(path));
+  const Control shown = program_.Item(FrmFindIcon_Dir1);
+  return Compared("files", lines(model_.files), lines(program_.Item(FrmFindIcon_File1).ListItems())) +
+         Compared("folders", lines(folders), lines(shown.ListItems())) +
+         Compared("chosen folder", model_.folderRow, shown.ListChoice());
 }
 
 std::string FinishedProgram::RowsDifference() const {

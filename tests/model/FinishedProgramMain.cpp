@@ -3,24 +3,36 @@
 
 #include <windows.h>
 
+#include <cstddef>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "driver/Waiting.h"
+#include "platform/DroppedBlock.h"
 
 namespace tarvik::end_to_end {
 
 using model::Front;
 
-void FinishedProgram::Find(const Action& /*action*/) {
-  model_.Find();
+void FinishedProgram::Find(const Action& action) {
+  const int way = action.a % 3 == 1 && !model_.fileEnabled ? 0 : action.a % 3;
+  static constexpr const char* ways[] = {"by the button", "by the menu", "by Enter"};
+  Note(ways[way]);
   const Control find = program_.Item(FrmFindIcon_CmdFind);
+  model_.Find();
+  const bool fails = model_.Foremost() == Front::Box;
   // Sent, so that the search is over then: the windows can look as if it were before it begins.
-  if (model_.Foremost() != Front::Box) return static_cast<void>(find.Send(BM_CLICK));
-  find.Press();
-  const Box box = program_.WaitForBox();
-  boxDifference_ = box.Title() == model_.box.title ? "" : "box's title: " + box.Title() + "\n";
-  model_.AnswerBox();
-  box.Press(IDOK);
+  if (way == 0 && !fails) return static_cast<void>(find.Send(BM_CLICK));
+  if (way == 1 && !fails) return SendCommand(FrmFindIcon_mnuStart);
+  if (way == 0) find.Press();
+  if (way == 1) program_.Command(FrmFindIcon_mnuStart);
+  if (way == 2) program_.Item(FrmFindIcon_txtMax).Post(WM_KEYDOWN, VK_RETURN);
+  if (fails) {
+    PassBox();
+  } else {
+    WaitForPosted();
+  }
   Eventually([this] { return IsEnabled(FrmFindIcon_CmdFind); });
 }
 
@@ -44,9 +56,14 @@ void FinishedProgram::Size(const Action& action) {
 
 void FinishedProgram::Limit(const Action& action) {
   const auto& text = model::limitTexts.at(static_cast<std::size_t>(action.a) % model::limitTexts.size());
-  Note(text.text);
+  const bool byKeys = action.b % 2 == 1;
+  Note(std::string(text.text) + (byKeys ? " by keys" : ""));
   model_.TypeLimit(text);
-  program_.Item(FrmFindIcon_txtMax).SetText(text.text);
+  const Control limit = program_.Item(FrmFindIcon_txtMax);
+  if (!byKeys) return limit.SetText(text.text);
+  limit.Send(EM_SETSEL, 0, -1);
+  limit.Send(WM_CHAR, VK_BACK);
+  for (const char letter : std::string(text.text)) limit.Send(WM_CHAR, static_cast<WPARAM>(letter));
 }
 
 void FinishedProgram::Spin(const Action& action) {
@@ -54,15 +71,54 @@ void FinishedProgram::Spin(const Action& action) {
   SendScroll(action.a % 2 == 0 ? SB_LINEUP : SB_LINEDOWN, FrmFindIcon_udMain);
 }
 
-// A folder that the test made.
-void FinishedProgram::Open(const Action& action) {
+int FinishedProgram::FolderRow(int number) const {
   const auto first = static_cast<int>(model::Chain(tree_.Path()).size()) - 1;
-  const int row = first + action.a % (static_cast<int>(model_.folderRows.size()) - first);
+  return first + number % (static_cast<int>(model_.folderRows.size()) - first);
+}
+
+void FinishedProgram::Open(const Action& action) {
+  const int row = FolderRow(action.a);
   Note(model_.folderRows.at(static_cast<std::size_t>(row)));
   model_.OpenFolderRow(row);
-  program_.Item(FrmFindIcon_Dir1).Send(LB_SETCURSEL, static_cast<WPARAM>(row));
   const Control list = program_.Item(FrmFindIcon_Dir1);
+  list.Send(LB_SETCURSEL, static_cast<WPARAM>(row));
   program_.Window().Send(WM_COMMAND, MAKEWPARAM(FrmFindIcon_Dir1, LBN_DBLCLK), reinterpret_cast<LPARAM>(list.Window()));
+}
+
+// A click only chooses a folder; Enter opens the chosen one.
+void FinishedProgram::ClickFolder(const Action& action) {
+  const int row = FolderRow(action.a);
+  const bool opens = action.b % 2 == 0;
+  Note(model_.folderRows.at(static_cast<std::size_t>(row)) + (opens ? ", Enter" : ""));
+  const Control list = program_.Item(FrmFindIcon_Dir1);
+  POINT middle = list.ListRowMiddle(row);
+  ScreenToClient(list.Window(), &middle);
+  model_.ClickFolderRow(row);
+  list.Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(middle.x, middle.y));
+  list.Send(WM_LBUTTONUP, 0, MAKELPARAM(middle.x, middle.y));
+  if (!opens) return;
+  model_.OpenFolderRow(row);
+  list.Send(WM_KEYDOWN, VK_RETURN);
+}
+
+// The message refers to memory of the receiving process. Windows copies the data there itself; under Wine the sender
+// has to.
+void FinishedProgram::Drop(const Action& action) {
+  static constexpr const char* folders[] = {"", "deep", "deep\\deeper", "many"};
+  const std::string name = folders[action.a % 4];
+  const std::string folder = name.empty() ? tree_.Path() : tree_.In(name);
+  const std::vector<std::string> files = disk_.Files(folder, "*.*");
+  const bool isFile = action.b % 2 == 1 && !files.empty();
+  const std::string dropped =
+      isFile ? model::Joined(folder, files.at(static_cast<std::size_t>(action.c) % files.size())) : folder;
+  Note(dropped);
+  model_.Drop({dropped});
+  const std::vector<std::byte> block = support::DroppedBlock({dropped});
+  void* memory = VirtualAllocEx(program_.Process(), nullptr, block.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+  if (WriteProcessMemory(program_.Process(), memory, block.data(), block.size(), nullptr) == 0)
+    throw std::runtime_error("memory of the other process cannot be written");
+  program_.Window().Post(WM_DROPFILES, reinterpret_cast<WPARAM>(memory));
+  WaitForPosted();
 }
 
 }  // namespace tarvik::end_to_end
