@@ -160,15 +160,9 @@ void FinishedProgram::About(const Action& action) {
 }
 
 // The program's folder has no guide.
-void FinishedProgram::Guide(const Action& action) {
-  const bool byKey = action.a % 2 == 1;
-  Note(byKey ? "by F1" : "by the menu");
+void FinishedProgram::Guide(const Action& /*action*/) {
   model_.OpenGuide();
-  if (byKey) {
-    program_.Window().Post(WM_KEYDOWN, VK_F1);
-  } else {
-    program_.Command(FrmFindIcon_MnuContent);
-  }
+  program_.Command(FrmFindIcon_MnuContent);
   const Box box = program_.WaitForBox();
   Tell(model::Compared("box's title", std::string(model::words::errorTitle.english), box.Title()));
   if (box.Text().find("guide") == std::string::npos) Tell("the box is not about the guide: " + box.Text() + "\n");
