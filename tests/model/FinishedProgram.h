@@ -71,6 +71,8 @@ class FinishedProgram {
   // On the grid, the list and the enhanced view.
   void Click(const Action& action);
   void Scroll(const Action& action);
+  // By a line, a page or to an end; returns which of the six ways: line down, line up, page down, page up, end, start.
+  int ScrollModel(const Action& action);
   void TurnWheel(const Action& action);
   void ScrollByKey(const Action& action);
   void ClickList(const Action& action);

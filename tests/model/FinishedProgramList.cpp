@@ -61,15 +61,20 @@ void FinishedProgram::Click(const Action& action) {
   grid.Send(WM_LBUTTONUP, keys, MAKELPARAM(x, y));
 }
 
-void FinishedProgram::Scroll(const Action& action) {
-  if (model_.listShown || !model_.grid.Scrolls()) return Skip();
-  static constexpr int requests[] = {SB_LINEDOWN, SB_LINEUP, SB_PAGEDOWN, SB_PAGEUP, SB_BOTTOM, SB_TOP};
+int FinishedProgram::ScrollModel(const Action& action) {
   const int way = action.a % 6;
   const int line = model_.grid.LineStep();
   const int whole = model_.grid.InnerHeight();
   const int steps[] = {line, -line, model::viewportHeight, -model::viewportHeight, whole, -whole};
   model_.grid.ScrollBy(steps[way]);
   Note("to " + std::to_string(model_.grid.Scroll()));
+  return way;
+}
+
+void FinishedProgram::Scroll(const Action& action) {
+  if (model_.listShown || !model_.grid.Scrolls()) return Skip();
+  static constexpr int requests[] = {SB_LINEDOWN, SB_LINEUP, SB_PAGEDOWN, SB_PAGEUP, SB_BOTTOM, SB_TOP};
+  const int way = ScrollModel(action);
   SendScroll(requests[way], FrmFindIcon_Vsb);
 }
 
@@ -90,12 +95,7 @@ void FinishedProgram::TurnWheel(const Action& action) {
 void FinishedProgram::ScrollByKey(const Action& action) {
   if (model_.listShown || !model_.grid.Scrolls()) return Skip();
   static constexpr WPARAM keys[] = {VK_DOWN, VK_UP, VK_NEXT, VK_PRIOR, VK_END, VK_HOME};
-  const int way = action.a % 6;
-  const int line = model_.grid.LineStep();
-  const int whole = model_.grid.InnerHeight();
-  const int steps[] = {line, -line, model::viewportHeight, -model::viewportHeight, whole, -whole};
-  model_.grid.ScrollBy(steps[way]);
-  Note("to " + std::to_string(model_.grid.Scroll()));
+  const int way = ScrollModel(action);
   const Control bar = program_.Item(FrmFindIcon_Vsb);
   bar.Send(WM_KEYDOWN, keys[way]);
   bar.Send(WM_KEYUP, keys[way]);
