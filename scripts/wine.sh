@@ -179,8 +179,16 @@ choose_dots() {
   wineserver -w
 }
 
+# set_registry ARGUMENT...: what "reg" does with these arguments. Call it before the desktop is open. On a busy machine this
+# program too sometimes ends while it starts, because the desktop of the program before it is just closing; then the server
+# and all programs are ended, and it is tried again.
 set_registry() {
-  wine reg "$@" >/dev/null 2>&1 </dev/null 9>&- || fail "Wine refused a setting: $*"
+  for _ in $(seq 5); do
+    if wine reg "$@" >/dev/null 2>&1 </dev/null 9>&-; then return 0; fi
+    wineserver -k >/dev/null 2>&1 9>&- || true
+    wineserver -w >/dev/null 2>&1 9>&- || true
+  done
+  fail "Wine refused a setting: $*"
 }
 
 # end_wine: called when the script ends, however it ends.
