@@ -163,6 +163,15 @@ TEST_F(FormTest, GoesWithItsOwnerAndOpensAgain) {
   application.Run();  // returns because no form is left
 }
 
+TEST_F(FormTest, IsUnloadedOnceWhereItGoesWithItsOwner) {
+  TriedForm form{application};
+  owner.Show();
+  form.Show(owner.Window());
+  owner.Unload();
+  EXPECT_EQ(form.unloaded, 1);
+  application.Run();
+}
+
 TEST_F(FormTest, GivesUpWhatWaitedForItWhereItGoesWithItsOwner) {
   owner.Show();
   driver.On(frmDirCreate_txt, [this](HWND) { PostMessageW(owner.Window(), WM_CLOSE, 0, 0); });

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <new>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -193,6 +194,18 @@ TEST_F(FrmFindIconSearchTest, IsGivenUpWhenTheSessionEndsAndKeepsItsFirstFolder)
   EXPECT_EQ(extracted, 2);
   EXPECT_EQ(errors, 0);
   EXPECT_EQ(ini.values["FindIcon/Folder"], "C:\\icons");
+}
+
+TEST_F(FrmFindIconSearchTest, ClearsTheFormerListIfCountingEndsWithAnError) {
+  OpenWatched();
+  Find(3);
+  ASSERT_EQ(RowCount(), 3);
+  int errors = 0;
+  application.onRuntimeError = [&](Form& /*form*/, const RuntimeError& /*error*/) { ++errors; };
+  watched.onCount = [] { throw std::bad_alloc(); };
+  Find(3);
+  EXPECT_EQ(errors, 1);
+  EXPECT_EQ(RowCount(), 0);
 }
 
 // The size was once remembered although there was no memory for the bitmap, and the next search believed that the grid
