@@ -27,7 +27,7 @@ TEST_P(FinishedProgramModel, ShowsWhatTheModelKnowsAfterEachStep) {
     const std::string difference = program.Run();
     return model::Told{.steps = program.StepsDone(), .difference = difference, .log = program.Log()};
   });
-  EXPECT_EQ(outcome.failure, "");
+  EXPECT_TRUE(outcome.failure.empty()) << outcome.failure;
   std::cout << outcome.steps << " steps\n";
 }
 

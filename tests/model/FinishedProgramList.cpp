@@ -117,12 +117,14 @@ void FinishedProgram::ClickList(const Action& action) {
   const HeldState held(list.Window(), ctrl, shift);
   list.Send(WM_LBUTTONDOWN, keys | MK_LBUTTON, MAKELPARAM(point.x, point.y));
   list.Send(WM_LBUTTONUP, keys, MAKELPARAM(point.x, point.y));
+  WaitForPosted();  // the program notes the choice, and follows it by a message that it posts
 }
 
 void FinishedProgram::SelectAll(const Action& /*action*/) {
   if (!model_.listShown || model_.entries.empty()) return Skip();
   model_.SelectAllRows();
   SendCommand(FrmFindIcon_keySelectAll);
+  WaitForPosted();
 }
 
 void FinishedProgram::Switch(const Action& action) {

@@ -50,7 +50,7 @@ TEST_P(ModelTest, TheWindowsShowWhatTheModelKnowsAfterEachStep) {
     const std::string difference = driver.Run();
     return Told{.steps = driver.StepsDone(), .difference = difference, .log = driver.Log()};
   });
-  EXPECT_EQ(outcome.failure, "");
+  EXPECT_TRUE(outcome.failure.empty()) << outcome.failure;
   std::cout << outcome.steps << " steps\n";
 }
 
