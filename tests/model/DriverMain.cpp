@@ -273,8 +273,9 @@ bool Driver::OpenFolder(const Action& action) {
 
 bool Driver::ChooseDrive(const Action& action) {
   const int row = action.a % 3;
-  Note(Disk::Drives().at(static_cast<std::size_t>(row)).root);
-  model_.ChooseDrive(row);
+  const Disk::Drive& chosen = Disk::Drives().at(static_cast<std::size_t>(row));
+  Note(chosen.root);
+  model_.ChooseDrive(chosen);
   Perform([&] {
     SendMessageW(Item(FrmFindIcon_Drive1), CB_SETCURSEL, static_cast<WPARAM>(row), 0);
     Command(Main(), FrmFindIcon_Drive1, CBN_SELCHANGE);

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <cstring>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -30,10 +31,9 @@ FinishedProgram::FinishedProgram(std::vector<Action> actions) : actions_(std::mo
   for (const char* name : {"deep", "deep\\deeper", "many", "out"}) {
     disk_.AddFolder(tree_.MakeFolder(name));
   }
-  Put("", 0);
-  Put("deep", 1);
-  Put("deep\\deeper", 2);
-  Put("many", 4);
+  disk_.AddFolder(stickRoot);
+  static constexpr int kinds[] = {0, 1, 2, 4, 3};
+  for (int i = 0; i < folderCount; ++i) Put(Folder(i), kinds[i]);
   model_.kept.folder = tree_.Path();
   const std::string settings = ToUtf8(program_.SettingsFile().wstring());
   WritePrivateProfileStringA("FindIcon", "Folder", tree_.Path().c_str(), settings.c_str());
@@ -68,6 +68,7 @@ void FinishedProgram::Do(const Action& action) {
       {3, "Spinner", &FinishedProgram::Spin},
       {4, "Open a folder", &FinishedProgram::Open},
       {4, "Click a folder", &FinishedProgram::ClickFolder},
+      {3, "Choose a drive", &FinishedProgram::ChooseDrive},
       {3, "Drop", &FinishedProgram::Drop},
       {5, "Grid or list", &FinishedProgram::Switch},
       {12, "Click the list", &FinishedProgram::ClickList},
@@ -160,9 +161,16 @@ void FinishedProgram::About(const Action& action) {
 }
 
 // The program's folder has no guide.
-void FinishedProgram::Guide(const Action& /*action*/) {
+void FinishedProgram::Guide(const Action& action) {
+  const bool byKey = action.a % 2 == 1;
+  Note(byKey ? "by F1" : "by the menu");
   model_.OpenGuide();
-  program_.Command(FrmFindIcon_MnuContent);
+  if (byKey) {
+    program_.BringToFront();
+    PressKey(VK_F1);
+  } else {
+    program_.Command(FrmFindIcon_MnuContent);
+  }
   const Box box = program_.WaitForBox();
   Tell(model::Compared("box's title", std::string(model::words::errorTitle.english), box.Title()));
   if (box.Text().find("guide") == std::string::npos) Tell("the box is not about the guide: " + box.Text() + "\n");
@@ -171,26 +179,33 @@ void FinishedProgram::Guide(const Action& /*action*/) {
 }
 
 void FinishedProgram::Change(const Action& action) {
-  static constexpr const char* folders[] = {"", "deep", "deep\\deeper", "many"};
-  Put(folders[action.a % 4], action.b % 6);
+  Put(Folder(action.a), action.b % 6);
   model_.listsAreStale = true;
+}
+
+std::string FinishedProgram::Folder(int number) const {
+  const std::string folders[folderCount] = {tree_.Path(), tree_.In("deep"), tree_.In("deep\\deeper"), tree_.In("many"),
+                                            stickRoot};
+  return folders[number % folderCount];
 }
 
 void FinishedProgram::Put(const std::string& folder, int kind) {
   static constexpr const char* names[] = {"a.ico", "b.dll", "c.ico", "d.ocx", "e.dll", "f.exe"};
   static constexpr int icons[] = {1, 3, 1, 3, 100, 3};
   const std::string name = names[kind];
-  const std::string path = model::Joined(folder.empty() ? tree_.Path() : tree_.In(folder), name);
+  const std::string path = model::Joined(folder, name);
   if (log_.size() > 0) Note(path);
   if (disk_.Find(path)) {
-    disk_.Remove(model::Above(path), name);
+    disk_.Remove(folder, name);
     DeleteFileW(ToWide(path).c_str());
     return;
   }
-  disk_.Put(model::Above(path), name, icons[kind]);
+  disk_.Put(folder, name, icons[kind]);
   if (icons[kind] == 100) return CopyHundredIcons(path);
   if (icons[kind] == 3) return CopyThreeIcons(path);
-  tree_.MakeFile(model::Joined(folder, name).substr(folder.empty() ? 1 : 0), support::IconFileOf(0x20C040));
+  const bool onStick = folder == stickRoot;
+  const std::size_t above = onStick ? std::strlen(stickRoot) : tree_.Path().size() + 1;
+  (onStick ? stick_ : tree_).MakeFile(path.substr(above), support::IconFileOf(0x20C040));
 }
 
 }  // namespace tarvik::end_to_end

@@ -2,10 +2,12 @@
 
 #include <windows.h>
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "driver/Dialogs.h"
 #include "driver/EnhancedView.h"
 #include "end_to_end/EndToEndTest.h"
 #include "model/Action.h"
@@ -17,6 +19,12 @@ using model::Action;
 using model::Model;
 
 inline constexpr int pictureEach = 40;  // steps between two pictures of the screen
+inline constexpr int folderCount = 5;   // in which files come and go
+
+// The drives that the test makes, and that of its folders.
+inline constexpr const char* stickRoot = "R:\\";
+inline const std::array<model::Disk::Drive, 3> drives{
+    {{stickRoot, "r: [stick]"}, {"Q:\\", "q:", false}, {"C:\\", "c:"}}};
 
 // The program over folders of its own, step by step.
 class FinishedProgram {
@@ -66,6 +74,7 @@ class FinishedProgram {
   void Spin(const Action& action);
   void Open(const Action& action);
   void ClickFolder(const Action& action);
+  void ChooseDrive(const Action& action);
   void Drop(const Action& action);
 
   // On the grid, the list and the enhanced view.
@@ -86,17 +95,20 @@ class FinishedProgram {
   void LookAround(const EnhancedView& view, const Action& action);
   void RunShow(const EnhancedView& view);
   void CompareView(const EnhancedView& view);
-  // A row in the folders that the test made.
+  // One of the rows of the folders that the test made.
   int FolderRow(int number) const;
 
   // Saving.
   void SaveOne(const Action& action);
   void SaveMany(const Action& action);
+  void PickHotSpot(const Dialog& dialog, const Action& action);
   void EndOptions(bool jpeg, bool ok);
   // Compares what was written with the icons of those rows, and adds it to the model's disk.
   void CompareWritten(const std::vector<int>& rows);
   model::Capture Captured(int row) const;
 
+  // One of the folders in which files come and go.
+  std::string Folder(int number) const;
   // A file that comes or goes.
   void Put(const std::string& folder, int kind);
 
@@ -112,6 +124,7 @@ class FinishedProgram {
   bool IsEnabled(int id) const { return program_.Item(id).IsEnabled(); }
 
   std::string Difference(bool picture);
+  std::string DriveDifference() const;
   std::string ListsDifference() const;
   std::string RowsDifference() const;
   std::string GridDifference(bool picture) const;
@@ -121,6 +134,9 @@ class FinishedProgram {
 
   support::TemporaryFolder home_;
   support::TemporaryFolder tree_;
+  support::TemporaryFolder stick_;
+  ExtraDrive stickDrive_{stick_.Path(), "stick"};
+  EmptyDrive reader_;
   LanguageValue noLanguage_{std::nullopt};
   Program program_{home_.Path()};
   model::Disk disk_{tree_.Path()};

@@ -33,7 +33,15 @@ std::string FinishedProgram::Difference(bool picture) {
     const bool ticked = program_.Item(FrmFindIcon_ChkFileType0 + i).IsChecked();
     all += Compared("type " + std::to_string(i), model_.types.at(static_cast<std::size_t>(i)) ? 1 : 0, ticked ? 1 : 0);
   }
-  return all + ListsDifference() + RowsDifference() + GridDifference(picture);
+  return all + DriveDifference() + ListsDifference() + RowsDifference() + GridDifference(picture);
+}
+
+std::string FinishedProgram::DriveDifference() const {
+  const Control list = program_.Item(FrmFindIcon_Drive1);
+  const std::vector<std::string> texts = list.ComboItems();
+  const int row = list.ComboChoice();
+  const auto expected = std::ranges::find(drives, model_.drive, &model::Disk::Drive::root);
+  return Compared("drive", expected->text, row < 0 ? "none" : texts.at(static_cast<std::size_t>(row)));
 }
 
 std::string FinishedProgram::ListsDifference() const {

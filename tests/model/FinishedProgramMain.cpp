@@ -72,7 +72,8 @@ void FinishedProgram::Spin(const Action& action) {
 }
 
 int FinishedProgram::FolderRow(int number) const {
-  const auto first = static_cast<int>(model::Chain(tree_.Path()).size()) - 1;
+  const bool onStick = model_.folder.starts_with(stickRoot);
+  const auto first = onStick ? 0 : static_cast<int>(model::Chain(tree_.Path()).size()) - 1;
   return first + number % (static_cast<int>(model_.folderRows.size()) - first);
 }
 
@@ -101,12 +102,24 @@ void FinishedProgram::ClickFolder(const Action& action) {
   list.Send(WM_KEYDOWN, VK_RETURN);
 }
 
+// The test knows only what it made, so drive C: is reached by the folders dropped.
+void FinishedProgram::ChooseDrive(const Action& action) {
+  const model::Disk::Drive& chosen = drives[static_cast<std::size_t>(action.a % 4 == 0 ? 1 : 0)];
+  Note(chosen.root);
+  const Control list = program_.Item(FrmFindIcon_Drive1);
+  const std::vector<std::string> texts = list.ComboItems();
+  const auto row = static_cast<int>(std::ranges::find(texts, chosen.text) - texts.begin());
+  if (row == static_cast<int>(texts.size())) return Tell("not in the list of drives: " + chosen.text + "\n");
+  model_.ChooseDrive(chosen);
+  if (model_.Foremost() != Front::Box) return list.ChooseComboItem(row);
+  list.PostComboChoice(row);
+  PassBox();
+}
+
 // The message refers to memory of the receiving process. Windows copies the data there itself; under Wine the sender
 // has to.
 void FinishedProgram::Drop(const Action& action) {
-  static constexpr const char* folders[] = {"", "deep", "deep\\deeper", "many"};
-  const std::string name = folders[action.a % 4];
-  const std::string folder = name.empty() ? tree_.Path() : tree_.In(name);
+  const std::string folder = Folder(action.a);
   const std::vector<std::string> files = disk_.Files(folder, "*.*");
   const bool isFile = action.b % 2 == 1 && !files.empty();
   const std::string dropped =

@@ -33,6 +33,13 @@ std::string NameOf(const std::string& path) {
   return path.substr(path.rfind('\\') + 1);
 }
 
+// A file in the root of a drive is listed with a doubled backslash.
+std::string WithSingleBackslash(std::string path) {
+  const auto doubled = path.find("\\\\");
+  if (doubled != std::string::npos) path.erase(doubled, 1);
+  return path;
+}
+
 // The same content for the icon of a real file, whose pixels the model does not know.
 model::Bytes Expected(const std::string& path, const model::Written& file, const model::Capture& icon) {
   if (file.isBeginning) return file.bytes;
@@ -75,8 +82,10 @@ model::Capture FinishedProgram::Captured(int row) const {
 
 void FinishedProgram::CompareWritten(const std::vector<int>& rows) {
   // A file may be written over one whose icon is saved after it. Such a file may be incomplete when it is read here.
-  const bool overlaps = std::ranges::any_of(
-      rows, [&](int row) { return model_.written.contains(model_.entries.at(static_cast<std::size_t>(row)).path); });
+  const bool overlaps = std::ranges::any_of(rows, [&](int row) {
+    const model::Entry& entry = model_.entries.at(static_cast<std::size_t>(row));
+    return model_.written.contains(WithSingleBackslash(entry.path));
+  });
   std::size_t next = 0;
   for (const auto& [path, file] : model_.written) {
     const int row = rows.at(next++);
@@ -95,6 +104,17 @@ void FinishedProgram::CompareWritten(const std::vector<int>& rows) {
   Eventually([this] { return program_.Window().IsEnabled() && Status() == model_.status; });
   if (!model_.written.empty()) model_.listsAreStale = true;
   model_.written.clear();
+}
+
+// Every click is limited to the first pixel.
+void FinishedProgram::PickHotSpot(const Dialog& dialog, const Action& action) {
+  const LPARAM point = MAKELPARAM(action.b % 385, action.c % 385);
+  const Control picture = dialog.Item(FrmHotSpot_PicCursor);
+  picture.Send(WM_MOUSEMOVE, 0, point);
+  picture.Send(WM_LBUTTONDOWN, MK_LBUTTON, point);
+  picture.Send(WM_LBUTTONUP, 0, point);
+  Tell(model::Compared("hot x", "00", dialog.Item(FrmHotSpot_LblHotX).Text()));
+  Tell(model::Compared("hot y", "00", dialog.Item(FrmHotSpot_LblHotY).Text()));
 }
 
 void FinishedProgram::EndOptions(bool jpeg, bool ok) {
@@ -137,6 +157,7 @@ void FinishedProgram::SaveOne(const Action& action) {
   const bool isCursor = type.kind == Kind::Cursor;
   if (isCursor) {
     const Dialog hotSpot(program_, FrmHotSpot_PicCursor);
+    PickHotSpot(hotSpot, action);
     model_.EndHotSpot(!cancelsFirst);
     hotSpot.End(cancelsFirst ? FrmHotSpot_CmdCancel : FrmHotSpot_CmdOk);
   }

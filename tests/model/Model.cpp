@@ -80,8 +80,7 @@ void Model::SetFolder(const std::string& path) {
   FillLists();
 }
 
-void Model::ChooseDrive(int row) {
-  const Disk::Drive& chosen = Disk::Drives().at(static_cast<std::size_t>(row));
+void Model::ChooseDrive(const Disk::Drive& chosen) {
   drive = chosen.root;
   if (!chosen.isReady) {
     return ShowBox(words::errorTitle.In(tongue_), words::driveNotReady.In(tongue_), After::Nothing);

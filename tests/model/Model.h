@@ -121,7 +121,7 @@ class Model {
   void CloseAbout() { fronts.pop_back(); }
 
   // --- options
-  void ChooseDrive(int row);
+  void ChooseDrive(const Disk::Drive& chosen);
   void ClickFolderRow(int row) { folderRow = row; }
   void OpenFolderRow(int row);
   // Drops these files and folders on the main window; the first counts.
