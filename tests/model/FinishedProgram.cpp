@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cstring>
+#include <exception>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -39,8 +40,8 @@ FinishedProgram::FinishedProgram(std::vector<Action> actions) : actions_(std::mo
   WritePrivateProfileStringA("FindIcon", "Folder", tree_.Path().c_str(), settings.c_str());
 }
 
-// The first difference; empty if there is none.
-std::string FinishedProgram::Run() {
+// What the program does not do in time is a difference, too.
+std::string FinishedProgram::Run() try {
   MovePointer({0, 0});
   Start();
   for (std::size_t step = 0; step <= actions_.size(); ++step) {
@@ -52,6 +53,8 @@ std::string FinishedProgram::Run() {
   model_.CloseMain();
   if (program_.Close() != 0) return "the program ends with a failure\n";
   return KeptDifference();
+} catch (const std::exception& error) {
+  return std::string("the step fails: ") + error.what() + "\n";
 }
 
 void FinishedProgram::Do(const Action& action) {

@@ -124,7 +124,6 @@ void FinishedProgram::SelectAll(const Action& /*action*/) {
   if (!model_.listShown || model_.entries.empty()) return Skip();
   model_.SelectAllRows();
   SendCommand(FrmFindIcon_keySelectAll);
-  WaitForPosted();
 }
 
 void FinishedProgram::Switch(const Action& action) {
