@@ -7,13 +7,32 @@ export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
 # This locale sets the encoding of Wine's file names; it must be a UTF-8 locale that every machine has.
 export LC_ALL=C.UTF-8
 
-# make_prefix: makes the Wine prefix once, with the fonts and settings that windows need to look right.
+# make_prefix: makes the Wine prefix once. Each one in addition to the project's own is a copy of a template, which takes a
+# fifth of the time.
 make_prefix() {
   [ ! -e "$WINEPREFIX/.ready" ] || return 0
   say "Making a Wine prefix in ${WINEPREFIX#"$root"/}"
+  if [ -n "${TARVIK_WINEPREFIX:-}" ]; then copy_template; else fill_prefix; fi
+}
+
+# copy_template: several scripts may need the template at the same time; the first one makes it.
+copy_template() {
+  local template=$root/build/wine-template
+  (
+    flock 8
+    export WINEPREFIX=$template
+    [ -e "$WINEPREFIX/.ready" ] || fill_prefix
+  ) 8>"$template.lock"
+  rm -rf "$WINEPREFIX" "$WINEPREFIX.part"
+  cp -a "$template" "$WINEPREFIX.part"
+  mv "$WINEPREFIX.part" "$WINEPREFIX"
+}
+
+# fill_prefix: makes it from nothing, with the fonts and settings that windows need to look right.
+fill_prefix() {
   rm -rf "$WINEPREFIX"
   mkdir -p "$WINEPREFIX"
-  wineboot -i >/dev/null 2>&1 </dev/null 9>&- || fail "Wine could not make its prefix in $WINEPREFIX"
+  wineboot -i >/dev/null 2>&1 </dev/null 8>&- 9>&- || fail "Wine could not make its prefix in $WINEPREFIX"
   # Debian's Wine does not find its own fonts; without them dialogs come out wider than on Windows.
   ln -sf /usr/share/wine/fonts/*.ttf /usr/share/wine/fonts/*.fon "$WINEPREFIX/drive_c/windows/Fonts/"
   cat > "$WINEPREFIX/settings.reg" <<'REG'
@@ -30,7 +49,7 @@ REGEDIT4
 [HKEY_CURRENT_USER\Software\Wine\WineDbg]
 "ShowCrashDialog"=dword:00000000
 REG
-  wine regedit /S "$(winepath -w "$WINEPREFIX/settings.reg")" >/dev/null 2>&1 </dev/null 9>&- || fail "Wine refused the settings"
+  wine regedit /S "$(winepath -w "$WINEPREFIX/settings.reg")" >/dev/null 2>&1 </dev/null 8>&- 9>&- || fail "Wine refused the settings"
   wineserver -w
   touch "$WINEPREFIX/.ready"
 }

@@ -103,6 +103,7 @@ class FinishedProgram {
   void SaveMany(const Action& action);
   void PickHotSpot(const Dialog& dialog, const Action& action);
   void EndOptions(bool jpeg, bool ok);
+  void WaitForWritten() const;
   // Compares what was written with the icons of those rows, and adds it to the model's disk.
   void CompareWritten(const std::vector<int>& rows);
   model::Capture Captured(int row) const;

@@ -80,7 +80,17 @@ model::Capture FinishedProgram::Captured(int row) const {
   return capture;
 }
 
+// Files and status can look like this before the first file is written, too. But until the last one is written, the
+// program refuses the end of the session.
+void FinishedProgram::WaitForWritten() const {
+  Eventually([this] {
+    return program_.Window().IsEnabled() && program_.Window().Send(WM_QUERYENDSESSION) != FALSE &&
+           Status() == model_.status;
+  });
+}
+
 void FinishedProgram::CompareWritten(const std::vector<int>& rows) {
+  WaitForWritten();
   // A file may be written over one whose icon is saved after it. Such a file may be incomplete when it is read here.
   const bool overlaps = std::ranges::any_of(rows, [&](int row) {
     const model::Entry& entry = model_.entries.at(static_cast<std::size_t>(row));
@@ -100,8 +110,6 @@ void FinishedProgram::CompareWritten(const std::vector<int>& rows) {
     const UINT icons = ExtractIconExA(path.c_str(), -1, nullptr, nullptr, 0);
     disk_.Put(model::Above(path), NameOf(path), static_cast<int>(icons));
   }
-  // The status looks like this before the first file is written, too.
-  Eventually([this] { return program_.Window().IsEnabled() && Status() == model_.status; });
   if (!model_.written.empty()) model_.listsAreStale = true;
   model_.written.clear();
 }
