@@ -7,7 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "search/icons/IconGroup.h"
 #include "search/icons/Modules.h"
 #include "support/BytesInMemory.h"
 #include "support/LongFile.h"
@@ -294,17 +293,6 @@ TEST(NewExecutable, ReadsItsHeadersAndItsTableOnce) {
   file.bytesRead = 0;
   const std::size_t picture = executable.Picture(file, 7, {}).size();
   EXPECT_EQ(file.bytesRead, 6 + 20 + picture);
-}
-
-// In a table with another unit, a picture can have up to 2 GB.
-TEST(NewExecutable, ReadsNoMoreOfAPictureThanItsLimit) {
-  Bytes module = With(MakeModule(PlainIcons(2)), firstPicture + 2, 0xFFFF);
-  module.resize(module.size() + 2 * maxPictureBytes);
-  BytesInMemory file(module);
-  const NewExecutable executable(file, module.size());
-  file.bytesRead = 0;
-  EXPECT_EQ(executable.Picture(file, 0, {}).size(), maxPictureBytes);
-  EXPECT_EQ(file.bytesRead, 6 + 20 + maxPictureBytes);
 }
 
 TEST(NewExecutable, ReadsTheHeadersAloneOfAFileThatIsNoModule) {
