@@ -132,7 +132,11 @@ EmptyDrive::~EmptyDrive() {
 }
 
 ExtraDrive::ExtraDrive(const std::string& folder, const std::string& label) {
-  std::ofstream(std::filesystem::path(ToWide(folder)) / L".windows-label", std::ios::binary) << label << '\n';
+  const std::filesystem::path file = std::filesystem::path(ToWide(folder)) / L".windows-label";
+  std::ofstream(file, std::ios::binary) << label << '\n';
+  // Wine 8 hides each file whose name begins with a dot. Wine 10 does not if a program made it.
+  if (SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_HIDDEN) == 0)
+    throw std::runtime_error("the label of drive R: cannot be hidden");
   DefineUnixDrive(DRIVE_FIXED, UnixPath(ToWide(folder)));
 }
 
