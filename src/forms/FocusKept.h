@@ -3,12 +3,13 @@
 #include <windows.h>
 
 #include "base/NonCopyable.h"
+#include "forms/OptionButtons.h"
 
 namespace tarvik {
 
 // Takes the keyboard focus from a form's control during its lifetime, and gives it back unless the user has moved it
 // meanwhile. If the control is disabled by then, the next one gets the focus, because a disabled control would swallow
-// every key.
+// every key. Of option buttons the chosen one gets it, because the choice may have changed.
 class FocusKept : NonCopyable {
  public:
   explicit FocusKept(HWND form) : form_(form), focus_(GetFocus()) {
@@ -23,7 +24,7 @@ class FocusKept : NonCopyable {
     const HWND now = GetFocus();
     if (focus_ == nullptr || (now != meanwhile_ && now != nullptr)) return;
     const HWND target = IsWindowEnabled(focus_) != FALSE ? focus_ : GetNextDlgTabItem(form_, focus_, FALSE);
-    SetFocus(target);
+    SetFocus(ChosenOption(form_, target));
   }
 
  private:

@@ -9,6 +9,7 @@
 
 #include "base/Conversion.h"
 #include "forms/MessageBox.h"
+#include "forms/OptionButtons.h"
 #include "resource.h"
 #include "search/icons/FilePattern.h"
 #include "search/window/FrmFindIcon.h"
@@ -111,6 +112,7 @@ void FrmFindIcon::OptView_Click(int index) {
   gridTip_.Say({});
   ShowItem(FrmFindIcon_Lv, list);
   if (opensList && !state_.IsSearching && list_.Has(state_.CurrentIndex + 1)) lv_.SetFocusedRow(state_.CurrentIndex);
+  FocusChosenOption(Window());
 }
 
 // A handler like the others, whatever it leaves alone. NOLINTNEXTLINE(readability-make-member-function-const)

@@ -128,6 +128,37 @@ TEST_F(FrmFindIconSearchTest, PassesTheFocusOnFromAScrollBarThatItDisables) {
   EXPECT_TRUE(IsWindowEnabled(GetFocus()));
 }
 
+// Windows counts the focus on an option button as a click on it. So each search, and each return to the window, once
+// changed back to the view whose button the user had clicked last.
+TEST_F(FrmFindIconSearchTest, MovesTheFocusToTheButtonOfTheViewThatIsChosenInTheMenu) {
+  Open();
+  for (const int list : {1, 0, 1}) {
+    SetFocus(Item(FrmFindIcon_OptView0 + 1 - list));
+    Click(FrmFindIcon_mnuViewopt0 + list);
+    EXPECT_EQ(GetFocus(), Item(FrmFindIcon_OptView0 + list));
+    Find(3);
+    EXPECT_EQ(GetFocus(), Item(FrmFindIcon_OptView0 + list));
+    EXPECT_EQ(IsWindowVisible(Item(FrmFindIcon_Lv)), list);
+  }
+}
+
+TEST_F(FrmFindIconSearchTest, GivesTheFocusToTheButtonOfTheViewThatIsChosenMeanwhile) {
+  OpenWatched();
+  Click(FrmFindIcon_OptView0);
+  SetFocus(Item(FrmFindIcon_OptView0));
+  watched.onCount = [&] { Click(FrmFindIcon_mnuViewopt1); };
+  Find(3);
+  EXPECT_EQ(GetFocus(), Item(FrmFindIcon_OptView1));
+  EXPECT_TRUE(IsWindowVisible(Item(FrmFindIcon_Lv)));
+}
+
+TEST_F(FrmFindIconSearchTest, LeavesTheFocusThatIsNotOnAButtonOfTheViews) {
+  Open();
+  SetFocus(Item(FrmFindIcon_txtMax));
+  Click(FrmFindIcon_mnuViewopt1);
+  EXPECT_EQ(GetFocus(), Item(FrmFindIcon_txtMax));
+}
+
 // The lists once showed the folder as it was when it was opened.
 TEST_F(FrmFindIconSearchTest, ShowsInTheListsWhatItFound) {
   Open();
