@@ -134,9 +134,9 @@ EmptyDrive::~EmptyDrive() {
 ExtraDrive::ExtraDrive(const std::string& folder, const std::string& label) {
   const std::filesystem::path file = std::filesystem::path(ToWide(folder)) / L".windows-label";
   std::ofstream(file, std::ios::binary) << label << '\n';
-  // Wine 8 hides each file whose name begins with a dot. Wine 10 does not if a program made it.
-  if (SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_HIDDEN) == 0)
-    throw std::runtime_error("the label of drive R: cannot be hidden");
+  // Wine 8 hides each file whose name begins with a dot. Wine 10 does not if a program made it. A disk that cannot be
+  // written has no label, and so none to hide.
+  SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_HIDDEN);
   DefineUnixDrive(DRIVE_FIXED, UnixPath(ToWide(folder)));
 }
 
