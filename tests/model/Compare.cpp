@@ -95,6 +95,11 @@ void CompareView(Differences& all, const Model& model, const seen::Controls& at)
     all.Expect("view item", chosen, seen::IsMenuChecked(at.Window(), FrmFindIcon_mnuViewopt0 + i));
     all.Expect("numbering", (i == 1) == model.byFile, seen::IsMenuChecked(at.Window(), FrmFindIcon_mnuIL1 + i));
   }
+  // Windows counts the focus on an option button as a click on it.
+  for (int i = 0; i < 2; ++i) {
+    const bool hasFocus = GetFocus() == at.Of(FrmFindIcon_OptView0 + i);
+    if (hasFocus) all.Expect("list's button has the focus", model.listShown, i == 1);
+  }
   all.Expect("label item", model.labelShown, seen::IsMenuChecked(at.Window(), FrmFindIcon_mnuShowLabel));
 }
 

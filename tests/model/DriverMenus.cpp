@@ -15,10 +15,16 @@ namespace tarvik::model {
 
 bool Driver::SwitchView(const Action& action) {
   const bool list = action.a % 2 == 1;
-  const int id = (action.b % 2 == 0 ? FrmFindIcon_OptView0 : FrmFindIcon_mnuViewopt0) + (list ? 1 : 0);
-  Note(list ? "list" : "grid");
+  const bool byButton = action.b % 2 == 0;
+  Note(std::string(list ? "list" : "grid") + (byButton ? " by the button" : ""));
   model_.ShowList(list);
-  Perform([&] { Command(Main(), id); });
+  Perform([&] {
+    if (byButton) {
+      SendMessageW(Item(list ? FrmFindIcon_OptView1 : FrmFindIcon_OptView0), BM_CLICK, 0, 0);
+    } else {
+      Command(Main(), list ? FrmFindIcon_mnuViewopt1 : FrmFindIcon_mnuViewopt0);
+    }
+  });
   return true;
 }
 

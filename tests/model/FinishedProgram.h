@@ -125,6 +125,7 @@ class FinishedProgram {
   bool IsEnabled(int id) const { return program_.Item(id).IsEnabled(); }
 
   std::string Difference(bool picture);
+  std::string FocusDifference() const;
   std::string DriveDifference() const;
   std::string ListsDifference() const;
   std::string RowsDifference() const;

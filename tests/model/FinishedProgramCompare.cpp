@@ -33,7 +33,16 @@ std::string FinishedProgram::Difference(bool picture) {
     const bool ticked = program_.Item(FrmFindIcon_ChkFileType0 + i).IsChecked();
     all += Compared("type " + std::to_string(i), model_.types.at(static_cast<std::size_t>(i)) ? 1 : 0, ticked ? 1 : 0);
   }
-  return all + DriveDifference() + ListsDifference() + RowsDifference() + GridDifference(picture);
+  return all + FocusDifference() + DriveDifference() + ListsDifference() + RowsDifference() + GridDifference(picture);
+}
+
+// Windows counts the focus on an option button as a click on it, so only that of the shown view may have it.
+std::string FinishedProgram::FocusDifference() const {
+  GUITHREADINFO thread{};
+  thread.cbSize = sizeof thread;
+  GetGUIThreadInfo(GetWindowThreadProcessId(program_.Window().Window(), nullptr), &thread);
+  const int other = model_.listShown ? FrmFindIcon_OptView0 : FrmFindIcon_OptView1;
+  return thread.hwndFocus == program_.Item(other).Window() ? "the other view's button has the focus\n" : "";
 }
 
 std::string FinishedProgram::DriveDifference() const {
