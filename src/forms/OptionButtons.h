@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-// The focus on option buttons. Windows counts it as a click on the button that receives it, so only the chosen one of a
-// group may have it (as Wine 10 does).
+// The focus on option buttons. Windows and Wine 10, but not Wine 8, count it as a click on the button that receives it.
+// So only the chosen button of a group may have it.
 namespace tarvik {
 
 // The chosen button of the group of option buttons to which `control` of the form belongs. `control` itself if it is

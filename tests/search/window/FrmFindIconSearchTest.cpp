@@ -128,8 +128,8 @@ TEST_F(FrmFindIconSearchTest, PassesTheFocusOnFromAScrollBarThatItDisables) {
   EXPECT_TRUE(IsWindowEnabled(GetFocus()));
 }
 
-// Windows counts the focus on an option button as a click on it. So each search, and each return to the window, once
-// changed back to the view whose button the user had clicked last.
+// Windows counts the focus on an option button as a click on it. So a search once changed back to the view whose button
+// the user had clicked before.
 TEST_F(FrmFindIconSearchTest, MovesTheFocusToTheButtonOfTheViewThatIsChosenInTheMenu) {
   Open();
   for (const int list : {1, 0, 1}) {
